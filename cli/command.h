@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace calvix::host
+{
+
+class Host;
+
+/// The arguments of one command, declared next to it and bound to its variables. A name that begins with "--" (a short
+/// form may stand before it: "-o,--output") is an option, any other is a positional argument in the order of
+/// declaration, required unless it is written in brackets: "[CODE]". What is not given keeps its variable's value. The
+/// variables must live until the command has run, so commands hold them through a std::shared_ptr.
+class Arguments
+{
+public:
+    virtual ~Arguments() = default;
+
+    virtual Arguments& Flag(const char* name, bool& value, const char* help) = 0;
+    virtual Arguments& Text(const char* name, std::string& value, const char* help) = 0;
+    /// May be given several times.
+    virtual Arguments& Texts(const char* name, std::vector<std::string>& values, const char* help) = 0;
+    virtual Arguments& Number(const char* name, unsigned& value, const char* help) = 0;
+    virtual Arguments&
+    OneOf(const char* name, std::string& value, const std::vector<std::string>& choices, const char* help) = 0;
+    /// The option declared last must be given.
+    virtual Arguments& Required() = 0;
+};
+
+/// What a command does. Success is to return; whatever else ends it throws a Failure (failure.h).
+using RunCommand = std::function<void(Host&)>;
+
+/// The commands of the program. Each family has a function that adds its own:
+///
+///     void AddScanCommands(CommandSet& commands)
+///     {
+///         const auto options = std::make_shared<ScanOptions>();
+///         commands.Add("scan", "Ask for a scan and wait until it is done",
+///                      [options](Host& host) { Scan(host, *options); })
+///             .Number("--timeout", options->seconds, "Seconds to wait");
+///     }
+class CommandSet
+{
+public:
+    virtual ~CommandSet() = default;
+
+    /// `path` is one word, or two for a command of a family ("profiles list").
+    virtual Arguments& Add(const char* path, const char* summary, RunCommand run) = 0;
+};
+
+void AddAdapterCommands(CommandSet& commands);
+void AddScanCommands(CommandSet& commands);
+void AddProfileCommands(CommandSet& commands);
+void AddConnectionCommands(CommandSet& commands);
+void AddMatchCommands(CommandSet& commands);
+void AddBestCommand(CommandSet& commands);
+void AddExplainCommand(CommandSet& commands);
+void AddImportCommand(CommandSet& commands);
+
+} // namespace calvix::host

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace calvix::host
+{
+
+/// What the program ends with.
+enum class ExitCode
+{
+    success = 0,
+    failed = 1,     ///< the operation failed
+    badInput = 2,   ///< bad usage, or a file that cannot be used
+    unavailable = 3 ///< no adapter, or the WLAN service cannot be reached
+};
+
+/// Why a command ended without success, in words and in numbers.
+struct FailureReport
+{
+    ExitCode exitCode = ExitCode::failed;
+    std::string message; ///< what failed
+    std::string advice;  ///< what to do about it; may be empty
+    std::string method;  ///< the library's method, empty: none is to blame
+    std::optional<int> code;
+    std::string operation; ///< the operation of the platform that was refused last; may be empty
+    std::uint32_t platformError = 0;
+};
+
+/// Ends a command.
+class Failure : public std::runtime_error
+{
+public:
+    explicit Failure(FailureReport report) : std::runtime_error(report.message), m_report(std::move(report)) {}
+
+    const FailureReport& report() const { return m_report; }
+
+private:
+    FailureReport m_report;
+};
+
+/// A file or an argument that cannot be used: `throw BadInput("networks.txt:12: no signal line", "...")`.
+inline Failure BadInput(std::string message, std::string advice = {})
+{
+    FailureReport report;
+    report.exitCode = ExitCode::badInput;
+    report.message = std::move(message);
+    report.advice = std::move(advice);
+    return Failure(std::move(report));
+}
+
+} // namespace calvix::host

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "failure.h"
+#include "terminal.h"
+
+#include <calvix/wireless_manage.h>
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+namespace calvix::host
+{
+
+class ServiceView;
+
+/// The options that every command has.
+struct CommonOptions
+{
+    bool json = false;
+    bool trace = false;
+    bool noColor = false;
+    std::string adapter; ///< GUID, number or description; empty: the first adapter
+    std::string scenario;
+    std::string save;
+};
+
+/// What a command runs in: the options, the output, and on demand the library with a platform behind it, which is a
+/// simulated computer where a scenario was named or where there is no other.
+class Host
+{
+public:
+    Host(CommonOptions options, std::ostream& out, std::ostream& err, TerminalTraits terminal);
+    ~Host();
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    const CommonOptions& options() const { return m_options; }
+    bool json() const { return m_options.json; }
+    /// Results go to `out`, everything else to `err`.
+    std::ostream& out() { return m_out; }
+    std::ostream& err() { return m_err; }
+    const TerminalTraits& terminal() const { return m_terminal; }
+
+    /// The library. The first call brings up the platform; later calls are cheap.
+    CWirelessManage& library();
+    /// The WLAN service as this program itself looks at it, for what the library has no method for.
+    ServiceView& service();
+    /// The adapter that was asked for. Fails when there is none like it.
+    const WLAN_INTERFACE_INFO& adapter();
+    const GUID* adapterGuid() { return &adapter().InterfaceGuid; }
+
+    /// Lets time pass, simulated time where the computer is.
+    void Wait(unsigned milliseconds);
+
+    /// Fails in words when `code`, the result of `method`, is negative; returns it otherwise. Written around a call:
+    /// `host.Check("GetMatchAPList", host.library().GetMatchAPList(host.adapterGuid(), &list))`.
+    int Check(const char* method, long code);
+    /// The failure of a method, with what the platform refused on the way.
+    Failure MethodFailure(const char* method, long code);
+
+    /// Writes the simulated computer as it stands to the file that was asked for, if one was.
+    void Save();
+
+private:
+    struct World;
+
+    World& world();
+    void FindAdapter();
+
+    CommonOptions m_options;
+    std::ostream& m_out;
+    std::ostream& m_err;
+    TerminalTraits m_terminal;
+    std::unique_ptr<World> m_world;
+    std::unique_ptr<WLAN_INTERFACE_INFO> m_adapter;
+};
+
+} // namespace calvix::host

@@ -1,0 +1,172 @@
+#include "result_codes.h"
+
+#include <iterator>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+using enum Cause;
+using enum ResultKind;
+
+// Frame and adapters
+
+constexpr CodeRow kGetWlanStatus[] = {
+    {-1, noSuchInterface}, {-2, clientNotOpened}, {-3, enumerationFailed}, {-4, noAdapter}};
+constexpr CodeRow kGetWlanInterfaceGuid[] = {
+    {-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter}, {-4, noSuchDescription}};
+constexpr CodeRow kGetWiFiAdapterCount[] = {{-2, clientNotOpened}, {-3, enumerationFailed}};
+constexpr CodeRow kGetWlanInterface[] = {
+    {-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter}, {-13, nullOutput}};
+
+// Scans, lists and counts
+
+constexpr CodeRow kRescan[] = {
+    {-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter}, {-4, scanRefused}};
+constexpr CodeRow kGetAvailableNetworkCount[] = {{-2, clientNotOpened}, {-5, networkListFailed}};
+constexpr CodeRow kGetNetworkBssCount[] = {
+    {-2, clientNotOpened}, {-3, enumerationFailed}, {-4, noAdapter}, {-5, bssListFailed}};
+constexpr CodeRow kGetConnectableNetworkCount[] = {{-2, clientNotOpened},
+                                                   {-5, profileListFailed},
+                                                   {-6, noProfile},
+                                                   {-7, networkListFailed},
+                                                   {-8, networkListEmpty}};
+constexpr CodeRow kGetAP[] = {{-1, clientNotOpened}, {-3, networkListFailed}, {-4, ssidNotVisible}};
+constexpr CodeRow kGetNotConnectableReason[] = {
+    {-1, clientNotOpened}, {-4, networkListFailed}, {-5, networkListEmpty}, {-6, networkNotListed}};
+constexpr CodeRow kGetCurrentBSS[] = {{-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter},
+                                      {-4, notConnected},    {-5, bssListFailed},     {-6, noBssInView}};
+
+// Signal metrics
+
+constexpr CodeRow kGetRssi[] = {{-1, clientNotOpened}, {-4, rssiRefused}};
+constexpr CodeRow kGetCurrentRSSI[] = {{-1, clientNotOpened},
+                                       {-4, notConnected},
+                                       {-5, bssListFailed},
+                                       {-6, noBssInView},
+                                       {-7, accessPointNotListed}};
+constexpr CodeRow kGetWiFiRSSI[] = {{-1, clientNotOpened}};
+constexpr CodeRow kGetSignalQuality[] = {{-1, clientNotOpened}, {-4, notConnected}};
+
+// Profiles
+
+constexpr CodeRow kGetWlanProfile[] = {{-1, profileNotFound}};
+constexpr CodeRow kDeleteProfile[] = {{-1, clientNotOpened}, {-4, profileNotDeleted}};
+constexpr CodeRow kProfilePosition[] = {{-1, clientNotOpened}};
+constexpr CodeRow kGetProfileCount[] = {{-1, clientNotOpened}, {-4, profileListFailed}};
+constexpr CodeRow kGetProfile[] = {{-1, clientNotOpened}, {-4, profileNotReadable}};
+constexpr CodeRow kSetProfile[] = {{-1, clientNotOpened}, {-4, profileNotStored}};
+constexpr CodeRow kIsAutoConnMode2[] = {
+    {-1, clientNotOpened}, {-4, profileNotReadable}, {-5, noConnectionMode}, {-6, malformedConnectionMode}};
+
+// Current connection
+
+constexpr CodeRow kCurrentConnection[] = {
+    {-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter}, {-4, notConnected}};
+constexpr CodeRow kGetCurrentWiFi[] = {{-1, clientNotOpened}, {-4, bssListFailed}, {-14, nullInput}};
+constexpr CodeRow kGetWlanStatistics[] = {{-1, clientNotOpened}, {-4, statisticsRefused}, {-13, nullOutput}};
+
+// Access points of stored networks, best access point
+
+constexpr CodeRow kGetMatchAP[] = {{-2, clientNotOpened},   {-5, profileListFailed}, {-6, noProfile},
+                                   {-7, networkListFailed}, {-8, networkListEmpty},  {-13, nullOutput}};
+constexpr CodeRow kGetConnectableAPList[] = {{-2, clientNotOpened},   {-3, enumerationFailed}, {-4, noAdapter},
+                                             {-5, profileListFailed}, {-6, noProfile},         {-7, networkListFailed},
+                                             {-8, networkListEmpty},  {-13, nullOutput},       {-14, nullInput}};
+constexpr CodeRow kGetMatchBSSID[] = {{-1, diagnosticRun},      {-2, clientNotOpened},     {-5, profileListFailed},
+                                      {-6, noProfile},          {-7, networkListFailed},   {-8, networkListEmpty},
+                                      {-9, firstBssListFailed}, {-10, firstBssListEmpty},  {-11, laterBssListFailed},
+                                      {-12, laterBssListEmpty}};
+constexpr CodeRow kConnectBestAP[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
+                                      {-6, networkListFailed}, {-7, networkListEmpty},  {-9, noCandidate},
+                                      {-10, bssListFailed},    {-11, bssListEmpty},     {-12, everyRequestRefused},
+                                      {-13, nullInput},        {-14, nullInput}};
+
+constexpr MethodResults kMethods[] = {
+    {"Get", value, "the library's one object; null only when there is no memory for it", {}},
+    {"Delete", nothing, "the client handle was closed and the object destroyed", {}},
+    {"operator=", value, "this object, with the other one's state", {}},
+    {"__autoclassinit2", nothing, "the beginning of the object was zeroed", {}},
+    {"CheckAutoConfig", nothing, "the WLAN service was asked to start if it did not run; nothing is reported", {}},
+    {"GetWlanStatus", value, "the adapter's state: 1 connected, 4 disconnected; GetWlanInterfaceState has the words",
+     kGetWlanStatus},
+    {"GetWlanIsLink", yesOrNo, "whether the adapter is connected", {}},
+    {"GetWlanInterfaceState", text, "the words of an adapter's state", {}},
+    {"GetWlanInterfaceGuid", status, "the adapter was found and its GUID written", kGetWlanInterfaceGuid},
+    {"GUID2String", text, "the GUID's text", {}},
+    {"GetWlanInterfaceDesc", text, "the adapter's description; empty when none was found", {}},
+    {"GetWiFiAdapterCount", count, "the number of adapters", kGetWiFiAdapterCount},
+    {"GetWlanInterface", status, "the adapters were listed", kGetWlanInterface},
+
+    {"UnicodeToAnsi", yesOrNo, "whether the text was converted", {}},
+    {"WideCharToChar", count, "the number of bytes made, terminator included; 0 when the text cannot be converted",
+     {}},
+    {"GetSSID", yesOrNo, "whether the SSID was converted to text", {}},
+    {"StringToHex", text, "the bytes", {}},
+    {"HexToString", text, "the hexadecimal text", {}},
+    {"StringToHexString", text, "the hexadecimal text", {}},
+    {"FormMAC", nothing, "the address was written as text", {}},
+    {"GetBSSID", nothing, "the address was written as text", {}},
+
+    {"Rescan", status, "the scan was asked for; it is not done yet", kRescan},
+    {"GetAvailableNetworkCount", count, "the number of visible networks, one for each matching profile",
+     kGetAvailableNetworkCount},
+    {"GetNetworkBssCount", count, "the number of access points in view of the first adapter", kGetNetworkBssCount},
+    {"GetConnectableNetworkCount", count, "the number of pairs of a stored profile and a visible network",
+     kGetConnectableNetworkCount},
+    {"GetAP", status, "a visible network has the SSID", kGetAP},
+    {"GetNotConnectableReason", status, "the network was found and its reason code written",
+     kGetNotConnectableReason},
+    {"IsWiFiDisappear", yesOrNo, "whether the connected network has left the air", {}},
+    {"GetCurrentBSS", status, "the connected network has an access point in view", kGetCurrentBSS},
+
+    {"GetChannel", value, "a channel number; in the 2.4 GHz band one below the customary number, 14 for none", {}},
+    {"GetSignalStrength", value, "the signal strength from 0 to 100", {}},
+    {"GetRssi", status, "the signal strength of the link was written", kGetRssi},
+    {"GetCurrentRSSI", status, "the signal strength of the connected access point was written", kGetCurrentRSSI},
+    {"GetWiFiRSSI", value, "an estimate in dBm from -100 to -50; -100 also when no such network is in view",
+     kGetWiFiRSSI},
+    {"GetSignalQuality", count, "the signal quality from 0 to 100", kGetSignalQuality},
+
+    {"GetWlanProfile", platformError, "a profile of this name is stored", kGetWlanProfile},
+    {"DeleteProfile", status, "the profile was deleted", kDeleteProfile},
+    {"ResetProfilePosition", platformError, "the profile is in the second place, or there was nothing to move",
+     kProfilePosition},
+    {"SetProfilePosition", platformError, "the profile is in the last place, or there was nothing to move",
+     kProfilePosition},
+    {"GetProfileCount", count, "the number of stored profiles", kGetProfileCount},
+    {"GetProfile", status, "the profile was read", kGetProfile},
+    {"SetProfile", status, "the profile was stored", kSetProfile},
+    {"IsThisSSID", yesOrNo, "whether the profile is for the SSID", {}},
+    {"IsAutoConnMode", yesOrNo, "whether the profile connects automatically", {}},
+    {"IsAutoConnMode2", yesOrNo, "whether the profile connects automatically", kIsAutoConnMode2},
+
+    {"GetCurrentConnection", status, "the connection's attributes were written", kCurrentConnection},
+    {"GetCurrentSSID", status, "the connected network's SSID was written", kCurrentConnection},
+    {"GetCurrentLinkInfo", platformError, "state, SSID, address and BSS type of the link were written", {}},
+    {"GetCurrentWiFi", count, "the number of access points in view that belong to the network", kGetCurrentWiFi},
+    {"WiFiIsConnected", yesOrNo, "whether the adapter is connected", {}},
+    {"WiFiIsDisconnected", yesOrNo, "whether the adapter is disconnected; no while it connects", {}},
+    {"GetWlanStatistics", status, "the frame counters were written", kGetWlanStatistics},
+
+    {"GetMatchAPList", count, "the number of access points that belong to stored profiles", kGetMatchAP},
+    {"GetConnectableAPList", count, "the number of access points that belong to the profiles that count",
+     kGetConnectableAPList},
+    {"GetMatchAPCount", count, "the number of visible networks that have a profile and an access point in view",
+     kGetMatchAP},
+    {"GetMatchBSSID", status, "never given", kGetMatchBSSID},
+
+    {"ConnectBestAP", status, "a connection was asked for and the request accepted; it is not made yet",
+     kConnectBestAP},
+};
+
+} // namespace
+
+std::span<const MethodResults> AllMethodResults()
+{
+    return kMethods;
+}
+
+} // namespace calvix::host

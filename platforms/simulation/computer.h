@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "simulation/scenario.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace calvix::simulation
+{
+
+/// What the computer noticed that a correct program does not do, or keeps while it should not.
+struct Accounts
+{
+    std::size_t liveBlocks = 0;        ///< blocks of the WLAN service's allocator not yet released
+    std::size_t openClients = 0;       ///< WLAN client handles not yet closed
+    std::size_t openHandles = 0;       ///< other handles (service manager, tokens, processes) not yet closed
+    std::vector<std::string> defects;  ///< double frees, frees of foreign pointers, writes into freed blocks, use of
+                                       ///< closed handles: one line each
+};
+
+/// A small Windows machine in one process. One thread at a time.
+class Computer final : public platform::Platform
+{
+public:
+    explicit Computer(const Scenario& scenario);
+    ~Computer() override;
+    Computer(const Computer&) = delete;
+    Computer& operator=(const Computer&) = delete;
+
+    platform::WlanService& wlan() override;
+    platform::ServiceControl& services() override;
+    platform::Power& power() override;
+    platform::Security& security() override;
+    platform::Processes& processes() override;
+    platform::Internet& internet() override;
+    platform::Text& text() override;
+    platform::Clock& clock() override;
+    platform::DebuggerOutput& debugger() override;
+    platform::LastError& errors() override;
+
+    /// Lets simulated time pass: scans finish, connections are made. Nothing else moves it but Sleep.
+    void Advance(std::chrono::milliseconds duration);
+    /// Simulated time since the computer started.
+    std::chrono::milliseconds Now() const;
+
+    void SetServiceRunning(bool running);
+    void SetLocationConsent(bool given);
+    void SetRadio(std::size_t adapter, std::size_t phy, RadioSwitch software, RadioSwitch hardware);
+    /// Puts an adapter's connection in any state, as drivers report them in passing.
+    void SetInterfaceState(std::size_t adapter, WLAN_INTERFACE_STATE state);
+    /// The airspace. Changes are heard with the next scan, asked for or of the service itself (about every 60 s).
+    std::vector<AccessPoint>& air();
+
+    /// What went to the debugger so far, in order, one element a call.
+    const std::vector<std::string>& DebuggerLines() const;
+    void ClearDebuggerLines();
+
+    /// Checks every freed block for writes and reports what is still held.
+    Accounts Audit();
+
+    /// The computer as it stands now, as a scenario.
+    Scenario Snapshot() const;
+
+private:
+    struct Machine;
+    std::unique_ptr<Machine> m_machine;
+};
+
+} // namespace calvix::simulation

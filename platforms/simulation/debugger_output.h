@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/debugger_output.h"
+
+#include <string>
+#include <vector>
+
+namespace calvix::simulation
+{
+
+/// A debugger that keeps what it is told, one element a call.
+class SimulatedDebuggerOutput final : public platform::DebuggerOutput
+{
+public:
+    /// `lines` receives the texts; it outlives this object.
+    explicit SimulatedDebuggerOutput(std::vector<std::string>& lines) : m_lines(lines) {}
+
+    /// A null text says nothing and is not kept.
+    void OutputDebugStringA(const char* text) override
+    {
+        if (text != nullptr)
+            m_lines.emplace_back(text);
+    }
+
+private:
+    std::vector<std::string>& m_lines;
+};
+
+} // namespace calvix::simulation

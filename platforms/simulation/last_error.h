@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/last_error.h"
+
+namespace calvix::simulation
+{
+
+/// Answers with the cell that the computer's other facilities leave their errors in.
+class SimulatedLastError final : public platform::LastError
+{
+public:
+    /// `lastError` outlives this object.
+    explicit SimulatedLastError(const DWORD& lastError) : m_lastError(lastError) {}
+
+    DWORD GetLastError() override { return m_lastError; }
+
+private:
+    const DWORD& m_lastError;
+};
+
+} // namespace calvix::simulation

@@ -1,0 +1,122 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace calvix::simulation
+{
+
+/// The plain data that describes a simulated computer and what it hears. Texts are UTF-8. Numbers such as PHY and BSS
+/// types are the WLAN API's own.
+
+using MacAddress = std::array<std::uint8_t, 6>;
+using Bytes = std::vector<std::uint8_t>;
+
+enum class RadioSwitch
+{
+    on,
+    off
+};
+
+struct PhyDescription
+{
+    std::uint32_t type = 7; ///< DOT11_PHY_TYPE
+    RadioSwitch software = RadioSwitch::on;
+    RadioSwitch hardware = RadioSwitch::on;
+};
+
+struct AccessPoint
+{
+    Bytes ssid;          ///< at most 32 bytes, any value
+    bool hidden = false; ///< beacons carry no SSID
+    MacAddress bssid{};
+    std::uint32_t frequencyKhz = 2412000;
+    std::int32_t rssi = -60; ///< dBm, as every adapter hears it
+    std::uint32_t phyType = 7;
+    std::uint32_t bssType = 1;            ///< DOT11_BSS_TYPE: 1 infrastructure, 2 independent
+    std::string authentication = "WPA2PSK"; ///< as in a profile: open, shared, WPA, WPAPSK, WPA2, WPA2PSK, WPA3SAE, OWE ...
+    std::string encryption = "AES";       ///< as in a profile: none, WEP, TKIP, AES, GCMP256
+    std::uint16_t beaconPeriod = 100;     ///< in 1024 microseconds
+    Bytes informationElements;            ///< empty: made up from the other fields
+};
+
+struct StoredProfile
+{
+    std::string xml; ///< the whole profile document; the scenario file may give a short form instead
+};
+
+struct Connection
+{
+    std::string profile;              ///< name of a stored profile
+    std::optional<MacAddress> bssid;  ///< none: the strongest access point of the profile's network
+};
+
+struct Statistics
+{
+    std::uint64_t transmitted = 0; ///< unicast frames
+    std::uint64_t received = 0;
+};
+
+struct AdapterDescription
+{
+    std::string guid;        ///< "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}"
+    std::string description; ///< at most 255 characters
+    MacAddress address{};
+    std::vector<PhyDescription> phys{PhyDescription{}};
+    std::uint32_t scanMilliseconds = 2500;    ///< how long a scan takes
+    std::uint32_t connectMilliseconds = 1200; ///< from an accepted request to the connection
+    std::vector<StoredProfile> profiles;      ///< in preference order
+    std::optional<Connection> connection;
+    Statistics statistics;
+};
+
+struct Scenario
+{
+    std::string description;
+    std::uint32_t codePage = 1252; ///< the active narrow code page: 1252, 932, 936 or 65001
+    bool serviceRunning = true;
+    bool locationConsent = true; ///< without it the service refuses whatever would tell where the computer is
+    std::vector<AdapterDescription> adapters;
+    std::vector<AccessPoint> accessPoints;
+};
+
+/// A scenario that cannot be used; the message names the file and the place in it.
+class ScenarioError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads a scenario, validated against the published schema. `source` is what messages call the text.
+Scenario ParseScenario(const std::string& json, const std::string& source);
+Scenario LoadScenario(const std::string& path);
+
+/// The scenario as a JSON text that ParseScenario reads back.
+std::string WriteScenario(const Scenario& scenario);
+
+/// The JSON Schema of scenario files.
+const char* ScenarioSchema();
+
+/// The scenario that is used where none was named: the gallery's home.
+Scenario BuiltInScenario();
+
+/// A profile document as the service stores it, for an SSID of valid UTF-8 (otherwise pass the bytes as hexadecimal
+/// only). `mode` is "auto" or "manual".
+struct ProfileSettings
+{
+    std::string name;
+    Bytes ssid;
+    std::string mode = "auto";
+    std::string authentication = "WPA2PSK";
+    std::string encryption = "AES";
+    std::string key;            ///< passphrase, empty: none
+    bool hidden = false;        ///< <nonBroadcast>true</nonBroadcast>
+    std::uint32_t bssType = 1;  ///< 1 ESS, 2 IBSS
+};
+std::string MakeProfileXml(const ProfileSettings& settings);
+
+} // namespace calvix::simulation

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/service_control.h"
+#include "simulation/handles.h"
+
+namespace calvix::simulation
+{
+
+/// A service manager that knows one service, WlanSvc. Everybody has every right to it.
+class SimulatedServiceControl final : public platform::ServiceControl
+{
+public:
+    /// `lastError` receives the reason of a failure, `handles` the handles that are given out, `serviceRunning` says
+    /// whether the service runs and is set when it is started; all outlive this object.
+    SimulatedServiceControl(DWORD& lastError, Handles& handles, bool& serviceRunning)
+        : m_lastError(lastError), m_handles(handles), m_serviceRunning(serviceRunning)
+    {
+    }
+
+    SC_HANDLE OpenSCManagerA(const char* machine, const char* database, DWORD access) override;
+    SC_HANDLE OpenServiceA(SC_HANDLE manager, const char* name, DWORD access) override;
+    BOOL QueryServiceStatus(SC_HANDLE service, SERVICE_STATUS* status) override;
+    BOOL StartServiceA(SC_HANDLE service, DWORD argumentCount, const char** arguments) override;
+    BOOL CloseServiceHandle(SC_HANDLE handle) override;
+
+private:
+    BOOL Fail(DWORD error);
+
+    DWORD& m_lastError;
+    Handles& m_handles;
+    bool& m_serviceRunning;
+};
+
+} // namespace calvix::simulation

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstdint>
+
+namespace calvix::simulation
+{
+
+/// The platform's text conversions, for a computer whose active code page can be chosen.
+///
+/// Composing and decomposing (MB_COMPOSITE, WC_COMPOSITECHECK and what goes with it) is not furnished: those flags are
+/// refused as invalid ones are.
+class SimulatedText final : public platform::Text
+{
+public:
+    /// `lastError` receives the reason of a failure, `codePage` is the active code page; both outlive this object.
+    SimulatedText(DWORD& lastError, const std::uint32_t& codePage)
+        : m_lastError(lastError), m_codePage(codePage)
+    {
+    }
+
+    int MultiByteToWideChar(UINT codePage,
+                            DWORD flags,
+                            const char* source,
+                            int sourceLength,
+                            wchar_t* destination,
+                            int destinationLength) override;
+    int WideCharToMultiByte(UINT codePage,
+                            DWORD flags,
+                            const wchar_t* source,
+                            int sourceLength,
+                            char* destination,
+                            int destinationLength,
+                            const char* defaultCharacter,
+                            BOOL* usedDefaultCharacter) override;
+    int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity) override;
+
+private:
+    int Fail(DWORD error);
+    std::uint32_t Resolve(UINT codePage) const;
+
+    DWORD& m_lastError;
+    const std::uint32_t& m_codePage;
+};
+
+} // namespace calvix::simulation

@@ -1,0 +1,24 @@
+#include "windows/optional_library.h"
+
+namespace calvix::windows
+{
+
+OptionalLibrary::OptionalLibrary(const wchar_t* fileName) : module_(::LoadLibraryW(fileName))
+{
+    if (module_ == nullptr)
+        error_ = ::GetLastError();
+}
+
+FARPROC OptionalLibrary::Find(const char* exportName, DWORD& error) const
+{
+    if (module_ == nullptr)
+    {
+        error = error_;
+        return nullptr;
+    }
+    const FARPROC address = ::GetProcAddress(module_, exportName);
+    error = address == nullptr ? ::GetLastError() : ERROR_SUCCESS;
+    return address;
+}
+
+} // namespace calvix::windows

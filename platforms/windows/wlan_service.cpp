@@ -1,0 +1,236 @@
+#include "windows/wlan_service.h"
+
+#include "windows/optional_library.h"
+
+namespace calvix::windows
+{
+
+namespace
+{
+
+/// What wlanapi.dll exports, absent on a Windows Server without the wireless feature.
+struct WlanExports
+{
+    OptionalLibrary library{L"wlanapi.dll"};
+    OptionalExport<decltype(&::WlanOpenHandle)> WlanOpenHandle{library, "WlanOpenHandle"};
+    OptionalExport<decltype(&::WlanCloseHandle)> WlanCloseHandle{library, "WlanCloseHandle"};
+    OptionalExport<decltype(&::WlanEnumInterfaces)> WlanEnumInterfaces{library, "WlanEnumInterfaces"};
+    OptionalExport<decltype(&::WlanScan)> WlanScan{library, "WlanScan"};
+    OptionalExport<decltype(&::WlanGetAvailableNetworkList)> WlanGetAvailableNetworkList{
+        library, "WlanGetAvailableNetworkList"};
+    OptionalExport<decltype(&::WlanGetNetworkBssList)> WlanGetNetworkBssList{library,
+                                                                             "WlanGetNetworkBssList"};
+    OptionalExport<decltype(&::WlanQueryInterface)> WlanQueryInterface{library, "WlanQueryInterface"};
+    OptionalExport<decltype(&::WlanSetInterface)> WlanSetInterface{library, "WlanSetInterface"};
+    OptionalExport<decltype(&::WlanQueryAutoConfigParameter)> WlanQueryAutoConfigParameter{
+        library, "WlanQueryAutoConfigParameter"};
+    OptionalExport<decltype(&::WlanGetProfileList)> WlanGetProfileList{library, "WlanGetProfileList"};
+    OptionalExport<decltype(&::WlanGetProfile)> WlanGetProfile{library, "WlanGetProfile"};
+    OptionalExport<decltype(&::WlanSetProfile)> WlanSetProfile{library, "WlanSetProfile"};
+    OptionalExport<decltype(&::WlanDeleteProfile)> WlanDeleteProfile{library, "WlanDeleteProfile"};
+    OptionalExport<decltype(&::WlanSetProfilePosition)> WlanSetProfilePosition{library,
+                                                                               "WlanSetProfilePosition"};
+    OptionalExport<decltype(&::WlanConnect)> WlanConnect{library, "WlanConnect"};
+    OptionalExport<decltype(&::WlanDisconnect)> WlanDisconnect{library, "WlanDisconnect"};
+    OptionalExport<decltype(&::WlanRegisterNotification)> WlanRegisterNotification{
+        library, "WlanRegisterNotification"};
+    OptionalExport<decltype(&::WlanIhvControl)> WlanIhvControl{library, "WlanIhvControl"};
+    OptionalExport<decltype(&::WlanSetSecuritySettings)> WlanSetSecuritySettings{library,
+                                                                                 "WlanSetSecuritySettings"};
+    OptionalExport<decltype(&::WlanReasonCodeToString)> WlanReasonCodeToString{library,
+                                                                               "WlanReasonCodeToString"};
+    OptionalExport<decltype(&::WlanFreeMemory)> WlanFreeMemory{library, "WlanFreeMemory"};
+};
+
+const WlanExports& Exports()
+{
+    static const WlanExports exports;
+    return exports;
+}
+
+/// For inputs whose const the SDK's prototypes lose: "const PDOT11_SSID" is a constant pointer, not a pointer to
+/// something constant. The service only reads them.
+template <typename Record>
+Record* Input(const Record* record)
+{
+    return const_cast<Record*>(record);
+}
+
+} // namespace
+
+DWORD WlanService::WlanOpenHandle(DWORD clientVersion,
+                                  PVOID reserved,
+                                  DWORD* negotiatedVersion,
+                                  HANDLE* client)
+{
+    return Exports().WlanOpenHandle(clientVersion, reserved, negotiatedVersion, client);
+}
+
+DWORD WlanService::WlanCloseHandle(HANDLE client, PVOID reserved)
+{
+    return Exports().WlanCloseHandle(client, reserved);
+}
+
+DWORD WlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list)
+{
+    return Exports().WlanEnumInterfaces(client, reserved, list);
+}
+
+DWORD WlanService::WlanScan(HANDLE client,
+                            const GUID* interfaceGuid,
+                            const DOT11_SSID* ssid,
+                            const WLAN_RAW_DATA* ieData,
+                            PVOID reserved)
+{
+    return Exports().WlanScan(client, interfaceGuid, Input(ssid), Input(ieData), reserved);
+}
+
+DWORD WlanService::WlanGetAvailableNetworkList(
+    HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list)
+{
+    return Exports().WlanGetAvailableNetworkList(client, interfaceGuid, flags, reserved, list);
+}
+
+DWORD WlanService::WlanGetNetworkBssList(HANDLE client,
+                                         const GUID* interfaceGuid,
+                                         const DOT11_SSID* ssid,
+                                         DOT11_BSS_TYPE bssType,
+                                         BOOL securityEnabled,
+                                         PVOID reserved,
+                                         WLAN_BSS_LIST** list)
+{
+    return Exports().WlanGetNetworkBssList(client, interfaceGuid, Input(ssid), bssType, securityEnabled,
+                                           reserved, list);
+}
+
+DWORD WlanService::WlanQueryInterface(HANDLE client,
+                                      const GUID* interfaceGuid,
+                                      WLAN_INTF_OPCODE opcode,
+                                      PVOID reserved,
+                                      DWORD* dataSize,
+                                      PVOID* data,
+                                      WLAN_OPCODE_VALUE_TYPE* valueType)
+{
+    return Exports().WlanQueryInterface(client, interfaceGuid, opcode, reserved, dataSize, data, valueType);
+}
+
+DWORD WlanService::WlanSetInterface(HANDLE client,
+                                    const GUID* interfaceGuid,
+                                    WLAN_INTF_OPCODE opcode,
+                                    DWORD dataSize,
+                                    const void* data,
+                                    PVOID reserved)
+{
+    return Exports().WlanSetInterface(client, interfaceGuid, opcode, dataSize, Input(data), reserved);
+}
+
+DWORD WlanService::WlanQueryAutoConfigParameter(HANDLE client,
+                                                WLAN_AUTOCONF_OPCODE opcode,
+                                                PVOID reserved,
+                                                DWORD* dataSize,
+                                                PVOID* data,
+                                                WLAN_OPCODE_VALUE_TYPE* valueType)
+{
+    return Exports().WlanQueryAutoConfigParameter(client, opcode, reserved, dataSize, data, valueType);
+}
+
+DWORD WlanService::WlanGetProfileList(HANDLE client,
+                                      const GUID* interfaceGuid,
+                                      PVOID reserved,
+                                      WLAN_PROFILE_INFO_LIST** list)
+{
+    return Exports().WlanGetProfileList(client, interfaceGuid, reserved, list);
+}
+
+DWORD WlanService::WlanGetProfile(HANDLE client,
+                                  const GUID* interfaceGuid,
+                                  const wchar_t* name,
+                                  PVOID reserved,
+                                  wchar_t** xml,
+                                  DWORD* flags,
+                                  DWORD* grantedAccess)
+{
+    return Exports().WlanGetProfile(client, interfaceGuid, name, reserved, xml, flags, grantedAccess);
+}
+
+DWORD WlanService::WlanSetProfile(HANDLE client,
+                                  const GUID* interfaceGuid,
+                                  DWORD flags,
+                                  const wchar_t* xml,
+                                  const wchar_t* allUserProfileSecurity,
+                                  BOOL overwrite,
+                                  PVOID reserved,
+                                  DWORD* reasonCode)
+{
+    return Exports().WlanSetProfile(client, interfaceGuid, flags, xml, allUserProfileSecurity, overwrite,
+                                    reserved, reasonCode);
+}
+
+DWORD WlanService::WlanDeleteProfile(HANDLE client,
+                                     const GUID* interfaceGuid,
+                                     const wchar_t* name,
+                                     PVOID reserved)
+{
+    return Exports().WlanDeleteProfile(client, interfaceGuid, name, reserved);
+}
+
+DWORD WlanService::WlanSetProfilePosition(
+    HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD position, PVOID reserved)
+{
+    return Exports().WlanSetProfilePosition(client, interfaceGuid, name, position, reserved);
+}
+
+DWORD WlanService::WlanConnect(HANDLE client,
+                               const GUID* interfaceGuid,
+                               const WLAN_CONNECTION_PARAMETERS* parameters,
+                               PVOID reserved)
+{
+    return Exports().WlanConnect(client, interfaceGuid, Input(parameters), reserved);
+}
+
+DWORD WlanService::WlanDisconnect(HANDLE client, const GUID* interfaceGuid, PVOID reserved)
+{
+    return Exports().WlanDisconnect(client, interfaceGuid, reserved);
+}
+
+DWORD WlanService::WlanRegisterNotification(HANDLE client,
+                                            DWORD source,
+                                            BOOL ignoreDuplicate,
+                                            WLAN_NOTIFICATION_CALLBACK callback,
+                                            PVOID context,
+                                            PVOID reserved,
+                                            DWORD* previousSource)
+{
+    return Exports().WlanRegisterNotification(client, source, ignoreDuplicate, callback, context, reserved,
+                                              previousSource);
+}
+
+DWORD WlanService::WlanIhvControl(HANDLE client,
+                                  const GUID* interfaceGuid,
+                                  WLAN_IHV_CONTROL_TYPE type,
+                                  DWORD inputSize,
+                                  PVOID input,
+                                  DWORD outputSize,
+                                  PVOID output,
+                                  DWORD* bytesReturned)
+{
+    return Exports().WlanIhvControl(client, interfaceGuid, type, inputSize, input, outputSize, output,
+                                    bytesReturned);
+}
+
+DWORD WlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl)
+{
+    return Exports().WlanSetSecuritySettings(client, object, sddl);
+}
+
+DWORD WlanService::WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, wchar_t* buffer, PVOID reserved)
+{
+    return Exports().WlanReasonCodeToString(reasonCode, bufferSize, buffer, reserved);
+}
+
+void WlanService::WlanFreeMemory(PVOID memory)
+{
+    Exports().WlanFreeMemory(memory);
+}
+
+} // namespace calvix::windows

@@ -1,0 +1,131 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/profile_network_match.h"
+#include "core/service_steps.h"
+
+using namespace calvix;
+
+namespace
+{
+
+constexpr ProfileAndNetworkCodes kCodes{
+    .notOpened = -2, .profilesFailed = -5, .noProfile = -6, .networksFailed = -7, .noNetwork = -8};
+
+/// Walks every pair of a stored profile and a network that carries its name, in profile order, then network order. For
+/// the pairs that `counts(profile)` lets through, hands the network's BSS entries to `collect(profile, entries)`, which
+/// returns how much they add to the result. A network whose BSS query fails is passed over. The sum, or a code.
+template <typename Counts, typename Collect>
+int CollectMatches(HANDLE& client, const GUID* interfaceGuid, Trace& trace, Counts counts, Collect collect)
+{
+    ProfileList profiles;
+    NetworkList networks;
+    if (const int code = ListProfilesAndNetworks(client, interfaceGuid, profiles, networks, trace, kCodes))
+        return code;
+
+    const NetworksByProfile networksByProfile(*networks);
+    int result = 0;
+    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    {
+        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        {
+            BssList entries;
+            if (counts(profile) && ListNetworkBss(client, interfaceGuid, *network, entries, trace) == 0)
+                result += collect(profile, *entries);
+        }
+    }
+    return result;
+}
+
+auto AppendEntriesTo(std::vector<WLAN_BSS_ENTRY>& list)
+{
+    return [&list](const WLAN_PROFILE_INFO&, const WLAN_BSS_LIST& entries)
+    {
+        const auto items = Items(entries);
+        list.insert(list.end(), items.begin(), items.end());
+        return static_cast<int>(items.size());
+    };
+}
+
+auto AppendNameTo(std::vector<std::wstring>& names, Trace& trace)
+{
+    return [&names, &trace](const WLAN_PROFILE_INFO& profile, const WLAN_BSS_LIST& entries)
+    {
+        if (entries.dwNumberOfItems == 0)
+        {
+            trace.Line("No BSS: %d", -10);
+            return 0;
+        }
+        names.emplace_back(FixedText(profile.strProfileName));
+        return 1;
+    };
+}
+
+const auto everyProfile = [](const WLAN_PROFILE_INFO&) { return true; };
+
+} // namespace
+
+int CWirelessManage::GetMatchAPList(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pList)
+{
+    if (pList == nullptr)
+        return -13;
+    LocalTrace<128> trace;
+    pList->clear();
+    return CollectMatches(hClient, pInterfaceGuid, trace, everyProfile, AppendEntriesTo(*pList));
+}
+
+int CWirelessManage::GetConnectableAPList(const GUID* pInterfaceGuid, wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList)
+{
+    if (pList == nullptr)
+        return -13;
+    pList->clear();
+    if (name == nullptr)
+        return -14;
+    LocalTrace<128> trace;
+    const auto namedOrAutomatic = [=, this](const WLAN_PROFILE_INFO& profile) {
+        return FixedText(profile.strProfileName) == name ||
+               IsAutoConnMode2(pInterfaceGuid, profile.strProfileName) == 1;
+    };
+    return CollectMatches(hClient, pInterfaceGuid, trace, namedOrAutomatic, AppendEntriesTo(*pList));
+}
+
+int CWirelessManage::GetConnectableAPList(wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList)
+{
+    if (pList == nullptr)
+        return -13;
+    pList->clear();
+    if (name == nullptr)
+        return -14;
+    LocalTrace<128> trace;
+    InterfaceList interfaces;
+    if (const int code = ListInterfaces(hClient, interfaces, trace,
+                                        {.notOpened = -2, .enumerationFailed = -3, .none = -4, .noneText = nullptr}))
+    {
+        if (code == -4)
+            trace.Line("No valid WLAN adapter: %u", static_cast<unsigned>(code));
+        return code;
+    }
+    return GetConnectableAPList(&interfaces->InterfaceInfo[0].InterfaceGuid, name, pList);
+}
+
+int CWirelessManage::GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, int mode)
+{
+    return GetMatchAPCount(pInterfaceGuid, pNames, nullptr, mode);
+}
+
+int CWirelessManage::GetMatchAPCount(const GUID* pInterfaceGuid,
+                                     std::vector<std::wstring>* pNames,
+                                     const wchar_t* name,
+                                     int mode)
+{
+    if (pNames == nullptr)
+        return -13;
+    LocalTrace<128> trace;
+    pNames->clear();
+    const auto counts = [=, this](const WLAN_PROFILE_INFO& profile)
+    {
+        if (mode != 1 || (name != nullptr && FixedText(profile.strProfileName) == name))
+            return true;
+        return IsAutoConnMode2(pInterfaceGuid, profile.strProfileName) == 1;
+    };
+    return CollectMatches(hClient, pInterfaceGuid, trace, counts, AppendNameTo(*pNames, trace));
+}

@@ -1,0 +1,35 @@
+#include "autoconnect/ranked_connection.h"
+
+namespace calvix
+{
+
+int ConnectCandidates(HANDLE client,
+                      const GUID* interfaceGuid,
+                      const WLAN_AVAILABLE_NETWORK_LIST& networks,
+                      std::vector<Candidate>& candidates,
+                      Trace& trace)
+{
+    if (candidates.empty())
+        return -9;
+
+    // Deliberate: only the BSS entries of the last listed network, candidate or not, take part in the band bonus.
+    BssList entries;
+    if (ListNetworkBss(client, interfaceGuid, Items(networks).back(), entries, trace) != 0)
+        return -10;
+    if (entries->dwNumberOfItems == 0)
+        return -11;
+
+    AddBandBonus(candidates, *entries);
+    SortByScore(candidates);
+    // Deliberate: from the weakest upward. The service accepts a request without waiting for the connection, so the
+    // first accepted one stands.
+    for (const Candidate& candidate : candidates)
+    {
+        const WLAN_AVAILABLE_NETWORK& network = *candidate.network;
+        if (RequestConnection(client, interfaceGuid, network.strProfileName, network.dot11BssType, nullptr, trace) == 0)
+            return 0;
+    }
+    return -12;
+}
+
+} // namespace calvix

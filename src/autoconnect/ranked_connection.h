@@ -1,0 +1,47 @@
+#pragma once
+
+#include "autoconnect/candidate_ranking.h"
+#include "core/connect_request.h"
+#include "core/profile_network_match.h"
+#include "core/service_steps.h"
+
+namespace calvix
+{
+
+/// Ranks the candidates and asks for a connection to one after the other, from the lowest score upward, until a request
+/// is accepted: 0. Otherwise -9 no candidate, -10 BSS list failed, -11 BSS list empty, -12 every request refused.
+int ConnectCandidates(HANDLE client,
+                      const GUID* interfaceGuid,
+                      const WLAN_AVAILABLE_NETWORK_LIST& networks,
+                      std::vector<Candidate>& candidates,
+                      Trace& trace);
+
+/// The same from the start: opens the client handle (-1), lists profiles (-4, none -5) and networks (-6, none -7), and
+/// takes as candidates the networks of the profiles that `usesProfile(profile)` lets through, in profile order, then
+/// network order, as far as `accepts(network)` does.
+template <typename UsesProfile, typename Accepts>
+int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesProfile usesProfile, Accepts accepts)
+{
+    ProfileList profiles;
+    NetworkList networks;
+    if (const int code = ListProfilesAndNetworks(
+            client, interfaceGuid, profiles, networks, trace,
+            {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
+        return code;
+
+    const NetworksByProfile networksByProfile(*networks);
+    std::vector<Candidate> candidates;
+    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    {
+        if (!usesProfile(profile))
+            continue;
+        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        {
+            if (accepts(*network))
+                candidates.emplace_back(*network);
+        }
+    }
+    return ConnectCandidates(client, interfaceGuid, *networks, candidates, trace);
+}
+
+} // namespace calvix

@@ -1,0 +1,94 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/bounded_copy.h"
+#include "core/fixed_text.h"
+#include "core/interface_list.h"
+#include "core/service_steps.h"
+
+using namespace calvix;
+using platform::wlan;
+
+int CWirelessManage::GetWlanStatus(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    InterfaceList interfaces;
+    if (const int code =
+            ListInterfaces(hClient, interfaces, trace, {.notOpened = -2, .enumerationFailed = -3, .none = -4}))
+        return code;
+    const WLAN_INTERFACE_INFO* const found = LastInterface(*interfaces, pInterfaceGuid);
+    return found != nullptr ? static_cast<int>(found->isState) : -1;
+}
+
+bool CWirelessManage::GetWlanIsLink(const GUID* pInterfaceGuid)
+{
+    return GetWlanStatus(pInterfaceGuid) == wlan_interface_state_connected;
+}
+
+long CWirelessManage::GetWlanInterfaceGuid(const wchar_t* description, GUID& guid)
+{
+    SharedTrace trace;
+    InterfaceList interfaces;
+    if (const int code =
+            ListInterfaces(hClient, interfaces, trace, {.notOpened = -1, .enumerationFailed = -2, .none = -3}))
+        return code;
+    for (const WLAN_INTERFACE_INFO& info : Items(*interfaces))
+    {
+        if (description != nullptr && FixedText(info.strInterfaceDescription) == description)
+        {
+            guid = info.InterfaceGuid;
+            return 0;
+        }
+    }
+    return -4;
+}
+
+char* CWirelessManage::GetWlanInterfaceDesc(const GUID* pInterfaceGuid)
+{
+    auto& m_szInterfaceDesc = m_Text[1].szLong;
+    // Deliberate: the first description found is kept for good, and later calls get it whatever their GUID.
+    if (m_szInterfaceDesc[0] != '\0')
+        return m_szInterfaceDesc;
+
+    LocalTrace<512> trace;
+    InterfaceList interfaces;
+    if (ListInterfaces(hClient, interfaces, trace, {.notOpened = -1, .enumerationFailed = -1, .none = -1}) != 0)
+        return m_szInterfaceDesc;
+    for (const WLAN_INTERFACE_INFO& info : Items(*interfaces))
+    {
+        if (!SameInterface(info.InterfaceGuid, pInterfaceGuid))
+            continue;
+        // UnicodeToAnsi writes up to 1024 bytes, more than the member holds in a double-byte code page.
+        char description[1024] = {};
+        UnicodeToAnsi(info.strInterfaceDescription, description);
+        CopyTruncating(m_szInterfaceDesc, sizeof(m_szInterfaceDesc), description);
+        trace.Line("Wlan Interface Describe: %s", m_szInterfaceDesc);
+    }
+    return m_szInterfaceDesc;
+}
+
+int CWirelessManage::GetWiFiAdapterCount()
+{
+    LocalTrace<128> trace;
+    InterfaceList interfaces("WlanFreeMemory(pIfList)");
+    if (OpenClient(hClient, trace) != 0)
+        return -2;
+    if (trace.Failed(wlan().WlanEnumInterfaces(hClient, nullptr, interfaces.Receive()),
+                     "WlanEnumInterfaces failed with error: %u"))
+        return -3;
+    return static_cast<int>(interfaces->dwNumberOfItems);
+}
+
+long CWirelessManage::GetWlanInterface(std::vector<WLAN_INTERFACE_INFO>* pList)
+{
+    if (pList == nullptr)
+        return -13;
+    SharedTrace trace;
+    InterfaceList interfaces;
+    // Deliberate: a failure leaves the caller's vector as it was, also when there is no adapter.
+    if (const int code =
+            ListInterfaces(hClient, interfaces, trace, {.notOpened = -1, .enumerationFailed = -2, .none = -3}))
+        return code;
+    const auto items = Items(*interfaces);
+    pList->assign(items.begin(), items.end());
+    return 0;
+}

@@ -1,0 +1,22 @@
+#include <calvix/wireless_manage.h>
+
+#include "platform/platform.h"
+
+using namespace calvix::platform;
+
+void CWirelessManage::CheckAutoConfig()
+{
+    // Deliberate: no step is checked. A handle that could not be opened is passed on, and the service control manager
+    // refuses it.
+    const SC_HANDLE manager = services().OpenSCManagerA(nullptr, nullptr, SC_MANAGER_ALL_ACCESS);
+    const SC_HANDLE service = services().OpenServiceA(manager, "WlanSvc", SERVICE_ALL_ACCESS);
+    SERVICE_STATUS status{};
+    services().QueryServiceStatus(service, &status);
+    if (status.dwCurrentState != SERVICE_RUNNING)
+    {
+        services().StartServiceA(service, 0, nullptr);
+        errors().GetLastError();
+    }
+    services().CloseServiceHandle(manager);
+    services().CloseServiceHandle(service);
+}

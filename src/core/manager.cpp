@@ -1,0 +1,48 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/service_steps.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+using namespace calvix;
+
+HANDLE CWirelessManage::hClient = nullptr;
+CWirelessManage* CWirelessManage::m_pManage = nullptr;
+
+CWirelessManage::CWirelessManage()
+    : m_SavedConnAttr{}, m_SavedConnNotify{}, m_nSavedAutoConnMode(1), m_Text{}, m_bSpare(false),
+      m_pSpare(nullptr), m_SavedPowerPolicy{}, m_szAppPath{}
+{
+}
+
+CWirelessManage::~CWirelessManage() = default;
+
+CWirelessManage& CWirelessManage::operator=(const CWirelessManage& other) = default;
+
+void CWirelessManage::__autoclassinit2(unsigned long long byteCount)
+{
+    const auto size = (std::min)(byteCount, static_cast<unsigned long long>(sizeof(*this)));
+    std::memset(static_cast<void*>(this), 0, static_cast<std::size_t>(size));
+}
+
+CWirelessManage* CWirelessManage::Get()
+{
+    SharedTrace trace;
+    OpenClient(hClient, trace);
+    if (m_pManage == nullptr)
+        m_pManage = new (std::nothrow) CWirelessManage();
+    return m_pManage;
+}
+
+void CWirelessManage::Delete()
+{
+    SharedTrace trace;
+    // Deliberate: hClient keeps the closed handle's value, so that a later use reports the service's own error for it
+    // instead of silently opening another client.
+    if (hClient != nullptr)
+        trace.Failed(platform::wlan().WlanCloseHandle(hClient, nullptr), "WlanCloseHandle failed with error: %u");
+    delete m_pManage;
+    m_pManage = nullptr;
+}

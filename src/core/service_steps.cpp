@@ -1,0 +1,107 @@
+#include "core/service_steps.h"
+
+namespace calvix
+{
+
+using platform::wlan;
+
+namespace
+{
+
+constexpr DWORD kClientVersion = 2;
+constexpr DWORD kNoHiddenOrAdHocProfiles = 0;
+
+ErrorNumber Traced(Trace& trace, DWORD error, const char* format)
+{
+    trace.Failed(error, format);
+    return static_cast<ErrorNumber>(error);
+}
+
+} // namespace
+
+ErrorNumber OpenClient(HANDLE& client, Trace& trace)
+{
+    if (client != nullptr)
+        return 0;
+    DWORD negotiatedVersion = 0;
+    return Traced(trace, wlan().WlanOpenHandle(kClientVersion, nullptr, &negotiatedVersion, &client),
+                  "WlanOpenHandle failed with error: %u");
+}
+
+int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const InterfaceListCodes& codes)
+{
+    if (OpenClient(client, trace) != 0)
+        return codes.notOpened;
+    if (trace.Failed(wlan().WlanEnumInterfaces(client, nullptr, list.Receive()),
+                     "WlanEnumInterfaces failed with error: %u"))
+        return codes.enumerationFailed;
+    if (list->dwNumberOfItems == 0)
+    {
+        if (codes.noneText != nullptr)
+            trace.Message(codes.noneText);
+        return codes.none;
+    }
+    return 0;
+}
+
+ErrorNumber ListConnectionBss(
+    HANDLE client, const GUID* interfaceGuid, const WLAN_CONNECTION_ATTRIBUTES& connection, BssList& list, Trace& trace)
+{
+    const WLAN_ASSOCIATION_ATTRIBUTES& association = connection.wlanAssociationAttributes;
+    return Traced(trace,
+                  wlan().WlanGetNetworkBssList(client, interfaceGuid, &association.dot11Ssid, association.dot11BssType,
+                                               connection.wlanSecurityAttributes.bSecurityEnabled, nullptr,
+                                               list.Receive()),
+                  "WlanGetNetworkBssList failed with error: %u");
+}
+
+ErrorNumber ListNetworkBss(
+    HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, BssList& list, Trace& trace)
+{
+    return Traced(trace,
+                  wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.dot11Ssid, network.dot11BssType,
+                                               network.bSecurityEnabled, nullptr, list.Receive()),
+                  "WlanGetNetworkBssList failed with error: %u");
+}
+
+ErrorNumber ListAvailableNetworks(HANDLE client, const GUID* interfaceGuid, NetworkList& list, Trace& trace)
+{
+    return Traced(
+        trace,
+        wlan().WlanGetAvailableNetworkList(client, interfaceGuid, kNoHiddenOrAdHocProfiles, nullptr, list.Receive()),
+        "WlanGetAvailableNetworkList failed with error: %u");
+}
+
+ErrorNumber ListProfiles(HANDLE client, const GUID* interfaceGuid, ProfileList& list, Trace& trace)
+{
+    return Traced(trace, wlan().WlanGetProfileList(client, interfaceGuid, nullptr, list.Receive()),
+                  "WlanGetProfileList failed with error: %u");
+}
+
+int ListProfilesAndNetworks(HANDLE& client,
+                            const GUID* interfaceGuid,
+                            ProfileList& profiles,
+                            NetworkList& networks,
+                            Trace& trace,
+                            const ProfileAndNetworkCodes& codes)
+{
+    if (OpenClient(client, trace) != 0)
+        return codes.notOpened;
+    if (ListProfiles(client, interfaceGuid, profiles, trace) != 0)
+        return codes.profilesFailed;
+    if (profiles->dwNumberOfItems == 0)
+    {
+        trace.Line(codes.noProfileText, codes.noProfile);
+        return codes.noProfile;
+    }
+    if (ListAvailableNetworks(client, interfaceGuid, networks, trace) != 0)
+        return codes.networksFailed;
+    if (networks->dwNumberOfItems == 0)
+    {
+        trace.Line(codes.noNetworkText, codes.noNetwork);
+        return codes.noNetwork;
+    }
+    return 0;
+}
+
+} // namespace calvix

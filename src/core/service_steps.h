@@ -1,0 +1,99 @@
+#pragma once
+
+#include "core/trace.h"
+#include "core/wlan_memory.h"
+
+namespace calvix
+{
+
+/// Steps that most methods share. Each traces its own failure through the method's trace and returns the platform's
+/// error number, 0 for success, unless said otherwise.
+
+/// Opens the client handle when it is not open yet.
+ErrorNumber OpenClient(HANDLE& client, Trace& trace);
+
+/// A method's codes for the ways in which it can be left without an interface.
+struct InterfaceListCodes
+{
+    int notOpened;
+    int enumerationFailed;
+    int none;
+    const char* noneText = "No valid WLAN adapter";
+};
+
+/// Opens the client handle when needed and lists the interfaces; `list` holds at least one when this returns 0,
+/// otherwise it returns the method's code. A null `noneText` keeps the empty list out of the trace.
+int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const InterfaceListCodes& codes);
+
+/// Queries an interface for a record; `size` receives the bytes that the service returned.
+template <typename Record>
+ErrorNumber QueryInterface(HANDLE client,
+                           const GUID* interfaceGuid,
+                           WLAN_INTF_OPCODE opcode,
+                           WlanMemory<Record>& record,
+                           DWORD& size,
+                           Trace& trace)
+{
+    size = sizeof(Record);
+    PVOID data = nullptr;
+    const DWORD error =
+        platform::wlan().WlanQueryInterface(client, interfaceGuid, opcode, nullptr, &size, &data, nullptr);
+    record.Take(data);
+    trace.Failed(error, "WlanQueryInterface failed with error: %u");
+    return static_cast<ErrorNumber>(error);
+}
+
+/// Attributes of the current connection; fails when there is none.
+inline ErrorNumber QueryCurrentConnection(
+    HANDLE client, const GUID* interfaceGuid, ConnectionAttributes& attributes, DWORD& size, Trace& trace)
+{
+    return QueryInterface(client, interfaceGuid, wlan_intf_opcode_current_connection, attributes, size, trace);
+}
+
+inline ErrorNumber
+QueryCurrentConnection(HANDLE client, const GUID* interfaceGuid, ConnectionAttributes& attributes, Trace& trace)
+{
+    DWORD size = 0;
+    return QueryCurrentConnection(client, interfaceGuid, attributes, size, trace);
+}
+
+/// BSS entries of the network that `connection` belongs to.
+ErrorNumber ListConnectionBss(HANDLE client,
+                              const GUID* interfaceGuid,
+                              const WLAN_CONNECTION_ATTRIBUTES& connection,
+                              BssList& list,
+                              Trace& trace);
+
+/// BSS entries of an available network.
+ErrorNumber ListNetworkBss(
+    HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, BssList& list, Trace& trace);
+
+/// Available networks, one entry per visible network and matching profile; without ad hoc and hidden profiles.
+ErrorNumber ListAvailableNetworks(HANDLE client, const GUID* interfaceGuid, NetworkList& list, Trace& trace);
+
+/// Stored profiles in preference order.
+ErrorNumber ListProfiles(HANDLE client, const GUID* interfaceGuid, ProfileList& list, Trace& trace);
+
+/// A method's codes for the ways in which it can be left without profiles to match with networks.
+struct ProfileAndNetworkCodes
+{
+    int notOpened;
+    int profilesFailed;
+    int noProfile;
+    int networksFailed;
+    int noNetwork;
+    const char* noProfileText = "No network profile: %u";
+    const char* noNetworkText = "No available network: %u";
+};
+
+/// Opens the client handle when needed and lists the stored profiles, then the available networks; both hold at least
+/// one when this returns 0, otherwise it returns the method's code. An empty list is traced with that code as its
+/// number.
+int ListProfilesAndNetworks(HANDLE& client,
+                            const GUID* interfaceGuid,
+                            ProfileList& profiles,
+                            NetworkList& networks,
+                            Trace& trace,
+                            const ProfileAndNetworkCodes& codes);
+
+} // namespace calvix

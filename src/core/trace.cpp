@@ -1,0 +1,112 @@
+#include "core/trace.h"
+
+#include "core/bounded_copy.h"
+
+#include <cstdio>
+#include <cwchar>
+#include <vector>
+
+namespace calvix
+{
+
+char g_szTraceBuf[kSharedTraceCapacity];
+unsigned char g_bTraceOn;
+
+namespace
+{
+
+constexpr std::size_t kLargestCapacity = 0x7FFFFFFF;
+constexpr std::size_t kLargestWideText = 0x100000;
+
+/// Formats the whole text; the C runtime's wide formatter reports neither the room it needs nor what it cut.
+std::vector<wchar_t> FormatWhole(const wchar_t* format, std::va_list values)
+{
+    std::vector<wchar_t> text;
+    for (std::size_t room = 512; room <= kLargestWideText; room *= 2)
+    {
+        text.assign(room, L'\0');
+        std::va_list again;
+        va_copy(again, values);
+        const int length = std::vswprintf(text.data(), room, format, again);
+        va_end(again);
+        if (length >= 0)
+            return text;
+    }
+    return {L'\0'};
+}
+
+} // namespace
+
+std::uint32_t FormatTraceV(char* buffer, std::size_t capacity, const char* format, std::va_list values)
+{
+    if (capacity == 0)
+        return kFormatBadCapacity;
+    if (capacity > kLargestCapacity)
+    {
+        buffer[0] = '\0';
+        return kFormatBadCapacity;
+    }
+    const int length = std::vsnprintf(buffer, capacity, format, values);
+    if (length < 0)
+        buffer[0] = '\0';
+    return length >= 0 && static_cast<std::size_t>(length) < capacity ? kFormatComplete : kFormatTruncated;
+}
+
+std::uint32_t FormatTrace(char* buffer, std::size_t capacity, const char* format, ...)
+{
+    std::va_list values;
+    va_start(values, format);
+    const std::uint32_t result = FormatTraceV(buffer, capacity, format, values);
+    va_end(values);
+    return result;
+}
+
+std::uint32_t FormatTraceW(wchar_t* buffer, std::size_t capacity, const wchar_t* format, ...)
+{
+    if (capacity == 0)
+        return kFormatBadCapacity;
+    if (capacity > kLargestCapacity)
+    {
+        buffer[0] = L'\0';
+        return kFormatBadCapacity;
+    }
+    std::va_list values;
+    va_start(values, format);
+    const std::vector<wchar_t> text = FormatWhole(format, values);
+    va_end(values);
+    CopyTruncating(buffer, capacity, text.data());
+    return std::wcslen(text.data()) < capacity ? kFormatComplete : kFormatTruncated;
+}
+
+void EmitTrace(const char* text)
+{
+    if (g_bTraceOn == 0)
+        return;
+    platform::debugger().OutputDebugStringA(text);
+    platform::debugger().OutputDebugStringA("\n");
+}
+
+void Trace::Line(const char* format, ...)
+{
+    std::va_list values;
+    va_start(values, format);
+    FormatTraceV(m_buffer, m_capacity, format, values);
+    va_end(values);
+    EmitTrace(m_buffer);
+}
+
+bool Trace::Failed(DWORD error, const char* format)
+{
+    if (error == 0)
+        return false;
+    Line(format, static_cast<unsigned>(error));
+    return true;
+}
+
+void Trace::Message(const char* text)
+{
+    CopyTruncating(m_buffer, m_capacity, text);
+    EmitTrace(m_buffer);
+}
+
+} // namespace calvix

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "core/trace.h"
+
+namespace calvix
+{
+
+/// Owner of a block that the WLAN service handed out. Released with WlanFreeMemory at the end of its scope; with a
+/// release text, that text is emitted just before.
+template <typename Record>
+class WlanMemory
+{
+public:
+    explicit WlanMemory(const char* releaseText = nullptr) : m_releaseText(releaseText) {}
+    WlanMemory(const WlanMemory&) = delete;
+    WlanMemory& operator=(const WlanMemory&) = delete;
+    ~WlanMemory() { Release(); }
+
+    /// Releases what is held, before the end of the scope.
+    void Release()
+    {
+        if (m_block == nullptr)
+            return;
+        if (m_releaseText != nullptr)
+            EmitTrace(m_releaseText);
+        platform::wlan().WlanFreeMemory(m_block);
+        m_block = nullptr;
+    }
+
+    /// Where an operation stores its result. What was held before is released.
+    Record** Receive()
+    {
+        Release();
+        return &m_block;
+    }
+
+    /// Takes over untyped data that an operation handed out.
+    void Take(PVOID data)
+    {
+        Release();
+        m_block = static_cast<Record*>(data);
+    }
+
+    Record* get() const { return m_block; }
+    Record* operator->() const { return m_block; }
+    Record& operator*() const { return *m_block; }
+
+private:
+    Record* m_block = nullptr;
+    const char* m_releaseText;
+};
+
+using InterfaceList = WlanMemory<WLAN_INTERFACE_INFO_LIST>;
+using NetworkList = WlanMemory<WLAN_AVAILABLE_NETWORK_LIST>;
+using ProfileList = WlanMemory<WLAN_PROFILE_INFO_LIST>;
+using BssList = WlanMemory<WLAN_BSS_LIST>;
+using ConnectionAttributes = WlanMemory<WLAN_CONNECTION_ATTRIBUTES>;
+using ProfileText = WlanMemory<wchar_t>;
+
+} // namespace calvix

@@ -1,0 +1,51 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/profile_network_match.h"
+#include "core/service_steps.h"
+
+using namespace calvix;
+using platform::wlan;
+
+int CWirelessManage::GetAvailableNetworkCount(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    NetworkList networks;
+    if (OpenClient(hClient, trace) != 0)
+        return -2;
+    if (ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace) != 0)
+        return -5;
+    return static_cast<int>(networks->dwNumberOfItems);
+}
+
+int CWirelessManage::GetNetworkBssCount()
+{
+    LocalTrace<256> trace;
+    InterfaceList interfaces;
+    BssList entries;
+    if (const int code =
+            ListInterfaces(hClient, interfaces, trace, {.notOpened = -2, .enumerationFailed = -3, .none = -4}))
+        return code;
+    const GUID* const first = &interfaces->InterfaceInfo[0].InterfaceGuid;
+    if (trace.Failed(wlan().WlanGetNetworkBssList(hClient, first, nullptr, dot11_BSS_type_any, FALSE, nullptr,
+                                                  entries.Receive()),
+                     "WlanGetNetworkBssList failed with error: %u"))
+        return -5;
+    return static_cast<int>(entries->dwNumberOfItems);
+}
+
+int CWirelessManage::GetConnectableNetworkCount(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    ProfileList profiles;
+    NetworkList networks;
+    if (const int code = ListProfilesAndNetworks(
+            hClient, pInterfaceGuid, profiles, networks, trace,
+            {.notOpened = -2, .profilesFailed = -5, .noProfile = -6, .networksFailed = -7, .noNetwork = -8}))
+        return code;
+
+    const NetworksByProfile networksByProfile(*networks);
+    std::size_t pairs = 0;
+    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+        pairs += networksByProfile.Of(profile).size();
+    return static_cast<int>(pairs);
+}

@@ -1,0 +1,108 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/channel.h"
+#include "core/service_steps.h"
+#include "core/ssid.h"
+#include "core/wlan_lists.h"
+
+#include <algorithm>
+#include <cstdint>
+
+using namespace calvix;
+
+namespace
+{
+
+constexpr int kWeakestRssi = -100;
+
+/// dBm that a signal quality stands for; the inverse of GetSignalStrength but for the integer division.
+int RssiOfQuality(unsigned long quality)
+{
+    if (quality == 0)
+        return kWeakestRssi;
+    if (quality == 100)
+        return -50;
+    return static_cast<int>(quality / 2) + kWeakestRssi;
+}
+
+} // namespace
+
+unsigned long CWirelessManage::GetChannel(unsigned long frequency)
+{
+    return ChannelOfFrequency(frequency);
+}
+
+int CWirelessManage::GetSignalStrength(int rssi)
+{
+    const auto strength = static_cast<std::int32_t>(2U * static_cast<std::uint32_t>(rssi) + 200U);
+    return std::clamp<int>(strength, 0, 100);
+}
+
+int CWirelessManage::GetRssi(const GUID* pInterfaceGuid, int& rssi)
+{
+    LocalTrace<128> trace;
+    WlanMemory<LONG> value("WlanFreeMemory(pRssi)");
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    DWORD size = 0;
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_rssi, value, size, trace) != 0)
+        return -4;
+    rssi = static_cast<int>(*value);
+    return 0;
+}
+
+int CWirelessManage::GetCurrentRSSI(const GUID* pInterfaceGuid, int& rssi)
+{
+    LocalTrace<128> trace;
+    BssList entries("WlanFreeMemory(pBssList)");
+    ConnectionAttributes connection("WlanFreeMemory(pConnectInfo)");
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+        return -4;
+    if (ListConnectionBss(hClient, pInterfaceGuid, *connection, entries, trace) != 0)
+        return -5;
+    if (entries->dwNumberOfItems == 0)
+    {
+        trace.Line("WlanGetNetworkBssList failed with error: %u", 0U);
+        return -6;
+    }
+    const DOT11_MAC_ADDRESS& current = connection->wlanAssociationAttributes.dot11Bssid;
+    for (const WLAN_BSS_ENTRY& entry : Items(*entries))
+    {
+        if (std::equal(std::begin(current), std::end(current), std::begin(entry.dot11Bssid)))
+        {
+            rssi = static_cast<int>(entry.lRssi);
+            return 0;
+        }
+    }
+    return -7;
+}
+
+int CWirelessManage::GetWiFiRSSI(const GUID* pInterfaceGuid, DOT11_SSID& ssid)
+{
+    LocalTrace<128> trace;
+    NetworkList networks;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace) != 0)
+        return kWeakestRssi;
+    for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
+    {
+        // Deliberate: the network's own length is not compared, so a request finds every SSID that begins with it.
+        if (SameSsidBytes(network.dot11Ssid, ssid, SsidLength(ssid)))
+            return RssiOfQuality(network.wlanSignalQuality);
+    }
+    return kWeakestRssi;
+}
+
+int CWirelessManage::GetSignalQuality(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    ConnectionAttributes connection;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+        return -4;
+    return static_cast<int>(connection->wlanAssociationAttributes.wlanSignalQuality);
+}
