@@ -13,8 +13,7 @@ struct InternetExports
 {
     OptionalLibrary library{L"wininet.dll"};
     OptionalExport<decltype(&::InternetSetOptionA)> InternetSetOptionA{library, "InternetSetOptionA"};
-    OptionalExport<decltype(&::InternetCheckConnectionA)> InternetCheckConnectionA{
-        library, "InternetCheckConnectionA"};
+    OptionalExport<decltype(&::InternetCheckConnectionA)> InternetCheckConnectionA{library, "InternetCheckConnectionA"};
 };
 
 const InternetExports& Exports()

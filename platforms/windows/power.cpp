@@ -16,25 +16,20 @@ using WritePwrSchemeFunction = BOOLEAN(WINAPI*)(UINT*, const wchar_t*, const wch
 struct PowerExports
 {
     OptionalLibrary library{L"powrprof.dll"};
-    OptionalExport<decltype(&::CallNtPowerInformation)> CallNtPowerInformation{library,
-                                                                               "CallNtPowerInformation"};
+    OptionalExport<decltype(&::CallNtPowerInformation)> CallNtPowerInformation{library, "CallNtPowerInformation"};
     OptionalExport<decltype(&::GetActivePwrScheme)> GetActivePwrScheme{library, "GetActivePwrScheme"};
     OptionalExport<decltype(&::ReadPwrScheme)> ReadPwrScheme{library, "ReadPwrScheme"};
     OptionalExport<WritePwrSchemeFunction> WritePwrScheme{library, "WritePwrScheme"};
     OptionalExport<decltype(&::SetActivePwrScheme)> SetActivePwrScheme{library, "SetActivePwrScheme"};
     OptionalExport<decltype(&::PowerEnumerate)> PowerEnumerate{library, "PowerEnumerate"};
-    OptionalExport<decltype(&::PowerReadFriendlyName)> PowerReadFriendlyName{library,
-                                                                             "PowerReadFriendlyName"};
+    OptionalExport<decltype(&::PowerReadFriendlyName)> PowerReadFriendlyName{library, "PowerReadFriendlyName"};
     OptionalExport<decltype(&::PowerGetActiveScheme)> PowerGetActiveScheme{library, "PowerGetActiveScheme"};
     OptionalExport<decltype(&::PowerDuplicateScheme)> PowerDuplicateScheme{library, "PowerDuplicateScheme"};
-    OptionalExport<decltype(&::PowerWriteFriendlyName)> PowerWriteFriendlyName{library,
-                                                                               "PowerWriteFriendlyName"};
-    OptionalExport<decltype(&::PowerWriteACValueIndex)> PowerWriteACValueIndex{library,
-                                                                               "PowerWriteACValueIndex"};
+    OptionalExport<decltype(&::PowerWriteFriendlyName)> PowerWriteFriendlyName{library, "PowerWriteFriendlyName"};
+    OptionalExport<decltype(&::PowerWriteACValueIndex)> PowerWriteACValueIndex{library, "PowerWriteACValueIndex"};
     OptionalExport<decltype(&::PowerSetActiveScheme)> PowerSetActiveScheme{library, "PowerSetActiveScheme"};
     OptionalExport<decltype(&::IsPwrSuspendAllowed)> IsPwrSuspendAllowed{library, "IsPwrSuspendAllowed"};
-    OptionalExport<decltype(&::IsPwrHibernateAllowed)> IsPwrHibernateAllowed{library,
-                                                                             "IsPwrHibernateAllowed"};
+    OptionalExport<decltype(&::IsPwrHibernateAllowed)> IsPwrHibernateAllowed{library, "IsPwrHibernateAllowed"};
     OptionalExport<decltype(&::IsPwrShutdownAllowed)> IsPwrShutdownAllowed{library, "IsPwrShutdownAllowed"};
     OptionalExport<decltype(&::SetSuspendState)> SetSuspendState{library, "SetSuspendState"};
 };
@@ -85,12 +80,8 @@ DWORD Power::PowerEnumerate(HKEY root,
     return Exports().PowerEnumerate(root, scheme, subgroup, access, index, buffer, bufferSize);
 }
 
-DWORD Power::PowerReadFriendlyName(HKEY root,
-                                   const GUID* scheme,
-                                   const GUID* subgroup,
-                                   const GUID* setting,
-                                   UCHAR* buffer,
-                                   DWORD* bufferSize)
+DWORD Power::PowerReadFriendlyName(
+    HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD* bufferSize)
 {
     return Exports().PowerReadFriendlyName(root, scheme, subgroup, setting, buffer, bufferSize);
 }

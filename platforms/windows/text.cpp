@@ -5,12 +5,8 @@
 namespace calvix::windows
 {
 
-int Text::MultiByteToWideChar(UINT codePage,
-                              DWORD flags,
-                              const char* source,
-                              int sourceLength,
-                              wchar_t* destination,
-                              int destinationLength)
+int Text::MultiByteToWideChar(
+    UINT codePage, DWORD flags, const char* source, int sourceLength, wchar_t* destination, int destinationLength)
 {
     return ::MultiByteToWideChar(codePage, flags, source, sourceLength, destination, destinationLength);
 }

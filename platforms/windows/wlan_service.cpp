@@ -16,10 +16,9 @@ struct WlanExports
     OptionalExport<decltype(&::WlanCloseHandle)> WlanCloseHandle{library, "WlanCloseHandle"};
     OptionalExport<decltype(&::WlanEnumInterfaces)> WlanEnumInterfaces{library, "WlanEnumInterfaces"};
     OptionalExport<decltype(&::WlanScan)> WlanScan{library, "WlanScan"};
-    OptionalExport<decltype(&::WlanGetAvailableNetworkList)> WlanGetAvailableNetworkList{
-        library, "WlanGetAvailableNetworkList"};
-    OptionalExport<decltype(&::WlanGetNetworkBssList)> WlanGetNetworkBssList{library,
-                                                                             "WlanGetNetworkBssList"};
+    OptionalExport<decltype(&::WlanGetAvailableNetworkList)> WlanGetAvailableNetworkList{library,
+                                                                                         "WlanGetAvailableNetworkList"};
+    OptionalExport<decltype(&::WlanGetNetworkBssList)> WlanGetNetworkBssList{library, "WlanGetNetworkBssList"};
     OptionalExport<decltype(&::WlanQueryInterface)> WlanQueryInterface{library, "WlanQueryInterface"};
     OptionalExport<decltype(&::WlanSetInterface)> WlanSetInterface{library, "WlanSetInterface"};
     OptionalExport<decltype(&::WlanQueryAutoConfigParameter)> WlanQueryAutoConfigParameter{
@@ -28,17 +27,13 @@ struct WlanExports
     OptionalExport<decltype(&::WlanGetProfile)> WlanGetProfile{library, "WlanGetProfile"};
     OptionalExport<decltype(&::WlanSetProfile)> WlanSetProfile{library, "WlanSetProfile"};
     OptionalExport<decltype(&::WlanDeleteProfile)> WlanDeleteProfile{library, "WlanDeleteProfile"};
-    OptionalExport<decltype(&::WlanSetProfilePosition)> WlanSetProfilePosition{library,
-                                                                               "WlanSetProfilePosition"};
+    OptionalExport<decltype(&::WlanSetProfilePosition)> WlanSetProfilePosition{library, "WlanSetProfilePosition"};
     OptionalExport<decltype(&::WlanConnect)> WlanConnect{library, "WlanConnect"};
     OptionalExport<decltype(&::WlanDisconnect)> WlanDisconnect{library, "WlanDisconnect"};
-    OptionalExport<decltype(&::WlanRegisterNotification)> WlanRegisterNotification{
-        library, "WlanRegisterNotification"};
+    OptionalExport<decltype(&::WlanRegisterNotification)> WlanRegisterNotification{library, "WlanRegisterNotification"};
     OptionalExport<decltype(&::WlanIhvControl)> WlanIhvControl{library, "WlanIhvControl"};
-    OptionalExport<decltype(&::WlanSetSecuritySettings)> WlanSetSecuritySettings{library,
-                                                                                 "WlanSetSecuritySettings"};
-    OptionalExport<decltype(&::WlanReasonCodeToString)> WlanReasonCodeToString{library,
-                                                                               "WlanReasonCodeToString"};
+    OptionalExport<decltype(&::WlanSetSecuritySettings)> WlanSetSecuritySettings{library, "WlanSetSecuritySettings"};
+    OptionalExport<decltype(&::WlanReasonCodeToString)> WlanReasonCodeToString{library, "WlanReasonCodeToString"};
     OptionalExport<decltype(&::WlanFreeMemory)> WlanFreeMemory{library, "WlanFreeMemory"};
 };
 
@@ -58,10 +53,7 @@ Record* Input(const Record* record)
 
 } // namespace
 
-DWORD WlanService::WlanOpenHandle(DWORD clientVersion,
-                                  PVOID reserved,
-                                  DWORD* negotiatedVersion,
-                                  HANDLE* client)
+DWORD WlanService::WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client)
 {
     return Exports().WlanOpenHandle(clientVersion, reserved, negotiatedVersion, client);
 }
@@ -76,11 +68,8 @@ DWORD WlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERF
     return Exports().WlanEnumInterfaces(client, reserved, list);
 }
 
-DWORD WlanService::WlanScan(HANDLE client,
-                            const GUID* interfaceGuid,
-                            const DOT11_SSID* ssid,
-                            const WLAN_RAW_DATA* ieData,
-                            PVOID reserved)
+DWORD WlanService::WlanScan(
+    HANDLE client, const GUID* interfaceGuid, const DOT11_SSID* ssid, const WLAN_RAW_DATA* ieData, PVOID reserved)
 {
     return Exports().WlanScan(client, interfaceGuid, Input(ssid), Input(ieData), reserved);
 }
@@ -99,8 +88,8 @@ DWORD WlanService::WlanGetNetworkBssList(HANDLE client,
                                          PVOID reserved,
                                          WLAN_BSS_LIST** list)
 {
-    return Exports().WlanGetNetworkBssList(client, interfaceGuid, Input(ssid), bssType, securityEnabled,
-                                           reserved, list);
+    return Exports().WlanGetNetworkBssList(client, interfaceGuid, Input(ssid), bssType, securityEnabled, reserved,
+                                           list);
 }
 
 DWORD WlanService::WlanQueryInterface(HANDLE client,
@@ -114,12 +103,8 @@ DWORD WlanService::WlanQueryInterface(HANDLE client,
     return Exports().WlanQueryInterface(client, interfaceGuid, opcode, reserved, dataSize, data, valueType);
 }
 
-DWORD WlanService::WlanSetInterface(HANDLE client,
-                                    const GUID* interfaceGuid,
-                                    WLAN_INTF_OPCODE opcode,
-                                    DWORD dataSize,
-                                    const void* data,
-                                    PVOID reserved)
+DWORD WlanService::WlanSetInterface(
+    HANDLE client, const GUID* interfaceGuid, WLAN_INTF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved)
 {
     return Exports().WlanSetInterface(client, interfaceGuid, opcode, dataSize, Input(data), reserved);
 }
@@ -162,14 +147,11 @@ DWORD WlanService::WlanSetProfile(HANDLE client,
                                   PVOID reserved,
                                   DWORD* reasonCode)
 {
-    return Exports().WlanSetProfile(client, interfaceGuid, flags, xml, allUserProfileSecurity, overwrite,
-                                    reserved, reasonCode);
+    return Exports().WlanSetProfile(client, interfaceGuid, flags, xml, allUserProfileSecurity, overwrite, reserved,
+                                    reasonCode);
 }
 
-DWORD WlanService::WlanDeleteProfile(HANDLE client,
-                                     const GUID* interfaceGuid,
-                                     const wchar_t* name,
-                                     PVOID reserved)
+DWORD WlanService::WlanDeleteProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved)
 {
     return Exports().WlanDeleteProfile(client, interfaceGuid, name, reserved);
 }
@@ -214,8 +196,7 @@ DWORD WlanService::WlanIhvControl(HANDLE client,
                                   PVOID output,
                                   DWORD* bytesReturned)
 {
-    return Exports().WlanIhvControl(client, interfaceGuid, type, inputSize, input, outputSize, output,
-                                    bytesReturned);
+    return Exports().WlanIhvControl(client, interfaceGuid, type, inputSize, input, outputSize, output, bytesReturned);
 }
 
 DWORD WlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl)

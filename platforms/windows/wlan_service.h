@@ -71,11 +71,8 @@ public:
                          DWORD* reasonCode) override;
     DWORD
     WlanDeleteProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved) override;
-    DWORD WlanSetProfilePosition(HANDLE client,
-                                 const GUID* interfaceGuid,
-                                 const wchar_t* name,
-                                 DWORD position,
-                                 PVOID reserved) override;
+    DWORD WlanSetProfilePosition(
+        HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD position, PVOID reserved) override;
     DWORD WlanConnect(HANDLE client,
                       const GUID* interfaceGuid,
                       const WLAN_CONNECTION_PARAMETERS* parameters,

@@ -1,0 +1,104 @@
+#include "windows/optional_library.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using calvix::windows::OptionalExport;
+using calvix::windows::OptionalLibrary;
+
+constexpr wchar_t kNoSuchLibrary[] = L"calvix-no-such-library.dll";
+
+using GivesErrorNumber = DWORD(WINAPI*)(DWORD);
+using GivesStatus = LONG(WINAPI*)();
+using GivesBool = BOOL(WINAPI*)(const char*);
+using GivesBoolean = BOOLEAN(WINAPI*)();
+using GivesNothing = void(WINAPI*)(void*);
+
+TEST(OptionalLibrary, MissingLibraryLacksEveryExport)
+{
+    const OptionalLibrary library(kNoSuchLibrary);
+    DWORD error = ERROR_SUCCESS;
+    EXPECT_EQ(library.Find("GetTickCount", error), nullptr);
+    EXPECT_EQ(error, static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+}
+
+TEST(OptionalLibrary, MissingExportIsNamedAsSuch)
+{
+    const OptionalLibrary library(L"kernel32.dll");
+    DWORD error = ERROR_SUCCESS;
+    EXPECT_EQ(library.Find("CalvixNoSuchExport", error), nullptr);
+    EXPECT_EQ(error, static_cast<DWORD>(ERROR_PROC_NOT_FOUND));
+}
+
+TEST(OptionalLibrary, FindsAnExportAndClearsTheError)
+{
+    const OptionalLibrary library(L"kernel32.dll");
+    DWORD error = ERROR_GEN_FAILURE;
+    EXPECT_EQ(library.Find("GetTickCount", error),
+              ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "GetTickCount"));
+    EXPECT_EQ(error, static_cast<DWORD>(ERROR_SUCCESS));
+}
+
+TEST(OptionalExport, MissingErrorNumberOperationAnswersWithTheReason)
+{
+    const OptionalLibrary library(kNoSuchLibrary);
+    const OptionalExport<GivesErrorNumber> operation(library, "Anything");
+    EXPECT_EQ(operation(DWORD{1}), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+}
+
+TEST(OptionalExport, MissingExportOfAPresentLibraryAnswersWithItsOwnReason)
+{
+    const OptionalLibrary library(L"kernel32.dll");
+    const OptionalExport<GivesErrorNumber> operation(library, "CalvixNoSuchExport");
+    EXPECT_EQ(operation(DWORD{1}), static_cast<DWORD>(ERROR_PROC_NOT_FOUND));
+}
+
+TEST(OptionalExport, MissingBooleanOperationsFailWithTheReasonAsLastError)
+{
+    const OptionalLibrary library(kNoSuchLibrary);
+    const OptionalExport<GivesBool> wide(library, "Anything");
+    ::SetLastError(ERROR_SUCCESS);
+    EXPECT_EQ(wide("text"), FALSE);
+    EXPECT_EQ(::GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+
+    const OptionalExport<GivesBoolean> narrow(library, "Anything");
+    ::SetLastError(ERROR_SUCCESS);
+    EXPECT_EQ(narrow(), FALSE);
+    EXPECT_EQ(::GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+}
+
+TEST(OptionalExport, MissingStatusOperationAnswersWithAFailureStatus)
+{
+    const OptionalLibrary library(kNoSuchLibrary);
+    const OptionalExport<GivesStatus> operation(library, "Anything");
+    EXPECT_LT(operation(), 0);
+    EXPECT_EQ(static_cast<DWORD>(operation()) & 0xFFFFU, static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+}
+
+TEST(OptionalExport, MissingReleaseLeavesTheMemoryAlone)
+{
+    const OptionalLibrary library(kNoSuchLibrary);
+    const OptionalExport<GivesNothing> release(library, "Anything");
+    int memory = 42;
+    release(&memory);
+    EXPECT_EQ(memory, 42);
+}
+
+TEST(OptionalExport, PresentOneIsCalledWithItsArguments)
+{
+    const OptionalLibrary library(L"kernel32.dll");
+    const OptionalExport<decltype(&::MulDiv)> mulDiv(library, "MulDiv");
+    EXPECT_EQ(mulDiv(6, 7, 2), 21);
+}
+
+TEST(OptionalExport, LeavesTheLastErrorOfTheOperationInPlace)
+{
+    const OptionalLibrary library(L"kernel32.dll");
+    const OptionalExport<decltype(&::SetLastError)> fails(library, "SetLastError");
+    fails(DWORD{ERROR_BUSY});
+    EXPECT_EQ(::GetLastError(), static_cast<DWORD>(ERROR_BUSY));
+}
+
+} // namespace
