@@ -10,8 +10,10 @@ using namespace calvix;
 namespace
 {
 
+using ExcludedEntries = std::vector<WLAN_BSS_ENTRY>;
+
 /// Whether the list holds an SSID that begins with the network's.
-bool Excludes(const std::vector<WLAN_BSS_ENTRY>& excluded, const WLAN_AVAILABLE_NETWORK& network)
+bool Excludes(const ExcludedEntries& excluded, const WLAN_AVAILABLE_NETWORK& network)
 {
     // Deliberate: compared over the network's length only, so that a longer excluded SSID rules the network out too.
     const auto begins = [&network](const WLAN_BSS_ENTRY& entry)
@@ -19,12 +21,22 @@ bool Excludes(const std::vector<WLAN_BSS_ENTRY>& excluded, const WLAN_AVAILABLE_
     return std::any_of(excluded.begin(), excluded.end(), begins);
 }
 
-bool IsNamed(const WLAN_PROFILE_INFO& profile, const wchar_t* name)
+/// The one connection behind all overloads; a null name excludes no profile.
+int ConnectBest(CWirelessManage& manager,
+                HANDLE& client,
+                const GUID* interfaceGuid,
+                const ExcludedEntries& excluded,
+                const wchar_t* excludedName)
 {
-    return FixedText(profile.strProfileName) == name;
+    SharedTrace trace;
+    const auto usesProfile = [excludedName](const WLAN_PROFILE_INFO& profile)
+    { return excludedName == nullptr || FixedText(profile.strProfileName) != excludedName; };
+    const auto accepts = [&](const WLAN_AVAILABLE_NETWORK& network)
+    {
+        return manager.IsAutoConnMode2(interfaceGuid, network.strProfileName) == 1 && !Excludes(excluded, network);
+    };
+    return ConnectRanked(client, interfaceGuid, trace, usesProfile, accepts);
 }
-
-const auto everyProfile = [](const WLAN_PROFILE_INFO&) { return true; };
 
 } // namespace
 
@@ -36,36 +48,24 @@ int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid,
         return -13;
     if (excludedName == nullptr)
         return -14;
-    SharedTrace trace;
-    return ConnectRanked(
-        hClient, pInterfaceGuid, trace,
-        [excludedName](const WLAN_PROFILE_INFO& profile) { return !IsNamed(profile, excludedName); },
-        [&](const WLAN_AVAILABLE_NETWORK& network)
-        { return IsAutoConnMode2(pInterfaceGuid, network.strProfileName) == 1 && !Excludes(*pExcluded, network); });
+    return ConnectBest(*this, hClient, pInterfaceGuid, *pExcluded, excludedName);
 }
 
 int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded)
 {
     if (pExcluded == nullptr)
         return -13;
-    SharedTrace trace;
-    return ConnectRanked(hClient, pInterfaceGuid, trace, everyProfile,
-                         [&](const WLAN_AVAILABLE_NETWORK& network) {
-                             return IsAutoConnMode2(pInterfaceGuid, network.strProfileName) == 1 &&
-                                    !Excludes(*pExcluded, network);
-                         });
+    return ConnectBest(*this, hClient, pInterfaceGuid, *pExcluded, nullptr);
 }
 
 int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid, const wchar_t* excludedName)
 {
     if (excludedName == nullptr)
         return -14;
-    std::vector<WLAN_BSS_ENTRY> nothing;
-    return ConnectBestAP(pInterfaceGuid, &nothing, excludedName);
+    return ConnectBest(*this, hClient, pInterfaceGuid, {}, excludedName);
 }
 
 int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid)
 {
-    std::vector<WLAN_BSS_ENTRY> nothing;
-    return ConnectBestAP(pInterfaceGuid, &nothing);
+    return ConnectBest(*this, hClient, pInterfaceGuid, {}, nullptr);
 }
