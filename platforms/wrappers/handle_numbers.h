@@ -1,0 +1,31 @@
+#pragma once
+
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace calvix::wrappers
+{
+
+/// The families of handles, numbered apart from each other.
+enum class HandleFamily
+{
+    client,  ///< of the WLAN service
+    service, ///< of the service control manager
+    object,  ///< processes, threads and tokens
+    module
+};
+
+/// Small numbers in place of handle values, in the order in which a family's handles are first passed to an
+/// operation, so that descriptions do not differ from run to run.
+class HandleNumbers
+{
+public:
+    int NumberOf(HandleFamily family, const void* handle);
+
+private:
+    std::mutex m_mutex;
+    std::vector<std::pair<HandleFamily, const void*>> m_known;
+};
+
+} // namespace calvix::wrappers

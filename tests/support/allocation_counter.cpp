@@ -1,0 +1,170 @@
+#include "support/allocation_counter.h"
+
+#include <cstdlib>
+#include <new>
+#ifdef _WIN32
+#include <malloc.h>
+#endif
+
+namespace
+{
+
+thread_local std::size_t t_allocations = 0;
+thread_local int t_pauses = 0;
+
+void* Counted(void* memory) noexcept
+{
+    if (memory != nullptr && t_pauses == 0)
+        ++t_allocations;
+    return memory;
+}
+
+void* Allocate(std::size_t size) noexcept
+{
+    return Counted(std::malloc(size != 0 ? size : 1));
+}
+
+void* Allocate(std::size_t size, std::align_val_t alignment) noexcept
+{
+    const auto boundary = static_cast<std::size_t>(alignment);
+#ifdef _WIN32
+    return Counted(_aligned_malloc(size != 0 ? size : 1, boundary));
+#else
+    const std::size_t rounded = (size + boundary - 1) / boundary * boundary;
+    return Counted(std::aligned_alloc(boundary, rounded != 0 ? rounded : boundary));
+#endif
+}
+
+void* OrThrow(void* memory)
+{
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return memory;
+}
+
+void ReleaseAligned(void* memory) noexcept
+{
+#ifdef _WIN32
+    _aligned_free(memory);
+#else
+    std::free(memory);
+#endif
+}
+
+} // namespace
+
+// All forms are replaced, because a sanitizer brings its own for those that are not, and compares the pairs.
+void* operator new(std::size_t size)
+{
+    return OrThrow(Allocate(size));
+}
+void* operator new[](std::size_t size)
+{
+    return OrThrow(Allocate(size));
+}
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return Allocate(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return Allocate(size);
+}
+void* operator new(std::size_t size, std::align_val_t alignment)
+{
+    return OrThrow(Allocate(size, alignment));
+}
+void* operator new[](std::size_t size, std::align_val_t alignment)
+{
+    return OrThrow(Allocate(size, alignment));
+}
+void* operator new(std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept
+{
+    return Allocate(size, alignment);
+}
+void* operator new[](std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept
+{
+    return Allocate(size, alignment);
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, const std::nothrow_t&) noexcept
+{
+    std::free(memory);
+}
+void operator delete[](void* memory, const std::nothrow_t&) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::align_val_t) noexcept
+{
+    ReleaseAligned(memory);
+}
+void operator delete[](void* memory, std::align_val_t) noexcept
+{
+    ReleaseAligned(memory);
+}
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept
+{
+    ReleaseAligned(memory);
+}
+void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept
+{
+    ReleaseAligned(memory);
+}
+void operator delete(void* memory, std::align_val_t, const std::nothrow_t&) noexcept
+{
+    ReleaseAligned(memory);
+}
+void operator delete[](void* memory, std::align_val_t, const std::nothrow_t&) noexcept
+{
+    ReleaseAligned(memory);
+}
+
+namespace calvix::test
+{
+
+AllocationCounter::AllocationCounter() : m_start(t_allocations) {}
+
+std::size_t AllocationCounter::Count() const
+{
+    return t_allocations - m_start;
+}
+
+AllocationPause::AllocationPause()
+{
+    ++t_pauses;
+}
+
+AllocationPause::~AllocationPause()
+{
+    --t_pauses;
+}
+
+std::optional<DWORD> PlatformCallsUncounted::Before(const wrappers::Call&)
+{
+    ++t_pauses;
+    return std::nullopt;
+}
+
+void PlatformCallsUncounted::After(const wrappers::Call&, long long)
+{
+    --t_pauses;
+}
+
+} // namespace calvix::test

@@ -1,0 +1,98 @@
+#include "support/contract_table.h"
+
+#include "core/trace.h"
+
+namespace calvix::test
+{
+
+namespace
+{
+
+std::string Filled(std::string text, unsigned error)
+{
+    const std::size_t place = text.find("%u");
+    return place == std::string::npos ? text : text.replace(place, 2, std::to_string(error));
+}
+
+std::vector<std::string> ExpectedLines(const FailureRow& row)
+{
+    std::vector<std::string> lines;
+    for (const std::string& text : row.traced)
+        lines.push_back(Filled(text, row.error));
+    return lines;
+}
+
+/// The last line that was formatted into a buffer: releases are traced as fixed texts, past it.
+const std::string* LastFormatted(const std::vector<std::string>& lines)
+{
+    for (auto line = lines.rbegin(); line != lines.rend(); ++line)
+        if (!line->starts_with("WlanFreeMemory("))
+            return &*line;
+    return nullptr;
+}
+
+void CheckSharedBuffer(const LibraryTest& test, const FailureRow& row)
+{
+    const std::vector<std::string> lines = ExpectedLines(row);
+    const std::string* const formatted = LastFormatted(lines);
+    if (row.buffer == TraceBuffer::local || formatted == nullptr)
+    {
+        EXPECT_TRUE(test.sharedTraceUntouched()) << "the shared trace buffer holds \"" << test.sharedTrace() << '"';
+        return;
+    }
+    EXPECT_EQ(formatted->substr(0, kSharedTraceCapacity - 1), test.sharedTrace()) << "in the shared trace buffer";
+}
+
+void Arrange(LibraryTest& test, const FailureRow& row, bool tracing)
+{
+    if (row.prepare)
+        row.prepare(test);
+    if (row.failingOperation == "WlanOpenHandle")
+        test.ForgetClient();
+    test.SetTracing(tracing);
+    test.ClearCalls();
+    if (!row.failingOperation.empty())
+        test.FailOn(row.failingOperation, row.error, row.fromCall);
+}
+
+void RunOnce(LibraryTest& test, const FailureRow& row, bool tracing)
+{
+    SCOPED_TRACE(tracing ? "tracing on" : "tracing off");
+    Arrange(test, row, tracing);
+    EXPECT_EQ(row.expected, row.call(test.manager()));
+    if (!row.failingOperation.empty())
+    {
+        EXPECT_GE(test.InjectedFailures(), 1u)
+            << "call " << row.fromCall << " of " << row.failingOperation << " was never made, so nothing failed";
+    }
+    EXPECT_EQ(tracing ? ExpectedLines(row) : std::vector<std::string>(), test.traced());
+    CheckSharedBuffer(test, row);
+    test.ExpectNothingHeld();
+}
+
+} // namespace
+
+void CheckFailure(LibraryTest& test, const FailureRow& row)
+{
+    const std::string cause =
+        row.failingOperation.empty()
+            ? "in its world"
+            : "when " + row.failingOperation + " fails with " + std::to_string(row.error) +
+                  (row.fromCall > 1 ? " from call " + std::to_string(row.fromCall) : std::string());
+    SCOPED_TRACE(row.method + " " + cause);
+    const simulation::Scenario world = test.world();
+    for (const bool tracing : {true, false})
+    {
+        test.UseWorld(world);
+        RunOnce(test, row, tracing);
+    }
+    test.UseWorld(world);
+}
+
+void CheckFailures(LibraryTest& test, const std::vector<FailureRow>& rows)
+{
+    for (const FailureRow& row : rows)
+        CheckFailure(test, row);
+}
+
+} // namespace calvix::test

@@ -1,0 +1,50 @@
+#pragma once
+
+// Tables of the ways in which methods fail, one row a way:
+//
+//     CheckFailures(*this, {
+//         {"Rescan()", [](auto& m) { return m.Rescan(); }, "WlanScan", -4, {"WlanScan failed with error: %u"}},
+//         {"GetAP", [](auto& m) { auto ssid = MakeSsid("HomeNet"); return m.GetAP(&kAdapterA, &ssid); },
+//          "WlanGetAvailableNetworkList", -3, {"WlanGetAvailableNetworkList failed with error: %u"},
+//          TraceBuffer::local},
+//         {.method = "Rescan()", .call = [](auto& m) { return m.Rescan(); }, .expected = -3,
+//          .traced = {"No valid WLAN adapter"}, .prepare = [](auto& t) { t.UseWorld(NoAdapterWorld()); }},
+//     });
+
+#include "support/library_test.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace calvix::test
+{
+
+enum class TraceBuffer
+{
+    shared, ///< the process's
+    local   ///< the method's own: the shared one stays as it was
+};
+
+struct FailureRow
+{
+    std::string method; ///< names the row in messages
+    std::function<long long(CWirelessManage&)> call;
+    std::string failingOperation = {}; ///< empty: none is made to fail, the world does it
+    long long expected = 0;
+    /// All trace lines, in order, those of releases included; "%u" stands for the error. Empty: nothing traced.
+    std::vector<std::string> traced = {};
+    TraceBuffer buffer = TraceBuffer::shared;
+    unsigned error = 5;
+    unsigned fromCall = 1; ///< which call of the operation fails, and all after it
+    std::function<void(LibraryTest&)> prepare = {};
+};
+
+/// Runs a row on a computer of its own, with tracing on and then off, and checks result, trace lines, the shared trace
+/// buffer (which is written with tracing off, too), that the failure was met, and that nothing is held afterwards. A
+/// failing WlanOpenHandle finds the client handle closed.
+void CheckFailure(LibraryTest& test, const FailureRow& row);
+
+void CheckFailures(LibraryTest& test, const std::vector<FailureRow>& rows);
+
+} // namespace calvix::test

@@ -1,0 +1,215 @@
+#include "support/library_test.h"
+
+#include "core/trace.h"
+#include "support/allocation_counter.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace calvix::test
+{
+
+namespace
+{
+
+constexpr char kMarker[] = "-- nothing traced yet --";
+
+bool Contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+/// Whether an operation serves the reporting of a failure rather than the method's purpose.
+bool IsReporting(std::string_view operation)
+{
+    return operation == "OutputDebugStringA" || operation == "GetLastError";
+}
+
+} // namespace
+
+LibraryTest::LibraryTest(const simulation::Scenario& world) : m_world(world)
+{
+    ManagerInternals::Reset();
+    Begin();
+}
+
+LibraryTest::~LibraryTest()
+{
+    // A test that threw has not come past TearDown.
+    platform::ReplacePlatform(nullptr);
+    ManagerInternals::Reset();
+    g_bTraceOn = 0;
+}
+
+void LibraryTest::Begin()
+{
+    m_machine = std::make_unique<Machine>(m_world, m_chain);
+    platform::ReplacePlatform(&m_machine->platform);
+    SetTracing(true);
+    CWirelessManage::Get();
+    ClearCalls();
+}
+
+void LibraryTest::End()
+{
+    ClearFailures();
+    // A test may have deleted the manager itself; its handle is a stale one then.
+    if (computer().Audit().openClients == 0)
+        ManagerInternals::Client() = nullptr;
+    CWirelessManage::Delete();
+    CheckAccounts(0);
+    platform::ReplacePlatform(nullptr);
+    ManagerInternals::Reset();
+    SetTracing(false);
+    m_expectedDefects.clear();
+    m_machine.reset();
+}
+
+void LibraryTest::TearDown()
+{
+    End();
+}
+
+void LibraryTest::UseWorld(const simulation::Scenario& world)
+{
+    m_world = world;
+    Restart();
+}
+
+void LibraryTest::Restart()
+{
+    End();
+    Begin();
+}
+
+CWirelessManage& LibraryTest::manager()
+{
+    CWirelessManage* const instance = ManagerInternals::Instance();
+    return instance != nullptr ? *instance : *CWirelessManage::Get();
+}
+
+void LibraryTest::ForgetClient()
+{
+    if (ManagerInternals::Client() != nullptr)
+        m_machine->platform.wlan().WlanCloseHandle(ManagerInternals::Client(), nullptr);
+    ManagerInternals::Client() = nullptr;
+    ClearCalls();
+}
+
+std::vector<std::string> LibraryTest::calls() const
+{
+    std::vector<std::string> operations = m_log.Operations();
+    std::erase_if(operations, IsReporting);
+    return operations;
+}
+
+std::vector<std::string> LibraryTest::callLines() const
+{
+    std::vector<std::string> lines;
+    for (const wrappers::Call& each : m_log.Calls())
+        if (!IsReporting(each.operation))
+            lines.push_back(each.Line());
+    return lines;
+}
+
+std::vector<std::string> LibraryTest::timeline() const
+{
+    return m_log.Lines();
+}
+
+wrappers::Call LibraryTest::call(std::string_view operation, std::size_t number) const
+{
+    std::size_t seen = 0;
+    for (const wrappers::Call& each : m_log.Calls())
+        if (each.operation == operation && ++seen == number)
+            return each;
+    ADD_FAILURE() << operation << " was called " << seen << " times, not " << number;
+    return {operation, {}};
+}
+
+std::vector<std::string> LibraryTest::traced() const
+{
+    const std::vector<std::string>& output = m_machine->computer.DebuggerLines();
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < output.size(); i += 2)
+    {
+        lines.push_back(output[i]);
+        if (i + 1 == output.size() || output[i + 1] != "\n")
+            ADD_FAILURE() << "the trace line \"" << output[i] << "\" is not followed by a line break of its own";
+    }
+    return lines;
+}
+
+std::string LibraryTest::sharedTrace() const
+{
+    const void* const end = std::memchr(g_szTraceBuf, '\0', kSharedTraceCapacity);
+    if (end == nullptr)
+    {
+        ADD_FAILURE() << "the shared trace buffer is not terminated";
+        return std::string(g_szTraceBuf, kSharedTraceCapacity);
+    }
+    return g_szTraceBuf;
+}
+
+bool LibraryTest::sharedTraceUntouched() const
+{
+    return std::memcmp(g_szTraceBuf, kMarker, sizeof kMarker) == 0 && g_szTraceBuf[kSharedTraceCapacity - 1] == '#';
+}
+
+void LibraryTest::ClearCalls()
+{
+    m_log.Clear();
+    computer().ClearDebuggerLines();
+    std::memset(g_szTraceBuf, '#', kSharedTraceCapacity);
+    std::memcpy(g_szTraceBuf, kMarker, sizeof kMarker);
+}
+
+void LibraryTest::FailOn(std::string operation, DWORD error, unsigned from, unsigned times)
+{
+    m_faults.Fail(std::move(operation), {error, from, times});
+}
+
+void LibraryTest::SetTracing(bool on)
+{
+    g_bTraceOn = on ? 1 : 0;
+}
+
+std::size_t LibraryTest::CountLibraryAllocations(const std::function<void()>& body)
+{
+    PlatformCallsUncounted uncounted;
+    wrappers::InterceptedPlatform outermost(m_machine->platform, uncounted);
+    platform::Platform* const before = platform::ReplacePlatform(&outermost);
+    const AllocationCounter counter;
+    body();
+    const std::size_t count = counter.Count();
+    platform::ReplacePlatform(before);
+    return count;
+}
+
+void LibraryTest::ExpectNothingHeld()
+{
+    CheckAccounts(ManagerInternals::Client() != nullptr ? 1 : 0);
+}
+
+void LibraryTest::ExpectDefect(std::string part)
+{
+    m_expectedDefects.push_back(std::move(part));
+}
+
+void LibraryTest::CheckAccounts(std::size_t clientsAllowed)
+{
+    const simulation::Accounts accounts = computer().Audit();
+    EXPECT_EQ(0u, accounts.liveBlocks) << "blocks of the WLAN service were not released";
+    EXPECT_EQ(0u, accounts.openHandles) << "handles were not closed";
+    EXPECT_LE(accounts.openClients, clientsAllowed) << "client handles were not closed";
+    for (const std::string& defect : accounts.defects)
+        if (std::none_of(m_expectedDefects.begin(), m_expectedDefects.end(),
+                         [&](const std::string& part) { return Contains(defect, part); }))
+            ADD_FAILURE() << "defect: " << defect;
+    for (const std::string& part : m_expectedDefects)
+        if (std::none_of(accounts.defects.begin(), accounts.defects.end(),
+                         [&](const std::string& defect) { return Contains(defect, part); }))
+            ADD_FAILURE() << "no defect with \"" << part << "\" was noticed";
+}
+
+} // namespace calvix::test

@@ -1,0 +1,130 @@
+#pragma once
+
+// The fixture of the tests that call the library on a simulated computer.
+//
+//     class ScanTest : public calvix::test::LibraryTest {};
+//
+//     TEST_F(ScanTest, AsksTheFirstAdapter)
+//     {
+//         EXPECT_EQ(0, manager().Rescan());
+//         EXPECT_THAT(calls(), ElementsAre("WlanEnumInterfaces", "WlanScan", "WlanFreeMemory"));
+//         EXPECT_EQ("{A0000001-0001-4001-8001-00000000000A}", call("WlanScan")["interface"]);
+//     }
+//
+//     TEST_F(ScanTest, PassesTheErrorOut)
+//     {
+//         FailOn("WlanScan", 2150899714);
+//         unsigned long error = 0;
+//         EXPECT_EQ(-4, manager().Rescan(&kAdapterA, error));
+//         EXPECT_THAT(traced(), ElementsAre("WlanScan failed with error: 2150899714"));
+//         EXPECT_EQ("WlanScan failed with error: 2150899714", sharedTrace());
+//     }
+//
+//     TEST_F(ScanTest, FailureTable) { CheckFailures(*this, { /* rows of support/contract_table.h */ }); }
+//
+// Before a test the computer is fresh (RichWorld of support/test_worlds.h, or the world given to the constructor or to
+// UseWorld), the client handle is open, tracing is on, the shared trace buffer is marked and nothing is recorded yet.
+// After it nothing may be held: no block of the service, no handle, no client, and no defect that was not announced.
+
+#include "simulation/computer.h"
+#include "support/manager_internals.h"
+#include "support/test_worlds.h"
+#include "wrappers/call_log.h"
+#include "wrappers/fault_injection.h"
+#include "wrappers/intercepted_platform.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace calvix::test
+{
+
+class LibraryTest : public ::testing::Test
+{
+public:
+    LibraryTest() : LibraryTest(RichWorld()) {}
+    explicit LibraryTest(const simulation::Scenario& world);
+    ~LibraryTest() override;
+
+    /// Replaces the computer by a fresh one of this world, and the manager with it.
+    void UseWorld(const simulation::Scenario& world);
+    /// The same for the world in use.
+    void Restart();
+    const simulation::Scenario& world() const { return m_world; }
+
+    CWirelessManage& manager();
+    simulation::Computer& computer() { return m_machine->computer; }
+    void Advance(std::chrono::milliseconds duration) { computer().Advance(duration); }
+
+    /// Closes the client handle, so that the next call opens it again.
+    void ForgetClient();
+
+    /// The operations that the library called, in order, since the test or the last ClearCalls began. Debugger output
+    /// and GetLastError are left out of calls and callLines; timeline has them, too.
+    std::vector<std::string> calls() const;
+    /// The same with arguments, e.g. "WlanScan(client=1, interface={...}, ssid=null, ieData=null, reserved=null)".
+    std::vector<std::string> callLines() const;
+    std::vector<std::string> timeline() const;
+    /// The n-th call of an operation, from 1, to look at its arguments by name; fails the test when there is none.
+    wrappers::Call call(std::string_view operation, std::size_t number = 1) const;
+    std::size_t callCount(std::string_view operation) const { return m_log.Count(operation); }
+
+    /// The trace lines since then, without their line breaks.
+    std::vector<std::string> traced() const;
+    /// What the shared trace buffer holds.
+    std::string sharedTrace() const;
+    bool sharedTraceUntouched() const;
+
+    /// Forgets calls and traces and marks the shared trace buffer anew.
+    void ClearCalls();
+
+    /// Makes calls of an operation fail: from the `from`-th one counted from now, `times` of them.
+    void
+    FailOn(std::string operation, DWORD error = 5, unsigned from = 1, unsigned times = wrappers::Fault::kUnlimited);
+    /// Makes calls fail by choice; `predicate` may do something to the computer at that moment instead.
+    void FailWhen(wrappers::FaultInjection::Predicate predicate) { m_faults.FailWhen(std::move(predicate)); }
+    unsigned InjectedFailures() const { return m_faults.Injected(); }
+    void ClearFailures() { m_faults.Clear(); }
+
+    void SetTracing(bool on);
+
+    /// How often the library itself allocates in `body`, platform calls aside.
+    std::size_t CountLibraryAllocations(const std::function<void()>& body);
+
+    /// Fails the test when a block or a handle is held, a defect was noticed that was not announced, or more clients
+    /// are open than the manager's.
+    void ExpectNothingHeld();
+    /// Announces a defect whose line contains `part`; when none is noticed, the test fails.
+    void ExpectDefect(std::string part);
+
+protected:
+    void TearDown() override;
+
+private:
+    struct Machine
+    {
+        Machine(const simulation::Scenario& world, wrappers::Interceptor& interceptor)
+            : computer(world), platform(computer, interceptor)
+        {
+        }
+        simulation::Computer computer;
+        wrappers::InterceptedPlatform platform;
+    };
+
+    void Begin();
+    void End();
+    void CheckAccounts(std::size_t clientsAllowed);
+
+    simulation::Scenario m_world;
+    wrappers::CallLog m_log;
+    wrappers::FaultInjection m_faults;
+    wrappers::InterceptorChain m_chain{{&m_log, &m_faults}};
+    std::unique_ptr<Machine> m_machine;
+    std::vector<std::string> m_expectedDefects;
+};
+
+} // namespace calvix::test

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <calvix/wireless_manage.h>
+
+namespace calvix
+{
+
+/// What the manager keeps to itself, for the tests. The members come by reference.
+struct ManagerInternals
+{
+    static HANDLE& Client() { return CWirelessManage::hClient; }
+    static CWirelessManage*& Instance() { return CWirelessManage::m_pManage; }
+
+    static WLAN_CONNECTION_ATTRIBUTES& SavedConnection(CWirelessManage& manager) { return manager.m_SavedConnAttr; }
+    static WLAN_CONNECTION_NOTIFICATION_DATA& SavedNotification(CWirelessManage& manager)
+    {
+        return manager.m_SavedConnNotify;
+    }
+    static int& SavedAutoConnMode(CWirelessManage& manager) { return manager.m_nSavedAutoConnMode; }
+    static char (&InterfaceState(CWirelessManage& manager))[256] { return manager.m_Text[0].szLong; }
+    static char (&GuidText(CWirelessManage& manager))[128] { return manager.m_Text[0].szShort; }
+    static char (&InterfaceDesc(CWirelessManage& manager))[256] { return manager.m_Text[1].szLong; }
+    static char (&PowerSetting(CWirelessManage& manager))[128] { return manager.m_Text[1].szShort; }
+    static bool& Spare(CWirelessManage& manager) { return manager.m_bSpare; }
+    static void*& SparePointer(CWirelessManage& manager) { return manager.m_pSpare; }
+    static POWER_POLICY& SavedPowerPolicy(CWirelessManage& manager) { return manager.m_SavedPowerPolicy; }
+    static char (&AppPath(CWirelessManage& manager))[512] { return manager.m_szAppPath; }
+
+    /// Back to the beginning of the process: no instance, no client handle. Calls no platform.
+    static void Reset()
+    {
+        Client() = nullptr;
+        delete Instance();
+        Instance() = nullptr;
+    }
+};
+
+} // namespace calvix

@@ -1,0 +1,188 @@
+#include "support/test_worlds.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace calvix::test
+{
+
+using simulation::AccessPoint;
+using simulation::AdapterDescription;
+using simulation::Bytes;
+using simulation::MacAddress;
+using simulation::ProfileSettings;
+using simulation::Scenario;
+using simulation::StoredProfile;
+
+namespace
+{
+
+constexpr std::uint32_t kHt = 7;
+constexpr std::uint32_t kVht = 8;
+constexpr std::uint32_t kHe = 10;
+constexpr std::uint32_t kIndependent = 2;
+
+Bytes BytesOf(const std::string& text)
+{
+    return {text.begin(), text.end()};
+}
+
+AccessPoint WithPhy(AccessPoint point, std::uint32_t phyType)
+{
+    point.phyType = phyType;
+    return point;
+}
+
+AccessPoint WithSecurity(AccessPoint point, const char* authentication, const char* encryption)
+{
+    point.authentication = authentication;
+    point.encryption = encryption;
+    return point;
+}
+
+AccessPoint Hidden(AccessPoint point)
+{
+    point.hidden = true;
+    return point;
+}
+
+AccessPoint Independent(AccessPoint point)
+{
+    point.bssType = kIndependent;
+    return point;
+}
+
+std::vector<AccessPoint> RichAirspace()
+{
+    return {
+        MakeAccessPoint("HomeNet", kHomeNet24, 2437000, -50),
+        WithPhy(MakeAccessPoint("HomeNet", kHomeNet5, 5180000, -62), kVht),
+        WithPhy(MakeAccessPoint("HomeNet", kHomeNet6, 5955000, -70), kHe),
+        WithPhy(MakeAccessPoint("OfficeNet", kOfficeNet, 5745000, -65), kVht),
+        Hidden(MakeAccessPoint("HiddenNet", kHiddenNet, 2462000, -68)),
+        Independent(WithSecurity(MakeAccessPoint("AdHocNet", kAdHocNet, 2422000, -80), "open", "none")),
+        WithPhy(WithSecurity(MakeAccessPoint("HomeNet5G", kHomeNet5G, 5220000, -58), "WPA3SAE", "AES"), kHe),
+        WithSecurity(MakeAccessPoint("CafeNet", kCafeNet, 2412000, -75), "open", "none"),
+    };
+}
+
+StoredProfile MakeOpenProfile(const std::string& name, std::uint32_t bssType)
+{
+    ProfileSettings settings;
+    settings.name = name;
+    settings.ssid = BytesOf(name);
+    settings.mode = "manual";
+    settings.authentication = "open";
+    settings.encryption = "none";
+    settings.bssType = bssType;
+    return {simulation::MakeProfileXml(settings)};
+}
+
+StoredProfile MakeHiddenProfile(const std::string& name)
+{
+    ProfileSettings settings;
+    settings.name = name;
+    settings.ssid = BytesOf(name);
+    settings.key = name + " key";
+    settings.hidden = true;
+    return {simulation::MakeProfileXml(settings)};
+}
+
+AdapterDescription MakeAdapterA()
+{
+    AdapterDescription adapter;
+    adapter.guid = kAdapterAText;
+    adapter.description = "Wireless Adapter A";
+    adapter.address = {0x02, 0xAA, 0, 0, 0, 0x0A};
+    adapter.phys.assign(3, {});
+    adapter.phys[0].type = kHt;
+    adapter.phys[1].type = kVht;
+    adapter.phys[2].type = kHe;
+    adapter.profiles = {MakeProfile("HomeNet"), MakeProfile("OfficeNet", "manual"), MakeHiddenProfile("HiddenNet"),
+                        MakeOpenProfile("AdHocNet", kIndependent), MakeProfile("GoneNet")};
+    adapter.connection = simulation::Connection{"HomeNet", kHomeNet24};
+    adapter.statistics.transmitted = 1234;
+    adapter.statistics.received = 56789;
+    return adapter;
+}
+
+AdapterDescription MakeAdapterB()
+{
+    AdapterDescription adapter;
+    adapter.guid = kAdapterBText;
+    adapter.description = "Wireless Adapter B";
+    adapter.address = {0x02, 0xBB, 0, 0, 0, 0x0B};
+    adapter.profiles = {MakeOpenProfile("CafeNet", 1)};
+    return adapter;
+}
+
+} // namespace
+
+Scenario RichWorld()
+{
+    Scenario world;
+    world.description = "two adapters, every kind of network";
+    world.adapters = {MakeAdapterA(), MakeAdapterB()};
+    world.accessPoints = RichAirspace();
+    return world;
+}
+
+Scenario DisconnectedWorld()
+{
+    Scenario world = RichWorld();
+    world.adapters[0].connection.reset();
+    return world;
+}
+
+Scenario SilentWorld()
+{
+    Scenario world = DisconnectedWorld();
+    world.accessPoints.clear();
+    return world;
+}
+
+Scenario NoAdapterWorld()
+{
+    Scenario world = RichWorld();
+    world.adapters.clear();
+    return world;
+}
+
+Scenario NoProfileWorld()
+{
+    Scenario world = DisconnectedWorld();
+    for (AdapterDescription& adapter : world.adapters)
+        adapter.profiles.clear();
+    return world;
+}
+
+AccessPoint
+MakeAccessPoint(const std::string& ssid, const MacAddress& bssid, std::uint32_t frequencyKhz, std::int32_t rssi)
+{
+    AccessPoint point;
+    point.ssid = BytesOf(ssid);
+    point.bssid = bssid;
+    point.frequencyKhz = frequencyKhz;
+    point.rssi = rssi;
+    return point;
+}
+
+StoredProfile MakeProfile(const std::string& name, const std::string& mode)
+{
+    ProfileSettings settings;
+    settings.name = name;
+    settings.ssid = BytesOf(name);
+    settings.mode = mode;
+    settings.key = name + " key";
+    return {simulation::MakeProfileXml(settings)};
+}
+
+DOT11_SSID MakeSsid(const std::string& bytes)
+{
+    DOT11_SSID ssid{};
+    ssid.uSSIDLength = static_cast<ULONG>(bytes.size());
+    std::memcpy(ssid.ucSSID, bytes.data(), (std::min)(bytes.size(), sizeof ssid.ucSSID));
+    return ssid;
+}
+
+} // namespace calvix::test

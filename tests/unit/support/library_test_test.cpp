@@ -1,0 +1,237 @@
+#include "core/trace.h"
+#include "support/allocation_counter.h"
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "support/strict_copy_guard.h"
+
+#include <gtest/gtest-spi.h>
+
+#include <new>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+/// The fixture without a test around it, for looking at what it reports.
+class Subject final : public LibraryTest
+{
+public:
+    using LibraryTest::LibraryTest;
+    using LibraryTest::TearDown;
+
+private:
+    void TestBody() override {}
+};
+
+class LibraryTestTest : public LibraryTest
+{
+};
+
+FailureRow RescanRow()
+{
+    return {"Rescan()", [](auto& m) { return m.Rescan(); }, "WlanScan", -4, {"WlanScan failed with error: %u"}};
+}
+
+/// Runs a row that is wrong, and gives back what was reported.
+std::string ReportOf(const FailureRow& row)
+{
+    ::testing::TestPartResultArray results;
+    {
+        ::testing::ScopedFakeTestPartResultReporter reporter(
+            ::testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &results);
+        Subject subject;
+        CheckFailure(subject, row);
+        subject.TearDown();
+    }
+    std::string report;
+    for (int i = 0; i < results.size(); ++i)
+        report += std::string(results.GetTestPartResult(i).message()) + "\n";
+    return report;
+}
+
+} // namespace
+
+TEST_F(LibraryTestTest, BeginsWithAnOpenClientAndNothingRecorded)
+{
+    EXPECT_NE(nullptr, ManagerInternals::Client());
+    EXPECT_TRUE(calls().empty());
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(LibraryTestTest, RecordsCallsAndTraces)
+{
+    EXPECT_EQ(0, manager().Rescan());
+    EXPECT_THAT(calls(), ElementsAre("WlanEnumInterfaces", "WlanScan", "WlanFreeMemory"));
+    EXPECT_EQ(kAdapterAText, call("WlanScan")["interface"]);
+    EXPECT_TRUE(sharedTraceUntouched());
+
+    ClearCalls();
+    FailOn("WlanScan", 2150899714);
+    EXPECT_EQ(-4, manager().Rescan());
+    EXPECT_THAT(traced(), ElementsAre("WlanScan failed with error: 2150899714"));
+    EXPECT_EQ("WlanScan failed with error: 2150899714", sharedTrace());
+    EXPECT_FALSE(sharedTraceUntouched());
+    EXPECT_EQ(1u, InjectedFailures());
+}
+
+TEST_F(LibraryTestTest, OpensTheClientAnewWhenItWasForgotten)
+{
+    ForgetClient();
+    EXPECT_TRUE(calls().empty());
+    EXPECT_EQ(0, manager().Rescan());
+    EXPECT_EQ("WlanOpenHandle", calls().front());
+}
+
+TEST_F(LibraryTestTest, PlaysInOtherWorlds)
+{
+    UseWorld(NoAdapterWorld());
+    EXPECT_EQ(0, manager().GetWiFiAdapterCount());
+    UseWorld(RichWorld());
+    EXPECT_EQ(2, manager().GetWiFiAdapterCount());
+}
+
+TEST_F(LibraryTestTest, SurvivesATestThatDeletesTheManager)
+{
+    CWirelessManage::Delete();
+}
+
+TEST_F(LibraryTestTest, CountsTheLibrarysOwnAllocationsOnly)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().Rescan(); }));
+    EXPECT_EQ(1u, CountLibraryAllocations([] { ::operator delete(::operator new(1)); }));
+}
+
+TEST_F(LibraryTestTest, AcceptsRowsThatHold)
+{
+    const auto rescan = [](CWirelessManage& m) { return m.Rescan(); };
+    CheckFailures(*this, {RescanRow(),
+                          {.method = "Rescan()",
+                           .call = rescan,
+                           .expected = -3,
+                           .traced = {"No valid WLAN adapter"},
+                           .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }},
+                          {"Rescan()", rescan, "WlanOpenHandle", -1, {"WlanOpenHandle failed with error: %u"}}});
+    EXPECT_EQ(2, manager().GetWiFiAdapterCount()) << "a row's world ends with it";
+}
+
+TEST(FailureTable, ReportsAWrongCode)
+{
+    FailureRow row = RescanRow();
+    row.expected = -5;
+    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("-5"));
+}
+
+TEST(FailureTable, ReportsAWrongTraceLine)
+{
+    FailureRow row = RescanRow();
+    row.traced = {"WlanScan broke: %u"};
+    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("WlanScan broke: 5"));
+}
+
+TEST(FailureTable, ReportsAMissingTraceLine)
+{
+    FailureRow row = RescanRow();
+    row.traced.push_back("and more");
+    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("and more"));
+}
+
+TEST(FailureTable, ReportsTheWrongBuffer)
+{
+    FailureRow row = RescanRow();
+    row.buffer = TraceBuffer::local;
+    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("the shared trace buffer holds \"WlanScan failed"));
+}
+
+TEST(FailureTable, ReportsAFailureThatWasNeverMet)
+{
+    FailureRow row = RescanRow();
+    row.failingOperation = "WlanConnect";
+    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("call 1 of WlanConnect was never made"));
+}
+
+TEST(FailureTable, NamesTheRowAndTheTracing)
+{
+    FailureRow row = RescanRow();
+    row.expected = 0;
+    row.fromCall = 1;
+    const std::string report = ReportOf(row);
+    EXPECT_THAT(report, ::testing::HasSubstr("Rescan() when WlanScan fails with 5"));
+    EXPECT_THAT(report, ::testing::HasSubstr("tracing off"));
+}
+
+TEST(FailureTable, ReportsABlockThatIsHeld)
+{
+    FailureRow row = RescanRow();
+    row.call = [](auto& m) -> long long
+    {
+        WLAN_INTERFACE_INFO_LIST* list = nullptr;
+        platform::wlan().WlanEnumInterfaces(ManagerInternals::Client(), nullptr, &list);
+        return m.Rescan();
+    };
+    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("blocks of the WLAN service were not released"));
+}
+
+TEST(LibraryTestReport, ReportsADefectUnlessItWasAnnounced)
+{
+    const auto reports = [](const char* announced)
+    {
+        ::testing::TestPartResultArray results;
+        ::testing::ScopedFakeTestPartResultReporter reporter(
+            ::testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &results);
+        Subject subject;
+        if (announced != nullptr)
+            subject.ExpectDefect(announced);
+        int notTheServices = 0;
+        platform::wlan().WlanFreeMemory(&notTheServices);
+        subject.TearDown();
+        return results.size();
+    };
+    EXPECT_EQ(1, reports(nullptr));
+    EXPECT_EQ(0, reports(""));
+    EXPECT_EQ(2, reports("something else"));
+}
+
+TEST(LibraryTestReport, ReportsATraceLineWithoutItsBreak)
+{
+    ::testing::TestPartResultArray results;
+    {
+        ::testing::ScopedFakeTestPartResultReporter reporter(
+            ::testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &results);
+        Subject subject;
+        platform::debugger().OutputDebugStringA("alone");
+        subject.traced();
+        subject.TearDown();
+    }
+    ASSERT_EQ(1, results.size());
+    EXPECT_THAT(results.GetTestPartResult(0).message(), ::testing::HasSubstr("alone"));
+}
+
+TEST(StrictCopyGuardTest, CatchesFatalCallerErrors)
+{
+    ExpectFatal([] { FatalCallerError("Somewhere", "no room"); }, "Somewhere: no room");
+    EXPECT_NONFATAL_FAILURE(ExpectFatal([] {}, "anything"), "no fatal caller error");
+    EXPECT_NONFATAL_FAILURE(ExpectFatal([] { FatalCallerError("Somewhere", "no room"); }, "other"),
+                            "without \"other\"");
+}
+
+TEST(AllocationCounterTest, CountsEveryFormOnceAndNothingInAPause)
+{
+    const AllocationCounter counter;
+    ::operator delete(::operator new(8));
+    ::operator delete[](::operator new[](8));
+    ::operator delete(::operator new(8, std::nothrow));
+    ::operator delete (::operator new (64, std::align_val_t{64}), std::align_val_t{64});
+    EXPECT_EQ(4u, counter.Count());
+    {
+        const AllocationPause pause;
+        ::operator delete(::operator new(8));
+    }
+    EXPECT_EQ(4u, counter.Count());
+}
+
+} // namespace calvix::test
