@@ -31,13 +31,23 @@ struct Link
     bool missedByLastScan = false;
 };
 
-/// One wireless adapter and what the service keeps for it: radio switches, what the last scan heard, profiles, connection.
+/// What surrounds an adapter.
+struct Surroundings
+{
+    EventQueue& time;
+    const std::vector<AccessPoint>& air;
+    const bool& serviceRunning;
+};
+
+/// One wireless adapter and what the service keeps for it: radio switches, what the last scan heard, profiles,
+/// connection.
 class Adapter
 {
 public:
-    /// Takes the adapter as described; it hears the air and makes the described connection at once. `time` and `air`
-    /// outlive it. Throws ScenarioError when the description contradicts itself.
-    Adapter(const AdapterDescription& description, EventQueue& time, const std::vector<AccessPoint>& air);
+    /// Takes the adapter as described; it hears the air and makes the described connection at once, if its access
+    /// point can be heard. What surrounds it outlives it. Throws ScenarioError when the description contradicts
+    /// itself.
+    Adapter(const AdapterDescription& description, const Surroundings& surroundings);
     Adapter(const Adapter&) = delete;
     Adapter& operator=(const Adapter&) = delete;
 
@@ -61,8 +71,8 @@ public:
 
     ProfileStore& Profiles() { return m_profiles; }
     const ProfileStore& Profiles() const { return m_profiles; }
-    /// Ends the connection if a profile that is gone holds it.
-    void ProfileDeleted(const std::wstring& name);
+    /// Deletes a profile, and ends a connection that was made or is being made with it.
+    DWORD DeleteProfile(const std::wstring& name);
 
     WLAN_INTERFACE_STATE State() const { return m_state; }
     void SetState(WLAN_INTERFACE_STATE state) { m_state = state; }
@@ -76,24 +86,25 @@ public:
     /// Takes down what stands and gives up what is being tried.
     void Disconnect();
 
-    bool autoConfiguration = true; ///< whether the service scans by itself
-    bool backgroundScan = true;    ///< whether it does so while connected
+    bool autoConfiguration = true; ///< whether the service looks after this adapter, that is, scans by itself
+    bool backgroundScan = true;    ///< whether it scans by itself while connected, too
 
 private:
     void LoadProfiles();
     void Restore(const Connection& connection);
     void ScanByItself();
     void FinishScan();
+    void StopScan();
     void NoticeLostLink();
     void Authenticate();
     void FinishConnecting();
+    void HearLink();
     const AccessPoint* FindAccessPoint(const ConnectionRequest& request) const;
 
     AdapterDescription m_description;
     GUID m_guid;
     std::wstring m_descriptionText;
-    EventQueue& m_time;
-    const std::vector<AccessPoint>& m_air;
+    Surroundings m_around;
 
     ProfileStore m_profiles;
     std::vector<HeardBss> m_heard;

@@ -9,9 +9,9 @@
 namespace calvix::simulation
 {
 
-/// An allocator that knows its blocks. A block is exactly as large as asked for. A freed block is filled with a pattern and
-/// kept for a while, so that writes into it are found; releasing it twice, or releasing what is not a block, is noted as a
-/// defect and otherwise has no effect.
+/// An allocator that knows its blocks. A block is exactly as large as asked for. A freed block is filled with a
+/// pattern and kept for a while, so that writes into it are found; releasing it twice, or releasing what is not a
+/// block, is noted as a defect and otherwise has no effect.
 class Blocks
 {
 public:
@@ -21,8 +21,8 @@ public:
     Blocks(const Blocks&) = delete;
     Blocks& operator=(const Blocks&) = delete;
 
-    /// A zeroed block of `size` bytes, at least one, aligned for any record. `what` names it in defects and is kept as a
-    /// pointer: pass a literal.
+    /// A zeroed block of `size` bytes, at least one, aligned for any record. `what` names it in defects and is kept
+    /// as a pointer: pass a literal.
     void* Allocate(std::size_t size, const char* what);
 
     /// Releases a block. Null is ignored, as free() does.

@@ -65,8 +65,8 @@ public:
     Scenario Snapshot() const;
 
 private:
-    struct Machine;
-    std::unique_ptr<Machine> m_machine;
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
 };
 
 } // namespace calvix::simulation

@@ -18,13 +18,15 @@ public:
 
     std::chrono::milliseconds Now() const { return m_now; }
 
-    /// Runs `action` when `after` has passed. What falls due at the same time runs in the order in which it was scheduled.
+    /// Runs `action` when `after` has passed. What falls due at the same time runs in the order in which it was
+    /// scheduled.
     EventId Schedule(std::chrono::milliseconds after, Action action);
 
     /// Takes an event out again; one that has run or was never scheduled is ignored.
     void Cancel(EventId event);
 
-    /// Lets time pass and runs what falls due on the way, also what is scheduled meanwhile. Each action sees its own time.
+    /// Lets time pass and runs what falls due on the way, also what is scheduled meanwhile. Each action sees its
+    /// own time.
     void Advance(std::chrono::milliseconds duration);
 
 private:

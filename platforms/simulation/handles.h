@@ -20,8 +20,8 @@ enum class HandleKind
     thread
 };
 
-/// The handles that the computer gave out. A value stands for one object of one kind, is never null and is never given
-/// out again, so that the use of a closed handle cannot go unnoticed.
+/// The handles that the computer gave out. A value stands for one object of one kind, is never null and is never
+/// given out again, so that the use of a closed handle cannot go unnoticed.
 class Handles
 {
 public:
@@ -33,8 +33,8 @@ public:
     /// Whether `handle` is open and of this kind.
     bool IsOpen(HANDLE handle, HandleKind kind) const;
 
-    /// IsOpen for the operation named, which is not entitled to a "no": a handle that is not null and not open is noted as a
-    /// defect, "WlanScan: use of closed client handle".
+    /// IsOpen for the operation named, which is not entitled to a "no": a handle that is not null and not open is
+    /// noted as a defect, "WlanScan: use of closed client handle".
     bool Use(HANDLE handle, HandleKind kind, const char* operation);
 
     /// Closes the handle; false, with the same note as Use, if it is not open.

@@ -27,9 +27,12 @@ struct HeardBss
 /// Signal quality: 0 to 100, linear between -100 and -50 dBm.
 ULONG SignalQuality(std::int32_t rssi);
 
+/// Which of an adapter's PHYs speaks with an access point of this type. Newer ones are spoken to with what there
+/// is: the first PHY.
+ULONG PhyIndex(const std::vector<PhyDescription>& phys, std::uint32_t phyType);
+
 /// What an adapter hears of the air now. Hidden networks whose SSID is `asked` for answer with it.
-std::vector<HeardBss> Listen(const std::vector<AccessPoint>& air,
-                             const std::optional<Bytes>& asked,
-                             std::chrono::milliseconds now);
+std::vector<HeardBss>
+Listen(const std::vector<AccessPoint>& air, const std::optional<Bytes>& asked, std::chrono::milliseconds now);
 
 } // namespace calvix::simulation

@@ -8,6 +8,7 @@
 
 #include <calvix/platform_records.h>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,7 +16,8 @@
 namespace calvix::simulation
 {
 
-/// What the facilities of one simulated computer share. Each facility refers to the one machine it works on; none owns it.
+/// What the facilities of one simulated computer share. Each facility refers to the one machine it works on; none
+/// owns it.
 struct Machine
 {
     /// Throws ScenarioError when the scenario contradicts itself.
@@ -24,7 +26,7 @@ struct Machine
     Machine& operator=(const Machine&) = delete;
 
     std::string description;
-    UINT codePage;
+    std::uint32_t codePage;
     bool serviceRunning;
     bool locationConsent;
     std::vector<AccessPoint> air; ///< what could be heard now; adapters know what they heard last
@@ -38,6 +40,9 @@ struct Machine
     Blocks wlanBlocks{defects}; ///< the WLAN service's allocator
 
     std::vector<std::unique_ptr<Adapter>> adapters;
+
+    /// The adapter of this interface GUID, or null.
+    Adapter* FindAdapter(const GUID& guid) const;
 
     /// Whether any adapter is connected to a network.
     bool IsConnected() const;

@@ -46,8 +46,7 @@ BOOLEAN SimulatedPower::SetActivePwrScheme(UINT, GLOBAL_POWER_POLICY*, POWER_POL
     return static_cast<BOOLEAN>(Refuse());
 }
 
-DWORD SimulatedPower::PowerEnumerate(
-    HKEY, const GUID*, const GUID*, POWER_DATA_ACCESSOR, ULONG, UCHAR*, DWORD*)
+DWORD SimulatedPower::PowerEnumerate(HKEY, const GUID*, const GUID*, POWER_DATA_ACCESSOR, ULONG, UCHAR*, DWORD*)
 {
     return ERROR_CALL_NOT_IMPLEMENTED;
 }

@@ -17,10 +17,8 @@ public:
         POWER_INFORMATION_LEVEL level, PVOID input, ULONG inputSize, PVOID output, ULONG outputSize) override;
     BOOLEAN GetActivePwrScheme(UINT* schemeId) override;
     BOOLEAN ReadPwrScheme(UINT schemeId, POWER_POLICY* policy) override;
-    BOOLEAN WritePwrScheme(UINT* schemeId,
-                           const wchar_t* name,
-                           const wchar_t* description,
-                           POWER_POLICY* policy) override;
+    BOOLEAN
+    WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t* description, POWER_POLICY* policy) override;
     BOOLEAN
     SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY* globalPolicy, POWER_POLICY* policy) override;
     DWORD PowerEnumerate(HKEY root,

@@ -33,8 +33,8 @@ struct ProfileRefusal
 /// returned and `refusal` says why when the document is not a usable profile.
 std::optional<ProfileDocument> ParseProfile(const std::string& xml, ProfileRefusal& refusal);
 
-/// The profile with its key as the service hands it out to callers who may not see it, and back. Both leave a document
-/// without such a key as it is.
+/// The profile with its key as the service hands it out to callers who may not see it, and back. Both leave a
+/// document without such a key as it is.
 std::wstring WithProtectedKey(const std::wstring& xml);
 std::wstring WithPlainKey(const std::wstring& xml);
 

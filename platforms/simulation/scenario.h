@@ -27,6 +27,8 @@ struct PhyDescription
     std::uint32_t type = 7; ///< DOT11_PHY_TYPE
     RadioSwitch software = RadioSwitch::on;
     RadioSwitch hardware = RadioSwitch::on;
+
+    bool operator==(const PhyDescription&) const = default;
 };
 
 struct AccessPoint
@@ -42,23 +44,31 @@ struct AccessPoint
     std::string encryption = "AES";       ///< as in a profile: none, WEP, TKIP, AES, GCMP256
     std::uint16_t beaconPeriod = 100;     ///< in 1024 microseconds
     Bytes informationElements;            ///< empty: made up from the other fields
+
+    bool operator==(const AccessPoint&) const = default;
 };
 
 struct StoredProfile
 {
     std::string xml; ///< the whole profile document; the scenario file may give a short form instead
+
+    bool operator==(const StoredProfile&) const = default;
 };
 
 struct Connection
 {
     std::string profile;              ///< name of a stored profile
     std::optional<MacAddress> bssid;  ///< none: the strongest access point of the profile's network
+
+    bool operator==(const Connection&) const = default;
 };
 
 struct Statistics
 {
     std::uint64_t transmitted = 0; ///< unicast frames
     std::uint64_t received = 0;
+
+    bool operator==(const Statistics&) const = default;
 };
 
 struct AdapterDescription
@@ -72,6 +82,8 @@ struct AdapterDescription
     std::vector<StoredProfile> profiles;      ///< in preference order
     std::optional<Connection> connection;
     Statistics statistics;
+
+    bool operator==(const AdapterDescription&) const = default;
 };
 
 struct Scenario
@@ -82,6 +94,8 @@ struct Scenario
     bool locationConsent = true; ///< without it the service refuses whatever would tell where the computer is
     std::vector<AdapterDescription> adapters;
     std::vector<AccessPoint> accessPoints;
+
+    bool operator==(const Scenario&) const = default;
 };
 
 /// A scenario that cannot be used; the message names the file and the place in it.

@@ -21,8 +21,7 @@ BOOL SimulatedSecurity::LookupPrivilegeValueA(const char*, const char*, LUID*)
     return Refuse();
 }
 
-BOOL SimulatedSecurity::AdjustTokenPrivileges(
-    HANDLE, BOOL, TOKEN_PRIVILEGES*, DWORD, TOKEN_PRIVILEGES*, DWORD*)
+BOOL SimulatedSecurity::AdjustTokenPrivileges(HANDLE, BOOL, TOKEN_PRIVILEGES*, DWORD, TOKEN_PRIVILEGES*, DWORD*)
 {
     return Refuse();
 }

@@ -17,8 +17,8 @@ struct SecuritySuite
     bool operator==(const SecuritySuite&) const = default;
 };
 
-/// The suite of the names that a profile uses ("WPA2PSK", "AES"). A name that is not known gets a number of the range that
-/// the API leaves to vendors, which no adapter of this computer supports.
+/// The suite of the names that a profile uses ("WPA2PSK", "AES"). A name that is not known gets a number of the
+/// range that the API leaves to vendors, which no adapter of this computer supports.
 SecuritySuite SuiteFromNames(std::string_view authentication, std::string_view encryption);
 
 /// Whether the names mean something at all, whether or not they go together.

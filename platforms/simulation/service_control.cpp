@@ -2,9 +2,6 @@
 
 #include "platform/records/error_numbers.h"
 
-#include <cstring>
-#include <string>
-
 namespace calvix::simulation
 {
 
@@ -99,8 +96,8 @@ BOOL SimulatedServiceControl::StartServiceA(SC_HANDLE service, DWORD, const char
 
 BOOL SimulatedServiceControl::CloseServiceHandle(SC_HANDLE handle)
 {
-    const HandleKind kind = m_handles.IsOpen(handle, HandleKind::serviceManager) ? HandleKind::serviceManager
-                                                                                 : HandleKind::service;
+    const HandleKind kind =
+        m_handles.IsOpen(handle, HandleKind::serviceManager) ? HandleKind::serviceManager : HandleKind::service;
     return m_handles.Close(handle, kind, "CloseServiceHandle") ? TRUE : Fail(ERROR_INVALID_HANDLE);
 }
 

@@ -15,10 +15,7 @@ class SimulatedText final : public platform::Text
 {
 public:
     /// `lastError` receives the reason of a failure, `codePage` is the active code page; both outlive this object.
-    SimulatedText(DWORD& lastError, const std::uint32_t& codePage)
-        : m_lastError(lastError), m_codePage(codePage)
-    {
-    }
+    SimulatedText(DWORD& lastError, const std::uint32_t& codePage) : m_lastError(lastError), m_codePage(codePage) {}
 
     int MultiByteToWideChar(UINT codePage,
                             DWORD flags,

@@ -1,0 +1,102 @@
+#include "simulation/bss_list.h"
+
+#include "platform/records/wlan_constants.h"
+#include "simulation/host_time.h"
+#include "simulation/information_elements.h"
+#include "simulation/service_records.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+// The longest that the service passes on.
+constexpr std::size_t mostInformationElements = 2324;
+
+constexpr USHORT capabilityEss = 0x0001;
+constexpr USHORT capabilityIbss = 0x0002;
+constexpr USHORT capabilityPrivacy = 0x0010;
+
+USHORT Capabilities(const HeardBss& bss)
+{
+    const USHORT kind = bss.accessPoint.bssType == dot11_BSS_type_independent ? capabilityIbss : capabilityEss;
+    return IsSecured(bss.security) ? static_cast<USHORT>(kind | capabilityPrivacy) : kind;
+}
+
+// The record's length counts bytes; beacons give rates in units of 500 kbit/s, with the basic ones marked, and so
+// does the record.
+WLAN_RATE_SET RateSet(const AccessPoint& accessPoint)
+{
+    WLAN_RATE_SET set{};
+    std::size_t count = 0;
+    for (const std::uint8_t rate : SupportedRates(accessPoint))
+    {
+        const int basic = (rate & 0x80) != 0 ? 0x8000 : 0;
+        set.usRateSet[count++] = static_cast<USHORT>((rate & 0x7f) | basic);
+    }
+    set.uRateSetLength = static_cast<ULONG>(count * sizeof(set.usRateSet[0]));
+    return set;
+}
+
+void FillEntry(const HeardBss& bss, const std::vector<PhyDescription>& phys, WLAN_BSS_ENTRY& entry)
+{
+    const AccessPoint& point = bss.accessPoint;
+    entry.dot11Ssid = MakeSsid(bss.Ssid());
+    entry.uPhyId = PhyIndex(phys, point.phyType);
+    std::copy(point.bssid.begin(), point.bssid.end(), entry.dot11Bssid);
+    entry.dot11BssType = static_cast<DOT11_BSS_TYPE>(point.bssType);
+    entry.dot11BssPhyType = static_cast<DOT11_PHY_TYPE>(point.phyType);
+    entry.lRssi = point.rssi;
+    entry.uLinkQuality = SignalQuality(point.rssi);
+    entry.bInRegDomain = TRUE;
+    entry.usBeaconPeriod = point.beaconPeriod;
+    // Chosen: every access point was switched on when the computer was.
+    entry.ullTimestamp = static_cast<ULONGLONG>(std::chrono::microseconds(bss.heardAt).count());
+    entry.ullHostTimestamp = HostTime(bss.heardAt);
+    entry.usCapabilityInformation = Capabilities(bss);
+    entry.ulChCenterFrequency = point.frequencyKhz;
+    entry.wlanRateSet = RateSet(point);
+}
+
+} // namespace
+
+WLAN_BSS_LIST*
+MakeBssList(Blocks& blocks, const std::vector<const HeardBss*>& chosen, const std::vector<PhyDescription>& phys)
+{
+    std::vector<Bytes> elements;
+    const std::size_t entriesEnd = offsetof(WLAN_BSS_LIST, wlanBssEntries) + chosen.size() * sizeof(WLAN_BSS_ENTRY);
+    std::size_t size = entriesEnd;
+    for (const HeardBss* const bss : chosen)
+    {
+        elements.push_back(InformationElements(*bss));
+        elements.back().resize(std::min(elements.back().size(), mostInformationElements));
+        size += elements.back().size();
+    }
+    auto* const list = NewRecord<WLAN_BSS_LIST>(blocks, size, "BSS list");
+    list->dwTotalSize = static_cast<DWORD>(size);
+    list->dwNumberOfItems = static_cast<DWORD>(chosen.size());
+    auto* const bytes = reinterpret_cast<std::uint8_t*>(list);
+    std::size_t elementsAt = entriesEnd;
+    for (std::size_t index = 0; index < chosen.size(); ++index)
+    {
+        const std::size_t entryAt = offsetof(WLAN_BSS_LIST, wlanBssEntries) + index * sizeof(WLAN_BSS_ENTRY);
+        WLAN_BSS_ENTRY entry{};
+        FillEntry(*chosen[index], phys, entry);
+        entry.ulIeOffset = static_cast<ULONG>(elementsAt - entryAt);
+        entry.ulIeSize = static_cast<ULONG>(elements[index].size());
+        std::memcpy(bytes + entryAt, &entry, sizeof(entry));
+        if (!elements[index].empty())
+        {
+            std::memcpy(bytes + elementsAt, elements[index].data(), elements[index].size());
+        }
+        elementsAt += elements[index].size();
+    }
+    return list;
+}
+
+} // namespace calvix::simulation

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "simulation/event_queue.h"
+
+namespace calvix::simulation
+{
+
+/// A clock that waits by letting simulated time pass at once.
+class SimulatedClock final : public platform::Clock
+{
+public:
+    /// `lastError` receives the reason of a failure; both outlive this object.
+    SimulatedClock(DWORD& lastError, EventQueue& time) : m_lastError(lastError), m_time(time) {}
+
+    void Sleep(DWORD milliseconds) override;
+    BOOL FileTimeToSystemTime(const FILETIME* fileTime, SYSTEMTIME* systemTime) override;
+
+private:
+    DWORD& m_lastError;
+    EventQueue& m_time;
+};
+
+} // namespace calvix::simulation

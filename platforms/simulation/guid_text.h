@@ -1,0 +1,14 @@
+#pragma once
+
+#include <calvix/platform_records.h>
+
+#include <optional>
+#include <string_view>
+
+namespace calvix::simulation
+{
+
+/// The GUID that "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" stands for; nothing for any other text.
+std::optional<GUID> GuidFromText(std::string_view text);
+
+} // namespace calvix::simulation

@@ -1,0 +1,119 @@
+#include "simulation/interface_answers.h"
+
+#include "simulation/service_records.h"
+
+#include <algorithm>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+template <typename Record>
+Record* NewAnswer(Blocks& blocks, std::size_t size = sizeof(Record))
+{
+    return NewRecord<Record>(blocks, size, "query result");
+}
+
+DOT11_RADIO_STATE RadioState(RadioSwitch radio)
+{
+    return radio == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
+}
+
+// Chosen: the best rate that each kind of PHY commonly reaches with two antennas, in kbit/s, and the worst of all
+// for others.
+ULONG LinkRate(std::uint32_t phyType)
+{
+    struct KindRate
+    {
+        std::uint32_t phyType;
+        ULONG rate;
+    };
+    constexpr KindRate rates[] = {{dot11_phy_type_ofdm, 54'000},
+                                  {dot11_phy_type_hrdsss, 11'000},
+                                  {dot11_phy_type_erp, 54'000},
+                                  {dot11_phy_type_ht, 144'400},
+                                  {8, 866'700},
+                                  {10, 1'201'000},
+                                  {11, 2'882'400}};
+    const auto* const found = std::find_if(std::begin(rates), std::end(rates),
+                                           [phyType](const KindRate& entry) { return entry.phyType == phyType; });
+    return found != std::end(rates) ? found->rate : 1'000;
+}
+
+WLAN_ASSOCIATION_ATTRIBUTES Association(const Adapter& adapter)
+{
+    const Link& link = *adapter.CurrentLink();
+    WLAN_ASSOCIATION_ATTRIBUTES association{};
+    association.dot11Ssid = MakeSsid(link.accessPoint.ssid);
+    association.dot11BssType = static_cast<DOT11_BSS_TYPE>(link.accessPoint.bssType);
+    std::copy(link.accessPoint.bssid.begin(), link.accessPoint.bssid.end(), association.dot11Bssid);
+    association.dot11PhyType = static_cast<DOT11_PHY_TYPE>(link.accessPoint.phyType);
+    association.uDot11PhyIndex = PhyIndex(adapter.Phys(), link.accessPoint.phyType);
+    association.wlanSignalQuality = SignalQuality(adapter.LinkRssi());
+    association.ulRxRate = LinkRate(link.accessPoint.phyType);
+    association.ulTxRate = association.ulRxRate;
+    return association;
+}
+
+} // namespace
+
+InterfaceAnswer AnswerConnection(Blocks& blocks, const Adapter& adapter)
+{
+    const ProfileDocument& profile = adapter.CurrentLink()->profile->document;
+    auto* const answer = NewAnswer<WLAN_CONNECTION_ATTRIBUTES>(blocks);
+    answer->isState = adapter.State();
+    answer->wlanConnectionMode = wlan_connection_mode_profile;
+    CopyText(profile.name, answer->strProfileName);
+    answer->wlanAssociationAttributes = Association(adapter);
+    answer->wlanSecurityAttributes.bSecurityEnabled = IsSecured(profile.security) ? TRUE : FALSE;
+    answer->wlanSecurityAttributes.bOneXEnabled = UsesOneX(profile.security) ? TRUE : FALSE;
+    answer->wlanSecurityAttributes.dot11AuthAlgorithm = profile.security.authentication;
+    answer->wlanSecurityAttributes.dot11CipherAlgorithm = profile.security.encryption;
+    return {answer, sizeof(*answer)};
+}
+
+// The customary channel number of the connection's frequency.
+InterfaceAnswer AnswerChannel(Blocks& blocks, const Adapter& adapter)
+{
+    const std::uint32_t megahertz = adapter.CurrentLink()->accessPoint.frequencyKhz / 1000;
+    const std::uint32_t base = megahertz < 3000 ? 2407 : megahertz < 5950 ? 5000 : 5950;
+    return AnswerNumber(blocks, static_cast<ULONG>(megahertz == 2484 ? 14 : (megahertz - base) / 5));
+}
+
+InterfaceAnswer AnswerRssi(Blocks& blocks, const Adapter& adapter)
+{
+    return AnswerNumber(blocks, static_cast<LONG>(adapter.LinkRssi()));
+}
+
+// The record has room for the most PHYs that there can be, and is handed out whole.
+InterfaceAnswer AnswerRadioState(Blocks& blocks, const Adapter& adapter)
+{
+    auto* const answer = NewAnswer<WLAN_RADIO_STATE>(blocks);
+    for (const PhyDescription& phy : adapter.Phys())
+    {
+        WLAN_PHY_RADIO_STATE& state = answer->PhyRadioState[answer->dwNumberOfPhys];
+        state.dwPhyIndex = answer->dwNumberOfPhys++;
+        state.dot11SoftwareRadioState = RadioState(phy.software);
+        state.dot11HardwareRadioState = RadioState(phy.hardware);
+    }
+    return {answer, sizeof(*answer)};
+}
+
+// Chosen: all frames are unicast, and all went through the first PHY.
+InterfaceAnswer AnswerStatistics(Blocks& blocks, const Adapter& adapter)
+{
+    const std::size_t phys = std::max<std::size_t>(adapter.Phys().size(), 1);
+    const std::size_t size = sizeof(WLAN_STATISTICS) + (phys - 1) * sizeof(WLAN_PHY_FRAME_STATISTICS);
+    auto* const answer = NewAnswer<WLAN_STATISTICS>(blocks, size);
+    const Statistics& counts = adapter.FrameCounts();
+    answer->MacUcastCounters.ullTransmittedFrameCount = counts.transmitted;
+    answer->MacUcastCounters.ullReceivedFrameCount = counts.received;
+    answer->dwNumberOfPhys = static_cast<DWORD>(adapter.Phys().size());
+    answer->PhyCounters[0].ullTransmittedFrameCount = counts.transmitted;
+    answer->PhyCounters[0].ullReceivedFrameCount = counts.received;
+    return {answer, size};
+}
+
+} // namespace calvix::simulation

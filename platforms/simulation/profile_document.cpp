@@ -1,0 +1,329 @@
+#include "simulation/profile_document.h"
+
+#include "platform/records/error_numbers.h"
+#include "platform/records/wlan_constants.h"
+#include "simulation/utf8.h"
+
+#include <rapidxml/rapidxml.hpp>
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+using Element = rapidxml::xml_node<char>;
+
+constexpr std::size_t longestName = WLAN_MAX_NAME_LENGTH - 1;
+
+// The parser recurses into elements. No profile nests deeper than ten, so that this is refused before it can hurt.
+constexpr int deepestNesting = 64;
+
+struct Refused
+{
+    ProfileRefusal refusal;
+};
+
+[[noreturn]] void Refuse(WLAN_REASON_CODE reason, DWORD error = ERROR_BAD_PROFILE)
+{
+    throw Refused{{error, reason}};
+}
+
+bool IsNestedTooDeep(std::string_view xml)
+{
+    int depth = 0;
+    for (std::size_t at = 0; at + 1 < xml.size() && depth <= deepestNesting; ++at)
+    {
+        if (xml[at] == '<' && xml[at + 1] == '/')
+        {
+            --depth;
+        }
+        else if (xml[at] == '/' && xml[at + 1] == '>')
+        {
+            --depth;
+        }
+        else if (xml[at] == '<' && xml[at + 1] != '!' && xml[at + 1] != '?')
+        {
+            ++depth;
+        }
+    }
+    return depth > deepestNesting;
+}
+
+const Element& Child(const Element& parent,
+                     const char* name,
+                     WLAN_REASON_CODE reasonIfMissing = WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA)
+{
+    const Element* const child = parent.first_node(name);
+    if (child == nullptr)
+    {
+        Refuse(reasonIfMissing);
+    }
+    return *child;
+}
+
+std::string_view Text(const Element& element)
+{
+    return {element.value(), element.value_size()};
+}
+
+bool ReadFlag(const Element& parent, const char* name, bool otherwise)
+{
+    const Element* const child = parent.first_node(name);
+    if (child == nullptr)
+    {
+        return otherwise;
+    }
+    if (Text(*child) != "true" && Text(*child) != "false")
+    {
+        Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
+    }
+    return Text(*child) == "true";
+}
+
+std::wstring ReadName(const Element& root)
+{
+    const std::wstring name = WideFromUtf8(Text(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
+    if (name.empty() || name.size() > longestName)
+    {
+        Refuse(WLAN_REASON_CODE_INVALID_PROFILE_NAME);
+    }
+    return name;
+}
+
+int HexDigit(char digit)
+{
+    constexpr std::string_view digits = "0123456789ABCDEFabcdef";
+    const std::size_t value = digits.find(digit);
+    return value == std::string_view::npos ? -1 : static_cast<int>(value < 16 ? value : value - 6);
+}
+
+std::optional<Bytes> FromHex(std::string_view hex)
+{
+    Bytes bytes;
+    for (std::size_t at = 0; at + 1 < hex.size(); at += 2)
+    {
+        const int high = HexDigit(hex[at]);
+        const int low = HexDigit(hex[at + 1]);
+        if (high < 0 || low < 0)
+        {
+            return std::nullopt;
+        }
+        bytes.push_back(static_cast<std::uint8_t>(high * 16 + low));
+    }
+    return hex.size() % 2 == 0 ? std::optional(bytes) : std::nullopt;
+}
+
+// Where both are given the hexadecimal form counts; the name is for people.
+Bytes ReadSsid(const Element& config)
+{
+    const Element& ssid = Child(config, "SSID");
+    const Element* const hex = ssid.first_node("hex");
+    const std::string_view name = hex == nullptr ? Text(Child(ssid, "name")) : std::string_view();
+    const auto bytes = hex != nullptr ? FromHex(Text(*hex)) : std::optional(Bytes(name.begin(), name.end()));
+    if (!bytes || bytes->empty() || bytes->size() > DOT11_SSID_MAX_LENGTH)
+    {
+        Refuse(WLAN_REASON_CODE_PROFILE_SSID_INVALID);
+    }
+    return *bytes;
+}
+
+DOT11_BSS_TYPE ReadBssType(const Element& root)
+{
+    const std::string_view type = Text(Child(root, "connectionType"));
+    if (type != "ESS" && type != "IBSS")
+    {
+        Refuse(WLAN_REASON_CODE_INVALID_BSS_TYPE);
+    }
+    return type == "ESS" ? dot11_BSS_type_infrastructure : dot11_BSS_type_independent;
+}
+
+// A network of access points is joined automatically unless the profile says otherwise; an ad hoc one never is.
+bool ReadMode(const Element& root, DOT11_BSS_TYPE bssType)
+{
+    const bool isAdHoc = bssType == dot11_BSS_type_independent;
+    const Element* const mode = root.first_node("connectionMode");
+    if (mode == nullptr)
+    {
+        return !isAdHoc;
+    }
+    if (Text(*mode) != "auto" && Text(*mode) != "manual")
+    {
+        Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
+    }
+    if (Text(*mode) == "auto" && isAdHoc)
+    {
+        Refuse(WLAN_REASON_CODE_INVALID_ADHOC_CONNECTION_MODE);
+    }
+    return Text(*mode) == "auto";
+}
+
+// A profile without a key is taken: the service would ask the user for it.
+void CheckKey(const Element& security, SecuritySuite suite)
+{
+    const Element* const sharedKey = security.first_node("sharedKey");
+    if (sharedKey == nullptr)
+    {
+        return;
+    }
+    const std::string_view type = Text(Child(*sharedKey, "keyType"));
+    Child(*sharedKey, "protected");
+    const bool isProtected = ReadFlag(*sharedKey, "protected", false);
+    const std::string_view key = Text(Child(*sharedKey, "keyMaterial"));
+    if (type != "passPhrase" && type != "networkKey")
+    {
+        Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
+    }
+    const bool isPassphrase = type == "passPhrase" && UsesPassphrase(suite) && !isProtected;
+    if (isPassphrase && (key.size() < 8 || key.size() > 63))
+    {
+        Refuse(WLAN_REASON_CODE_MSMSEC_PROFILE_PSK_LENGTH);
+    }
+}
+
+SecuritySuite ReadSecurity(const Element& root)
+{
+    const Element& msm = Child(root, "MSM", WLAN_REASON_CODE_MSM_SECURITY_MISSING);
+    const Element& security = Child(msm, "security", WLAN_REASON_CODE_MSM_SECURITY_MISSING);
+    const Element& method = Child(security, "authEncryption", WLAN_REASON_CODE_MSMSEC_PROFILE_NO_AUTH_CIPHER_SPECIFIED);
+    const std::string_view authentication = Text(Child(method, "authentication"));
+    const std::string_view encryption = Text(Child(method, "encryption"));
+    if (!IsAuthenticationName(authentication) || !IsEncryptionName(encryption))
+    {
+        Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
+    }
+    const SecuritySuite suite = SuiteFromNames(authentication, encryption);
+    if (!IsSupported(suite))
+    {
+        Refuse(WLAN_REASON_CODE_MSMSEC_PROFILE_INVALID_AUTH_CIPHER, ERROR_NO_MATCH);
+    }
+    CheckKey(security, suite);
+    return suite;
+}
+
+ProfileDocument ReadProfile(const Element& root)
+{
+    ProfileDocument profile;
+    profile.name = ReadName(root);
+    const Element& config = Child(root, "SSIDConfig");
+    profile.ssid = ReadSsid(config);
+    profile.hidden = ReadFlag(config, "nonBroadcast", false);
+    profile.bssType = ReadBssType(root);
+    if (profile.hidden && profile.bssType == dot11_BSS_type_independent)
+    {
+        Refuse(WLAN_REASON_CODE_NON_BROADCAST_SET_FOR_ADHOC);
+    }
+    profile.automatic = ReadMode(root, profile.bssType);
+    profile.security = ReadSecurity(root);
+    return profile;
+}
+
+// Protected keys. The real service encrypts them for the machine; here they only have to be told from plain ones
+// and to be readable again, so that the form was chosen: a mark, and the key's bytes in hexadecimal.
+
+constexpr std::wstring_view protectedMark = L"CA1F15EA1ED0";
+
+struct Span
+{
+    std::size_t begin;
+    std::size_t length;
+};
+
+// The text of the first element of this name.
+std::optional<Span> FindText(const std::wstring& xml, const std::wstring& element)
+{
+    const std::size_t tag = xml.find(L"<" + element + L">");
+    const std::size_t begin = tag + element.size() + 2;
+    const std::size_t end = tag == std::wstring::npos ? tag : xml.find(L"</" + element + L">", begin);
+    return end == std::wstring::npos ? std::nullopt : std::optional(Span{begin, end - begin});
+}
+
+void ReplaceText(std::wstring& xml, const std::wstring& element, const std::wstring& text)
+{
+    if (const auto span = FindText(xml, element))
+    {
+        xml.replace(span->begin, span->length, text);
+    }
+}
+
+std::optional<std::wstring> KeyOf(const std::wstring& xml, std::wstring_view isProtected)
+{
+    const auto flag = FindText(xml, L"protected");
+    const auto key = FindText(xml, L"keyMaterial");
+    if (!flag || !key || xml.compare(flag->begin, flag->length, isProtected) != 0)
+    {
+        return std::nullopt;
+    }
+    return xml.substr(key->begin, key->length);
+}
+
+} // namespace
+
+std::optional<ProfileDocument> ParseProfile(const std::string& xml, ProfileRefusal& refusal)
+{
+    try
+    {
+        if (IsNestedTooDeep(xml))
+        {
+            Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
+        }
+        std::vector<char> text(xml.begin(), xml.end());
+        text.push_back('\0');
+        rapidxml::xml_document<char> document;
+        document.parse<rapidxml::parse_validate_closing_tags>(text.data());
+        return ReadProfile(Child(document, "WLANProfile"));
+    }
+    catch (const rapidxml::parse_error&)
+    {
+        refusal = {ERROR_BAD_PROFILE, WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA};
+    }
+    catch (const Refused& refused)
+    {
+        refusal = refused.refusal;
+    }
+    return std::nullopt;
+}
+
+std::wstring WithProtectedKey(const std::wstring& xml)
+{
+    const auto key = KeyOf(xml, L"false");
+    if (!key)
+    {
+        return xml;
+    }
+    std::wstring hidden(protectedMark);
+    for (const char byte : Utf8FromWide(*key))
+    {
+        constexpr std::wstring_view digits = L"0123456789ABCDEF";
+        hidden += digits[static_cast<unsigned char>(byte) / 16];
+        hidden += digits[static_cast<unsigned char>(byte) % 16];
+    }
+    std::wstring result = xml;
+    ReplaceText(result, L"protected", L"true");
+    ReplaceText(result, L"keyMaterial", hidden);
+    return result;
+}
+
+std::wstring WithPlainKey(const std::wstring& xml)
+{
+    const auto key = KeyOf(xml, L"true");
+    if (!key || key->compare(0, protectedMark.size(), protectedMark) != 0)
+    {
+        return xml;
+    }
+    const auto bytes = FromHex(Utf8FromWide(std::wstring_view(*key).substr(protectedMark.size())));
+    if (!bytes)
+    {
+        return xml;
+    }
+    std::wstring result = xml;
+    ReplaceText(result, L"protected", L"false");
+    ReplaceText(result, L"keyMaterial", WideFromUtf8(std::string(bytes->begin(), bytes->end())));
+    return result;
+}
+
+} // namespace calvix::simulation

@@ -1,0 +1,324 @@
+#include "simulation/embedded_texts.h"
+#include "simulation/profile_document.h"
+#include "simulation/scenario.h"
+#include "simulation/scenario_names.h"
+#include "simulation/scenario_schema.h"
+#include "simulation/utf8.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+using nlohmann::json;
+
+constexpr std::size_t kLongestSsid = 32;
+
+/// A value of the file that knows where it stands. The schema has been checked, so types are what they should be.
+class Value
+{
+public:
+    Value(const json& value, const std::string& source, std::string pointer = "")
+        : m_value(&value), m_source(&source), m_pointer(std::move(pointer))
+    {
+    }
+
+    bool Has(const char* name) const { return m_value->contains(name); }
+    Value operator[](const char* name) const { return {m_value->at(name), *m_source, m_pointer + "/" + name}; }
+
+    /// The elements of the array of this name, none if it is missing.
+    std::vector<Value> Elements(const char* name) const
+    {
+        std::vector<Value> elements;
+        if (Has(name))
+            for (const json& element : m_value->at(name))
+                elements.emplace_back(element, *m_source,
+                                      m_pointer + "/" + name + "/" + std::to_string(elements.size()));
+        return elements;
+    }
+
+    const std::string& Text() const { return m_value->get_ref<const std::string&>(); }
+
+    /// Puts the member of this name into `target`, which keeps its default if there is none.
+    template <typename Target>
+    void Read(const char* name, Target& target) const
+    {
+        if (Has(name))
+            target = m_value->at(name).get<Target>();
+    }
+
+    template <std::size_t Count>
+    void ReadNamed(const char* name, const NumberName (&names)[Count], std::uint32_t& target) const
+    {
+        if (!Has(name))
+            return;
+        const json& value = m_value->at(name);
+        if (value.is_number())
+            target = value.get<std::uint32_t>();
+        for (const NumberName& known : names)
+            if (value == known.name)
+                target = known.number;
+    }
+
+    /// A number of up to 64 bits, which the schema's validator, reckoning with a sign, cannot test for being one.
+    void ReadCount(const char* name, std::uint64_t& target) const
+    {
+        if (Has(name) && !m_value->at(name).is_number_unsigned())
+            (*this)[name].Refuse("less than 0");
+        Read(name, target);
+    }
+
+    void ReadSwitch(const char* name, RadioSwitch& target) const
+    {
+        if (Has(name))
+            target = m_value->at(name) == "on" ? RadioSwitch::on : RadioSwitch::off;
+    }
+
+    [[noreturn]] void Refuse(const std::string& problem) const
+    {
+        throw ScenarioError(*m_source + ": " + (m_pointer.empty() ? "/" : m_pointer) + ": " + problem);
+    }
+
+private:
+    const json* m_value;
+    const std::string* m_source;
+    std::string m_pointer;
+};
+
+Bytes ReadHex(const Value& value)
+{
+    const std::optional<Bytes> bytes = BytesFromHex(value.Text());
+    if (!bytes)
+        value.Refuse("not pairs of hexadecimal digits");
+    return *bytes;
+}
+
+MacAddress ReadAddress(const Value& value)
+{
+    const std::optional<MacAddress> address = AddressFromText(value.Text());
+    if (!address)
+        value.Refuse("not six bytes in hexadecimal with colons between");
+    return *address;
+}
+
+Bytes ReadSsidText(const Value& value)
+{
+    const std::string& text = value.Text();
+    if (text.size() > kLongestSsid)
+        value.Refuse("an SSID has at most 32 bytes, and this text has " + std::to_string(text.size()) + " in UTF-8");
+    return {text.begin(), text.end()};
+}
+
+/// The name of a network, given as text or in hexadecimal.
+Bytes ReadSsid(const Value& owner, const char* otherwise = "ssid")
+{
+    if (owner.Has("ssidHex"))
+        return ReadHex(owner["ssidHex"]);
+    return ReadSsidText(owner[owner.Has("ssid") ? "ssid" : otherwise]);
+}
+
+std::string ReadShortProfile(const Value& value)
+{
+    ProfileSettings settings;
+    settings.name = value["name"].Text();
+    settings.ssid = ReadSsid(value, "name");
+    value.ReadNamed("bssType", kBssTypeNames, settings.bssType);
+    // Ad hoc networks are never joined automatically.
+    settings.mode = settings.bssType == 2 ? "manual" : "auto";
+    value.Read("mode", settings.mode);
+    value.Read("authentication", settings.authentication);
+    value.Read("encryption", settings.encryption);
+    value.Read("key", settings.key);
+    value.Read("hidden", settings.hidden);
+    return MakeProfileXml(settings);
+}
+
+std::vector<StoredProfile> ReadProfiles(const Value& adapter, std::set<std::string>& names)
+{
+    std::vector<StoredProfile> profiles;
+    for (const Value& value : adapter.Elements("profiles"))
+    {
+        const bool whole = value.Has("xml");
+        const std::string xml = whole ? value["xml"].Text() : ReadShortProfile(value);
+        ProfileRefusal refusal{};
+        const std::optional<ProfileDocument> document = ParseProfile(xml, refusal);
+        if (!document)
+            (whole ? value["xml"] : value)
+                .Refuse("the WLAN service does not take this profile: error " + std::to_string(refusal.error) +
+                        ", reason code " + std::to_string(refusal.reason));
+        if (!names.insert(Utf8FromWide(document->name)).second)
+            value.Refuse("the adapter has another profile of this name");
+        profiles.push_back({xml});
+    }
+    return profiles;
+}
+
+std::vector<PhyDescription> ReadPhys(const Value& adapter)
+{
+    std::vector<PhyDescription> phys;
+    for (const Value& value : adapter.Elements("phys"))
+    {
+        PhyDescription phy;
+        value.ReadNamed("type", kPhyNames, phy.type);
+        value.ReadSwitch("software", phy.software);
+        value.ReadSwitch("hardware", phy.hardware);
+        phys.push_back(phy);
+    }
+    return phys;
+}
+
+Connection ReadConnection(const Value& value, const std::set<std::string>& profileNames)
+{
+    Connection connection{value["profile"].Text(), std::nullopt};
+    if (profileNames.count(connection.profile) == 0)
+        value["profile"].Refuse("the adapter has no profile of this name");
+    if (value.Has("bssid"))
+        connection.bssid = ReadAddress(value["bssid"]);
+    return connection;
+}
+
+AdapterDescription ReadAdapter(const Value& value)
+{
+    AdapterDescription adapter;
+    adapter.guid = value["guid"].Text();
+    adapter.description = value["description"].Text();
+    adapter.address = ReadAddress(value["address"]);
+    if (value.Has("phys"))
+        adapter.phys = ReadPhys(value);
+    value.Read("scanMilliseconds", adapter.scanMilliseconds);
+    value.Read("connectMilliseconds", adapter.connectMilliseconds);
+    std::set<std::string> profileNames;
+    adapter.profiles = ReadProfiles(value, profileNames);
+    if (value.Has("connection"))
+        adapter.connection = ReadConnection(value["connection"], profileNames);
+    if (value.Has("statistics"))
+    {
+        value["statistics"].ReadCount("transmitted", adapter.statistics.transmitted);
+        value["statistics"].ReadCount("received", adapter.statistics.received);
+    }
+    return adapter;
+}
+
+void ReadFrequency(const Value& value, std::uint32_t& frequencyKhz)
+{
+    value.Read("frequencyKhz", frequencyKhz);
+    if (!value.Has("channel"))
+        return;
+    std::uint32_t channel = 0;
+    value.Read("channel", channel);
+    const std::string& band = value["band"].Text();
+    const std::optional<std::uint32_t> frequency = ChannelFrequency(band, channel);
+    if (!frequency)
+        value["channel"].Refuse("the " + band + " GHz band has no channel " + std::to_string(channel));
+    frequencyKhz = *frequency;
+}
+
+AccessPoint ReadAccessPoint(const Value& value)
+{
+    AccessPoint point;
+    point.ssid = ReadSsid(value);
+    point.bssid = ReadAddress(value["bssid"]);
+    ReadFrequency(value, point.frequencyKhz);
+    value.Read("hidden", point.hidden);
+    value.Read("rssi", point.rssi);
+    value.ReadNamed("phy", kPhyNames, point.phyType);
+    value.ReadNamed("bssType", kBssTypeNames, point.bssType);
+    value.Read("authentication", point.authentication);
+    value.Read("encryption", point.encryption);
+    value.Read("beaconPeriod", point.beaconPeriod);
+    if (value.Has("informationElements"))
+        point.informationElements = ReadHex(value["informationElements"]);
+    return point;
+}
+
+std::string LowerCase(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char character)
+                   { return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 32) : character; });
+    return text;
+}
+
+/// Refuses the member `name` of the first element whose `key` an earlier one has.
+template <typename Element, typename Key>
+void RefuseDuplicates(const std::vector<Value>& places, const std::vector<Element>& elements, const char* name, Key key)
+{
+    std::map<decltype(key(elements.front())), std::size_t> first;
+    for (std::size_t index = 0; index < elements.size(); ++index)
+    {
+        const auto [earlier, isNew] = first.emplace(key(elements[index]), index);
+        if (!isNew)
+            places[index][name].Refuse("the same as that of element " + std::to_string(earlier->second));
+    }
+}
+
+Scenario ReadScenario(const Value& root)
+{
+    Scenario scenario;
+    root.Read("description", scenario.description);
+    root.Read("codePage", scenario.codePage);
+    root.Read("locationConsent", scenario.locationConsent);
+    scenario.serviceRunning = !root.Has("service") || root["service"].Text() == "running";
+    const std::vector<Value> adapters = root.Elements("adapters");
+    for (const Value& value : adapters)
+        scenario.adapters.push_back(ReadAdapter(value));
+    const std::vector<Value> points = root.Elements("accessPoints");
+    for (const Value& value : points)
+        scenario.accessPoints.push_back(ReadAccessPoint(value));
+    RefuseDuplicates(adapters, scenario.adapters, "guid", [](const auto& each) { return LowerCase(each.guid); });
+    RefuseDuplicates(points, scenario.accessPoints, "bssid", [](const auto& each) { return each.bssid; });
+    return scenario;
+}
+
+/// "[json.exception.parse_error.101] parse error at line 3, column 5: ..." from "line" on.
+std::string SyntaxProblem(const json::parse_error& error)
+{
+    const std::string text = error.what();
+    const std::size_t line = text.find("line ");
+    return line == std::string::npos ? text : text.substr(line);
+}
+
+} // namespace
+
+Scenario ParseScenario(const std::string& text, const std::string& source)
+{
+    json document;
+    try
+    {
+        document = json::parse(text);
+    }
+    catch (const json::parse_error& error)
+    {
+        throw ScenarioError(source + ": " + SyntaxProblem(error));
+    }
+    ValidateScenario(document, source);
+    return ReadScenario(Value(document, source));
+}
+
+Scenario LoadScenario(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::string text;
+    char part[4096];
+    while (file.read(part, sizeof(part)), file.gcount() > 0)
+        text.append(part, static_cast<std::size_t>(file.gcount()));
+    // A folder opens and fails only when it is read.
+    if (!file.is_open() || file.bad())
+        throw ScenarioError(path + ": cannot be read");
+    return ParseScenario(text, path);
+}
+
+Scenario BuiltInScenario()
+{
+    return ParseScenario(kBuiltInScenarioText, "the built-in scenario");
+}
+
+} // namespace calvix::simulation

@@ -1,0 +1,101 @@
+#include "simulation/scenario.h"
+#include "simulation/scenario_names.h"
+#include "simulation/utf8.h"
+
+#include <nlohmann/json.hpp>
+
+#include <iterator>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+// Keeps the members in the order in which they are put in, so that the text reads as the gallery's files do.
+using Json = nlohmann::ordered_json;
+
+/// A number by its name, or as it is where it has none.
+template <std::size_t Count>
+Json Named(const NumberName (&names)[Count], std::uint32_t number)
+{
+    for (const NumberName& known : names)
+        if (known.number == number)
+            return known.name;
+    return number;
+}
+
+const char* SwitchText(RadioSwitch position)
+{
+    return position == RadioSwitch::on ? "on" : "off";
+}
+
+Json WriteAdapter(const AdapterDescription& adapter)
+{
+    Json phys = Json::array();
+    for (const PhyDescription& phy : adapter.phys)
+        phys.push_back({{"type", Named(kPhyNames, phy.type)},
+                        {"software", SwitchText(phy.software)},
+                        {"hardware", SwitchText(phy.hardware)}});
+    Json profiles = Json::array();
+    for (const StoredProfile& profile : adapter.profiles)
+        profiles.push_back({{"xml", profile.xml}});
+    Json result = {{"guid", adapter.guid},
+                   {"description", adapter.description},
+                   {"address", AddressText(adapter.address)},
+                   {"phys", phys},
+                   {"scanMilliseconds", adapter.scanMilliseconds},
+                   {"connectMilliseconds", adapter.connectMilliseconds},
+                   {"profiles", profiles}};
+    if (adapter.connection)
+    {
+        result["connection"] = {{"profile", adapter.connection->profile}};
+        if (adapter.connection->bssid)
+            result["connection"]["bssid"] = AddressText(*adapter.connection->bssid);
+    }
+    result["statistics"] = {{"transmitted", adapter.statistics.transmitted}, {"received", adapter.statistics.received}};
+    return result;
+}
+
+Json WriteAccessPoint(const AccessPoint& point)
+{
+    Json result;
+    const std::string ssid(point.ssid.begin(), point.ssid.end());
+    if (IsUtf8(ssid))
+        result["ssid"] = ssid;
+    else
+        result["ssidHex"] = HexText(point.ssid);
+    result["hidden"] = point.hidden;
+    result["bssid"] = AddressText(point.bssid);
+    result["frequencyKhz"] = point.frequencyKhz;
+    result["rssi"] = point.rssi;
+    result["phy"] = Named(kPhyNames, point.phyType);
+    result["bssType"] = Named(kBssTypeNames, point.bssType);
+    result["authentication"] = point.authentication;
+    result["encryption"] = point.encryption;
+    result["beaconPeriod"] = point.beaconPeriod;
+    if (!point.informationElements.empty())
+        result["informationElements"] = HexText(point.informationElements);
+    return result;
+}
+
+} // namespace
+
+std::string WriteScenario(const Scenario& scenario)
+{
+    Json adapters = Json::array();
+    for (const AdapterDescription& adapter : scenario.adapters)
+        adapters.push_back(WriteAdapter(adapter));
+    Json points = Json::array();
+    for (const AccessPoint& point : scenario.accessPoints)
+        points.push_back(WriteAccessPoint(point));
+    const Json document = {{"description", scenario.description},
+                           {"codePage", scenario.codePage},
+                           {"service", scenario.serviceRunning ? "running" : "stopped"},
+                           {"locationConsent", scenario.locationConsent},
+                           {"adapters", adapters},
+                           {"accessPoints", points}};
+    return document.dump(2) + "\n";
+}
+
+} // namespace calvix::simulation

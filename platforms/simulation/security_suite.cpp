@@ -1,0 +1,116 @@
+#include "simulation/security_suite.h"
+
+#include "platform/records/wlan_constants.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+template <typename Number>
+struct Named
+{
+    std::string_view name;
+    Number number;
+};
+
+constexpr Named<DOT11_AUTH_ALGORITHM> authentications[] = {
+    {"open", DOT11_AUTH_ALGO_80211_OPEN},
+    {"shared", DOT11_AUTH_ALGO_80211_SHARED_KEY},
+    {"WPA", DOT11_AUTH_ALGO_WPA},
+    {"WPAPSK", DOT11_AUTH_ALGO_WPA_PSK},
+    {"WPA2", DOT11_AUTH_ALGO_RSNA},
+    {"WPA2PSK", DOT11_AUTH_ALGO_RSNA_PSK},
+    {"WPA3", auth::wpa3_enterprise_192},
+    {"WPA3ENT192", auth::wpa3_enterprise_192},
+    {"WPA3ENT", auth::wpa3_enterprise},
+    {"WPA3SAE", auth::wpa3_sae},
+    {"OWE", auth::owe},
+};
+
+constexpr Named<DOT11_CIPHER_ALGORITHM> encryptions[] = {
+    {"none", DOT11_CIPHER_ALGO_NONE}, {"WEP", DOT11_CIPHER_ALGO_WEP}, {"TKIP", DOT11_CIPHER_ALGO_TKIP},
+    {"AES", DOT11_CIPHER_ALGO_CCMP},  {"GCMP256", cipher::gcmp_256},
+};
+
+// Null for a name that is not there.
+template <typename Number, std::size_t count>
+const Named<Number>* Find(const Named<Number> (&table)[count], std::string_view name)
+{
+    const auto found =
+        std::find_if(std::begin(table), std::end(table), [name](const auto& entry) { return entry.name == name; });
+    return found == std::end(table) ? nullptr : found;
+}
+
+} // namespace
+
+SecuritySuite SuiteFromNames(std::string_view authentication, std::string_view encryption)
+{
+    const auto* const foundAuthentication = Find(authentications, authentication);
+    const auto* const foundEncryption = Find(encryptions, encryption);
+    return {foundAuthentication != nullptr ? foundAuthentication->number : DOT11_AUTH_ALGO_IHV_START,
+            foundEncryption != nullptr ? foundEncryption->number : DOT11_CIPHER_ALGO_IHV_START};
+}
+
+bool IsAuthenticationName(std::string_view name)
+{
+    return Find(authentications, name) != nullptr;
+}
+
+bool IsEncryptionName(std::string_view name)
+{
+    return Find(encryptions, name) != nullptr;
+}
+
+bool IsSupported(SecuritySuite suite)
+{
+    const auto& suites = SupportedSuites();
+    return std::find(suites.begin(), suites.end(), suite) != suites.end();
+}
+
+const std::vector<SecuritySuite>& SupportedSuites()
+{
+    static const std::vector<SecuritySuite> suites = {
+        {DOT11_AUTH_ALGO_80211_OPEN, DOT11_CIPHER_ALGO_NONE},
+        {DOT11_AUTH_ALGO_80211_OPEN, DOT11_CIPHER_ALGO_WEP},
+        {DOT11_AUTH_ALGO_80211_SHARED_KEY, DOT11_CIPHER_ALGO_WEP},
+        {DOT11_AUTH_ALGO_WPA, DOT11_CIPHER_ALGO_TKIP},
+        {DOT11_AUTH_ALGO_WPA, DOT11_CIPHER_ALGO_CCMP},
+        {DOT11_AUTH_ALGO_WPA_PSK, DOT11_CIPHER_ALGO_TKIP},
+        {DOT11_AUTH_ALGO_WPA_PSK, DOT11_CIPHER_ALGO_CCMP},
+        {DOT11_AUTH_ALGO_RSNA, DOT11_CIPHER_ALGO_TKIP},
+        {DOT11_AUTH_ALGO_RSNA, DOT11_CIPHER_ALGO_CCMP},
+        {DOT11_AUTH_ALGO_RSNA_PSK, DOT11_CIPHER_ALGO_TKIP},
+        {DOT11_AUTH_ALGO_RSNA_PSK, DOT11_CIPHER_ALGO_CCMP},
+        {auth::wpa3_enterprise_192, cipher::gcmp_256},
+        {auth::wpa3_enterprise, DOT11_CIPHER_ALGO_CCMP},
+        {auth::wpa3_enterprise, cipher::gcmp_256},
+        {auth::wpa3_sae, DOT11_CIPHER_ALGO_CCMP},
+        {auth::wpa3_sae, cipher::gcmp_256},
+        {auth::owe, DOT11_CIPHER_ALGO_CCMP},
+        {auth::owe, cipher::gcmp_256},
+    };
+    return suites;
+}
+
+bool IsSecured(SecuritySuite suite)
+{
+    return suite != SecuritySuite{};
+}
+
+bool UsesPassphrase(SecuritySuite suite)
+{
+    return suite.authentication == DOT11_AUTH_ALGO_WPA_PSK || suite.authentication == DOT11_AUTH_ALGO_RSNA_PSK;
+}
+
+bool UsesOneX(SecuritySuite suite)
+{
+    return suite.authentication == DOT11_AUTH_ALGO_WPA || suite.authentication == DOT11_AUTH_ALGO_RSNA ||
+           suite.authentication == auth::wpa3_enterprise_192 || suite.authentication == auth::wpa3_enterprise;
+}
+
+} // namespace calvix::simulation

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "simulation/blocks.h"
+#include "simulation/scenario.h"
+
+#include <calvix/platform_records.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+
+namespace calvix::simulation
+{
+
+/// What the service's operations fill their records with.
+
+/// A zeroed block of the service's allocator that begins with a Record. It is exactly `size` bytes long, so that a
+/// list that is read past its last entry is read past its block.
+template <typename Record>
+Record* NewRecord(Blocks& blocks, std::size_t size, const char* what)
+{
+    return static_cast<Record*>(blocks.Allocate(size, what));
+}
+
+/// Copies a text, cut if need be, into a record's field and terminates it.
+template <std::size_t capacity>
+void CopyText(const std::wstring& text, wchar_t (&field)[capacity])
+{
+    field[text.copy(field, capacity - 1)] = L'\0';
+}
+
+inline DOT11_SSID MakeSsid(const Bytes& bytes)
+{
+    DOT11_SSID ssid{};
+    const std::size_t length = bytes.size() < DOT11_SSID_MAX_LENGTH ? bytes.size() : DOT11_SSID_MAX_LENGTH;
+    ssid.uSSIDLength = static_cast<ULONG>(length);
+    if (length != 0)
+    {
+        std::memcpy(ssid.ucSSID, bytes.data(), length);
+    }
+    return ssid;
+}
+
+/// The bytes of a record whose length was checked.
+inline Bytes SsidBytes(const DOT11_SSID& ssid)
+{
+    return Bytes(ssid.ucSSID, ssid.ucSSID + ssid.uSSIDLength);
+}
+
+} // namespace calvix::simulation

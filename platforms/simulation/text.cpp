@@ -1,0 +1,171 @@
+#include "simulation/text.h"
+
+#include "platform/records/error_numbers.h"
+#include "simulation/narrow_encoding.h"
+#include "simulation/utf8.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+constexpr std::uint32_t kLatin1 = 1252;
+constexpr std::uint32_t kLatin1Oem = 437;
+constexpr UINT kThreadCodePage = 3;
+
+/// The text that a source and a length stand for; a negative length includes the terminator.
+template <typename Character>
+std::basic_string_view<Character> SourceText(const Character* source, int length)
+{
+    if (length < 0)
+        return {source, std::char_traits<Character>::length(source) + 1};
+    return {source, static_cast<std::size_t>(length)};
+}
+
+template <typename Source, typename Target>
+bool AreArgumentsValid(const Source* source, int sourceLength, const Target* destination, int destinationLength)
+{
+    return source != nullptr && sourceLength != 0 && destinationLength >= 0 &&
+           (destinationLength == 0 || destination != nullptr) &&
+           static_cast<const void*>(source) != static_cast<const void*>(destination);
+}
+
+/// Hands out `text`, or its size to who came without room; ERROR_INSUFFICIENT_BUFFER gets what fits all the same.
+template <typename Character>
+DWORD Deliver(const std::basic_string<Character>& text, Character* destination, int room, int& size)
+{
+    size = static_cast<int>(text.size());
+    if (room == 0)
+        return ERROR_SUCCESS;
+    std::copy_n(text.data(), std::min(size, room), destination);
+    return size <= room ? ERROR_SUCCESS : ERROR_INSUFFICIENT_BUFFER;
+}
+
+DWORD RefusedDecodingFlags(std::uint32_t codePage, DWORD flags)
+{
+    const DWORD forUtf8 = MB_ERR_INVALID_CHARS;
+    const DWORD forNarrow = MB_PRECOMPOSED | MB_USEGLYPHCHARS | MB_ERR_INVALID_CHARS;
+    return flags & ~(codePage == CP_UTF8 ? forUtf8 : forNarrow);
+}
+
+DWORD RefusedEncodingFlags(std::uint32_t codePage, DWORD flags)
+{
+    const DWORD forUtf8 = WC_ERR_INVALID_CHARS;
+    const DWORD forNarrow = WC_NO_BEST_FIT_CHARS;
+    return flags & ~(codePage == CP_UTF8 ? forUtf8 : forNarrow);
+}
+
+bool IsKnown(std::uint32_t codePage)
+{
+    return codePage == CP_UTF8 || HasNarrowEncoding(codePage);
+}
+
+} // namespace
+
+int SimulatedText::Fail(DWORD error)
+{
+    m_lastError = error;
+    return 0;
+}
+
+/// The code page that a number stands for: the low ones are roles that a code page plays.
+std::uint32_t SimulatedText::Resolve(UINT codePage) const
+{
+    if (codePage == CP_ACP || codePage == kThreadCodePage)
+        return m_codePage;
+    if (codePage == CP_OEMCP)
+        return m_codePage == kLatin1 ? kLatin1Oem : m_codePage;
+    return codePage;
+}
+
+int SimulatedText::MultiByteToWideChar(
+    UINT codePage, DWORD flags, const char* source, int sourceLength, wchar_t* destination, int destinationLength)
+{
+    if (!AreArgumentsValid(source, sourceLength, destination, destinationLength))
+        return Fail(ERROR_INVALID_PARAMETER);
+    const std::uint32_t actual = Resolve(codePage);
+    if (!IsKnown(actual))
+        return Fail(ERROR_INVALID_PARAMETER);
+    if (RefusedDecodingFlags(actual, flags) != 0)
+        return Fail(ERROR_INVALID_FLAGS);
+
+    const std::string_view bytes = SourceText(source, sourceLength);
+    bool illFormed = false;
+    const std::wstring text =
+        actual == CP_UTF8 ? WideFromUtf8(bytes, &illFormed) : DecodeNarrow(actual, bytes, illFormed);
+    if (illFormed && (flags & MB_ERR_INVALID_CHARS) != 0)
+        return Fail(ERROR_NO_UNICODE_TRANSLATION);
+    int size = 0;
+    const DWORD error = Deliver(text, destination, destinationLength, size);
+    return error == ERROR_SUCCESS ? size : Fail(error);
+}
+
+int SimulatedText::WideCharToMultiByte(UINT codePage,
+                                       DWORD flags,
+                                       const wchar_t* source,
+                                       int sourceLength,
+                                       char* destination,
+                                       int destinationLength,
+                                       const char* defaultCharacter,
+                                       BOOL* usedDefaultCharacter)
+{
+    if (!AreArgumentsValid(source, sourceLength, destination, destinationLength))
+        return Fail(ERROR_INVALID_PARAMETER);
+    const std::uint32_t actual = Resolve(codePage);
+    const bool utf8 = actual == CP_UTF8;
+    // UTF-8 lacks no character, and who asks what to do about it is told so.
+    if (!IsKnown(actual) || (utf8 && (defaultCharacter != nullptr || usedDefaultCharacter != nullptr)))
+        return Fail(ERROR_INVALID_PARAMETER);
+    if (RefusedEncodingFlags(actual, flags) != 0)
+        return Fail(ERROR_INVALID_FLAGS);
+
+    const std::wstring_view text = SourceText(source, sourceLength);
+    // An empty default is its terminator: what has no equivalent then ends the text. Callers rely on that.
+    const char replacement = defaultCharacter != nullptr ? *defaultCharacter : '?';
+    bool replaced = false;
+    const std::string bytes =
+        utf8 ? Utf8FromWide(text, &replaced)
+             : EncodeNarrow(actual, text, replacement, (flags & WC_NO_BEST_FIT_CHARS) != 0, replaced);
+    if (utf8 && replaced && (flags & WC_ERR_INVALID_CHARS) != 0)
+        return Fail(ERROR_NO_UNICODE_TRANSLATION);
+    if (usedDefaultCharacter != nullptr)
+        *usedDefaultCharacter = replaced ? TRUE : FALSE;
+    int size = 0;
+    const DWORD error = Deliver(bytes, destination, destinationLength, size);
+    return error == ERROR_SUCCESS ? size : Fail(error);
+}
+
+int SimulatedText::StringFromGUID2(const GUID& guid, wchar_t* text, int capacity)
+{
+    static constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
+    std::wstring result = L"{";
+    const auto append = [&result](std::uint32_t value, int digits)
+    {
+        while (digits-- > 0)
+            result += kDigits[(value >> (4 * digits)) & 0xF];
+    };
+    append(static_cast<std::uint32_t>(guid.Data1), 8);
+    result += L'-';
+    append(guid.Data2, 4);
+    result += L'-';
+    append(guid.Data3, 4);
+    for (int index = 0; index < 8; ++index)
+    {
+        if (index == 0 || index == 2)
+            result += L'-';
+        append(guid.Data4[index], 2);
+    }
+    result += L'}';
+    const int needed = static_cast<int>(result.size()) + 1;
+    if (text == nullptr || capacity < needed)
+        return 0;
+    std::copy_n(result.c_str(), needed, text);
+    return needed;
+}
+
+} // namespace calvix::simulation

@@ -1,0 +1,211 @@
+#include "simulation/interface_answers.h"
+#include "simulation/wlan_service.h"
+
+#include <cstring>
+#include <optional>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+// Chosen: a connection that is only just being made or given up does not count, unless a driver reports one that
+// stands as such in passing.
+bool IsConnected(const Adapter& adapter)
+{
+    return adapter.CurrentLink() != nullptr && adapter.State() != wlan_interface_state_disconnected &&
+           adapter.State() != wlan_interface_state_not_ready;
+}
+
+bool NeedsConnection(WLAN_INTF_OPCODE opcode)
+{
+    return opcode == wlan_intf_opcode_current_connection || opcode == wlan_intf_opcode_rssi ||
+           opcode == wlan_intf_opcode_channel_number;
+}
+
+bool CanBeSet(WLAN_INTF_OPCODE opcode)
+{
+    switch (static_cast<unsigned int>(opcode))
+    {
+    case wlan_intf_opcode_autoconf_enabled:
+    case wlan_intf_opcode_background_scan_enabled:
+    case wlan_intf_opcode_media_streaming_mode:
+    case wlan_intf_opcode_radio_state:
+    case wlan_intf_opcode_bss_type:
+    case wlan_intf_opcode_current_operation_mode:
+        return true;
+    default:
+        return false;
+    }
+}
+
+BOOL Boolean(bool value)
+{
+    return value ? TRUE : FALSE;
+}
+
+// Chosen, for what is the same on every simulated adapter: no media streaming, infrastructure networks, the mode of
+// an ordinary station (1), safe mode supported but not certified, no hosted network.
+std::optional<InterfaceAnswer> Answer(Blocks& blocks, const Adapter& adapter, WLAN_INTF_OPCODE opcode)
+{
+    switch (static_cast<unsigned int>(opcode))
+    {
+    case wlan_intf_opcode_autoconf_enabled:
+        return AnswerNumber(blocks, Boolean(adapter.autoConfiguration));
+    case wlan_intf_opcode_background_scan_enabled:
+        return AnswerNumber(blocks, Boolean(adapter.backgroundScan));
+    case wlan_intf_opcode_radio_state:
+        return AnswerRadioState(blocks, adapter);
+    case wlan_intf_opcode_bss_type:
+        return AnswerNumber(blocks, dot11_BSS_type_infrastructure);
+    case wlan_intf_opcode_interface_state:
+        return AnswerNumber(blocks, adapter.State());
+    case wlan_intf_opcode_current_connection:
+        return AnswerConnection(blocks, adapter);
+    case wlan_intf_opcode_channel_number:
+        return AnswerChannel(blocks, adapter);
+    case wlan_intf_opcode_current_operation_mode:
+        return AnswerNumber(blocks, ULONG{1});
+    case wlan_intf_opcode_supported_safe_mode:
+        return AnswerNumber(blocks, TRUE);
+    case wlan_intf_opcode_media_streaming_mode:
+    case wlan_intf_opcode_certified_safe_mode:
+    case wlan_intf_opcode_hosted_network_capable:
+        return AnswerNumber(blocks, FALSE);
+    case wlan_intf_opcode_statistics:
+        return AnswerStatistics(blocks, adapter);
+    case wlan_intf_opcode_rssi:
+        return AnswerRssi(blocks, adapter);
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<bool> ReadBoolean(DWORD size, const void* data)
+{
+    BOOL value = FALSE;
+    if (size != sizeof(value))
+    {
+        return std::nullopt;
+    }
+    std::memcpy(&value, data, sizeof(value));
+    return value != FALSE;
+}
+
+DWORD SetAutoConfiguration(Adapter& adapter, DWORD size, const void* data)
+{
+    const auto value = ReadBoolean(size, data);
+    if (!value)
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    adapter.autoConfiguration = *value;
+    return ERROR_SUCCESS;
+}
+
+// Only a connected adapter takes this setting.
+DWORD SetBackgroundScan(Adapter& adapter, DWORD size, const void* data)
+{
+    const auto value = ReadBoolean(size, data);
+    if (!value)
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    if (!IsConnected(adapter))
+    {
+        return ERROR_INVALID_STATE;
+    }
+    adapter.backgroundScan = *value;
+    return ERROR_SUCCESS;
+}
+
+// Only the software switch can be thrown; what the record says of the hardware is not looked at.
+DWORD SetRadio(Adapter& adapter, DWORD size, const void* data)
+{
+    WLAN_PHY_RADIO_STATE state{};
+    if (size != sizeof(state))
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    std::memcpy(&state, data, sizeof(state));
+    const bool isOn = state.dot11SoftwareRadioState == dot11_radio_state_on;
+    const bool isOff = state.dot11SoftwareRadioState == dot11_radio_state_off;
+    if (state.dwPhyIndex >= adapter.Phys().size() || (!isOn && !isOff))
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    const RadioSwitch hardware = adapter.Phys()[state.dwPhyIndex].hardware;
+    adapter.SetRadio(state.dwPhyIndex, isOn ? RadioSwitch::on : RadioSwitch::off, hardware);
+    return ERROR_SUCCESS;
+}
+
+} // namespace
+
+DWORD SimulatedWlanService::WlanQueryInterface(HANDLE client,
+                                               const GUID* interfaceGuid,
+                                               WLAN_INTF_OPCODE opcode,
+                                               PVOID reserved,
+                                               DWORD* dataSize,
+                                               PVOID* data,
+                                               WLAN_OPCODE_VALUE_TYPE* valueType)
+{
+    if (const DWORD error = Check("WlanQueryInterface", client, {interfaceGuid, dataSize, data}, reserved))
+    {
+        return error;
+    }
+    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr)
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    // Of the queries only this one would tell where the computer is.
+    if (opcode == wlan_intf_opcode_current_connection && !m_machine.locationConsent)
+    {
+        return ERROR_ACCESS_DENIED;
+    }
+    if (NeedsConnection(opcode) && !IsConnected(*adapter))
+    {
+        return ERROR_INVALID_STATE;
+    }
+    const auto answer = Answer(m_machine.wlanBlocks, *adapter, opcode);
+    if (!answer)
+    {
+        return ERROR_NOT_SUPPORTED;
+    }
+    *data = answer->data;
+    *dataSize = static_cast<DWORD>(answer->size);
+    if (valueType != nullptr)
+    {
+        *valueType = CanBeSet(opcode) ? wlan_opcode_value_type_set_by_user : wlan_opcode_value_type_query_only;
+    }
+    return ERROR_SUCCESS;
+}
+
+DWORD SimulatedWlanService::WlanSetInterface(
+    HANDLE client, const GUID* interfaceGuid, WLAN_INTF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved)
+{
+    if (const DWORD error = Check("WlanSetInterface", client, {interfaceGuid, data}, reserved))
+    {
+        return error;
+    }
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr || !CanBeSet(opcode))
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    switch (static_cast<unsigned int>(opcode))
+    {
+    case wlan_intf_opcode_autoconf_enabled:
+        return SetAutoConfiguration(*adapter, dataSize, data);
+    case wlan_intf_opcode_background_scan_enabled:
+        return SetBackgroundScan(*adapter, dataSize, data);
+    case wlan_intf_opcode_radio_state:
+        return SetRadio(*adapter, dataSize, data);
+    default:
+        // Streaming, BSS type and operation mode cannot be set yet.
+        return ERROR_CALL_NOT_IMPLEMENTED;
+    }
+}
+
+} // namespace calvix::simulation

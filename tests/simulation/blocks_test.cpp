@@ -1,0 +1,104 @@
+#include "simulation/blocks.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
+#endif
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+using Defects = std::vector<std::string>;
+
+TEST(Blocks, AreZeroedAndCounted)
+{
+    Defects defects;
+    Blocks blocks(defects);
+    auto* const block = static_cast<unsigned char*>(blocks.Allocate(100, "list"));
+    EXPECT_EQ(std::vector<unsigned char>(block, block + 100), std::vector<unsigned char>(100, 0));
+    EXPECT_EQ(blocks.CountLive(), 1u);
+    blocks.Free(block);
+    EXPECT_EQ(blocks.CountLive(), 0u);
+    EXPECT_EQ(defects, Defects{});
+}
+
+TEST(Blocks, NullIsNoBlockAndNoDefect)
+{
+    Defects defects;
+    Blocks blocks(defects);
+    blocks.Free(nullptr);
+    EXPECT_EQ(defects, Defects{});
+}
+
+TEST(Blocks, NoticeDoubleFreesAndForeignPointers)
+{
+    Defects defects;
+    Blocks blocks(defects);
+    int foreign = 0;
+    void* const block = blocks.Allocate(8, "profile list");
+    blocks.Free(block);
+    blocks.Free(block);
+    blocks.Free(&foreign);
+    EXPECT_EQ(defects, (Defects{"double free of profile list", "free of a foreign pointer"}));
+}
+
+TEST(Blocks, NoticeAWriteAfterFreeOnce)
+{
+    Defects defects;
+    Blocks blocks(defects);
+    auto* const block = static_cast<char*>(blocks.Allocate(64, "BSS list"));
+    blocks.Free(block);
+    blocks.CheckFreed();
+    EXPECT_EQ(defects, Defects{});
+#if defined(__SANITIZE_ADDRESS__)
+    __asan_unpoison_memory_region(block, 64); // the write is to get as far as the check
+#endif
+    std::memset(block + 63, 1, 1);
+    blocks.CheckFreed();
+    blocks.CheckFreed();
+    EXPECT_EQ(defects, Defects{"write into freed BSS list"});
+}
+
+#if defined(__SANITIZE_ADDRESS__)
+TEST(Blocks, FreedBlocksAndWhatFollowsABlockCannotBeTouchedUnderTheSanitizer)
+{
+    Defects defects;
+    Blocks blocks(defects);
+    auto* const freed = static_cast<char*>(blocks.Allocate(24, "list"));
+    auto* const live = static_cast<char*>(blocks.Allocate(24, "list"));
+    blocks.Free(freed);
+    EXPECT_TRUE(__asan_address_is_poisoned(freed));
+    EXPECT_TRUE(__asan_address_is_poisoned(freed + 23));
+    EXPECT_FALSE(__asan_address_is_poisoned(live + 23));
+    EXPECT_TRUE(__asan_address_is_poisoned(live + 24));
+}
+#endif
+
+TEST(Blocks, FreedOnesAreKeptWithinBounds)
+{
+    Defects defects;
+    Blocks blocks(defects);
+    void* const oldest = blocks.Allocate(8, "oldest");
+    blocks.Free(oldest);
+    for (int count = 0; count < 5000; ++count)
+    {
+        blocks.Free(blocks.Allocate(8, "list"));
+    }
+    // The oldest is forgotten by now, so that its address is a foreign pointer, or was even given out anew.
+    void* const youngest = blocks.Allocate(8, "youngest");
+    blocks.Free(youngest);
+    blocks.Free(youngest);
+    EXPECT_EQ(defects, Defects{"double free of youngest"});
+}
+
+} // namespace
+
+} // namespace calvix::simulation

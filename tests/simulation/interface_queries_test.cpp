@@ -1,0 +1,179 @@
+#include "service_fixture.h"
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+using InterfaceQueries = ServiceTest;
+
+TEST_F(InterfaceQueries, InterfacesAreEnumeratedInTheirOrder)
+{
+    scenario.adapters[0].description = "Adapter \xc3\xa9";
+    Start();
+    WLAN_INTERFACE_INFO_LIST* list = nullptr;
+    ASSERT_EQ(Wlan().WlanEnumInterfaces(client, nullptr, &list), ERROR_SUCCESS);
+    ASSERT_EQ(list->dwNumberOfItems, 2u);
+    EXPECT_TRUE(list->InterfaceInfo[0].InterfaceGuid == first);
+    EXPECT_STREQ(list->InterfaceInfo[0].strInterfaceDescription, L"Adapter \u00e9");
+    EXPECT_EQ(list->InterfaceInfo[0].isState, wlan_interface_state_disconnected);
+    EXPECT_TRUE(list->InterfaceInfo[1].InterfaceGuid == second);
+    Wlan().WlanFreeMemory(list);
+}
+
+TEST_F(InterfaceQueries, AComputerMayHaveNoAdapter)
+{
+    scenario.adapters.clear();
+    Start();
+    WLAN_INTERFACE_INFO_LIST* list = nullptr;
+    ASSERT_EQ(Wlan().WlanEnumInterfaces(client, nullptr, &list), ERROR_SUCCESS);
+    EXPECT_EQ(list->dwNumberOfItems, 0u);
+    Wlan().WlanFreeMemory(list);
+}
+
+TEST_F(InterfaceQueries, RadioStateTellsEverySwitch)
+{
+    scenario.adapters[0].phys[0].hardware = RadioSwitch::off;
+    scenario.adapters[0].phys[1].software = RadioSwitch::off;
+    Start();
+    const auto radio = Query<WLAN_RADIO_STATE>(wlan_intf_opcode_radio_state).value();
+    ASSERT_EQ(radio.dwNumberOfPhys, 2u);
+    EXPECT_EQ(radio.PhyRadioState[0].dwPhyIndex, 0u);
+    EXPECT_EQ(radio.PhyRadioState[0].dot11SoftwareRadioState, dot11_radio_state_on);
+    EXPECT_EQ(radio.PhyRadioState[0].dot11HardwareRadioState, dot11_radio_state_off);
+    EXPECT_EQ(radio.PhyRadioState[1].dwPhyIndex, 1u);
+    EXPECT_EQ(radio.PhyRadioState[1].dot11SoftwareRadioState, dot11_radio_state_off);
+    EXPECT_EQ(radio.PhyRadioState[1].dot11HardwareRadioState, dot11_radio_state_on);
+}
+
+TEST_F(InterfaceQueries, OnlyTheSoftwareSwitchIsSet)
+{
+    scenario.adapters[0].phys[0].hardware = RadioSwitch::off;
+    Start();
+    EXPECT_EQ(SetSoftwareRadio(0, dot11_radio_state_off), ERROR_SUCCESS);
+    auto radio = Query<WLAN_RADIO_STATE>(wlan_intf_opcode_radio_state).value();
+    EXPECT_EQ(radio.PhyRadioState[0].dot11SoftwareRadioState, dot11_radio_state_off);
+    EXPECT_EQ(SetSoftwareRadio(0, dot11_radio_state_on), ERROR_SUCCESS);
+    radio = Query<WLAN_RADIO_STATE>(wlan_intf_opcode_radio_state).value();
+    EXPECT_EQ(radio.PhyRadioState[0].dot11SoftwareRadioState, dot11_radio_state_on);
+    EXPECT_EQ(radio.PhyRadioState[0].dot11HardwareRadioState, dot11_radio_state_off);
+}
+
+TEST_F(InterfaceQueries, RadioSettingsThatMakeNoSense)
+{
+    Start();
+    EXPECT_EQ(SetSoftwareRadio(2, dot11_radio_state_on), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(SetSoftwareRadio(0, dot11_radio_state_unknown), ERROR_INVALID_PARAMETER);
+    const BOOL value = TRUE;
+    EXPECT_EQ(Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_radio_state, sizeof(value), &value, nullptr),
+              ERROR_INVALID_PARAMETER);
+}
+
+TEST_F(InterfaceQueries, SettingsThatCannotBeSet)
+{
+    Start();
+    const BOOL value = TRUE;
+    const auto set = [&](WLAN_INTF_OPCODE opcode)
+    { return Wlan().WlanSetInterface(client, &first, opcode, sizeof(value), &value, nullptr); };
+    EXPECT_EQ(set(wlan_intf_opcode_statistics), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(set(wlan_intf_opcode_media_streaming_mode), ERROR_CALL_NOT_IMPLEMENTED);
+    EXPECT_EQ(Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_autoconf_enabled, 1, &value, nullptr),
+              ERROR_INVALID_PARAMETER);
+}
+
+TEST_F(InterfaceQueries, StatisticsCountUnicastFrames)
+{
+    Start();
+    DWORD size = 0;
+    PVOID data = nullptr;
+    ASSERT_EQ(Wlan().WlanQueryInterface(client, &first, wlan_intf_opcode_statistics, nullptr, &size, &data, nullptr),
+              ERROR_SUCCESS);
+    const auto& statistics = *static_cast<const WLAN_STATISTICS*>(data);
+    EXPECT_EQ(size, sizeof(WLAN_STATISTICS) + sizeof(WLAN_PHY_FRAME_STATISTICS)) << "for two PHYs";
+    EXPECT_EQ(statistics.MacUcastCounters.ullTransmittedFrameCount, 1234u);
+    EXPECT_EQ(statistics.MacUcastCounters.ullReceivedFrameCount, 5678u);
+    EXPECT_EQ(statistics.dwNumberOfPhys, 2u);
+    Wlan().WlanFreeMemory(data);
+}
+
+TEST_F(InterfaceQueries, WhatSpeaksOfAConnectionNeedsOne)
+{
+    Start();
+    for (const auto opcode :
+         {wlan_intf_opcode_current_connection, wlan_intf_opcode_rssi, wlan_intf_opcode_channel_number})
+    {
+        DWORD error = ERROR_SUCCESS;
+        EXPECT_FALSE(Query<LONG>(opcode, &error).has_value());
+        EXPECT_EQ(error, ERROR_INVALID_STATE) << opcode;
+    }
+}
+
+TEST_F(InterfaceQueries, SignalStrengthNeedsNoLocationConsent)
+{
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
+    scenario.locationConsent = false;
+    Start();
+    EXPECT_EQ(Query<LONG>(wlan_intf_opcode_rssi), -50);
+    DWORD error = ERROR_SUCCESS;
+    EXPECT_FALSE(Connection(&error).has_value());
+    EXPECT_EQ(error, ERROR_ACCESS_DENIED);
+}
+
+struct ChannelCase
+{
+    std::uint32_t frequencyKhz;
+    ULONG channel;
+};
+
+class Channels : public ServiceTest, public ::testing::WithParamInterface<ChannelCase>
+{
+};
+
+TEST_P(Channels, HaveTheirCustomaryNumbers)
+{
+    scenario.accessPoints.resize(1);
+    scenario.accessPoints[0].frequencyKhz = GetParam().frequencyKhz;
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
+    Start();
+    EXPECT_EQ(Query<ULONG>(wlan_intf_opcode_channel_number), GetParam().channel);
+}
+
+INSTANTIATE_TEST_SUITE_P(InterfaceQueries,
+                         Channels,
+                         ::testing::Values(ChannelCase{2412000, 1},
+                                           ChannelCase{2472000, 13},
+                                           ChannelCase{2484000, 14},
+                                           ChannelCase{5180000, 36},
+                                           ChannelCase{5825000, 165},
+                                           ChannelCase{5955000, 1},
+                                           ChannelCase{6415000, 93}));
+
+TEST_F(InterfaceQueries, TellWhetherTheValueCanBeSet)
+{
+    Start();
+    const auto typeOf = [&](WLAN_INTF_OPCODE opcode)
+    {
+        DWORD size = 0;
+        PVOID data = nullptr;
+        WLAN_OPCODE_VALUE_TYPE type = wlan_opcode_value_type_invalid;
+        EXPECT_EQ(Wlan().WlanQueryInterface(client, &first, opcode, nullptr, &size, &data, &type), ERROR_SUCCESS);
+        Wlan().WlanFreeMemory(data);
+        return type;
+    };
+    EXPECT_EQ(typeOf(wlan_intf_opcode_radio_state), wlan_opcode_value_type_set_by_user);
+    EXPECT_EQ(typeOf(wlan_intf_opcode_interface_state), wlan_opcode_value_type_query_only);
+}
+
+TEST_F(InterfaceQueries, SafeModeIsSupportedAndUnknownThingsAreNot)
+{
+    Start();
+    EXPECT_EQ(Query<BOOL>(wlan_intf_opcode_supported_safe_mode), TRUE);
+    DWORD error = ERROR_SUCCESS;
+    EXPECT_FALSE(Query<BOOL>(wlan_intf_opcode_supported_country_or_region_string_list, &error).has_value());
+    EXPECT_EQ(error, ERROR_NOT_SUPPORTED);
+}
+
+} // namespace
+
+} // namespace calvix::simulation

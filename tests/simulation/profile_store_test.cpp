@@ -1,0 +1,123 @@
+#include "simulation/profile_store.h"
+
+#include "platform/records/error_numbers.h"
+#include "platform/records/wlan_constants.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+Profile Named(const std::wstring& name, DWORD flags = 0, const std::wstring& xml = L"")
+{
+    Profile profile;
+    profile.document.name = name;
+    profile.flags = flags;
+    profile.xml = xml;
+    return profile;
+}
+
+/// The store's order, one letter a profile.
+std::wstring Order(const ProfileStore& store)
+{
+    std::wstring order;
+    for (const auto& profile : store.InOrder())
+    {
+        order += profile->document.name;
+    }
+    return order;
+}
+
+ProfileStore StoreOf(const std::wstring& names)
+{
+    ProfileStore store;
+    for (const wchar_t name : names)
+    {
+        EXPECT_TRUE(store.Append(Named(std::wstring(1, name))));
+    }
+    return store;
+}
+
+TEST(ProfileStore, NewOnesGoOnTop)
+{
+    ProfileStore store = StoreOf(L"ab");
+    EXPECT_EQ(store.Store(Named(L"c"), false), ERROR_SUCCESS);
+    EXPECT_EQ(Order(store), L"cab");
+}
+
+TEST(ProfileStore, NewOnesStayBelowThoseOfGroupPolicy)
+{
+    ProfileStore store;
+    store.Append(Named(L"p", WLAN_PROFILE_GROUP_POLICY));
+    store.Append(Named(L"a"));
+    EXPECT_EQ(store.Store(Named(L"b"), false), ERROR_SUCCESS);
+    EXPECT_EQ(store.Store(Named(L"q", WLAN_PROFILE_GROUP_POLICY), false), ERROR_SUCCESS);
+    EXPECT_EQ(Order(store), L"qpba");
+}
+
+TEST(ProfileStore, OverwritingKeepsThePositionAndHasToBeAskedFor)
+{
+    ProfileStore store = StoreOf(L"abc");
+    EXPECT_EQ(store.Store(Named(L"b", 0, L"new"), false), ERROR_ALREADY_EXISTS);
+    EXPECT_EQ(store.Find(L"b")->xml, L"");
+    EXPECT_EQ(store.Store(Named(L"b", 0, L"new"), true), ERROR_SUCCESS);
+    EXPECT_EQ(store.Find(L"b")->xml, L"new");
+    EXPECT_EQ(store.InOrder()[1]->xml, L"new");
+    EXPECT_EQ(Order(store), L"abc");
+}
+
+TEST(ProfileStore, NamesAreCaseSensitive)
+{
+    ProfileStore store = StoreOf(L"ab");
+    EXPECT_EQ(store.Find(L"A"), nullptr);
+    EXPECT_EQ(store.Store(Named(L"A"), false), ERROR_SUCCESS);
+    EXPECT_EQ(Order(store), L"Aab");
+    EXPECT_FALSE(store.Append(Named(L"A")));
+}
+
+TEST(ProfileStore, Deleting)
+{
+    ProfileStore store = StoreOf(L"abc");
+    EXPECT_EQ(store.Delete(L"b"), ERROR_SUCCESS);
+    EXPECT_EQ(store.Delete(L"b"), ERROR_NOT_FOUND);
+    EXPECT_EQ(store.Find(L"b"), nullptr);
+    EXPECT_EQ(Order(store), L"ac");
+}
+
+struct MoveCase
+{
+    const wchar_t* name;
+    DWORD position;
+    DWORD error;
+    const wchar_t* order;
+};
+
+class ProfileMoves : public ::testing::TestWithParam<MoveCase>
+{
+};
+
+TEST_P(ProfileMoves, ChangeTheOrder)
+{
+    ProfileStore store = StoreOf(L"abcd");
+    EXPECT_EQ(store.Move(GetParam().name, GetParam().position), GetParam().error);
+    EXPECT_EQ(Order(store), GetParam().order);
+}
+
+INSTANTIATE_TEST_SUITE_P(ProfileStore,
+                         ProfileMoves,
+                         ::testing::Values(MoveCase{L"a", 0, ERROR_SUCCESS, L"abcd"},
+                                           MoveCase{L"a", 1, ERROR_SUCCESS, L"bacd"},
+                                           MoveCase{L"a", 3, ERROR_SUCCESS, L"bcda"},
+                                           MoveCase{L"d", 0, ERROR_SUCCESS, L"dabc"},
+                                           MoveCase{L"c", 1, ERROR_SUCCESS, L"acbd"},
+                                           MoveCase{L"a", 4, ERROR_NOT_FOUND, L"abcd"},
+                                           MoveCase{L"x", 0, ERROR_NOT_FOUND, L"abcd"}));
+
+} // namespace
+
+} // namespace calvix::simulation

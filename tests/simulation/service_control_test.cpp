@@ -1,0 +1,165 @@
+#include "simulation/internet.h"
+#include "simulation/last_error.h"
+#include "simulation/power.h"
+#include "simulation/processes.h"
+#include "simulation/security.h"
+#include "simulation/service_control.h"
+
+#include "platform/records/error_numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+class ServiceControlTest : public testing::Test
+{
+protected:
+    SC_HANDLE OpenManager() { return m_control.OpenSCManagerA(nullptr, nullptr, SC_MANAGER_ALL_ACCESS); }
+    SC_HANDLE OpenWlan(SC_HANDLE manager) { return m_control.OpenServiceA(manager, "WlanSvc", SERVICE_ALL_ACCESS); }
+
+    DWORD m_lastError = 0;
+    bool m_running = true;
+    std::vector<std::string> m_defects;
+    Handles m_handles{m_defects};
+    SimulatedServiceControl m_control{m_lastError, m_handles, m_running};
+};
+
+TEST_F(ServiceControlTest, TellsWhetherTheServiceRuns)
+{
+    const SC_HANDLE manager = OpenManager();
+    const SC_HANDLE service = OpenWlan(manager);
+    ASSERT_NE(service, nullptr);
+    SERVICE_STATUS status{};
+    EXPECT_TRUE(m_control.QueryServiceStatus(service, &status));
+    EXPECT_EQ(status.dwCurrentState, SERVICE_RUNNING);
+    m_running = false;
+    EXPECT_TRUE(m_control.QueryServiceStatus(service, &status));
+    EXPECT_EQ(status.dwCurrentState, SERVICE_STOPPED);
+    EXPECT_EQ(status.dwControlsAccepted, 0u);
+}
+
+TEST_F(ServiceControlTest, StartsAStoppedService)
+{
+    m_running = false;
+    const SC_HANDLE service = OpenWlan(OpenManager());
+    EXPECT_TRUE(m_control.StartServiceA(service, 0, nullptr));
+    EXPECT_TRUE(m_running);
+    EXPECT_FALSE(m_control.StartServiceA(service, 0, nullptr));
+    EXPECT_EQ(m_lastError, ERROR_SERVICE_ALREADY_RUNNING);
+}
+
+TEST_F(ServiceControlTest, TheManagerMayBeClosedFirst)
+{
+    const SC_HANDLE manager = OpenManager();
+    const SC_HANDLE service = OpenWlan(manager);
+    EXPECT_EQ(m_handles.CountOpen(), 2u);
+    EXPECT_TRUE(m_control.CloseServiceHandle(manager));
+    SERVICE_STATUS status{};
+    EXPECT_TRUE(m_control.QueryServiceStatus(service, &status));
+    EXPECT_TRUE(m_control.CloseServiceHandle(service));
+    EXPECT_EQ(m_handles.CountOpen(), 0u);
+    EXPECT_TRUE(m_defects.empty());
+}
+
+TEST_F(ServiceControlTest, KnowsItsServiceByNameWhateverTheCase)
+{
+    const SC_HANDLE manager = OpenManager();
+    EXPECT_NE(m_control.OpenServiceA(manager, "WLANSVC", SERVICE_ALL_ACCESS), nullptr);
+    for (const char* name : {"WlanSvc2", "Wlan", ""})
+    {
+        m_lastError = 0;
+        EXPECT_EQ(m_control.OpenServiceA(manager, name, SERVICE_ALL_ACCESS), nullptr) << name;
+        EXPECT_EQ(m_lastError, ERROR_SERVICE_DOES_NOT_EXIST) << name;
+    }
+    EXPECT_EQ(m_control.OpenServiceA(manager, nullptr, SERVICE_ALL_ACCESS), nullptr);
+    EXPECT_EQ(m_lastError, ERROR_INVALID_PARAMETER);
+}
+
+TEST_F(ServiceControlTest, HasOneMachineAndOneDatabase)
+{
+    EXPECT_NE(m_control.OpenSCManagerA("", "ServicesActive", SC_MANAGER_CONNECT), nullptr);
+    EXPECT_EQ(m_control.OpenSCManagerA("elsewhere", nullptr, SC_MANAGER_CONNECT), nullptr);
+    EXPECT_EQ(m_lastError, 1722u);
+    EXPECT_EQ(m_control.OpenSCManagerA(nullptr, "ServicesFailed", SC_MANAGER_CONNECT), nullptr);
+    EXPECT_EQ(m_lastError, 1065u);
+}
+
+TEST_F(ServiceControlTest, NullIsNoHandleAndNoDefect)
+{
+    SERVICE_STATUS status{};
+    const auto expectRefused = [this](BOOL result)
+    {
+        EXPECT_FALSE(result);
+        EXPECT_EQ(m_lastError, ERROR_INVALID_HANDLE);
+        m_lastError = 0;
+    };
+    EXPECT_EQ(OpenWlan(nullptr), nullptr);
+    EXPECT_EQ(m_lastError, ERROR_INVALID_HANDLE);
+    expectRefused(m_control.QueryServiceStatus(nullptr, &status));
+    expectRefused(m_control.StartServiceA(nullptr, 0, nullptr));
+    expectRefused(m_control.CloseServiceHandle(nullptr));
+    EXPECT_TRUE(m_defects.empty());
+}
+
+TEST_F(ServiceControlTest, AClosedHandleIsADefect)
+{
+    const SC_HANDLE service = OpenWlan(OpenManager());
+    EXPECT_TRUE(m_control.CloseServiceHandle(service));
+    EXPECT_FALSE(m_control.CloseServiceHandle(service));
+    EXPECT_EQ(m_lastError, ERROR_INVALID_HANDLE);
+    EXPECT_EQ(m_defects.size(), 1u);
+}
+
+TEST_F(ServiceControlTest, HandlesAreOfOneKind)
+{
+    const SC_HANDLE manager = OpenManager();
+    SERVICE_STATUS status{};
+    EXPECT_FALSE(m_control.QueryServiceStatus(manager, &status));
+    EXPECT_EQ(m_lastError, ERROR_INVALID_HANDLE);
+    const SC_HANDLE service = OpenWlan(manager);
+    EXPECT_EQ(OpenWlan(service), nullptr);
+    EXPECT_FALSE(m_control.QueryServiceStatus(service, nullptr));
+    EXPECT_EQ(m_lastError, ERROR_INVALID_PARAMETER);
+}
+
+TEST(UnfurnishedRooms, SayThatTheyAre)
+{
+    DWORD lastError = 0;
+    SimulatedLastError errors(lastError);
+    SimulatedPower power(lastError);
+    SimulatedSecurity security(lastError);
+    SimulatedProcesses processes(lastError);
+    SimulatedInternet internet(lastError);
+    const auto refused = [&](bool succeeded, DWORD expected = ERROR_CALL_NOT_IMPLEMENTED)
+    {
+        const DWORD error = errors.GetLastError();
+        lastError = 0;
+        return !succeeded && error == expected;
+    };
+    UINT scheme = 0;
+    HANDLE token = nullptr;
+    LUID luid{};
+    EXPECT_TRUE(refused(power.GetActivePwrScheme(&scheme) != 0));
+    EXPECT_TRUE(refused(power.IsPwrSuspendAllowed() != 0));
+    EXPECT_EQ(power.PowerGetActiveScheme(nullptr, nullptr), ERROR_CALL_NOT_IMPLEMENTED);
+    EXPECT_LT(power.CallNtPowerInformation(LastWakeTime, nullptr, 0, nullptr, 0), 0);
+    power.LocalFree(nullptr);
+    EXPECT_TRUE(refused(security.OpenProcessToken(processes.GetCurrentProcess(), TOKEN_QUERY, &token) != 0));
+    EXPECT_TRUE(refused(security.LookupPrivilegeValueA(nullptr, "SeShutdownPrivilege", &luid) != 0));
+    EXPECT_TRUE(refused(processes.OpenProcess(PROCESS_TERMINATE, FALSE, 4) != nullptr));
+    EXPECT_TRUE(refused(processes.WaitForSingleObject(nullptr, 0) != WAIT_FAILED));
+    EXPECT_TRUE(refused(processes.GetModuleHandleA("kernel32.dll") != nullptr));
+    EXPECT_TRUE(refused(processes.GetProcAddress(nullptr, "Beep") != nullptr, ERROR_PROC_NOT_FOUND));
+    EXPECT_TRUE(refused(internet.InternetCheckConnectionA("http://example.org/", FLAG_ICC_FORCE_CONNECTION, 0) != 0));
+}
+
+} // namespace
+
+} // namespace calvix::simulation

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "simulation/computer.h"
+
+#include "platform/records/error_numbers.h"
+#include "platform/records/wlan_constants.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace calvix::simulation
+{
+
+/// A computer with two adapters and the homely network HomeNet, for the tests of its WLAN service. A test changes `scenario`
+/// and then starts it; whatever it takes from the service goes back when it ends, and its accounts must be clear then.
+class ServiceTest : public ::testing::Test
+{
+protected:
+    ServiceTest();
+    void TearDown() override;
+
+    /// Starts the computer and opens a client handle.
+    void Start();
+
+    platform::WlanService& Wlan() { return computer->wlan(); }
+
+    using Networks = std::vector<WLAN_AVAILABLE_NETWORK>;
+    using Stations = std::vector<WLAN_BSS_ENTRY>;
+
+    Networks ListNetworks(DWORD flags = 0);
+    Stations
+    ListStations(const DOT11_SSID* ssid = nullptr, DOT11_BSS_TYPE bssType = dot11_BSS_type_any, bool secured = false);
+    std::vector<std::wstring> ProfileNames();
+    std::wstring ProfileXml(const wchar_t* name, DWORD flags);
+    DWORD SetProfile(const std::string& xml, bool overwrite = false, DWORD flags = 0);
+    DWORD Connect(const wchar_t* profile, DOT11_BSS_TYPE bssType = dot11_BSS_type_infrastructure);
+    DWORD SetSoftwareRadio(DWORD phy, DOT11_RADIO_STATE state);
+    WLAN_INTERFACE_STATE InterfaceState();
+    /// The connection, or nothing and the error.
+    std::optional<WLAN_CONNECTION_ATTRIBUTES> Connection(DWORD* error = nullptr);
+
+    template <typename Record>
+    std::optional<Record> Query(WLAN_INTF_OPCODE opcode, DWORD* error = nullptr)
+    {
+        DWORD size = 0;
+        PVOID data = nullptr;
+        const DWORD result = Wlan().WlanQueryInterface(client, &first, opcode, nullptr, &size, &data, nullptr);
+        if (error != nullptr)
+        {
+            *error = result;
+        }
+        if (result != ERROR_SUCCESS)
+        {
+            return std::nullopt;
+        }
+        EXPECT_EQ(size, sizeof(Record));
+        const Record record = *static_cast<const Record*>(data);
+        Wlan().WlanFreeMemory(data);
+        return record;
+    }
+
+    Scenario scenario;
+    std::unique_ptr<Computer> computer;
+    HANDLE client = nullptr;
+
+    const GUID first = {0xA0000001, 1, 1, {1, 1, 1, 1, 1, 1, 1, 1}};
+    const GUID second = {0xB0000002, 2, 2, {2, 2, 2, 2, 2, 2, 2, 2}};
+    const GUID missing = {0xC0000003, 3, 3, {3, 3, 3, 3, 3, 3, 3, 3}};
+};
+
+Bytes BytesOf(const std::string& text);
+DOT11_SSID SsidOf(const std::string& text);
+std::string TextOf(const DOT11_SSID& ssid);
+
+/// An access point of HomeNet's kind.
+AccessPoint MakeAccessPoint(const std::string& ssid, std::uint8_t lastBssidByte, std::int32_t rssi);
+
+/// A profile's document, of HomeNet's kind.
+std::string MakeProfile(const std::string& name, const std::string& ssid);
+
+} // namespace calvix::simulation
