@@ -1,9 +1,13 @@
 #pragma once
 
+#include "facts.h"
+
 #include <cstdint>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace calvix::host
 {
@@ -27,6 +31,7 @@ struct FailureReport
     std::optional<int> code;
     std::string operation; ///< the operation of the platform that was refused last; may be empty
     std::uint32_t platformError = 0;
+    std::vector<CandidateFacts> candidates; ///< that were asked for in vain
 };
 
 /// Ends a command.

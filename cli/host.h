@@ -8,11 +8,13 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace calvix::host
 {
 
 class ServiceView;
+class WatchedWlan;
 
 /// The options that every command has.
 struct CommonOptions
@@ -46,6 +48,10 @@ public:
     CWirelessManage& library();
     /// The WLAN service as this program itself looks at it, for what the library has no method for.
     ServiceView& service();
+    /// What the library asked of the WLAN service since `library()` was last called, and what was refused.
+    WatchedWlan& watched();
+    /// All adapters, at least one.
+    std::vector<WLAN_INTERFACE_INFO> adapters();
     /// The adapter that was asked for. Fails when there is none like it.
     const WLAN_INTERFACE_INFO& adapter();
     const GUID* adapterGuid() { return &adapter().InterfaceGuid; }
@@ -66,7 +72,7 @@ private:
     struct World;
 
     World& world();
-    void FindAdapter();
+    WLAN_INTERFACE_INFO FindAdapter();
 
     CommonOptions m_options;
     std::ostream& m_out;

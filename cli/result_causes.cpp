@@ -51,8 +51,8 @@ constexpr CauseText kCauses[] = {
      "see that the adapter is still there and that the WLAN service runs", "WlanGetProfileList", kFailed},
     {Cause::noProfile, "no profile is stored",
      "store one: connect to a network once, or add an exported profile document", nullptr, kFailed},
-    {Cause::profileNotFound, "no profile of this name is stored",
-     "list the profiles; upper and lower case matter", nullptr, kFailed},
+    {Cause::profileNotFound, "no profile of this name is stored", "list the profiles; upper and lower case matter",
+     nullptr, kFailed},
     {Cause::profileNotDeleted, "the profile was not deleted",
      "check the name, case included; profiles of all users and of a group policy need an administrator",
      "WlanDeleteProfile", kFailed},
@@ -66,8 +66,9 @@ constexpr CauseText kCauses[] = {
      "add <connectionMode>auto</connectionMode> or manual to the document and store it again", nullptr, kFailed},
     {Cause::malformedConnectionMode, "the profile's document is malformed before its connection mode",
      "store a well-formed document under the same name", nullptr, kFailed},
-    {Cause::notConnected, "the adapter is not connected to a network",
-     "connect first; when it is connected, allow location access for desktop apps", "WlanQueryInterface", kFailed},
+    {Cause::notConnected, "there is no current connection that could be read",
+     "connect first; when the adapter is connected, allow location access for desktop apps", "WlanQueryInterface",
+     kFailed},
     {Cause::rssiRefused, "the signal strength of the link could not be read",
      "connect first; some drivers do not tell it at all", "WlanQueryInterface", kFailed},
     {Cause::statisticsRefused, "the frame counters could not be read",
@@ -92,6 +93,38 @@ constexpr CauseText kCauses[] = {
      kFailed},
     {Cause::nullInput, "a pointer that the method reads from is null", "pass what the method asks for", nullptr,
      kFailed},
+    {Cause::radioStateUnknown, "the state of the radio could not be read", "see that the adapter is still there",
+     "WlanQueryInterface", kFailed},
+    {Cause::noPhy, "the adapter reports no radio", "update the adapter's driver", nullptr, kFailed},
+    {Cause::safeModeUnknown, "whether the adapter supports safe mode could not be read",
+     "see that the adapter is still there; older drivers do not tell it", "WlanQueryInterface", kFailed},
+    {Cause::radioNotSwitched, "the radio could not be switched",
+     "look at the switch on the case and at flight mode; some drivers need an administrator", "WlanSetInterface",
+     kFailed},
+    {Cause::otherServiceVersion, "the WLAN service has a version that this is not meant for",
+     "use a system whose WLAN service is of version 2", nullptr, kFailed},
+    {Cause::someAdapterRefused, "an adapter refused to be listed, and is missing in the listing", kListAdvice, nullptr,
+     kFailed},
+    {Cause::profileNotInView, "no visible network carries the profile",
+     "scan first; check the profile's name, upper and lower case included", nullptr, kFailed},
+    {Cause::nothingMatches, "no visible network has a stored profile that may be used",
+     "scan first, or store a profile for a network in view", nullptr, kFailed},
+    {Cause::nothingBetter, "no network with a stored profile has a better signal than the current one",
+     "stay, or scan and try again", nullptr, kFailed},
+    {Cause::requestRefused, "the service refused to connect", "look at the service's error; the radio may be off",
+     "WlanConnect", kFailed},
+    {Cause::accessPointNotJoined, "the network has no access point in view, or the service refused to connect",
+     "scan first, go closer, and see that the profile is still stored", "WlanConnect", kFailed},
+    {Cause::savedNotAutomatic, "the remembered connection's profile does not connect automatically",
+     "connect by the profile's name instead", nullptr, kFailed},
+    {Cause::savedNotInView, "the remembered connection's network has no access point in view", "scan first; go closer",
+     nullptr, kFailed},
+    {Cause::profileNotMoved, "the current profile could not be moved to the last place",
+     "profiles of all users and of a group policy need an administrator", "WlanSetProfilePosition", kFailed},
+    {Cause::signalGoodEnough, "the signal is good enough to stay", "nothing: there is no need to roam", nullptr,
+     kFailed},
+    {Cause::alreadyThere, "the adapter is connected to the best access point of its network already",
+     "nothing: there is no need to roam", nullptr, kFailed},
 };
 
 /// The table is in the order of the enumeration, which Describe relies on.
@@ -105,7 +138,7 @@ constexpr bool IsInOrder()
     return true;
 }
 static_assert(IsInOrder());
-static_assert(std::size(kCauses) == static_cast<std::size_t>(Cause::nullInput) + 1);
+static_assert(std::size(kCauses) == static_cast<std::size_t>(Cause::alreadyThere) + 1);
 
 } // namespace
 

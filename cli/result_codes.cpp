@@ -23,30 +23,23 @@ constexpr CodeRow kGetWlanInterface[] = {
 
 // Scans, lists and counts
 
-constexpr CodeRow kRescan[] = {
-    {-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter}, {-4, scanRefused}};
+constexpr CodeRow kRescan[] = {{-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter}, {-4, scanRefused}};
 constexpr CodeRow kGetAvailableNetworkCount[] = {{-2, clientNotOpened}, {-5, networkListFailed}};
 constexpr CodeRow kGetNetworkBssCount[] = {
     {-2, clientNotOpened}, {-3, enumerationFailed}, {-4, noAdapter}, {-5, bssListFailed}};
-constexpr CodeRow kGetConnectableNetworkCount[] = {{-2, clientNotOpened},
-                                                   {-5, profileListFailed},
-                                                   {-6, noProfile},
-                                                   {-7, networkListFailed},
-                                                   {-8, networkListEmpty}};
+constexpr CodeRow kGetConnectableNetworkCount[] = {
+    {-2, clientNotOpened}, {-5, profileListFailed}, {-6, noProfile}, {-7, networkListFailed}, {-8, networkListEmpty}};
 constexpr CodeRow kGetAP[] = {{-1, clientNotOpened}, {-3, networkListFailed}, {-4, ssidNotVisible}};
 constexpr CodeRow kGetNotConnectableReason[] = {
-    {-1, clientNotOpened}, {-4, networkListFailed}, {-5, networkListEmpty}, {-6, networkNotListed}};
+    {-1, clientNotOpened}, {-4, networkListFailed}, {-5, networkListEmpty}, {-6, networkNotListed}, {-14, nullInput}};
 constexpr CodeRow kGetCurrentBSS[] = {{-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter},
                                       {-4, notConnected},    {-5, bssListFailed},     {-6, noBssInView}};
 
 // Signal metrics
 
 constexpr CodeRow kGetRssi[] = {{-1, clientNotOpened}, {-4, rssiRefused}};
-constexpr CodeRow kGetCurrentRSSI[] = {{-1, clientNotOpened},
-                                       {-4, notConnected},
-                                       {-5, bssListFailed},
-                                       {-6, noBssInView},
-                                       {-7, accessPointNotListed}};
+constexpr CodeRow kGetCurrentRSSI[] = {
+    {-1, clientNotOpened}, {-4, notConnected}, {-5, bssListFailed}, {-6, noBssInView}, {-7, accessPointNotListed}};
 constexpr CodeRow kGetWiFiRSSI[] = {{-1, clientNotOpened}};
 constexpr CodeRow kGetSignalQuality[] = {{-1, clientNotOpened}, {-4, notConnected}};
 
@@ -56,7 +49,7 @@ constexpr CodeRow kGetWlanProfile[] = {{-1, profileNotFound}};
 constexpr CodeRow kDeleteProfile[] = {{-1, clientNotOpened}, {-4, profileNotDeleted}};
 constexpr CodeRow kProfilePosition[] = {{-1, clientNotOpened}};
 constexpr CodeRow kGetProfileCount[] = {{-1, clientNotOpened}, {-4, profileListFailed}};
-constexpr CodeRow kGetProfile[] = {{-1, clientNotOpened}, {-4, profileNotReadable}};
+constexpr CodeRow kGetProfile[] = {{-1, clientNotOpened}, {-4, profileNotReadable}, {-13, nullOutput}};
 constexpr CodeRow kSetProfile[] = {{-1, clientNotOpened}, {-4, profileNotStored}};
 constexpr CodeRow kIsAutoConnMode2[] = {
     {-1, clientNotOpened}, {-4, profileNotReadable}, {-5, noConnectionMode}, {-6, malformedConnectionMode}};
@@ -75,14 +68,58 @@ constexpr CodeRow kGetMatchAP[] = {{-2, clientNotOpened},   {-5, profileListFail
 constexpr CodeRow kGetConnectableAPList[] = {{-2, clientNotOpened},   {-3, enumerationFailed}, {-4, noAdapter},
                                              {-5, profileListFailed}, {-6, noProfile},         {-7, networkListFailed},
                                              {-8, networkListEmpty},  {-13, nullOutput},       {-14, nullInput}};
-constexpr CodeRow kGetMatchBSSID[] = {{-1, diagnosticRun},      {-2, clientNotOpened},     {-5, profileListFailed},
-                                      {-6, noProfile},          {-7, networkListFailed},   {-8, networkListEmpty},
-                                      {-9, firstBssListFailed}, {-10, firstBssListEmpty},  {-11, laterBssListFailed},
+constexpr CodeRow kGetMatchBSSID[] = {{-1, diagnosticRun},      {-2, clientNotOpened},    {-5, profileListFailed},
+                                      {-6, noProfile},          {-7, networkListFailed},  {-8, networkListEmpty},
+                                      {-9, firstBssListFailed}, {-10, firstBssListEmpty}, {-11, laterBssListFailed},
                                       {-12, laterBssListEmpty}};
 constexpr CodeRow kConnectBestAP[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
                                       {-6, networkListFailed}, {-7, networkListEmpty},  {-9, noCandidate},
                                       {-10, bssListFailed},    {-11, bssListEmpty},     {-12, everyRequestRefused},
                                       {-13, nullInput},        {-14, nullInput}};
+
+// Radio and interface settings
+
+constexpr CodeRow kRadioState[] = {{-1, clientNotOpened}, {-4, radioStateUnknown}, {-5, noPhy}};
+constexpr CodeRow kSupportedSafeMode[] = {{-2, clientNotOpened}, {-5, safeModeUnknown}};
+constexpr CodeRow kRadioSwitch[] = {{-1, clientNotOpened}, {-4, radioNotSwitched}};
+constexpr CodeRow kClientOnly[] = {{-1, clientNotOpened}};
+// The method returns an unsigned number: all bits set.
+constexpr CodeRow kSetIhvSecuritySettings[] = {{-1, otherServiceVersion}};
+
+// Software access points, listings
+
+constexpr CodeRow kGetSoftAPList[] = {{-1, clientNotOpened}, {-13, nullOutput}};
+constexpr CodeRow kListing[] = {{1, someAdapterRefused}};
+
+// Connecting, saved connection
+
+constexpr CodeRow kLinkProfile[] = {{-1, clientNotOpened}, {-2, profileNotInView}};
+constexpr CodeRow kReconnect[] = {
+    {-1, clientNotOpened}, {-4, bssListFailed}, {-6, accessPointNotJoined}, {-14, nullInput}};
+constexpr CodeRow kRecoverConnection[] = {{-1, clientNotOpened}, {-4, requestRefused}, {-14, nullInput}};
+constexpr CodeRow kResetConnection[] = {{-1, clientNotOpened}, {-4, notConnected}, {-5, requestRefused}};
+constexpr CodeRow kSaveConnection[] = {{-1, clientNotOpened}, {-4, notConnected}, {-5, profileNotReadable}};
+constexpr CodeRow kRecoverSaved[] = {
+    {-99, savedNotAutomatic}, {-1, clientNotOpened}, {-4, bssListFailed}, {-5, savedNotInView}, {-6, requestRefused}};
+constexpr CodeRow kRecoverNotification[] = {{-1, clientNotOpened}, {-4, bssListFailed}, {-6, accessPointNotJoined}};
+
+// Automatic connection, roaming
+
+constexpr CodeRow kAutoConnect[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
+                                    {-6, networkListFailed}, {-7, networkListEmpty},  {-9, nothingMatches}};
+constexpr CodeRow kAutoConnectEx[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
+                                      {-6, networkListFailed}, {-7, networkListEmpty},  {-9, nothingMatches},
+                                      {-10, bssListFailed},    {-11, bssListEmpty},     {-12, everyRequestRefused}};
+constexpr CodeRow kAutoSwitch[] = {{-1, clientNotOpened}, {-3, notConnected},      {-4, profileListFailed},
+                                   {-5, profileNotMoved}, {-6, networkListFailed}, {-7, nothingMatches}};
+constexpr CodeRow kSmartSwitch[] = {{-1, clientNotOpened}, {-2, nothingBetter}};
+constexpr CodeRow kSmartConnecting[] = {{-1, clientNotOpened}, {-2, nothingMatches}};
+constexpr CodeRow kConnectAutoMode[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
+                                        {-6, networkListFailed}, {-7, networkListEmpty},  {-9, noCandidate}};
+constexpr CodeRow kPreRoaming[] = {{-1, clientNotOpened}, {-4, notConnected}, {-5, signalGoodEnough},
+                                   {-6, bssListFailed},   {-7, noBssInView},  {-8, alreadyThere}};
+constexpr CodeRow kRoaming[] = {{-1, clientNotOpened}, {-4, notConnected}, {-5, signalGoodEnough}, {-6, bssListFailed},
+                                {-7, noBssInView},     {-8, alreadyThere}, {-9, requestRefused}};
 
 constexpr MethodResults kMethods[] = {
     {"Get", value, "the library's one object; null only when there is no memory for it", {}},
@@ -101,8 +138,7 @@ constexpr MethodResults kMethods[] = {
     {"GetWlanInterface", status, "the adapters were listed", kGetWlanInterface},
 
     {"UnicodeToAnsi", yesOrNo, "whether the text was converted", {}},
-    {"WideCharToChar", count, "the number of bytes made, terminator included; 0 when the text cannot be converted",
-     {}},
+    {"WideCharToChar", count, "the number of bytes made, terminator included; 0 when the text cannot be converted", {}},
     {"GetSSID", yesOrNo, "whether the SSID was converted to text", {}},
     {"StringToHex", text, "the bytes", {}},
     {"HexToString", text, "the hexadecimal text", {}},
@@ -117,8 +153,7 @@ constexpr MethodResults kMethods[] = {
     {"GetConnectableNetworkCount", count, "the number of pairs of a stored profile and a visible network",
      kGetConnectableNetworkCount},
     {"GetAP", status, "a visible network has the SSID", kGetAP},
-    {"GetNotConnectableReason", status, "the network was found and its reason code written",
-     kGetNotConnectableReason},
+    {"GetNotConnectableReason", status, "the network was found and its reason code written", kGetNotConnectableReason},
     {"IsWiFiDisappear", yesOrNo, "whether the connected network has left the air", {}},
     {"GetCurrentBSS", status, "the connected network has an access point in view", kGetCurrentBSS},
 
@@ -160,6 +195,57 @@ constexpr MethodResults kMethods[] = {
 
     {"ConnectBestAP", status, "a connection was asked for and the request accepted; it is not made yet",
      kConnectBestAP},
+
+    {"RegisterNotification", platformError, "the callback is registered", {}},
+    {"UnRegisterNotification", platformError, "no callback is registered any more", {}},
+
+    {"PhyRadioIsOn", yesOrNo, "whether the radio is on", {}},
+    {"PhyRadioIsOn2", yesOrNo, "whether the radio is on", kRadioState},
+    {"PhyRadioTurnedOff", yesOrNo, "whether the radio is off", {}},
+    {"PhyRadioTurnedOff2", yesOrNo, "whether the radio is off", kRadioState},
+    {"SupportedSafeMode", yesOrNo, "whether the adapter supports safe mode", kSupportedSafeMode},
+    {"RadioTurnOn", status, "the software radio was switched on", kRadioSwitch},
+    {"TurnOnSoftwareRadio", status, "the software radio was switched on", kRadioSwitch},
+    {"RadioTurnOff", status, "the software radio was switched off", kRadioSwitch},
+    {"ResetWiFiRadio", status, "the radio was asked to go off and on; whether it did is not told", kClientOnly},
+    {"RestartWiFiRadio", nothing, "the radio was asked to go off and on; nothing is reported", {}},
+
+    {"EnableAutoCfg", platformError, "automatic connection is on", {}},
+    {"EnableBackgroundScan", platformError, "background scanning is on", {}},
+    {"GetPowerSetting", platformError, "the power-saving level was asked for; a refusal is not told", {}},
+    {"SetPowerSetting", status, "nothing was done, which is all that the method does", {}},
+    {"GetPowerSettingStr", text, "the name of a power-saving level", {}},
+    {"SetIhvSecuritySettings", platformError, "ordinary users may talk to the driver", kSetIhvSecuritySettings},
+    {"IhvControl", platformError, "the driver answered", {}},
+
+    {"GetSoftAPList", platformError, "the software access points in view were listed", kGetSoftAPList},
+    {"SpecialSoftAP", yesOrNo, "whether the first adapter is connected to a software access point", {}},
+    {"GetAvailableNetwork", platformError, "the visible networks were traced", kListing},
+    {"GetNetworkBss", platformError, "the access points in view were traced", kListing},
+    {"ReasonCode2String", yesOrNo, "whether the text was written", {}},
+
+    {"LinkProfile", platformError, "a connection was asked for and the request accepted", kLinkProfile},
+    {"Disconnect", platformError, "the service was asked to disconnect", {}},
+    {"Reconnect", status, "a connection was asked for and the request accepted", kReconnect},
+    {"RecoverConnection", status, "a connection was asked for and the request accepted", kRecoverConnection},
+    {"ResetConnection", status, "the connection was asked for again and the request accepted", kResetConnection},
+    {"SetCurrentWiFiToLast", platformError, "the profile is in the last place, or there was nothing to move",
+     kClientOnly},
+    {"SaveCurrentConnectionAttributes", status, "the connection is remembered", kSaveConnection},
+    {"RecoverConnetionAttributes", status, "a connection was asked for and the request accepted", kRecoverSaved},
+    {"SaveConnNotificationData", nothing, "the notification data is remembered", {}},
+    {"RecoverConnNotificationData", status, "a connection was asked for and the request accepted",
+     kRecoverNotification},
+
+    {"AutoConnect", status, "connections were asked for, whether or not one was accepted", kAutoConnect},
+    {"AutoConnectEx", status, "a connection was asked for and the request accepted", kAutoConnectEx},
+    {"AutoSwitch", status, "connections were asked for, whether or not one was accepted", kAutoSwitch},
+    {"SmartSwitch", platformError, "a connection was asked for and the request accepted", kSmartSwitch},
+    {"SmartConnecting", platformError, "a connection was asked for, or there is no adapter", kSmartConnecting},
+    {"ConnectAutoMode", status, "connections were asked for, whether or not one was accepted", kConnectAutoMode},
+
+    {"PreRoaming", status, "the network has a better access point", kPreRoaming},
+    {"Roaming", status, "a better access point was asked for and the request accepted", kRoaming},
 };
 
 } // namespace

@@ -46,7 +46,23 @@ enum class Cause
     firstBssListFailed,
     firstBssListEmpty,
     nullOutput,
-    nullInput
+    nullInput,
+    radioStateUnknown,
+    noPhy,
+    safeModeUnknown,
+    radioNotSwitched,
+    otherServiceVersion,
+    someAdapterRefused,
+    profileNotInView,
+    nothingMatches,
+    nothingBetter,
+    requestRefused,
+    accessPointNotJoined,
+    savedNotAutomatic,
+    savedNotInView,
+    profileNotMoved,
+    signalGoodEnough,
+    alreadyThere
 };
 
 struct CauseText
@@ -101,7 +117,7 @@ std::optional<Cause> FindCause(const MethodResults& results, long long code);
 /// A result in words.
 struct Explanation
 {
-    bool known = false;   ///< whether the method has such a result
+    bool known = false; ///< whether the method has such a result
     bool failure = false;
     std::string meaning;
     std::string advice; ///< may be empty

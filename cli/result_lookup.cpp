@@ -52,8 +52,11 @@ const MethodResults* FindMethod(std::string_view method)
 
 std::optional<Cause> FindCause(const MethodResults& results, long long code)
 {
+    // Some methods return unsigned numbers, in which a negative code has its 32 bits.
+    const bool isUnsigned = code > 0x7FFFFFFFLL && code <= 0xFFFFFFFFLL;
+    const long long wanted = isUnsigned ? code - 0x100000000LL : code;
     const auto row = std::find_if(results.codes.begin(), results.codes.end(),
-                                  [code](const CodeRow& candidate) { return candidate.code == code; });
+                                  [wanted](const CodeRow& candidate) { return candidate.code == wanted; });
     return row != results.codes.end() ? std::optional(row->cause) : std::nullopt;
 }
 

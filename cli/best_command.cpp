@@ -1,0 +1,254 @@
+#include "autoconnect/candidate_ranking.h"
+#include "command.h"
+#include "core/fixed_text.h"
+#include "core/trace.h"
+#include "describe.h"
+#include "failure_words.h"
+#include "host.h"
+#include "json_output.h"
+#include "platform_errors.h"
+#include "service_view.h"
+#include "table.h"
+#include "text_forms.h"
+#include "watched_wlan.h"
+
+#include <algorithm>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+constexpr unsigned kPollMilliseconds = 250;
+
+struct BestOptions
+{
+    std::string excludedProfile;
+    std::vector<std::string> excludedSsids;
+    unsigned seconds = 15;
+};
+
+int ConnectBest(Host& host, const BestOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    const std::wstring name = Widen(options.excludedProfile);
+    std::vector<WLAN_BSS_ENTRY> excluded;
+    for (const std::string& ssid : options.excludedSsids)
+    {
+        WLAN_BSS_ENTRY entry{};
+        entry.dot11Ssid = MakeSsid(BytesOfVisibleText(ssid));
+        excluded.push_back(entry);
+    }
+    CWirelessManage& library = host.library();
+    if (name.empty())
+        return excluded.empty() ? library.ConnectBestAP(adapter) : library.ConnectBestAP(adapter, &excluded);
+    return excluded.empty() ? library.ConnectBestAP(adapter, name.c_str())
+                            : library.ConnectBestAP(adapter, &excluded, name.c_str());
+}
+
+/// Every candidate in the order in which the library would ask for it. The library itself says so: it goes through all
+/// of them when each request is refused.
+std::vector<ConnectRequest> Rehearse(Host& host, const BestOptions& options)
+{
+    const unsigned char traced = g_bTraceOn;
+    g_bTraceOn = 0;
+    host.watched().Rehearse(true);
+    ConnectBest(host, options);
+    host.watched().Rehearse(false);
+    g_bTraceOn = traced;
+    return host.watched().ConnectRequests();
+}
+
+/// The networks behind the requests, taken out of the list one by one: a profile may stand on several.
+std::vector<Candidate> CandidatesOf(const std::vector<ConnectRequest>& requests,
+                                    const std::vector<WLAN_AVAILABLE_NETWORK>& networks)
+{
+    std::vector<Candidate> candidates;
+    std::vector<bool> taken(networks.size());
+    for (const ConnectRequest& request : requests)
+    {
+        for (std::size_t i = 0; i < networks.size(); ++i)
+        {
+            if (taken[i] || networks[i].dot11BssType != request.bssType ||
+                FixedText(networks[i].strProfileName) != request.profile)
+                continue;
+            taken[i] = true;
+            candidates.emplace_back(networks[i]);
+            break;
+        }
+    }
+    return candidates;
+}
+
+CandidateFacts DescribeCandidate(const Candidate& candidate, std::size_t order)
+{
+    CandidateFacts facts;
+    facts.order = static_cast<unsigned>(order);
+    facts.profile = Narrow(FixedText(candidate.network->strProfileName));
+    facts.ssid = DescribeSsid(candidate.network->dot11Ssid);
+    facts.quality = candidate.network->wlanSignalQuality;
+    facts.fiveGhz = candidate.bonusEntries;
+    facts.bonus = candidate.score - candidate.network->wlanSignalQuality;
+    facts.score = candidate.score;
+    return facts;
+}
+
+std::vector<CandidateFacts> ScoreCandidates(Host& host, const BestOptions& options)
+{
+    std::vector<CandidateFacts> facts;
+    const std::vector<ConnectRequest> requests = Rehearse(host, options);
+    if (requests.empty())
+        return facts;
+    const std::vector<WLAN_AVAILABLE_NETWORK> networks = host.service().Networks(host.adapterGuid());
+    std::vector<Candidate> candidates = CandidatesOf(requests, networks);
+    if (candidates.empty())
+        return facts;
+    // The library takes the bonus from this one network, whichever the candidates are.
+    BssList entries;
+    host.service().AccessPointsOf(host.adapterGuid(), networks.back(), entries);
+    AddBandBonus(candidates, *entries);
+    for (const Candidate& candidate : candidates)
+        facts.push_back(DescribeCandidate(candidate, facts.size() + 1));
+    return facts;
+}
+
+/// What became of the candidates: the requests were made in their order.
+void NoteOutcomes(const std::vector<ConnectRequest>& requests, std::vector<CandidateFacts>& candidates)
+{
+    for (std::size_t i = 0; i < requests.size() && i < candidates.size(); ++i)
+    {
+        candidates[i].error = requests[i].error;
+        candidates[i].outcome = requests[i].error == 0 ? Outcome::accepted : Outcome::refused;
+    }
+}
+
+Tone ToneOf(Outcome outcome)
+{
+    switch (outcome)
+    {
+    case Outcome::joined:
+        return Tone::good;
+    case Outcome::accepted:
+        return Tone::fair;
+    case Outcome::refused:
+        return Tone::poor;
+    case Outcome::notTried:
+        break;
+    }
+    return Tone::faint;
+}
+
+void PrintCandidates(Host& host, const std::vector<CandidateFacts>& candidates)
+{
+    Table table({{"#", Align::right},
+                 {"Profile"},
+                 {"SSID"},
+                 {"Quality", Align::right},
+                 {"5 GHz APs", Align::right},
+                 {"Bonus", Align::right},
+                 {"Score", Align::right},
+                 {"Outcome"}});
+    for (const CandidateFacts& candidate : candidates)
+    {
+        std::string outcome = OutcomeText(candidate.outcome);
+        if (candidate.error != 0)
+            outcome += " (" + DescribePlatformError(candidate.error) + ")";
+        table.AddRow({std::to_string(candidate.order), VisibleText(candidate.profile), candidate.ssid.text,
+                      std::to_string(candidate.quality), std::to_string(candidate.fiveGhz),
+                      "+" + std::to_string(candidate.bonus), std::to_string(candidate.score),
+                      Cell(outcome, ToneOf(candidate.outcome))});
+    }
+    table.Print(host.out(), host.terminal());
+}
+
+/// Ends the command; the candidates are shown first where they say why.
+[[noreturn]] void Fail(Host& host, const Failure& failure, const std::vector<CandidateFacts>& candidates)
+{
+    if (!host.json() && !candidates.empty())
+        PrintCandidates(host, candidates);
+    FailureReport report = failure.report();
+    report.candidates = candidates;
+    throw Failure(report);
+}
+
+/// Whether the adapter is connected by this profile before the time is over.
+bool WaitForConnection(Host& host, const std::wstring& profile, unsigned seconds)
+{
+    for (unsigned waited = 0;; waited += kPollMilliseconds)
+    {
+        const auto connection = host.service().Connection(host.adapterGuid());
+        if (connection && StandsConnected(connection->isState) && FixedText(connection->strProfileName) == profile)
+            return true;
+        if (waited >= seconds * 1000)
+            return false;
+        host.Wait(kPollMilliseconds);
+    }
+}
+
+Failure NeverConnected(const std::wstring& profile, unsigned seconds)
+{
+    return OperationFailure("the request for \"" + VisibleText(Narrow(profile)) +
+                                "\" was accepted, but the connection was not made within " + Counted(seconds, "second"),
+                            "check the passphrase in the profile and the signal, or wait longer with --timeout");
+}
+
+void Best(Host& host, const BestOptions& options)
+{
+    host.adapter();
+    std::vector<CandidateFacts> candidates = ScoreCandidates(host, options);
+    const int code = ConnectBest(host, options);
+    const std::vector<ConnectRequest> requests = host.watched().ConnectRequests();
+    NoteOutcomes(requests, candidates);
+    if (code != 0)
+        Fail(host, host.MethodFailure("ConnectBestAP", code), candidates);
+
+    const std::wstring& profile = requests.back().profile;
+    if (host.terminal().isTerminal)
+        host.err() << "Asked for \"" << VisibleText(Narrow(profile)) << "\", waiting for the connection ...\n";
+    if (!WaitForConnection(host, profile, options.seconds))
+        Fail(host, NeverConnected(profile, options.seconds), candidates);
+    for (CandidateFacts& candidate : candidates)
+    {
+        if (candidate.outcome == Outcome::accepted)
+            candidate.outcome = Outcome::joined;
+    }
+    const StatusFacts status = ReadStatus(host);
+    if (host.json())
+        return PrintJson(host.out(), BestFacts{candidates, status});
+    PrintCandidates(host, candidates);
+    host.out() << '\n';
+    PrintStatus(host, status);
+}
+
+} // namespace
+
+const char* OutcomeText(Outcome outcome)
+{
+    switch (outcome)
+    {
+    case Outcome::notTried:
+        return "not tried";
+    case Outcome::refused:
+        return "refused";
+    case Outcome::accepted:
+        return "accepted";
+    case Outcome::joined:
+        return "joined";
+    }
+    return "";
+}
+
+void AddBestCommand(CommandSet& commands)
+{
+    const auto options = std::make_shared<BestOptions>();
+    commands
+        .Add("best", "Join the best network with a stored profile that connects automatically",
+             [options](Host& host) { Best(host, *options); })
+        .Text("--exclude-profile", options->excludedProfile, "Do not choose this profile")
+        .Texts("--exclude-ssid", options->excludedSsids,
+               "Do not choose networks whose SSID is this or its beginning; may be given several times")
+        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most");
+}
+
+} // namespace calvix::host

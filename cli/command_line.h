@@ -1,0 +1,25 @@
+#pragma once
+
+#include "command.h"
+#include "host.h"
+
+#include <memory>
+#include <optional>
+
+namespace calvix::host
+{
+
+/// What the arguments ask for.
+struct Request
+{
+    std::string command; ///< "profiles list"
+    RunCommand run;
+    CommonOptions options;
+};
+
+/// Reads the arguments. Help and version, when asked for, go to `out`, what is wrong goes to `err`; `exitCode` is set
+/// and no request returned then.
+std::optional<Request>
+ParseArguments(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, ExitCode& exitCode);
+
+} // namespace calvix::host

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "facts.h"
+#include "host.h"
+
+namespace calvix::host
+{
+
+/// From the platform's records to what is shown of them.
+
+SsidFacts DescribeSsid(const DOT11_SSID& ssid);
+AdapterFacts DescribeAdapter(Host& host, const WLAN_INTERFACE_INFO& info, unsigned number);
+NetworkFacts DescribeNetwork(const WLAN_AVAILABLE_NETWORK& network);
+AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry);
+std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_ENTRY>& entries);
+
+void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPoints);
+
+/// Whether an adapter in this state has a connection.
+inline bool StandsConnected(WLAN_INTERFACE_STATE state)
+{
+    return state == wlan_interface_state_connected || state == wlan_interface_state_ad_hoc_network_formed;
+}
+/// The adapter's state and connection now.
+StatusFacts ReadStatus(Host& host);
+void PrintStatus(Host& host, const StatusFacts& status);
+
+/// "1 network", "3 networks"
+std::string Counted(std::size_t count, const char* noun);
+
+} // namespace calvix::host

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "failure.h"
+#include "watched_wlan.h"
+
+#include <ostream>
+
+namespace calvix::host
+{
+
+/// The failure of a library method, with what the service refused on the way where that explains it.
+Failure MethodFailureInWords(const char* method, long code, const Refusal& refusal);
+
+/// The failure of an operation of the service that this program called itself.
+Failure ServiceFailure(const char* operation, std::uint32_t error);
+
+/// A failure that is nobody's code: a time-out, a connection that was never made.
+Failure OperationFailure(std::string message, std::string advice);
+
+/// The failure for people.
+void PrintFailure(std::ostream& err, const FailureReport& report);
+
+} // namespace calvix::host

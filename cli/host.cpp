@@ -1,0 +1,231 @@
+#include "host.h"
+
+#include "core/trace.h"
+#include "failure_words.h"
+#include "files.h"
+#include "platform/platform.h"
+#include "service_view.h"
+#include "simulation/computer.h"
+#include "text_forms.h"
+#include "watched_platform.h"
+
+#include <algorithm>
+#include <cctype>
+#include <optional>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+/// Whether somebody has put a platform in place already; then it is used, unless a scenario is named.
+bool IsPlatformGiven()
+{
+#if defined(_WIN32)
+    return true;
+#else
+    return platform::g_pReplacement.load() != nullptr;
+#endif
+}
+
+std::unique_ptr<simulation::Computer> MakeComputer(const std::string& scenario)
+{
+    try
+    {
+        if (!scenario.empty())
+            return std::make_unique<simulation::Computer>(simulation::ParseScenario(ReadTextFile(scenario), scenario));
+        if (IsPlatformGiven())
+            return nullptr;
+        return std::make_unique<simulation::Computer>(simulation::BuiltInScenario());
+    }
+    catch (const simulation::ScenarioError& error)
+    {
+        throw BadInput(error.what(), "correct the scenario file; its schema tells what may stand where");
+    }
+}
+
+/// Puts a platform behind the library, and takes it away again.
+class PlatformInPlace
+{
+public:
+    explicit PlatformInPlace(platform::Platform& platform) : m_before(platform::ReplacePlatform(&platform)) {}
+    ~PlatformInPlace() { platform::ReplacePlatform(m_before); }
+    PlatformInPlace(const PlatformInPlace&) = delete;
+    PlatformInPlace& operator=(const PlatformInPlace&) = delete;
+
+private:
+    platform::Platform* m_before;
+};
+
+/// The library from its first Get to its Delete.
+class LibraryInUse
+{
+public:
+    explicit LibraryInUse(bool trace)
+    {
+        g_bTraceOn = trace ? 1 : 0;
+        m_library = CWirelessManage::Get();
+        if (m_library == nullptr)
+            throw OperationFailure("there is no memory for the library", "close other programs");
+    }
+    ~LibraryInUse()
+    {
+        CWirelessManage::Delete();
+        g_bTraceOn = 0;
+    }
+    LibraryInUse(const LibraryInUse&) = delete;
+    LibraryInUse& operator=(const LibraryInUse&) = delete;
+
+    CWirelessManage& operator*() const { return *m_library; }
+
+private:
+    CWirelessManage* m_library = nullptr;
+};
+
+bool SameGuidText(std::string_view left, std::string_view right)
+{
+    const auto letters = [](std::string_view text)
+    {
+        std::string kept;
+        for (const char c : text)
+        {
+            if (c != '{' && c != '}')
+                kept += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        }
+        return kept;
+    };
+    return letters(left) == letters(right);
+}
+
+/// The place in the list that a number from 1 names; none for a text that is no such number.
+std::optional<std::size_t> PlaceOf(const std::string& text, std::size_t count)
+{
+    const bool digits = std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    if (text.empty() || text.size() > 3 || !digits)
+        return std::nullopt;
+    const auto number = static_cast<std::size_t>(std::stoul(text));
+    return number >= 1 && number <= count ? std::optional(number - 1) : std::nullopt;
+}
+
+} // namespace
+
+/// Everything that a command on networks needs, in the order in which it comes up.
+struct Host::World
+{
+    World(const CommonOptions& options, std::ostream& err)
+        : computer(MakeComputer(options.scenario)),
+          watched(computer ? static_cast<platform::Platform&>(*computer) : platform::CurrentPlatform(),
+                  options.trace ? &err : nullptr),
+          inPlace(watched), library(options.trace)
+    {
+    }
+
+    std::unique_ptr<simulation::Computer> computer;
+    WatchedPlatform watched;
+    PlatformInPlace inPlace;
+    LibraryInUse library;
+    std::unique_ptr<ServiceView> service;
+};
+
+Host::Host(CommonOptions options, std::ostream& out, std::ostream& err, TerminalTraits terminal)
+    : m_options(std::move(options)), m_out(out), m_err(err), m_terminal(terminal)
+{
+    m_terminal.color = m_terminal.color && !m_options.noColor;
+}
+
+Host::~Host() = default;
+
+Host::World& Host::world()
+{
+    if (m_world == nullptr)
+    {
+        m_world = std::make_unique<World>(m_options, m_err);
+        if (!m_options.save.empty() && m_world->computer == nullptr)
+            throw BadInput("--save needs a simulated computer", "name one with --scenario FILE");
+    }
+    return *m_world;
+}
+
+CWirelessManage& Host::library()
+{
+    World& current = world();
+    current.watched.watched().StartWatching();
+    return *current.library;
+}
+
+WatchedWlan& Host::watched()
+{
+    return world().watched.watched();
+}
+
+ServiceView& Host::service()
+{
+    World& current = world();
+    if (current.service == nullptr)
+        current.service = std::make_unique<ServiceView>();
+    return *current.service;
+}
+
+std::vector<WLAN_INTERFACE_INFO> Host::adapters()
+{
+    std::vector<WLAN_INTERFACE_INFO> list;
+    Check("GetWlanInterface", library().GetWlanInterface(&list));
+    return list;
+}
+
+const WLAN_INTERFACE_INFO& Host::adapter()
+{
+    if (m_adapter == nullptr)
+        m_adapter = std::make_unique<WLAN_INTERFACE_INFO>(FindAdapter());
+    return *m_adapter;
+}
+
+WLAN_INTERFACE_INFO Host::FindAdapter()
+{
+    const std::vector<WLAN_INTERFACE_INFO> list = adapters();
+    const std::string& wanted = m_options.adapter;
+    if (wanted.empty())
+        return list.front();
+    if (const auto place = PlaceOf(wanted, list.size()))
+        return list[*place];
+    GUID guid{};
+    const bool described = library().GetWlanInterfaceGuid(Widen(wanted).c_str(), guid) == 0;
+    for (const WLAN_INTERFACE_INFO& info : list)
+    {
+        if (described ? IsEqualGUID(info.InterfaceGuid, guid)
+                      : SameGuidText(wanted, library().GUID2String(info.InterfaceGuid)))
+            return info;
+    }
+    throw BadInput("there is no adapter \"" + wanted + "\"",
+                   "list the adapters with: calvix adapters. Give the number, the GUID or the whole description");
+}
+
+void Host::Wait(unsigned milliseconds)
+{
+    world();
+    platform::clock().Sleep(milliseconds);
+}
+
+int Host::Check(const char* method, long code)
+{
+    if (code < 0)
+        throw MethodFailure(method, code);
+    return static_cast<int>(code);
+}
+
+Failure Host::MethodFailure(const char* method, long code)
+{
+    return MethodFailureInWords(method, code, watched().LastRefusal());
+}
+
+void Host::Save()
+{
+    if (m_options.save.empty())
+        return;
+    if (m_world == nullptr)
+        throw BadInput("--save has nothing to write: this command uses no simulated computer", "leave it out");
+    WriteWholeFile(m_options.save, simulation::WriteScenario(m_world->computer->Snapshot()));
+}
+
+} // namespace calvix::host

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// A file that cannot be imported. The message reads "file:LINE: what is wrong", or "file: what" where no line applies.
+class CaptureError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What is wrong with one line, by a reader that does not know what the text is called.
+class LineError : public std::runtime_error
+{
+public:
+    LineError(std::size_t line, const std::string& what) : std::runtime_error(what), m_line(line) {}
+    std::size_t line() const { return m_line; }
+
+private:
+    std::size_t m_line;
+};
+
+/// Runs `read` and says of which file it complains. `source` is what messages call the text.
+template <typename Read>
+auto ReadingFrom(const std::string& source, Read read)
+{
+    try
+    {
+        return read();
+    }
+    catch (const LineError& error)
+    {
+        throw CaptureError(source + ":" + std::to_string(error.line()) + ": " + error.what());
+    }
+}
+
+/// One "name : value" line. A line without a colon has everything in `name`.
+struct CaptureField
+{
+    std::size_t line = 0; ///< counted from 1
+    std::string name;     ///< without the blanks around it
+    std::string value;    ///< without the blanks around it; may hold colons
+    bool hasColon = false;
+};
+
+/// The lines of a text that are not blank. The first colon ends the name.
+std::vector<CaptureField> ReadFields(std::string_view text);
+
+/// The fields that describe one thing, such as an access point.
+class CaptureRecord
+{
+public:
+    /// `title` is what messages call the thing; `line` is where it begins.
+    CaptureRecord(std::string title, std::size_t line) : m_title(std::move(title)), m_line(line) {}
+
+    /// Throws LineError for a field that the record has already: a line between them was lost.
+    void Add(const CaptureField& field);
+    /// Null when the record has no field of that name.
+    const CaptureField* Find(std::string_view name) const;
+    /// Throws LineError when the record has no field of that name.
+    const CaptureField& Need(std::string_view name) const;
+    std::size_t line() const { return m_line; }
+
+private:
+    std::string m_title;
+    std::size_t m_line;
+    std::vector<CaptureField> m_fields;
+};
+
+/// `text` without the blanks around it.
+std::string_view Trim(std::string_view text);
+
+/// Compares without regard to the case of ASCII letters.
+bool SameWord(std::string_view one, std::string_view other);
+
+/// The first decimal number in a text, -1 where there is none.
+int FirstNumber(std::string_view text);
+
+/// For "SSID 12" and the keyword "SSID": true.
+bool IsNumbered(std::string_view name, std::string_view keyword);
+
+/// The same text in UTF-8 without a byte order mark: UTF-16 is recognised by its mark, anything else must be UTF-8.
+/// Throws LineError for bytes that are neither.
+std::string ToUtf8(std::string_view bytes);
+
+/// A whole file as it lies on the disk. Throws CaptureError when it cannot be read.
+std::string ReadWholeFile(const std::string& path);
+
+} // namespace calvix::host

@@ -1,0 +1,264 @@
+#include "import/import.h"
+
+#include "import/captured_air.h"
+#include "import/file_path.h"
+#include "import/made_profile.h"
+#include "text_forms.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <tuple>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+using simulation::AccessPoint;
+using simulation::AdapterDescription;
+using simulation::Bytes;
+using simulation::PhyDescription;
+using simulation::StoredProfile;
+
+/// The PHY types in the order of their standards; an adapter knows those before its newest.
+constexpr std::array<std::uint32_t, 7> kPhyTypes{5, 4, 6, 7, 8, 10, 11};
+
+std::size_t Generation(std::uint32_t phyType)
+{
+    return static_cast<std::size_t>(std::find(kPhyTypes.begin(), kPhyTypes.end(), phyType) - kPhyTypes.begin());
+}
+
+struct NamedProfile
+{
+    std::string name;
+    StoredProfile stored;
+};
+
+std::vector<CapturedInterface> AdaptersOf(const Captures& captures)
+{
+    if (captures.interfaces)
+        return captures.interfaces->adapters;
+    CapturedInterface madeUp;
+    madeUp.description = "Wireless adapter";
+    madeUp.guid = "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E01}";
+    madeUp.address = {0x02, 0x00, 0x5E, 0x10, 0x00, 0x01};
+    return {madeUp};
+}
+
+/// Index into `adapters`, or their number where the file's name tells nothing.
+std::size_t AdapterOfFile(const std::string& fileName, const std::vector<CapturedInterface>& adapters)
+{
+    std::size_t best = adapters.size();
+    for (std::size_t i = 0; i < adapters.size(); ++i)
+    {
+        const bool longer = best == adapters.size() || adapters[i].name.size() > adapters[best].name.size();
+        if (!adapters[i].name.empty() && fileName.starts_with(adapters[i].name + "-") && longer)
+            best = i;
+    }
+    return best;
+}
+
+/// A file's name without its folder, which is nobody's business.
+std::string ShortName(const std::string& path)
+{
+    return VisibleText(PathText(PathOf(path).filename()));
+}
+
+class Assembly
+{
+public:
+    Assembly(const Captures& captures, bool makeProfiles) : m_captures(captures), m_captured(AdaptersOf(captures))
+    {
+        if (captures.networks)
+        {
+            m_result.scenario.accessPoints = AirOf(*captures.networks);
+            m_result.warnings = captures.networks->warnings;
+        }
+        m_result.scenario.description = Description();
+        AddAdapters();
+        for (const ExportedProfile& profile : captures.profiles)
+            AddExported(profile);
+        for (std::size_t i = 0; i < m_captured.size(); ++i)
+            if (m_captured[i].connection)
+                AddConnection(i, *m_captured[i].connection);
+        for (std::size_t i = 0; makeProfiles && i < m_captured.size(); ++i)
+            MakeProfiles(i);
+        StoreProfiles();
+    }
+
+    ImportedScenario result() { return std::move(m_result); }
+
+private:
+    std::vector<AccessPoint>& air() { return m_result.scenario.accessPoints; }
+    /// Says once what is true of several adapters or access points.
+    void Warn(const std::string& text)
+    {
+        std::vector<std::string>& said = m_result.warnings;
+        if (std::find(said.begin(), said.end(), text) == said.end())
+            said.push_back(text);
+    }
+
+    std::string Description() const
+    {
+        std::string sources = m_captures.networks ? ShortName(m_captures.networks->source) : "";
+        if (m_captures.interfaces)
+            sources += (sources.empty() ? "" : " and ") + ShortName(m_captures.interfaces->source);
+        return "Imported from " + (sources.empty() ? "exported profiles" : sources);
+    }
+
+    /// Drivers report only PHY types that they know, so that whatever is heard says something about the adapter.
+    std::size_t NewestGeneration(const CapturedInterface& captured)
+    {
+        constexpr std::uint32_t kLeast = 7;
+        std::size_t newest = Generation(kLeast);
+        const auto look = [&newest](const AccessPoint& accessPoint)
+        {
+            const std::size_t generation = Generation(accessPoint.phyType);
+            newest = generation < kPhyTypes.size() ? std::max(newest, generation) : newest;
+        };
+        std::for_each(air().begin(), air().end(), look);
+        if (captured.connection)
+            look(captured.connection->accessPoint);
+        return newest;
+    }
+
+    void AddAdapters()
+    {
+        for (const CapturedInterface& captured : m_captured)
+        {
+            AdapterDescription described;
+            described.guid = captured.guid;
+            described.description = captured.description;
+            described.address = captured.address;
+            described.phys.clear();
+            for (std::size_t i = 0; i <= NewestGeneration(captured); ++i)
+                described.phys.push_back({kPhyTypes[i], captured.software, captured.hardware});
+            m_result.scenario.adapters.push_back(std::move(described));
+            m_profiles.emplace_back();
+        }
+    }
+
+    void AddExported(const ExportedProfile& profile)
+    {
+        const std::size_t only = AdapterOfFile(profile.fileName, m_captured);
+        for (std::size_t i = 0; i < m_captured.size(); ++i)
+        {
+            if (only != m_captured.size() && only != i)
+                continue;
+            if (FindProfile(i, profile.name) == nullptr)
+                m_profiles[i].push_back({profile.name, {profile.xml}});
+            else
+                Warn(profile.fileName + ": a profile \"" + profile.name + "\" was read before, this one is left out");
+        }
+    }
+
+    const NamedProfile* FindProfile(std::size_t index, const std::string& name) const
+    {
+        const std::vector<NamedProfile>& known = m_profiles[index];
+        const auto found =
+            std::find_if(known.begin(), known.end(), [&](const NamedProfile& profile) { return profile.name == name; });
+        return found == known.end() ? nullptr : &*found;
+    }
+
+    /// Null when no profile can be made for the network.
+    const NamedProfile*
+    AddMadeUp(std::size_t index, const std::string& name, const AccessPoint& accessPoint, bool automatic)
+    {
+        std::optional<StoredProfile> made = MakeProfile(name, accessPoint, automatic);
+        if (made)
+            return &m_profiles[index].emplace_back(NamedProfile{name, std::move(*made)});
+        Warn("no profile \"" + name + "\" is made up: " + accessPoint.authentication + " with " +
+             accessPoint.encryption + " is nothing that a profile can ask for");
+        return nullptr;
+    }
+
+    void AddConnection(std::size_t index, const CapturedConnection& connection)
+    {
+        const AccessPoint* accessPoint = AccessPointOf(connection);
+        const NamedProfile* profile = FindProfile(index, connection.profile);
+        if (profile == nullptr)
+            profile = AddMadeUp(index, connection.profile,
+                                accessPoint != nullptr ? *accessPoint : connection.accessPoint, connection.automatic);
+        if (accessPoint == nullptr)
+            WarnOfLostConnection(index, "the captured networks hold no such access point");
+        else if (profile == nullptr || !FitsProfile(profile->stored, *accessPoint))
+            WarnOfLostConnection(index, "its profile is for another kind of network");
+        else
+            m_result.scenario.adapters[index].connection =
+                simulation::Connection{connection.profile, accessPoint->bssid};
+    }
+
+    void WarnOfLostConnection(std::size_t index, const std::string& why)
+    {
+        const CapturedConnection& connection = *m_captured[index].connection;
+        Warn("the connection of \"" + m_captured[index].name + "\" to \"" + connection.ssid + "\" is left out: " + why);
+    }
+
+    /// The air's access point that an adapter was connected to, or null. A hidden one gets the name that the connection
+    /// knows. Without a list of networks, the connected access points are all that is known of the air.
+    const AccessPoint* AccessPointOf(const CapturedConnection& connection)
+    {
+        AccessPoint* found = FindAccessPoint(air(), connection.accessPoint.bssid);
+        if (found == nullptr && !m_captures.networks)
+            return &air().emplace_back(connection.accessPoint);
+        if (found != nullptr && found->ssid.empty())
+            found->ssid = connection.accessPoint.ssid;
+        return found != nullptr && found->ssid == connection.accessPoint.ssid ? found : nullptr;
+    }
+
+    void MakeProfiles(std::size_t index)
+    {
+        for (const AccessPoint& accessPoint : air())
+        {
+            const std::vector<NamedProfile>& known = m_profiles[index];
+            const std::string name(accessPoint.ssid.begin(), accessPoint.ssid.end());
+            const bool has =
+                FindProfile(index, name) != nullptr ||
+                std::any_of(known.begin(), known.end(),
+                            [&](const NamedProfile& profile) { return FitsProfile(profile.stored, accessPoint); });
+            if (!accessPoint.hidden && !has)
+                AddMadeUp(index, name, accessPoint, true);
+        }
+    }
+
+    void StoreProfiles()
+    {
+        for (std::size_t i = 0; i < m_profiles.size(); ++i)
+            for (NamedProfile& profile : m_profiles[i])
+                m_result.scenario.adapters[i].profiles.push_back(std::move(profile.stored));
+    }
+
+    const Captures& m_captures;
+    std::vector<CapturedInterface> m_captured;
+    std::vector<std::vector<NamedProfile>> m_profiles; ///< of each adapter, in preference order
+    ImportedScenario m_result;
+};
+
+} // namespace
+
+ImportedScenario AssembleScenario(const Captures& captures, bool makeProfiles)
+{
+    return Assembly(captures, makeProfiles).result();
+}
+
+ScenarioCounts CountScenario(const simulation::Scenario& scenario)
+{
+    ScenarioCounts counts;
+    std::set<std::tuple<Bytes, bool, std::uint32_t, std::string, std::string>> networks;
+    for (const AccessPoint& accessPoint : scenario.accessPoints)
+    {
+        counts.hidden += accessPoint.hidden ? 1 : 0;
+        networks.emplace(accessPoint.ssid, accessPoint.hidden, accessPoint.bssType, accessPoint.authentication,
+                         accessPoint.encryption);
+    }
+    for (const AdapterDescription& adapter : scenario.adapters)
+        counts.profiles += adapter.profiles.size();
+    counts.adapters = scenario.adapters.size();
+    counts.accessPoints = scenario.accessPoints.size();
+    counts.networks = networks.size();
+    return counts;
+}
+
+} // namespace calvix::host

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "simulation/scenario.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// A connection that stood when the capture was made.
+struct CapturedConnection
+{
+    std::string profile;
+    std::string ssid;
+    bool automatic = false;              ///< the service made it by itself
+    simulation::AccessPoint accessPoint; ///< complete, as the adapter heard it
+};
+
+struct CapturedInterface
+{
+    std::string name; ///< what the system calls it: "Wi-Fi"
+    std::string description;
+    std::string guid; ///< as a scenario writes it
+    simulation::MacAddress address{};
+    simulation::RadioSwitch software = simulation::RadioSwitch::on;
+    simulation::RadioSwitch hardware = simulation::RadioSwitch::on;
+    std::optional<CapturedConnection> connection;
+};
+
+/// What `netsh wlan show interfaces` printed.
+struct InterfacesCapture
+{
+    std::string source;
+    std::vector<CapturedInterface> adapters;
+};
+
+/// Whether a text looks like this kind of capture.
+bool LooksLikeInterfaces(std::string_view text);
+
+/// Reads a capture. `text` is UTF-8; `source` is what messages call it. Throws CaptureError for any other text and for a
+/// capture that is damaged.
+InterfacesCapture ParseInterfaces(std::string_view text, const std::string& source);
+
+} // namespace calvix::host

@@ -1,0 +1,251 @@
+#include "json_output.h"
+
+#include <nlohmann/json.hpp>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+void Print(std::ostream& out, const Json& json)
+{
+    // Texts from the air and from documents may hold anything: what is not UTF-8 must not end the output.
+    out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+template <typename Value>
+Json OrNull(const std::optional<Value>& value)
+{
+    return value ? Json(*value) : Json(nullptr);
+}
+
+Json TextOrNull(const std::string& text)
+{
+    return text.empty() ? Json(nullptr) : Json(text);
+}
+
+void AddSsid(Json& json, const SsidFacts& ssid)
+{
+    json["ssid"] = ssid.text;
+    json["ssidHex"] = ssid.hex;
+}
+
+Json ToJson(const AdapterFacts& adapter)
+{
+    return {{"number", adapter.number},
+            {"guid", adapter.guid},
+            {"description", adapter.description},
+            {"state", adapter.state},
+            {"stateText", adapter.stateText}};
+}
+
+Json ToJson(const NetworkFacts& network)
+{
+    Json json;
+    AddSsid(json, network.ssid);
+    json["profile"] = TextOrNull(network.profile);
+    json["quality"] = network.quality;
+    json["security"] = network.security;
+    json["bssType"] = network.bssType;
+    json["phys"] = network.phys;
+    json["accessPoints"] = network.accessPoints;
+    json["connected"] = network.connected;
+    json["connectable"] = network.connectable;
+    json["reason"] = TextOrNull(network.reason);
+    return json;
+}
+
+Json ToJson(const AccessPointFacts& accessPoint)
+{
+    Json json;
+    AddSsid(json, accessPoint.ssid);
+    json["bssid"] = accessPoint.bssid;
+    json["rssi"] = accessPoint.rssi;
+    json["quality"] = accessPoint.quality;
+    json["frequencyKhz"] = accessPoint.frequencyKhz;
+    json["channel"] = accessPoint.channel;
+    json["band"] = accessPoint.band;
+    json["phy"] = accessPoint.phy;
+    json["bssType"] = accessPoint.bssType;
+    json["beaconPeriod"] = accessPoint.beaconPeriod;
+    return json;
+}
+
+Json ToJson(const ProfileFacts& profile)
+{
+    return {{"position", profile.position},
+            {"name", profile.name},
+            {"mode", profile.mode},
+            {"groupPolicy", profile.groupPolicy},
+            {"perUser", profile.perUser}};
+}
+
+Json ToJson(const ConnectionFacts& connection)
+{
+    Json json;
+    json["profile"] = connection.profile;
+    json["mode"] = connection.mode;
+    AddSsid(json, connection.ssid);
+    json["bssid"] = connection.bssid;
+    json["bssType"] = connection.bssType;
+    json["phy"] = connection.phy;
+    json["security"] = connection.security;
+    json["quality"] = connection.quality;
+    json["rssi"] = OrNull(connection.rssi);
+    json["accessPoints"] = OrNull(connection.accessPoints);
+    json["receiveKbps"] = connection.receiveKbps;
+    json["transmitKbps"] = connection.transmitKbps;
+    json["framesSent"] = OrNull(connection.framesSent);
+    json["framesReceived"] = OrNull(connection.framesReceived);
+    return json;
+}
+
+Json ToJson(const StatusFacts& status)
+{
+    Json json;
+    json["adapter"] = ToJson(status.adapter);
+    json["connection"] = status.connection ? ToJson(*status.connection) : Json(nullptr);
+    return json;
+}
+
+Json ToJson(const CandidateFacts& candidate)
+{
+    Json json;
+    json["order"] = candidate.order;
+    json["profile"] = candidate.profile;
+    AddSsid(json, candidate.ssid);
+    json["quality"] = candidate.quality;
+    json["fiveGhz"] = candidate.fiveGhz;
+    json["bonus"] = candidate.bonus;
+    json["score"] = candidate.score;
+    json["outcome"] = OutcomeText(candidate.outcome);
+    json["error"] = candidate.error != 0 ? Json(candidate.error) : Json(nullptr);
+    return json;
+}
+
+template <typename Facts>
+Json ToJson(const std::vector<Facts>& list)
+{
+    Json json = Json::array();
+    for (const Facts& facts : list)
+        json.push_back(ToJson(facts));
+    return json;
+}
+
+Json CodesOf(const MethodResults& results)
+{
+    Json codes = Json::array();
+    for (const CodeRow& row : results.codes)
+    {
+        const CauseText& text = Describe(row.cause);
+        codes.push_back({{"code", row.code}, {"meaning", text.meaning}, {"advice", text.advice}});
+    }
+    return codes;
+}
+
+Json ToJson(const MethodResults& results)
+{
+    return {{"method", results.method}, {"success", results.result}, {"codes", CodesOf(results)}};
+}
+
+} // namespace
+
+void PrintJson(std::ostream& out, const std::vector<AdapterFacts>& adapters)
+{
+    Print(out, {{"adapters", ToJson(adapters)}});
+}
+
+void PrintJson(std::ostream& out, const std::vector<NetworkFacts>& networks)
+{
+    Print(out, {{"networks", ToJson(networks)}});
+}
+
+void PrintJson(std::ostream& out, const std::vector<AccessPointFacts>& accessPoints)
+{
+    Print(out, {{"accessPoints", ToJson(accessPoints)}});
+}
+
+void PrintJson(std::ostream& out, const std::vector<ProfileFacts>& profiles)
+{
+    Print(out, {{"profiles", ToJson(profiles)}});
+}
+
+void PrintJson(std::ostream& out, const ScanFacts& scan)
+{
+    Print(
+        out,
+        {{"scan",
+          {{"completed", scan.completed}, {"milliseconds", scan.milliseconds}, {"accessPoints", scan.accessPoints}}}});
+}
+
+void PrintJson(std::ostream& out, const StatusFacts& status)
+{
+    Print(out, ToJson(status));
+}
+
+void PrintJson(std::ostream& out, const MatchFacts& match)
+{
+    Print(out, {{"profiles", match.profiles}, {"accessPoints", ToJson(match.accessPoints)}});
+}
+
+void PrintJson(std::ostream& out, const BestFacts& best)
+{
+    Print(out, {{"candidates", ToJson(best.candidates)}, {"status", ToJson(best.status)}});
+}
+
+void PrintProfileJson(std::ostream& out, const std::string& name, const std::string& xml)
+{
+    Print(out, {{"profile", {{"name", name}, {"xml", xml}}}});
+}
+
+void PrintChangeJson(std::ostream& out, const std::string& change, const std::string& profile)
+{
+    Print(out, {{"change", change}, {"profile", TextOrNull(profile)}});
+}
+
+void PrintMethodsJson(std::ostream& out)
+{
+    Json methods = Json::array();
+    for (const MethodResults& results : AllMethodResults())
+        methods.push_back(ToJson(results));
+    Print(out, {{"methods", methods}});
+}
+
+void PrintMethodJson(std::ostream& out, const MethodResults& results)
+{
+    Print(out, ToJson(results));
+}
+
+void PrintExplanationJson(std::ostream& out,
+                          const MethodResults& results,
+                          long long code,
+                          const Explanation& explanation)
+{
+    Print(out, {{"method", results.method},
+                {"code", code},
+                {"failure", explanation.failure},
+                {"meaning", explanation.meaning},
+                {"advice", TextOrNull(explanation.advice)}});
+}
+
+void PrintJson(std::ostream& out, const FailureReport& failure)
+{
+    Json error;
+    error["exitCode"] = static_cast<int>(failure.exitCode);
+    error["message"] = failure.message;
+    error["advice"] = TextOrNull(failure.advice);
+    error["method"] = TextOrNull(failure.method);
+    error["code"] = OrNull(failure.code);
+    error["operation"] = TextOrNull(failure.operation);
+    error["platformError"] = failure.platformError != 0 ? Json(failure.platformError) : Json(nullptr);
+    Json json;
+    if (!failure.candidates.empty())
+        json["candidates"] = ToJson(failure.candidates);
+    json["error"] = error;
+    Print(out, json);
+}
+
+} // namespace calvix::host

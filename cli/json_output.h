@@ -1,0 +1,40 @@
+#pragma once
+
+#include "facts.h"
+#include "failure.h"
+#include "result_codes.h"
+
+#include <ostream>
+#include <string>
+
+namespace calvix::host
+{
+
+/// One JSON object per command, followed by a line break. The member names are a contract with other programs: members
+/// may be added, none is renamed or removed.
+
+void PrintJson(std::ostream& out, const std::vector<AdapterFacts>& adapters);
+void PrintJson(std::ostream& out, const std::vector<NetworkFacts>& networks);
+void PrintJson(std::ostream& out, const std::vector<AccessPointFacts>& accessPoints);
+void PrintJson(std::ostream& out, const std::vector<ProfileFacts>& profiles);
+void PrintJson(std::ostream& out, const ScanFacts& scan);
+void PrintJson(std::ostream& out, const StatusFacts& status);
+void PrintJson(std::ostream& out, const MatchFacts& match);
+void PrintJson(std::ostream& out, const BestFacts& best);
+
+/// One profile's document.
+void PrintProfileJson(std::ostream& out, const std::string& name, const std::string& xml);
+/// A change to the profile store: what was done ("added", "deleted", "moved") to which profile.
+void PrintChangeJson(std::ostream& out, const std::string& change, const std::string& profile);
+
+void PrintMethodsJson(std::ostream& out);
+void PrintMethodJson(std::ostream& out, const MethodResults& results);
+void PrintExplanationJson(std::ostream& out,
+                          const MethodResults& results,
+                          long long code,
+                          const Explanation& explanation);
+
+/// {"error": {...}}, in the place of a result; with "candidates" where some were asked for in vain.
+void PrintJson(std::ostream& out, const FailureReport& failure);
+
+} // namespace calvix::host

@@ -1,0 +1,194 @@
+#include "command.h"
+#include "core/fixed_text.h"
+#include "describe.h"
+#include "files.h"
+#include "host.h"
+#include "json_output.h"
+#include "platform/platform.h"
+#include "service_view.h"
+#include "table.h"
+#include "text_forms.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct ProfileOptions
+{
+    std::string name;
+    std::string file;
+    std::string place;
+    bool showKey = false;
+};
+
+const char* ModeText(int automatic)
+{
+    if (automatic < 0)
+        return "unknown";
+    return automatic == 1 ? "auto" : "manual";
+}
+
+std::vector<ProfileFacts> ReadProfiles(Host& host)
+{
+    const GUID* const adapter = host.adapterGuid();
+    host.Check("GetProfileCount", host.library().GetProfileCount(adapter));
+    std::vector<ProfileFacts> profiles;
+    for (const WLAN_PROFILE_INFO& info : host.service().Profiles(adapter))
+    {
+        ProfileFacts facts;
+        facts.position = static_cast<unsigned>(profiles.size() + 1);
+        facts.name = Narrow(FixedText(info.strProfileName));
+        facts.mode = ModeText(host.library().IsAutoConnMode2(adapter, info.strProfileName));
+        facts.groupPolicy = (info.dwFlags & WLAN_PROFILE_GROUP_POLICY) != 0;
+        facts.perUser = (info.dwFlags & WLAN_PROFILE_USER) != 0;
+        profiles.push_back(facts);
+    }
+    return profiles;
+}
+
+void ListProfiles(Host& host)
+{
+    const std::vector<ProfileFacts> profiles = ReadProfiles(host);
+    if (host.json())
+        return PrintJson(host.out(), profiles);
+    if (profiles.empty())
+    {
+        host.out() << "No profile is stored. Add one with: calvix profiles add FILE.xml\n";
+        return;
+    }
+    Table table({{"#", Align::right}, {"Name"}, {"Connects"}, {"Kind"}});
+    for (const ProfileFacts& profile : profiles)
+    {
+        const char* const kind = profile.groupPolicy ? "group policy" : profile.perUser ? "this user" : "all users";
+        table.AddRow({std::to_string(profile.position), VisibleText(profile.name), profile.mode, kind});
+    }
+    table.Print(host.out(), host.terminal());
+}
+
+/// The document with its key hidden.
+std::string WithoutKey(std::string xml)
+{
+    const std::string opening = "<keyMaterial>";
+    const std::size_t begin = xml.find(opening);
+    const std::size_t end = xml.find("</keyMaterial>");
+    if (begin == std::string::npos || end == std::string::npos || end < begin)
+        return xml;
+    const std::size_t key = begin + opening.size();
+    return xml.replace(key, end - key, "********");
+}
+
+void ShowProfile(Host& host, const ProfileOptions& options)
+{
+    // The library cuts what does not fit; the service takes no documents of this length.
+    std::wstring xml(1U << 16, L'\0');
+    const std::wstring name = Widen(options.name);
+    host.Check("GetProfile",
+               host.library().GetProfile(host.adapterGuid(), name.c_str(), xml.data(), static_cast<int>(xml.size())));
+    const std::string document = Narrow(xml.substr(0, xml.find(L'\0')));
+    const std::string shown = options.showKey ? document : WithoutKey(document);
+    if (host.json())
+        return PrintProfileJson(host.out(), options.name, shown);
+    host.out() << shown << (shown.empty() || shown.back() != '\n' ? "\n" : "");
+}
+
+/// The text of the first element with this name; empty when there is none.
+std::string FirstElementText(const std::string& xml, const std::string& element)
+{
+    const std::string opening = "<" + element + ">";
+    const std::size_t begin = xml.find(opening);
+    const std::size_t end = xml.find("</" + element + ">");
+    if (begin == std::string::npos || end == std::string::npos || end < begin)
+        return {};
+    return xml.substr(begin + opening.size(), end - begin - opening.size());
+}
+
+void ReportChange(Host& host, const char* change, const std::string& profile, const std::string& words)
+{
+    if (host.json())
+        return PrintChangeJson(host.out(), change, profile);
+    host.out() << "Profile \"" << profile << "\" " << words << ".\n";
+}
+
+void AddProfile(Host& host, const ProfileOptions& options)
+{
+    const std::string xml = ReadTextFile(options.file);
+    host.Check("SetProfile", host.library().SetProfile(host.adapterGuid(), Widen(xml).c_str()));
+    ReportChange(host, "added", FirstElementText(xml, "name"), "stored");
+}
+
+void DeleteProfile(Host& host, const ProfileOptions& options)
+{
+    const std::wstring name = Widen(options.name);
+    host.Check("DeleteProfile", host.library().DeleteProfile(host.adapterGuid(), name.c_str()));
+    ReportChange(host, "deleted", options.name, "deleted");
+}
+
+/// The name in the active code page, in which the library takes it for the second place. Converted there and back,
+/// because not every code page tells whether a character was lost.
+std::string InActiveCodePage(const std::wstring& name)
+{
+    constexpr int capacity = 1024;
+    char narrow[capacity] = {};
+    wchar_t back[capacity] = {};
+    platform::Text& text = platform::text();
+    if (text.WideCharToMultiByte(CP_ACP, 0, name.c_str(), -1, narrow, capacity, nullptr, nullptr) == 0 ||
+        text.MultiByteToWideChar(CP_ACP, 0, narrow, -1, back, capacity) == 0 || name != back)
+        throw BadInput("the name \"" + Narrow(name) + "\" has characters outside the active code page",
+                       "such a profile can only be moved to the last place");
+    return narrow;
+}
+
+void MoveToSecondPlace(Host& host, const std::wstring& name)
+{
+    const std::string narrow = InActiveCodePage(name);
+    const int result = host.library().ResetProfilePosition(host.adapterGuid(), narrow.c_str());
+    if (result != 0)
+        throw host.MethodFailure("ResetProfilePosition", result);
+}
+
+void MoveToLastPlace(Host& host, const std::wstring& name)
+{
+    const int result = host.library().SetProfilePosition(host.adapterGuid(), name.c_str());
+    if (result != 0)
+        throw host.MethodFailure("SetProfilePosition", result);
+}
+
+void MoveProfile(Host& host, const ProfileOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    const std::wstring name = Widen(options.name);
+    // With fewer than two profiles the library has nothing to move and does not look at the name.
+    host.Check("GetProfile", host.library().GetProfile(adapter, name.c_str()));
+    if (options.place == "second")
+        MoveToSecondPlace(host, name);
+    else
+        MoveToLastPlace(host, name);
+    ReportChange(host, "moved", options.name, "is in the " + options.place + " place");
+}
+
+} // namespace
+
+void AddProfileCommands(CommandSet& commands)
+{
+    const auto options = std::make_shared<ProfileOptions>();
+    commands.Add("profiles list", "List the stored profiles, the preferred one first", ListProfiles);
+    commands.Add("profiles show", "Print a profile's document", [options](Host& host) { ShowProfile(host, *options); })
+        .Text("NAME", options->name, "The profile")
+        .Flag("--show-key", options->showKey, "Show the key too, where the service tells it");
+    commands
+        .Add("profiles add", "Store a profile document, replacing the one of the same name",
+             [options](Host& host) { AddProfile(host, *options); })
+        .Text("FILE", options->file, "A profile document, as the system exports it");
+    commands.Add("profiles delete", "Delete a profile", [options](Host& host) { DeleteProfile(host, *options); })
+        .Text("NAME", options->name, "The profile");
+    commands
+        .Add("profiles move", "Move a profile in the order of preference",
+             [options](Host& host) { MoveProfile(host, *options); })
+        .Text("NAME", options->name, "The profile")
+        .OneOf("--to", options->place, {"second", "last"}, "The place to move it to")
+        .Required();
+}
+
+} // namespace calvix::host

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "terminal.h"
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// The whole program: carries out what the arguments ask for, writes results to `out` and everything else to `err`, and
+/// returns the exit code (see ExitCode).
+int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, TerminalTraits terminal);
+
+} // namespace calvix::host

@@ -1,0 +1,85 @@
+#include "service_view.h"
+
+#include "core/wlan_lists.h"
+#include "failure_words.h"
+#include "platform/platform.h"
+
+namespace calvix::host
+{
+
+using platform::wlan;
+
+namespace
+{
+
+void Require(const char* operation, DWORD error)
+{
+    if (error != 0)
+        throw ServiceFailure(operation, static_cast<std::uint32_t>(error));
+}
+
+template <typename List>
+auto CopyOf(const List& list)
+{
+    const auto items = Items(*list);
+    return std::vector(items.begin(), items.end());
+}
+
+} // namespace
+
+ServiceView::ServiceView()
+{
+    DWORD version = 0;
+    Require("WlanOpenHandle", wlan().WlanOpenHandle(2, nullptr, &version, &m_client));
+}
+
+ServiceView::~ServiceView()
+{
+    wlan().WlanCloseHandle(m_client, nullptr);
+}
+
+std::vector<WLAN_PROFILE_INFO> ServiceView::Profiles(const GUID* adapter)
+{
+    ProfileList list;
+    Require("WlanGetProfileList", wlan().WlanGetProfileList(m_client, adapter, nullptr, list.Receive()));
+    return CopyOf(list);
+}
+
+std::vector<WLAN_AVAILABLE_NETWORK> ServiceView::Networks(const GUID* adapter)
+{
+    NetworkList list;
+    Require("WlanGetAvailableNetworkList",
+            wlan().WlanGetAvailableNetworkList(m_client, adapter, 0, nullptr, list.Receive()));
+    return CopyOf(list);
+}
+
+std::vector<WLAN_BSS_ENTRY> ServiceView::AccessPoints(const GUID* adapter)
+{
+    BssList list;
+    Require("WlanGetNetworkBssList", wlan().WlanGetNetworkBssList(m_client, adapter, nullptr, dot11_BSS_type_any, FALSE,
+                                                                  nullptr, list.Receive()));
+    return CopyOf(list);
+}
+
+void ServiceView::AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& list)
+{
+    Require("WlanGetNetworkBssList",
+            wlan().WlanGetNetworkBssList(m_client, adapter, &network.dot11Ssid, network.dot11BssType,
+                                         network.bSecurityEnabled, nullptr, list.Receive()));
+}
+
+std::optional<WLAN_CONNECTION_ATTRIBUTES> ServiceView::Connection(const GUID* adapter)
+{
+    ConnectionAttributes attributes;
+    DWORD size = sizeof(WLAN_CONNECTION_ATTRIBUTES);
+    PVOID data = nullptr;
+    const DWORD error = wlan().WlanQueryInterface(m_client, adapter, wlan_intf_opcode_current_connection, nullptr,
+                                                  &size, &data, nullptr);
+    attributes.Take(data);
+    if (error == ERROR_INVALID_STATE)
+        return std::nullopt;
+    Require("WlanQueryInterface", error);
+    return *attributes;
+}
+
+} // namespace calvix::host

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/wlan_memory.h"
+
+#include <optional>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// The WLAN service as this program looks at it, through a client handle of its own: the lists behind the library's
+/// counts and matches. A refused operation is a Failure in words; the connection's state is no failure.
+class ServiceView
+{
+public:
+    ServiceView();
+    ~ServiceView();
+    ServiceView(const ServiceView&) = delete;
+    ServiceView& operator=(const ServiceView&) = delete;
+
+    std::vector<WLAN_PROFILE_INFO> Profiles(const GUID* adapter);
+    /// One entry per visible network and matching profile, as the library's methods see them.
+    std::vector<WLAN_AVAILABLE_NETWORK> Networks(const GUID* adapter);
+    std::vector<WLAN_BSS_ENTRY> AccessPoints(const GUID* adapter);
+    /// The entries of one network, left in the service's own record.
+    void AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& list);
+    /// None while there is no connection.
+    std::optional<WLAN_CONNECTION_ATTRIBUTES> Connection(const GUID* adapter);
+
+private:
+    HANDLE m_client = nullptr;
+};
+
+} // namespace calvix::host

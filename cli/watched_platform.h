@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "watched_wlan.h"
+
+#include <ostream>
+
+namespace calvix::host
+{
+
+/// Forwards to the debugger and shows the same lines on a stream.
+class ShownDebuggerOutput final : public platform::DebuggerOutput
+{
+public:
+    /// A null stream shows nothing.
+    ShownDebuggerOutput(platform::DebuggerOutput& inner, std::ostream* shown) : m_inner(inner), m_shown(shown) {}
+
+    void OutputDebugStringA(const char* text) override;
+
+private:
+    platform::DebuggerOutput& m_inner;
+    std::ostream* m_shown;
+    bool m_atLineStart = true;
+};
+
+/// The platform with the WLAN service and the debugger watched.
+class WatchedPlatform final : public platform::Platform
+{
+public:
+    /// Trace lines are shown on `shown` unless it is null. Both must live as long as this object.
+    WatchedPlatform(platform::Platform& inner, std::ostream* shown)
+        : m_inner(inner), m_wlan(inner.wlan()), m_debugger(inner.debugger(), shown)
+    {
+    }
+
+    WatchedWlan& watched() { return m_wlan; }
+
+    platform::WlanService& wlan() override { return m_wlan; }
+    platform::ServiceControl& services() override { return m_inner.services(); }
+    platform::Power& power() override { return m_inner.power(); }
+    platform::Security& security() override { return m_inner.security(); }
+    platform::Processes& processes() override { return m_inner.processes(); }
+    platform::Internet& internet() override { return m_inner.internet(); }
+    platform::Text& text() override { return m_inner.text(); }
+    platform::Clock& clock() override { return m_inner.clock(); }
+    platform::DebuggerOutput& debugger() override { return m_debugger; }
+    platform::LastError& errors() override { return m_inner.errors(); }
+
+private:
+    platform::Platform& m_inner;
+    WatchedWlan m_wlan;
+    ShownDebuggerOutput m_debugger;
+};
+
+} // namespace calvix::host

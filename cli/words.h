@@ -1,0 +1,29 @@
+#pragma once
+
+#include <calvix/platform_records.h>
+
+#include <string>
+
+namespace calvix::host
+{
+
+/// The platform's numbers in the words that people use for them; an unknown number stays one.
+
+std::string AuthenticationText(DOT11_AUTH_ALGORITHM algorithm);
+std::string CipherText(DOT11_CIPHER_ALGORITHM algorithm);
+/// "WPA2-PSK/CCMP", "open"
+std::string SecurityText(DOT11_AUTH_ALGORITHM algorithm, DOT11_CIPHER_ALGORITHM cipher);
+/// "802.11ax"
+std::string PhyText(DOT11_PHY_TYPE type);
+std::string BssTypeText(DOT11_BSS_TYPE type);
+std::string ConnectionModeText(WLAN_CONNECTION_MODE mode);
+/// What the service says about a reason code.
+std::string ReasonText(DWORD reasonCode);
+
+/// The channel number that people use, 0 for a frequency that is no channel. The library's GetChannel differs from it in
+/// the 2.4 GHz band, deliberately, and knows no 6 GHz channels.
+unsigned CustomaryChannel(unsigned long frequencyKhz);
+/// "2.4 GHz", "5 GHz", "6 GHz"
+std::string BandText(unsigned long frequencyKhz);
+
+} // namespace calvix::host

@@ -1,0 +1,59 @@
+#pragma once
+
+// The fixture of the tests that run the whole program in this process.
+//
+//     TEST_F(StatusTest, SaysWhatTheAdapterIsConnectedTo)
+//     {
+//         const Outcome outcome = RunOn(test::RichWorld(), {"status"});
+//         EXPECT_EQ(0, outcome.exitCode);
+//     }
+
+#include "program.h"
+#include "simulation/scenario.h"
+#include "support/test_worlds.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace calvix::test
+{
+
+/// What a run of the program left behind.
+struct Outcome
+{
+    int exitCode = -1;
+    std::string out;
+    std::string err;
+};
+
+class CliTest : public ::testing::Test
+{
+protected:
+    CliTest();
+    ~CliTest() override;
+
+    /// Runs the program as a new process would find the library: no instance, no client handle.
+    Outcome Run(const std::vector<std::string>& arguments, host::TerminalTraits terminal = {});
+    /// The same with a scenario file of this world.
+    Outcome
+    RunOn(const simulation::Scenario& world, std::vector<std::string> arguments, host::TerminalTraits terminal = {});
+
+    /// A path in a folder that is gone after the test.
+    std::string PathFor(const std::string& name) const;
+    /// Writes a file there and returns its path.
+    std::string FileWith(const std::string& name, const std::string& content) const;
+    static std::string Content(const std::string& path);
+
+    static constexpr int kSuccess = 0;
+    static constexpr int kFailed = 1;
+    static constexpr int kBadInput = 2;
+    static constexpr int kUnavailable = 3;
+
+private:
+    std::string m_folder;
+};
+
+} // namespace calvix::test

@@ -1,0 +1,180 @@
+#include "import_samples.h"
+#include "program.h"
+#include "simulation/scenario.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <sstream>
+
+namespace calvix::host::test
+{
+
+namespace
+{
+
+struct Outcome
+{
+    int exitCode;
+    std::string out;
+    std::string err;
+};
+
+Outcome Import(std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), "import");
+    std::ostringstream out;
+    std::ostringstream err;
+    const int exitCode = Run(arguments, out, err, TerminalTraits{});
+    return {exitCode, out.str(), err.str()};
+}
+
+bool Contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+class ImportCommand : public testing::Test
+{
+protected:
+    TemporaryFolder folder;
+    std::string networks = folder.Write("networks.txt", WithCarriageReturns(kNetworks));
+    std::string interfaces = folder.Write("interfaces.txt", WithCarriageReturns(kInterfaces));
+    std::string output = folder / "out.json";
+};
+
+} // namespace
+
+TEST_F(ImportCommand, WritesAScenarioAndSaysWhatItHolds)
+{
+    const Outcome outcome = Import({"--networks", networks, "--interfaces", interfaces, "-o", output});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_TRUE(Contains(outcome.out, "Adapters       2\n")) << outcome.out;
+    EXPECT_TRUE(Contains(outcome.out, "Access points  3 on 2 networks (0 hidden)\n")) << outcome.out;
+    EXPECT_TRUE(Contains(outcome.out, "Profiles       1\n")) << outcome.out;
+    EXPECT_TRUE(Contains(outcome.out, output)) << outcome.out;
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 3u);
+    EXPECT_EQ(folder.FileCount(), 3u);
+}
+
+TEST_F(ImportCommand, TellsFilesApartByWhatTheyHold)
+{
+    const Outcome named = Import({"--networks", networks, "--interfaces", interfaces, "--profiles",
+                                  DataPath("home/profiles"), "-o", folder / "named.json"});
+    const Outcome plain = Import({DataPath("home/profiles"), interfaces, networks, "-o", output});
+    EXPECT_EQ(named.exitCode, 0) << named.err;
+    EXPECT_EQ(plain.exitCode, 0) << plain.err;
+    EXPECT_EQ(ReadWholeFile(folder / "named.json"), ReadWholeFile(output));
+    EXPECT_EQ(simulation::LoadScenario(output).adapters.at(0).profiles.size(), 4u);
+
+    const std::string profile = folder.Write("Juniper.xml", kProfile);
+    EXPECT_EQ(Import({profile, "-o", output}).exitCode, 0);
+    EXPECT_EQ(simulation::LoadScenario(output).adapters.at(0).profiles.at(0).xml, kProfile);
+}
+
+TEST_F(ImportCommand, PrintsTheSummaryAsJson)
+{
+    const Outcome outcome =
+        Import({"--networks", DataPath("home/networks.txt"), "--with-profiles", "-o", output, "--json"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    const nlohmann::json summary = nlohmann::json::parse(outcome.out);
+    EXPECT_EQ(summary.at("adapters"), 1);
+    EXPECT_EQ(summary.at("accessPoints"), 11);
+    EXPECT_EQ(summary.at("networks"), 7);
+    EXPECT_EQ(summary.at("hidden"), 2);
+    EXPECT_EQ(summary.at("profiles"), 6);
+    EXPECT_EQ(summary.at("output"), output);
+    EXPECT_TRUE(summary.at("warnings").empty());
+}
+
+TEST_F(ImportCommand, WritesToStandardOutput)
+{
+    const Outcome outcome = Import({networks, "-o", "-"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_EQ(simulation::ParseScenario(outcome.out, "standard output").accessPoints.size(), 3u);
+    EXPECT_TRUE(Contains(outcome.err, "Access points  3 on 2 networks")) << outcome.err;
+    EXPECT_EQ(folder.FileCount(), 2u);
+}
+
+TEST_F(ImportCommand, SaysWhatItHadToLeaveOut)
+{
+    const std::string elsewhere =
+        folder.Write("elsewhere.txt", Replaced(kNetworks, "02:00:00:00:00:01", "02:00:00:00:00:09"));
+    const Outcome outcome = Import({elsewhere, interfaces, "-o", output});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.err,
+              "warning: the connection of \"Wi-Fi\" to \"Juniper\" is left out: the captured networks hold "
+              "no such access point\n");
+    EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 3u);
+}
+
+TEST_F(ImportCommand, ACaptureOfAnotherEncodingIsRead)
+{
+    std::string bytes = "\xFF\xFE";
+    for (const char letter : WithCarriageReturns(kNetworks))
+        bytes += {letter, '\0'};
+    const Outcome outcome = Import({folder.Write("redirected.txt", bytes), "-o", output});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+    EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 3u);
+}
+
+TEST_F(ImportCommand, DamageEndsItWithCodeTwoAndNothingWritten)
+{
+    const std::string damaged = folder.Write("damaged.txt", Replaced(kNetworks, "61%", "61"));
+    const std::string other = folder.Write("other.txt", "Dear reader,\nall is well.\n");
+    const std::string narrow = folder.Write("narrow.txt", Replaced(kNetworks, "Juniper", "Caf\xE9"));
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{damaged}, damaged + ":16: \"Signal\" is \"61\""},
+        {{networks, "--interfaces", damaged}, damaged + ":1: this is no output of \"netsh wlan show interfaces\""},
+        {{"--networks", interfaces}, interfaces + ":1: this is no output of \"netsh wlan show networks mode=bssid\""},
+        {{other}, other + ":1: this is no output of"},
+        {{narrow}, narrow + ":5: this is not UTF-8"},
+        {{networks, networks}, networks + ": a second list of networks"},
+        {{interfaces, "--interfaces", interfaces}, interfaces + ": a second list of interfaces"},
+        {{folder / "absent.txt"}, (folder / "absent.txt") + ": cannot be read"},
+        {{"--networks", folder.path()}, folder.path() + ": cannot be read"},
+        {{folder.path()}, folder.path() + ": this folder holds no profile"},
+        {{"--profiles", networks}, networks + ": this folder cannot be read"},
+        {{}, "nothing to import"},
+    };
+    const std::size_t before = folder.FileCount();
+    for (const auto& [arguments, complaint] : cases)
+    {
+        std::vector<std::string> all = arguments;
+        all.insert(all.end(), {"-o", output});
+        const Outcome outcome = Import(all);
+        EXPECT_EQ(outcome.exitCode, 2) << complaint;
+        EXPECT_TRUE(Contains(outcome.err, complaint)) << complaint << " expected, but: " << outcome.err;
+        EXPECT_EQ(outcome.out, "") << complaint;
+        EXPECT_EQ(folder.FileCount(), before) << complaint;
+    }
+}
+
+TEST_F(ImportCommand, AnEarlierScenarioSurvivesADamagedCapture)
+{
+    folder.Write("out.json", "an earlier scenario");
+    const std::string damaged = folder.Write("damaged.txt", Replaced(kNetworks, "61%", "61"));
+    EXPECT_EQ(Import({damaged, "-o", output}).exitCode, 2);
+    EXPECT_EQ(ReadWholeFile(output), "an earlier scenario");
+    EXPECT_EQ(Import({networks, "-o", output}).exitCode, 0);
+    EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 3u);
+}
+
+TEST_F(ImportCommand, AFileThatCannotBeWrittenIsToldAndLeavesNothing)
+{
+    const Outcome outcome = Import({networks, "-o", folder / "absent/out.json"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_TRUE(Contains(outcome.err, "absent/out.json: cannot be written")) << outcome.err;
+    const std::string taken = folder / "taken";
+    std::filesystem::create_directories(std::filesystem::path(taken) / "by a folder");
+    EXPECT_EQ(Import({networks, "-o", taken}).exitCode, 2);
+    EXPECT_EQ(folder.FileCount(), 3u);
+}
+
+TEST_F(ImportCommand, TheOutputMustBeNamed)
+{
+    EXPECT_EQ(Import({networks}).exitCode, 2);
+}
+
+} // namespace calvix::host::test

@@ -1,0 +1,236 @@
+#include "cli_test.h"
+
+#include <nlohmann/json.hpp>
+
+namespace calvix::test
+{
+namespace
+{
+
+using nlohmann::json;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+class AdaptersCommand : public CliTest
+{
+};
+class NetworksCommand : public CliTest
+{
+};
+class BssCommand : public CliTest
+{
+};
+class ScanCommand : public CliTest
+{
+};
+
+TEST_F(AdaptersCommand, ListsAll)
+{
+    const Outcome outcome = RunOn(RichWorld(), {"adapters"});
+    EXPECT_EQ(kSuccess, outcome.exitCode);
+    EXPECT_EQ("#  Description         State         GUID\n"
+              "1  Wireless Adapter A  connected     {A0000001-0001-4001-8001-00000000000A}\n"
+              "2  Wireless Adapter B  disconnected  {B0000002-0002-4002-8002-00000000000B}\n",
+              outcome.out);
+    EXPECT_EQ("", outcome.err);
+}
+
+TEST_F(AdaptersCommand, SpeaksJson)
+{
+    const json adapters = json::parse(RunOn(RichWorld(), {"adapters", "--json"}).out)["adapters"];
+    ASSERT_EQ(2u, adapters.size());
+    EXPECT_EQ(json({{"number", 1},
+                    {"guid", kAdapterAText},
+                    {"description", "Wireless Adapter A"},
+                    {"state", 1},
+                    {"stateText", "connected"}}),
+              adapters[0]);
+}
+
+TEST_F(AdaptersCommand, SaysWhenThereIsNone)
+{
+    const Outcome outcome = RunOn(NoAdapterWorld(), {"adapters"});
+    EXPECT_EQ(kUnavailable, outcome.exitCode);
+    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ("calvix: the computer has no wireless adapter.\n"
+              "  Result: GetWlanInterface gave -3.\n"
+              "  What to do: plug one in, or enable it and its driver in the device manager.\n",
+              outcome.err);
+}
+
+TEST_F(AdaptersCommand, SaysWhenTheServiceIsStopped)
+{
+    simulation::Scenario world = RichWorld();
+    world.serviceRunning = false;
+    const Outcome outcome = RunOn(world, {"adapters"});
+    EXPECT_EQ(kUnavailable, outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr("refused WlanOpenHandle (the WLAN service is not running, 1062)"));
+    EXPECT_THAT(outcome.err, HasSubstr("GetWlanInterface gave -1"));
+    EXPECT_THAT(outcome.err, HasSubstr("sc start WlanSvc"));
+}
+
+TEST_F(NetworksCommand, ListsOneLineForEachNetworkAndProfile)
+{
+    const Outcome outcome = RunOn(RichWorld(), {"networks", "--interface", "2"});
+    EXPECT_EQ(kSuccess, outcome.exitCode);
+    EXPECT_THAT(outcome.out, StartsWith("SSID "));
+    EXPECT_THAT(outcome.out, HasSubstr("CafeNet    ##..         50  open             1  CafeNet\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("HomeNet5G  ####         84  WPA3-SAE/CCMP    1\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("(hidden) "));
+    EXPECT_THAT(outcome.out, Not(HasSubstr("\x1b[")));
+}
+
+TEST_F(NetworksCommand, MarksTheConnectedOne)
+{
+    EXPECT_THAT(RunOn(RichWorld(), {"networks"}).out, HasSubstr("HomeNet    connected\n"));
+    EXPECT_THAT(RunOn(DisconnectedWorld(), {"networks"}).out, Not(HasSubstr("connected")));
+}
+
+TEST_F(NetworksCommand, SpeaksJson)
+{
+    const json networks = json::parse(RunOn(RichWorld(), {"networks", "--json"}).out)["networks"];
+    json home;
+    for (const json& network : networks)
+    {
+        if (network["ssid"] == "HomeNet")
+            home = network;
+    }
+    EXPECT_EQ("486F6D654E6574", home["ssidHex"]);
+    EXPECT_EQ("HomeNet", home["profile"]);
+    EXPECT_EQ(100, home["quality"]);
+    EXPECT_EQ(3, home["accessPoints"]);
+    EXPECT_EQ("infrastructure", home["bssType"]);
+    EXPECT_EQ("WPA2-PSK/CCMP", home["security"]);
+    EXPECT_EQ(true, home["connected"]);
+    EXPECT_EQ(true, home["connectable"]);
+    EXPECT_TRUE(home["reason"].is_null());
+}
+
+TEST_F(NetworksCommand, EscapesSsidsThatAreNoText)
+{
+    simulation::Scenario world = DisconnectedWorld();
+    world.accessPoints = {MakeAccessPoint("Caf\xE9", kCafeNet, 2412000, -60)};
+    EXPECT_THAT(RunOn(world, {"networks"}).out, HasSubstr("Caf\\xE9 "));
+    const json networks = json::parse(RunOn(world, {"networks", "--json"}).out)["networks"];
+    EXPECT_EQ("Caf\\xE9", networks[0]["ssid"]);
+    EXPECT_EQ("436166E9", networks[0]["ssidHex"]);
+}
+
+TEST_F(NetworksCommand, SaysWhenNothingIsInView)
+{
+    const Outcome outcome = RunOn(SilentWorld(), {"networks"});
+    EXPECT_EQ(kSuccess, outcome.exitCode);
+    EXPECT_EQ("No network is in view. Scan with: calvix scan\n", outcome.out);
+    EXPECT_EQ(json::parse(R"({"networks": []})"), json::parse(RunOn(SilentWorld(), {"networks", "--json"}).out));
+}
+
+TEST_F(NetworksCommand, NamesTheMissingConsent)
+{
+    simulation::Scenario world = RichWorld();
+    world.locationConsent = false;
+    const Outcome outcome = RunOn(world, {"networks"});
+    EXPECT_EQ(kFailed, outcome.exitCode);
+    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ("calvix: the list of visible networks could not be fetched: the WLAN service refused "
+              "WlanGetAvailableNetworkList (access denied, 5).\n"
+              "  Result: GetAvailableNetworkCount gave -5.\n"
+              "  What to do: allow location access for desktop apps (Settings, Privacy & security, Location).\n",
+              outcome.err);
+}
+
+TEST_F(NetworksCommand, PutsTheFailureIntoTheJson)
+{
+    simulation::Scenario world = RichWorld();
+    world.locationConsent = false;
+    const Outcome outcome = RunOn(world, {"networks", "--json"});
+    EXPECT_EQ(kFailed, outcome.exitCode);
+    const json error = json::parse(outcome.out)["error"];
+    EXPECT_EQ(1, error["exitCode"]);
+    EXPECT_EQ("GetAvailableNetworkCount", error["method"]);
+    EXPECT_EQ(-5, error["code"]);
+    EXPECT_EQ("WlanGetAvailableNetworkList", error["operation"]);
+    EXPECT_EQ(5, error["platformError"]);
+    EXPECT_THAT(error["advice"].get<std::string>(), HasSubstr("location access"));
+}
+
+TEST_F(NetworksCommand, NamesTheRadioThatIsOff)
+{
+    simulation::Scenario world = DisconnectedWorld();
+    for (simulation::PhyDescription& phy : world.adapters[0].phys)
+        phy.software = simulation::RadioSwitch::off;
+    const Outcome outcome = RunOn(world, {"networks"});
+    EXPECT_EQ(kFailed, outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr("the radio is off, 0x80342002"));
+    EXPECT_THAT(outcome.err, HasSubstr("switch the radio on"));
+}
+
+TEST_F(BssCommand, ListsEveryAccessPoint)
+{
+    const Outcome outcome = RunOn(RichWorld(), {"bss"});
+    EXPECT_EQ(kSuccess, outcome.exitCode);
+    EXPECT_THAT(outcome.out, StartsWith("BSSID              SSID       Signal  dBm  Channel  Band     PHY\n"
+                                        "02:11:00:00:24:06  HomeNet    ####    -50        6  2.4 GHz  802.11n\n"
+                                        "02:11:00:00:50:24  HomeNet    ###.    -62       36  5 GHz    802.11ac\n"
+                                        "02:11:00:00:60:01  HomeNet    ###.    -70        1  6 GHz    802.11ax\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("02:33:00:00:24:0B  (hidden)   ###.    -68       11  2.4 GHz"));
+}
+
+TEST_F(BssCommand, SpeaksJson)
+{
+    const json list = json::parse(RunOn(RichWorld(), {"bss", "--json"}).out)["accessPoints"];
+    ASSERT_EQ(8u, list.size());
+    EXPECT_EQ("02:11:00:00:60:01", list[2]["bssid"]);
+    EXPECT_EQ(-70, list[2]["rssi"]);
+    EXPECT_EQ(5955000, list[2]["frequencyKhz"]);
+    EXPECT_EQ("6 GHz", list[2]["band"]);
+    EXPECT_EQ(1, list[2]["channel"]);
+    EXPECT_EQ("802.11ax", list[2]["phy"]);
+}
+
+TEST_F(ScanCommand, WaitsUntilTheListHasCome)
+{
+    const Outcome outcome = RunOn(RichWorld(), {"scan"});
+    EXPECT_EQ(kSuccess, outcome.exitCode);
+    EXPECT_THAT(outcome.out, HasSubstr(": 8 access points in view.\n"));
+}
+
+TEST_F(ScanCommand, SpeaksJson)
+{
+    simulation::Scenario world = RichWorld();
+    world.adapters[0].scanMilliseconds = 2500;
+    const json scan = json::parse(RunOn(world, {"scan", "--json"}).out)["scan"];
+    EXPECT_EQ(true, scan["completed"]);
+    EXPECT_EQ(8, scan["accessPoints"]);
+    EXPECT_EQ(3500, scan["milliseconds"]) << "2.5 s of scanning and 1 s of rest";
+}
+
+TEST_F(ScanCommand, EndsInSilenceToo)
+{
+    const Outcome outcome = RunOn(SilentWorld(), {"scan"});
+    EXPECT_EQ(kSuccess, outcome.exitCode);
+    EXPECT_THAT(outcome.out, HasSubstr("0 access points in view"));
+}
+
+TEST_F(ScanCommand, GivesUpAfterTheTimeout)
+{
+    simulation::Scenario world = RichWorld();
+    world.adapters[0].scanMilliseconds = 3900;
+    const Outcome outcome = RunOn(world, {"scan", "--timeout", "2"});
+    EXPECT_EQ(kFailed, outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr("the scan was not done within 2 seconds"));
+    EXPECT_THAT(outcome.err, HasSubstr("--timeout"));
+}
+
+TEST_F(ScanCommand, SaysWhatWasRefused)
+{
+    simulation::Scenario world = RichWorld();
+    world.locationConsent = false;
+    const Outcome outcome = RunOn(world, {"scan"});
+    EXPECT_EQ(kFailed, outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr("the scan was refused: the WLAN service refused WlanScan (access denied, 5)"));
+    EXPECT_THAT(outcome.err, HasSubstr("Rescan gave -4"));
+}
+
+} // namespace
+} // namespace calvix::test

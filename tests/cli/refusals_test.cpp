@@ -1,0 +1,187 @@
+// The program on a platform that was put in place beforehand, whose operations are made to fail one by one.
+
+#include "cli_test.h"
+
+#include "platform/platform.h"
+#include "simulation/computer.h"
+#include "wrappers/call_log.h"
+#include "wrappers/fault_injection.h"
+#include "wrappers/intercepted_platform.h"
+
+#include <nlohmann/json.hpp>
+
+namespace calvix::test
+{
+namespace
+{
+
+using nlohmann::json;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+simulation::Scenario TwoCandidates()
+{
+    simulation::Scenario world = NoProfileWorld();
+    world.adapters[0].profiles = {MakeProfile("Strong"), MakeProfile("Weak")};
+    world.accessPoints = {MakeAccessPoint("Strong", kHomeNet24, 2437000, -60),
+                          MakeAccessPoint("Weak", kCafeNet, 2412000, -75)};
+    return world;
+}
+
+class Refusals : public CliTest
+{
+protected:
+    Refusals() { platform::ReplacePlatform(&m_platform); }
+    ~Refusals() override { platform::ReplacePlatform(nullptr); }
+
+    /// Whatever was refused, nothing may be left behind.
+    void TearDown() override
+    {
+        const simulation::Accounts accounts = m_computer.Audit();
+        EXPECT_EQ(0u, accounts.liveBlocks);
+        EXPECT_EQ(0u, accounts.openClients);
+        EXPECT_THAT(accounts.defects, IsEmpty());
+        EXPECT_EQ(&m_platform, platform::g_pReplacement.load()) << "the program did not put back what it found";
+    }
+
+    simulation::Computer m_computer{TwoCandidates()};
+    wrappers::CallLog m_log;
+    wrappers::FaultInjection m_faults;
+    wrappers::InterceptorChain m_chain{{&m_log, &m_faults}};
+    wrappers::InterceptedPlatform m_platform{m_computer, m_chain};
+};
+
+TEST_F(Refusals, LeaveNothingBehindInSuccessEither)
+{
+    for (const char* command : {"adapters", "scan", "networks", "bss", "match", "best", "status"})
+        EXPECT_EQ(kSuccess, Run({command}).exitCode) << command;
+    EXPECT_EQ(kSuccess, Run({"profiles", "list"}).exitCode);
+}
+
+TEST_F(Refusals, BestAsksForTheNextCandidate)
+{
+    m_faults.Fail("WlanConnect", {.error = 5, .fromCall = 1, .times = 1});
+    const Outcome outcome = Run({"best"});
+    EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
+    EXPECT_THAT(outcome.out,
+                StartsWith("#  Profile  SSID    Quality  5 GHz APs  Bonus  Score  Outcome\n"
+                           "1  Weak     Weak         50          0     +0     50  refused (access denied, 5)\n"
+                           "2  Strong   Strong       80          0     +0     80  joined\n"));
+    EXPECT_EQ(2u, m_log.Count("WlanConnect"));
+}
+
+TEST_F(Refusals, BestNeverAsksMoreThanTheLibraryDoes)
+{
+    EXPECT_EQ(kSuccess, Run({"best"}).exitCode);
+    EXPECT_EQ(1u, m_log.Count("WlanConnect"));
+}
+
+TEST_F(Refusals, BestShowsThatEveryRequestWasRefused)
+{
+    m_faults.Fail("WlanConnect", {.error = 0x80342002});
+    const Outcome outcome = Run({"best", "--json"});
+    EXPECT_EQ(kFailed, outcome.exitCode);
+    const json result = json::parse(outcome.out);
+    ASSERT_EQ(2u, result["candidates"].size());
+    for (const json& candidate : result["candidates"])
+    {
+        EXPECT_EQ("refused", candidate["outcome"]);
+        EXPECT_EQ(0x80342002u, candidate["error"].get<std::uint32_t>());
+    }
+    EXPECT_EQ(-12, result["error"]["code"]);
+    EXPECT_THAT(outcome.err, HasSubstr("refused WlanConnect (the radio is off, 0x80342002)"));
+    EXPECT_THAT(outcome.err, HasSubstr("switch the radio on"));
+}
+
+struct RefusedCase
+{
+    std::vector<std::string> command;
+    const char* operation;
+    const char* result; ///< as the second line of the failure says it
+    int exitCode;
+};
+
+void PrintTo(const RefusedCase& refused, std::ostream* out)
+{
+    for (const std::string& word : refused.command)
+        *out << word << ' ';
+    *out << "with " << refused.operation << " refused";
+}
+
+class RefusedOperation : public Refusals, public ::testing::WithParamInterface<RefusedCase>
+{
+};
+
+TEST_P(RefusedOperation, IsNamedInTheFailure)
+{
+    m_faults.Fail(GetParam().operation, {.error = 31});
+    const Outcome outcome = Run(GetParam().command);
+    EXPECT_EQ(GetParam().exitCode, outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr(std::string("the WLAN service refused ") + GetParam().operation +
+                                       " (a device does not function, 31)."));
+    EXPECT_THAT(outcome.err, HasSubstr(GetParam().result));
+    EXPECT_THAT(outcome.err, HasSubstr("What to do: "));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Commands,
+    RefusedOperation,
+    ::testing::Values(
+        RefusedCase{{"adapters"}, "WlanOpenHandle", "GetWlanInterface gave -1.", 3},
+        RefusedCase{{"adapters"}, "WlanEnumInterfaces", "GetWlanInterface gave -2.", 3},
+        RefusedCase{{"scan"}, "WlanScan", "Rescan gave -4.", 1},
+        RefusedCase{{"scan"}, "WlanGetNetworkBssList", "What to do", 1},
+        RefusedCase{{"networks"}, "WlanGetAvailableNetworkList", "GetAvailableNetworkCount gave -5.", 1},
+        RefusedCase{{"bss"}, "WlanGetNetworkBssList", "What to do", 1},
+        RefusedCase{{"profiles", "list"}, "WlanGetProfileList", "GetProfileCount gave -4.", 1},
+        RefusedCase{{"profiles", "show", "Weak"}, "WlanGetProfile", "GetProfile gave -4.", 1},
+        RefusedCase{{"profiles", "delete", "Weak"}, "WlanDeleteProfile", "DeleteProfile gave -4.", 1},
+        RefusedCase{
+            {"profiles", "move", "Weak", "--to", "last"}, "WlanSetProfilePosition", "SetProfilePosition gave 31.", 1},
+        RefusedCase{{"profiles", "move", "Weak", "--to", "second"},
+                    "WlanSetProfilePosition",
+                    "ResetProfilePosition gave 31.",
+                    1},
+        RefusedCase{{"match"}, "WlanGetProfileList", "GetMatchAPList gave -5.", 1},
+        RefusedCase{{"match", "--auto-only"}, "WlanGetAvailableNetworkList", "GetConnectableAPList gave -7.", 1},
+        RefusedCase{{"best"}, "WlanGetProfileList", "ConnectBestAP gave -4.", 1},
+        RefusedCase{{"best"}, "WlanGetAvailableNetworkList", "ConnectBestAP gave -6.", 1},
+        RefusedCase{{"best"}, "WlanGetNetworkBssList", "ConnectBestAP gave -10.", 1}));
+
+TEST_F(Refusals, AServiceThatStopsMeanwhileIsUnavailable)
+{
+    m_faults.Fail("WlanGetAvailableNetworkList", {.error = 1062});
+    const Outcome outcome = Run({"networks"});
+    EXPECT_EQ(kUnavailable, outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr("sc start WlanSvc"));
+}
+
+TEST_F(Refusals, StatusLeavesOutWhatTheDriverDoesNotTell)
+{
+    ASSERT_EQ(kSuccess, Run({"best"}).exitCode);
+    m_faults.FailWhen(
+        [](const wrappers::Call& call) -> std::optional<DWORD>
+        {
+            const bool isRssi = call.operation == "WlanQueryInterface" && call["opcode"] != "7" &&
+                                call["opcode"].find("current_connection") == std::string_view::npos;
+            return isRssi ? std::optional<DWORD>(50) : std::nullopt;
+        });
+    const Outcome outcome = Run({"status", "--json"});
+    EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
+    const json connection = json::parse(outcome.out)["connection"];
+    EXPECT_EQ("Weak", connection["profile"]);
+    EXPECT_TRUE(connection["rssi"].is_null());
+    EXPECT_TRUE(connection["framesSent"].is_null());
+    EXPECT_EQ(1, connection["accessPoints"]);
+}
+
+TEST_F(Refusals, SavingNeedsAComputerOfTheProgramsOwn)
+{
+    const Outcome outcome = Run({"adapters", "--save", PathFor("saved.json")});
+    EXPECT_EQ(kBadInput, outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr("--save needs a simulated computer"));
+}
+
+} // namespace
+} // namespace calvix::test
