@@ -123,6 +123,84 @@ public:
     /// The same into `capacity` bytes, cut and terminated. A null address is a fatal caller error.
     void GetBSSID(const unsigned char* address, char* destination, int capacity);
 
+    // --- Notifications ------------------------------------------------------------------------------------------
+
+    /// Has `callback` called with the notifications of the automatic-configuration module (WlanRegisterNotification),
+    /// in place of what was registered before: one registration for the process. It is called on a thread of the
+    /// service. 0, or the platform's error number.
+    int RegisterNotification(WLAN_NOTIFICATION_CALLBACK callback, void* context);
+
+    /// Ends the registration, whichever callback is named; waits for a callback that is running. 0, or the platform's
+    /// error number.
+    int UnRegisterNotification(WLAN_NOTIFICATION_CALLBACK callback, void* context);
+
+    // --- Radio --------------------------------------------------------------------------------------------------
+    // A radio is off when its software or its hardware switch is off. Only the adapter's first PHY is looked at.
+
+    /// 1 when the radio is on (WlanQueryInterface); 0 when off and on every failure.
+    int PhyRadioIsOn(const GUID* pInterfaceGuid);
+
+    /// 1 on, 0 off; -1 client handle not opened, -4 query refused, -5 no PHY.
+    long PhyRadioIsOn2(const GUID* pInterfaceGuid);
+
+    /// The same, with the DOT11_RADIO_STATE of both switches to the outputs, which a failure leaves alone.
+    long PhyRadioIsOn2(const GUID* pInterfaceGuid, unsigned int& softwareState, unsigned int& hardwareState);
+
+    /// 1 when the radio is off; 0 when on and on every failure.
+    int PhyRadioTurnedOff(const GUID* pInterfaceGuid);
+
+    /// 1 off, 0 on; -1 client handle not opened, -4 query refused, -5 no PHY.
+    long PhyRadioTurnedOff2(const GUID* pInterfaceGuid);
+
+    /// Whether the adapter supports safe mode, as the platform's boolean; -2 client handle not opened, -5 query refused.
+    int SupportedSafeMode(const GUID* pInterfaceGuid);
+
+    /// Switches the software radio on (WlanSetInterface). 0; -1 client handle not opened, -4 refused.
+    int RadioTurnOn(const GUID* pInterfaceGuid);
+
+    /// RadioTurnOn under its other name.
+    int TurnOnSoftwareRadio(const GUID* pInterfaceGuid);
+
+    /// The same; on failure the platform's error number goes to `dwError` [out], which success leaves alone.
+    int TurnOnSoftwareRadio(const GUID* pInterfaceGuid, unsigned long& dwError);
+
+    /// Switches the software radio off (WlanSetInterface). 0; -1 client handle not opened, -4 refused.
+    int RadioTurnOff(const GUID* pInterfaceGuid);
+
+    /// Switches the software radio off and, half a second later, on. 0 whatever became of it; -1 client handle not
+    /// opened.
+    int ResetWiFiRadio(const GUID* pInterfaceGuid);
+
+    /// Switches the radio off, then on, waiting up to ten seconds each for the adapter to report it.
+    void RestartWiFiRadio(const GUID* pInterfaceGuid);
+
+    // --- Interface settings -------------------------------------------------------------------------------------
+
+    /// Switches automatic connection on (WlanSetInterface). 0, or the platform's error number.
+    int EnableAutoCfg(const GUID* pInterfaceGuid);
+
+    /// Switches background scanning on (WlanSetInterface). 0, or the platform's error number.
+    int EnableBackgroundScan(const GUID* pInterfaceGuid);
+
+    /// The service's power-saving level (WlanQueryAutoConfigParameter), a WLAN_POWER_SETTING, into `level` [out]. 0,
+    /// also when the query is refused, which leaves `level` alone; or the error number of the client handle.
+    int GetPowerSetting(unsigned long& level);
+
+    /// Does nothing, on purpose. 0.
+    int SetPowerSetting(unsigned long level);
+
+    /// Platform name of a power-saving level. The text belongs to the object.
+    char* GetPowerSettingStr(unsigned long level);
+
+    /// Lets ordinary users talk to the adapter's driver (WlanSetSecuritySettings; takes administrative rights). 0, the
+    /// platform's error number, or 0xFFFFFFFF when the service has another version.
+    unsigned long SetIhvSecuritySettings();
+
+    /// Sends `size` bytes at `buffer` [in, out] to the adapter's driver, whose answer replaces them, and its length to
+    /// `bytesReturned` [out] (WlanIhvControl). 0, or the platform's error number.
+    unsigned long
+    IhvControl(const GUID* pInterfaceGuid, void* buffer, unsigned long size, unsigned long& bytesReturned);
+
     // --- Scans, lists and counts --------------------------------------------------------------------------------
 
     /// Asks for a scan (WlanScan) and returns at once. 0; -1 client handle not opened, -4 scan refused; both store
@@ -188,6 +266,26 @@ public:
 
     /// Signal quality of the current connection, 0..100; -1 client handle not opened, -4 no current connection.
     int GetSignalQuality(const GUID* pInterfaceGuid);
+
+    // --- Software access points, listings, reasons --------------------------------------------------------------
+
+    /// Visible networks whose SSID holds the software access point marker "LC#", into `pList` [out]. 0; -1 client handle
+    /// not opened; otherwise the platform's error number.
+    int GetSoftAPList(const GUID* pInterfaceGuid, std::vector<std::string>* pList);
+
+    /// Whether the first interface is connected by a profile whose name holds the marker; false on every failure.
+    bool SpecialSoftAP();
+
+    /// Traces a listing of what every interface sees. 0; 1 when some interface refused; the platform's error number when
+    /// the client handle is not opened.
+    int GetAvailableNetwork();
+
+    /// The same for the access points.
+    int GetNetworkBss();
+
+    /// English text of a WLAN_REASON_CODE (WlanReasonCodeToString) into `textSize` bytes at `text` [out]. Whether it was
+    /// written.
+    bool ReasonCode2String(unsigned long reasonCode, char* text, int textSize);
 
     // --- Profile store ------------------------------------------------------------------------------------------
 
@@ -273,6 +371,49 @@ public:
     /// -1 client handle not opened, -4 query refused.
     int GetWlanStatistics(const GUID* pInterfaceGuid, _WIFI_TXRX_COUNT* pCount);
 
+    // --- Connecting ---------------------------------------------------------------------------------------------
+    // A request (WlanConnect) is accepted or refused at once; whether the connection is made shows later.
+
+    /// Connects by a stored profile whose network is in view. 0; -1 client handle not opened, -2 no network in view
+    /// carries the profile; otherwise the platform's error number.
+    int LinkProfile(const GUID* pInterfaceGuid, char* name);
+
+    /// Disconnects (WlanDisconnect). 0, or the platform's error number.
+    int Disconnect(const GUID* pInterfaceGuid);
+
+    /// Connects to the network of a remembered connection, to the access point that the link qualities of the BSS list
+    /// pick. `unused` has no effect. 0; -1 client handle not opened, -4 BSS list failed, -6 refused or none in view.
+    int Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes, unsigned long unused);
+
+    /// The same from notification data.
+    int Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_NOTIFICATION_DATA* pData, unsigned long unused);
+
+    /// Connects by the profile of a remembered connection. 0; -1 client handle not opened, -4 refused.
+    int RecoverConnection(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
+
+    /// Asks again for the connection that is up. 0; -1 client handle not opened, -4 not connected, -5 refused.
+    int ResetConnection(const GUID* pInterfaceGuid);
+
+    /// Moves the profile of the first interface's connection to the last place. 0, also with no interface or fewer than
+    /// two profiles; -1 client handle not opened; otherwise the platform's error number.
+    int SetCurrentWiFiToLast();
+
+    // --- Saved connection ---------------------------------------------------------------------------------------
+
+    /// Remembers the current connection and whether its profile connects automatically. 0; -1 client handle not opened,
+    /// -4 not connected, -5 profile not readable (the connection is remembered all the same).
+    int SaveCurrentConnectionAttributes(const GUID* pInterfaceGuid);
+
+    /// Connects to the remembered connection's network. 0; -99 its profile does not connect automatically, -1 client
+    /// handle not opened, -4 BSS list failed, -5 not in view, -6 refused.
+    long RecoverConnetionAttributes(const GUID* pInterfaceGuid);
+
+    /// Remembers notification data, without a profile XML behind it. A null record is a fatal caller error.
+    void SaveConnNotificationData(WLAN_CONNECTION_NOTIFICATION_DATA* pData);
+
+    /// Reconnect with the remembered notification data.
+    long RecoverConnNotificationData(const GUID* pInterfaceGuid);
+
     // --- Access points of stored networks -----------------------------------------------------------------------
 
     /// Every BSS entry of every visible network that has a stored profile, in profile, network and list order, into
@@ -316,6 +457,43 @@ public:
 
     /// The same without any exclusion.
     int ConnectBestAP(const GUID* pInterfaceGuid);
+
+    // --- Automatic connection -----------------------------------------------------------------------------------
+    // Networks match a profile by its name. Where every request is refused, the walks report success.
+
+    /// Requests every matching network in profile order until one is accepted. 0; -1 client handle not opened,
+    /// -4 profile list failed, -5 no profile, -6 available-network list failed, -7 no network, -9 nothing matches.
+    int AutoConnect(const GUID* pInterfaceGuid);
+
+    /// ConnectBestAP over all matching networks, whatever their connection mode. Codes as ConnectBestAP.
+    int AutoConnectEx(const GUID* pInterfaceGuid);
+
+    /// Moves the current profile to the last place, then connects as AutoConnect, by the order from before. 0;
+    /// -1 client handle not opened, -3 not connected, -4 profile list failed, -5 not moved, -6 available-network list
+    /// failed, -7 nothing matches.
+    int AutoSwitch(const GUID* pInterfaceGuid);
+
+    /// Requests the first matching network with a better signal quality than the current one. 0; -1 client handle not
+    /// opened, -2 nothing better; otherwise the platform's error number.
+    int SmartSwitch(const GUID* pInterfaceGuid);
+
+    /// Requests the first profile's network in view, on the first interface whatever the GUID, and writes its name to
+    /// `profileName` [out, 128 bytes, may be null]. 0, also without an interface; -1 client handle not opened, -2 nothing
+    /// matches; otherwise the platform's error number.
+    int SmartConnecting(const GUID* pInterfaceGuid, char* profileName);
+
+    /// Requests every network of an automatically connecting profile, matched by profile name or by SSID, in profile
+    /// order until one is accepted. Codes as AutoConnect.
+    int ConnectAutoMode(const GUID* pInterfaceGuid);
+
+    // --- Roaming ------------------------------------------------------------------------------------------------
+
+    /// Whether the current network has a better access point: 0; -1 client handle not opened, -4 not connected,
+    /// -5 quality is 80 or more, -6 BSS list failed, -7 none in view, -8 already there.
+    int PreRoaming(const GUID* pInterfaceGuid);
+
+    /// The same decision, then a request for that access point; also -9 refused.
+    int Roaming(const GUID* pInterfaceGuid);
 
 private:
     friend struct calvix::ManagerInternals;

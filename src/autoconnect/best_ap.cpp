@@ -32,9 +32,7 @@ int ConnectBest(CWirelessManage& manager,
     const auto usesProfile = [excludedName](const WLAN_PROFILE_INFO& profile)
     { return excludedName == nullptr || FixedText(profile.strProfileName) != excludedName; };
     const auto accepts = [&](const WLAN_AVAILABLE_NETWORK& network)
-    {
-        return manager.IsAutoConnMode2(interfaceGuid, network.strProfileName) == 1 && !Excludes(excluded, network);
-    };
+    { return manager.IsAutoConnMode2(interfaceGuid, network.strProfileName) == 1 && !Excludes(excluded, network); };
     return ConnectRanked(client, interfaceGuid, trace, usesProfile, accepts);
 }
 

@@ -5,8 +5,9 @@
 #include "core/interface_list.h"
 #include "core/service_steps.h"
 
+#include <iterator>
+
 using namespace calvix;
-using platform::wlan;
 
 int CWirelessManage::GetWlanStatus(const GUID* pInterfaceGuid)
 {
@@ -57,9 +58,12 @@ char* CWirelessManage::GetWlanInterfaceDesc(const GUID* pInterfaceGuid)
     {
         if (!SameInterface(info.InterfaceGuid, pInterfaceGuid))
             continue;
+        // A description may fill its array without a terminator.
+        wchar_t terminated[WLAN_MAX_NAME_LENGTH + 1];
+        CopyTruncating(terminated, std::size(terminated), info.strInterfaceDescription);
         // UnicodeToAnsi writes up to 1024 bytes, more than the member holds in a double-byte code page.
         char description[1024] = {};
-        UnicodeToAnsi(info.strInterfaceDescription, description);
+        UnicodeToAnsi(terminated, description);
         CopyTruncating(m_szInterfaceDesc, sizeof(m_szInterfaceDesc), description);
         trace.Line("Wlan Interface Describe: %s", m_szInterfaceDesc);
     }
@@ -72,8 +76,7 @@ int CWirelessManage::GetWiFiAdapterCount()
     InterfaceList interfaces("WlanFreeMemory(pIfList)");
     if (OpenClient(hClient, trace) != 0)
         return -2;
-    if (trace.Failed(wlan().WlanEnumInterfaces(hClient, nullptr, interfaces.Receive()),
-                     "WlanEnumInterfaces failed with error: %u"))
+    if (EnumerateInterfaces(hClient, interfaces, trace) != 0)
         return -3;
     return static_cast<int>(interfaces->dwNumberOfItems);
 }

@@ -1,3 +1,5 @@
+#include "core/mac_address.h"
+
 #include <calvix/wireless_manage.h>
 
 #include "core/bounded_copy.h"
@@ -6,18 +8,11 @@
 
 using namespace calvix;
 
-namespace
-{
-
-constexpr std::size_t kAddressTextSize = 18;
-
-void FormatAddress(const unsigned char* address, char* text, std::size_t capacity)
+void calvix::FormatAddress(const unsigned char* address, char* text, std::size_t capacity)
 {
     FormatTrace(text, capacity, "%02X:%02X:%02X:%02X:%02X:%02X", address[0], address[1], address[2], address[3],
                 address[4], address[5]);
 }
-
-} // namespace
 
 void CWirelessManage::FormMAC(const unsigned char* address, char* destination)
 {

@@ -19,21 +19,25 @@ ErrorNumber Traced(Trace& trace, DWORD error, const char* format)
 
 } // namespace
 
-ErrorNumber OpenClient(HANDLE& client, Trace& trace)
+ErrorNumber OpenClient(HANDLE& client, Trace& trace, const char* failureText)
 {
     if (client != nullptr)
         return 0;
     DWORD negotiatedVersion = 0;
-    return Traced(trace, wlan().WlanOpenHandle(kClientVersion, nullptr, &negotiatedVersion, &client),
-                  "WlanOpenHandle failed with error: %u");
+    return Traced(trace, wlan().WlanOpenHandle(kClientVersion, nullptr, &negotiatedVersion, &client), failureText);
+}
+
+ErrorNumber EnumerateInterfaces(HANDLE client, InterfaceList& list, Trace& trace)
+{
+    return Traced(trace, wlan().WlanEnumInterfaces(client, nullptr, list.Receive()),
+                  "WlanEnumInterfaces failed with error: %u");
 }
 
 int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const InterfaceListCodes& codes)
 {
     if (OpenClient(client, trace) != 0)
         return codes.notOpened;
-    if (trace.Failed(wlan().WlanEnumInterfaces(client, nullptr, list.Receive()),
-                     "WlanEnumInterfaces failed with error: %u"))
+    if (EnumerateInterfaces(client, list, trace) != 0)
         return codes.enumerationFailed;
     if (list->dwNumberOfItems == 0)
     {
@@ -61,6 +65,14 @@ ErrorNumber ListNetworkBss(
     return Traced(trace,
                   wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.dot11Ssid, network.dot11BssType,
                                                network.bSecurityEnabled, nullptr, list.Receive()),
+                  "WlanGetNetworkBssList failed with error: %u");
+}
+
+ErrorNumber ListAllBss(HANDLE client, const GUID* interfaceGuid, BssList& list, Trace& trace)
+{
+    return Traced(trace,
+                  wlan().WlanGetNetworkBssList(client, interfaceGuid, nullptr, dot11_BSS_type_any, FALSE, nullptr,
+                                               list.Receive()),
                   "WlanGetNetworkBssList failed with error: %u");
 }
 

@@ -10,7 +10,10 @@ namespace calvix
 /// error number, 0 for success, unless said otherwise.
 
 /// Opens the client handle when it is not open yet.
-ErrorNumber OpenClient(HANDLE& client, Trace& trace);
+ErrorNumber OpenClient(HANDLE& client, Trace& trace, const char* failureText = "WlanOpenHandle failed with error: %u");
+
+/// All interfaces, none included.
+ErrorNumber EnumerateInterfaces(HANDLE client, InterfaceList& list, Trace& trace);
 
 /// A method's codes for the ways in which it can be left without an interface.
 struct InterfaceListCodes
@@ -67,6 +70,9 @@ ErrorNumber ListConnectionBss(HANDLE client,
 /// BSS entries of an available network.
 ErrorNumber ListNetworkBss(
     HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, BssList& list, Trace& trace);
+
+/// BSS entries of every network.
+ErrorNumber ListAllBss(HANDLE client, const GUID* interfaceGuid, BssList& list, Trace& trace);
 
 /// Available networks, one entry per visible network and matching profile; without ad hoc and hidden profiles.
 ErrorNumber ListAvailableNetworks(HANDLE client, const GUID* interfaceGuid, NetworkList& list, Trace& trace);

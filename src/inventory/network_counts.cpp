@@ -4,7 +4,6 @@
 #include "core/service_steps.h"
 
 using namespace calvix;
-using platform::wlan;
 
 int CWirelessManage::GetAvailableNetworkCount(const GUID* pInterfaceGuid)
 {
@@ -25,10 +24,7 @@ int CWirelessManage::GetNetworkBssCount()
     if (const int code =
             ListInterfaces(hClient, interfaces, trace, {.notOpened = -2, .enumerationFailed = -3, .none = -4}))
         return code;
-    const GUID* const first = &interfaces->InterfaceInfo[0].InterfaceGuid;
-    if (trace.Failed(wlan().WlanGetNetworkBssList(hClient, first, nullptr, dot11_BSS_type_any, FALSE, nullptr,
-                                                  entries.Receive()),
-                     "WlanGetNetworkBssList failed with error: %u"))
+    if (ListAllBss(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, entries, trace) != 0)
         return -5;
     return static_cast<int>(entries->dwNumberOfItems);
 }

@@ -28,6 +28,8 @@ int CWirelessManage::GetAP(const GUID* pInterfaceGuid, DOT11_SSID* pSsid)
 long CWirelessManage::GetNotConnectableReason(
     const GUID* pInterfaceGuid, DOT11_SSID* pSsid, unsigned long dwBssType, int& bConnectable, unsigned long& dwReason)
 {
+    if (pSsid == nullptr)
+        return -14;
     LocalTrace<128> trace;
     NetworkList networks;
     if (OpenClient(hClient, trace) != 0)
@@ -38,7 +40,7 @@ long CWirelessManage::GetNotConnectableReason(
         return -5;
     for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
     {
-        if (pSsid == nullptr || network.dot11BssType != static_cast<DOT11_BSS_TYPE>(dwBssType))
+        if (network.dot11BssType != static_cast<DOT11_BSS_TYPE>(dwBssType))
             continue;
         if (!SameSsid(network.dot11Ssid, *pSsid))
             continue;

@@ -4,28 +4,11 @@
 #include "core/service_steps.h"
 #include "core/ssid.h"
 #include "core/wlan_lists.h"
+#include "inventory/signal_scale.h"
 
 #include <algorithm>
-#include <cstdint>
 
 using namespace calvix;
-
-namespace
-{
-
-constexpr int kWeakestRssi = -100;
-
-/// dBm that a signal quality stands for; the inverse of GetSignalStrength but for the integer division.
-int RssiOfQuality(unsigned long quality)
-{
-    if (quality == 0)
-        return kWeakestRssi;
-    if (quality == 100)
-        return -50;
-    return static_cast<int>(quality / 2) + kWeakestRssi;
-}
-
-} // namespace
 
 unsigned long CWirelessManage::GetChannel(unsigned long frequency)
 {
@@ -34,8 +17,7 @@ unsigned long CWirelessManage::GetChannel(unsigned long frequency)
 
 int CWirelessManage::GetSignalStrength(int rssi)
 {
-    const auto strength = static_cast<std::int32_t>(2U * static_cast<std::uint32_t>(rssi) + 200U);
-    return std::clamp<int>(strength, 0, 100);
+    return StrengthOfRssi(rssi);
 }
 
 int CWirelessManage::GetRssi(const GUID* pInterfaceGuid, int& rssi)

@@ -30,6 +30,8 @@ std::string NarrowInLocale(const wchar_t* text)
 
 int CWirelessManage::GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, wchar_t* xml, int capacity)
 {
+    if (xml == nullptr && capacity != 0)
+        return -13;
     LocalTrace<128> trace;
     ProfileText profile;
     if (OpenClient(hClient, trace) != 0)

@@ -350,24 +350,6 @@ TEST_F(WlanHandles, OpenOnesAndUnreleasedBlocksAreAccountedFor)
     EXPECT_EQ(computer->Audit().liveBlocks, 0u);
 }
 
-TEST_F(WlanHandles, UnfurnishedRoomsSaySo)
-{
-    Start();
-    wchar_t text[16] = {};
-    DWORD size = 0;
-    PVOID data = nullptr;
-    EXPECT_EQ(Wlan().WlanRegisterNotification(client, 8, TRUE, nullptr, nullptr, nullptr, nullptr),
-              ERROR_CALL_NOT_IMPLEMENTED);
-    EXPECT_EQ(Wlan().WlanIhvControl(client, &first, wlan_ihv_control_type_driver, 0, nullptr, 0, nullptr, &size),
-              ERROR_CALL_NOT_IMPLEMENTED);
-    EXPECT_EQ(Wlan().WlanSetSecuritySettings(client, wlan_secure_ihv_control, text), ERROR_CALL_NOT_IMPLEMENTED);
-    EXPECT_EQ(Wlan().WlanReasonCodeToString(0, 16, text, nullptr), ERROR_CALL_NOT_IMPLEMENTED);
-    EXPECT_EQ(
-        Wlan().WlanQueryAutoConfigParameter(client, wlan_autoconf_opcode_power_setting, nullptr, &size, &data, nullptr),
-        ERROR_CALL_NOT_IMPLEMENTED);
-    EXPECT_EQ(Wlan().WlanReasonCodeToString(0, 0, text, nullptr), ERROR_INVALID_PARAMETER);
-}
-
 } // namespace
 
 } // namespace calvix::simulation

@@ -6,6 +6,7 @@
 //     EditedAnswers edited;
 //     edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
 //     edited.service.SetProfileText(L"HomeNet", L"</connectionMode>");
+//     edited.conversion.takesAllFlagsForUtf8 = true;
 
 #include "platform/platform.h"
 #include "wrappers/intercepted_wlan_service.h"
@@ -26,19 +27,29 @@ public:
     using InterceptedWlanService::InterceptedWlanService;
 
     /// What is done to lists; the number counts the calls from 1.
+    std::function<void(WLAN_INTERFACE_INFO_LIST&)> interfaceList;
     std::function<void(WLAN_PROFILE_INFO_LIST&)> profileList;
     std::function<void(WLAN_AVAILABLE_NETWORK_LIST&)> networkList;
     std::function<void(WLAN_BSS_LIST&, unsigned)> bssList;
+    std::function<void(WLAN_CONNECTION_ATTRIBUTES&)> currentConnection;
+    /// Sees connection requests as the library hands them in.
+    std::function<void(const WLAN_CONNECTION_PARAMETERS&)> connectRequest;
     /// Sees the reason code as the library hands it in.
     std::function<void(DWORD)> reasonCodeOfSetProfile;
 
     /// Puts a text, not longer than the profile's own, in the place of a profile's XML.
     void SetProfileText(const std::wstring& name, const std::wstring& text) { m_profileTexts[name] = text; }
 
-    DWORD WlanGetProfileList(HANDLE client,
-                             const GUID* interfaceGuid,
-                             PVOID reserved,
-                             WLAN_PROFILE_INFO_LIST** list) override
+    DWORD WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list) override
+    {
+        const DWORD error = InterceptedWlanService::WlanEnumInterfaces(client, reserved, list);
+        if (error == 0 && interfaceList)
+            interfaceList(**list);
+        return error;
+    }
+
+    DWORD
+    WlanGetProfileList(HANDLE client, const GUID* interfaceGuid, PVOID reserved, WLAN_PROFILE_INFO_LIST** list) override
     {
         const DWORD error = InterceptedWlanService::WlanGetProfileList(client, interfaceGuid, reserved, list);
         if (error == 0 && profileList)
@@ -72,6 +83,31 @@ public:
         if (error == 0 && bssList)
             bssList(**list, ++m_bssLists);
         return error;
+    }
+
+    DWORD WlanQueryInterface(HANDLE client,
+                             const GUID* interfaceGuid,
+                             WLAN_INTF_OPCODE opcode,
+                             PVOID reserved,
+                             DWORD* dataSize,
+                             PVOID* data,
+                             WLAN_OPCODE_VALUE_TYPE* valueType) override
+    {
+        const DWORD error = InterceptedWlanService::WlanQueryInterface(client, interfaceGuid, opcode, reserved,
+                                                                       dataSize, data, valueType);
+        if (error == 0 && opcode == wlan_intf_opcode_current_connection && currentConnection)
+            currentConnection(*static_cast<WLAN_CONNECTION_ATTRIBUTES*>(*data));
+        return error;
+    }
+
+    DWORD WlanConnect(HANDLE client,
+                      const GUID* interfaceGuid,
+                      const WLAN_CONNECTION_PARAMETERS* parameters,
+                      PVOID reserved) override
+    {
+        if (connectRequest && parameters != nullptr)
+            connectRequest(*parameters);
+        return InterceptedWlanService::WlanConnect(client, interfaceGuid, parameters, reserved);
     }
 
     DWORD WlanGetProfile(HANDLE client,
@@ -116,6 +152,49 @@ private:
     unsigned m_bssLists = 0;
 };
 
+/// Text conversion that can be made to take what the platform refuses.
+class EditedText final : public platform::Text
+{
+public:
+    explicit EditedText(platform::Text& inner) : m_inner(inner) {}
+
+    /// Whether UTF-8 is converted whatever the flags for narrow code pages say.
+    bool takesAllFlagsForUtf8 = false;
+
+    int MultiByteToWideChar(UINT codePage,
+                            DWORD flags,
+                            const char* source,
+                            int sourceLength,
+                            wchar_t* destination,
+                            int destinationLength) override
+    {
+        const bool relaxed = takesAllFlagsForUtf8 && codePage == CP_UTF8;
+        return m_inner.MultiByteToWideChar(codePage, relaxed ? flags & MB_ERR_INVALID_CHARS : flags, source,
+                                           sourceLength, destination, destinationLength);
+    }
+
+    int WideCharToMultiByte(UINT codePage,
+                            DWORD flags,
+                            const wchar_t* source,
+                            int sourceLength,
+                            char* destination,
+                            int destinationLength,
+                            const char* defaultCharacter,
+                            BOOL* usedDefaultCharacter) override
+    {
+        return m_inner.WideCharToMultiByte(codePage, flags, source, sourceLength, destination, destinationLength,
+                                           defaultCharacter, usedDefaultCharacter);
+    }
+
+    int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity) override
+    {
+        return m_inner.StringFromGUID2(guid, text, capacity);
+    }
+
+private:
+    platform::Text& m_inner;
+};
+
 /// Stands before the provider in use for as long as it lives.
 class EditedAnswers final : public platform::Platform
 {
@@ -129,7 +208,7 @@ public:
     platform::Security& security() override { return m_inner.security(); }
     platform::Processes& processes() override { return m_inner.processes(); }
     platform::Internet& internet() override { return m_inner.internet(); }
-    platform::Text& text() override { return m_inner.text(); }
+    platform::Text& text() override { return conversion; }
     platform::Clock& clock() override { return m_inner.clock(); }
     platform::DebuggerOutput& debugger() override { return m_inner.debugger(); }
     platform::LastError& errors() override { return m_inner.errors(); }
@@ -141,6 +220,7 @@ private:
 
 public:
     EditedWlanService service{m_inner.wlan(), m_point};
+    EditedText conversion{m_inner.text()};
 };
 
 } // namespace calvix::test

@@ -67,7 +67,9 @@ void LibraryTest::End()
 
 void LibraryTest::TearDown()
 {
-    End();
+    // There is no computer when its world could not be used.
+    if (m_machine != nullptr)
+        End();
 }
 
 void LibraryTest::UseWorld(const simulation::Scenario& world)

@@ -1,0 +1,33 @@
+#include <calvix/wireless_manage.h>
+
+#include "autoconnect/connection_walk.h"
+#include "autoconnect/ranked_connection.h"
+
+using namespace calvix;
+
+namespace
+{
+
+constexpr ProfileAndNetworkCodes kCodes{
+    .notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7};
+
+} // namespace
+
+int CWirelessManage::AutoConnect(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    ProfileList profiles;
+    NetworkList networks;
+    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, profiles, networks, trace, kCodes))
+        return code;
+    // Deliberate: a walk on which every request was refused reports success.
+    return WalkProfiles(hClient, pInterfaceGuid, *profiles, *networks, trace) == WalkEnd::noMatch ? -9 : 0;
+}
+
+int CWirelessManage::AutoConnectEx(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    return ConnectRanked(
+        hClient, pInterfaceGuid, trace, [](const WLAN_PROFILE_INFO&) { return true; },
+        [](const WLAN_AVAILABLE_NETWORK&) { return true; });
+}

@@ -1,0 +1,77 @@
+#include <calvix/wireless_manage.h>
+
+#include "autoconnect/connection_walk.h"
+#include "autoconnect/ssid_as_profile_name.h"
+#include "core/service_steps.h"
+
+using namespace calvix;
+using platform::wlan;
+
+namespace
+{
+
+constexpr unsigned long kLongestSsid = 256;
+
+} // namespace
+
+int CWirelessManage::AutoSwitch(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    ConnectionAttributes connection;
+    ProfileList profiles;
+    NetworkList networks;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+        return -3;
+    if (ListProfiles(hClient, pInterfaceGuid, profiles, trace) != 0)
+        return -4;
+    if (profiles->dwNumberOfItems > 1)
+    {
+        const DWORD last = profiles->dwNumberOfItems - 1;
+        if (trace.Failed(
+                wlan().WlanSetProfilePosition(hClient, pInterfaceGuid, connection->strProfileName, last, nullptr),
+                "WlanSetProfilePosition failed with error: %u"))
+            return -5;
+    }
+    if (ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace) != 0)
+        return -6;
+    // Deliberate: the walk follows the order from before the move, and a refused-only walk reports success.
+    return WalkProfiles(hClient, pInterfaceGuid, *profiles, *networks, trace) == WalkEnd::noMatch ? -7 : 0;
+}
+
+int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    ConnectionAttributes connection;
+    ProfileList profiles;
+    NetworkList networks;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (const ErrorNumber error = QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace))
+        return static_cast<int>(error);
+    const WLAN_ASSOCIATION_ATTRIBUTES& current = connection->wlanAssociationAttributes;
+    wchar_t currentSsid[kSsidTextCapacity] = {};
+    if (!SsidAsProfileName(current.dot11Ssid, kLongestSsid, currentSsid))
+    {
+        const DWORD error = platform::errors().GetLastError();
+        trace.Failed(error, "Profile Name error: %u");
+        return static_cast<int>(error);
+    }
+    if (const ErrorNumber error = ListProfiles(hClient, pInterfaceGuid, profiles, trace))
+        return static_cast<int>(error);
+    if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace))
+        return static_cast<int>(error);
+    const NetworksByProfile networksByProfile(*networks);
+    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    {
+        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        {
+            // Deliberate: the profile's name is compared with the SSID, as profiles are named after their network.
+            if (FixedText(network->strProfileName) != currentSsid &&
+                current.wlanSignalQuality < network->wlanSignalQuality)
+                return static_cast<int>(RequestNetwork(hClient, pInterfaceGuid, *network, trace));
+        }
+    }
+    return -2;
+}

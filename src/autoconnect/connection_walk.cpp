@@ -1,0 +1,34 @@
+#include "autoconnect/connection_walk.h"
+
+#include "core/connect_request.h"
+
+namespace calvix
+{
+
+ErrorNumber
+RequestNetwork(HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, Trace& trace)
+{
+    return RequestConnection(client, interfaceGuid, network.strProfileName, network.dot11BssType, nullptr, trace);
+}
+
+WalkEnd WalkProfiles(HANDLE client,
+                     const GUID* interfaceGuid,
+                     const WLAN_PROFILE_INFO_LIST& profiles,
+                     const WLAN_AVAILABLE_NETWORK_LIST& networks,
+                     Trace& trace)
+{
+    const NetworksByProfile networksByProfile(networks);
+    WalkEnd end = WalkEnd::noMatch;
+    for (const WLAN_PROFILE_INFO& profile : Items(profiles))
+    {
+        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        {
+            if (RequestNetwork(client, interfaceGuid, *network, trace) == 0)
+                return WalkEnd::accepted;
+            end = WalkEnd::refused;
+        }
+    }
+    return end;
+}
+
+} // namespace calvix

@@ -1,0 +1,43 @@
+#include <calvix/wireless_manage.h>
+
+#include "autoconnect/connection_walk.h"
+#include "core/service_steps.h"
+
+#include <string>
+
+using namespace calvix;
+
+int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
+{
+    LocalTrace<128> trace;
+    InterfaceList interfaces;
+    ProfileList profiles;
+    NetworkList networks;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (const ErrorNumber error = EnumerateInterfaces(hClient, interfaces, trace))
+        return static_cast<int>(error);
+    if (interfaces->dwNumberOfItems == 0)
+    {
+        // Deliberate: the enumeration's own result; no adapter reads as success.
+        trace.Message("No valid WLAN adapter");
+        return 0;
+    }
+    const GUID* const first = &interfaces->InterfaceInfo[0].InterfaceGuid;
+    if (const ErrorNumber error = ListProfiles(hClient, first, profiles, trace))
+        return static_cast<int>(error);
+    if (const ErrorNumber error = ListAvailableNetworks(hClient, first, networks, trace))
+        return static_cast<int>(error);
+    const NetworksByProfile networksByProfile(*networks);
+    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    {
+        if (networksByProfile.Of(profile).empty())
+            continue;
+        const WLAN_AVAILABLE_NETWORK& network = *networksByProfile.Of(profile).front();
+        const ErrorNumber error = RequestNetwork(hClient, first, network, trace);
+        if (error == 0 && profileName != nullptr)
+            FormatTrace(profileName, 128, "%ls", std::wstring(FixedText(network.strProfileName)).c_str());
+        return static_cast<int>(error);
+    }
+    return -2;
+}

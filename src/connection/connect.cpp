@@ -1,0 +1,122 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/access_point_pick.h"
+#include "core/connect_request.h"
+#include "core/fixed_text.h"
+#include "core/service_steps.h"
+#include "core/wlan_lists.h"
+#include "profiles/profile_name.h"
+
+#include <algorithm>
+
+using namespace calvix;
+using platform::wlan;
+
+namespace
+{
+
+/// What a remembered connection tells about the network to go back to.
+struct RememberedNetwork
+{
+    const DOT11_SSID& ssid;
+    DOT11_BSS_TYPE bssType;
+    BOOL securityEnabled;
+    const wchar_t* profileName;
+};
+
+int ReconnectTo(HANDLE& client, const GUID* interfaceGuid, const RememberedNetwork& network)
+{
+    LocalTrace<128> trace;
+    BssList entries;
+    if (OpenClient(client, trace) != 0)
+        return -1;
+    if (trace.Failed(wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.ssid, network.bssType,
+                                                  network.securityEnabled, nullptr, entries.Receive()),
+                     "WlanGetNetworkBssList failed with error: %u"))
+        return -4;
+    if (entries->dwNumberOfItems == 0)
+        return -6;
+    DOT11_BSSID_LIST desired = DesireOnly(PickAccessPoint(*entries));
+    if (RequestConnection(client, interfaceGuid, network.profileName, network.bssType, &desired, trace) != 0)
+        return -6;
+    return 0;
+}
+
+} // namespace
+
+int CWirelessManage::LinkProfile(const GUID* pInterfaceGuid, char* name)
+{
+    LocalTrace<128> trace;
+    NetworkList networks;
+    wchar_t wide[kProfileNameCapacity] = {};
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace))
+        return static_cast<int>(error);
+    if (const ErrorNumber error = WidenProfileName(name, wide, trace))
+        return static_cast<int>(error);
+    const auto items = Items(*networks);
+    const auto carriesProfile = [&wide](const WLAN_AVAILABLE_NETWORK& network)
+    { return FixedText(network.strProfileName) == wide; };
+    const auto network = std::find_if(items.begin(), items.end(), carriesProfile);
+    if (network == items.end())
+        return -2;
+    return static_cast<int>(
+        RequestConnection(hClient, pInterfaceGuid, network->strProfileName, network->dot11BssType, nullptr, trace));
+}
+
+int CWirelessManage::Disconnect(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    // Deliberate: both failures give the platform's own error number.
+    if (const ErrorNumber error = OpenClient(hClient, trace))
+        return static_cast<int>(error);
+    const DWORD error = wlan().WlanDisconnect(hClient, pInterfaceGuid, nullptr);
+    trace.Failed(error, "WlanDisconnect failed with error: %u");
+    return static_cast<int>(error);
+}
+
+int CWirelessManage::Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes, unsigned long)
+{
+    if (pAttributes == nullptr)
+        return -14;
+    const WLAN_ASSOCIATION_ATTRIBUTES& association = pAttributes->wlanAssociationAttributes;
+    return ReconnectTo(hClient, pInterfaceGuid,
+                       {association.dot11Ssid, association.dot11BssType,
+                        pAttributes->wlanSecurityAttributes.bSecurityEnabled, pAttributes->strProfileName});
+}
+
+int CWirelessManage::Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_NOTIFICATION_DATA* pData, unsigned long)
+{
+    if (pData == nullptr)
+        return -14;
+    return ReconnectTo(hClient, pInterfaceGuid,
+                       {pData->dot11Ssid, pData->dot11BssType, pData->bSecurityEnabled, pData->strProfileName});
+}
+
+int CWirelessManage::RecoverConnection(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes)
+{
+    if (pAttributes == nullptr)
+        return -14;
+    SharedTrace trace;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (RequestConnection(hClient, pInterfaceGuid, pAttributes->strProfileName,
+                          pAttributes->wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)
+        return -4;
+    return 0;
+}
+
+int CWirelessManage::ResetConnection(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    ConnectionAttributes connection;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+        return -4;
+    if (RequestConnection(hClient, pInterfaceGuid, connection->strProfileName,
+                          connection->wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)
+        return -5;
+    return 0;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/service_steps.h"
+#include "core/ssid.h"
+
+#include <cstdint>
+
+namespace calvix
+{
+
+/// How a listing begins and shows the state of an interface.
+struct InterfaceListing
+{
+    const char* indent;     ///< before the number of interfaces
+    bool stateOnItsOwnLine; ///< rather than behind its label
+};
+
+/// Lists what one interface sees. Whether the service answered.
+using ListSeen = bool (*)(HANDLE client, const GUID* interfaceGuid, Trace& trace);
+
+/// Traces every interface, and behind each what it sees. 0; 1 when the service refused that for some interface; the
+/// platform's error number when the client handle cannot be opened.
+int ListEveryInterface(HANDLE& client, const InterfaceListing& listing, ListSeen listSeen);
+
+/// A platform number in the 32 bits that it has there.
+template <typename Number>
+constexpr unsigned In32Bits(Number number)
+{
+    return static_cast<std::uint32_t>(number);
+}
+
+/// Traces a label and, behind it, an SSID's bytes; nothing for an SSID without any.
+void ListSsid(Trace& trace, const char* label, const DOT11_SSID& ssid);
+
+/// Sets the entries of a listing apart.
+void ListEnd(Trace& trace);
+
+} // namespace calvix

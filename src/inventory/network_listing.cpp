@@ -1,0 +1,119 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/wlan_lists.h"
+#include "inventory/interface_listing.h"
+#include "inventory/narrow_name.h"
+#include "inventory/signal_scale.h"
+#include "inventory/value_text.h"
+
+using namespace calvix;
+
+namespace
+{
+
+constexpr const char* kOther = "Other ";
+
+constexpr ValueText kBssTypes[] = {
+    {dot11_BSS_type_infrastructure, "Infrastructure "},
+    {dot11_BSS_type_independent, "Independent "},
+};
+
+constexpr ValueText kAuthentications[] = {
+    {DOT11_AUTH_ALGO_80211_OPEN, "802.11 Open "},
+    {DOT11_AUTH_ALGO_80211_SHARED_KEY, "802.11 Shared "},
+    {DOT11_AUTH_ALGO_WPA, "WPA "},
+    {DOT11_AUTH_ALGO_WPA_PSK, "WPA-PSK "},
+    {DOT11_AUTH_ALGO_WPA_NONE, "WPA-None "},
+    {DOT11_AUTH_ALGO_RSNA, "RSNA "},
+    // Deliberate: no blank before the number; readers of the listing know it so.
+    {DOT11_AUTH_ALGO_RSNA_PSK, "RSNA with PSK"},
+};
+
+constexpr ValueText kCiphers[] = {
+    {DOT11_CIPHER_ALGO_NONE, "None "}, {DOT11_CIPHER_ALGO_WEP40, "WEP-40 "},   {DOT11_CIPHER_ALGO_TKIP, "TKIP "},
+    {DOT11_CIPHER_ALGO_CCMP, "CCMP "}, {DOT11_CIPHER_ALGO_WEP104, "WEP-104 "}, {DOT11_CIPHER_ALGO_WEP, "WEP "},
+};
+
+/// Ends a line with the name of a value, number included.
+void ListValue(Trace& trace, std::span<const ValueText> table, std::uint32_t value)
+{
+    trace.Line("%s(%u)", TextOf(table, value, kOther), In32Bits(value));
+}
+
+void ListIdentity(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& network)
+{
+    trace.Line("  Profile Name[%u]:  %s", index, NarrowName(network.strProfileName).c_str());
+    char label[32] = {};
+    FormatTrace(label, sizeof(label), "  SSID[%u]:\t ", index);
+    ListSsid(trace, label, network.dot11Ssid);
+    trace.Line("  BSS Network type[%u]:\t ", index);
+    ListValue(trace, kBssTypes, network.dot11BssType);
+    trace.Line("  Number of BSSIDs[%u]:\t %u", index, In32Bits(network.uNumberOfBssids));
+}
+
+void ListConnectable(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& network)
+{
+    trace.Line("  Connectable[%u]:\t ", index);
+    trace.Message(network.bNetworkConnectable != FALSE ? "Yes" : "No");
+    if (network.bNetworkConnectable == FALSE)
+        trace.Line("  Not connectable WLAN_REASON_CODE value[%u]:\t %u", index,
+                   In32Bits(network.wlanNotConnectableReason));
+}
+
+void ListSignal(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& network)
+{
+    trace.Line("  Number of PHY types supported[%u]:\t %u", index, In32Bits(network.uNumberOfPhyTypes));
+    trace.Line("  Signal Quality[%u]:\t %u (RSSI: %i dBm)", index, In32Bits(network.wlanSignalQuality),
+               RssiOfQuality(network.wlanSignalQuality));
+}
+
+void ListSecurity(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& network)
+{
+    trace.Line("  Security Enabled[%u]:\t ", index);
+    trace.Message(network.bSecurityEnabled != FALSE ? "Yes" : "No");
+    trace.Line("  Default AuthAlgorithm[%u]: ", index);
+    ListValue(trace, kAuthentications, network.dot11DefaultAuthAlgorithm);
+    trace.Line("  Default CipherAlgorithm[%u]: ", index);
+    ListValue(trace, kCiphers, network.dot11DefaultCipherAlgorithm);
+}
+
+/// Deliberate: both remarks depend on the connected flag; a network that only has a profile gets neither.
+void ListFlags(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& network)
+{
+    trace.Line("  Flags[%u]:\t 0x%x", index, In32Bits(network.dwFlags));
+    if ((network.dwFlags & WLAN_AVAILABLE_NETWORK_CONNECTED) == 0)
+        return;
+    trace.Message(" - Currently connected");
+    trace.Message(" - Has profile");
+}
+
+void ListNetwork(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& network)
+{
+    ListIdentity(trace, index, network);
+    ListConnectable(trace, index, network);
+    ListSignal(trace, index, network);
+    ListSecurity(trace, index, network);
+    ListFlags(trace, index, network);
+    ListEnd(trace);
+}
+
+bool ListNetworks(HANDLE client, const GUID* interfaceGuid, Trace& trace)
+{
+    NetworkList networks("WlanFreeMemory(pBssList)");
+    if (ListAvailableNetworks(client, interfaceGuid, networks, trace) != 0)
+        return false;
+    trace.Message("WLAN_AVAILABLE_NETWORK_LIST for this interface");
+    trace.Line("  Num Entries: %u\n", In32Bits(networks->dwNumberOfItems));
+    unsigned index = 0;
+    for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
+        ListNetwork(trace, index++, network);
+    ListEnd(trace);
+    return true;
+}
+
+} // namespace
+
+int CWirelessManage::GetAvailableNetwork()
+{
+    return ListEveryInterface(hClient, {.indent = "", .stateOnItsOwnLine = true}, ListNetworks);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+namespace calvix
+{
+
+inline constexpr int kWeakestRssi = -100;
+
+/// dBm that a signal quality stands for; the inverse of StrengthOfRssi but for the integer division.
+inline int RssiOfQuality(unsigned long quality)
+{
+    if (quality == 0)
+        return kWeakestRssi;
+    if (quality == 100)
+        return -50;
+    return static_cast<int>(quality / 2) + kWeakestRssi;
+}
+
+/// 0..100 of dBm, linear from -100 to -50; computed in 32 bits.
+inline int StrengthOfRssi(int rssi)
+{
+    const auto strength = static_cast<std::int32_t>(2U * static_cast<std::uint32_t>(rssi) + 200U);
+    return std::clamp<int>(strength, 0, 100);
+}
+
+} // namespace calvix

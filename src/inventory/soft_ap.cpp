@@ -1,0 +1,67 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/fixed_text.h"
+#include "core/service_steps.h"
+#include "core/wlan_lists.h"
+
+#include <cstring>
+
+using namespace calvix;
+using platform::text;
+
+namespace
+{
+
+/// Deliberate: UTF-8 conversion does not take these flags on Windows, so there every conversion fails and the list of
+/// software access points stays empty; hosts know it so.
+constexpr DWORD kFlags = MB_PRECOMPOSED | MB_ERR_INVALID_CHARS;
+
+/// The SSID up to its first zero byte, in the active code page; whether both conversions succeeded.
+bool NarrowSsid(const DOT11_SSID& ssid, std::string& name)
+{
+    char bytes[sizeof(ssid.ucSSID) + 1] = {};
+    std::memcpy(bytes, ssid.ucSSID, sizeof(ssid.ucSSID));
+    wchar_t wide[256] = {};
+    if (text().MultiByteToWideChar(CP_UTF8, kFlags, bytes, -1, wide, 256) == 0)
+        return false;
+    char narrow[128] = {};
+    if (text().WideCharToMultiByte(CP_ACP, kFlags, wide, -1, narrow, sizeof(narrow), nullptr, nullptr) == 0)
+        return false;
+    name = narrow;
+    return true;
+}
+
+} // namespace
+
+int CWirelessManage::GetSoftAPList(const GUID* pInterfaceGuid, std::vector<std::string>* pList)
+{
+    if (pList == nullptr)
+        return -13;
+    LocalTrace<128> trace;
+    NetworkList networks;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    // Deliberate: the platform's own error number, beside -1 for the client handle.
+    if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace))
+        return static_cast<int>(error);
+    pList->clear();
+    for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
+    {
+        std::string name;
+        if (NarrowSsid(network.dot11Ssid, name) && name.find("LC#") != std::string::npos)
+            pList->push_back(name);
+    }
+    return 0;
+}
+
+bool CWirelessManage::SpecialSoftAP()
+{
+    LocalTrace<128> trace;
+    InterfaceList interfaces;
+    ConnectionAttributes connection;
+    if (ListInterfaces(hClient, interfaces, trace, {.notOpened = -1, .enumerationFailed = -1, .none = -1}) != 0)
+        return false;
+    if (QueryCurrentConnection(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, connection, trace) != 0)
+        return false;
+    return FixedText(connection->strProfileName).find(L"LC#") != std::wstring_view::npos;
+}

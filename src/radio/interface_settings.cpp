@@ -1,0 +1,82 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/bounded_copy.h"
+#include "core/service_steps.h"
+
+using namespace calvix;
+using platform::wlan;
+
+namespace
+{
+
+/// Switches one of the interface's automatic behaviours on. The platform's error number.
+int Enable(HANDLE& client, const GUID* interfaceGuid, WLAN_INTF_OPCODE behaviour, const char* failure)
+{
+    LocalTrace<128> trace;
+    if (const ErrorNumber error = OpenClient(client, trace))
+        return static_cast<int>(error);
+    const BOOL enabled = TRUE;
+    const DWORD error = wlan().WlanSetInterface(client, interfaceGuid, behaviour, sizeof(enabled), &enabled, nullptr);
+    trace.Failed(error, failure);
+    return static_cast<int>(error);
+}
+
+const char* PowerSettingText(unsigned long level)
+{
+    switch (level)
+    {
+    case wlan_power_setting_no_saving:
+        return "wlan_power_setting_no_saving";
+    case wlan_power_setting_low_saving:
+        return "wlan_power_setting_low_saving";
+    case wlan_power_setting_medium_saving:
+        return "wlan_power_setting_medium_saving";
+    case wlan_power_setting_maximum_saving:
+        return "wlan_power_setting_maximum_saving";
+    default:
+        return "wlan_power_setting_invalid";
+    }
+}
+
+} // namespace
+
+int CWirelessManage::EnableAutoCfg(const GUID* pInterfaceGuid)
+{
+    return Enable(hClient, pInterfaceGuid, wlan_intf_opcode_autoconf_enabled, "Enable auto config failed! err is %u");
+}
+
+int CWirelessManage::EnableBackgroundScan(const GUID* pInterfaceGuid)
+{
+    return Enable(hClient, pInterfaceGuid, wlan_intf_opcode_background_scan_enabled,
+                  "Enable background scan failed! err is %u");
+}
+
+int CWirelessManage::GetPowerSetting(unsigned long& level)
+{
+    LocalTrace<128> trace;
+    WlanMemory<WLAN_POWER_SETTING> setting;
+    if (const ErrorNumber error = OpenClient(hClient, trace))
+        return static_cast<int>(error);
+    DWORD size = sizeof(*setting);
+    PVOID data = nullptr;
+    const DWORD error = wlan().WlanQueryAutoConfigParameter(hClient, wlan_autoconf_opcode_power_setting, nullptr, &size,
+                                                            &data, nullptr);
+    setting.Take(data);
+    // Deliberate: a failed query shows only in the trace and in the level left alone.
+    if (!trace.Failed(error, "WlanQueryAutoConfigParameter failed! err is %u"))
+        level = *setting;
+    return 0;
+}
+
+int CWirelessManage::SetPowerSetting(unsigned long)
+{
+    // Deliberate: part of the interface, without effect.
+    return 0;
+}
+
+char* CWirelessManage::GetPowerSettingStr(unsigned long level)
+{
+    auto& m_szPowerSetting = m_Text[1].szShort;
+    CopyTruncating(m_szPowerSetting, sizeof(m_szPowerSetting), PowerSettingText(level));
+    return m_szPowerSetting;
+}

@@ -1,0 +1,111 @@
+#include <calvix/wireless_manage.h>
+
+#include "core/service_steps.h"
+
+using namespace calvix;
+
+namespace
+{
+
+/// Switches of an interface's first PHY. The other PHYs are not looked at, deliberately: an adapter whose first PHY is
+/// on counts as on.
+struct FirstPhy
+{
+    DOT11_RADIO_STATE software = dot11_radio_state_unknown;
+    DOT11_RADIO_STATE hardware = dot11_radio_state_unknown;
+
+    /// Only a switch that says off counts as off; unknown does not.
+    bool IsOff() const { return software == dot11_radio_state_off || hardware == dot11_radio_state_off; }
+};
+
+constexpr long kNotOpened = -1;
+constexpr long kQueryFailed = -4;
+constexpr long kNoPhy = -5;
+
+/// Reads the switches: 0, or a code. A missing PHY is traced through a trace of its own, which in most methods is not
+/// the one that the failures go through.
+long ReadFirstPhy(HANDLE& client, const GUID* interfaceGuid, FirstPhy& phy, Trace& trace, Trace& noPhyTrace)
+{
+    WlanMemory<WLAN_RADIO_STATE> radio;
+    if (OpenClient(client, trace) != 0)
+        return kNotOpened;
+    DWORD size = 0;
+    if (QueryInterface(client, interfaceGuid, wlan_intf_opcode_radio_state, radio, size, trace) != 0)
+        return kQueryFailed;
+    if (radio->dwNumberOfPhys == 0)
+    {
+        noPhyTrace.Message("No valid Phy");
+        return kNoPhy;
+    }
+    phy.software = radio->PhyRadioState[0].dot11SoftwareRadioState;
+    phy.hardware = radio->PhyRadioState[0].dot11HardwareRadioState;
+    return 0;
+}
+
+} // namespace
+
+long CWirelessManage::PhyRadioIsOn2(const GUID* pInterfaceGuid,
+                                    unsigned int& softwareState,
+                                    unsigned int& hardwareState)
+{
+    LocalTrace<128> trace;
+    FirstPhy phy;
+    if (const long code = ReadFirstPhy(hClient, pInterfaceGuid, phy, trace, trace))
+        return code;
+    softwareState = static_cast<unsigned int>(phy.software);
+    hardwareState = static_cast<unsigned int>(phy.hardware);
+    return phy.IsOff() ? 0 : 1;
+}
+
+long CWirelessManage::PhyRadioIsOn2(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    FirstPhy phy;
+    if (const long code = ReadFirstPhy(hClient, pInterfaceGuid, phy, trace, trace))
+        return code;
+    return phy.IsOff() ? 0 : 1;
+}
+
+int CWirelessManage::PhyRadioIsOn(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    SharedTrace noPhyTrace;
+    FirstPhy phy;
+    // Deliberate: every failure reads as a radio that is not on.
+    if (ReadFirstPhy(hClient, pInterfaceGuid, phy, trace, noPhyTrace) != 0)
+        return 0;
+    return phy.IsOff() ? 0 : 1;
+}
+
+int CWirelessManage::PhyRadioTurnedOff(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    SharedTrace noPhyTrace;
+    FirstPhy phy;
+    // Deliberate: every failure reads as a radio that is not turned off.
+    if (ReadFirstPhy(hClient, pInterfaceGuid, phy, trace, noPhyTrace) != 0)
+        return 0;
+    return phy.IsOff() ? 1 : 0;
+}
+
+long CWirelessManage::PhyRadioTurnedOff2(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    SharedTrace noPhyTrace;
+    FirstPhy phy;
+    if (const long code = ReadFirstPhy(hClient, pInterfaceGuid, phy, trace, noPhyTrace))
+        return code;
+    return phy.IsOff() ? 1 : 0;
+}
+
+int CWirelessManage::SupportedSafeMode(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    WlanMemory<BOOL> supported;
+    if (OpenClient(hClient, trace) != 0)
+        return -2;
+    DWORD size = 0;
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_supported_safe_mode, supported, size, trace) != 0)
+        return -5;
+    return *supported;
+}

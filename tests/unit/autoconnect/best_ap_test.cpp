@@ -1,0 +1,387 @@
+#include "support/contract_table.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
+#include "unit/autoconnect/small_worlds.h"
+
+#include <string>
+#include <vector>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+
+using Excluded = std::vector<WLAN_BSS_ENTRY>;
+
+constexpr const char* kConnectFailed = "WlanConnect failed with error: %u";
+constexpr const char* kReadFailed = "WlanGetProfile failed with error: %u";
+
+struct Overload
+{
+    const char* name;
+    std::function<long long(CWirelessManage&)> call; ///< rules nothing out
+};
+
+std::vector<Overload> Overloads()
+{
+    static Excluded nobody;
+    return {{"ConnectBestAP(list, name)",
+             [](CWirelessManage& m) { return m.ConnectBestAP(&kAdapterA, &nobody, L"no such profile"); }},
+            {"ConnectBestAP(list)", [](CWirelessManage& m) { return m.ConnectBestAP(&kAdapterA, &nobody); }},
+            {"ConnectBestAP(name)", [](CWirelessManage& m) { return m.ConnectBestAP(&kAdapterA, L"no such profile"); }},
+            {"ConnectBestAP()", [](CWirelessManage& m) { return m.ConnectBestAP(&kAdapterA); }}};
+}
+
+/// Two networks to choose from; the last one heard is on 5 GHz.
+simulation::Scenario TwoNetworks(std::int32_t plain, std::int32_t boosted)
+{
+    return WorldOf({Profile("Plain"), Profile("Boosted")},
+                   {Heard("Plain", 2412000, plain), Heard("Boosted", 5180000, boosted)});
+}
+
+class BestApTest : public LibraryTest
+{
+public:
+    BestApTest() : LibraryTest(TwoNetworks(-60, -70)) {}
+
+    /// Profiles of the requests, in order.
+    std::vector<std::string> Requested() const
+    {
+        std::vector<std::string> profiles;
+        for (std::size_t number = 1; number <= callCount("WlanConnect"); ++number)
+        {
+            const std::string text(call("WlanConnect", number)["parameters"]);
+            const std::size_t start = text.find("profile=\"") + 9;
+            profiles.push_back(text.substr(start, text.find('"', start) - start));
+        }
+        return profiles;
+    }
+
+    /// Every candidate in the order in which it would be tried.
+    std::vector<std::string> Ranking()
+    {
+        FailOn("WlanConnect");
+        EXPECT_EQ(-12, manager().ConnectBestAP(&kAdapterA));
+        ClearFailures();
+        return Requested();
+    }
+};
+
+} // namespace
+
+// --- The whole way ----------------------------------------------------------------------------------------------
+
+TEST_F(BestApTest, AsksForAConnectionByProfile)
+{
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
+    const std::string start = std::string("(client=1, interface=") + kAdapterAText;
+    const auto read = [&](const char* name)
+    {
+        return "WlanGetProfile" + start + ", name=\"" + name +
+               "\", reserved=null, xml=non-null, flags=4, grantedAccess=131073)";
+    };
+    const std::string release = "WlanFreeMemory(memory=non-null)";
+    EXPECT_THAT(callLines(),
+                ElementsAre("WlanGetProfileList" + start + ", reserved=null, list=non-null)",
+                            "WlanGetAvailableNetworkList" + start + ", flags=0, reserved=null, list=non-null)",
+                            read("Plain"), release, read("Boosted"), release,
+                            "WlanGetNetworkBssList" + start +
+                                ", ssid=\"Boosted\"/7, bssType=infrastructure, securityEnabled=true, reserved=null, "
+                                "list=non-null)",
+                            "WlanConnect" + start +
+                                ", parameters={mode=profile, profile=\"Boosted\", ssid=null, bssids=null, "
+                                "bssType=infrastructure, flags=0}, reserved=null)",
+                            release, release, release));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(BestApTest, TheAcceptedRequestIsTheConnectionThatIsMade)
+{
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
+    EXPECT_EQ(0, manager().WiFiIsConnected(&kAdapterA)) << "it is not waited for";
+    Advance(std::chrono::seconds(5));
+    ASSERT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
+    char ssid[64] = {};
+    EXPECT_EQ(0, manager().GetCurrentSSID(ssid, sizeof ssid));
+    EXPECT_STREQ("Boosted", ssid) << "the weaker of the two";
+}
+
+TEST_F(BestApTest, AllOverloadsWalkAlike)
+{
+    for (const Overload& overload : Overloads())
+    {
+        Restart();
+        FailOn("WlanConnect");
+        EXPECT_EQ(-12, overload.call(manager())) << overload.name;
+        EXPECT_THAT(Requested(), ElementsAre("Boosted", "Plain")) << overload.name;
+    }
+}
+
+TEST_F(BestApTest, TheClientIsOpenedFirstWhenNeeded)
+{
+    for (const Overload& overload : Overloads())
+    {
+        ForgetClient();
+        EXPECT_EQ(0, overload.call(manager())) << overload.name;
+        EXPECT_EQ("WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)",
+                  callLines().front());
+    }
+}
+
+TEST_F(BestApTest, ARefusedRequestIsFollowedByTheNext)
+{
+    FailOn("WlanConnect", 5, 1, 1);
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
+    EXPECT_THAT(Requested(), ElementsAre("Boosted", "Plain"));
+    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 5"));
+    EXPECT_EQ("WlanConnect failed with error: 5", sharedTrace());
+}
+
+TEST_F(BestApTest, TheNetworksOwnBssTypeIsAskedFor)
+{
+    UseWorld(RichWorld());
+    EditedAnswers edited;
+    edited.service.SetProfileText(L"AdHocNet", L"<connectionMode>auto</connectionMode>");
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"HomeNet"));
+    EXPECT_EQ("{mode=profile, profile=\"AdHocNet\", ssid=null, bssids=null, bssType=independent, flags=0}",
+              call("WlanConnect")["parameters"]);
+}
+
+// --- Failures ---------------------------------------------------------------------------------------------------
+
+TEST_F(BestApTest, Failures)
+{
+    for (const auto& [name, call] : Overloads())
+    {
+        CheckFailures(
+            *this,
+            {{name, call, "WlanOpenHandle", -1, {"WlanOpenHandle failed with error: %u"}},
+             {name, call, "WlanGetProfileList", -4, {"WlanGetProfileList failed with error: %u"}},
+             {name, call, "WlanGetAvailableNetworkList", -6, {"WlanGetAvailableNetworkList failed with error: %u"}},
+             {name, call, "WlanGetProfile", -9, {kReadFailed, kReadFailed}, TraceBuffer::local},
+             {name, call, "WlanGetNetworkBssList", -10, {"WlanGetNetworkBssList failed with error: %u"}},
+             {name, call, "WlanConnect", -12, {kConnectFailed, kConnectFailed}}});
+    }
+}
+
+// The codes are traced as unsigned numbers.
+TEST_F(BestApTest, FailuresOfTheWorld)
+{
+    for (const auto& [name, call] : Overloads())
+    {
+        CheckFailures(
+            *this,
+            {{.method = name,
+              .call = call,
+              .expected = -5,
+              .traced = {"No network profile: 4294967291"},
+              .prepare = [](auto& test) { test.UseWorld(NoProfileWorld()); }},
+             {.method = name,
+              .call = call,
+              .expected = -7,
+              .traced = {"No available network: 4294967289"},
+              .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }},
+             {.method = name, .call = call, .expected = -9, .buffer = TraceBuffer::local, .prepare = [](auto& test) {
+                  test.UseWorld(WorldOf({Profile("Net", "manual"), Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+              }}});
+    }
+}
+
+TEST_F(BestApTest, WithoutACandidateNothingMoreIsAsked)
+{
+    UseWorld(WorldOf({Profile("Net", "manual")}, {Heard("Net", 5180000, -50)}));
+    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA));
+    EXPECT_EQ(0u, callCount("WlanGetNetworkBssList"));
+    EXPECT_TRUE(traced().empty());
+}
+
+TEST_F(BestApTest, AnEmptyBssListEndsItWithoutATrace)
+{
+    EditedAnswers edited;
+    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
+    EXPECT_EQ(-11, manager().ConnectBestAP(&kAdapterA));
+    EXPECT_EQ(0u, callCount("WlanConnect"));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(BestApTest, AProfileThatCannotBeReadIsNoCandidate)
+{
+    FailOn("WlanGetProfile", 5, 2, 1);
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
+    EXPECT_THAT(Requested(), ElementsAre("Plain"));
+    EXPECT_THAT(traced(), ElementsAre("WlanGetProfile failed with error: 5"));
+    EXPECT_TRUE(sharedTraceUntouched()) << "that is traced through a buffer of its own";
+}
+
+// Only 1 means automatic: the codes below zero do not.
+TEST_F(BestApTest, AProfileWithoutAModeIsNoCandidate)
+{
+    EditedAnswers edited;
+    edited.service.SetProfileText(L"Plain", L"");                    // -5
+    edited.service.SetProfileText(L"Boosted", L"</connectionMode>"); // -6
+    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA));
+}
+
+TEST_F(BestApTest, NullsAreRefusedBeforeAnything)
+{
+    ForgetClient();
+    Excluded nobody;
+    const wchar_t* const noName = nullptr;
+    Excluded* const noList = nullptr;
+    EXPECT_EQ(-13, manager().ConnectBestAP(&kAdapterA, noList));
+    EXPECT_EQ(-13, manager().ConnectBestAP(&kAdapterA, noList, L"Plain"));
+    EXPECT_EQ(-13, manager().ConnectBestAP(&kAdapterA, noList, noName));
+    EXPECT_EQ(-14, manager().ConnectBestAP(&kAdapterA, &nobody, noName));
+    EXPECT_EQ(-14, manager().ConnectBestAP(&kAdapterA, noName));
+    EXPECT_TRUE(calls().empty());
+    EXPECT_EQ(-4, manager().ConnectBestAP(nullptr)) << "a null interface is the service's to refuse";
+}
+
+// --- Candidates -------------------------------------------------------------------------------------------------
+
+TEST_F(BestApTest, OnlyMatchingNetworksAreAskedAbout)
+{
+    UseWorld(RichWorld());
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
+    EXPECT_THAT(Requested(), ElementsAre("HomeNet"));
+    EXPECT_EQ(3u, callCount("WlanGetProfile")) << "HiddenNet and GoneNet are not in view";
+}
+
+TEST_F(BestApTest, TheExcludedProfileIsPassedOverUnread)
+{
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"Boosted"));
+    EXPECT_THAT(Requested(), ElementsAre("Plain"));
+    EXPECT_EQ(1u, callCount("WlanGetProfile"));
+    EXPECT_EQ("\"Plain\"", call("WlanGetProfile")["name"]);
+
+    ClearCalls();
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"boosted"));
+    EXPECT_THAT(Requested(), ElementsAre("Boosted")) << "names are compared exactly";
+}
+
+TEST_F(BestApTest, WithoutTheOnlyAutomaticProfileThereIsNoCandidate)
+{
+    UseWorld(WorldOf({Profile("Net"), Profile("Other", "manual")},
+                     {Heard("Net", 2412000, -50), Heard("Other", 2412000, -50)}));
+    Excluded nobody;
+    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, L"Net"));
+    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, &nobody, L"Net"));
+}
+
+TEST_F(BestApTest, TheExcludedNameIsTheProfilesNotTheSsid)
+{
+    UseWorld(WorldOf({ProfileFor("Profile", "Net")}, {Heard("Net", 2412000, -50)}));
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"Net"));
+    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, L"Profile"));
+}
+
+TEST_F(BestApTest, NetworksOfTheListAreExcludedAfterTheirProfileIsRead)
+{
+    Excluded excluded = {EntryOf("Boosted"), EntryOf("Elsewhere")};
+    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, &excluded));
+    EXPECT_THAT(Requested(), ElementsAre("Plain"));
+    EXPECT_EQ(2u, callCount("WlanGetProfile"));
+
+    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, &excluded, L"Plain")) << "name and list together";
+    excluded.push_back(EntryOf("Plain"));
+    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, &excluded));
+    EXPECT_EQ(3u, excluded.size()) << "the list is only read";
+}
+
+// Deliberate: compared over the network's length only.
+TEST_F(BestApTest, ALongerExcludedSsidRulesOutWhatItBeginsWith)
+{
+    UseWorld(WorldOf({Profile("HomeNet")}, {Heard("HomeNet", 2412000, -50)}));
+    const auto codeWithout = [this](const std::string& ssid)
+    {
+        Excluded excluded = {EntryOf(ssid)};
+        return manager().ConnectBestAP(&kAdapterA, &excluded);
+    };
+    EXPECT_EQ(-9, codeWithout("HomeNet5G"));
+    EXPECT_EQ(-9, codeWithout("HomeNet"));
+    EXPECT_EQ(0, codeWithout("Home"));
+    EXPECT_EQ(0, codeWithout("homenet"));
+    EXPECT_EQ(0, codeWithout("MyHomeNet"));
+    EXPECT_EQ(0, codeWithout(""));
+}
+
+// --- Ranking ----------------------------------------------------------------------------------------------------
+
+// Deliberate: from the weakest upward.
+TEST_F(BestApTest, TheLowestScoreIsTriedFirst)
+{
+    EXPECT_THAT(Ranking(), ElementsAre("Boosted", "Plain")) << "60 + 10 before 80";
+    UseWorld(TwoNetworks(-68, -70));
+    EXPECT_THAT(Ranking(), ElementsAre("Plain", "Boosted")) << "64 before 60 + 10";
+    UseWorld(TwoNetworks(-80, -70));
+    EXPECT_THAT(Ranking(), ElementsAre("Plain", "Boosted")) << "40 before 70";
+}
+
+TEST_F(BestApTest, EqualScoresGoByProfileOrder)
+{
+    UseWorld(TwoNetworks(-65, -70));
+    EXPECT_THAT(Ranking(), ElementsAre("Plain", "Boosted")) << "70 and 60 + 10";
+
+    UseWorld(WorldOf({Profile("A"), Profile("B"), Profile("C")},
+                     {Heard("C", 2412000, -60), Heard("B", 2412000, -60), Heard("A", 2412000, -60)}));
+    EXPECT_THAT(Ranking(), ElementsAre("A", "B", "C")) << "not by network order";
+}
+
+// Deliberate: one BSS query, for the network listed last, candidate or not.
+TEST_F(BestApTest, OnlyTheNetworkListedLastCanEarnTheBonus)
+{
+    UseWorld(WorldOf({Profile("Boosted"), Profile("Plain")},
+                     {Heard("Boosted", 5180000, -70), Heard("Plain", 2412000, -68)}));
+    EXPECT_THAT(Ranking(), ElementsAre("Boosted", "Plain")) << "60 before 64";
+    EXPECT_EQ(1u, callCount("WlanGetNetworkBssList"));
+    EXPECT_EQ("\"Plain\"/5", call("WlanGetNetworkBssList")["ssid"]);
+
+    UseWorld(WorldOf({Profile("Boosted"), Profile("Plain")},
+                     {Heard("Boosted", 5180000, -70), Heard("Plain", 2412000, -68), Heard("Nobody's", 5180000, -70)}));
+    EXPECT_THAT(Ranking(), ElementsAre("Boosted", "Plain"));
+    EXPECT_EQ("\"Nobody's\"/8", call("WlanGetNetworkBssList")["ssid"]);
+}
+
+TEST_F(BestApTest, TheBonusEndsAtOneHundred)
+{
+    std::vector<simulation::AccessPoint> heard = {Heard("Full", 2412000, -50)};
+    for (int i = 0; i < 10; ++i)
+        heard.push_back(Heard("Many", 5180000, -90));
+    UseWorld(WorldOf({Profile("Many"), Profile("Full")}, heard));
+    EXPECT_THAT(Ranking(), ElementsAre("Many", "Full")) << "20 + 10 x 10 is no more than 100";
+
+    heard[0].rssi = -51;
+    UseWorld(WorldOf({Profile("Many"), Profile("Full")}, heard));
+    EXPECT_THAT(Ranking(), ElementsAre("Full", "Many")) << "98 before 100";
+}
+
+TEST_F(BestApTest, TheBonusGoesToSsidsThatBeginWithTheLastOnes)
+{
+    UseWorld(WorldOf({Profile("Net5G"), Profile("Plain")},
+                     {Heard("Net5G", 2412000, -70), Heard("Plain", 2412000, -68), Heard("Net", 5180000, -90)}));
+    EXPECT_THAT(Ranking(), ElementsAre("Plain", "Net5G"));
+}
+
+TEST_F(BestApTest, MoreThanThirtyTwoCandidatesAreAllTriedInOrder)
+{
+    std::vector<simulation::StoredProfile> profiles;
+    std::vector<simulation::AccessPoint> heard;
+    std::vector<std::string> expected;
+    for (int i = 0; i < 40; ++i)
+    {
+        const std::string name = "Net" + std::to_string(i);
+        profiles.push_back(Profile(name));
+        heard.push_back(Heard(name, 2412000, -100 + i * 17 % 40));
+        expected.push_back("Net" + std::to_string(i * 33 % 40)); // 17 x 33 leaves 1
+    }
+    UseWorld(WorldOf(profiles, heard));
+    EXPECT_EQ(expected, Ranking());
+}
+
+} // namespace calvix::test

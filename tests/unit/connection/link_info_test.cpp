@@ -1,0 +1,286 @@
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "support/strict_copy_guard.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <algorithm>
+#include <array>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+const std::string kA = kAdapterAText;
+
+/// GetCurrentLinkInfo with outputs that show what was written.
+struct LinkInfo
+{
+    int state = 77;
+    int bssType = 78;
+    char ssid[10] = "#########";
+    std::array<char, 7> bssid = {'#', '#', '#', '#', '#', '#', '#'};
+
+    int Ask(CWirelessManage& manager, const GUID* guid = &kAdapterA, int ssidCapacity = sizeof ssid)
+    {
+        return manager.GetCurrentLinkInfo(guid, &state, &bssType, ssid, ssidCapacity, bssid.data());
+    }
+
+    simulation::MacAddress Bssid() const
+    {
+        simulation::MacAddress address{};
+        std::transform(bssid.begin(), bssid.begin() + 6, address.begin(),
+                       [](char byte) { return static_cast<std::uint8_t>(byte); });
+        return address;
+    }
+};
+
+class LinkInfoTest : public LibraryTest
+{
+};
+
+using LinkInfoDeathTest = LinkInfoTest;
+
+class CurrentWiFiTest : public LibraryTest
+{
+public:
+    WLAN_CONNECTION_ATTRIBUTES Current()
+    {
+        WLAN_CONNECTION_ATTRIBUTES record{};
+        EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &record));
+        ClearCalls();
+        return record;
+    }
+};
+
+/// The call of the failure table: it has to leave its outputs alone.
+long long AskUntouched(CWirelessManage& manager)
+{
+    LinkInfo info;
+    const int code = info.Ask(manager);
+    EXPECT_EQ(77, info.state);
+    EXPECT_EQ(78, info.bssType);
+    EXPECT_STREQ("#########", info.ssid);
+    EXPECT_EQ('#', info.bssid[0]);
+    return code;
+}
+
+/// Attributes as a host keeps them: of HomeNet, whatever the adapter does now.
+WLAN_CONNECTION_ATTRIBUTES KeptAttributes(const std::string& ssid = "HomeNet", BOOL secured = TRUE)
+{
+    WLAN_CONNECTION_ATTRIBUTES record{};
+    record.wlanAssociationAttributes.dot11Ssid = MakeSsid(ssid);
+    record.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_infrastructure;
+    record.wlanSecurityAttributes.bSecurityEnabled = secured;
+    return record;
+}
+
+long long CountHomeNet(CWirelessManage& manager)
+{
+    WLAN_CONNECTION_ATTRIBUTES record = KeptAttributes();
+    return manager.GetCurrentWiFi(&kAdapterA, &record);
+}
+
+} // namespace
+
+// --- GetCurrentLinkInfo ---
+
+TEST_F(LinkInfoTest, SumsUpTheConnection)
+{
+    LinkInfo info;
+    EXPECT_EQ(0, info.Ask(manager()));
+    EXPECT_EQ(1, info.state) << "connected";
+    EXPECT_EQ(1, info.bssType) << "infrastructure";
+    EXPECT_STREQ("HomeNet", info.ssid);
+    EXPECT_EQ(kHomeNet24, info.Bssid());
+    EXPECT_EQ('#', info.bssid[6]) << "six bytes and no terminator";
+    EXPECT_THAT(calls(),
+                ElementsAre("WlanQueryInterface", "MultiByteToWideChar", "WideCharToMultiByte", "WlanFreeMemory"));
+    EXPECT_EQ("WlanQueryInterface(client=1, interface=" + kA +
+                  ", opcode=current_connection, reserved=null, dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), "
+                  "data=non-null, valueType=null)",
+              callLines()[0]);
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(LinkInfoTest, ReportsStateAndBssTypeAsTheyAre)
+{
+    const auto strange = [](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+    {
+        auto& record = *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data);
+        record.isState = wlan_interface_state_authenticating;
+        record.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_independent;
+    };
+    const AlteredAnswers altered({.query = strange});
+    LinkInfo info;
+    EXPECT_EQ(0, info.Ask(manager()));
+    EXPECT_EQ(7, info.state);
+    EXPECT_EQ(2, info.bssType);
+}
+
+TEST_F(LinkInfoTest, CutsTheSsidToTheRoomThereIs)
+{
+    LinkInfo info;
+    EXPECT_EQ(0, info.Ask(manager(), &kAdapterA, 5));
+    EXPECT_STREQ("Home", info.ssid);
+    EXPECT_STREQ("####", info.ssid + 5);
+    EXPECT_EQ(kHomeNet24, info.Bssid());
+}
+
+TEST_F(LinkInfoTest, AnSsidThatCannotBeConvertedIsNoFailure)
+{
+    FailOn("MultiByteToWideChar");
+    LinkInfo info;
+    EXPECT_EQ(0, info.Ask(manager()));
+    EXPECT_STREQ("#########", info.ssid);
+    EXPECT_EQ(1, info.state);
+    EXPECT_EQ(1, info.bssType);
+    EXPECT_EQ(kHomeNet24, info.Bssid());
+}
+
+TEST_F(LinkInfoTest, StateBssTypeAndSsidAreOptional)
+{
+    LinkInfo info;
+    EXPECT_EQ(0, manager().GetCurrentLinkInfo(&kAdapterA, nullptr, nullptr, nullptr, 10, info.bssid.data()));
+    EXPECT_EQ(kHomeNet24, info.Bssid());
+}
+
+// The order of the outputs shows: what comes before the BSSID is written, what comes after it is not.
+TEST_F(LinkInfoTest, ANullBssidIsFatal)
+{
+    LinkInfo info;
+    ExpectFatal(
+        [&]
+        { manager().GetCurrentLinkInfo(&kAdapterA, &info.state, &info.bssType, info.ssid, sizeof info.ssid, nullptr); },
+        "GetCurrentLinkInfo");
+    EXPECT_EQ(1, info.state);
+    EXPECT_STREQ("HomeNet", info.ssid);
+    EXPECT_EQ(78, info.bssType);
+}
+
+TEST_F(LinkInfoDeathTest, ANullBssidEndsTheProcessVisibly)
+{
+    LinkInfo info;
+    EXPECT_DEATH(manager().GetCurrentLinkInfo(&kAdapterA, &info.state, &info.bssType, info.ssid, 10, nullptr),
+                 "GetCurrentLinkInfo");
+}
+
+// Deliberate: the platform's own numbers, where the other queries give -1 and -4.
+TEST_F(LinkInfoTest, FailuresAreThePlatformsNumbers)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(
+        *this,
+        {{"GetCurrentLinkInfo", AskUntouched, "WlanOpenHandle", 5, {kOpenFailed}, local},
+         {"GetCurrentLinkInfo", AskUntouched, "WlanOpenHandle", 1062, {kOpenFailed}, local, 1062},
+         {"GetCurrentLinkInfo", AskUntouched, "WlanQueryInterface", 5, {kQueryFailed}, local},
+         {"GetCurrentLinkInfo", AskUntouched, "WlanQueryInterface", -2144067582, {kQueryFailed}, local, 0x80342002},
+         {.method = "GetCurrentLinkInfo, not connected",
+          .call = AskUntouched,
+          .expected = 5023,
+          .traced = {kNotConnected},
+          .buffer = local,
+          .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
+}
+
+TEST_F(LinkInfoTest, ANullInterfaceIsTheServicesToRefuse)
+{
+    LinkInfo info;
+    EXPECT_EQ(87, info.Ask(manager(), nullptr));
+    EXPECT_EQ(87, info.Ask(manager(), &kNoAdapter));
+    EXPECT_EQ(77, info.state);
+}
+
+TEST_F(LinkInfoTest, WhatComesWithAnErrorIsReleased)
+{
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
+    EXPECT_EQ(5, AskUntouched(manager()));
+    ExpectNothingHeld();
+}
+
+TEST_F(LinkInfoTest, NeedsNoMemoryOfItsOwn)
+{
+    LinkInfo info;
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { info.Ask(manager()); }));
+}
+
+// --- GetCurrentWiFi ---
+
+TEST_F(CurrentWiFiTest, CountsTheAccessPointsOfTheNetwork)
+{
+    WLAN_CONNECTION_ATTRIBUTES record = Current();
+    EXPECT_EQ(3, manager().GetCurrentWiFi(&kAdapterA, &record));
+    EXPECT_THAT(callLines(), ElementsAre("WlanGetNetworkBssList(client=1, interface=" + kA +
+                                             ", ssid=\"HomeNet\"/7, bssType=infrastructure, securityEnabled=true, "
+                                             "reserved=null, list=non-null)",
+                                         kRelease));
+    EXPECT_THAT(traced(), ElementsAre(kBssReleased));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(CurrentWiFiTest, TracesTheReleaseJustBeforeIt)
+{
+    CountHomeNet(manager());
+    const std::vector<std::string> lines = timeline();
+    ASSERT_EQ(4u, lines.size());
+    EXPECT_THAT(lines[1], ::testing::HasSubstr(kBssReleased));
+    EXPECT_EQ(kRelease, lines[3]);
+}
+
+TEST_F(CurrentWiFiTest, TheNetworkIsThatOfTheRecordWhateverTheAdapterIsConnectedTo)
+{
+    WLAN_CONNECTION_ATTRIBUTES cafe = KeptAttributes("CafeNet", FALSE);
+    EXPECT_EQ(1, manager().GetCurrentWiFi(&kAdapterB, &cafe));
+    EXPECT_EQ("WlanGetNetworkBssList(client=1, interface=" + std::string(kAdapterBText) +
+                  ", ssid=\"CafeNet\"/7, bssType=infrastructure, securityEnabled=false, reserved=null, list=non-null)",
+              callLines()[0]);
+
+    WLAN_CONNECTION_ATTRIBUTES adHoc = KeptAttributes("AdHocNet", FALSE);
+    adHoc.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_independent;
+    EXPECT_EQ(1, manager().GetCurrentWiFi(&kAdapterA, &adHoc));
+    EXPECT_EQ("independent", call("WlanGetNetworkBssList", 2)["bssType"]);
+}
+
+TEST_F(CurrentWiFiTest, OutOfRangeIsNoFailure)
+{
+    WLAN_CONNECTION_ATTRIBUTES gone = KeptAttributes("GoneNet");
+    EXPECT_EQ(0, manager().GetCurrentWiFi(&kAdapterA, &gone));
+    EXPECT_THAT(traced(), ElementsAre(kBssReleased));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(CurrentWiFiTest, EveryWayToFail)
+{
+    CheckFailures(*this, {{"GetCurrentWiFi", CountHomeNet, "WlanOpenHandle", -1, {kOpenFailed}},
+                          {"GetCurrentWiFi", CountHomeNet, "WlanGetNetworkBssList", -4, {kBssFailed}}});
+}
+
+TEST_F(CurrentWiFiTest, NullArguments)
+{
+    EXPECT_EQ(-14, manager().GetCurrentWiFi(&kAdapterA, nullptr));
+    EXPECT_TRUE(calls().empty()) << "nothing to ask for";
+
+    WLAN_CONNECTION_ATTRIBUTES record = KeptAttributes();
+    EXPECT_EQ(-4, manager().GetCurrentWiFi(nullptr, &record));
+    EXPECT_EQ("WlanGetNetworkBssList failed with error: 87", sharedTrace());
+}
+
+TEST_F(CurrentWiFiTest, AListThatComesWithAnErrorIsReleased)
+{
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanGetNetworkBssList"});
+    EXPECT_EQ(-4, CountHomeNet(manager()));
+    EXPECT_THAT(traced(), ElementsAre("WlanGetNetworkBssList failed with error: 5", kBssReleased));
+    ExpectNothingHeld();
+}
+
+TEST_F(CurrentWiFiTest, NeedsNoMemoryOfItsOwn)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { CountHomeNet(manager()); }));
+}
+
+} // namespace calvix::test

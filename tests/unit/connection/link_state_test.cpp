@@ -1,0 +1,189 @@
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <iterator>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+class LinkStateTest : public LibraryTest
+{
+};
+
+long long Connected(CWirelessManage& manager)
+{
+    return manager.WiFiIsConnected(&kAdapterA);
+}
+
+long long Disconnected(CWirelessManage& manager)
+{
+    return manager.WiFiIsDisconnected(&kAdapterA);
+}
+
+void UseNoAdapter(LibraryTest& test)
+{
+    test.UseWorld(NoAdapterWorld());
+}
+
+/// The service lists its two interfaces under this GUID, in these states.
+AnswerChanges Twins(const GUID& guid, WLAN_INTERFACE_STATE first, WLAN_INTERFACE_STATE second)
+{
+    return {.interfaces = [=](WLAN_INTERFACE_INFO_LIST& list)
+            {
+                ASSERT_EQ(2u, list.dwNumberOfItems);
+                const WLAN_INTERFACE_STATE states[] = {first, second};
+                for (DWORD i = 0; i < 2; ++i)
+                {
+                    list.InterfaceInfo[i].InterfaceGuid = guid;
+                    list.InterfaceInfo[i].isState = states[i];
+                }
+            }};
+}
+
+} // namespace
+
+TEST_F(LinkStateTest, TellsAConnectedAdapterFromADisconnectedOne)
+{
+    EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
+    EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterA));
+    EXPECT_EQ(0, manager().WiFiIsConnected(&kAdapterB));
+    EXPECT_EQ(1, manager().WiFiIsDisconnected(&kAdapterB)) << "entries after the first count, too";
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(LinkStateTest, AsksForTheInterfacesOnly)
+{
+    for (const auto ask : {Connected, Disconnected})
+    {
+        ClearCalls();
+        ask(manager());
+        EXPECT_THAT(callLines(), ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)", kRelease));
+    }
+}
+
+// Deliberate: an adapter on its way is neither connected nor disconnected.
+TEST_F(LinkStateTest, EveryState)
+{
+    struct
+    {
+        WLAN_INTERFACE_STATE state;
+        int connected;
+        int disconnected;
+    } const rows[] = {{wlan_interface_state_not_ready, 0, 0},
+                      {wlan_interface_state_connected, 1, 0},
+                      {wlan_interface_state_ad_hoc_network_formed, 0, 0},
+                      {wlan_interface_state_disconnecting, 0, 0},
+                      {wlan_interface_state_disconnected, 0, 1},
+                      {wlan_interface_state_associating, 0, 0},
+                      {wlan_interface_state_discovering, 0, 0},
+                      {wlan_interface_state_authenticating, 0, 0}};
+    for (const auto& row : rows)
+    {
+        computer().SetInterfaceState(0, row.state);
+        EXPECT_EQ(row.connected, manager().WiFiIsConnected(&kAdapterA)) << "state " << row.state;
+        EXPECT_EQ(row.disconnected, manager().WiFiIsDisconnected(&kAdapterA)) << "state " << row.state;
+    }
+}
+
+TEST_F(LinkStateTest, AnUnknownInterfaceIsNeither)
+{
+    EXPECT_EQ(0, manager().WiFiIsConnected(&kNoAdapter));
+    EXPECT_EQ(0, manager().WiFiIsDisconnected(&kNoAdapter));
+    EXPECT_EQ(0, manager().WiFiIsConnected(nullptr));
+    EXPECT_EQ(0, manager().WiFiIsDisconnected(nullptr));
+    EXPECT_TRUE(traced().empty());
+}
+
+TEST_F(LinkStateTest, ComparesAll16BytesOfTheInterface)
+{
+    GUID almostA = kAdapterA;
+    almostA.Data4[7] ^= 1;
+    EXPECT_EQ(0, manager().WiFiIsConnected(&almostA));
+    GUID almostB = kAdapterB;
+    almostB.Data1 ^= 1;
+    EXPECT_EQ(0, manager().WiFiIsDisconnected(&almostB));
+}
+
+TEST_F(LinkStateTest, TheLastEntryOfTheInterfaceDecides)
+{
+    const auto connected = wlan_interface_state_connected;
+    const auto disconnected = wlan_interface_state_disconnected;
+    {
+        const AlteredAnswers altered(Twins(kAdapterA, connected, disconnected));
+        EXPECT_EQ(0, manager().WiFiIsConnected(&kAdapterA));
+        EXPECT_EQ(1, manager().WiFiIsDisconnected(&kAdapterA));
+    }
+    const AlteredAnswers altered(Twins(kAdapterA, disconnected, connected));
+    EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
+    EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterA));
+}
+
+// Deliberate: whoever asks cannot tell a missing connection from a missing service.
+TEST_F(LinkStateTest, EveryFailureReadsAsNo)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this, {{"WiFiIsConnected", Connected, "WlanOpenHandle", 0, {kOpenFailed}, local},
+                          {"WiFiIsConnected", Connected, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
+                          {.method = "WiFiIsConnected, no adapter",
+                           .call = Connected,
+                           .expected = 0,
+                           .traced = {kNoAdapterText},
+                           .buffer = local,
+                           .prepare = UseNoAdapter}});
+
+    const auto disconnectedA = [](LibraryTest& test) { test.UseWorld(DisconnectedWorld()); };
+    CheckFailures(
+        *this,
+        {{.method = "WiFiIsDisconnected, nothing fails", .call = Disconnected, .expected = 1, .prepare = disconnectedA},
+         {.method = "WiFiIsDisconnected",
+          .call = Disconnected,
+          .failingOperation = "WlanOpenHandle",
+          .expected = 0,
+          .traced = {kOpenFailed},
+          .prepare = disconnectedA},
+         {.method = "WiFiIsDisconnected",
+          .call = Disconnected,
+          .failingOperation = "WlanEnumInterfaces",
+          .expected = 0,
+          .traced = {kEnumFailed},
+          .prepare = disconnectedA},
+         {.method = "WiFiIsDisconnected, no adapter",
+          .call = Disconnected,
+          .expected = 0,
+          .traced = {kNoAdapterText},
+          .prepare = UseNoAdapter}});
+}
+
+TEST_F(LinkStateTest, OpensTheClientWhenItIsNotOpen)
+{
+    for (const auto ask : {Connected, Disconnected})
+    {
+        ForgetClient();
+        ask(manager());
+        EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanEnumInterfaces", "WlanFreeMemory"));
+    }
+}
+
+TEST_F(LinkStateTest, AListThatComesWithAnErrorIsReleased)
+{
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanEnumInterfaces"});
+    EXPECT_EQ(0, Connected(manager()));
+    EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterB));
+    ExpectNothingHeld();
+}
+
+TEST_F(LinkStateTest, NeedsNoMemoryOfItsOwn)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { Connected(manager()); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { Disconnected(manager()); }));
+}
+
+} // namespace calvix::test

@@ -1,0 +1,167 @@
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <string>
+#include <vector>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+constexpr const char* kMoveFailed = "WlanSetProfilePosition failed with error: %u";
+
+class PreferenceOrderTest : public LibraryTest
+{
+public:
+    /// Names of adapter A's profiles, in preference order.
+    std::vector<std::wstring> Order()
+    {
+        std::vector<std::wstring> names;
+        WLAN_PROFILE_INFO_LIST* list = nullptr;
+        EXPECT_EQ(0u, computer().wlan().WlanGetProfileList(ManagerInternals::Client(), &kAdapterA, nullptr, &list));
+        for (DWORD i = 0; i < list->dwNumberOfItems; ++i)
+            names.emplace_back(list->ProfileInfo[i].strProfileName);
+        computer().wlan().WlanFreeMemory(list);
+        return names;
+    }
+};
+
+long long MoveToLast(CWirelessManage& manager)
+{
+    return manager.SetCurrentWiFiToLast();
+}
+
+simulation::Scenario ConnectedWorld(std::vector<simulation::StoredProfile> profiles, const std::string& connected)
+{
+    simulation::Scenario world = WorldOf(std::move(profiles), {Heard("Net", 2412000, -50)});
+    world.adapters[0].connection = simulation::Connection{connected, std::nullopt};
+    return world;
+}
+
+} // namespace
+
+TEST_F(PreferenceOrderTest, TheConnectedNetworksProfileGoesToTheLastPlace)
+{
+    EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
+    const std::string start = std::string("(client=1, interface=") + kAdapterAText;
+    EXPECT_THAT(callLines(),
+                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
+                            "WlanGetProfileList" + start + ", reserved=null, list=non-null)",
+                            "WlanQueryInterface" + start +
+                                ", opcode=current_connection, reserved=null, "
+                                "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, valueType=null)",
+                            "WlanSetProfilePosition" + start + ", name=\"HomeNet\", position=4, reserved=null)",
+                            kRelease, kRelease, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(Order(), ElementsAre(L"OfficeNet", L"HiddenNet", L"AdHocNet", L"GoneNet", L"HomeNet"));
+}
+
+TEST_F(PreferenceOrderTest, WhatIsLastStaysLast)
+{
+    EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
+    EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
+    EXPECT_THAT(Order(), ElementsAre(L"OfficeNet", L"HiddenNet", L"AdHocNet", L"GoneNet", L"HomeNet"));
+}
+
+TEST_F(PreferenceOrderTest, TheProfileIsMovedNotTheSsid)
+{
+    UseWorld(ConnectedWorld({ProfileFor("First", "Net"), Profile("Net")}, "First"));
+    EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
+    EXPECT_EQ("\"First\"", call("WlanSetProfilePosition")["name"]);
+    EXPECT_EQ("1", call("WlanSetProfilePosition")["position"]);
+    EXPECT_THAT(Order(), ElementsAre(L"Net", L"First"));
+}
+
+TEST_F(PreferenceOrderTest, ASingleProfileIsNotMoved)
+{
+    UseWorld(ConnectedWorld({Profile("Net")}, "Net"));
+    EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
+    EXPECT_THAT(calls(), ElementsAre("WlanEnumInterfaces", "WlanGetProfileList", "WlanQueryInterface", "WlanFreeMemory",
+                                     "WlanFreeMemory", "WlanFreeMemory"));
+    EXPECT_TRUE(traced().empty());
+}
+
+// The connection is asked for before the profiles are counted.
+TEST_F(PreferenceOrderTest, WithoutAConnectionTheCountOfProfilesDoesNotMatter)
+{
+    UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50)}));
+    EXPECT_EQ(5023, manager().SetCurrentWiFiToLast());
+    UseWorld(NoProfileWorld());
+    EXPECT_EQ(5023, manager().SetCurrentWiFiToLast());
+}
+
+TEST_F(PreferenceOrderTest, OnlyTheFirstInterfaceIsLookedAt)
+{
+    simulation::Scenario world = DisconnectedWorld();
+    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseWorld(world);
+    EXPECT_EQ(5023, manager().SetCurrentWiFiToLast());
+    EXPECT_EQ(1u, callCount("WlanQueryInterface"));
+    EXPECT_EQ(kAdapterAText, call("WlanQueryInterface")["interface"]);
+}
+
+TEST_F(PreferenceOrderTest, OpensTheClientWhenItIsNotOpen)
+{
+    ForgetClient();
+    EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
+    EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
+}
+
+TEST_F(PreferenceOrderTest, Failures)
+{
+    const char* const name = "SetCurrentWiFiToLast";
+    CheckFailures(*this, {{name, MoveToLast, "WlanOpenHandle", -1, {kOpenFailed}, TraceBuffer::local},
+                          {name, MoveToLast, "WlanEnumInterfaces", 5, {kEnumFailed}, TraceBuffer::local},
+                          {name, MoveToLast, "WlanGetProfileList", 5, {kProfilesFailed}, TraceBuffer::local},
+                          {name, MoveToLast, "WlanQueryInterface", 5, {kQueryFailed}, TraceBuffer::local},
+                          {name, MoveToLast, "WlanSetProfilePosition", 5, {kMoveFailed}, TraceBuffer::local},
+                          {.method = "SetCurrentWiFiToLast, not connected",
+                           .call = MoveToLast,
+                           .expected = 5023,
+                           .traced = {kNotConnected},
+                           .buffer = TraceBuffer::local,
+                           .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
+}
+
+// Deliberate: no adapter reads as success.
+TEST_F(PreferenceOrderTest, WithoutAnAdapterThereIsNothingToDo)
+{
+    CheckFailures(*this, {{.method = "SetCurrentWiFiToLast",
+                           .call = MoveToLast,
+                           .expected = 0,
+                           .traced = {kNoAdapterText},
+                           .buffer = TraceBuffer::local,
+                           .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }}});
+}
+
+TEST_F(PreferenceOrderTest, AFailedMoveMovesNothing)
+{
+    FailOn("WlanSetProfilePosition", 1168);
+    EXPECT_EQ(1168, manager().SetCurrentWiFiToLast());
+    EXPECT_EQ(L"HomeNet", Order().front());
+}
+
+TEST_F(PreferenceOrderTest, WhatComesWithAnErrorIsReleased)
+{
+    for (const char* operation : {"WlanEnumInterfaces", "WlanGetProfileList", "WlanQueryInterface"})
+    {
+        const AlteredAnswers altered({.failingBesideAnswer = operation});
+        EXPECT_EQ(5, manager().SetCurrentWiFiToLast()) << operation;
+        ExpectNothingHeld();
+    }
+}
+
+TEST_F(PreferenceOrderTest, NeedsNoMemoryOfItsOwn)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, manager().SetCurrentWiFiToLast()); }));
+}
+
+} // namespace calvix::test

@@ -1,0 +1,451 @@
+#include "support/contract_table.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
+#include "support/strict_copy_guard.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+#include <string>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+constexpr const char* kReadFailed = "WlanGetProfile failed with error: %u";
+constexpr const char* kConnectFailed = "WlanConnect failed with error: %u";
+
+const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
+
+std::string BssLine(const std::string& ssid, const std::string& bssType, const std::string& secured)
+{
+    return "WlanGetNetworkBssList" + kStart + ", ssid=" + ssid + ", bssType=" + bssType +
+           ", securityEnabled=" + secured + ", reserved=null, list=non-null)";
+}
+
+std::string ConnectLine(const std::string& profile, const std::string& bssids, const std::string& bssType)
+{
+    return "WlanConnect" + kStart + ", parameters={mode=profile, profile=\"" + profile +
+           "\", ssid=null, bssids=" + bssids + ", bssType=" + bssType + ", flags=0}, reserved=null)";
+}
+
+template <typename Record>
+bool IsZero(const Record& record)
+{
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(&record);
+    return std::all_of(bytes, bytes + sizeof record, [](unsigned char byte) { return byte == 0; });
+}
+
+WLAN_CONNECTION_NOTIFICATION_DATA HomeNetNotification()
+{
+    WLAN_CONNECTION_NOTIFICATION_DATA data{};
+    data.wlanConnectionMode = wlan_connection_mode_profile;
+    std::copy_n(L"HomeNet", 8, data.strProfileName);
+    data.dot11Ssid = MakeSsid("HomeNet");
+    data.dot11BssType = dot11_BSS_type_infrastructure;
+    data.bSecurityEnabled = TRUE;
+    data.wlanReasonCode = 7;
+    data.dwFlags = 9;
+    data.strProfileXml[0] = L'<';
+    return data;
+}
+
+simulation::Scenario ConnectedBy(const std::string& profile, const simulation::MacAddress& accessPoint)
+{
+    simulation::Scenario world = RichWorld();
+    world.adapters[0].connection = simulation::Connection{profile, accessPoint};
+    return world;
+}
+
+class SavedConnectionTest : public LibraryTest
+{
+public:
+    WLAN_CONNECTION_ATTRIBUTES& Saved() { return ManagerInternals::SavedConnection(manager()); }
+    WLAN_CONNECTION_NOTIFICATION_DATA& SavedNotification() { return ManagerInternals::SavedNotification(manager()); }
+    int& SavedMode() { return ManagerInternals::SavedAutoConnMode(manager()); }
+};
+
+using SavedConnectionDeathTest = SavedConnectionTest;
+
+long long Save(CWirelessManage& manager)
+{
+    return manager.SaveCurrentConnectionAttributes(&kAdapterA);
+}
+
+/// Saving, where it has to leave everything alone.
+long long SaveNothing(CWirelessManage& manager)
+{
+    const long long code = Save(manager);
+    EXPECT_TRUE(IsZero(ManagerInternals::SavedConnection(manager)));
+    EXPECT_EQ(1, ManagerInternals::SavedAutoConnMode(manager));
+    return code;
+}
+
+/// Saving, where the profile cannot be read.
+long long SaveHalf(CWirelessManage& manager)
+{
+    ManagerInternals::SavedAutoConnMode(manager) = 0;
+    const long long code = Save(manager);
+    EXPECT_EQ(std::wstring(L"HomeNet"), ManagerInternals::SavedConnection(manager).strProfileName);
+    EXPECT_EQ(0, ManagerInternals::SavedAutoConnMode(manager)) << "it keeps its former value";
+    return code;
+}
+
+long long Recover(CWirelessManage& manager)
+{
+    return manager.RecoverConnetionAttributes(&kAdapterA);
+}
+
+long long RecoverNotification(CWirelessManage& manager)
+{
+    return manager.RecoverConnNotificationData(&kAdapterA);
+}
+
+void SaveFirst(LibraryTest& test)
+{
+    EXPECT_EQ(0, Save(test.manager()));
+}
+
+void SaveNotificationFirst(LibraryTest& test)
+{
+    auto data = HomeNetNotification();
+    test.manager().SaveConnNotificationData(&data);
+}
+
+} // namespace
+
+// --- SaveCurrentConnectionAttributes ----------------------------------------------------------------------------
+
+TEST_F(SavedConnectionTest, TheMemoryIsEmptyAtFirst)
+{
+    EXPECT_TRUE(IsZero(Saved()));
+    EXPECT_TRUE(IsZero(SavedNotification()));
+    EXPECT_EQ(1, SavedMode());
+}
+
+TEST_F(SavedConnectionTest, SavesTheWholeRecordAndTheProfilesMode)
+{
+    SavedMode() = 0;
+    EXPECT_EQ(0, Save(manager()));
+    EXPECT_THAT(callLines(),
+                ElementsAre("WlanQueryInterface" + kStart +
+                                ", opcode=current_connection, reserved=null, "
+                                "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, valueType=null)",
+                            "WlanGetProfile" + kStart +
+                                ", name=\"HomeNet\", reserved=null, xml=non-null, flags=4, grantedAccess=131073)",
+                            kRelease, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_EQ(1, SavedMode());
+
+    WLAN_CONNECTION_ATTRIBUTES current{};
+    EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &current));
+    EXPECT_EQ(std::wstring(L"HomeNet"), current.strProfileName);
+    EXPECT_EQ(0, std::memcmp(&current, &Saved(), sizeof current));
+}
+
+TEST_F(SavedConnectionTest, CopiesAsManyBytesAsTheServiceReturned)
+{
+    constexpr DWORD stated = offsetof(WLAN_CONNECTION_ATTRIBUTES, wlanAssociationAttributes);
+    std::memset(&Saved(), 0x5A, sizeof Saved());
+    const AlteredAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = stated; }});
+    EXPECT_EQ(0, Save(manager()));
+    EXPECT_EQ(std::wstring(L"HomeNet"), Saved().strProfileName);
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(&Saved());
+    EXPECT_TRUE(std::all_of(bytes + stated, bytes + sizeof Saved(), [](unsigned char byte) { return byte == 0x5A; }));
+}
+
+TEST_F(SavedConnectionTest, TheModeOfAManualProfileIsZero)
+{
+    UseWorld(ConnectedBy("OfficeNet", kOfficeNet));
+    EXPECT_EQ(0, Save(manager()));
+    EXPECT_EQ(std::wstring(L"OfficeNet"), Saved().strProfileName);
+    EXPECT_EQ(0, SavedMode());
+}
+
+TEST_F(SavedConnectionTest, AnythingButAutoIsNotAutomatic)
+{
+    for (const wchar_t* text : {L"", L"<connectionMode>Auto</connectionMode>", L"auto</connectionMode>",
+                                L"<connectionMode> auto</connectionMode>"})
+    {
+        EditedAnswers edited;
+        edited.service.SetProfileText(L"HomeNet", text);
+        SavedMode() = 1;
+        EXPECT_EQ(0, Save(manager()));
+        EXPECT_EQ(0, SavedMode());
+    }
+}
+
+TEST_F(SavedConnectionTest, EachSaveOverwritesTheOneBefore)
+{
+    simulation::Scenario world = RichWorld();
+    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseWorld(world);
+    EXPECT_EQ(0, Save(manager()));
+    EXPECT_EQ(0, manager().SaveCurrentConnectionAttributes(&kAdapterB));
+    EXPECT_EQ(std::wstring(L"CafeNet"), Saved().strProfileName);
+    EXPECT_EQ(0, SavedMode());
+    EXPECT_EQ(0, Save(manager()));
+    EXPECT_EQ(std::wstring(L"HomeNet"), Saved().strProfileName);
+    EXPECT_EQ(1, SavedMode());
+}
+
+TEST_F(SavedConnectionTest, SavingFailures)
+{
+    const char* const name = "SaveCurrentConnectionAttributes";
+    CheckFailures(*this, {{name, SaveNothing, "WlanOpenHandle", -1, {kOpenFailed}, TraceBuffer::local},
+                          {name, SaveNothing, "WlanQueryInterface", -4, {kQueryFailed}, TraceBuffer::local},
+                          {name, SaveHalf, "WlanGetProfile", -5, {kReadFailed}, TraceBuffer::local},
+                          {.method = "SaveCurrentConnectionAttributes, not connected",
+                           .call = SaveNothing,
+                           .expected = -4,
+                           .traced = {kNotConnected},
+                           .buffer = TraceBuffer::local,
+                           .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
+}
+
+TEST_F(SavedConnectionTest, AFailingQueryKeepsWhatWasSaved)
+{
+    EXPECT_EQ(0, Save(manager()));
+    SavedMode() = 0;
+    manager().Disconnect(&kAdapterA);
+    EXPECT_EQ(-4, Save(manager()));
+    EXPECT_EQ(std::wstring(L"HomeNet"), Saved().strProfileName);
+    EXPECT_EQ(0, SavedMode());
+}
+
+// Deliberate: the record is the new one, the mode is the former one.
+TEST_F(SavedConnectionTest, AProfileDeletedMeanwhileIsSavedHalf)
+{
+    EditedAnswers edited;
+    edited.service.currentConnection = [](WLAN_CONNECTION_ATTRIBUTES& connection)
+    { std::copy_n(L"Deleted", 8, connection.strProfileName); };
+    EXPECT_EQ(-5, Save(manager()));
+    EXPECT_THAT(traced(), ElementsAre("WlanGetProfile failed with error: 1168"));
+    EXPECT_EQ(std::wstring(L"Deleted"), Saved().strProfileName);
+    EXPECT_EQ(1, SavedMode());
+}
+
+TEST_F(SavedConnectionTest, WhatComesWithAnErrorIsReleased)
+{
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
+    EXPECT_EQ(-4, SaveNothing(manager()));
+    ExpectNothingHeld();
+}
+
+// --- RecoverConnetionAttributes ---------------------------------------------------------------------------------
+
+TEST_F(SavedConnectionTest, RecoversTheSavedConnection)
+{
+    EXPECT_EQ(0, Save(manager()));
+    EXPECT_EQ(0, manager().Disconnect(&kAdapterA));
+    ClearCalls();
+    EXPECT_EQ(0, Recover(manager()));
+    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"HomeNet\"/7", "infrastructure", "true"),
+                                         ConnectLine("HomeNet", "null", "infrastructure"), kRelease))
+        << "the service chooses the access point";
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    Advance(std::chrono::seconds(5));
+    EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
+}
+
+TEST_F(SavedConnectionTest, RecoversWithTheSavedBssTypeAndSecurity)
+{
+    UseWorld(ConnectedBy("AdHocNet", kAdHocNet));
+    EXPECT_EQ(0, Save(manager()));
+    SavedMode() = 1;
+    ClearCalls();
+    EXPECT_EQ(0, Recover(manager()));
+    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"AdHocNet\"/8", "independent", "false"),
+                                         ConnectLine("AdHocNet", "null", "independent"), kRelease));
+}
+
+TEST_F(SavedConnectionTest, RecoveringOnlyReadsTheMemory)
+{
+    EXPECT_EQ(0, Save(manager()));
+    const WLAN_CONNECTION_ATTRIBUTES before = Saved();
+    EXPECT_EQ(0, Recover(manager()));
+    EXPECT_EQ(0, Recover(manager()));
+    EXPECT_EQ(0, std::memcmp(&before, &Saved(), sizeof before));
+    EXPECT_EQ(1, SavedMode());
+}
+
+TEST_F(SavedConnectionTest, AManualConnectionIsNeverRecovered)
+{
+    UseWorld(ConnectedBy("OfficeNet", kOfficeNet));
+    EXPECT_EQ(0, Save(manager()));
+    ForgetClient();
+    EXPECT_EQ(-99, Recover(manager()));
+    EXPECT_EQ(-99, manager().RecoverConnetionAttributes(nullptr));
+    EXPECT_TRUE(timeline().empty()) << "no platform call, no trace";
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+// Deliberate: an empty memory is not told apart from a saved connection.
+TEST_F(SavedConnectionTest, AnEmptyMemoryAsksForTheEmptySsid)
+{
+    EXPECT_EQ(-5, Recover(manager()));
+    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"\"/0", "0", "false"), kRelease));
+    EXPECT_TRUE(traced().empty());
+
+    FailOn("WlanGetNetworkBssList", 87);
+    EXPECT_EQ(-4, Recover(manager())) << "a service that refuses such a question";
+}
+
+TEST_F(SavedConnectionTest, ASavedNetworkOutOfRangeIsNotRequested)
+{
+    EXPECT_EQ(0, Save(manager()));
+    EditedAnswers edited;
+    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
+    EXPECT_EQ(-5, Recover(manager()));
+    EXPECT_EQ(0u, callCount("WlanConnect"));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectNothingHeld();
+}
+
+TEST_F(SavedConnectionTest, RecoveringFailures)
+{
+    const auto row = [](const char* operation, int expected, const char* text)
+    {
+        return FailureRow{.method = "RecoverConnetionAttributes",
+                          .call = Recover,
+                          .failingOperation = operation,
+                          .expected = expected,
+                          .traced = {text},
+                          .buffer = TraceBuffer::local,
+                          .prepare = SaveFirst};
+    };
+    CheckFailures(*this, {row("WlanOpenHandle", -1, kOpenFailed), row("WlanGetNetworkBssList", -4, kBssFailed),
+                          row("WlanConnect", -6, kConnectFailed)});
+}
+
+// --- SaveConnNotificationData -----------------------------------------------------------------------------------
+
+TEST_F(SavedConnectionTest, SavesTheFixedPartOfANotification)
+{
+    struct
+    {
+        WLAN_CONNECTION_NOTIFICATION_DATA data = HomeNetNotification();
+        wchar_t restOfTheXml[16] = L"?xml ...";
+    } notification;
+    const auto before = notification.data;
+    manager().SaveConnNotificationData(&notification.data);
+    EXPECT_EQ(0, std::memcmp(&before, &SavedNotification(), sizeof before));
+    EXPECT_EQ(1, SavedMode()) << "its neighbour in the manager is not written over";
+    EXPECT_TRUE(IsZero(Saved()));
+    EXPECT_TRUE(timeline().empty()) << "no platform call, no trace";
+
+    const WLAN_CONNECTION_NOTIFICATION_DATA nothing{};
+    notification.data = nothing;
+    manager().SaveConnNotificationData(&notification.data);
+    EXPECT_TRUE(IsZero(SavedNotification()));
+}
+
+TEST_F(SavedConnectionTest, TheFixedPartEndsWithTheFirstCharacterOfTheXml)
+{
+    if constexpr (sizeof(wchar_t) != 2 || sizeof(unsigned long) != 4)
+        GTEST_SKIP() << "the size is that of Windows; here the platform's records have other sizes";
+    EXPECT_EQ(572u, sizeof(WLAN_CONNECTION_NOTIFICATION_DATA));
+}
+
+TEST_F(SavedConnectionTest, ANullNotificationEmptiesTheMemoryAndIsFatal)
+{
+    SaveNotificationFirst(*this);
+    ASSERT_FALSE(IsZero(SavedNotification()));
+    ExpectFatal([&] { manager().SaveConnNotificationData(nullptr); }, "SaveConnNotificationData");
+    EXPECT_TRUE(IsZero(SavedNotification()));
+    EXPECT_TRUE(timeline().empty());
+}
+
+TEST_F(SavedConnectionDeathTest, ANullNotificationEndsTheProcessVisibly)
+{
+    EXPECT_DEATH(manager().SaveConnNotificationData(nullptr), "SaveConnNotificationData");
+}
+
+// --- RecoverConnNotificationData --------------------------------------------------------------------------------
+
+TEST_F(SavedConnectionTest, ReconnectsWithTheSavedNotification)
+{
+    SaveNotificationFirst(*this);
+    EXPECT_EQ(0, RecoverNotification(manager()));
+    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"HomeNet\"/7", "infrastructure", "true"),
+                                         ConnectLine("HomeNet", "[02:11:00:00:24:06]", "infrastructure"), kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(SavedConnectionTest, TheAccessPointIsTheLastThatBeatsTheFirst)
+{
+    SaveNotificationFirst(*this);
+    EditedAnswers edited;
+    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned)
+    {
+        ASSERT_EQ(3u, list.dwNumberOfItems);
+        list.wlanBssEntries[0].uLinkQuality = 50;
+        list.wlanBssEntries[1].uLinkQuality = 90;
+        list.wlanBssEntries[2].uLinkQuality = 51;
+    };
+    EXPECT_EQ(0, RecoverNotification(manager()));
+    EXPECT_EQ(ConnectLine("HomeNet", "[02:11:00:00:60:01]", "infrastructure"), call("WlanConnect").Line());
+}
+
+TEST_F(SavedConnectionTest, TheSavedModeDoesNotMatterToNotifications)
+{
+    SaveNotificationFirst(*this);
+    SavedMode() = 0;
+    EXPECT_EQ(0, RecoverNotification(manager()));
+}
+
+// Deliberate: nothing checks that anything was saved.
+TEST_F(SavedConnectionTest, WithoutANotificationTheEmptySsidIsReconnected)
+{
+    EXPECT_EQ(-6, RecoverNotification(manager()));
+    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"\"/0", "0", "false"), kRelease));
+}
+
+TEST_F(SavedConnectionTest, ReconnectingFailures)
+{
+    const auto row = [](const char* operation, int expected, const char* text)
+    {
+        return FailureRow{.method = "RecoverConnNotificationData",
+                          .call = RecoverNotification,
+                          .failingOperation = operation,
+                          .expected = expected,
+                          .traced = {text},
+                          .buffer = TraceBuffer::local,
+                          .prepare = SaveNotificationFirst};
+    };
+    CheckFailures(*this, {row("WlanOpenHandle", -1, kOpenFailed), row("WlanGetNetworkBssList", -4, kBssFailed),
+                          row("WlanConnect", -6, kConnectFailed)});
+}
+
+TEST_F(SavedConnectionTest, NeedsNoMemoryOfItsOwn)
+{
+    auto data = HomeNetNotification();
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, Save(manager())); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, Recover(manager())); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().SaveConnNotificationData(&data); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, RecoverNotification(manager())); }));
+}
+
+TEST_F(SavedConnectionTest, TheMemoryIsTheInstances)
+{
+    EXPECT_EQ(0, Save(manager()));
+    SaveNotificationFirst(*this);
+    CWirelessManage::Delete();
+    ManagerInternals::Client() = nullptr;
+    CWirelessManage::Get();
+    EXPECT_TRUE(IsZero(Saved()));
+    EXPECT_TRUE(IsZero(SavedNotification()));
+    EXPECT_EQ(1, SavedMode());
+}
+
+} // namespace calvix::test

@@ -1,0 +1,134 @@
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <cstddef>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+class StatisticsTest : public LibraryTest
+{
+};
+
+/// The call of the failure table: it has to leave the record alone.
+long long Ask(CWirelessManage& manager)
+{
+    _WIFI_TXRX_COUNT count{7, 7, 7, 7};
+    const int code = manager.GetWlanStatistics(&kAdapterA, &count);
+    EXPECT_EQ(7u, count.ullTransmitted);
+    EXPECT_EQ(7u, count.ullSpare1);
+    EXPECT_EQ(7u, count.ullSpare2);
+    EXPECT_EQ(7u, count.ullReceived);
+    return code;
+}
+
+} // namespace
+
+// Hosts are compiled against this layout.
+TEST(StatisticsRecordTest, IsFourCountersOf64BitsInThisOrder)
+{
+    EXPECT_EQ(32u, sizeof(_WIFI_TXRX_COUNT));
+    EXPECT_EQ(0u, offsetof(_WIFI_TXRX_COUNT, ullTransmitted));
+    EXPECT_EQ(8u, offsetof(_WIFI_TXRX_COUNT, ullSpare1));
+    EXPECT_EQ(16u, offsetof(_WIFI_TXRX_COUNT, ullSpare2));
+    EXPECT_EQ(24u, offsetof(_WIFI_TXRX_COUNT, ullReceived));
+}
+
+// Deliberate: the two spare counters keep what the caller put in.
+TEST_F(StatisticsTest, WritesTheUnicastFramesOnly)
+{
+    _WIFI_TXRX_COUNT count{7, 7, 7, 7};
+    EXPECT_EQ(0, manager().GetWlanStatistics(&kAdapterA, &count));
+    EXPECT_EQ(1234u, count.ullTransmitted);
+    EXPECT_EQ(7u, count.ullSpare1);
+    EXPECT_EQ(7u, count.ullSpare2);
+    EXPECT_EQ(56789u, count.ullReceived);
+    EXPECT_THAT(callLines(), ElementsAre("WlanQueryInterface(client=1, interface=" + std::string(kAdapterAText) +
+                                             ", opcode=statistics, reserved=null, dataSize=sizeof(WLAN_STATISTICS), "
+                                             "data=non-null, valueType=null)",
+                                         kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(StatisticsTest, ReadsTheUnicastCountersAmongAllOthers)
+{
+    const auto fill = [](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+    {
+        auto& statistics = *static_cast<WLAN_STATISTICS*>(data);
+        statistics.ullFourWayHandshakeFailures = 11;
+        statistics.MacUcastCounters.ullTransmittedFrameCount = 0xFEDCBA9876543210;
+        statistics.MacUcastCounters.ullReceivedFrameCount = 0x0123456789ABCDEF;
+        statistics.MacMcastCounters.ullTransmittedFrameCount = 12;
+        statistics.MacMcastCounters.ullReceivedFrameCount = 13;
+        statistics.PhyCounters[0].ullTransmittedFrameCount = 14;
+        statistics.PhyCounters[0].ullReceivedFrameCount = 15;
+    };
+    const AlteredAnswers altered({.query = fill});
+    _WIFI_TXRX_COUNT count{};
+    EXPECT_EQ(0, manager().GetWlanStatistics(&kAdapterA, &count));
+    EXPECT_EQ(0xFEDCBA9876543210, count.ullTransmitted);
+    EXPECT_EQ(0x0123456789ABCDEFu, count.ullReceived);
+    EXPECT_EQ(0u, count.ullSpare1);
+    EXPECT_EQ(0u, count.ullSpare2);
+}
+
+TEST_F(StatisticsTest, NeedsNoConnection)
+{
+    _WIFI_TXRX_COUNT count{7, 7, 7, 7};
+    EXPECT_EQ(0, manager().GetWlanStatistics(&kAdapterB, &count));
+    EXPECT_EQ(0u, count.ullTransmitted);
+    EXPECT_EQ(0u, count.ullReceived);
+}
+
+TEST_F(StatisticsTest, EveryWayToFail)
+{
+    CheckFailures(*this, {{"GetWlanStatistics", Ask, "WlanOpenHandle", -1, {kOpenFailed}},
+                          {"GetWlanStatistics", Ask, "WlanQueryInterface", -4, {kQueryFailed}},
+                          {.method = "GetWlanStatistics, not supported",
+                           .call = Ask,
+                           .failingOperation = "WlanQueryInterface",
+                           .expected = -4,
+                           .traced = {"WlanQueryInterface failed with error: 50"},
+                           .error = 50}});
+}
+
+TEST_F(StatisticsTest, NullArguments)
+{
+    EXPECT_EQ(-13, manager().GetWlanStatistics(&kAdapterA, nullptr));
+    EXPECT_TRUE(calls().empty()) << "nowhere to write to";
+
+    _WIFI_TXRX_COUNT count{7, 7, 7, 7};
+    EXPECT_EQ(-4, manager().GetWlanStatistics(nullptr, &count));
+    EXPECT_EQ("WlanQueryInterface failed with error: 87", sharedTrace());
+}
+
+TEST_F(StatisticsTest, OpensTheClientWhenItIsNotOpen)
+{
+    ForgetClient();
+    _WIFI_TXRX_COUNT count{};
+    EXPECT_EQ(0, manager().GetWlanStatistics(&kAdapterA, &count));
+    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanQueryInterface", "WlanFreeMemory"));
+}
+
+TEST_F(StatisticsTest, WhatComesWithAnErrorIsReleased)
+{
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
+    EXPECT_EQ(-4, Ask(manager()));
+    ExpectNothingHeld();
+}
+
+TEST_F(StatisticsTest, NeedsNoMemoryOfItsOwn)
+{
+    _WIFI_TXRX_COUNT count{};
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetWlanStatistics(&kAdapterA, &count); }));
+}
+
+} // namespace calvix::test

@@ -1,0 +1,67 @@
+#include "core/connect_request.h"
+#include "support/library_test.h"
+
+#include <string>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+class ConnectRequestTest : public LibraryTest
+{
+public:
+    ConnectRequestTest() : LibraryTest(DisconnectedWorld()) {}
+
+    ErrorNumber Request(const wchar_t* profile, DOT11_BSS_TYPE type, DOT11_BSSID_LIST* desired = nullptr)
+    {
+        SharedTrace trace;
+        return RequestConnection(ManagerInternals::Client(), &kAdapterA, profile, type, desired, trace);
+    }
+};
+
+std::string ConnectCall(const std::string& parameters)
+{
+    return std::string("WlanConnect(client=1, interface=") + kAdapterAText + ", parameters={" + parameters +
+           "}, reserved=null)";
+}
+
+} // namespace
+
+TEST_F(ConnectRequestTest, AsksByProfileForAnyAccessPoint)
+{
+    EXPECT_EQ(0u, Request(L"HomeNet", dot11_BSS_type_infrastructure));
+    EXPECT_EQ(0u, Request(L"AdHocNet", dot11_BSS_type_independent));
+    EXPECT_THAT(callLines(), ElementsAre(ConnectCall("mode=profile, profile=\"HomeNet\", ssid=null, bssids=null, "
+                                                     "bssType=infrastructure, flags=0"),
+                                         ConnectCall("mode=profile, profile=\"AdHocNet\", ssid=null, bssids=null, "
+                                                     "bssType=independent, flags=0")));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(ConnectRequestTest, HandsTheDesiredAccessPointsOn)
+{
+    DOT11_BSSID_LIST desired{};
+    desired.uNumOfEntries = 1;
+    desired.uTotalNumOfEntries = 1;
+    std::copy(kHomeNet5.begin(), kHomeNet5.end(), desired.BSSIDs[0]);
+    EXPECT_EQ(0u, Request(L"HomeNet", dot11_BSS_type_infrastructure, &desired));
+    EXPECT_THAT(callLines(), ElementsAre(ConnectCall("mode=profile, profile=\"HomeNet\", ssid=null, "
+                                                     "bssids=[02:11:00:00:50:24], bssType=infrastructure, flags=0")));
+}
+
+TEST_F(ConnectRequestTest, ReturnsAndTracesTheServicesRefusal)
+{
+    EXPECT_EQ(1168u, Request(L"NoSuchNet", dot11_BSS_type_infrastructure));
+    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 1168"));
+    FailOn("WlanConnect", 0x80342002);
+    EXPECT_EQ(0x80342002u, Request(L"HomeNet", dot11_BSS_type_infrastructure));
+    EXPECT_EQ("WlanConnect failed with error: 2150899714", sharedTrace());
+    EXPECT_EQ(2u, callCount("WlanConnect")) << "a refused request is not repeated";
+}
+
+} // namespace calvix::test

@@ -1,0 +1,98 @@
+#include "core/strict_copy.h"
+
+#include "support/library_test.h"
+#include "support/strict_copy_guard.h"
+
+#include <cstring>
+
+namespace calvix::test
+{
+
+TEST(StrictCopyTest, CopiesWhatFits)
+{
+    char destination[5] = {'#', '#', '#', '#', '#'};
+    StrictCopy(destination, 4, "abcd", 4, "Method");
+    EXPECT_EQ("abcd#", std::string(destination, sizeof destination));
+    StrictCopy(destination, 4, "xy", 2, "Method");
+    EXPECT_EQ("xycd#", std::string(destination, sizeof destination));
+}
+
+TEST(StrictCopyTest, NothingToCopyIsNoError)
+{
+    char destination[] = "kept";
+    StrictCopy(destination, 4, nullptr, 0, "Method");
+    StrictCopy(nullptr, 0, nullptr, 0, "Method");
+    EXPECT_STREQ("kept", destination);
+}
+
+TEST(StrictCopyTest, NeverCutsAndNeverWritesOnAnError)
+{
+    char destination[] = "kept";
+    ExpectFatal([&] { StrictCopy(destination, 4, "abcde", 5, "Method"); }, "Method");
+    ExpectFatal([&] { StrictCopy(destination, 4, nullptr, 1, "Method"); }, "null source");
+    ExpectFatal([&] { StrictCopy(nullptr, 4, "abcd", 4, "Method"); }, "null destination");
+    EXPECT_STREQ("kept", destination);
+}
+
+TEST(StrictCopyTest, TextNeedsRoomForItsTerminator)
+{
+    char destination[6] = "#####";
+    StrictCopyText(destination, 5, "Home", "Method");
+    EXPECT_STREQ("Home", destination);
+    ExpectFatal([&] { StrictCopyText(destination, 4, "Cafe", "Method"); }, "too small");
+    ExpectFatal([&] { StrictCopyText(destination, 0, "", "Method"); }, "too small");
+    ExpectFatal([&] { StrictCopyText(destination, -1, "", "Method"); }, "too small");
+    ExpectFatal([&] { StrictCopyText(destination, 5, nullptr, "Method"); }, "null source");
+    ExpectFatal([&] { StrictCopyText(nullptr, 5, "Home", "Method"); }, "null destination");
+    EXPECT_STREQ("Home", destination);
+}
+
+TEST(StrictCopyTest, TheMessageNamesTheMethodAndTheMistake)
+{
+    ExpectFatal([] { FatalCallerError("GetBSSID", "null source"); },
+                "calvix: fatal caller error in GetBSSID: null source\n");
+}
+
+TEST(StrictCopyTest, TheHandlerBeforeComesBack)
+{
+    const auto first = [](const char*) {};
+    const auto second = [](const char*) {};
+    const StrictCopyHandler original = SetStrictCopyHandler(first);
+    const StrictCopyHandler afterFirst = SetStrictCopyHandler(second);
+    const StrictCopyHandler afterSecond = SetStrictCopyHandler(nullptr);
+    EXPECT_EQ(static_cast<StrictCopyHandler>(first), afterFirst);
+    EXPECT_EQ(static_cast<StrictCopyHandler>(second), afterSecond);
+    EXPECT_EQ(original, SetStrictCopyHandler(original)) << "null brings the default back";
+}
+
+class StrictCopyDeathTest : public LibraryTest
+{
+protected:
+    void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+TEST_F(StrictCopyDeathTest, EndsTheProcessVisibly)
+{
+    EXPECT_DEATH(StrictCopy(nullptr, 0, "a", 1, "Method"), "calvix: fatal caller error in Method: null destination");
+}
+
+TEST_F(StrictCopyDeathTest, EndsTheProcessWhenAHandlerReturns)
+{
+    EXPECT_DEATH(
+        {
+            SetStrictCopyHandler([](const char* message) { std::fprintf(stderr, "handled %s", message); });
+            FatalCallerError("Method", "a mistake");
+        },
+        "handled calvix: fatal caller error in Method: a mistake");
+}
+
+TEST_F(StrictCopyDeathTest, TheConversionsEndTheProcess)
+{
+    char text[32];
+    const DOT11_SSID tooLong{65, {}};
+    EXPECT_DEATH(manager().GetBSSID(nullptr, text, 32), "GetBSSID: null source");
+    EXPECT_DEATH(manager().WideCharToChar(L"HomeNet", text, 7), "WideCharToChar: the destination is too small");
+    EXPECT_DEATH(manager().GetSSID(&tooLong, text, 32), "GetSSID: the SSID is longer than 64 bytes");
+}
+
+} // namespace calvix::test

@@ -1,0 +1,171 @@
+#include "core/trace.h"
+
+#include "support/library_test.h"
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+
+constexpr std::uint32_t kComplete = 0;
+constexpr std::uint32_t kTruncated = 0x8007007A;
+constexpr std::uint32_t kBadCapacity = 0x80070057;
+
+} // namespace
+
+class TraceTest : public LibraryTest
+{
+};
+
+// --- Formatting -------------------------------------------------------------------------------------------------
+
+TEST(FormatTraceTest, SaysWhetherTheTextFitted)
+{
+    const struct
+    {
+        std::size_t capacity;
+        std::uint32_t result;
+        const char* text;
+    } cases[] = {{7, kComplete, "HomeNe"}, // one character more than the text
+                 {6, kTruncated, "HomeN"},
+                 {2, kTruncated, "H"},
+                 {1, kTruncated, ""}};
+    for (const auto& each : cases)
+    {
+        SCOPED_TRACE(each.capacity);
+        char buffer[8] = {'#', '#', '#', '#', '#', '#', '#', '#'};
+        EXPECT_EQ(each.result, FormatTrace(buffer, each.capacity, "%sNe", "Home"));
+        EXPECT_STREQ(each.text, buffer);
+        EXPECT_EQ('#', buffer[each.capacity]) << "nothing is written past the capacity";
+
+        wchar_t wide[8] = {'#', '#', '#', '#', '#', '#', '#', '#'};
+        EXPECT_EQ(each.result, FormatTraceW(wide, each.capacity, L"%lsNe", L"Home"));
+        EXPECT_EQ(std::wstring(each.text, each.text + std::strlen(each.text)), wide);
+        EXPECT_EQ(L'#', wide[each.capacity]) << "nothing is written past the capacity";
+    }
+}
+
+TEST(FormatTraceTest, RefusesACapacityOfNothingAndWritesNothing)
+{
+    char buffer[] = "kept";
+    EXPECT_EQ(kBadCapacity, FormatTrace(buffer, 0, "%d", 1));
+    EXPECT_STREQ("kept", buffer);
+    wchar_t wide[] = L"kept";
+    EXPECT_EQ(kBadCapacity, FormatTraceW(wide, 0, L"%d", 1));
+    EXPECT_STREQ(L"kept", wide);
+}
+
+TEST(FormatTraceTest, RefusesACapacityBeyondTheLargestAndEmptiesTheText)
+{
+    char buffer[] = "gone";
+    EXPECT_EQ(kBadCapacity, FormatTrace(buffer, 0x80000000u, "%d", 1));
+    EXPECT_STREQ("", buffer);
+    wchar_t wide[] = L"gone";
+    EXPECT_EQ(kBadCapacity, FormatTraceW(wide, 0x80000000u, L"%d", 1));
+    EXPECT_STREQ(L"", wide);
+}
+
+TEST(FormatTraceTest, CutsALineAtTheSharedBuffersLastPlace)
+{
+    const std::string name(300, 'n');
+    EXPECT_EQ(kTruncated, FormatTrace(g_szTraceBuf, kSharedTraceCapacity, "%s", name.c_str()));
+    EXPECT_EQ(name.substr(0, 255), g_szTraceBuf);
+    EXPECT_EQ(kComplete, FormatTrace(g_szTraceBuf, kSharedTraceCapacity, "%s", name.substr(0, 255).c_str()));
+    EXPECT_EQ(255u, std::strlen(g_szTraceBuf));
+}
+
+TEST(FormatTraceTest, FormatsWideTextOfAnyLength)
+{
+    const std::wstring name(5000, L'\u6771');
+    std::vector<wchar_t> room(6001, L'#');
+    EXPECT_EQ(kComplete, FormatTraceW(room.data(), 6000, L"[%ls]", name.c_str()));
+    EXPECT_EQ(L"[" + name + L"]", room.data());
+    EXPECT_EQ(kTruncated, FormatTraceW(room.data(), 4, L"[%ls]", name.c_str()));
+    EXPECT_EQ(L"[\u6771\u6771", std::wstring(room.data()));
+}
+
+TEST(FormatTraceTest, FormatsAllThirtyTwoBitsOfAnErrorNumber)
+{
+    char buffer[64];
+    FormatTrace(buffer, sizeof buffer, "failed with error: %u", 0xFFFFFFFFu);
+    EXPECT_STREQ("failed with error: 4294967295", buffer);
+}
+
+TEST(TraceStateTest, TheSharedBufferHolds256Characters)
+{
+    EXPECT_EQ(256u, sizeof g_szTraceBuf);
+    EXPECT_EQ(1u, sizeof g_bTraceOn);
+}
+
+// --- Emitting ---------------------------------------------------------------------------------------------------
+
+TEST_F(TraceTest, EmitsTheLineAndThenALineBreak)
+{
+    EmitTrace("a line");
+    EXPECT_THAT(computer().DebuggerLines(), ElementsAre("a line", "\n"));
+    EXPECT_THAT(timeline(), ElementsAre("OutputDebugStringA(text=\"a line\")", "OutputDebugStringA(text=\"\\x0A\")"));
+}
+
+TEST_F(TraceTest, EmitsForEveryValueOfTheSwitchButZero)
+{
+    for (const int value : {1, 2, 255})
+    {
+        g_bTraceOn = static_cast<unsigned char>(value);
+        computer().ClearDebuggerLines();
+        EmitTrace("a line");
+        EXPECT_THAT(traced(), ElementsAre("a line")) << value;
+    }
+    g_bTraceOn = 0;
+    computer().ClearDebuggerLines();
+    EmitTrace("a line");
+    EXPECT_THAT(computer().DebuggerLines(), IsEmpty());
+}
+
+TEST_F(TraceTest, ALineIsFormattedInTheSharedBufferWithTracingOffToo)
+{
+    SetTracing(false);
+    SharedTrace trace;
+    trace.Line("%s has %d", "HomeNet", 3);
+    EXPECT_EQ("HomeNet has 3", sharedTrace());
+    EXPECT_THAT(computer().DebuggerLines(), IsEmpty());
+    SetTracing(true);
+    trace.Line("%s has %d", "CafeNet", 1);
+    EXPECT_THAT(traced(), ElementsAre("CafeNet has 1"));
+}
+
+TEST_F(TraceTest, ALocalLineLeavesTheSharedBufferAlone)
+{
+    LocalTrace<8> trace;
+    trace.Line("%s", "HomeNet5G");
+    EXPECT_THAT(traced(), ElementsAre("HomeNet"));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(TraceTest, AFixedMessageIsCutLikeALine)
+{
+    LocalTrace<9> trace;
+    trace.Message("No valid WLAN adapter");
+    EXPECT_THAT(traced(), ElementsAre("No valid"));
+    computer().ClearDebuggerLines();
+    SharedTrace shared;
+    shared.Message("100% %s %n");
+    EXPECT_EQ("100% %s %n", sharedTrace()) << "a message is no format";
+    EXPECT_THAT(traced(), ElementsAre("100% %s %n"));
+}
+
+TEST_F(TraceTest, OnlyAnErrorIsAFailure)
+{
+    SharedTrace trace;
+    EXPECT_FALSE(trace.Failed(0, "X failed with error: %u"));
+    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(traced(), IsEmpty());
+    EXPECT_TRUE(trace.Failed(2150899714, "X failed with error: %u"));
+    EXPECT_EQ("X failed with error: 2150899714", sharedTrace());
+    EXPECT_THAT(traced(), ElementsAre("X failed with error: 2150899714"));
+}
+
+} // namespace calvix::test

@@ -1,0 +1,265 @@
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+constexpr unsigned long kInfrastructure = 1;
+constexpr unsigned long kIndependent = 2;
+
+const std::string kListOfA = "WlanGetAvailableNetworkList(client=1, interface=" + std::string(kAdapterAText) +
+                             ", flags=0, reserved=null, list=non-null)";
+
+class NetworkLookupTest : public LibraryTest
+{
+public:
+    int Find(const std::string& ssid)
+    {
+        DOT11_SSID wanted = MakeSsid(ssid);
+        return manager().GetAP(&kAdapterA, &wanted);
+    }
+
+    long Explain(const std::string& ssid, unsigned long bssType = kInfrastructure)
+    {
+        DOT11_SSID wanted = MakeSsid(ssid);
+        return manager().GetNotConnectableReason(&kAdapterA, &wanted, bssType, m_connectable, m_reason);
+    }
+
+    bool OutputsUntouched() const { return m_connectable == 77 && m_reason == 78; }
+
+    int m_connectable = 77;
+    unsigned long m_reason = 78;
+};
+
+long long FindHomeNet(CWirelessManage& manager)
+{
+    DOT11_SSID wanted = MakeSsid("HomeNet");
+    return manager.GetAP(&kAdapterA, &wanted);
+}
+
+/// GetNotConnectableReason that has to leave its outputs alone.
+long long ExplainHomeNet(CWirelessManage& manager)
+{
+    DOT11_SSID wanted = MakeSsid("HomeNet");
+    int connectable = 77;
+    unsigned long reason = 78;
+    const long code = manager.GetNotConnectableReason(&kAdapterA, &wanted, kInfrastructure, connectable, reason);
+    EXPECT_EQ(77, connectable);
+    EXPECT_EQ(78u, reason);
+    return code;
+}
+
+void UseSilence(LibraryTest& test)
+{
+    test.UseWorld(SilentWorld());
+}
+
+} // namespace
+
+// --- GetAP ---
+
+TEST_F(NetworkLookupTest, FindsAVisibleNetworkBySsid)
+{
+    EXPECT_EQ(0, Find("HomeNet"));
+    EXPECT_THAT(callLines(), ElementsAre(kListOfA, kRelease));
+    EXPECT_THAT(traced(), ElementsAre(kNetworksReleased));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(NetworkLookupTest, FindsNetworksOfEveryKind)
+{
+    EXPECT_EQ(0, Find("HomeNet5G")) << "no profile is needed";
+    EXPECT_EQ(0, Find("AdHocNet"));
+    EXPECT_EQ(0, Find("CafeNet")) << "the last entry of the list";
+}
+
+TEST_F(NetworkLookupTest, ComparesLengthAndBytesOfTheSsid)
+{
+    EXPECT_EQ(-4, Find("Home"));
+    EXPECT_EQ(-4, Find("HomeNet5"));
+    EXPECT_EQ(-4, Find("homenet"));
+    EXPECT_EQ(-4, Find(std::string("HomeNet\0", 8))) << "a zero byte is a byte of the SSID";
+    EXPECT_EQ(-4, Find("GoneNet"));
+    EXPECT_EQ(-4, Find("HiddenNet")) << "its beacons do not tell the SSID";
+}
+
+TEST_F(NetworkLookupTest, NotFoundIsTracedWithTheReleaseOnly)
+{
+    EXPECT_EQ(-4, Find("GoneNet"));
+    EXPECT_THAT(traced(), ElementsAre(kNetworksReleased));
+
+    UseWorld(SilentWorld());
+    EXPECT_EQ(-4, Find("HomeNet"));
+    EXPECT_THAT(traced(), ElementsAre(kNetworksReleased));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+// Deliberate: a hidden network is listed with an empty SSID, and is not to be taken for a match.
+TEST_F(NetworkLookupTest, AnEmptySsidIsNeverFound)
+{
+    bool hasEmptySsid = false;
+    const auto look = [&](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
+            hasEmptySsid = hasEmptySsid || list.Network[i].dot11Ssid.uSSIDLength == 0;
+    };
+    const AlteredAnswers altered({.networks = look});
+    EXPECT_EQ(-4, Find(""));
+    EXPECT_TRUE(hasEmptySsid);
+    EXPECT_THAT(calls(), ElementsAre("WlanGetAvailableNetworkList", "WlanFreeMemory"));
+}
+
+TEST_F(NetworkLookupTest, ANullSsidIsNeverFound)
+{
+    EXPECT_EQ(-4, manager().GetAP(&kAdapterA, nullptr));
+}
+
+TEST_F(NetworkLookupTest, AnSsidOf32BytesIsFoundAndALongerOneIsNot)
+{
+    const std::string longest(32, 'x');
+    simulation::Scenario world = RichWorld();
+    world.accessPoints.push_back(MakeAccessPoint(longest, {2, 0x77, 0, 0, 0, 1}, 2412000, -60));
+    UseWorld(world);
+    EXPECT_EQ(0, Find(longest));
+
+    DOT11_SSID tooLong = MakeSsid(longest);
+    tooLong.uSSIDLength = 4000;
+    EXPECT_EQ(-4, manager().GetAP(&kAdapterA, &tooLong));
+}
+
+// --- GetNotConnectableReason ---
+
+TEST_F(NetworkLookupTest, TellsThatANetworkCanBeJoined)
+{
+    EXPECT_EQ(0, Explain("HomeNet"));
+    EXPECT_EQ(1, m_connectable);
+    EXPECT_EQ(0u, m_reason);
+    EXPECT_THAT(callLines(), ElementsAre(kListOfA, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(NetworkLookupTest, TellsTheServicesReason)
+{
+    const auto refuse = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
+        {
+            list.Network[i].bNetworkConnectable = FALSE;
+            list.Network[i].wlanNotConnectableReason = 0x30000 + i;
+        }
+    };
+    const AlteredAnswers altered({.networks = refuse});
+    EXPECT_EQ(0, Explain("OfficeNet"));
+    EXPECT_EQ(0, m_connectable);
+    EXPECT_EQ(0x30001u, m_reason) << "OfficeNet is the second network that was heard";
+}
+
+TEST_F(NetworkLookupTest, AnotherBssTypeIsAnotherNetwork)
+{
+    EXPECT_EQ(-6, Explain("HomeNet", kIndependent));
+    EXPECT_TRUE(OutputsUntouched());
+    EXPECT_EQ(-6, Explain("HomeNet", 3)) << "not even any type";
+    EXPECT_TRUE(OutputsUntouched());
+    EXPECT_EQ(0, Explain("AdHocNet", kIndependent));
+    EXPECT_EQ(1, m_connectable);
+}
+
+TEST_F(NetworkLookupTest, AnotherSsidIsAnotherNetwork)
+{
+    for (const char* ssid : {"Home", "HomeNet5", "homenet", "GoneNet", "HiddenNet"})
+    {
+        EXPECT_EQ(-6, Explain(ssid)) << ssid;
+        EXPECT_TRUE(OutputsUntouched()) << ssid;
+    }
+    EXPECT_TRUE(traced().empty()) << "not found is not traced";
+}
+
+TEST_F(NetworkLookupTest, TheFirstMatchingEntryCounts)
+{
+    const auto twins = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
+        {
+            list.Network[i].dot11Ssid = MakeSsid("Twin");
+            list.Network[i].dot11BssType = i == 0 ? dot11_BSS_type_independent : dot11_BSS_type_infrastructure;
+            list.Network[i].bNetworkConnectable = i == 1 ? TRUE : FALSE;
+            list.Network[i].wlanNotConnectableReason = i;
+        }
+    };
+    const AlteredAnswers altered({.networks = twins});
+    EXPECT_EQ(0, Explain("Twin"));
+    EXPECT_EQ(1, m_connectable);
+    EXPECT_EQ(1u, m_reason);
+}
+
+// Unlike GetAP, deliberately.
+TEST_F(NetworkLookupTest, AnEmptySsidIsTheHiddenNetworks)
+{
+    EXPECT_EQ(0, Explain(""));
+    EXPECT_FALSE(OutputsUntouched());
+}
+
+TEST_F(NetworkLookupTest, ANullSsidIsRefusedBeforeTheServiceIsAsked)
+{
+    EXPECT_EQ(-14, manager().GetNotConnectableReason(&kAdapterA, nullptr, kInfrastructure, m_connectable, m_reason));
+    EXPECT_TRUE(OutputsUntouched());
+    EXPECT_TRUE(calls().empty());
+}
+
+// --- Failures ---
+
+TEST_F(NetworkLookupTest, EveryWayToFail)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(
+        *this,
+        {
+            {"GetAP", FindHomeNet, "WlanOpenHandle", -1, {kOpenFailed}, local},
+            {"GetAP", FindHomeNet, "WlanGetAvailableNetworkList", -3, {kNetworksFailed}, local},
+            {"GetNotConnectableReason", ExplainHomeNet, "WlanOpenHandle", -1, {kOpenFailed}, local},
+            {"GetNotConnectableReason", ExplainHomeNet, "WlanGetAvailableNetworkList", -4, {kNetworksFailed}, local},
+            {.method = "GetNotConnectableReason",
+             .call = ExplainHomeNet,
+             .expected = -5,
+             .buffer = local,
+             .prepare = UseSilence},
+        });
+}
+
+TEST_F(NetworkLookupTest, ListsThatComeWithAnErrorAreReleased)
+{
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanGetAvailableNetworkList"});
+    EXPECT_EQ(-3, Find("HomeNet"));
+    EXPECT_THAT(traced(), ElementsAre("WlanGetAvailableNetworkList failed with error: 5", kNetworksReleased));
+    EXPECT_EQ(-4, Explain("HomeNet"));
+    ExpectNothingHeld();
+}
+
+TEST_F(NetworkLookupTest, ANullInterfaceIsTheServicesToRefuse)
+{
+    DOT11_SSID wanted = MakeSsid("HomeNet");
+    EXPECT_EQ(-3, manager().GetAP(nullptr, &wanted));
+    EXPECT_EQ(-4, manager().GetNotConnectableReason(nullptr, &wanted, kInfrastructure, m_connectable, m_reason));
+    EXPECT_THAT(traced(), ElementsAre("WlanGetAvailableNetworkList failed with error: 87",
+                                      "WlanGetAvailableNetworkList failed with error: 87"));
+}
+
+TEST_F(NetworkLookupTest, NeedsNoMemoryOfItsOwn)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { FindHomeNet(manager()); }));
+    DOT11_SSID wanted = MakeSsid("HomeNet");
+    EXPECT_EQ(
+        0u,
+        CountLibraryAllocations(
+            [&] { manager().GetNotConnectableReason(&kAdapterA, &wanted, kInfrastructure, m_connectable, m_reason); }));
+}
+
+} // namespace calvix::test

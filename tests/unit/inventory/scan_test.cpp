@@ -1,0 +1,143 @@
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+class ScanTest : public LibraryTest
+{
+};
+
+const std::string kScanOfA = std::string("interface=") + kAdapterAText + ", ssid=null, ieData=null, reserved=null)";
+
+/// Rescan(GUID, dwError) that has to store the error.
+long long RescanStoring(CWirelessManage& manager, unsigned long error)
+{
+    unsigned long stored = 77;
+    const int code = manager.Rescan(&kAdapterA, stored);
+    EXPECT_EQ(error, stored);
+    return code;
+}
+
+long long RescanFirst(CWirelessManage& manager)
+{
+    return manager.Rescan();
+}
+
+} // namespace
+
+TEST_F(ScanTest, AsksTheNamedAdapterForAWholeScan)
+{
+    unsigned long error = 77;
+    EXPECT_EQ(0, manager().Rescan(&kAdapterB, error));
+    EXPECT_EQ(77u, error) << "success leaves the error alone";
+    EXPECT_THAT(callLines(), ElementsAre("WlanScan(client=1, interface=" + std::string(kAdapterBText) +
+                                         ", ssid=null, ieData=null, reserved=null)"));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(ScanTest, WithoutAnInterfaceAsksTheFirstAdapterOnly)
+{
+    EXPECT_EQ(0, manager().Rescan());
+    EXPECT_THAT(callLines(), ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
+                                         "WlanScan(client=1, " + kScanOfA, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(ScanTest, ReturnsBeforeTheScanIsDone)
+{
+    computer().air().clear();
+    EXPECT_EQ(0, manager().Rescan());
+    EXPECT_EQ(std::chrono::milliseconds(0), computer().Now());
+    EXPECT_EQ(8, manager().GetNetworkBssCount()) << "still what the scan before heard";
+
+    Advance(std::chrono::seconds(4));
+    EXPECT_EQ(0, manager().GetNetworkBssCount());
+}
+
+TEST_F(ScanTest, OpensTheClientWhenItIsNotOpen)
+{
+    ForgetClient();
+    unsigned long error = 77;
+    EXPECT_EQ(0, manager().Rescan(&kAdapterA, error));
+    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanScan"));
+    EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
+
+    ForgetClient();
+    EXPECT_EQ(0, manager().Rescan());
+    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanEnumInterfaces", "WlanScan", "WlanFreeMemory"));
+    EXPECT_NE(nullptr, ManagerInternals::Client()) << "the handle stays open";
+}
+
+TEST_F(ScanTest, EveryWayToFail)
+{
+    const auto stores5 = [](auto& m) { return RescanStoring(m, 5); };
+    const auto storesPowerState = [](auto& m) { return RescanStoring(m, 2150899714); };
+    CheckFailures(*this,
+                  {
+                      {"Rescan(guid)", stores5, "WlanOpenHandle", -1, {kOpenFailed}},
+                      {"Rescan(guid)", stores5, "WlanScan", -4, {kScanFailed}},
+                      {.method = "Rescan(guid)",
+                       .call = storesPowerState,
+                       .failingOperation = "WlanScan",
+                       .expected = -4,
+                       .traced = {"WlanScan failed with error: 2150899714"},
+                       .error = 2150899714},
+                      {"Rescan()", RescanFirst, "WlanOpenHandle", -1, {kOpenFailed}},
+                      {"Rescan()", RescanFirst, "WlanEnumInterfaces", -2, {kEnumFailed}},
+                      {"Rescan()", RescanFirst, "WlanScan", -4, {kScanFailed}},
+                      {.method = "Rescan()",
+                       .call = RescanFirst,
+                       .expected = -3,
+                       .traced = {kNoAdapterText},
+                       .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }},
+                  });
+}
+
+TEST_F(ScanTest, PassesOnWhatTheServiceSays)
+{
+    computer().SetLocationConsent(false);
+    unsigned long error = 0;
+    EXPECT_EQ(-4, manager().Rescan(&kAdapterA, error));
+    EXPECT_EQ(5u, error) << "access denied, for want of location consent";
+
+    EXPECT_EQ(-4, manager().Rescan(&kNoAdapter, error));
+    EXPECT_EQ(87u, error) << "there is no such interface";
+
+    EXPECT_EQ(-4, manager().Rescan(nullptr, error));
+    EXPECT_EQ(87u, error) << "a null interface is refused by the service";
+    EXPECT_EQ("WlanScan failed with error: 87", sharedTrace());
+}
+
+TEST_F(ScanTest, DoesNotGoOnToTheSecondAdapterWhenTheFirstRefuses)
+{
+    FailOn("WlanScan", 5);
+    EXPECT_EQ(-4, manager().Rescan());
+    EXPECT_EQ(1u, callCount("WlanScan"));
+    EXPECT_EQ(kAdapterAText, call("WlanScan")["interface"]);
+}
+
+TEST_F(ScanTest, ReleasesAListThatCameWithAnError)
+{
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanEnumInterfaces"});
+    EXPECT_EQ(-2, manager().Rescan());
+    ExpectNothingHeld();
+}
+
+TEST_F(ScanTest, NeedsNoMemoryOfItsOwn)
+{
+    unsigned long error = 0;
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().Rescan(&kAdapterA, error); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().Rescan(); }));
+}
+
+} // namespace calvix::test

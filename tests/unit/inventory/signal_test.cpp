@@ -1,0 +1,452 @@
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <algorithm>
+#include <climits>
+#include <iterator>
+#include <map>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+const std::string kA = kAdapterAText;
+const std::string kConnectionQuery =
+    "WlanQueryInterface(client=1, interface=" + kA +
+    ", opcode=current_connection, reserved=null, dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, "
+    "valueType=null)";
+
+class SignalTest : public LibraryTest
+{
+public:
+    int WiFiRssi(const std::string& ssid)
+    {
+        DOT11_SSID wanted = MakeSsid(ssid);
+        return manager().GetWiFiRSSI(&kAdapterA, wanted);
+    }
+
+    void ExpectChannels(const std::map<unsigned long, unsigned long>& channelOf)
+    {
+        for (const auto& [frequency, channel] : channelOf)
+            EXPECT_EQ(channel, manager().GetChannel(frequency)) << "frequency " << frequency;
+    }
+};
+
+/// GetRssi and GetCurrentRSSI that have to leave their output alone.
+long long Rssi(CWirelessManage& manager)
+{
+    int rssi = 77;
+    const int code = manager.GetRssi(&kAdapterA, rssi);
+    EXPECT_EQ(77, rssi);
+    return code;
+}
+
+long long CurrentRssi(CWirelessManage& manager)
+{
+    int rssi = 77;
+    const int code = manager.GetCurrentRSSI(&kAdapterA, rssi);
+    EXPECT_EQ(77, rssi);
+    return code;
+}
+
+long long HomeNetRssi(CWirelessManage& manager)
+{
+    DOT11_SSID wanted = MakeSsid("HomeNet");
+    return manager.GetWiFiRSSI(&kAdapterA, wanted);
+}
+
+long long Quality(CWirelessManage& manager)
+{
+    return manager.GetSignalQuality(&kAdapterA);
+}
+
+void UseNoConnection(LibraryTest& test)
+{
+    test.UseWorld(DisconnectedWorld());
+}
+
+/// Adapter A still connected to HomeNet, after a scan that did not hear what is gone.
+template <typename Predicate>
+void Lose(LibraryTest& test, Predicate gone)
+{
+    std::erase_if(test.computer().air(), gone);
+    test.manager().Rescan();
+    test.Advance(std::chrono::seconds(4));
+    test.ClearCalls();
+}
+
+void LoseEverything(LibraryTest& test)
+{
+    Lose(test, [](const auto&) { return true; });
+}
+
+void LoseTheConnectedAccessPoint(LibraryTest& test)
+{
+    Lose(test, [](const auto& point) { return point.bssid == kHomeNet24; });
+}
+
+AnswerChanges WithFirstQuality(ULONG quality)
+{
+    return {.networks = [quality](WLAN_AVAILABLE_NETWORK_LIST& list) { list.Network[0].wlanSignalQuality = quality; }};
+}
+
+} // namespace
+
+// --- GetChannel ---
+
+// Deliberate: one below the customary channel number.
+TEST_F(SignalTest, ChannelsOfTheLowBandCountFromZero)
+{
+    const unsigned long frequencies[] = {2412, 2417, 2422, 2427, 2432, 2437, 2442,
+                                         2447, 2452, 2457, 2462, 2467, 2472, 2484};
+    unsigned long channel = 0;
+    for (const unsigned long frequency : frequencies)
+        EXPECT_EQ(channel++, manager().GetChannel(frequency)) << frequency << " MHz";
+    EXPECT_TRUE(timeline().empty()) << "no operation is needed";
+}
+
+TEST_F(SignalTest, NoChannelOfTheLowBandIs14)
+{
+    for (const unsigned long frequency : {0UL, 1UL, 1000UL, 2400UL, 2411UL, 2413UL, 2483UL})
+        EXPECT_EQ(14u, manager().GetChannel(frequency)) << frequency << " MHz";
+}
+
+// There is no rule of its own for 6 GHz, and between the bands the subtraction wraps, in 32 bits in either world.
+TEST_F(SignalTest, ChannelsAbove)
+{
+    ExpectChannels({{2485, 4294966993},
+                    {3995, 4294967295},
+                    {4000, 0},
+                    {4920, 184},
+                    {4995, 199},
+                    {4996, 200},
+                    {4999, 200},
+                    {5000, 0},
+                    {5180, 36},
+                    {5825, 165},
+                    {5955, 191},
+                    {7115, 423}});
+}
+
+TEST_F(SignalTest, FrequenciesInFinerUnits)
+{
+    ExpectChannels({{10000, 1000},
+                    {10001, 14},
+                    {24129, 0},
+                    {2412000, 0},
+                    {2484000, 13},
+                    {5180000, 36},
+                    {5955000, 191},
+                    {2437000000, 5}});
+}
+
+// --- GetSignalStrength ---
+
+TEST_F(SignalTest, StrengthIsLinearFromMinus100ToMinus50)
+{
+    struct
+    {
+        int rssi;
+        int strength;
+    } const rows[] = {{-100, 0},  {-99, 2}, {-75, 50},  {-70, 60}, {-51, 98}, {-50, 100},
+                      {-49, 100}, {0, 100}, {100, 100}, {-101, 0}, {-200, 0}, {-1000000, 0}};
+    for (const auto& row : rows)
+        EXPECT_EQ(row.strength, manager().GetSignalStrength(row.rssi)) << row.rssi << " dBm";
+    EXPECT_TRUE(timeline().empty()) << "no operation is needed";
+}
+
+// Twice such numbers is more than 32 bits hold; what is left of them counts.
+TEST_F(SignalTest, StrengthIsComputedIn32Bits)
+{
+    EXPECT_EQ(100, manager().GetSignalStrength(INT_MAX));
+    EXPECT_EQ(100, manager().GetSignalStrength(INT_MIN));
+    EXPECT_EQ(0, manager().GetSignalStrength(0x40000000));
+}
+
+// --- GetRssi ---
+
+TEST_F(SignalTest, RssiIsTheDrivers)
+{
+    int rssi = 77;
+    EXPECT_EQ(0, manager().GetRssi(&kAdapterA, rssi));
+    EXPECT_EQ(-50, rssi);
+    EXPECT_THAT(callLines(), ElementsAre("WlanQueryInterface(client=1, interface=" + kA +
+                                             ", opcode=rssi, reserved=null, dataSize=sizeof(LONG), data=non-null, "
+                                             "valueType=null)",
+                                         kRelease));
+    EXPECT_THAT(traced(), ElementsAre(kRssiReleased));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(SignalTest, RssiHasNoBounds)
+{
+    for (const int value : {-113, 0, 12})
+    {
+        const AlteredAnswers altered(
+            {.query = [value](WLAN_INTF_OPCODE, PVOID data, DWORD&) { *static_cast<LONG*>(data) = value; }});
+        int rssi = 77;
+        EXPECT_EQ(0, manager().GetRssi(&kAdapterA, rssi));
+        EXPECT_EQ(value, rssi);
+    }
+}
+
+TEST_F(SignalTest, EveryWayForRssiToFail)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this, {
+                             {"GetRssi", Rssi, "WlanOpenHandle", -1, {kOpenFailed}, local},
+                             {"GetRssi", Rssi, "WlanQueryInterface", -4, {kQueryFailed}, local},
+                             {.method = "GetRssi, not connected",
+                              .call = Rssi,
+                              .expected = -4,
+                              .traced = {kNotConnected},
+                              .buffer = local,
+                              .prepare = UseNoConnection},
+                         });
+}
+
+// --- GetCurrentRSSI ---
+
+TEST_F(SignalTest, CurrentRssiIsThatOfTheConnectedAccessPoint)
+{
+    int rssi = 77;
+    EXPECT_EQ(0, manager().GetCurrentRSSI(&kAdapterA, rssi));
+    EXPECT_EQ(-50, rssi);
+    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery,
+                                         "WlanGetNetworkBssList(client=1, interface=" + kA +
+                                             ", ssid=\"HomeNet\"/7, bssType=infrastructure, securityEnabled=true, "
+                                             "reserved=null, list=non-null)",
+                                         kRelease, kRelease));
+    EXPECT_THAT(traced(), ElementsAre(kConnectionReleased, kBssReleased));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(SignalTest, CurrentRssiFindsTheAccessPointByItsAddressNotItsPlace)
+{
+    simulation::Scenario world = RichWorld();
+    world.adapters[0].connection = simulation::Connection{"HomeNet", kHomeNet6};
+    UseWorld(world);
+    int rssi = 77;
+    EXPECT_EQ(0, manager().GetCurrentRSSI(&kAdapterA, rssi));
+    EXPECT_EQ(-70, rssi) << "the third of HomeNet's access points";
+}
+
+TEST_F(SignalTest, CurrentRssiComparesAllSixBytes)
+{
+    for (const int byte : {0, 5})
+    {
+        const AlteredAnswers altered(
+            {.bss = [byte](WLAN_BSS_LIST& list) { list.wlanBssEntries[0].dot11Bssid[byte] ^= 1; }});
+        EXPECT_EQ(-7, CurrentRssi(manager())) << "byte " << byte;
+    }
+}
+
+TEST_F(SignalTest, TheFirstEntryOfTheAccessPointCounts)
+{
+    const auto twins = [](WLAN_BSS_LIST& list)
+    {
+        ASSERT_EQ(3u, list.dwNumberOfItems);
+        for (LONG i = 0; i < 3; ++i)
+        {
+            if (i > 0)
+                std::copy(std::begin(kHomeNet24), std::end(kHomeNet24), list.wlanBssEntries[i].dot11Bssid);
+            else
+                list.wlanBssEntries[i].dot11Bssid[0] ^= 1;
+            list.wlanBssEntries[i].lRssi = -10 - i;
+        }
+    };
+    const AlteredAnswers altered({.bss = twins});
+    int rssi = 77;
+    EXPECT_EQ(0, manager().GetCurrentRSSI(&kAdapterA, rssi));
+    EXPECT_EQ(-11, rssi);
+}
+
+TEST_F(SignalTest, EveryWayForCurrentRssiToFail)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(
+        *this,
+        {
+            {"GetCurrentRSSI", CurrentRssi, "WlanOpenHandle", -1, {kOpenFailed}, local},
+            {"GetCurrentRSSI", CurrentRssi, "WlanQueryInterface", -4, {kQueryFailed}, local},
+            {.method = "GetCurrentRSSI, not connected",
+             .call = CurrentRssi,
+             .expected = -4,
+             .traced = {kNotConnected},
+             .buffer = local,
+             .prepare = UseNoConnection},
+            {"GetCurrentRSSI", CurrentRssi, "WlanGetNetworkBssList", -5, {kBssFailed, kConnectionReleased}, local},
+            {.method = "GetCurrentRSSI, nothing heard",
+             .call = CurrentRssi,
+             .expected = -6,
+             .traced = {kNoBss, kConnectionReleased, kBssReleased},
+             .buffer = local,
+             .prepare = LoseEverything},
+            {.method = "GetCurrentRSSI, access point gone",
+             .call = CurrentRssi,
+             .expected = -7,
+             .traced = {kConnectionReleased, kBssReleased},
+             .buffer = local,
+             .prepare = LoseTheConnectedAccessPoint},
+        });
+}
+
+// --- GetWiFiRSSI ---
+
+TEST_F(SignalTest, WiFiRssiIsEstimatedFromTheQuality)
+{
+    EXPECT_EQ(-50, WiFiRssi("HomeNet")) << "quality 100";
+    EXPECT_EQ(-65, WiFiRssi("OfficeNet")) << "quality 70";
+    EXPECT_THAT(callLines(), ElementsAre("WlanGetAvailableNetworkList(client=1, interface=" + kA +
+                                             ", flags=0, reserved=null, list=non-null)",
+                                         kRelease,
+                                         "WlanGetAvailableNetworkList(client=1, interface=" + kA +
+                                             ", flags=0, reserved=null, list=non-null)",
+                                         kRelease));
+    EXPECT_TRUE(traced().empty());
+}
+
+TEST_F(SignalTest, WiFiRssiHalvesTheQualityInWholeNumbers)
+{
+    struct
+    {
+        ULONG quality;
+        int rssi;
+    } const rows[] = {{0, -100}, {1, -100}, {2, -99}, {3, -99}, {50, -75}, {80, -60}, {98, -51}, {99, -51}, {100, -50}};
+    for (const auto& row : rows)
+    {
+        const AlteredAnswers altered(WithFirstQuality(row.quality));
+        EXPECT_EQ(row.rssi, WiFiRssi("HomeNet")) << "quality " << row.quality;
+    }
+}
+
+// Deliberate: only the bytes that were asked for are compared.
+TEST_F(SignalTest, WiFiRssiTakesTheFirstNetworkThatBeginsWithTheSsid)
+{
+    simulation::Scenario world = SilentWorld();
+    world.accessPoints = {MakeAccessPoint("HomeNet", kHomeNet24, 2437000, -60)};
+    UseWorld(world);
+    EXPECT_EQ(-60, WiFiRssi("Home"));
+    EXPECT_EQ(-100, WiFiRssi("HomeNet5G")) << "longer than the network's own";
+    EXPECT_EQ(-100, WiFiRssi("ome"));
+    EXPECT_EQ(-100, WiFiRssi("home"));
+
+    world.accessPoints = {MakeAccessPoint("HomeNet5G", kHomeNet5G, 5220000, -80),
+                          MakeAccessPoint("HomeNet", kHomeNet24, 2437000, -60)};
+    UseWorld(world);
+    EXPECT_EQ(-80, WiFiRssi("HomeNet")) << "the first in the list, though another one fits better";
+}
+
+// Deliberate: nothing to compare is equal to everything.
+TEST_F(SignalTest, WiFiRssiOfAnEmptySsidIsTheFirstNetworks)
+{
+    const AlteredAnswers altered(WithFirstQuality(40));
+    EXPECT_EQ(-80, WiFiRssi(""));
+}
+
+TEST_F(SignalTest, WiFiRssiOfAnSsidLongerThanCanBeIsTheFloor)
+{
+    DOT11_SSID tooLong = MakeSsid(std::string(32, 'x'));
+    tooLong.uSSIDLength = 4000;
+    EXPECT_EQ(-100, manager().GetWiFiRSSI(&kAdapterA, tooLong));
+}
+
+// Deliberate: after the handle is open, a failure answers like a network at the floor of the scale.
+TEST_F(SignalTest, WiFiRssiIsTheFloorWhenNothingIsKnown)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this,
+                  {
+                      {"GetWiFiRSSI", HomeNetRssi, "WlanOpenHandle", -1, {kOpenFailed}, local},
+                      {"GetWiFiRSSI", HomeNetRssi, "WlanGetAvailableNetworkList", -100, {kNetworksFailed}, local},
+                      {.method = "GetWiFiRSSI in silence",
+                       .call = HomeNetRssi,
+                       .expected = -100,
+                       .buffer = local,
+                       .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }},
+                  });
+    EXPECT_EQ(-100, WiFiRssi("GoneNet"));
+}
+
+// --- GetSignalQuality ---
+
+TEST_F(SignalTest, QualityIsThatOfTheConnection)
+{
+    EXPECT_EQ(100, manager().GetSignalQuality(&kAdapterA));
+    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(SignalTest, QualityIsGivenAsItIs)
+{
+    for (const int value : {0, 1, 73})
+    {
+        const auto change = [value](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+        {
+            static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.wlanSignalQuality =
+                static_cast<ULONG>(value);
+        };
+        const AlteredAnswers altered({.query = change});
+        EXPECT_EQ(value, manager().GetSignalQuality(&kAdapterA));
+    }
+}
+
+TEST_F(SignalTest, EveryWayForQualityToFail)
+{
+    CheckFailures(*this, {
+                             {"GetSignalQuality", Quality, "WlanOpenHandle", -1, {kOpenFailed}},
+                             {"GetSignalQuality", Quality, "WlanQueryInterface", -4, {kQueryFailed}},
+                             {.method = "GetSignalQuality, not connected",
+                              .call = Quality,
+                              .expected = -4,
+                              .traced = {kNotConnected},
+                              .prepare = UseNoConnection},
+                         });
+}
+
+// --- All ---
+
+TEST_F(SignalTest, ANullInterfaceIsTheServicesToRefuse)
+{
+    int rssi = 77;
+    DOT11_SSID ssid = MakeSsid("HomeNet");
+    EXPECT_EQ(-4, manager().GetRssi(nullptr, rssi));
+    EXPECT_EQ(-4, manager().GetCurrentRSSI(nullptr, rssi));
+    EXPECT_EQ(-100, manager().GetWiFiRSSI(nullptr, ssid));
+    EXPECT_EQ(-4, manager().GetSignalQuality(nullptr));
+    EXPECT_EQ(77, rssi);
+}
+
+TEST_F(SignalTest, WhatComesWithAnErrorIsReleased)
+{
+    const auto check = [this](const char* operation, auto ask, long long code)
+    {
+        const AlteredAnswers altered({.failingBesideAnswer = operation});
+        EXPECT_EQ(code, ask(manager())) << operation;
+        ExpectNothingHeld();
+    };
+    check("WlanQueryInterface", Rssi, -4);
+    check("WlanQueryInterface", CurrentRssi, -4);
+    check("WlanGetNetworkBssList", CurrentRssi, -5);
+    check("WlanGetAvailableNetworkList", HomeNetRssi, -100);
+    check("WlanQueryInterface", Quality, -4);
+}
+
+TEST_F(SignalTest, NeedsNoMemoryOfItsOwn)
+{
+    int rssi = 0;
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetRssi(&kAdapterA, rssi); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetCurrentRSSI(&kAdapterA, rssi); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { HomeNetRssi(manager()); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { Quality(manager()); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetChannel(2437000); }));
+}
+
+} // namespace calvix::test

@@ -1,0 +1,422 @@
+#include "support/allocation_counter.h"
+#include "support/contract_table.h"
+#include "support/library_test.h"
+#include "support/strict_copy_guard.h"
+
+#include <string>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+constexpr const char* kOpenFailed = "WlanOpenHandle failed with error: %u";
+constexpr const char* kListFailed = "WlanGetProfileList failed with error: %u";
+
+std::wstring Wide(const std::string& ascii)
+{
+    return {ascii.begin(), ascii.end()};
+}
+
+class ProfileListTest : public LibraryTest
+{
+public:
+    /// Names of adapter A's profiles as the service lists them now.
+    std::vector<std::wstring> StoredNames()
+    {
+        WLAN_PROFILE_INFO_LIST* list = nullptr;
+        EXPECT_EQ(0u, computer().wlan().WlanGetProfileList(ManagerInternals::Client(), &kAdapterA, nullptr, &list));
+        std::vector<std::wstring> names;
+        for (DWORD i = 0; list != nullptr && i < list->dwNumberOfItems; ++i)
+            names.emplace_back(list->ProfileInfo[i].strProfileName);
+        computer().wlan().WlanFreeMemory(list);
+        return names;
+    }
+
+    /// A disconnected adapter A with these profiles, all of the network HomeNet.
+    void UseProfiles(const std::vector<std::string>& names)
+    {
+        simulation::Scenario scenario = DisconnectedWorld();
+        scenario.adapters[0].profiles.clear();
+        for (const std::string& name : names)
+        {
+            simulation::ProfileSettings settings;
+            settings.name = name;
+            settings.ssid = {'H', 'o', 'm', 'e', 'N', 'e', 't'};
+            scenario.adapters[0].profiles.push_back({simulation::MakeProfileXml(settings)});
+        }
+        UseWorld(scenario);
+    }
+};
+
+class ProfileListDeathTest : public ProfileListTest
+{
+};
+
+FailureRow Row(const char* method,
+               std::function<long long(CWirelessManage&)> call,
+               const char* operation,
+               long long expected,
+               const char* traced,
+               TraceBuffer buffer)
+{
+    FailureRow row{method, std::move(call), operation, expected, {traced}, buffer};
+    row.error = 1234;
+    return row;
+}
+
+} // namespace
+
+// --- GetWlanProfile ---------------------------------------------------------------------------------------------
+
+TEST_F(ProfileListTest, GetWlanProfileConvertsTheNameThenSearchesTheList)
+{
+    EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterA, "GoneNet"));
+    EXPECT_THAT(callLines(),
+                ElementsAre("MultiByteToWideChar(codePage=0, flags=9, source=\"GoneNet\", sourceLength=-1, "
+                            "destination=non-null, destinationLength=256)",
+                            std::string("WlanGetProfileList(client=1, interface=") + kAdapterAText +
+                                ", reserved=null, list=non-null)",
+                            "WlanFreeMemory(memory=non-null)"));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(ProfileListTest, GetWlanProfileFindsEveryProfileOfItsOwnInterfaceOnly)
+{
+    for (const char* name : {"HomeNet", "OfficeNet", "HiddenNet", "AdHocNet", "GoneNet"})
+        EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterA, name)) << name;
+    EXPECT_EQ(-1, manager().GetWlanProfile(&kAdapterB, "HomeNet"));
+    EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterB, "CafeNet"));
+}
+
+TEST_F(ProfileListTest, GetWlanProfileComparesWholeNamesExactly)
+{
+    for (const char* name : {"homenet", "HOMENET", "HomeNe", "HomeNet ", "HomeNet5G", ""})
+    {
+        ClearCalls();
+        EXPECT_EQ(-1, manager().GetWlanProfile(&kAdapterA, name)) << '"' << name << '"';
+        EXPECT_TRUE(traced().empty());
+        ExpectNothingHeld();
+    }
+}
+
+TEST_F(ProfileListTest, GetWlanProfileOfAnEmptyListIsMinusOne)
+{
+    UseWorld(NoProfileWorld());
+    EXPECT_EQ(-1, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
+    EXPECT_THAT(calls(), ElementsAre("MultiByteToWideChar", "WlanGetProfileList", "WlanFreeMemory"));
+    EXPECT_TRUE(traced().empty());
+}
+
+TEST_F(ProfileListTest, GetWlanProfileReadsTheNameInTheActiveCodePage)
+{
+    UseProfiles({"Caf\xC3\xA9"});
+    EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterA, "Caf\xE9"));
+    EXPECT_EQ(-1, manager().GetWlanProfile(&kAdapterA, "Cafe"));
+}
+
+// Deliberate: the failing step's own error number, that of the client handle included.
+TEST_F(ProfileListTest, GetWlanProfileFailures)
+{
+    const auto call = [](CWirelessManage& m) { return m.GetWlanProfile(&kAdapterA, "HomeNet"); };
+    CheckFailures(
+        *this, {Row("GetWlanProfile", call, "WlanOpenHandle", 1234, kOpenFailed, TraceBuffer::local),
+                Row("GetWlanProfile", call, "MultiByteToWideChar", 1234, "Profile Name error: %u", TraceBuffer::local),
+                Row("GetWlanProfile", call, "WlanGetProfileList", 1234, kListFailed, TraceBuffer::local)});
+}
+
+TEST_F(ProfileListTest, GetWlanProfileGivesUpAtTheFirstFailure)
+{
+    ForgetClient();
+    FailOn("WlanOpenHandle", 1062);
+    EXPECT_EQ(1062, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
+    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle"));
+
+    ClearFailures();
+    ClearCalls();
+    FailOn("MultiByteToWideChar", 1113);
+    EXPECT_EQ(1113, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
+    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "MultiByteToWideChar"));
+}
+
+TEST_F(ProfileListTest, GetWlanProfileReportsInvalidCharacters)
+{
+    simulation::Scenario scenario = RichWorld();
+    scenario.codePage = 932;
+    UseWorld(scenario);
+    EXPECT_EQ(1113, manager().GetWlanProfile(&kAdapterA, "Home\x81")); // a lead byte alone
+    EXPECT_THAT(traced(), ElementsAre("Profile Name error: 1113"));
+    EXPECT_THAT(calls(), ElementsAre("MultiByteToWideChar"));
+}
+
+// The precomposed flag is none that UTF-8 takes.
+TEST_F(ProfileListTest, GetWlanProfileReportsTheRefusalOfAUtf8CodePage)
+{
+    simulation::Scenario scenario = RichWorld();
+    scenario.codePage = 65001;
+    UseWorld(scenario);
+    EXPECT_EQ(1004, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
+    EXPECT_THAT(traced(), ElementsAre("Profile Name error: 1004"));
+}
+
+TEST_F(ProfileListTest, GetWlanProfileTakesNamesOfUpTo127Bytes)
+{
+    const std::string name(127, 'n');
+    UseProfiles({name});
+    EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterA, name.c_str()));
+}
+
+TEST_F(ProfileListTest, GetWlanProfileEndsTheProcessOverAnUnusableName)
+{
+    const std::string name(128, 'n');
+    ExpectFatal([&] { manager().GetWlanProfile(&kAdapterA, name.c_str()); }, "GetWlanProfile");
+    ExpectFatal([&] { manager().GetWlanProfile(&kAdapterA, nullptr); }, "GetWlanProfile");
+}
+
+TEST_F(ProfileListDeathTest, TooLongANameIsNeverCut)
+{
+    const std::string name(128, 'n');
+    EXPECT_DEATH(manager().GetWlanProfile(&kAdapterA, name.c_str()), "GetWlanProfile");
+}
+
+TEST_F(ProfileListTest, NullInterfacesAreTheServicesToRefuse)
+{
+    EXPECT_EQ(87, manager().GetWlanProfile(nullptr, "HomeNet"));
+    EXPECT_EQ(-4, manager().GetProfileCount(nullptr));
+    EXPECT_EQ(87, manager().ResetProfilePosition(nullptr, "HomeNet"));
+    EXPECT_EQ(87, manager().SetProfilePosition(nullptr, L"HomeNet"));
+    EXPECT_EQ(-4, manager().DeleteProfile(nullptr, "HomeNet"));
+    EXPECT_EQ(-4, manager().DeleteProfile(nullptr, L"HomeNet"));
+}
+
+// --- GetProfileCount --------------------------------------------------------------------------------------------
+
+TEST_F(ProfileListTest, GetProfileCountIsTheCountItself)
+{
+    EXPECT_EQ(5, manager().GetProfileCount(&kAdapterA));
+    EXPECT_EQ(1, manager().GetProfileCount(&kAdapterB));
+    EXPECT_THAT(calls(), ElementsAre("WlanGetProfileList", "WlanFreeMemory", "WlanGetProfileList", "WlanFreeMemory"));
+    EXPECT_EQ("null", call("WlanGetProfileList")["reserved"]);
+    EXPECT_TRUE(traced().empty());
+
+    UseWorld(NoProfileWorld());
+    EXPECT_EQ(0, manager().GetProfileCount(&kAdapterA));
+    ExpectNothingHeld();
+}
+
+TEST_F(ProfileListTest, GetProfileCountFailures)
+{
+    const auto call = [](CWirelessManage& m) { return m.GetProfileCount(&kAdapterA); };
+    CheckFailures(*this, {Row("GetProfileCount", call, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::shared),
+                          Row("GetProfileCount", call, "WlanGetProfileList", -4, kListFailed, TraceBuffer::shared)});
+}
+
+// --- Preference order -------------------------------------------------------------------------------------------
+
+// Deliberate: the second place, never the first.
+TEST_F(ProfileListTest, ResetProfilePositionMovesToTheSecondPlace)
+{
+    UseProfiles({"A", "B", "C"});
+    EXPECT_EQ(0, manager().ResetProfilePosition(&kAdapterA, "C"));
+    EXPECT_THAT(callLines(), ElementsAre(std::string("WlanGetProfileList(client=1, interface=") + kAdapterAText +
+                                             ", reserved=null, list=non-null)",
+                                         "MultiByteToWideChar(codePage=0, flags=9, source=\"C\", sourceLength=-1, "
+                                         "destination=non-null, destinationLength=256)",
+                                         std::string("WlanSetProfilePosition(client=1, interface=") + kAdapterAText +
+                                             ", name=\"C\", position=1, reserved=null)",
+                                         "WlanFreeMemory(memory=non-null)"));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_THAT(StoredNames(), ElementsAre(L"A", L"C", L"B"));
+
+    EXPECT_EQ(0, manager().ResetProfilePosition(&kAdapterA, "A"));
+    EXPECT_THAT(StoredNames(), ElementsAre(L"C", L"A", L"B")) << "the first is moved down, too";
+}
+
+TEST_F(ProfileListTest, SetProfilePositionMovesToTheLastPlace)
+{
+    UseProfiles({"A", "B", "C"});
+    EXPECT_EQ(0, manager().SetProfilePosition(&kAdapterA, L"A"));
+    EXPECT_THAT(calls(), ElementsAre("WlanGetProfileList", "WlanSetProfilePosition", "WlanFreeMemory"));
+    EXPECT_EQ("2", call("WlanSetProfilePosition")["position"]);
+    EXPECT_EQ("\"A\"", call("WlanSetProfilePosition")["name"]);
+    EXPECT_EQ("null", call("WlanSetProfilePosition")["reserved"]);
+    EXPECT_TRUE(traced().empty());
+    EXPECT_THAT(StoredNames(), ElementsAre(L"B", L"C", L"A"));
+}
+
+TEST_F(ProfileListTest, WithTwoProfilesBothPositionsAreTheLast)
+{
+    UseProfiles({"A", "B"});
+    EXPECT_EQ(0, manager().ResetProfilePosition(&kAdapterA, "A"));
+    EXPECT_THAT(StoredNames(), ElementsAre(L"B", L"A"));
+    EXPECT_EQ(0, manager().SetProfilePosition(&kAdapterA, L"B"));
+    EXPECT_THAT(StoredNames(), ElementsAre(L"A", L"B"));
+}
+
+TEST_F(ProfileListTest, FewerThanTwoProfilesHaveNoOrder)
+{
+    for (const std::vector<std::string>& names : {std::vector<std::string>{"A"}, std::vector<std::string>{}})
+    {
+        UseProfiles(names);
+        EXPECT_EQ(0, manager().ResetProfilePosition(&kAdapterA, "\x81 no such name"));
+        EXPECT_EQ(0, manager().SetProfilePosition(&kAdapterA, L"no such name"));
+        EXPECT_THAT(calls(),
+                    ElementsAre("WlanGetProfileList", "WlanFreeMemory", "WlanGetProfileList", "WlanFreeMemory"));
+        EXPECT_TRUE(traced().empty());
+    }
+}
+
+TEST_F(ProfileListTest, ResetProfilePositionFailures)
+{
+    const auto call = [](CWirelessManage& m) { return m.ResetProfilePosition(&kAdapterA, "HomeNet"); };
+    const char* const method = "ResetProfilePosition";
+    CheckFailures(*this, {Row(method, call, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::local),
+                          Row(method, call, "WlanGetProfileList", 1234, kListFailed, TraceBuffer::local),
+                          Row(method, call, "MultiByteToWideChar", 1234, "Profile Name error: %u", TraceBuffer::local),
+                          Row(method, call, "WlanSetProfilePosition", 1234,
+                              "WlanSetProfilePosition failed with error: %u", TraceBuffer::local)});
+}
+
+TEST_F(ProfileListTest, SetProfilePositionFailures)
+{
+    const auto call = [](CWirelessManage& m) { return m.SetProfilePosition(&kAdapterA, L"HomeNet"); };
+    const char* const method = "SetProfilePosition";
+    CheckFailures(*this, {Row(method, call, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::local),
+                          Row(method, call, "WlanGetProfileList", 1234, kListFailed, TraceBuffer::local),
+                          Row(method, call, "WlanSetProfilePosition", 1234,
+                              "WlanSetProfilePosition failed with error: %u", TraceBuffer::local)});
+}
+
+TEST_F(ProfileListTest, UnknownNamesAreTheServicesToRefuse)
+{
+    EXPECT_EQ(1168, manager().ResetProfilePosition(&kAdapterA, "homenet"));
+    EXPECT_EQ(1168, manager().SetProfilePosition(&kAdapterA, L"homenet"));
+    EXPECT_EQ(87, manager().SetProfilePosition(&kAdapterA, nullptr));
+    EXPECT_EQ(87, manager().ResetProfilePosition(&kAdapterA, nullptr));
+}
+
+TEST_F(ProfileListTest, ResetProfilePositionTakesNamesOfUpTo255Characters)
+{
+    const std::string longest(255, 'n');
+    UseProfiles({"A", "B", longest});
+    EXPECT_EQ(0, manager().ResetProfilePosition(&kAdapterA, longest.c_str()));
+    EXPECT_THAT(StoredNames(), ElementsAre(L"A", Wide(longest), L"B"));
+
+    ClearCalls();
+    EXPECT_EQ(122, manager().ResetProfilePosition(&kAdapterA, std::string(256, 'n').c_str()));
+    EXPECT_THAT(traced(), ElementsAre("Profile Name error: 122"));
+    EXPECT_EQ(0u, callCount("WlanSetProfilePosition"));
+    ExpectNothingHeld();
+}
+
+// --- DeleteProfile ----------------------------------------------------------------------------------------------
+
+TEST_F(ProfileListTest, DeleteProfileDeletesByNarrowOrWideName)
+{
+    EXPECT_EQ(0, manager().DeleteProfile(&kAdapterA, "OfficeNet"));
+    EXPECT_EQ(0, manager().DeleteProfile(&kAdapterA, L"GoneNet"));
+    const std::string start = std::string("WlanDeleteProfile(client=1, interface=") + kAdapterAText;
+    EXPECT_THAT(callLines(), ElementsAre(start + ", name=\"OfficeNet\", reserved=null)",
+                                         start + ", name=\"GoneNet\", reserved=null)"));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_THAT(StoredNames(), ElementsAre(L"HomeNet", L"HiddenNet", L"AdHocNet"));
+}
+
+// Deliberate: cut without notice, unlike the names of the other methods.
+TEST_F(ProfileListTest, DeleteProfileCutsANarrowNameTo127Characters)
+{
+    const std::string kept(126, 'n');
+    const std::string deleted(127, 'n');
+    UseProfiles({kept, deleted});
+    EXPECT_EQ(0, manager().DeleteProfile(&kAdapterA, std::string(200, 'n').c_str()));
+    EXPECT_THAT(StoredNames(), ElementsAre(Wide(kept)));
+    EXPECT_TRUE(traced().empty());
+}
+
+TEST_F(ProfileListTest, DeleteProfileTakesANarrowNameOf127CharactersWhole)
+{
+    const std::string name(127, 'n');
+    UseProfiles({name});
+    EXPECT_EQ(0, manager().DeleteProfile(&kAdapterA, name.c_str()));
+    EXPECT_TRUE(StoredNames().empty());
+}
+
+TEST_F(ProfileListTest, DeleteProfilePassesAWideNameOnAsItIs)
+{
+    const std::string name(200, 'n');
+    UseProfiles({name});
+    EXPECT_EQ(0, manager().DeleteProfile(&kAdapterA, Wide(name).c_str()));
+    EXPECT_TRUE(StoredNames().empty());
+}
+
+// The runtime's own widening in the C locale, not the code page's conversion.
+TEST_F(ProfileListTest, DeleteProfileKeepsTheBytesOfANarrowName)
+{
+    manager().DeleteProfile(&kAdapterA, "Caf\xE9\x80");
+    EXPECT_EQ("\"Caf\\u00E9\\u0080\"", call("WlanDeleteProfile")["name"]);
+    EXPECT_EQ(0u, callCount("MultiByteToWideChar"));
+}
+
+TEST_F(ProfileListTest, DeleteProfileFailures)
+{
+    const auto narrow = [](CWirelessManage& m) { return m.DeleteProfile(&kAdapterA, "HomeNet"); };
+    const auto wide = [](CWirelessManage& m) { return m.DeleteProfile(&kAdapterA, L"HomeNet"); };
+    constexpr const char* failed = "WlanDeleteProfile failed with error: %u";
+    CheckFailures(*this, {Row("DeleteProfile(narrow)", narrow, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::shared),
+                          Row("DeleteProfile(narrow)", narrow, "WlanDeleteProfile", -4, failed, TraceBuffer::shared),
+                          Row("DeleteProfile(wide)", wide, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::shared),
+                          Row("DeleteProfile(wide)", wide, "WlanDeleteProfile", -4, failed, TraceBuffer::shared)});
+}
+
+TEST_F(ProfileListTest, DeleteProfileOfAnUnknownOrNullNameIsRefused)
+{
+    EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, "homenet"));
+    EXPECT_EQ("WlanDeleteProfile failed with error: 1168", sharedTrace());
+    EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, static_cast<const char*>(nullptr)));
+    EXPECT_EQ("WlanDeleteProfile failed with error: 87", sharedTrace());
+    EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, static_cast<const wchar_t*>(nullptr)));
+    EXPECT_EQ(5u, StoredNames().size());
+}
+
+// --- The client handle and cost ---------------------------------------------------------------------------------
+
+TEST_F(ProfileListTest, TheClientIsOpenedFirstWhenNeeded)
+{
+    const std::vector<std::function<void(CWirelessManage&)>> methods = {
+        [](auto& m) { m.GetWlanProfile(&kAdapterA, "HomeNet"); },
+        [](auto& m) { m.GetProfileCount(&kAdapterA); },
+        [](auto& m) { m.ResetProfilePosition(&kAdapterA, "HomeNet"); },
+        [](auto& m) { m.SetProfilePosition(&kAdapterA, L"HomeNet"); },
+        [](auto& m) { m.DeleteProfile(&kAdapterA, "OfficeNet"); },
+        [](auto& m) { m.DeleteProfile(&kAdapterA, L"GoneNet"); },
+    };
+    for (std::size_t i = 0; i < methods.size(); ++i)
+    {
+        ForgetClient();
+        methods[i](manager());
+        EXPECT_EQ("WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)",
+                  callLines().front())
+            << i;
+        EXPECT_TRUE(traced().empty());
+    }
+}
+
+TEST_F(ProfileListTest, NothingIsAllocated)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations(
+                      [this]
+                      {
+                          manager().GetWlanProfile(&kAdapterA, "HomeNet");
+                          manager().GetProfileCount(&kAdapterA);
+                          manager().ResetProfilePosition(&kAdapterA, "HomeNet");
+                          manager().SetProfilePosition(&kAdapterA, L"HomeNet");
+                          manager().DeleteProfile(&kAdapterA, "OfficeNet");
+                          manager().DeleteProfile(&kAdapterA, L"no such name");
+                      }));
+}
+
+} // namespace calvix::test
