@@ -27,8 +27,9 @@ struct ManagerInternals; // the library's own tests
 /// - Interfaces are named by their GUID and looked up afresh in each call; a method without a GUID works on the first
 ///   interface that the service lists.
 /// - The client handle of the service is shared by all methods and opened by the first that needs it.
-/// - Results are per method: the same failure has different numbers in different methods. Where a list of codes does
-///   not name null pointers, a null output gives -13 and a null input -14, unless said otherwise.
+/// - Results are per method: the same failure has different numbers in different methods.
+/// - Null pointers: a null interface GUID, description or profile name names none. Where a list of codes does not name
+///   null pointers, a null record or container gives -13 when it is an output and -14 when it is an input.
 /// - Lists and records of the service are released before a method returns; what a method hands out lies in the
 ///   caller's own buffers and vectors, or is text inside the object, valid until the same method is called again.
 /// - Narrow text is in the active code page.
@@ -283,8 +284,8 @@ public:
     /// The same for the access points.
     int GetNetworkBss();
 
-    /// English text of a WLAN_REASON_CODE (WlanReasonCodeToString) into `textSize` bytes at `text` [out]. Whether it was
-    /// written.
+    /// Text of a WLAN_REASON_CODE (WlanReasonCodeToString) into `textSize` bytes at `text` [out]. Whether it fits; with
+    /// a size of 0 nothing is written and the answer is true.
     bool ReasonCode2String(unsigned long reasonCode, char* text, int textSize);
 
     // --- Profile store ------------------------------------------------------------------------------------------
@@ -431,7 +432,7 @@ public:
     /// `mode` 1: only profiles that connect automatically. Codes as GetMatchAPList.
     int GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, int mode);
 
-    /// The same; with `mode` 1 the profile `name` [in] counts whatever its connection mode.
+    /// The same; with `mode` 1 the profile `name` [in, may be null] counts whatever its connection mode.
     int GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, const wchar_t* name, int mode);
 
     /// Diagnostic: traces how the time stamps of the matching access points move over three seconds. -1, or the code

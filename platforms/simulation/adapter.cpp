@@ -1,10 +1,13 @@
 #include "simulation/adapter.h"
 
 #include "platform/records/error_numbers.h"
+#include "platform/records/wlan_constants.h"
 #include "simulation/guid_text.h"
+#include "simulation/notification_records.h"
 #include "simulation/utf8.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace calvix::simulation
 {
@@ -32,6 +35,15 @@ bool IsOn(const PhyDescription& phy)
     return phy.software == RadioSwitch::on && phy.hardware == RadioSwitch::on;
 }
 
+WLAN_PHY_RADIO_STATE RadioRecord(DWORD index, const PhyDescription& phy)
+{
+    WLAN_PHY_RADIO_STATE record{};
+    record.dwPhyIndex = index;
+    record.dot11SoftwareRadioState = phy.software == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
+    record.dot11HardwareRadioState = phy.hardware == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
+    return record;
+}
+
 } // namespace
 
 Adapter::Adapter(const AdapterDescription& description, const Surroundings& surroundings)
@@ -48,11 +60,13 @@ Adapter::Adapter(const AdapterDescription& description, const Surroundings& surr
     {
         m_heard = Listen(m_around.air, std::nullopt, m_around.time.Now());
     }
+    m_networksKnown = !m_heard.empty();
     if (m_description.connection)
     {
         Restore(*m_description.connection);
     }
     m_around.time.Schedule(ownScanInterval, [this] { ScanByItself(); });
+    StartLinkWatch();
 }
 
 void Adapter::LoadProfiles()
@@ -88,12 +102,13 @@ void Adapter::Restore(const Connection& connection)
     {
         request.desiredBssids.push_back(*connection.bssid);
     }
-    const AccessPoint* const accessPoint = FindAccessPoint(request);
+    const AccessPoint* const accessPoint = FindAccessPoint(request, {});
     if (accessPoint != nullptr && IsRadioOn())
     {
-        m_link = Link{request.profile, *accessPoint};
-        m_state = wlan_interface_state_connected;
-        HearLink();
+        // A connection is bound to an access point only by those who asked for that one.
+        request.desiredBssids.clear();
+        m_attempt = Attempt{std::move(request), std::nullopt, {}};
+        Establish(*accessPoint);
     }
 }
 
@@ -107,7 +122,7 @@ AdapterDescription Adapter::Describe() const
     now.connection.reset();
     if (m_link)
     {
-        now.connection = Connection{Utf8FromWide(m_link->profile->document.name), m_link->accessPoint.bssid};
+        now.connection = Connection{Utf8FromWide(m_link->Profile().name), m_link->accessPoint.bssid};
     }
     return now;
 }
@@ -121,13 +136,20 @@ void Adapter::SetRadio(std::size_t phy, RadioSwitch software, RadioSwitch hardwa
 {
     const bool wasOn = IsRadioOn();
     PhyDescription& changed = m_description.phys.at(phy);
+    const bool isChanged = changed.software != software || changed.hardware != hardware;
     changed.software = software;
     changed.hardware = hardware;
+    if (isChanged)
+    {
+        Notify(WLAN_NOTIFICATION_SOURCE_MSM, msm::radio_state_change,
+               RecordBytes(RadioRecord(static_cast<DWORD>(phy), changed)));
+    }
     if (wasOn && !IsRadioOn())
     {
         StopScan();
         m_heard.clear();
-        Disconnect();
+        TakeDown(WLAN_REASON_CODE_DRIVER_DISCONNECTED);
+        NoticeNetworks();
     }
     else if (!wasOn && IsRadioOn() && m_around.serviceRunning)
     {
@@ -158,20 +180,41 @@ void Adapter::FinishScan()
     m_scanning = false;
     m_heard = Listen(m_around.air, m_askedSsid, m_around.time.Now());
     m_askedSsid.reset();
+    Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_scan_complete);
     NoticeLostLink();
     HearLink();
+    NoticeNetworks();
+    m_triedInVain.clear();
+    ConnectByItself();
 }
 
 void Adapter::StopScan()
 {
     m_around.time.Cancel(m_scanEvent);
+    if (m_scanning)
+    {
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_scan_fail,
+               RecordBytes(DWORD{WLAN_REASON_CODE_SCAN_CALL_FAIL}));
+    }
     m_scanning = false;
     m_askedSsid.reset();
 }
 
+// Clients are told when the first network comes into reach and when the last one has gone.
+void Adapter::NoticeNetworks()
+{
+    const bool areThere = !m_heard.empty();
+    if (areThere != m_networksKnown)
+    {
+        m_networksKnown = areThere;
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM,
+               areThere ? wlan_notification_acm_network_available : wlan_notification_acm_network_not_available);
+    }
+}
+
 void Adapter::ScanByItself()
 {
-    const bool isWanted = autoConfiguration && (backgroundScan || !m_link);
+    const bool isWanted = HasAutoConfiguration() && (HasBackgroundScan() || !m_link);
     if (isWanted && m_around.serviceRunning && IsRadioOn())
     {
         StartScan();
@@ -179,16 +222,74 @@ void Adapter::ScanByItself()
     m_around.time.Schedule(ownScanInterval, [this] { ScanByItself(); });
 }
 
+void Adapter::SetAutoConfiguration(bool enabled)
+{
+    if (std::exchange(m_description.autoConfiguration, enabled) != enabled)
+    {
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM,
+               enabled ? wlan_notification_acm_autoconf_enabled : wlan_notification_acm_autoconf_disabled);
+    }
+}
+
+void Adapter::SetBackgroundScan(bool enabled)
+{
+    if (std::exchange(m_description.backgroundScan, enabled) != enabled)
+    {
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, enabled ? wlan_notification_acm_background_scan_enabled
+                                                     : wlan_notification_acm_background_scan_disabled);
+    }
+}
+
+const IhvAnswer* Adapter::AnswerIhv(const Bytes& request) const
+{
+    const auto known = m_description.ihv.find(request);
+    return known != m_description.ihv.end() ? &known->second : nullptr;
+}
+
+DWORD Adapter::StoreProfile(Profile profile, bool overwrite)
+{
+    const DWORD error = m_profiles.Store(std::move(profile), overwrite);
+    if (error == ERROR_SUCCESS)
+    {
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
+    }
+    return error;
+}
+
+DWORD Adapter::MoveProfile(const std::wstring& name, DWORD position)
+{
+    const DWORD error = m_profiles.Move(name, position);
+    if (error == ERROR_SUCCESS)
+    {
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
+    }
+    return error;
+}
+
 DWORD Adapter::DeleteProfile(const std::wstring& name)
 {
     const bool isInUse =
-        (m_link && m_link->profile->document.name == name) || (m_request && m_request->profile->document.name == name);
+        (m_link && m_link->Profile().name == name) || (m_attempt && m_attempt->request.profile->document.name == name);
     const DWORD error = m_profiles.Delete(name);
-    if (error == ERROR_SUCCESS && isInUse)
+    if (error != ERROR_SUCCESS)
     {
-        Disconnect();
+        return error;
+    }
+    Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
+    if (isInUse)
+    {
+        TakeDown(WLAN_REASON_CODE_PROFILE_CHANGED_OR_DELETED);
     }
     return error;
+}
+
+// A service that is stopped tells nobody anything.
+void Adapter::Notify(DWORD source, DWORD code, Bytes data) const
+{
+    if (m_around.serviceRunning)
+    {
+        m_around.notifier.Post({source, code, m_guid, std::move(data)});
+    }
 }
 
 } // namespace calvix::simulation

@@ -2,6 +2,7 @@
 
 #include "simulation/event_queue.h"
 #include "simulation/heard_bss.h"
+#include "simulation/notifier.h"
 #include "simulation/profile_store.h"
 #include "simulation/scenario.h"
 
@@ -9,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,14 +23,26 @@ struct ConnectionRequest
     std::shared_ptr<const Profile> profile;
     std::vector<MacAddress> desiredBssids; ///< empty: any
     bool hiddenNetwork = false;            ///< look for a hidden network, whatever the profile says
+    WLAN_CONNECTION_MODE mode = wlan_connection_mode_profile;
 };
 
 /// A connection that stands.
 struct Link
 {
-    std::shared_ptr<const Profile> profile;
-    AccessPoint accessPoint; ///< as it was when the connection was made
+    ConnectionRequest request;
+    AccessPoint accessPoint; ///< as it was heard last
     bool missedByLastScan = false;
+    ULONG reportedQuality = 0; ///< the signal quality that clients know of
+
+    const ProfileDocument& Profile() const { return request.profile->document; }
+};
+
+/// A connection that is being made. The service tries one access point after the other.
+struct Attempt
+{
+    ConnectionRequest request;
+    std::optional<MacAddress> target; ///< none: the network was not on the air when the attempt began
+    std::vector<MacAddress> failed;   ///< access points that were tried in vain
 };
 
 /// What surrounds an adapter.
@@ -37,6 +51,7 @@ struct Surroundings
     EventQueue& time;
     const std::vector<AccessPoint>& air;
     const bool& serviceRunning;
+    Notifier& notifier;
 };
 
 /// One wireless adapter and what the service keeps for it: radio switches, what the last scan heard, profiles,
@@ -66,12 +81,15 @@ public:
     /// Starts a scan, or joins the one that is under way. `ssid`: a hidden network to ask for by name.
     void StartScan(const std::optional<Bytes>& ssid = std::nullopt);
     bool IsScanning() const { return m_scanning; }
-    /// What the last finished scan heard; nothing while the radio is off.
-    const std::vector<HeardBss>& Heard() const { return m_heard; }
+    /// What the last finished scan heard, and the connection's access point as it is heard now; nothing while the
+    /// radio is off.
+    const std::vector<HeardBss>& Heard();
 
-    ProfileStore& Profiles() { return m_profiles; }
     const ProfileStore& Profiles() const { return m_profiles; }
-    /// Deletes a profile, and ends a connection that was made or is being made with it.
+    /// The profile store's operations, of which clients are told.
+    DWORD StoreProfile(Profile profile, bool overwrite);
+    DWORD MoveProfile(const std::wstring& name, DWORD position);
+    /// Also ends a connection that was made or is being made with it.
     DWORD DeleteProfile(const std::wstring& name);
 
     WLAN_INTERFACE_STATE State() const { return m_state; }
@@ -83,23 +101,53 @@ public:
 
     /// Takes down what stands and starts to connect; the outcome comes with time.
     void Connect(ConnectionRequest request);
-    /// Takes down what stands and gives up what is being tried.
+    /// Takes down what stands and gives up what is being tried. The service does not connect by itself from then on.
     void Disconnect();
 
-    bool autoConfiguration = true; ///< whether the service looks after this adapter, that is, scans by itself
-    bool backgroundScan = true;    ///< whether it scans by itself while connected, too
+    /// Whether the service looks after this adapter, that is, scans and connects by itself.
+    bool HasAutoConfiguration() const { return m_description.autoConfiguration; }
+    void SetAutoConfiguration(bool enabled);
+    /// Whether it scans by itself while connected, too.
+    bool HasBackgroundScan() const { return m_description.backgroundScan; }
+    void SetBackgroundScan(bool enabled);
+
+    /// What the driver answers to a vendor request, or null where it does not know it.
+    const IhvAnswer* AnswerIhv(const Bytes& request) const;
 
 private:
     void LoadProfiles();
     void Restore(const Connection& connection);
+
     void ScanByItself();
     void FinishScan();
     void StopScan();
-    void NoticeLostLink();
+    void NoticeNetworks();
+
+    void Begin(ConnectionRequest request);
+    void StartAttempt();
     void Authenticate();
-    void FinishConnecting();
+    void FinishAttempt();
+    DWORD Outcome(const AccessPoint* target) const;
+    void Fail(DWORD reason);
+    void GiveUp(DWORD reason);
+    void Establish(const AccessPoint& accessPoint);
+    void TakeDown(DWORD reason);
+    void ConnectByItself();
+
+    void StartLinkWatch();
+    void WatchLink();
+    void MeasureLink(std::int32_t rssi);
+    void LoseLink();
+    bool Roam();
+    void NoticeLostLink();
     void HearLink();
-    const AccessPoint* FindAccessPoint(const ConnectionRequest& request) const;
+
+    const AccessPoint* FindAccessPoint(const ConnectionRequest& request, const std::vector<MacAddress>& except) const;
+    const AccessPoint* FindTarget() const;
+
+    void Notify(DWORD source, DWORD code, Bytes data = {}) const;
+    void NotifyConnection(DWORD code, const ConnectionRequest& request, DWORD reason) const;
+    void NotifyMedia(DWORD code, const ConnectionRequest& request, const MacAddress& bssid, DWORD reason = 0) const;
 
     AdapterDescription m_description;
     GUID m_guid;
@@ -108,14 +156,17 @@ private:
 
     ProfileStore m_profiles;
     std::vector<HeardBss> m_heard;
+    bool m_networksKnown = false; ///< whether clients were told that there is a network to connect to
     bool m_scanning = false;
     EventQueue::EventId m_scanEvent = 0;
     std::optional<Bytes> m_askedSsid;
 
     WLAN_INTERFACE_STATE m_state = wlan_interface_state_disconnected;
     std::optional<Link> m_link;
-    std::optional<ConnectionRequest> m_request;
+    std::optional<Attempt> m_attempt;
     EventQueue::EventId m_connectEvent = 0;
+    bool m_wantsConnection = false;       ///< whether the service is to make up for a connection that was lost
+    std::set<std::wstring> m_triedInVain; ///< profiles that it tried since the last scan
 };
 
 } // namespace calvix::simulation

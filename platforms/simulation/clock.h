@@ -2,6 +2,7 @@
 
 #include "platform/clock.h"
 #include "simulation/event_queue.h"
+#include "simulation/last_error_cell.h"
 
 namespace calvix::simulation
 {
@@ -11,13 +12,13 @@ class SimulatedClock final : public platform::Clock
 {
 public:
     /// `lastError` receives the reason of a failure; both outlive this object.
-    SimulatedClock(DWORD& lastError, EventQueue& time) : m_lastError(lastError), m_time(time) {}
+    SimulatedClock(LastErrorCell& lastError, EventQueue& time) : m_lastError(lastError), m_time(time) {}
 
     void Sleep(DWORD milliseconds) override;
     BOOL FileTimeToSystemTime(const FILETIME* fileTime, SYSTEMTIME* systemTime) override;
 
 private:
-    DWORD& m_lastError;
+    LastErrorCell& m_lastError;
     EventQueue& m_time;
 };
 

@@ -1,15 +1,14 @@
 #include "simulation/computer.h"
 
-#include "simulation/clock.h"
-#include "simulation/debugger_output.h"
 #include "simulation/internet.h"
 #include "simulation/last_error.h"
+#include "simulation/locked_facilities.h"
 #include "simulation/machine.h"
 #include "simulation/power.h"
 #include "simulation/processes.h"
 #include "simulation/security.h"
-#include "simulation/service_control.h"
 #include "simulation/text.h"
+#include "simulation/timetable.h"
 #include "simulation/wlan_service.h"
 
 namespace calvix::simulation
@@ -21,20 +20,24 @@ struct Computer::Parts
 
     Machine machine;
     SimulatedWlanService wlan{machine};
-    SimulatedServiceControl services{machine.lastError, machine.handles, machine.serviceRunning};
+    LockedServiceControl services{machine};
     SimulatedPower power{machine.lastError};
     SimulatedSecurity security{machine.lastError};
     SimulatedProcesses processes{machine.lastError};
     SimulatedInternet internet{machine.lastError};
     SimulatedText text{machine.lastError, machine.codePage};
-    SimulatedClock clock{machine.lastError, machine.time};
-    SimulatedDebuggerOutput debugger{machine.debuggerLines};
+    LockedClock clock{machine};
+    LockedDebuggerOutput debugger{machine};
     SimulatedLastError errors{machine.lastError};
 };
 
 Computer::Computer(const Scenario& scenario) : m_parts(std::make_unique<Parts>(scenario)) {}
 
-Computer::~Computer() = default;
+// The service's thread ends first: a callback that is running may be using anything.
+Computer::~Computer()
+{
+    m_parts->machine.notifier.Stop();
+}
 
 platform::WlanService& Computer::wlan()
 {
@@ -88,31 +91,62 @@ platform::LastError& Computer::errors()
 
 void Computer::Advance(std::chrono::milliseconds duration)
 {
+    const std::lock_guard lock(m_parts->machine.mutex);
     m_parts->machine.time.Advance(duration);
 }
 
 std::chrono::milliseconds Computer::Now() const
 {
+    const std::lock_guard lock(m_parts->machine.mutex);
     return m_parts->machine.time.Now();
 }
 
 void Computer::SetServiceRunning(bool running)
 {
+    const std::lock_guard lock(m_parts->machine.mutex);
     m_parts->machine.serviceRunning = running;
+}
+
+void Computer::SetAdministrator(bool administrator)
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    m_parts->machine.administrator = administrator;
+}
+
+void Computer::SetPowerSetting(WLAN_POWER_SETTING setting)
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    m_parts->machine.SetPowerSetting(setting);
+}
+
+std::wstring Computer::SecuritySettings(WLAN_SECURABLE_OBJECT object) const
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    const auto& settings = m_parts->machine.securitySettings;
+    const auto known = settings.find(object);
+    return known != settings.end() ? known->second : std::wstring();
+}
+
+void Computer::WaitForNotifications()
+{
+    m_parts->machine.notifier.WaitUntilIdle();
 }
 
 void Computer::SetLocationConsent(bool given)
 {
+    const std::lock_guard lock(m_parts->machine.mutex);
     m_parts->machine.locationConsent = given;
 }
 
 void Computer::SetRadio(std::size_t adapter, std::size_t phy, RadioSwitch software, RadioSwitch hardware)
 {
+    const std::lock_guard lock(m_parts->machine.mutex);
     m_parts->machine.adapters.at(adapter)->SetRadio(phy, software, hardware);
 }
 
 void Computer::SetInterfaceState(std::size_t adapter, WLAN_INTERFACE_STATE state)
 {
+    const std::lock_guard lock(m_parts->machine.mutex);
     m_parts->machine.adapters.at(adapter)->SetState(state);
 }
 
@@ -128,12 +162,14 @@ const std::vector<std::string>& Computer::DebuggerLines() const
 
 void Computer::ClearDebuggerLines()
 {
+    const std::lock_guard lock(m_parts->machine.mutex);
     m_parts->machine.debuggerLines.clear();
 }
 
 Accounts Computer::Audit()
 {
     Machine& machine = m_parts->machine;
+    const std::lock_guard lock(machine.mutex);
     machine.wlanBlocks.CheckFreed();
     Accounts accounts;
     accounts.liveBlocks = machine.wlanBlocks.CountLive();
@@ -145,13 +181,20 @@ Accounts Computer::Audit()
 
 Scenario Computer::Snapshot() const
 {
-    const Machine& machine = m_parts->machine;
+    Machine& machine = m_parts->machine;
+    const std::lock_guard lock(machine.mutex);
     Scenario scenario;
     scenario.description = machine.description;
     scenario.codePage = machine.codePage;
     scenario.serviceRunning = machine.serviceRunning;
     scenario.locationConsent = machine.locationConsent;
+    scenario.administrator = machine.administrator;
+    scenario.powerSetting = static_cast<std::uint32_t>(machine.powerSetting);
     scenario.accessPoints = machine.air;
+    for (AccessPoint& accessPoint : scenario.accessPoints)
+    {
+        accessPoint.timetable = RestOfTimetable(accessPoint, machine.time.Now());
+    }
     for (const auto& adapter : machine.adapters)
     {
         scenario.adapters.push_back(adapter->Describe());

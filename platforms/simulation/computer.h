@@ -21,7 +21,8 @@ struct Accounts
                                        ///< closed handles: one line each
 };
 
-/// A small Windows machine in one process. One thread at a time.
+/// A small Windows machine in one process. Any thread may use it, but for what gives a reference (air, DebuggerLines):
+/// that is for moments in which nobody else uses the computer. It must not be destroyed inside a notification callback.
 class Computer final : public platform::Platform
 {
 public:
@@ -41,17 +42,26 @@ public:
     platform::DebuggerOutput& debugger() override;
     platform::LastError& errors() override;
 
-    /// Lets simulated time pass: scans finish, connections are made. Nothing else moves it but Sleep.
+    /// Lets simulated time pass: scans finish, connections are made. Nothing else moves it but Sleep, which also waits
+    /// until what happened meanwhile is delivered to the clients.
     void Advance(std::chrono::milliseconds duration);
     /// Simulated time since the computer started.
     std::chrono::milliseconds Now() const;
 
+    /// Waits until the clients were told everything that has happened. Inside a callback it returns at once.
+    void WaitForNotifications();
+
     void SetServiceRunning(bool running);
+    void SetAdministrator(bool administrator);
+    void SetPowerSetting(WLAN_POWER_SETTING setting);
+    /// What WlanSetSecuritySettings set last, empty if nothing was set since the computer started.
+    std::wstring SecuritySettings(WLAN_SECURABLE_OBJECT object) const;
     void SetLocationConsent(bool given);
     void SetRadio(std::size_t adapter, std::size_t phy, RadioSwitch software, RadioSwitch hardware);
     /// Puts an adapter's connection in any state, as drivers report them in passing.
     void SetInterfaceState(std::size_t adapter, WLAN_INTERFACE_STATE state);
-    /// The airspace. Changes are heard with the next scan, asked for or of the service itself (about every 60 s).
+    /// The airspace. Changes are heard with the next scan, asked for or of the service itself (about every 60 s),
+    /// but the connection's own access point is heard all the time.
     std::vector<AccessPoint>& air();
 
     /// What went to the debugger so far, in order, one element a call.

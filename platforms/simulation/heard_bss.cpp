@@ -1,6 +1,9 @@
 #include "simulation/heard_bss.h"
 
+#include "simulation/timetable.h"
+
 #include <algorithm>
+#include <utility>
 
 namespace calvix::simulation
 {
@@ -30,9 +33,14 @@ Listen(const std::vector<AccessPoint>& air, const std::optional<Bytes>& asked, s
     heard.reserve(air.size());
     for (const AccessPoint& accessPoint : air)
     {
+        auto audible = AsHeard(accessPoint, now);
+        if (!audible)
+        {
+            continue;
+        }
         const bool ssidHeard = !accessPoint.hidden || asked == accessPoint.ssid;
-        heard.push_back(
-            {accessPoint, SuiteFromNames(accessPoint.authentication, accessPoint.encryption), ssidHeard, now});
+        const SecuritySuite security = SuiteFromNames(accessPoint.authentication, accessPoint.encryption);
+        heard.push_back({std::move(*audible), security, ssidHeard, now});
     }
     return heard;
 }

@@ -61,10 +61,10 @@ WLAN_ASSOCIATION_ATTRIBUTES Association(const Adapter& adapter)
 
 InterfaceAnswer AnswerConnection(Blocks& blocks, const Adapter& adapter)
 {
-    const ProfileDocument& profile = adapter.CurrentLink()->profile->document;
+    const ProfileDocument& profile = adapter.CurrentLink()->Profile();
     auto* const answer = NewAnswer<WLAN_CONNECTION_ATTRIBUTES>(blocks);
     answer->isState = adapter.State();
-    answer->wlanConnectionMode = wlan_connection_mode_profile;
+    answer->wlanConnectionMode = adapter.CurrentLink()->request.mode;
     CopyText(profile.name, answer->strProfileName);
     answer->wlanAssociationAttributes = Association(adapter);
     answer->wlanSecurityAttributes.bSecurityEnabled = IsSecured(profile.security) ? TRUE : FALSE;

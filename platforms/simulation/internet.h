@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/internet.h"
+#include "simulation/last_error_cell.h"
 
 namespace calvix::simulation
 {
@@ -11,7 +12,7 @@ class SimulatedInternet final : public platform::Internet
 {
 public:
     /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedInternet(DWORD& lastError) : m_lastError(lastError) {}
+    explicit SimulatedInternet(LastErrorCell& lastError) : m_lastError(lastError) {}
 
     BOOL InternetSetOptionA(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize) override;
     BOOL InternetCheckConnectionA(const char* url, DWORD flags, DWORD reserved) override;
@@ -19,7 +20,7 @@ public:
 private:
     BOOL Refuse();
 
-    DWORD& m_lastError;
+    LastErrorCell& m_lastError;
 };
 
 } // namespace calvix::simulation

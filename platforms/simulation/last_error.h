@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/last_error.h"
+#include "simulation/last_error_cell.h"
 
 namespace calvix::simulation
 {
@@ -10,12 +11,12 @@ class SimulatedLastError final : public platform::LastError
 {
 public:
     /// `lastError` outlives this object.
-    explicit SimulatedLastError(const DWORD& lastError) : m_lastError(lastError) {}
+    explicit SimulatedLastError(const LastErrorCell& lastError) : m_lastError(lastError) {}
 
     DWORD GetLastError() override { return m_lastError; }
 
 private:
-    const DWORD& m_lastError;
+    const LastErrorCell& m_lastError;
 };
 
 } // namespace calvix::simulation

@@ -4,12 +4,16 @@
 #include "simulation/blocks.h"
 #include "simulation/event_queue.h"
 #include "simulation/handles.h"
+#include "simulation/last_error_cell.h"
+#include "simulation/notifier.h"
 #include "simulation/scenario.h"
 
 #include <calvix/platform_records.h>
 
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -29,12 +33,17 @@ struct Machine
     std::uint32_t codePage;
     bool serviceRunning;
     bool locationConsent;
+    bool administrator;
+    DWORD powerSetting;
+    std::map<WLAN_SECURABLE_OBJECT, std::wstring> securitySettings; ///< as SDDL, what was set since the start
     std::vector<AccessPoint> air; ///< what could be heard now; adapters know what they heard last
 
-    DWORD lastError = 0;
+    std::mutex mutex; ///< held by every operation that uses what stands below or above
+    LastErrorCell lastError;
     std::vector<std::string> defects;
     std::vector<std::string> debuggerLines;
 
+    Notifier notifier;
     EventQueue time;
     Handles handles{defects};
     Blocks wlanBlocks{defects}; ///< the WLAN service's allocator
@@ -43,6 +52,9 @@ struct Machine
 
     /// The adapter of this interface GUID, or null.
     Adapter* FindAdapter(const GUID& guid) const;
+
+    /// Changes the setting and tells the clients.
+    void SetPowerSetting(WLAN_POWER_SETTING setting);
 
     /// Whether any adapter is connected to a network.
     bool IsConnected() const;

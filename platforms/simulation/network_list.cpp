@@ -217,7 +217,7 @@ private:
         {
             return false;
         }
-        const ProfileDocument& used = m_input.link->profile->document;
+        const ProfileDocument& used = m_input.link->Profile();
         const bool isSameProfile = profile != nullptr && profile->document.name == used.name;
         return isSameProfile && network.ssid == used.ssid && network.security == used.security &&
                network.bssType == used.bssType;

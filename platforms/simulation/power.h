@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/power.h"
+#include "simulation/last_error_cell.h"
 
 namespace calvix::simulation
 {
@@ -11,7 +12,7 @@ class SimulatedPower final : public platform::Power
 {
 public:
     /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedPower(DWORD& lastError) : m_lastError(lastError) {}
+    explicit SimulatedPower(LastErrorCell& lastError) : m_lastError(lastError) {}
 
     NTSTATUS CallNtPowerInformation(
         POWER_INFORMATION_LEVEL level, PVOID input, ULONG inputSize, PVOID output, ULONG outputSize) override;
@@ -55,7 +56,7 @@ public:
 private:
     BOOL Refuse();
 
-    DWORD& m_lastError;
+    LastErrorCell& m_lastError;
 };
 
 } // namespace calvix::simulation

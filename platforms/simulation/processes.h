@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/processes.h"
+#include "simulation/last_error_cell.h"
 
 namespace calvix::simulation
 {
@@ -11,7 +12,7 @@ class SimulatedProcesses final : public platform::Processes
 {
 public:
     /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedProcesses(DWORD& lastError) : m_lastError(lastError) {}
+    explicit SimulatedProcesses(LastErrorCell& lastError) : m_lastError(lastError) {}
 
     HANDLE GetCurrentProcess() override;
     BOOL CreateProcessA(const char* application,
@@ -35,7 +36,7 @@ public:
 private:
     BOOL Refuse();
 
-    DWORD& m_lastError;
+    LastErrorCell& m_lastError;
 };
 
 } // namespace calvix::simulation

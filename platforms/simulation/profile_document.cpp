@@ -163,12 +163,12 @@ bool ReadMode(const Element& root, DOT11_BSS_TYPE bssType)
 }
 
 // A profile without a key is taken: the service would ask the user for it.
-void CheckKey(const Element& security, SecuritySuite suite)
+std::string ReadKey(const Element& security, SecuritySuite suite)
 {
     const Element* const sharedKey = security.first_node("sharedKey");
     if (sharedKey == nullptr)
     {
-        return;
+        return {};
     }
     const std::string_view type = Text(Child(*sharedKey, "keyType"));
     Child(*sharedKey, "protected");
@@ -183,9 +183,10 @@ void CheckKey(const Element& security, SecuritySuite suite)
     {
         Refuse(WLAN_REASON_CODE_MSMSEC_PROFILE_PSK_LENGTH);
     }
+    return isProtected ? std::string() : std::string(key);
 }
 
-SecuritySuite ReadSecurity(const Element& root)
+void ReadSecurity(const Element& root, ProfileDocument& profile)
 {
     const Element& msm = Child(root, "MSM", WLAN_REASON_CODE_MSM_SECURITY_MISSING);
     const Element& security = Child(msm, "security", WLAN_REASON_CODE_MSM_SECURITY_MISSING);
@@ -201,8 +202,8 @@ SecuritySuite ReadSecurity(const Element& root)
     {
         Refuse(WLAN_REASON_CODE_MSMSEC_PROFILE_INVALID_AUTH_CIPHER, ERROR_NO_MATCH);
     }
-    CheckKey(security, suite);
-    return suite;
+    profile.security = suite;
+    profile.key = ReadKey(security, suite);
 }
 
 ProfileDocument ReadProfile(const Element& root)
@@ -218,7 +219,7 @@ ProfileDocument ReadProfile(const Element& root)
         Refuse(WLAN_REASON_CODE_NON_BROADCAST_SET_FOR_ADHOC);
     }
     profile.automatic = ReadMode(root, profile.bssType);
-    profile.security = ReadSecurity(root);
+    ReadSecurity(root, profile);
     return profile;
 }
 

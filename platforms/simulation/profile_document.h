@@ -20,6 +20,7 @@ struct ProfileDocument
     DOT11_BSS_TYPE bssType = dot11_BSS_type_infrastructure;
     bool automatic = true; ///< <connectionMode>
     SecuritySuite security;
+    std::string key; ///< as it stands there: empty where there is none, or where it is protected
 };
 
 /// Why a profile was refused: the error of WlanSetProfile and its reason code.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -31,6 +32,15 @@ struct PhyDescription
     bool operator==(const PhyDescription&) const = default;
 };
 
+/// A point of an access point's timetable.
+struct SignalPoint
+{
+    std::uint32_t at = 0;             ///< milliseconds of simulated time since the computer started
+    std::optional<std::int32_t> rssi; ///< dBm; none: off the air from here to the next point
+
+    bool operator==(const SignalPoint&) const = default;
+};
+
 struct AccessPoint
 {
     Bytes ssid;          ///< at most 32 bytes, any value
@@ -44,6 +54,9 @@ struct AccessPoint
     std::string encryption = "AES";       ///< as in a profile: none, WEP, TKIP, AES, GCMP256
     std::uint16_t beaconPeriod = 100;     ///< in 1024 microseconds
     Bytes informationElements;            ///< empty: made up from the other fields
+    std::string key{};                    ///< passphrase that it takes; empty: any
+    bool answers = true;                  ///< whether it replies to those who want to associate
+    std::vector<SignalPoint> timetable{}; ///< if not empty, in place of rssi; see SignalAt
 
     bool operator==(const AccessPoint&) const = default;
 };
@@ -71,6 +84,15 @@ struct Statistics
     bool operator==(const Statistics&) const = default;
 };
 
+/// What the adapter's driver answers to a vendor request: bytes, or nothing but an error.
+struct IhvAnswer
+{
+    Bytes data;
+    std::uint32_t error = 0; ///< a platform error number, 0: none
+
+    bool operator==(const IhvAnswer&) const = default;
+};
+
 struct AdapterDescription
 {
     std::string guid;        ///< "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}"
@@ -82,6 +104,9 @@ struct AdapterDescription
     std::vector<StoredProfile> profiles;      ///< in preference order
     std::optional<Connection> connection;
     Statistics statistics;
+    bool autoConfiguration = true;   ///< whether the service looks after this adapter: scans and connects by itself
+    bool backgroundScan = true;      ///< whether it scans by itself while connected, too
+    std::map<Bytes, IhvAnswer> ihv{}; ///< the driver's answers, by request
 
     bool operator==(const AdapterDescription&) const = default;
 };
@@ -92,6 +117,8 @@ struct Scenario
     std::uint32_t codePage = 1252; ///< the active narrow code page: 1252, 932, 936 or 65001
     bool serviceRunning = true;
     bool locationConsent = true; ///< without it the service refuses whatever would tell where the computer is
+    bool administrator = true;   ///< whether the programs run with an administrator's rights
+    std::uint32_t powerSetting = 0; ///< WLAN_POWER_SETTING: the service's power saving
     std::vector<AdapterDescription> adapters;
     std::vector<AccessPoint> accessPoints;
 

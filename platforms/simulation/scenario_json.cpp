@@ -32,6 +32,7 @@ public:
     }
 
     bool Has(const char* name) const { return m_value->contains(name); }
+    bool IsNull(const char* name) const { return m_value->at(name).is_null(); }
     Value operator[](const char* name) const { return {m_value->at(name), *m_source, m_pointer + "/" + name}; }
 
     /// The elements of the array of this name, none if it is missing.
@@ -185,6 +186,24 @@ Connection ReadConnection(const Value& value, const std::set<std::string>& profi
     return connection;
 }
 
+IhvAnswer ReadIhvAnswer(const Value& value)
+{
+    IhvAnswer answer;
+    if (value.Has("answer"))
+        answer.data = ReadHex(value["answer"]);
+    value.Read("error", answer.error);
+    return answer;
+}
+
+std::map<Bytes, IhvAnswer> ReadIhv(const Value& adapter)
+{
+    std::map<Bytes, IhvAnswer> answers;
+    for (const Value& value : adapter.Elements("ihv"))
+        if (!answers.emplace(ReadHex(value["request"]), ReadIhvAnswer(value)).second)
+            value["request"].Refuse("there is another answer to this request");
+    return answers;
+}
+
 AdapterDescription ReadAdapter(const Value& value)
 {
     AdapterDescription adapter;
@@ -195,6 +214,9 @@ AdapterDescription ReadAdapter(const Value& value)
         adapter.phys = ReadPhys(value);
     value.Read("scanMilliseconds", adapter.scanMilliseconds);
     value.Read("connectMilliseconds", adapter.connectMilliseconds);
+    value.Read("autoConfiguration", adapter.autoConfiguration);
+    value.Read("backgroundScan", adapter.backgroundScan);
+    adapter.ihv = ReadIhv(value);
     std::set<std::string> profileNames;
     adapter.profiles = ReadProfiles(value, profileNames);
     if (value.Has("connection"))
@@ -221,6 +243,22 @@ void ReadFrequency(const Value& value, std::uint32_t& frequencyKhz)
     frequencyKhz = *frequency;
 }
 
+std::vector<SignalPoint> ReadTimetable(const Value& accessPoint)
+{
+    std::vector<SignalPoint> points;
+    for (const Value& value : accessPoint.Elements("timetable"))
+    {
+        SignalPoint point;
+        value.Read("at", point.at);
+        if (!points.empty() && point.at <= points.back().at)
+            value["at"].Refuse("not later than the point before it");
+        if (!value.IsNull("rssi"))
+            value.Read("rssi", point.rssi.emplace());
+        points.push_back(point);
+    }
+    return points;
+}
+
 AccessPoint ReadAccessPoint(const Value& value)
 {
     AccessPoint point;
@@ -236,6 +274,9 @@ AccessPoint ReadAccessPoint(const Value& value)
     value.Read("beaconPeriod", point.beaconPeriod);
     if (value.Has("informationElements"))
         point.informationElements = ReadHex(value["informationElements"]);
+    value.Read("key", point.key);
+    value.Read("answers", point.answers);
+    point.timetable = ReadTimetable(value);
     return point;
 }
 
@@ -266,6 +307,8 @@ Scenario ReadScenario(const Value& root)
     root.Read("description", scenario.description);
     root.Read("codePage", scenario.codePage);
     root.Read("locationConsent", scenario.locationConsent);
+    root.Read("administrator", scenario.administrator);
+    root.ReadNamed("powerSetting", kPowerSettingNames, scenario.powerSetting);
     scenario.serviceRunning = !root.Has("service") || root["service"].Text() == "running";
     const std::vector<Value> adapters = root.Elements("adapters");
     for (const Value& value : adapters)

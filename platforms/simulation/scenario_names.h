@@ -12,7 +12,7 @@ namespace calvix::simulation
 
 /// How scenario files spell values that are numbers and bytes in a Scenario.
 
-/// A number's name in a scenario file: PHY and BSS types.
+/// A number's name in a scenario file: PHY and BSS types, power settings.
 struct NumberName
 {
     std::uint32_t number;
@@ -23,6 +23,7 @@ inline constexpr NumberName kPhyNames[] = {{1, "fhss"},   {2, "dsss"}, {3, "irba
                                            {5, "hrdsss"}, {6, "erp"},  {7, "ht"},         {8, "vht"},
                                            {9, "dmg"},    {10, "he"},  {11, "eht"}};
 inline constexpr NumberName kBssTypeNames[] = {{1, "infrastructure"}, {2, "independent"}};
+inline constexpr NumberName kPowerSettingNames[] = {{0, "none"}, {1, "low"}, {2, "medium"}, {3, "maximum"}};
 
 /// Bytes as pairs of lower-case hexadecimal digits, and back from digits of either case; nothing for other text.
 std::string HexText(const Bytes& bytes);

@@ -30,6 +30,29 @@ const char* SwitchText(RadioSwitch position)
     return position == RadioSwitch::on ? "on" : "off";
 }
 
+Json WriteIhv(const AdapterDescription& adapter)
+{
+    Json answers = Json::array();
+    for (const auto& [request, answer] : adapter.ihv)
+    {
+        Json entry = {{"request", HexText(request)}};
+        if (answer.error != 0)
+            entry["error"] = answer.error;
+        else
+            entry["answer"] = HexText(answer.data);
+        answers.push_back(entry);
+    }
+    return answers;
+}
+
+Json WriteTimetable(const AccessPoint& point)
+{
+    Json points = Json::array();
+    for (const SignalPoint& each : point.timetable)
+        points.push_back({{"at", each.at}, {"rssi", each.rssi ? Json(*each.rssi) : Json(nullptr)}});
+    return points;
+}
+
 Json WriteAdapter(const AdapterDescription& adapter)
 {
     Json phys = Json::array();
@@ -54,6 +77,13 @@ Json WriteAdapter(const AdapterDescription& adapter)
             result["connection"]["bssid"] = AddressText(*adapter.connection->bssid);
     }
     result["statistics"] = {{"transmitted", adapter.statistics.transmitted}, {"received", adapter.statistics.received}};
+    // What follows is rarely used, and left out where it says nothing.
+    if (!adapter.autoConfiguration)
+        result["autoConfiguration"] = false;
+    if (!adapter.backgroundScan)
+        result["backgroundScan"] = false;
+    if (!adapter.ihv.empty())
+        result["ihv"] = WriteIhv(adapter);
     return result;
 }
 
@@ -76,6 +106,12 @@ Json WriteAccessPoint(const AccessPoint& point)
     result["beaconPeriod"] = point.beaconPeriod;
     if (!point.informationElements.empty())
         result["informationElements"] = HexText(point.informationElements);
+    if (!point.key.empty())
+        result["key"] = point.key;
+    if (!point.answers)
+        result["answers"] = false;
+    if (!point.timetable.empty())
+        result["timetable"] = WriteTimetable(point);
     return result;
 }
 
@@ -89,12 +125,16 @@ std::string WriteScenario(const Scenario& scenario)
     Json points = Json::array();
     for (const AccessPoint& point : scenario.accessPoints)
         points.push_back(WriteAccessPoint(point));
-    const Json document = {{"description", scenario.description},
-                           {"codePage", scenario.codePage},
-                           {"service", scenario.serviceRunning ? "running" : "stopped"},
-                           {"locationConsent", scenario.locationConsent},
-                           {"adapters", adapters},
-                           {"accessPoints", points}};
+    Json document = {{"description", scenario.description},
+                     {"codePage", scenario.codePage},
+                     {"service", scenario.serviceRunning ? "running" : "stopped"},
+                     {"locationConsent", scenario.locationConsent}};
+    if (!scenario.administrator)
+        document["administrator"] = false;
+    if (scenario.powerSetting != 0)
+        document["powerSetting"] = Named(kPowerSettingNames, scenario.powerSetting);
+    document["adapters"] = adapters;
+    document["accessPoints"] = points;
     return document.dump(2) + "\n";
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/security.h"
+#include "simulation/last_error_cell.h"
 
 namespace calvix::simulation
 {
@@ -11,7 +12,7 @@ class SimulatedSecurity final : public platform::Security
 {
 public:
     /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedSecurity(DWORD& lastError) : m_lastError(lastError) {}
+    explicit SimulatedSecurity(LastErrorCell& lastError) : m_lastError(lastError) {}
 
     BOOL OpenProcessToken(HANDLE process, DWORD access, HANDLE* token) override;
     BOOL LookupPrivilegeValueA(const char* system, const char* name, LUID* luid) override;
@@ -25,7 +26,7 @@ public:
 private:
     BOOL Refuse();
 
-    DWORD& m_lastError;
+    LastErrorCell& m_lastError;
 };
 
 } // namespace calvix::simulation

@@ -2,6 +2,7 @@
 
 #include "platform/service_control.h"
 #include "simulation/handles.h"
+#include "simulation/last_error_cell.h"
 
 namespace calvix::simulation
 {
@@ -12,7 +13,7 @@ class SimulatedServiceControl final : public platform::ServiceControl
 public:
     /// `lastError` receives the reason of a failure, `handles` the handles that are given out, `serviceRunning` says
     /// whether the service runs and is set when it is started; all outlive this object.
-    SimulatedServiceControl(DWORD& lastError, Handles& handles, bool& serviceRunning)
+    SimulatedServiceControl(LastErrorCell& lastError, Handles& handles, bool& serviceRunning)
         : m_lastError(lastError), m_handles(handles), m_serviceRunning(serviceRunning)
     {
     }
@@ -26,7 +27,7 @@ public:
 private:
     BOOL Fail(DWORD error);
 
-    DWORD& m_lastError;
+    LastErrorCell& m_lastError;
     Handles& m_handles;
     bool& m_serviceRunning;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
+#include "simulation/last_error_cell.h"
 
 #include <cstdint>
 
@@ -15,7 +16,7 @@ class SimulatedText final : public platform::Text
 {
 public:
     /// `lastError` receives the reason of a failure, `codePage` is the active code page; both outlive this object.
-    SimulatedText(DWORD& lastError, const std::uint32_t& codePage) : m_lastError(lastError), m_codePage(codePage) {}
+    SimulatedText(LastErrorCell& lastError, const std::uint32_t& codePage) : m_lastError(lastError), m_codePage(codePage) {}
 
     int MultiByteToWideChar(UINT codePage,
                             DWORD flags,
@@ -37,7 +38,7 @@ private:
     int Fail(DWORD error);
     std::uint32_t Resolve(UINT codePage) const;
 
-    DWORD& m_lastError;
+    LastErrorCell& m_lastError;
     const std::uint32_t& m_codePage;
 };
 

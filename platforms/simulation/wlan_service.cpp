@@ -47,6 +47,7 @@ DWORD SimulatedWlanService::WlanOpenHandle(DWORD clientVersion,
     {
         return ERROR_INVALID_PARAMETER;
     }
+    const std::lock_guard lock(m_machine.mutex);
     // A stopped service is reported before the version is looked at.
     if (!m_machine.serviceRunning)
     {
@@ -65,19 +66,9 @@ DWORD SimulatedWlanService::WlanOpenHandle(DWORD clientVersion,
     return ERROR_SUCCESS;
 }
 
-// Chosen: handles outlive a stop of the service and can be closed meanwhile.
-DWORD SimulatedWlanService::WlanCloseHandle(HANDLE client, PVOID reserved)
-{
-    if (client == nullptr || reserved != nullptr)
-    {
-        return ERROR_INVALID_PARAMETER;
-    }
-    const bool wasOpen = m_machine.handles.Close(client, HandleKind::wlanClient, "WlanCloseHandle");
-    return wasOpen ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
-}
-
 DWORD SimulatedWlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanEnumInterfaces", client, {list}, reserved))
     {
         return error;
@@ -101,6 +92,7 @@ DWORD SimulatedWlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WL
 DWORD SimulatedWlanService::WlanScan(
     HANDLE client, const GUID* interfaceGuid, const DOT11_SSID* ssid, const WLAN_RAW_DATA* ieData, PVOID reserved)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanScan", client, {interfaceGuid}, reserved))
     {
         return error;
@@ -124,44 +116,9 @@ DWORD SimulatedWlanService::WlanScan(
     return ERROR_SUCCESS;
 }
 
-// Notifications, vendor control, the power setting, security settings and reason texts are rooms of the service
-// that are not furnished yet: their operations check what all operations check and then say so.
-
-DWORD SimulatedWlanService::WlanQueryAutoConfigParameter(
-    HANDLE client, WLAN_AUTOCONF_OPCODE, PVOID reserved, DWORD* dataSize, PVOID* data, WLAN_OPCODE_VALUE_TYPE*)
-{
-    const DWORD error = Check("WlanQueryAutoConfigParameter", client, {dataSize, data}, reserved);
-    return error != ERROR_SUCCESS ? error : ERROR_CALL_NOT_IMPLEMENTED;
-}
-
-DWORD SimulatedWlanService::WlanRegisterNotification(
-    HANDLE client, DWORD, BOOL, WLAN_NOTIFICATION_CALLBACK, PVOID, PVOID reserved, DWORD*)
-{
-    const DWORD error = Check("WlanRegisterNotification", client, {}, reserved);
-    return error != ERROR_SUCCESS ? error : ERROR_CALL_NOT_IMPLEMENTED;
-}
-
-DWORD SimulatedWlanService::WlanIhvControl(
-    HANDLE client, const GUID* interfaceGuid, WLAN_IHV_CONTROL_TYPE, DWORD, PVOID, DWORD, PVOID, DWORD* bytesReturned)
-{
-    const DWORD error = Check("WlanIhvControl", client, {interfaceGuid, bytesReturned});
-    return error != ERROR_SUCCESS ? error : ERROR_CALL_NOT_IMPLEMENTED;
-}
-
-DWORD SimulatedWlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT, const wchar_t* sddl)
-{
-    const DWORD error = Check("WlanSetSecuritySettings", client, {sddl});
-    return error != ERROR_SUCCESS ? error : ERROR_CALL_NOT_IMPLEMENTED;
-}
-
-DWORD SimulatedWlanService::WlanReasonCodeToString(DWORD, DWORD bufferSize, wchar_t* buffer, PVOID reserved)
-{
-    const bool isUsable = bufferSize != 0 && buffer != nullptr && reserved == nullptr;
-    return isUsable ? ERROR_CALL_NOT_IMPLEMENTED : ERROR_INVALID_PARAMETER;
-}
-
 void SimulatedWlanService::WlanFreeMemory(PVOID memory)
 {
+    const std::lock_guard lock(m_machine.mutex);
     m_machine.wlanBlocks.Free(memory);
 }
 

@@ -8,8 +8,8 @@
 namespace calvix::simulation
 {
 
-/// The WLAN client service of a simulated computer. Every caller has every right; what the real service's access
-/// checks would refuse is not refused.
+/// The WLAN client service of a simulated computer. Every caller has every right but for what needs an administrator.
+/// Any thread may call any operation, notification callbacks included; each is done under the machine's mutex.
 class SimulatedWlanService final : public platform::WlanService
 {
 public:
@@ -108,6 +108,9 @@ private:
                 HANDLE client,
                 std::initializer_list<const void*> required,
                 const void* reserved = nullptr);
+
+    /// Waits until no callback of the client is running. Not to be called under the mutex.
+    void WaitForCallback(HANDLE client, const char* operation);
 
     Machine& m_machine;
 };

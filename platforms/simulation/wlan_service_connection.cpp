@@ -41,6 +41,7 @@ DWORD SimulatedWlanService::WlanConnect(HANDLE client,
                                         const WLAN_CONNECTION_PARAMETERS* parameters,
                                         PVOID reserved)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanConnect", client, {interfaceGuid, parameters}, reserved))
     {
         return error;
@@ -73,13 +74,14 @@ DWORD SimulatedWlanService::WlanConnect(HANDLE client,
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID; // chosen, as for the lists
     }
     adapter->Connect({profile, DesiredBssids(parameters->pDesiredBssidList),
-                      (parameters->dwFlags & WLAN_CONNECTION_HIDDEN_NETWORK) != 0});
+                      (parameters->dwFlags & WLAN_CONNECTION_HIDDEN_NETWORK) != 0, mode});
     return ERROR_SUCCESS;
 }
 
 // Chosen: it succeeds without a connection, too.
 DWORD SimulatedWlanService::WlanDisconnect(HANDLE client, const GUID* interfaceGuid, PVOID reserved)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanDisconnect", client, {interfaceGuid}, reserved))
     {
         return error;

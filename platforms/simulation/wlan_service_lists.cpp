@@ -49,11 +49,12 @@ std::vector<const HeardBss*> Choose(const std::vector<HeardBss>& heard, const Bs
 DWORD SimulatedWlanService::WlanGetAvailableNetworkList(
     HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetAvailableNetworkList", client, {interfaceGuid, list}, reserved))
     {
         return error;
     }
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
     {
         return ERROR_INVALID_PARAMETER;
@@ -81,6 +82,7 @@ DWORD SimulatedWlanService::WlanGetNetworkBssList(HANDLE client,
                                                   PVOID reserved,
                                                   WLAN_BSS_LIST** list)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetNetworkBssList", client, {interfaceGuid, list}, reserved))
     {
         return error;
@@ -90,7 +92,7 @@ DWORD SimulatedWlanService::WlanGetNetworkBssList(HANDLE client,
         return ERROR_INVALID_PARAMETER;
     }
     // Alone among the operations this one says "not found" when there is no such interface.
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
     {
         return ERROR_NOT_FOUND;

@@ -42,6 +42,7 @@ DWORD SimulatedWlanService::WlanGetProfileList(HANDLE client,
                                                PVOID reserved,
                                                WLAN_PROFILE_INFO_LIST** list)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetProfileList", client, {interfaceGuid, list}, reserved))
     {
         return error;
@@ -76,6 +77,7 @@ DWORD SimulatedWlanService::WlanGetProfile(HANDLE client,
                                            DWORD* flags,
                                            DWORD* grantedAccess)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetProfile", client, {interfaceGuid, name, xml}, reserved))
     {
         return error;
@@ -113,6 +115,7 @@ DWORD SimulatedWlanService::WlanSetProfile(HANDLE client,
                                            PVOID reserved,
                                            DWORD* reasonCode)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanSetProfile", client, {interfaceGuid, xml, reasonCode}, reserved))
     {
         return error;
@@ -130,7 +133,7 @@ DWORD SimulatedWlanService::WlanSetProfile(HANDLE client,
         return refusal.error;
     }
     *reasonCode = WLAN_REASON_CODE_SUCCESS;
-    return adapter->Profiles().Store(std::move(*profile), overwrite != FALSE);
+    return adapter->StoreProfile(std::move(*profile), overwrite != FALSE);
 }
 
 DWORD SimulatedWlanService::WlanDeleteProfile(HANDLE client,
@@ -138,6 +141,7 @@ DWORD SimulatedWlanService::WlanDeleteProfile(HANDLE client,
                                               const wchar_t* name,
                                               PVOID reserved)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanDeleteProfile", client, {interfaceGuid, name}, reserved))
     {
         return error;
@@ -149,12 +153,13 @@ DWORD SimulatedWlanService::WlanDeleteProfile(HANDLE client,
 DWORD SimulatedWlanService::WlanSetProfilePosition(
     HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD position, PVOID reserved)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanSetProfilePosition", client, {interfaceGuid, name}, reserved))
     {
         return error;
     }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    return adapter != nullptr ? adapter->Profiles().Move(name, position) : ERROR_INVALID_PARAMETER;
+    return adapter != nullptr ? adapter->MoveProfile(name, position) : ERROR_INVALID_PARAMETER;
 }
 
 } // namespace calvix::simulation

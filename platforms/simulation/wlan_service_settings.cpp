@@ -52,9 +52,9 @@ std::optional<InterfaceAnswer> Answer(Blocks& blocks, const Adapter& adapter, WL
     switch (static_cast<unsigned int>(opcode))
     {
     case wlan_intf_opcode_autoconf_enabled:
-        return AnswerNumber(blocks, Boolean(adapter.autoConfiguration));
+        return AnswerNumber(blocks, Boolean(adapter.HasAutoConfiguration()));
     case wlan_intf_opcode_background_scan_enabled:
-        return AnswerNumber(blocks, Boolean(adapter.backgroundScan));
+        return AnswerNumber(blocks, Boolean(adapter.HasBackgroundScan()));
     case wlan_intf_opcode_radio_state:
         return AnswerRadioState(blocks, adapter);
     case wlan_intf_opcode_bss_type:
@@ -100,7 +100,7 @@ DWORD SetAutoConfiguration(Adapter& adapter, DWORD size, const void* data)
     {
         return ERROR_INVALID_PARAMETER;
     }
-    adapter.autoConfiguration = *value;
+    adapter.SetAutoConfiguration(*value);
     return ERROR_SUCCESS;
 }
 
@@ -116,7 +116,7 @@ DWORD SetBackgroundScan(Adapter& adapter, DWORD size, const void* data)
     {
         return ERROR_INVALID_STATE;
     }
-    adapter.backgroundScan = *value;
+    adapter.SetBackgroundScan(*value);
     return ERROR_SUCCESS;
 }
 
@@ -150,6 +150,7 @@ DWORD SimulatedWlanService::WlanQueryInterface(HANDLE client,
                                                PVOID* data,
                                                WLAN_OPCODE_VALUE_TYPE* valueType)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanQueryInterface", client, {interfaceGuid, dataSize, data}, reserved))
     {
         return error;
@@ -185,6 +186,7 @@ DWORD SimulatedWlanService::WlanQueryInterface(HANDLE client,
 DWORD SimulatedWlanService::WlanSetInterface(
     HANDLE client, const GUID* interfaceGuid, WLAN_INTF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanSetInterface", client, {interfaceGuid, data}, reserved))
     {
         return error;

@@ -33,7 +33,7 @@ class ClockDates : public ::testing::TestWithParam<Moment>
 
 TEST_P(ClockDates, BecomeCalendarTime)
 {
-    DWORD lastError = 0;
+    LastErrorCell lastError;
     EventQueue queue;
     SimulatedClock clock(lastError, queue);
     const FILETIME fileTime = FileTimeOf(GetParam().units);
@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(Clock,
 
 TEST(Clock, RefusesTimesWithoutACalendarForm)
 {
-    DWORD lastError = 0;
+    LastErrorCell lastError;
     EventQueue queue;
     SimulatedClock clock(lastError, queue);
     const FILETIME tooLate = FileTimeOf(0x8000000000000000);
@@ -71,7 +71,7 @@ TEST(Clock, RefusesTimesWithoutACalendarForm)
 
 TEST(Clock, SleepingLetsTimePass)
 {
-    DWORD lastError = 0;
+    LastErrorCell lastError;
     EventQueue queue;
     SimulatedClock clock(lastError, queue);
     clock.Sleep(1500);
@@ -80,7 +80,7 @@ TEST(Clock, SleepingLetsTimePass)
 
 TEST(HostTime, BeginsInJanuary2026)
 {
-    DWORD lastError = 0;
+    LastErrorCell lastError;
     EventQueue queue;
     SimulatedClock clock(lastError, queue);
     const FILETIME fileTime = FileTimeOf(HostTime(milliseconds(61'007)));

@@ -24,7 +24,7 @@ protected:
     SC_HANDLE OpenManager() { return m_control.OpenSCManagerA(nullptr, nullptr, SC_MANAGER_ALL_ACCESS); }
     SC_HANDLE OpenWlan(SC_HANDLE manager) { return m_control.OpenServiceA(manager, "WlanSvc", SERVICE_ALL_ACCESS); }
 
-    DWORD m_lastError = 0;
+    LastErrorCell m_lastError;
     bool m_running = true;
     std::vector<std::string> m_defects;
     Handles m_handles{m_defects};
@@ -131,7 +131,7 @@ TEST_F(ServiceControlTest, HandlesAreOfOneKind)
 
 TEST(UnfurnishedRooms, SayThatTheyAre)
 {
-    DWORD lastError = 0;
+    LastErrorCell lastError;
     SimulatedLastError errors(lastError);
     SimulatedPower power(lastError);
     SimulatedSecurity security(lastError);

@@ -39,7 +39,7 @@ protected:
         return {room.data(), static_cast<std::size_t>(size)};
     }
 
-    DWORD m_lastError = 0;
+    LastErrorCell m_lastError;
     std::uint32_t m_codePage = 1252;
     SimulatedText m_text{m_lastError, m_codePage};
 };

@@ -1,6 +1,7 @@
 #include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
 
 #include <string>
@@ -17,7 +18,6 @@ namespace
 
 using Excluded = std::vector<WLAN_BSS_ENTRY>;
 
-constexpr const char* kConnectFailed = "WlanConnect failed with error: %u";
 constexpr const char* kReadFailed = "WlanGetProfile failed with error: %u";
 
 struct Overload
@@ -48,26 +48,13 @@ class BestApTest : public LibraryTest
 public:
     BestApTest() : LibraryTest(TwoNetworks(-60, -70)) {}
 
-    /// Profiles of the requests, in order.
-    std::vector<std::string> Requested() const
-    {
-        std::vector<std::string> profiles;
-        for (std::size_t number = 1; number <= callCount("WlanConnect"); ++number)
-        {
-            const std::string text(call("WlanConnect", number)["parameters"]);
-            const std::size_t start = text.find("profile=\"") + 9;
-            profiles.push_back(text.substr(start, text.find('"', start) - start));
-        }
-        return profiles;
-    }
-
     /// Every candidate in the order in which it would be tried.
     std::vector<std::string> Ranking()
     {
         FailOn("WlanConnect");
         EXPECT_EQ(-12, manager().ConnectBestAP(&kAdapterA));
         ClearFailures();
-        return Requested();
+        return RequestedProfiles(*this);
     }
 };
 
@@ -118,7 +105,7 @@ TEST_F(BestApTest, AllOverloadsWalkAlike)
         Restart();
         FailOn("WlanConnect");
         EXPECT_EQ(-12, overload.call(manager())) << overload.name;
-        EXPECT_THAT(Requested(), ElementsAre("Boosted", "Plain")) << overload.name;
+        EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Boosted", "Plain")) << overload.name;
     }
 }
 
@@ -137,7 +124,7 @@ TEST_F(BestApTest, ARefusedRequestIsFollowedByTheNext)
 {
     FailOn("WlanConnect", 5, 1, 1);
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_THAT(Requested(), ElementsAre("Boosted", "Plain"));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Boosted", "Plain"));
     EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 5"));
     EXPECT_EQ("WlanConnect failed with error: 5", sharedTrace());
 }
@@ -214,7 +201,7 @@ TEST_F(BestApTest, AProfileThatCannotBeReadIsNoCandidate)
 {
     FailOn("WlanGetProfile", 5, 2, 1);
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_THAT(Requested(), ElementsAre("Plain"));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Plain"));
     EXPECT_THAT(traced(), ElementsAre("WlanGetProfile failed with error: 5"));
     EXPECT_TRUE(sharedTraceUntouched()) << "that is traced through a buffer of its own";
 }
@@ -249,20 +236,20 @@ TEST_F(BestApTest, OnlyMatchingNetworksAreAskedAbout)
 {
     UseWorld(RichWorld());
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_THAT(Requested(), ElementsAre("HomeNet"));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("HomeNet"));
     EXPECT_EQ(3u, callCount("WlanGetProfile")) << "HiddenNet and GoneNet are not in view";
 }
 
 TEST_F(BestApTest, TheExcludedProfileIsPassedOverUnread)
 {
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"Boosted"));
-    EXPECT_THAT(Requested(), ElementsAre("Plain"));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Plain"));
     EXPECT_EQ(1u, callCount("WlanGetProfile"));
     EXPECT_EQ("\"Plain\"", call("WlanGetProfile")["name"]);
 
     ClearCalls();
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"boosted"));
-    EXPECT_THAT(Requested(), ElementsAre("Boosted")) << "names are compared exactly";
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Boosted")) << "names are compared exactly";
 }
 
 TEST_F(BestApTest, WithoutTheOnlyAutomaticProfileThereIsNoCandidate)
@@ -285,7 +272,7 @@ TEST_F(BestApTest, NetworksOfTheListAreExcludedAfterTheirProfileIsRead)
 {
     Excluded excluded = {EntryOf("Boosted"), EntryOf("Elsewhere")};
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, &excluded));
-    EXPECT_THAT(Requested(), ElementsAre("Plain"));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Plain"));
     EXPECT_EQ(2u, callCount("WlanGetProfile"));
 
     EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, &excluded, L"Plain")) << "name and list together";

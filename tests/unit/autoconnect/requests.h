@@ -25,9 +25,8 @@ inline std::vector<std::string> RequestedProfiles(const LibraryTest& test)
 /// The standard request as the call log tells it: by the profile, any access point.
 inline std::string StandardRequest(const std::string& profile, const std::string& bssType = "infrastructure")
 {
-    return std::string("WlanConnect(client=1, interface=") + kAdapterAText +
-           ", parameters={mode=profile, profile=\"" + profile + "\", ssid=null, bssids=null, bssType=" + bssType +
-           ", flags=0}, reserved=null)";
+    return std::string("WlanConnect(client=1, interface=") + kAdapterAText + ", parameters={mode=profile, profile=\"" +
+           profile + "\", ssid=null, bssids=null, bssType=" + bssType + ", flags=0}, reserved=null)";
 }
 
 inline constexpr const char* kConnectFailed = "WlanConnect failed with error: %u";

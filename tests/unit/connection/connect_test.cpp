@@ -215,7 +215,7 @@ TEST_F(ConnectTest, LinkProfileTakesTheNameInTheActiveCodePage)
     simulation::Scenario world = WorldOf({Profile("Caf\xC3\xA9")}, {Heard("Caf\xC3\xA9", 2412000, -50)});
     UseWorld(world);
     EXPECT_EQ(0, Link("Caf\xE9")); // 1252
-    EXPECT_EQ("Caf\\u00E9", call("WlanConnect")["parameters"].substr(23, 9));
+    EXPECT_EQ(ConnectLine("Caf\\u00E9", "null", "infrastructure"), call("WlanConnect").Line());
     world.codePage = 932;
     UseWorld(world);
     EXPECT_EQ(1113, Link("Caf\xFF")) << "an invalid character";

@@ -67,8 +67,6 @@ TEST(StrictCopyTest, TheHandlerBeforeComesBack)
 
 class StrictCopyDeathTest : public LibraryTest
 {
-protected:
-    void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
 };
 
 TEST_F(StrictCopyDeathTest, EndsTheProcessVisibly)

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "simulation/scenario.h"
+
+#include <calvix/platform_records.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <thread>
+#include <unordered_map>
+
+namespace calvix::simulation
+{
+
+/// What the service tells its clients.
+struct Notification
+{
+    DWORD source = 0;
+    DWORD code = 0;
+    GUID interfaceGuid{};
+    Bytes data{}; ///< the record that goes with the code, or nothing
+};
+
+/// What a client wants to be told, and how.
+struct Registration
+{
+    DWORD sources = 0;
+    bool ignoreDuplicates = false;
+    WLAN_NOTIFICATION_CALLBACK callback = nullptr;
+    PVOID context = nullptr;
+};
+
+/// Tells clients what happens, on a thread of the service that starts with the first registration. Any thread may call
+/// any member. The waiting ones must not be called with anything locked that a callback may want.
+class Notifier
+{
+public:
+    Notifier() = default;
+    ~Notifier();
+    Notifier(const Notifier&) = delete;
+    Notifier& operator=(const Notifier&) = delete;
+
+    /// Puts a registration in the place of the client's present one; without sources, ends it. What is still queued for
+    /// the present one is discarded. Returns the sources that were registered. The present callback may still be
+    /// running: see WaitForCallback.
+    DWORD Register(HANDLE client, const Registration& registration);
+
+    /// Waits until no callback of the client is running.
+    void WaitForCallback(HANDLE client);
+
+    /// Queues a notification for every client that wants it.
+    void Post(const Notification& notification);
+
+    /// Waits until everything queued is delivered, at most for `limit` of real time.
+    void WaitUntilIdle(std::chrono::milliseconds limit = std::chrono::hours(1));
+
+    /// Whether the caller is inside a callback.
+    bool IsServiceThread() const;
+
+    /// Discards what is queued, waits for a callback that is running and ends the thread.
+    void Stop();
+
+private:
+    struct Client
+    {
+        Registration registration;
+        Notification last; ///< queued last, to tell duplicates
+    };
+    struct Queued
+    {
+        HANDLE client;
+        Notification notification;
+    };
+
+    void Run();
+    void Deliver(Queued next, std::unique_lock<std::mutex>& lock);
+    void Discard(HANDLE client);
+
+    mutable std::mutex m_mutex;
+    std::condition_variable m_news;      ///< there is something to do for the thread
+    std::condition_variable m_delivered; ///< a callback has returned, or the queue was emptied
+    std::unordered_map<HANDLE, Client> m_clients;
+    std::deque<Queued> m_queue;
+    HANDLE m_running = nullptr; ///< the client whose callback is running
+    bool m_stopping = false;
+    std::thread m_thread;
+};
+
+} // namespace calvix::simulation

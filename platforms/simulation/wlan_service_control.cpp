@@ -1,0 +1,149 @@
+#include "simulation/interface_answers.h"
+#include "simulation/reason_texts.h"
+#include "simulation/wlan_service.h"
+
+#include <algorithm>
+#include <cstring>
+#include <optional>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+// Chosen, for what the simulated service does not let anybody set: denied networks stay out of sight, group policy
+// blocks nothing, nothing is blocked for a time, and everything optional is allowed.
+std::optional<InterfaceAnswer> Answer(const Machine& machine, Blocks& blocks, WLAN_AUTOCONF_OPCODE opcode)
+{
+    switch (static_cast<unsigned int>(opcode))
+    {
+    case wlan_autoconf_opcode_power_setting:
+        return AnswerNumber(blocks, static_cast<WLAN_POWER_SETTING>(machine.powerSetting));
+    case wlan_autoconf_opcode_show_denied_networks:
+    case wlan_autoconf_opcode_only_use_gp_profiles_for_allowed_networks:
+        return AnswerNumber(blocks, FALSE);
+    case wlan_autoconf_opcode_allow_explicit_creds:
+    case wlan_autoconf_opcode_allow_virtual_station_extensibility:
+        return AnswerNumber(blocks, TRUE);
+    case wlan_autoconf_opcode_block_period:
+        return AnswerNumber(blocks, ULONG{0});
+    default:
+        return std::nullopt;
+    }
+}
+
+Bytes RequestBytes(const void* input, DWORD size)
+{
+    const auto* const bytes = static_cast<const std::uint8_t*>(input);
+    return size == 0 ? Bytes() : Bytes(bytes, bytes + size);
+}
+
+} // namespace
+
+DWORD SimulatedWlanService::WlanQueryAutoConfigParameter(HANDLE client,
+                                                         WLAN_AUTOCONF_OPCODE opcode,
+                                                         PVOID reserved,
+                                                         DWORD* dataSize,
+                                                         PVOID* data,
+                                                         WLAN_OPCODE_VALUE_TYPE* valueType)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanQueryAutoConfigParameter", client, {dataSize, data}, reserved))
+    {
+        return error;
+    }
+    const auto answer = Answer(m_machine, m_machine.wlanBlocks, opcode);
+    if (!answer)
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    *data = answer->data;
+    *dataSize = static_cast<DWORD>(answer->size);
+    if (valueType != nullptr)
+    {
+        *valueType = wlan_opcode_value_type_set_by_user;
+    }
+    return ERROR_SUCCESS;
+}
+
+// Chosen: only the driver has a script; a vendor's service, and a request that the script does not know, are not
+// supported; an answer that does not fit in the caller's buffer is not given at all. Input and output may be one
+// buffer.
+DWORD SimulatedWlanService::WlanIhvControl(HANDLE client,
+                                           const GUID* interfaceGuid,
+                                           WLAN_IHV_CONTROL_TYPE type,
+                                           DWORD inputSize,
+                                           PVOID input,
+                                           DWORD outputSize,
+                                           PVOID output,
+                                           DWORD* bytesReturned)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanIhvControl", client, {interfaceGuid, bytesReturned}))
+    {
+        return error;
+    }
+    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    const bool isMissing = (input == nullptr && inputSize != 0) || (output == nullptr && outputSize != 0);
+    if (adapter == nullptr || isMissing || type > wlan_ihv_control_type_driver)
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    const bool isForDriver = type == wlan_ihv_control_type_driver;
+    const IhvAnswer* const answer = isForDriver ? adapter->AnswerIhv(RequestBytes(input, inputSize)) : nullptr;
+    if (answer == nullptr)
+    {
+        return ERROR_NOT_SUPPORTED;
+    }
+    if (answer->error != 0)
+    {
+        return answer->error;
+    }
+    if (answer->data.size() > outputSize)
+    {
+        return ERROR_INSUFFICIENT_BUFFER;
+    }
+    if (!answer->data.empty())
+    {
+        std::memcpy(output, answer->data.data(), answer->data.size());
+    }
+    *bytesReturned = static_cast<DWORD>(answer->data.size());
+    return ERROR_SUCCESS;
+}
+
+// The text is remembered and not judged: nothing in this computer is opened or closed by it.
+DWORD SimulatedWlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanSetSecuritySettings", client, {sddl}))
+    {
+        return error;
+    }
+    if (object > wlan_secure_hosted_network_elevated_access || sddl[0] == L'\0')
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    if (!m_machine.administrator)
+    {
+        return ERROR_ACCESS_DENIED;
+    }
+    m_machine.securitySettings[object] = sddl;
+    return ERROR_SUCCESS;
+}
+
+// Needs neither a client nor a running service: the texts come with the client's side of the interface. A text that
+// does not fit is cut.
+DWORD SimulatedWlanService::WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, wchar_t* buffer, PVOID reserved)
+{
+    if (bufferSize == 0 || buffer == nullptr || reserved != nullptr)
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    const std::wstring_view text = ReasonText(reasonCode);
+    const std::size_t length = std::min<std::size_t>(text.size(), bufferSize - 1);
+    buffer[text.copy(buffer, length)] = L'\0';
+    return ERROR_SUCCESS;
+}
+
+} // namespace calvix::simulation

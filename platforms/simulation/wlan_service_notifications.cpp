@@ -1,0 +1,71 @@
+#include "simulation/wlan_service.h"
+
+#include <mutex>
+#include <string>
+
+namespace calvix::simulation
+{
+
+// What waits for a callback does so with nothing locked, because the callback may be inside an operation.
+
+DWORD SimulatedWlanService::WlanRegisterNotification(HANDLE client,
+                                                     DWORD source,
+                                                     BOOL ignoreDuplicate,
+                                                     WLAN_NOTIFICATION_CALLBACK callback,
+                                                     PVOID context,
+                                                     PVOID reserved,
+                                                     DWORD* previousSource)
+{
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (const DWORD error = Check("WlanRegisterNotification", client, {}, reserved))
+        {
+            return error;
+        }
+        if (source != WLAN_NOTIFICATION_SOURCE_NONE && callback == nullptr)
+        {
+            return ERROR_INVALID_PARAMETER;
+        }
+        const DWORD previous =
+            m_machine.notifier.Register(client, {source, ignoreDuplicate != FALSE, callback, context});
+        if (previousSource != nullptr)
+        {
+            *previousSource = previous;
+        }
+    }
+    WaitForCallback(client, "WlanRegisterNotification");
+    return ERROR_SUCCESS;
+}
+
+// Chosen: handles outlive a stop of the service and can be closed meanwhile.
+DWORD SimulatedWlanService::WlanCloseHandle(HANDLE client, PVOID reserved)
+{
+    if (client == nullptr || reserved != nullptr)
+    {
+        return ERROR_INVALID_PARAMETER;
+    }
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (!m_machine.handles.Close(client, HandleKind::wlanClient, "WlanCloseHandle"))
+        {
+            return ERROR_INVALID_HANDLE;
+        }
+        m_machine.notifier.Register(client, {});
+    }
+    WaitForCallback(client, "WlanCloseHandle");
+    return ERROR_SUCCESS;
+}
+
+// Inside a callback the real service would wait for ever. This one notes that, and does not wait.
+void SimulatedWlanService::WaitForCallback(HANDLE client, const char* operation)
+{
+    if (!m_machine.notifier.IsServiceThread())
+    {
+        m_machine.notifier.WaitForCallback(client);
+        return;
+    }
+    const std::lock_guard lock(m_machine.mutex);
+    m_machine.defects.push_back(std::string(operation) + ": called inside a notification callback, a deadlock");
+}
+
+} // namespace calvix::simulation

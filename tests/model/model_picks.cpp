@@ -1,0 +1,63 @@
+#include "model/model.h"
+
+namespace calvix::test
+{
+
+/// The last entry that is better than the first, or the first.
+static const Heard& PickOf(const std::vector<Heard>& entries)
+{
+    std::size_t pick = 0;
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        if (entries[i].quality > entries[0].quality)
+            pick = i;
+    return entries[pick];
+}
+
+Outcome Model::Roam(bool connects)
+{
+    if (m_service.Open() != 0)
+        return Ended(-1);
+    Link link;
+    if (m_service.Connection(m_world.asked, link) != 0)
+        return Ended(-4);
+    if (link.quality > 79)
+        return Ended(-5);
+    std::vector<Heard> entries;
+    if (m_service.Entries(m_world.asked, link.ssid, link.bssType, link.secured, entries) != 0)
+        return Ended(-6);
+    if (entries.empty())
+        return Ended(-7);
+    const Heard& pick = PickOf(entries);
+    if (pick.bssid == link.bssid)
+        return Ended(-8);
+    if (!connects)
+        return Ended(0);
+    return Ended(m_service.Connect(m_world.asked, link.profile, link.bssType, pick.bssid) == 0 ? 0 : -9);
+}
+
+Outcome Model::PreRoaming()
+{
+    return Roam(false);
+}
+
+Outcome Model::Roaming()
+{
+    return Roam(true);
+}
+
+Outcome Model::Reconnect()
+{
+    if (m_service.Open() != 0)
+        return Ended(-1);
+    std::vector<Heard> entries;
+    if (m_service.Entries(m_world.asked, m_world.rememberedSsid, m_world.rememberedBssType, m_world.rememberedSecured,
+                          entries) != 0)
+        return Ended(-4);
+    if (entries.empty())
+        return Ended(-6);
+    const DWORD error =
+        m_service.Connect(m_world.asked, m_world.rememberedProfile, m_world.rememberedBssType, PickOf(entries).bssid);
+    return Ended(error == 0 ? 0 : -6);
+}
+
+} // namespace calvix::test

@@ -1,0 +1,197 @@
+// The methods that match, rank, walk and pick, in many small made-up worlds, against a model that does the same in the
+// plainest way there is: equal results, equal outputs, and equal questions to the service in the same order.
+
+#include "model/library_outcomes.h"
+#include "model/model.h"
+#include "simulation/computer.h"
+#include "support/manager_internals.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <set>
+
+namespace calvix::test
+{
+
+namespace
+{
+
+struct Method
+{
+    const char* name;
+    std::function<Outcome(Model&)> expected;
+    std::function<Outcome(Library&)> actual;
+    std::set<long long> codes; ///< that the worlds have to lead to, or they are worth nothing
+};
+
+const std::vector<Method> kMethods = {
+    {"GetMatchAPList", &Model::GetMatchAPList, &Library::GetMatchAPList, {-2, -5, -6, -7, -8, 0, 1, 2, 3, 4}},
+    {"GetConnectableAPList",
+     &Model::GetConnectableAPList,
+     &Library::GetConnectableAPList,
+     {-2, -5, -6, -7, -8, 0, 1, 2, 3, 4}},
+    {"GetConnectableAPList(first)",
+     &Model::GetConnectableAPListOfFirst,
+     &Library::GetConnectableAPListOfFirst,
+     {-2, -3, -4, -5, -6, -7, -8, 0, 1, 2, 3, 4}},
+    {"GetMatchAPCount", &Model::GetMatchAPCount, &Library::GetMatchAPCount, {-2, -5, -6, -7, -8, 0, 1, 2, 3}},
+    {"GetMatchAPCount(name)",
+     &Model::GetMatchAPCountWithName,
+     &Library::GetMatchAPCountWithName,
+     {-2, -5, -6, -7, -8, 0, 1, 2, 3}},
+    {"ConnectBestAP(list, name)",
+     [](Model& model) { return model.ConnectBestAP(true, true); },
+     [](Library& library) { return library.ConnectBestAP(true, true); },
+     {-1, -4, -5, -6, -7, -9, -10, -11, -12, 0}},
+    {"ConnectBestAP(list)",
+     [](Model& model) { return model.ConnectBestAP(true, false); },
+     [](Library& library) { return library.ConnectBestAP(true, false); },
+     {-1, -4, -5, -6, -7, -9, -10, -11, -12, 0}},
+    {"ConnectBestAP(name)",
+     [](Model& model) { return model.ConnectBestAP(false, true); },
+     [](Library& library) { return library.ConnectBestAP(false, true); },
+     {-1, -4, -5, -6, -7, -9, -10, -11, -12, 0}},
+    {"ConnectBestAP",
+     [](Model& model) { return model.ConnectBestAP(false, false); },
+     [](Library& library) { return library.ConnectBestAP(false, false); },
+     {-1, -4, -5, -6, -7, -9, -10, -11, -12, 0}},
+    {"AutoConnectEx", &Model::AutoConnectEx, &Library::AutoConnectEx, {-1, -4, -5, -6, -7, -9, -10, -11, -12, 0}},
+    {"AutoConnect", &Model::AutoConnect, &Library::AutoConnect, {-1, -4, -5, -6, -7, -9, 0}},
+    {"AutoSwitch", &Model::AutoSwitch, &Library::AutoSwitch, {-1, -3, -4, -5, -6, -7, 0}},
+    {"SmartSwitch", &Model::SmartSwitch, &Library::SmartSwitch, {-1, -2, 0, 1001, 1004, 1113}},
+    {"SmartConnecting", &Model::SmartConnecting, &Library::SmartConnecting, {-1, -2, 0, 1001}},
+    {"ConnectAutoMode", &Model::ConnectAutoMode, &Library::ConnectAutoMode, {-1, -4, -5, -6, -7, -9, 0}},
+    {"PreRoaming", &Model::PreRoaming, &Library::PreRoaming, {-1, -4, -5, -6, -7, -8, 0}},
+    {"Roaming", &Model::Roaming, &Library::Roaming, {-1, -4, -5, -6, -7, -8, -9, 0}},
+    {"Reconnect(attributes)", &Model::Reconnect, &Library::ReconnectByAttributes, {-1, -4, -6, 0}},
+    {"Reconnect(notification)", &Model::Reconnect, &Library::ReconnectByNotification, {-1, -4, -6, 0}},
+};
+
+/// The narrow form of other than ASCII names is the platform's affair.
+void ForgetTextOfOddNames(Outcome& outcome)
+{
+    for (const Event& event : outcome.events)
+        for (const wchar_t unit : event.profile)
+            if (unit >= 0x80)
+                outcome.text.clear();
+}
+
+/// A computer of the world, with the journal before it and the library behind that.
+class Laboratory
+{
+public:
+    explicit Laboratory(const World& world) : m_world(world), m_computer(world.scenario)
+    {
+        platform::ReplacePlatform(&m_computer);
+        ManagerInternals::Reset();
+        CWirelessManage::Get();
+        DWORD version = 0;
+        m_computer.wlan().WlanOpenHandle(2, nullptr, &version, &m_modelsClient);
+    }
+    ~Laboratory()
+    {
+        ManagerInternals::Reset();
+        platform::ReplacePlatform(nullptr);
+    }
+    Laboratory(const Laboratory&) = delete;
+    Laboratory& operator=(const Laboratory&) = delete;
+
+    Model MakeModel() { return Model(m_world, m_computer.wlan(), m_modelsClient); }
+
+    Outcome Actual(const Method& method)
+    {
+        HANDLE& client = ManagerInternals::Client();
+        if (!m_world.clientIsOpen && client != nullptr)
+        {
+            m_computer.wlan().WlanCloseHandle(client, nullptr);
+            client = nullptr;
+        }
+        JournalPlatform platform(m_world);
+        Library library(m_world, platform.journal());
+        return method.actual(library);
+    }
+
+    simulation::Accounts Audit() { return m_computer.Audit(); }
+
+private:
+    const World& m_world;
+    simulation::Computer m_computer;
+    HANDLE m_modelsClient = nullptr;
+};
+
+/// What the worlds led to, to see that they hold what the comparison is about.
+struct Findings
+{
+    std::map<std::string, std::set<long long>> codes;
+    unsigned requestsAfterRefusal = 0;
+    unsigned repeatedEntries = 0;
+    unsigned bonuses = 0;
+    unsigned exclusions = 0;
+};
+
+void Record(const Method& method, const Outcome& outcome, Findings& findings)
+{
+    findings.codes[method.name].insert(outcome.code);
+    unsigned requests = 0;
+    for (const Event& event : outcome.events)
+        requests += event.operation == "WlanConnect" ? 1u : 0u;
+    findings.requestsAfterRefusal += requests > 1 ? 1u : 0u;
+    for (std::size_t i = 0; i < outcome.entries.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            findings.repeatedEntries += outcome.entries[i] == outcome.entries[j] ? 1u : 0u;
+}
+
+/// Whether the library did what the model did.
+bool Agrees(const World& world, Laboratory& laboratory, const Method& method, Findings& findings)
+{
+    Model model = laboratory.MakeModel();
+    Outcome expected = method.expected(model);
+    Outcome actual = laboratory.Actual(method);
+    ForgetTextOfOddNames(expected);
+    ForgetTextOfOddNames(actual);
+    Record(method, expected, findings);
+    findings.bonuses += model.BonusChangedTheOrder() ? 1u : 0u;
+    if (actual == expected)
+        return true;
+    ADD_FAILURE() << method.name << "\nthe model:\n"
+                  << Describe(expected) << "the library:\n"
+                  << Describe(actual) << "in the world of " << Describe(world);
+    return false;
+}
+
+void CheckWorld(std::uint64_t seed, Findings& findings)
+{
+    const World world = MakeWorld(seed);
+    Laboratory laboratory(world);
+    for (const Method& method : kMethods)
+        if (!Agrees(world, laboratory, method, findings))
+            return;
+    const bool excludes =
+        laboratory.MakeModel().ConnectBestAP(true, true) != laboratory.MakeModel().ConnectBestAP(false, false);
+    findings.exclusions += excludes ? 1u : 0u;
+    const simulation::Accounts accounts = laboratory.Audit();
+    EXPECT_EQ(0u, accounts.liveBlocks) << Describe(world);
+    EXPECT_TRUE(accounts.defects.empty()) << accounts.defects.front() << '\n' << Describe(world);
+}
+
+} // namespace
+
+TEST(ModelTest, AgreesInEveryWorld)
+{
+    Findings findings;
+    for (std::uint64_t seed = 1; seed <= CALVIX_MODEL_WORLDS && !HasFailure(); ++seed)
+        CheckWorld(seed, findings);
+    if (HasFailure())
+        return;
+    for (const Method& method : kMethods)
+        for (const long long code : method.codes)
+            EXPECT_EQ(1u, findings.codes[method.name].count(code)) << method.name << " never led to " << code;
+    EXPECT_GT(findings.requestsAfterRefusal, CALVIX_MODEL_WORLDS / 20u);
+    EXPECT_GT(findings.bonuses, CALVIX_MODEL_WORLDS / 100u);
+    EXPECT_GT(findings.exclusions, CALVIX_MODEL_WORLDS / 20u);
+    EXPECT_GT(findings.repeatedEntries, CALVIX_MODEL_WORLDS / 20u);
+}
+
+} // namespace calvix::test

@@ -1,0 +1,27 @@
+#include "model/outcome.h"
+
+#include "model/world.h"
+
+#include <sstream>
+
+namespace calvix::test
+{
+
+std::string Describe(const Outcome& outcome)
+{
+    std::ostringstream text;
+    text << "  result " << outcome.code << '\n';
+    for (const Event& event : outcome.events)
+        text << "  " << event.operation << " adapter=" << event.adapter << " profile=\"" << Readable(event.profile)
+             << "\" ssid=\"" << Readable(event.ssid) << "\" number=" << event.number << " secured=" << event.secured
+             << " bssid=" << Readable(event.bssid) << (event.oddity.empty() ? "" : " ODD: ") << event.oddity << '\n';
+    for (const Heard& entry : outcome.entries)
+        text << "  entry ssid=\"" << Readable(entry.ssid) << "\" bssid=" << Readable(entry.bssid) << '\n';
+    for (const std::wstring& name : outcome.names)
+        text << "  name \"" << Readable(name) << "\"\n";
+    if (!outcome.text.empty())
+        text << "  text \"" << outcome.text << "\"\n";
+    return text.str();
+}
+
+} // namespace calvix::test

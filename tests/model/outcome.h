@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace calvix::test
+{
+
+/// A call of the WLAN service with what matters in it.
+struct Event
+{
+    std::string_view operation;
+    int adapter = -1;
+    std::wstring profile{};
+    std::string ssid{};
+    unsigned number = 0; ///< BSS type, position, opcode or version
+    bool secured = false;
+    std::string bssid{};  ///< the one desired, empty: any
+    std::string oddity{}; ///< what is wrong with the arguments that are the same in every call
+
+    bool operator==(const Event&) const = default;
+};
+
+/// An entry of a BSS list.
+struct Heard
+{
+    std::string ssid;
+    std::string bssid;
+    unsigned long frequency = 0;
+    unsigned long quality = 0;
+
+    bool operator==(const Heard&) const = default;
+};
+
+/// What a method did.
+struct Outcome
+{
+    long long code = 0;
+    std::vector<Event> events{};
+    std::vector<Heard> entries{};
+    std::vector<std::wstring> names{};
+    std::string text{};
+
+    bool operator==(const Outcome&) const = default;
+};
+
+std::string Describe(const Outcome& outcome);
+
+} // namespace calvix::test

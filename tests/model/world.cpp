@@ -1,0 +1,267 @@
+#include "model/world.h"
+
+#include "support/test_worlds.h"
+
+#include <cstring>
+#include <sstream>
+
+namespace calvix::test
+{
+
+namespace
+{
+
+/// The same numbers in every build, unlike the standard library's distributions.
+class Dice
+{
+public:
+    explicit Dice(std::uint64_t seed) : m_state(seed * 0x9E3779B97F4A7C15u + 1) {}
+
+    unsigned Below(std::size_t limit) { return static_cast<unsigned>(Next() % limit); }
+    bool OneIn(unsigned count) { return Below(count) == 0; }
+
+    template <typename Container>
+    const auto& OneOf(const Container& values)
+    {
+        return values[Below(values.size())];
+    }
+
+private:
+    std::uint64_t Next()
+    {
+        std::uint64_t mixed = m_state += 0x9E3779B97F4A7C15u;
+        mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9u;
+        mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBu;
+        return mixed ^ (mixed >> 31);
+    }
+
+    std::uint64_t m_state;
+};
+
+/// A name that makes a profile's text so long that its connection mode lies beyond the first 1024 characters.
+const std::string kLongName(200, '&');
+
+using Ssids = std::vector<std::string>;
+
+/// Many begin with each other, or differ in case only.
+const Ssids kSsids = {"Net",
+                      "Net",
+                      "NetA",
+                      "NetAB",
+                      "net",
+                      "N",
+                      "Caf\xC3\xA9",
+                      "Caf\xE9",
+                      "Other",
+                      std::string("Net\0X", 5),
+                      "a network name of 32 bytes, full"};
+/// For worlds in which every network has many access points.
+const Ssids kFewSsids = {"Net", "NetA", "N"};
+const std::vector<std::string> kNames = {"Net", "NetA", "NetAB", "net", "N",  "Other", "P1", "P2",
+                                         "P3",  "P4",   "P5",    "P6",  "P7", "P8",    "P9", "Caf\xC3\xA9"};
+
+/// The bonus begins or ends around most of these.
+const std::vector<std::uint32_t> kFrequencies = {2412000, 2437000, 2472000, 2484000, 2485000, 3995000, 3996000,
+                                                 4070000, 4071000, 4999000, 5000000, 5070000, 5074000, 5075000,
+                                                 5180000, 5745000, 5955000, 7115000, 2413000, 10000};
+const std::vector<std::int32_t> kStrengths = {-99, -95, -90, -85, -80, -75, -72, -70, -68, -65,
+                                              -62, -61, -60, -59, -58, -55, -53, -51, -50, -45};
+
+std::wstring WideAscii(const std::string& text)
+{
+    return {text.begin(), text.end()};
+}
+
+bool IsAscii(const std::string& text)
+{
+    for (const char character : text)
+        if (static_cast<unsigned char>(character) >= 0x80)
+            return false;
+    return true;
+}
+
+std::wstring WideName(const std::string& name)
+{
+    return IsAscii(name) ? WideAscii(name) : L"Caf\u00E9";
+}
+
+simulation::AccessPoint MakeHeard(Dice& dice, const Ssids& ssids, std::uint8_t number)
+{
+    simulation::AccessPoint point = MakeAccessPoint(dice.OneOf(ssids), {0x02, 0, 0, 0, 0, number},
+                                                    dice.OneOf(kFrequencies), dice.OneOf(kStrengths));
+    point.hidden = dice.OneIn(12);
+    if (dice.OneIn(10))
+    {
+        point.authentication = "open";
+        point.encryption = "none";
+    }
+    if (dice.OneIn(20))
+        point.bssType = 2;
+    return point;
+}
+
+std::vector<simulation::ProfileSettings> MakeProfiles(Dice& dice, const Ssids& ssids, unsigned most)
+{
+    std::vector<simulation::ProfileSettings> profiles;
+    std::set<std::string> taken;
+    for (unsigned i = dice.OneIn(30) ? 0 : 1 + dice.Below(most); i > 0; --i)
+    {
+        simulation::ProfileSettings profile;
+        profile.name = dice.OneIn(40) ? kLongName : dice.OneOf(kNames);
+        if (!taken.insert(profile.name).second)
+            continue;
+        const std::string ssid = dice.OneIn(3) && profile.name != kLongName ? profile.name : dice.OneOf(ssids);
+        profile.ssid.assign(ssid.begin(), ssid.end());
+        profile.mode = dice.OneIn(4) ? "manual" : "auto";
+        profiles.push_back(profile);
+    }
+    return profiles;
+}
+
+/// An access point that the profile would be connected to; null: none is heard.
+const simulation::AccessPoint*
+PartnerOf(Dice& dice, const simulation::ProfileSettings& profile, const std::vector<simulation::AccessPoint>& heard)
+{
+    std::vector<const simulation::AccessPoint*> partners;
+    for (const simulation::AccessPoint& point : heard)
+        if (point.ssid == profile.ssid && point.authentication == profile.authentication &&
+            point.bssType == profile.bssType)
+            partners.push_back(&point);
+    return partners.empty() ? nullptr : dice.OneOf(partners);
+}
+
+void AddProfiles(Dice& dice, const Ssids& ssids, unsigned most, World& world)
+{
+    for (simulation::AdapterDescription& adapter : world.scenario.adapters)
+    {
+        const std::vector<simulation::ProfileSettings> profiles = MakeProfiles(dice, ssids, most);
+        adapter.profiles.clear();
+        adapter.connection.reset();
+        for (const simulation::ProfileSettings& profile : profiles)
+            adapter.profiles.push_back({simulation::MakeProfileXml(profile)});
+        for (const simulation::ProfileSettings& profile : profiles)
+        {
+            const simulation::AccessPoint* const partner = PartnerOf(dice, profile, world.scenario.accessPoints);
+            if (partner == nullptr || adapter.connection || dice.OneIn(4))
+                continue;
+            adapter.connection = simulation::Connection{profile.name, partner->bssid};
+        }
+    }
+}
+
+const simulation::Scenario& TwoAdapters()
+{
+    static const simulation::Scenario scenario = SilentWorld();
+    return scenario;
+}
+
+void AddTroubles(Dice& dice, const Ssids& ssids, World& world)
+{
+    world.clientIsOpen = !dice.OneIn(5);
+    world.convertsUtf8 = !dice.OneIn(4);
+    for (const std::string_view operation : {"WlanOpenHandle", "WlanEnumInterfaces", "WlanGetProfileList",
+                                             "WlanGetAvailableNetworkList", "WlanQueryInterface"})
+        if (dice.OneIn(60))
+            world.failures[operation] = 50 + dice.Below(1000);
+    if (dice.OneIn(8))
+        world.failures["WlanSetProfilePosition"] = 50 + dice.Below(1000);
+    if (dice.OneIn(4))
+        world.failingSsids.insert(dice.OneOf(ssids));
+    if (dice.OneIn(4))
+        world.silentSsids.insert(dice.OneOf(ssids));
+    if (dice.OneIn(8))
+        world.unreadableProfiles.insert(WideName(dice.OneOf(kNames)));
+    if (dice.OneIn(10))
+        world.untaggedProfiles.insert(WideName(dice.OneOf(kNames)));
+    world.refusals = dice.OneIn(3) ? dice.Below(10) : 0;
+}
+
+void AddQuestions(Dice& dice, const Ssids& ssids, World& world)
+{
+    for (unsigned i = dice.Below(3); i > 0; --i)
+        world.excludedSsids.push_back(dice.OneOf(ssids));
+    world.name = WideName(dice.OneOf(kNames));
+    world.mode = static_cast<int>(dice.Below(4)) - 1;
+    world.rememberedProfile = WideName(dice.OneOf(kNames));
+    world.rememberedSsid = dice.OneOf(ssids);
+    world.rememberedBssType = dice.OneIn(20) ? 2 : 1;
+    world.rememberedSecured = !dice.OneIn(10);
+    if (!world.scenario.adapters.empty() && dice.OneIn(8))
+        world.asked = static_cast<int>(dice.Below(world.scenario.adapters.size()));
+}
+
+} // namespace
+
+World MakeWorld(std::uint64_t seed)
+{
+    Dice dice(seed);
+    World world;
+    world.seed = seed;
+    world.scenario = TwoAdapters();
+    world.scenario.adapters.resize(dice.OneIn(40) ? 0 : (dice.OneIn(8) ? 2 : 1));
+    const bool isLarge = dice.OneIn(5);
+    const Ssids& ssids = dice.OneIn(3) ? kFewSsids : kSsids;
+    const unsigned count = dice.OneIn(30) ? 0 : 1 + dice.Below(isLarge ? 16 : 8);
+    for (unsigned i = 0; i < count; ++i)
+        world.scenario.accessPoints.push_back(MakeHeard(dice, ssids, static_cast<std::uint8_t>(i + 1)));
+    AddProfiles(dice, ssids, isLarge ? 16 : 5, world);
+    AddTroubles(dice, ssids, world);
+    AddQuestions(dice, ssids, world);
+    return world;
+}
+
+const GUID& AdapterGuid(int number)
+{
+    return number == 0 ? kAdapterA : kAdapterB;
+}
+
+int AdapterNumber(const GUID& guid)
+{
+    for (int number = 0; number < 2; ++number)
+        if (std::memcmp(&guid, &AdapterGuid(number), sizeof guid) == 0)
+            return number;
+    return -1;
+}
+
+std::string Readable(std::wstring_view text)
+{
+    std::string result;
+    for (const wchar_t unit : text)
+        result += unit >= 0x20 && unit < 0x7F ? std::string(1, static_cast<char>(unit))
+                                              : "<" + std::to_string(static_cast<unsigned>(unit)) + ">";
+    return result;
+}
+
+std::string Readable(std::string_view bytes)
+{
+    std::wstring text;
+    for (const char byte : bytes)
+        text += static_cast<wchar_t>(static_cast<unsigned char>(byte));
+    return Readable(text);
+}
+
+std::string Describe(const World& world)
+{
+    std::ostringstream text;
+    text << "seed " << world.seed << "\nadapter asked " << world.asked << ", client "
+         << (world.clientIsOpen ? "open" : "closed") << ", flags with UTF-8 "
+         << (world.convertsUtf8 ? "taken" : "refused") << ", requests refused " << world.refusals << '\n';
+    for (const auto& [operation, error] : world.failures)
+        text << "fails: " << operation << " with " << error << '\n';
+    for (const std::string& ssid : world.failingSsids)
+        text << "BSS list fails: " << Readable(ssid) << '\n';
+    for (const std::string& ssid : world.silentSsids)
+        text << "BSS list empty: " << Readable(ssid) << '\n';
+    for (const std::wstring& name : world.unreadableProfiles)
+        text << "profile not readable: " << Readable(name) << '\n';
+    for (const std::wstring& name : world.untaggedProfiles)
+        text << "named by no network: " << Readable(name) << '\n';
+    for (const std::string& ssid : world.excludedSsids)
+        text << "excluded: " << Readable(ssid) << '\n';
+    text << "name " << Readable(world.name) << ", mode " << world.mode << "\nremembered: profile "
+         << Readable(world.rememberedProfile) << ", SSID " << Readable(world.rememberedSsid) << ", BSS type "
+         << world.rememberedBssType << (world.rememberedSecured ? ", secured" : ", open") << '\n';
+    return text.str() + simulation::WriteScenario(world.scenario) + '\n';
+}
+
+} // namespace calvix::test

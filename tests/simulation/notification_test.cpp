@@ -1,0 +1,281 @@
+// What clients are told, and in which order.
+#include "notification_recorder.h"
+#include "service_fixture.h"
+
+#include <cstring>
+
+namespace calvix::simulation
+{
+
+namespace
+{
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+using Lines = std::vector<std::string>;
+
+class Notifications : public ServiceTest
+{
+protected:
+    DWORD Register(DWORD sources, bool ignoreDuplicates = false, DWORD* previous = nullptr)
+    {
+        return Wlan().WlanRegisterNotification(client, sources, ignoreDuplicates ? TRUE : FALSE,
+                                               &NotificationRecorder::Callback, &recorder, nullptr, previous);
+    }
+
+    Lines Told()
+    {
+        computer->WaitForNotifications();
+        return recorder.Take();
+    }
+
+    void StartListening(DWORD sources = WLAN_NOTIFICATION_SOURCE_ALL)
+    {
+        Start();
+        ASSERT_EQ(Register(sources), ERROR_SUCCESS);
+    }
+
+    void TearDown() override
+    {
+        ServiceTest::TearDown();
+        computer.reset(); // before the recorder
+    }
+
+    NotificationRecorder recorder;
+};
+
+TEST_F(Notifications, AConnectionGoesThroughAllItsStages)
+{
+    StartListening();
+    ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
+    EXPECT_EQ(Told(), (Lines{"acm 9", "msm 1"}));
+    computer->Advance(milliseconds(500));
+    EXPECT_EQ(Told(), (Lines{"msm 2", "msm 3"}));
+    computer->Advance(milliseconds(500));
+    EXPECT_EQ(Told(), (Lines{"msm 4", "acm 10"}));
+}
+
+TEST_F(Notifications, AnOpenNetworkDoesNotAuthenticate)
+{
+    ProfileSettings settings;
+    settings.name = "Cafe";
+    settings.ssid = BytesOf("Cafe");
+    settings.authentication = "open";
+    settings.encryption = "none";
+    scenario.adapters[0].profiles = {{MakeProfileXml(settings)}};
+    scenario.accessPoints = {MakeAccessPoint("Cafe", 1, -50)};
+    scenario.accessPoints[0].authentication = "open";
+    scenario.accessPoints[0].encryption = "none";
+    StartListening();
+    ASSERT_EQ(Connect(L"Cafe"), ERROR_SUCCESS);
+    computer->Advance(milliseconds(1000));
+    EXPECT_EQ(Told(), (Lines{"acm 9", "msm 1", "msm 2", "msm 4", "acm 10"}));
+}
+
+TEST_F(Notifications, ANewConnectionTakesTheOldOneDownFirst)
+{
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
+    StartListening(WLAN_NOTIFICATION_SOURCE_ACM);
+    ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
+    const std::string cancelled = " reason " + std::to_string(WLAN_REASON_CODE_USER_CANCELLED);
+    EXPECT_EQ(Told(), (Lines{"acm 20" + cancelled, "acm 21" + cancelled, "acm 9"}));
+    computer->Advance(seconds(1));
+    EXPECT_EQ(Told(), Lines{"acm 10"});
+}
+
+TEST_F(Notifications, DisconnectingIsToldByBothModules)
+{
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
+    StartListening();
+    ASSERT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
+    const std::string cancelled = " reason " + std::to_string(WLAN_REASON_CODE_USER_CANCELLED);
+    EXPECT_EQ(Told(), (Lines{"acm 20" + cancelled, "msm 9" + cancelled, "msm 10" + cancelled, "acm 21" + cancelled}));
+    ASSERT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
+    EXPECT_EQ(Told(), Lines{}) << "there was nothing left to end";
+}
+
+TEST_F(Notifications, ScansAreToldWhenTheyAreDone)
+{
+    StartListening();
+    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
+    computer->Advance(milliseconds(1999));
+    EXPECT_EQ(Told(), Lines{});
+    computer->Advance(milliseconds(1));
+    EXPECT_EQ(Told(), Lines{"acm 7"});
+}
+
+TEST_F(Notifications, AScanThatTheRadioEndsHasFailed)
+{
+    scenario.adapters[0].phys.resize(1);
+    StartListening(WLAN_NOTIFICATION_SOURCE_ACM);
+    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
+    ASSERT_EQ(SetSoftwareRadio(0, dot11_radio_state_off), ERROR_SUCCESS);
+    EXPECT_EQ(Told(), (Lines{"acm 8", "acm 18"})) << "and no network is available any more";
+    ASSERT_EQ(SetSoftwareRadio(0, dot11_radio_state_on), ERROR_SUCCESS);
+    computer->Advance(seconds(2));
+    EXPECT_EQ(Told(), (Lines{"acm 7", "acm 19"}));
+}
+
+TEST_F(Notifications, SettingsAreToldWhenTheyChange)
+{
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
+    StartListening();
+    const auto set = [&](WLAN_INTF_OPCODE opcode, BOOL value)
+    { ASSERT_EQ(Wlan().WlanSetInterface(client, &first, opcode, sizeof(value), &value, nullptr), ERROR_SUCCESS); };
+    set(wlan_intf_opcode_autoconf_enabled, TRUE);
+    set(wlan_intf_opcode_autoconf_enabled, FALSE);
+    set(wlan_intf_opcode_autoconf_enabled, TRUE);
+    set(wlan_intf_opcode_background_scan_enabled, FALSE);
+    set(wlan_intf_opcode_background_scan_enabled, TRUE);
+    computer->SetPowerSetting(wlan_power_setting_low_saving);
+    ASSERT_EQ(SetSoftwareRadio(1, dot11_radio_state_off), ERROR_SUCCESS);
+    EXPECT_EQ(Told(), (Lines{"acm 2", "acm 1", "acm 4", "acm 3", "acm 6", "msm 7"}));
+}
+
+TEST_F(Notifications, ProfileChangesAreTold)
+{
+    StartListening();
+    ASSERT_EQ(SetProfile(MakeProfile("New", "New")), ERROR_SUCCESS);
+    ASSERT_EQ(Wlan().WlanSetProfilePosition(client, &first, L"New", 1, nullptr), ERROR_SUCCESS);
+    ASSERT_EQ(Wlan().WlanDeleteProfile(client, &first, L"New", nullptr), ERROR_SUCCESS);
+    EXPECT_EQ(Wlan().WlanDeleteProfile(client, &first, L"New", nullptr), ERROR_NOT_FOUND);
+    EXPECT_EQ(Told(), (Lines{"acm 15", "acm 15", "acm 15"}));
+}
+
+TEST_F(Notifications, SignalQualityIsToldAsItChanges)
+{
+    scenario.accessPoints[0].timetable = {{0, -50}, {10'000, -60}};
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", scenario.accessPoints[0].bssid};
+    StartListening();
+    computer->Advance(seconds(3));
+    EXPECT_EQ(Told(), (Lines{"msm 8", "msm 8", "msm 8"}));
+    computer->Advance(seconds(20));
+    EXPECT_EQ(Told().size(), 7u) << "down to -60 and no further";
+}
+
+TEST_F(Notifications, AStoppedServiceTellsNothing)
+{
+    StartListening();
+    computer->SetServiceRunning(false);
+    computer->SetPowerSetting(wlan_power_setting_low_saving);
+    computer->SetRadio(0, 1, RadioSwitch::off, RadioSwitch::on);
+    EXPECT_EQ(Told(), Lines{});
+}
+
+TEST_F(Notifications, OnlyFromTheSourcesAskedFor)
+{
+    DWORD previous = 99;
+    Start();
+    EXPECT_EQ(Register(WLAN_NOTIFICATION_SOURCE_MSM, false, &previous), ERROR_SUCCESS);
+    EXPECT_EQ(previous, 0u);
+    ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
+    EXPECT_EQ(Told(), Lines{"msm 1"});
+    EXPECT_EQ(Register(WLAN_NOTIFICATION_SOURCE_ACM, false, &previous), ERROR_SUCCESS);
+    EXPECT_EQ(previous, WLAN_NOTIFICATION_SOURCE_MSM);
+    computer->Advance(seconds(1));
+    EXPECT_EQ(Told(), Lines{"acm 10"});
+    EXPECT_EQ(Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_NONE, FALSE, nullptr, nullptr, nullptr,
+                                              &previous),
+              ERROR_SUCCESS);
+    EXPECT_EQ(previous, WLAN_NOTIFICATION_SOURCE_ACM);
+    ASSERT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
+    EXPECT_EQ(Told(), Lines{});
+}
+
+TEST_F(Notifications, DuplicatesAreLeftOutWhenAsked)
+{
+    Start();
+    for (const bool ignored : {false, true})
+    {
+        ASSERT_EQ(Register(WLAN_NOTIFICATION_SOURCE_ACM, ignored), ERROR_SUCCESS);
+        ASSERT_EQ(SetProfile(MakeProfile("New", "New"), true), ERROR_SUCCESS);
+        ASSERT_EQ(SetProfile(MakeProfile("New", "New"), true), ERROR_SUCCESS);
+        ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
+        computer->Advance(seconds(2));
+        ASSERT_EQ(SetProfile(MakeProfile("New", "New"), true), ERROR_SUCCESS);
+        EXPECT_EQ(Told(),
+                  ignored ? (Lines{"acm 15", "acm 7", "acm 15"}) : (Lines{"acm 15", "acm 15", "acm 7", "acm 15"}));
+    }
+}
+
+TEST_F(Notifications, EveryClientIsToldForItself)
+{
+    StartListening();
+    DWORD version = 0;
+    HANDLE other = nullptr;
+    NotificationRecorder otherRecorder;
+    ASSERT_EQ(Wlan().WlanOpenHandle(2, nullptr, &version, &other), ERROR_SUCCESS);
+    ASSERT_EQ(Wlan().WlanRegisterNotification(other, WLAN_NOTIFICATION_SOURCE_ACM, FALSE,
+                                              &NotificationRecorder::Callback, &otherRecorder, nullptr, nullptr),
+              ERROR_SUCCESS);
+    ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
+    EXPECT_EQ(Told(), (Lines{"acm 9", "msm 1"}));
+    EXPECT_EQ(otherRecorder.Take(), Lines{"acm 9"});
+    EXPECT_EQ(Wlan().WlanCloseHandle(other, nullptr), ERROR_SUCCESS);
+    computer->Advance(seconds(1));
+    computer->WaitForNotifications();
+    EXPECT_EQ(otherRecorder.Take(), Lines{});
+}
+
+TEST_F(Notifications, RefusedRegistrations)
+{
+    Start();
+    const auto callback = &NotificationRecorder::Callback;
+    const auto run = [&](HANDLE handle, WLAN_NOTIFICATION_CALLBACK function, PVOID reserved)
+    { return Wlan().WlanRegisterNotification(handle, 8, FALSE, function, &recorder, reserved, nullptr); };
+    EXPECT_EQ(run(nullptr, callback, nullptr), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(run(client, callback, &recorder), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(run(client, nullptr, nullptr), ERROR_INVALID_PARAMETER);
+    computer->SetServiceRunning(false);
+    EXPECT_EQ(run(client, callback, nullptr), ERROR_SERVICE_NOT_ACTIVE);
+}
+
+void WINAPI KeepRecords(L2_NOTIFICATION_DATA* data, PVOID context)
+{
+    auto& records = *static_cast<std::vector<std::pair<DWORD, Bytes>>*>(context);
+    const auto* const bytes = static_cast<const std::uint8_t*>(data->pData);
+    records.emplace_back(data->NotificationCode, Bytes(bytes, bytes + data->dwDataSize));
+}
+
+TEST_F(Notifications, CarryTheRecordsOfTheirModules)
+{
+    std::vector<std::pair<DWORD, Bytes>> records;
+    Start();
+    ASSERT_EQ(Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_ALL, FALSE, &KeepRecords, &records,
+                                              nullptr, nullptr),
+              ERROR_SUCCESS);
+    ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
+    computer->WaitForNotifications();
+    ASSERT_EQ(records.size(), 2u);
+
+    WLAN_CONNECTION_NOTIFICATION_DATA connection{};
+    ASSERT_EQ(records[0].second.size(), sizeof(connection));
+    std::memcpy(&connection, records[0].second.data(), sizeof(connection));
+    EXPECT_EQ(connection.wlanConnectionMode, wlan_connection_mode_profile);
+    EXPECT_STREQ(connection.strProfileName, L"HomeNet");
+    EXPECT_EQ(TextOf(connection.dot11Ssid), "HomeNet");
+    EXPECT_EQ(connection.dot11BssType, dot11_BSS_type_infrastructure);
+    EXPECT_TRUE(connection.bSecurityEnabled);
+
+    WLAN_MSM_NOTIFICATION_DATA media{};
+    ASSERT_EQ(records[1].second.size(), sizeof(media));
+    std::memcpy(&media, records[1].second.data(), sizeof(media));
+    EXPECT_STREQ(media.strProfileName, L"HomeNet");
+    EXPECT_EQ(media.dot11MacAddr[5], 1);
+    EXPECT_EQ(media.wlanReasonCode, WLAN_REASON_CODE_SUCCESS);
+
+    computer->SetRadio(0, 1, RadioSwitch::off, RadioSwitch::on);
+    computer->WaitForNotifications();
+    WLAN_PHY_RADIO_STATE radio{};
+    ASSERT_EQ(records.size(), 3u);
+    ASSERT_EQ(records[2].second.size(), sizeof(radio));
+    std::memcpy(&radio, records[2].second.data(), sizeof(radio));
+    EXPECT_EQ(radio.dwPhyIndex, 1u);
+    EXPECT_EQ(radio.dot11SoftwareRadioState, dot11_radio_state_off);
+    EXPECT_EQ(radio.dot11HardwareRadioState, dot11_radio_state_on);
+    EXPECT_EQ(Wlan().WlanCloseHandle(std::exchange(client, nullptr), nullptr), ERROR_SUCCESS);
+}
+
+} // namespace
+
+} // namespace calvix::simulation

@@ -1,0 +1,247 @@
+#include "support/contract_table.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
+#include "unit/autoconnect/requests.h"
+#include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <string>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+
+constexpr const char* kReadFailed = "WlanGetProfile failed with error: %u";
+
+const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
+
+/// On a platform that converts SSIDs with the flags that the method passes.
+long long AutoMode(CWirelessManage& manager)
+{
+    EditedAnswers edited;
+    edited.conversion.takesAllFlagsForUtf8 = true;
+    return manager.ConnectAutoMode(&kAdapterA);
+}
+
+class ConnectAutoModeTest : public LibraryTest
+{
+public:
+    ConnectAutoModeTest()
+        : LibraryTest(
+              WorldOf({Profile("Manual", "manual"), Profile("First"), Profile("Second")},
+                      {Heard("Second", 2412000, -55), Heard("First", 2412000, -80), Heard("Manual", 2412000, -50)}))
+    {
+    }
+};
+
+} // namespace
+
+TEST_F(ConnectAutoModeTest, AsksForTheFirstAutomaticProfileInView)
+{
+    EXPECT_EQ(0, AutoMode(manager()));
+    const auto read = [](const char* name)
+    {
+        return "WlanGetProfile" + kStart + ", name=\"" + name +
+               "\", reserved=null, xml=non-null, flags=4, grantedAccess=131073)";
+    };
+    const auto convert = [](const char* ssid)
+    {
+        // The flags are 9; the platform of this test has dropped the one that it refuses.
+        return "MultiByteToWideChar(codePage=65001, flags=8, source=\"" + std::string(ssid) +
+               "\", sourceLength=-1, destination=non-null, destinationLength=128)";
+    };
+    EXPECT_THAT(callLines(),
+                ElementsAre("WlanGetProfileList" + kStart + ", reserved=null, list=non-null)",
+                            "WlanGetAvailableNetworkList" + kStart + ", flags=0, reserved=null, list=non-null)",
+                            read("Manual"), kRelease, read("First"), kRelease, convert("Second"), convert("First"),
+                            StandardRequest("First"), kRelease, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+// Deliberate: the flags are those for narrow code pages, which the platform refuses for UTF-8. A network whose SSID is
+// not converted is passed over, also when it carries the profile's name.
+TEST_F(ConnectAutoModeTest, WhereThePlatformRefusesTheFlagsNoNetworkIsATarget)
+{
+    EXPECT_EQ(-9, manager().ConnectAutoMode(&kAdapterA));
+    EXPECT_EQ(6u, callCount("MultiByteToWideChar")) << "two automatic profiles, three networks";
+    EXPECT_EQ("9", call("MultiByteToWideChar")["flags"]);
+    EXPECT_EQ(0u, callCount("WlanConnect"));
+    EXPECT_TRUE(traced().empty());
+}
+
+TEST_F(ConnectAutoModeTest, ANetworkWhoseSsidIsNotUtf8IsPassedOver)
+{
+    EditedAnswers edited;
+    edited.conversion.takesAllFlagsForUtf8 = true;
+    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    { list.Network[1].dot11Ssid = MakeSsid("First\xE9"); };
+    EXPECT_EQ(0, manager().ConnectAutoMode(&kAdapterA));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Second")) << "First's has its name and is passed over";
+    EXPECT_TRUE(traced().empty());
+}
+
+TEST_F(ConnectAutoModeTest, ARefusedRequestIsFollowedByTheNextProfile)
+{
+    FailOn("WlanConnect", 1234, 1, 1);
+    EXPECT_EQ(0, AutoMode(manager()));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First", "Second"));
+    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 1234"));
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+// Deliberate: a walk on which every request was refused reports success.
+TEST_F(ConnectAutoModeTest, ARefusedOnlyWalkReportsSuccess)
+{
+    CheckFailures(
+        *this, {{"ConnectAutoMode", AutoMode, "WlanConnect", 0, {kConnectFailed, kConnectFailed}, TraceBuffer::local}});
+}
+
+// Deliberate: the request goes by the network's own profile name, which is empty where only the SSID matched.
+TEST_F(ConnectAutoModeTest, ANetworkMatchesByItsSsidToo)
+{
+    simulation::AccessPoint open = Heard("First", 2412000, -50);
+    open.authentication = "open";
+    open.encryption = "none";
+    UseWorld(WorldOf({Profile("First")}, {open})); // the profile is for the same SSID with WPA2
+    EXPECT_EQ(0, AutoMode(manager()));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre(""));
+    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 87"));
+}
+
+TEST_F(ConnectAutoModeTest, ANetworkMatchesByProfileNameThoughItsSsidDiffers)
+{
+    UseWorld(WorldOf({ProfileFor("Profile", "Net")}, {Heard("Other", 2412000, -50), Heard("Net", 2412000, -50)}));
+    EXPECT_EQ(0, AutoMode(manager()));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Profile"));
+}
+
+TEST_F(ConnectAutoModeTest, AnSsidThatReadsLikeAnotherProfileIsRequestedByItsOwnName)
+{
+    UseWorld(WorldOf({Profile("Net"), ProfileFor("Alias", "Net", "manual")}, {Heard("Net", 2412000, -50)}));
+    FailOn("WlanConnect");
+    EXPECT_EQ(0, AutoMode(manager()));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Net", "Alias")) << "the manual one, for its SSID";
+}
+
+TEST_F(ConnectAutoModeTest, NamesAndSsidsAreComparedExactly)
+{
+    UseWorld(WorldOf({ProfileFor("net", "Gone"), ProfileFor("Ne", "Gone"), ProfileFor("Net ", "Gone")},
+                     {Heard("Net", 2412000, -50)}));
+    EXPECT_EQ(-9, AutoMode(manager()));
+    UseWorld(WorldOf({ProfileFor("Caf\xC3\xA9", "Gone")}, {Heard("Caf\xC3\xA9", 2412000, -50)}));
+    EXPECT_EQ(0, AutoMode(manager())) << "SSIDs are UTF-8";
+}
+
+TEST_F(ConnectAutoModeTest, AnSsidThatStatesMoreThan64BytesReadsAsEmpty)
+{
+    EditedAnswers edited;
+    edited.conversion.takesAllFlagsForUtf8 = true;
+    ULONG stated = 65;
+    edited.service.networkList = [&stated](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        list.dwNumberOfItems = 1;
+        list.Network[0].dot11Ssid = MakeSsid(std::string(32, 's'));
+        list.Network[0].dot11Ssid.uSSIDLength = stated;
+    };
+    EXPECT_EQ(0, manager().ConnectAutoMode(&kAdapterA)) << "it still matches by its profile, Second";
+    EXPECT_EQ("\"\"", call("MultiByteToWideChar")["source"]);
+    stated = 64;
+    EXPECT_EQ(0, manager().ConnectAutoMode(&kAdapterA));
+    EXPECT_EQ('"' + std::string(32, 's') + '"', call("MultiByteToWideChar", 3)["source"]) << "no more than there is";
+}
+
+// --- Profiles ---------------------------------------------------------------------------------------------------
+
+TEST_F(ConnectAutoModeTest, ProfilesThatAreNotAutomaticAreNotUsed)
+{
+    UseWorld(WorldOf({Profile("Net", "manual")}, {Heard("Net", 2412000, -50)}));
+    EXPECT_EQ(-9, AutoMode(manager()));
+    EXPECT_EQ(0u, callCount("MultiByteToWideChar"));
+    UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50)}));
+    for (const wchar_t* text : {L"", L"</connectionMode>", L"<connectionMode>Auto</connectionMode>"})
+    {
+        EditedAnswers edited;
+        edited.service.SetProfileText(L"Net", text);
+        EXPECT_EQ(-9, AutoMode(manager()));
+    }
+    EXPECT_THAT(RequestedProfiles(*this), IsEmpty());
+}
+
+TEST_F(ConnectAutoModeTest, AProfileThatCannotBeReadIsNotUsed)
+{
+    FailOn("WlanGetProfile", 1234, 2, 1);
+    EXPECT_EQ(0, AutoMode(manager()));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Second"));
+    EXPECT_THAT(traced(), ElementsAre("WlanGetProfile failed with error: 1234"));
+}
+
+// Deliberate: only the first 1023 characters of a profile are looked at.
+TEST_F(ConnectAutoModeTest, AModeThatStandsTooFarBackIsNotSeen)
+{
+    const std::string end = "</connectionMode>";
+    for (const auto& [room, expected] : {std::pair{1023u, 0}, std::pair{1022u, -9}})
+    {
+        std::string xml = Profile("Net").xml;
+        const std::size_t seen = xml.find(end) + end.size();
+        ASSERT_LT(seen, room);
+        // White space before the mode pushes it back until it ends exactly, or one too late, for what is looked at.
+        xml.insert(xml.find("<connectionMode>"), 1023 - seen + (1023 - room), ' ');
+        ASSERT_EQ(1023 + (1023 - room), xml.find(end) + end.size());
+        UseWorld(WorldOf({{xml}}, {Heard("Net", 2412000, -50)}));
+        EXPECT_EQ(expected, AutoMode(manager())) << room;
+    }
+}
+
+// --- Failures ---------------------------------------------------------------------------------------------------
+
+TEST_F(ConnectAutoModeTest, Failures)
+{
+    const char* const name = "ConnectAutoMode";
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this,
+                  {{name, AutoMode, "WlanOpenHandle", -1, {kOpenFailed}, local},
+                   {name, AutoMode, "WlanGetProfileList", -4, {kProfilesFailed}, local},
+                   {name, AutoMode, "WlanGetAvailableNetworkList", -6, {kNetworksFailed}, local},
+                   {name, AutoMode, "WlanGetProfile", -9, {kReadFailed, kReadFailed, kReadFailed}, local},
+                   {name, AutoMode, "MultiByteToWideChar", -9, {}, local},
+                   {.method = name,
+                    .call = AutoMode,
+                    .expected = -5,
+                    .traced = {"No network profile: 4294967291"},
+                    .buffer = local,
+                    .prepare = [](auto& test) { test.UseWorld(NoProfileWorld()); }},
+                   {.method = name,
+                    .call = AutoMode,
+                    .expected = -7,
+                    .traced = {"No available network: 4294967289"},
+                    .buffer = local,
+                    .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }},
+                   {.method = name, .call = AutoMode, .expected = -9, .buffer = local, .prepare = [](auto& test) {
+                        test.UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+                    }}});
+}
+
+TEST_F(ConnectAutoModeTest, WhatComesWithAnErrorIsReleased)
+{
+    for (const auto& [operation, code] :
+         {std::pair{"WlanGetProfileList", -4}, std::pair{"WlanGetAvailableNetworkList", -6}})
+    {
+        const AlteredAnswers altered({.failingBesideAnswer = operation});
+        EXPECT_EQ(code, AutoMode(manager()));
+        ExpectNothingHeld();
+    }
+}
+
+TEST_F(ConnectAutoModeTest, NeedsNoMemoryOfItsOwn)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(-9, manager().ConnectAutoMode(&kAdapterA)); }));
+}
+
+} // namespace calvix::test

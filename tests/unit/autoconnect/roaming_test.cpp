@@ -1,0 +1,280 @@
+#include "support/contract_table.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
+#include "unit/autoconnect/requests.h"
+#include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+
+namespace
+{
+
+const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
+const std::string kConnectionQuery = "WlanQueryInterface" + kStart +
+                                     ", opcode=current_connection, reserved=null, "
+                                     "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, valueType=null)";
+const std::string kBssQuery = "WlanGetNetworkBssList" + kStart +
+                              ", ssid=\"Net\"/3, bssType=infrastructure, securityEnabled=true, reserved=null, "
+                              "list=non-null)";
+
+std::string RequestFor(const std::string& bssid)
+{
+    return "WlanConnect" + kStart + ", parameters={mode=profile, profile=\"Profile\", ssid=null, bssids=[" + bssid +
+           "], bssType=infrastructure, flags=0}, reserved=null)";
+}
+
+/// Net, heard from so many access points; the n-th has the address 02:00:00:00:00:0n, and the first is connected to,
+/// with a quality of 60. A second network is in view, too.
+simulation::Scenario NetFrom(std::size_t accessPoints)
+{
+    std::vector<simulation::AccessPoint> heard(accessPoints, Heard("Net", 2412000, -70));
+    heard.push_back(Heard("Other", 2412000, -50));
+    simulation::Scenario world = WorldOf({ProfileFor("Profile", "Net"), Profile("Other")}, heard);
+    world.adapters[0].connection = simulation::Connection{"Profile", world.accessPoints.front().bssid};
+    return world;
+}
+
+struct Method
+{
+    const char* name;
+    long long (*call)(CWirelessManage&);
+};
+
+const Method kMethods[] = {{"PreRoaming", [](CWirelessManage& m) -> long long { return m.PreRoaming(&kAdapterA); }},
+                           {"Roaming", [](CWirelessManage& m) -> long long { return m.Roaming(&kAdapterA); }}};
+
+/// Gives the access points their link qualities.
+std::function<void(WLAN_BSS_LIST&, unsigned)> WithQualities(std::vector<unsigned> qualities)
+{
+    return [qualities](WLAN_BSS_LIST& list, unsigned)
+    {
+        ASSERT_EQ(qualities.size(), list.dwNumberOfItems);
+        for (std::size_t i = 0; i < qualities.size(); ++i)
+            list.wlanBssEntries[i].uLinkQuality = qualities[i];
+    };
+}
+
+std::function<void(WLAN_CONNECTION_ATTRIBUTES&)> WithCurrentQuality(ULONG quality)
+{
+    return [quality](WLAN_CONNECTION_ATTRIBUTES& connection)
+    { connection.wlanAssociationAttributes.wlanSignalQuality = quality; };
+}
+
+/// A better access point is there: the second.
+class RoamingTest : public LibraryTest
+{
+public:
+    RoamingTest() : LibraryTest(BetterSecond()) {}
+
+    static simulation::Scenario BetterSecond()
+    {
+        simulation::Scenario world = NetFrom(2);
+        world.accessPoints[1].rssi = -55;
+        return world;
+    }
+};
+
+} // namespace
+
+TEST_F(RoamingTest, PreRoamingOnlyDecides)
+{
+    EXPECT_EQ(0, manager().PreRoaming(&kAdapterA));
+    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery, kBssQuery, kRelease, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(RoamingTest, RoamingAsksForTheBetterAccessPointByTheSameProfile)
+{
+    EXPECT_EQ(0, manager().Roaming(&kAdapterA));
+    EXPECT_THAT(callLines(),
+                ElementsAre(kConnectionQuery, kBssQuery, RequestFor("02:00:00:00:00:02"), kRelease, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+
+    Advance(std::chrono::seconds(5));
+    WLAN_CONNECTION_ATTRIBUTES now{};
+    EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &now));
+    EXPECT_EQ(2, now.wlanAssociationAttributes.dot11Bssid[5]);
+    EXPECT_EQ(-5, manager().PreRoaming(&kAdapterA)) << "there it is good enough";
+}
+
+TEST_F(RoamingTest, TheCurrentBssTypeAndSecurityAreAskedFor)
+{
+    for (const auto& [name, method] : kMethods)
+    {
+        EditedAnswers edited;
+        edited.service.currentConnection = [](WLAN_CONNECTION_ATTRIBUTES& connection)
+        {
+            connection.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_independent;
+            connection.wlanSecurityAttributes.bSecurityEnabled = FALSE;
+        };
+        ClearCalls();
+        EXPECT_EQ(-7, method(manager())) << name;
+        EXPECT_EQ("independent", call("WlanGetNetworkBssList")["bssType"]);
+        EXPECT_EQ("false", call("WlanGetNetworkBssList")["securityEnabled"]);
+    }
+}
+
+TEST_F(RoamingTest, AQualityOf80IsGoodEnough)
+{
+    for (const auto& [name, method] : kMethods)
+    {
+        for (const auto& [quality, code] :
+             {std::pair{79, 0}, std::pair{80, -5}, std::pair{81, -5}, std::pair{100, -5}, std::pair{0, 0}})
+        {
+            Restart();
+            EditedAnswers edited;
+            edited.service.currentConnection = WithCurrentQuality(static_cast<ULONG>(quality));
+            EXPECT_EQ(code, method(manager())) << name << " at " << quality;
+            EXPECT_EQ(code == 0 ? 1u : 0u, callCount("WlanGetNetworkBssList")) << name << " at " << quality;
+            EXPECT_TRUE(traced().empty());
+        }
+    }
+}
+
+// Deliberate: the first access point's quality stays the reference, so that the pick need not be the best one.
+TEST_F(RoamingTest, ThePickIsTheLastAccessPointThatBeatsTheFirst)
+{
+    struct Choice
+    {
+        std::vector<unsigned> qualities;
+        unsigned picked; ///< from 1
+    };
+    const Choice choices[] = {{{50, 90, 70, 60}, 4}, {{50, 90, 70, 50}, 3}, {{50, 90, 40, 30}, 2},
+                              {{50, 50, 51, 50}, 3}, {{0, 0x80000000}, 2},  {{0x7FFFFFFF, 0x80000000, 0}, 2}};
+    for (const auto& [qualities, picked] : choices)
+    {
+        SCOPED_TRACE(::testing::PrintToString(qualities));
+        UseWorld(NetFrom(qualities.size()));
+        EditedAnswers edited;
+        edited.service.bssList = WithQualities(qualities);
+        EXPECT_EQ(0, manager().PreRoaming(&kAdapterA));
+        EXPECT_EQ(0, manager().Roaming(&kAdapterA));
+        EXPECT_EQ(RequestFor("02:00:00:00:00:0" + std::to_string(picked)), call("WlanConnect").Line());
+    }
+}
+
+TEST_F(RoamingTest, WhereThePickIsTheCurrentAccessPointThereIsNoMove)
+{
+    for (const std::vector<unsigned>& qualities : {std::vector{50u}, std::vector{90u, 50u, 60u}, std::vector{60u, 60u}})
+    {
+        SCOPED_TRACE(::testing::PrintToString(qualities));
+        UseWorld(NetFrom(qualities.size()));
+        EditedAnswers edited;
+        edited.service.bssList = WithQualities(qualities);
+        for (const auto& [name, method] : kMethods)
+            EXPECT_EQ(-8, method(manager())) << name;
+        EXPECT_EQ(0u, callCount("WlanConnect"));
+        EXPECT_TRUE(traced().empty());
+        EXPECT_TRUE(sharedTraceUntouched());
+    }
+}
+
+TEST_F(RoamingTest, AccessPointsAreTheSameWhenAllSixBytesAre)
+{
+    for (std::size_t byte = 0; byte < 6; ++byte)
+    {
+        UseWorld(NetFrom(1));
+        EditedAnswers edited;
+        edited.service.bssList = [byte](WLAN_BSS_LIST& list, unsigned)
+        { list.wlanBssEntries[0].dot11Bssid[byte] ^= 0x80; };
+        EXPECT_EQ(0, manager().PreRoaming(&kAdapterA)) << "byte " << byte;
+    }
+}
+
+TEST_F(RoamingTest, ExactlyOneAccessPointIsDesired)
+{
+    EditedAnswers edited;
+    unsigned requests = 0;
+    edited.service.connectRequest = [&requests](const WLAN_CONNECTION_PARAMETERS& parameters)
+    {
+        ++requests;
+        const DOT11_BSSID_LIST& desired = *parameters.pDesiredBssidList;
+        EXPECT_EQ(0x80, desired.Header.Type);
+        EXPECT_EQ(1, desired.Header.Revision);
+        EXPECT_EQ(sizeof(DOT11_BSSID_LIST), desired.Header.Size);
+        EXPECT_EQ(1u, desired.uNumOfEntries);
+        EXPECT_EQ(1u, desired.uTotalNumOfEntries);
+    };
+    EXPECT_EQ(0, manager().Roaming(&kAdapterA));
+    EXPECT_EQ(1u, requests);
+}
+
+TEST_F(RoamingTest, NoAccessPointInView)
+{
+    EditedAnswers edited;
+    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
+    for (const auto& [name, method] : kMethods)
+        EXPECT_EQ(-7, method(manager())) << name;
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectNothingHeld();
+}
+
+TEST_F(RoamingTest, Failures)
+{
+    const auto local = TraceBuffer::local;
+    for (const auto& [name, method] : kMethods)
+    {
+        CheckFailures(*this, {{name, method, "WlanOpenHandle", -1, {kOpenFailed}, local},
+                              {name, method, "WlanQueryInterface", -4, {kQueryFailed}, local},
+                              {name, method, "WlanGetNetworkBssList", -6, {}, local},
+                              {.method = std::string(name) + ", not connected",
+                               .call = method,
+                               .expected = -4,
+                               .traced = {kNotConnected},
+                               .buffer = local,
+                               .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
+    }
+    CheckFailures(*this, {{"Roaming", kMethods[1].call, "WlanConnect", -9, {kConnectFailed}, local}});
+}
+
+TEST_F(RoamingTest, ARefusedMoveLeavesTheConnectionAlone)
+{
+    FailOn("WlanConnect");
+    EXPECT_EQ(-9, manager().Roaming(&kAdapterA));
+    EXPECT_EQ(1u, callCount("WlanConnect")) << "not tried again";
+    EXPECT_EQ(0u, callCount("WlanDisconnect"));
+    WLAN_CONNECTION_ATTRIBUTES now{};
+    EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &now));
+    EXPECT_EQ(1, now.wlanAssociationAttributes.dot11Bssid[5]);
+}
+
+TEST_F(RoamingTest, ANullInterfaceIsTheServicesToRefuse)
+{
+    EXPECT_EQ(-4, manager().PreRoaming(nullptr));
+    EXPECT_EQ(-4, manager().Roaming(nullptr));
+}
+
+TEST_F(RoamingTest, WhatComesWithAnErrorIsReleased)
+{
+    for (const auto& [name, method] : kMethods)
+    {
+        {
+            const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
+            EXPECT_EQ(-4, method(manager())) << name;
+        }
+        const AlteredAnswers altered({.failingBesideAnswer = "WlanGetNetworkBssList"});
+        EXPECT_EQ(-6, method(manager())) << name;
+        ExpectNothingHeld();
+    }
+}
+
+TEST_F(RoamingTest, NeedsNoMemoryOfItsOwn)
+{
+    for (const auto& [name, method] : kMethods)
+        EXPECT_EQ(0u, CountLibraryAllocations([&, call = method] { EXPECT_EQ(0, call(manager())); })) << name;
+}
+
+} // namespace calvix::test

@@ -1,0 +1,172 @@
+#include "support/contract_table.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
+#include "unit/autoconnect/requests.h"
+#include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+
+const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
+
+/// SmartConnecting, which has to leave the text alone unless it returns 0 with a connection.
+long long ConnectWritingNothing(CWirelessManage& manager)
+{
+    char name[128] = "marked";
+    const int code = manager.SmartConnecting(&kAdapterA, name);
+    EXPECT_STREQ("marked", name);
+    return code;
+}
+
+class SmartConnectingTest : public LibraryTest
+{
+public:
+    SmartConnectingTest()
+        : LibraryTest(WorldOf({Profile("GoneNet"), Profile("First", "manual"), Profile("Second")},
+                              {Heard("Second", 2412000, -55), Heard("First", 2412000, -80)}))
+    {
+    }
+};
+
+} // namespace
+
+TEST_F(SmartConnectingTest, AsksForTheFirstProfileInViewAndTellsItsName)
+{
+    char name[128] = "marked";
+    EXPECT_EQ(0, manager().SmartConnecting(&kAdapterA, name));
+    EXPECT_STREQ("First", name);
+    EXPECT_THAT(callLines(),
+                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
+                            "WlanGetProfileList" + kStart + ", reserved=null, list=non-null)",
+                            "WlanGetAvailableNetworkList" + kStart + ", flags=0, reserved=null, list=non-null)",
+                            StandardRequest("First"), kRelease, kRelease, kRelease));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(SmartConnectingTest, WorksOnTheFirstInterfaceWhicheverIsNamed)
+{
+    UseWorld(DisconnectedWorld());
+    for (const GUID* interfaceGuid : {&kAdapterB, &kNoAdapter, static_cast<const GUID*>(nullptr)})
+    {
+        ClearCalls();
+        char name[128] = {};
+        EXPECT_EQ(0, manager().SmartConnecting(interfaceGuid, name));
+        EXPECT_STREQ("HomeNet", name);
+        EXPECT_EQ(StandardRequest("HomeNet"), call("WlanConnect").Line());
+    }
+}
+
+TEST_F(SmartConnectingTest, TheNameIsOptional)
+{
+    EXPECT_EQ(0, manager().SmartConnecting(&kAdapterA, nullptr));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First"));
+}
+
+TEST_F(SmartConnectingTest, TheNameIsCutToWhatTheTextHolds)
+{
+    for (const std::size_t length : {126u, 127u, 128u, 255u})
+    {
+        const std::string profile(length, 'n');
+        UseWorld(WorldOf({ProfileFor(profile, "Net")}, {Heard("Net", 2412000, -50)}));
+        char text[130];
+        std::memset(text, '#', sizeof text);
+        EXPECT_EQ(0, manager().SmartConnecting(&kAdapterA, text));
+        const std::size_t kept = (std::min)(length, std::size_t{127});
+        EXPECT_EQ(std::string(kept, 'n'), text);
+        EXPECT_EQ(std::string(2, '#'), std::string(text + 128, 2)) << "no more than 128 bytes are written";
+        EXPECT_THAT(RequestedProfiles(*this), ElementsAre(profile)) << "the request has the whole name";
+    }
+}
+
+// The scan for a profile stops at its first match; no other network of that name is requested.
+TEST_F(SmartConnectingTest, TheFirstNetworkOfTheProfileIsTaken)
+{
+    EditedAnswers edited;
+    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        std::copy_n(L"First", 6, list.Network[0].strProfileName);
+        list.Network[0].dot11BssType = dot11_BSS_type_independent;
+    };
+    EXPECT_EQ(87, ConnectWritingNothing(manager())) << "the profile is of another BSS type";
+    EXPECT_EQ(1u, callCount("WlanConnect"));
+    EXPECT_EQ(StandardRequest("First", "independent"), call("WlanConnect").Line());
+}
+
+TEST_F(SmartConnectingTest, ARefusedRequestIsTheEnd)
+{
+    FailOn("WlanConnect", 0x80342002);
+    EXPECT_EQ(static_cast<int>(0x80342002u), ConnectWritingNothing(manager()));
+    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First"));
+    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 2150899714"));
+}
+
+TEST_F(SmartConnectingTest, NothingToConnectTo)
+{
+    const auto expectNothing = [this]
+    {
+        EXPECT_EQ(-2, ConnectWritingNothing(manager()));
+        EXPECT_EQ(1u, callCount("WlanGetAvailableNetworkList"));
+        EXPECT_THAT(RequestedProfiles(*this), IsEmpty());
+        EXPECT_TRUE(traced().empty());
+    };
+    UseWorld(WorldOf({Profile("GoneNet"), Profile("net")}, {Heard("Net", 2412000, -50)}));
+    expectNothing();
+    UseWorld(SilentWorld());
+    expectNothing();
+    UseWorld(NoProfileWorld());
+    expectNothing();
+}
+
+TEST_F(SmartConnectingTest, OpensTheClientWhenItIsNotOpen)
+{
+    ForgetClient();
+    EXPECT_EQ(0, manager().SmartConnecting(nullptr, nullptr));
+    EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
+}
+
+TEST_F(SmartConnectingTest, Failures)
+{
+    const char* const name = "SmartConnecting";
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this, {{name, ConnectWritingNothing, "WlanOpenHandle", -1, {kOpenFailed}, local},
+                          {name, ConnectWritingNothing, "WlanEnumInterfaces", 5, {kEnumFailed}, local},
+                          {name, ConnectWritingNothing, "WlanGetProfileList", 5, {kProfilesFailed}, local},
+                          {name, ConnectWritingNothing, "WlanGetAvailableNetworkList", 5, {kNetworksFailed}, local},
+                          {name, ConnectWritingNothing, "WlanConnect", 5, {kConnectFailed}, local}});
+}
+
+// Deliberate: no adapter reads as success.
+TEST_F(SmartConnectingTest, WithoutAnAdapterItSucceedsAndWritesNothing)
+{
+    CheckFailures(*this, {{.method = "SmartConnecting",
+                           .call = ConnectWritingNothing,
+                           .expected = 0,
+                           .traced = {kNoAdapterText},
+                           .buffer = TraceBuffer::local,
+                           .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }}});
+}
+
+TEST_F(SmartConnectingTest, WhatComesWithAnErrorIsReleased)
+{
+    for (const char* operation : {"WlanEnumInterfaces", "WlanGetProfileList", "WlanGetAvailableNetworkList"})
+    {
+        const AlteredAnswers altered({.failingBesideAnswer = operation});
+        EXPECT_EQ(5, ConnectWritingNothing(manager())) << operation;
+        ExpectNothingHeld();
+    }
+}
+
+} // namespace calvix::test

@@ -1,0 +1,379 @@
+#include "support/contract_table.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <atomic>
+#include <latch>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+struct Heard
+{
+    DWORD source;
+    DWORD code;
+    GUID interfaceGuid;
+    std::thread::id thread;
+};
+
+/// A client's callback and what it has heard.
+class Listener
+{
+public:
+    static void CALLBACK Callback(PWLAN_NOTIFICATION_DATA data, PVOID context)
+    {
+        auto& self = *static_cast<Listener*>(context);
+        const std::lock_guard lock(self.m_mutex);
+        self.m_heard.push_back(
+            {data->NotificationSource, data->NotificationCode, data->InterfaceGuid, std::this_thread::get_id()});
+    }
+
+    std::vector<Heard> All() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_heard;
+    }
+
+    std::size_t Count() const { return All().size(); }
+
+    std::size_t Count(DWORD code) const
+    {
+        const std::vector<Heard> heard = All();
+        return static_cast<std::size_t>(
+            std::count_if(heard.begin(), heard.end(), [code](const Heard& each) { return each.code == code; }));
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::vector<Heard> m_heard;
+};
+
+void CALLBACK NeverCalled(PWLAN_NOTIFICATION_DATA, PVOID)
+{
+    ADD_FAILURE() << "this callback is only named, never registered";
+}
+
+class NotificationsTest : public LibraryTest
+{
+public:
+    int Register(Listener& listener) { return manager().RegisterNotification(Listener::Callback, &listener); }
+
+    /// Has adapter A look for networks, and everybody told.
+    void Scan()
+    {
+        unsigned long error = 0;
+        ASSERT_EQ(0, manager().Rescan(&kAdapterA, error));
+        Advance(4s);
+        computer().WaitForNotifications();
+    }
+
+    /// Something that is notified at once.
+    void MakeNews()
+    {
+        m_setting = m_setting % 3 + 1;
+        computer().SetPowerSetting(static_cast<WLAN_POWER_SETTING>(m_setting));
+    }
+
+protected:
+    Listener m_first;
+    Listener m_second;
+
+private:
+    unsigned m_setting = 0;
+};
+
+long long RegisterSomething(CWirelessManage& manager)
+{
+    return manager.RegisterNotification(NeverCalled, nullptr);
+}
+
+long long Unregister(CWirelessManage& manager)
+{
+    return manager.UnRegisterNotification(NeverCalled, nullptr);
+}
+
+} // namespace
+
+// --- The calls ---
+
+TEST_F(NotificationsTest, RegistersForTheAutoConfigurationModule)
+{
+    EXPECT_EQ(0, Register(m_first));
+    EXPECT_THAT(callLines(), ElementsAre("WlanRegisterNotification(client=1, source=8, ignoreDuplicate=true, "
+                                         "callback=non-null, context=non-null, reserved=null, "
+                                         "previousSource=non-null)"));
+    EXPECT_THAT(traced(), ElementsAre("WlanRegisterNotification: 0")) << "success is traced as well";
+    EXPECT_EQ("WlanRegisterNotification: 0", sharedTrace());
+}
+
+// Deliberate: whichever callback is named, the one registered is meant.
+TEST_F(NotificationsTest, UnregistersWhateverIsRegistered)
+{
+    EXPECT_EQ(0, manager().UnRegisterNotification(NeverCalled, &m_first)) << "nothing is registered";
+    EXPECT_THAT(callLines(), ElementsAre("WlanRegisterNotification(client=1, source=0, ignoreDuplicate=false, "
+                                         "callback=null, context=non-null, reserved=null, "
+                                         "previousSource=non-null)"));
+    EXPECT_THAT(traced(), ElementsAre("WlanUnRegisterNotification: 0"));
+    EXPECT_EQ("WlanUnRegisterNotification: 0", sharedTrace());
+}
+
+TEST_F(NotificationsTest, TheTraceIsFormattedWithTracingOff)
+{
+    SetTracing(false);
+    EXPECT_EQ(0, Register(m_first));
+    EXPECT_EQ("WlanRegisterNotification: 0", sharedTrace());
+    EXPECT_THAT(traced(), IsEmpty());
+}
+
+TEST_F(NotificationsTest, EveryWayToFail)
+{
+    CheckFailures(*this, {
+                             {.method = "RegisterNotification",
+                              .call = RegisterSomething,
+                              .failingOperation = "WlanOpenHandle",
+                              .expected = 1722,
+                              .traced = {kOpenFailed},
+                              .error = 1722},
+                             {.method = "RegisterNotification",
+                              .call = RegisterSomething,
+                              .failingOperation = "WlanRegisterNotification",
+                              .expected = 5,
+                              .traced = {"WlanRegisterNotification: %u"}},
+                             {.method = "UnRegisterNotification",
+                              .call = Unregister,
+                              .failingOperation = "WlanOpenHandle",
+                              .expected = 1722,
+                              .traced = {kOpenFailed},
+                              .error = 1722},
+                             {.method = "UnRegisterNotification",
+                              .call = Unregister,
+                              .failingOperation = "WlanRegisterNotification",
+                              .expected = 5,
+                              .traced = {"WlanUnRegisterNotification: %u"}},
+                         });
+}
+
+// The result and the traced number are signed.
+TEST_F(NotificationsTest, LargeErrorsAreNegative)
+{
+    FailOn("WlanRegisterNotification", 0x80070005);
+    EXPECT_EQ(-2147024891, Register(m_first));
+    EXPECT_EQ(-2147024891, manager().UnRegisterNotification(nullptr, nullptr));
+    EXPECT_THAT(traced(),
+                ElementsAre("WlanRegisterNotification: -2147024891", "WlanUnRegisterNotification: -2147024891"));
+}
+
+TEST_F(NotificationsTest, ANullCallbackIsTheServicesToRefuse)
+{
+    EXPECT_EQ(87, manager().RegisterNotification(nullptr, nullptr));
+    EXPECT_EQ(0, manager().UnRegisterNotification(nullptr, nullptr));
+}
+
+TEST_F(NotificationsTest, NeedsNoMemoryOfItsOwn)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { Register(m_first); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { Unregister(manager()); }));
+}
+
+// --- What clients hear ---
+
+TEST_F(NotificationsTest, TheClientHearsOfAScanOnAThreadOfTheService)
+{
+    Register(m_first);
+    Scan();
+    EXPECT_EQ(1u, m_first.Count(wlan_notification_acm_scan_complete));
+    for (const Heard& heard : m_first.All())
+    {
+        EXPECT_EQ(WLAN_NOTIFICATION_SOURCE_ACM, heard.source);
+        EXPECT_NE(std::this_thread::get_id(), heard.thread);
+        EXPECT_TRUE(heard.code != wlan_notification_acm_scan_complete || kAdapterA == heard.interfaceGuid);
+    }
+}
+
+TEST_F(NotificationsTest, OtherModulesAreNotHeard)
+{
+    Register(m_first);
+    EXPECT_EQ(0, manager().RadioTurnOff(&kAdapterA)) << "the media-specific module tells of this";
+    Advance(1s);
+    computer().WaitForNotifications();
+    for (const Heard& heard : m_first.All())
+        EXPECT_EQ(WLAN_NOTIFICATION_SOURCE_ACM, heard.source);
+}
+
+// One registration for the process.
+TEST_F(NotificationsTest, ASecondRegistrationReplacesTheFirst)
+{
+    Register(m_first);
+    Register(m_second);
+    Scan();
+    EXPECT_EQ(0u, m_first.Count());
+    EXPECT_EQ(1u, m_second.Count(wlan_notification_acm_scan_complete));
+}
+
+TEST_F(NotificationsTest, NothingIsHeardAfterUnregistering)
+{
+    Register(m_first);
+    EXPECT_EQ(0, manager().UnRegisterNotification(NeverCalled, nullptr)) << "by another name and context";
+    Scan();
+    EXPECT_EQ(0u, m_first.Count());
+    Register(m_second);
+    Scan();
+    EXPECT_EQ(0u, m_first.Count());
+    EXPECT_NE(0u, m_second.Count());
+}
+
+TEST_F(NotificationsTest, ClosingTheClientHandleEndsTheRegistration)
+{
+    Register(m_first);
+    CWirelessManage::Delete();
+    MakeNews();
+    Advance(120s);
+    computer().WaitForNotifications();
+    EXPECT_EQ(0u, m_first.Count());
+}
+
+// --- Callbacks beside the client's calls ---
+
+namespace
+{
+
+/// Lets other threads run, a little more with each turn.
+void GiveWay(unsigned turns)
+{
+    for (unsigned turn = 0; turn < turns; ++turn)
+        std::this_thread::yield();
+}
+
+/// Holds its callback up until it is let go, and then a little longer.
+struct SlowListener
+{
+    std::latch entered{1};
+    std::latch letGo{1};
+    bool left = false; ///< deliberately unprotected: who has waited for the callback may read it
+
+    static void CALLBACK Callback(PWLAN_NOTIFICATION_DATA, PVOID context)
+    {
+        auto& self = *static_cast<SlowListener*>(context);
+        if (self.left)
+            return;
+        self.entered.count_down();
+        self.letGo.wait();
+        GiveWay(1000);
+        self.left = true;
+    }
+};
+
+/// Counts without any protection, in memory that goes away as soon as the registration is ended.
+struct ShortLivedListener
+{
+    unsigned heard = 0;
+
+    static void CALLBACK Callback(PWLAN_NOTIFICATION_DATA, PVOID context)
+    {
+        GiveWay(2);
+        ++static_cast<ShortLivedListener*>(context)->heard;
+    }
+};
+
+/// Calls the library from the callback.
+struct AskingListener
+{
+    CWirelessManage& manager;
+    std::atomic<unsigned> connected{0};
+
+    static void CALLBACK Callback(PWLAN_NOTIFICATION_DATA, PVOID context)
+    {
+        auto& self = *static_cast<AskingListener*>(context);
+        self.connected += self.manager.GetWlanIsLink(&kAdapterA) ? 1 : 0;
+    }
+};
+
+} // namespace
+
+TEST_F(NotificationsTest, WhatEndsARegistrationWaitsForTheRunningCallback)
+{
+    const std::function<void()> ends[] = {[this] { Unregister(manager()); }, [this] { Register(m_second); },
+                                          [] { CWirelessManage::Delete(); }};
+    for (const auto& end : ends)
+    {
+        SlowListener listener;
+        manager().RegisterNotification(SlowListener::Callback, &listener);
+        MakeNews();
+        listener.entered.wait();
+        std::thread letsGo([&listener] { listener.letGo.count_down(); });
+        end();
+        EXPECT_TRUE(listener.left);
+        letsGo.join();
+    }
+}
+
+TEST_F(NotificationsTest, RegistrationsComeAndGoWhileTheServiceNotifies)
+{
+    std::size_t heard = 0;
+    for (unsigned round = 0; round < 200; ++round)
+    {
+        auto replaced = std::make_unique<ShortLivedListener>();
+        auto last = std::make_unique<ShortLivedListener>();
+        ASSERT_EQ(0, manager().RegisterNotification(ShortLivedListener::Callback, replaced.get()));
+        for (unsigned news = 0; news <= round % 4; ++news)
+            MakeNews();
+        GiveWay(round % 8);
+        ASSERT_EQ(0, manager().RegisterNotification(ShortLivedListener::Callback, last.get()));
+        heard += replaced->heard;
+        replaced.reset();
+        MakeNews();
+        if (round % 8 == 0)
+            Advance(70s);
+        // Some rounds end in the middle of things, some with everything delivered but the last.
+        if (round % 2 == 0)
+            computer().WaitForNotifications();
+        MakeNews();
+        GiveWay(round % 16);
+        ASSERT_EQ(0, manager().UnRegisterNotification(nullptr, nullptr));
+        heard += last->heard;
+        last.reset();
+        MakeNews();
+    }
+    computer().WaitForNotifications();
+    EXPECT_GE(heard, 100u) << "at least one in each round that waited";
+}
+
+TEST_F(NotificationsTest, TheClientIsDeletedWhileTheServiceNotifies)
+{
+    auto listener = std::make_unique<ShortLivedListener>();
+    manager().RegisterNotification(ShortLivedListener::Callback, listener.get());
+    for (int news = 0; news < 50; ++news)
+        MakeNews();
+    GiveWay(10);
+    CWirelessManage::Delete();
+    listener.reset();
+    MakeNews();
+    Advance(70s);
+    computer().WaitForNotifications();
+    EXPECT_EQ(0u, computer().Audit().openClients);
+}
+
+TEST_F(NotificationsTest, ACallbackMayCallTheLibrary)
+{
+    AskingListener listener{manager()};
+    manager().RegisterNotification(AskingListener::Callback, &listener);
+    for (int round = 0; round < 20; ++round)
+    {
+        MakeNews();
+        EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
+    }
+    computer().WaitForNotifications();
+    EXPECT_EQ(0, Unregister(manager()));
+    EXPECT_EQ(20u, listener.connected.load());
+}
+
+} // namespace calvix::test

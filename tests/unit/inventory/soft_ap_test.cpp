@@ -1,0 +1,340 @@
+#include "support/contract_table.h"
+#include "support/forwarding_platform.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <cwchar>
+#include <optional>
+
+namespace calvix::test
+{
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+
+using Names = std::vector<std::string>;
+
+const std::string kA = kAdapterAText;
+const Names kBefore = {"from", "before"};
+
+/// A platform whose conversions take the flags that Windows refuses beside UTF-8.
+class LenientText final : public platform::Text
+{
+public:
+    explicit LenientText(platform::Text& inner) : m_inner(inner) {}
+
+    int MultiByteToWideChar(UINT codePage,
+                            DWORD flags,
+                            const char* source,
+                            int sourceLength,
+                            wchar_t* destination,
+                            int destinationLength) override
+    {
+        EXPECT_EQ(65001u, codePage);
+        EXPECT_EQ(9u, flags);
+        EXPECT_EQ(256, destinationLength);
+        return m_inner.MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, source, sourceLength, destination,
+                                           destinationLength);
+    }
+
+    int WideCharToMultiByte(UINT codePage,
+                            DWORD flags,
+                            const wchar_t* source,
+                            int sourceLength,
+                            char* destination,
+                            int destinationLength,
+                            const char* defaultCharacter,
+                            BOOL* usedDefaultCharacter) override
+    {
+        EXPECT_EQ(0u, codePage);
+        EXPECT_EQ(9u, flags);
+        EXPECT_EQ(-1, sourceLength);
+        EXPECT_EQ(128, destinationLength);
+        EXPECT_EQ(nullptr, defaultCharacter);
+        EXPECT_EQ(nullptr, usedDefaultCharacter);
+        return m_inner.WideCharToMultiByte(codePage, 0, source, sourceLength, destination, destinationLength,
+                                           defaultCharacter, usedDefaultCharacter);
+    }
+
+    int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity) override
+    {
+        return m_inner.StringFromGUID2(guid, text, capacity);
+    }
+
+private:
+    platform::Text& m_inner;
+};
+
+class LenientPlatform final : public ForwardingPlatform
+{
+public:
+    platform::Text& text() override { return m_text; }
+
+private:
+    LenientText m_text{inner().text()};
+};
+
+/// An airspace of these SSIDs, the strongest first, without any profile.
+simulation::Scenario WorldOf(const std::vector<std::string>& ssids)
+{
+    simulation::Scenario world = NoProfileWorld();
+    world.accessPoints.clear();
+    for (const std::string& ssid : ssids)
+    {
+        const auto number = static_cast<std::uint8_t>(world.accessPoints.size());
+        world.accessPoints.push_back(MakeAccessPoint(ssid, {2, 0, 0, 0, 0, number}, 2412000, -50 - number));
+    }
+    return world;
+}
+
+class SoftApTest : public LibraryTest
+{
+public:
+    Names List()
+    {
+        Names names = kBefore;
+        EXPECT_EQ(0, manager().GetSoftAPList(&kAdapterA, &names));
+        return names;
+    }
+
+    Names LenientList(const std::vector<std::string>& ssids)
+    {
+        UseWorld(WorldOf(ssids));
+        const LenientPlatform lenient;
+        return List();
+    }
+};
+
+/// GetSoftAPList that has to leave the vector alone.
+long long FailingList(CWirelessManage& manager)
+{
+    Names names = kBefore;
+    const int code = manager.GetSoftAPList(&kAdapterA, &names);
+    EXPECT_EQ(kBefore, names);
+    return code;
+}
+
+long long Special(CWirelessManage& manager)
+{
+    return manager.SpecialSoftAP() ? 1 : 0;
+}
+
+/// The current connection, made through a profile of this name.
+AnswerChanges WithProfileName(const std::wstring& name)
+{
+    const auto change = [name](WLAN_INTF_OPCODE opcode, PVOID data, DWORD&)
+    {
+        ASSERT_EQ(wlan_intf_opcode_current_connection, opcode);
+        auto& connection = *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data);
+        ASSERT_LE(name.size(), std::size(connection.strProfileName));
+        std::wmemset(connection.strProfileName, L'\0', std::size(connection.strProfileName));
+        name.copy(connection.strProfileName, name.size());
+    };
+    return {.query = change};
+}
+
+} // namespace
+
+// --- GetSoftAPList ---
+
+// Deliberate: Windows refuses these flags beside UTF-8, so that every conversion fails there and nothing is listed.
+TEST_F(SoftApTest, NothingIsListedWherePrecomposedUtf8IsRefused)
+{
+    UseWorld(WorldOf({"MyLC#Net", "LC#"}));
+    EXPECT_THAT(List(), IsEmpty()) << "what was in the vector is gone all the same";
+    EXPECT_THAT(calls(), ElementsAre("WlanGetAvailableNetworkList", "MultiByteToWideChar", "MultiByteToWideChar",
+                                     "WlanFreeMemory"));
+    EXPECT_EQ("WlanGetAvailableNetworkList(client=1, interface=" + kA + ", flags=0, reserved=null, list=non-null)",
+              callLines()[0]);
+    EXPECT_EQ("MultiByteToWideChar(codePage=65001, flags=9, source=\"MyLC#Net\", sourceLength=-1, "
+              "destination=non-null, destinationLength=256)",
+              callLines()[1]);
+    EXPECT_THAT(traced(), IsEmpty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(SoftApTest, ListsTheSsidsThatHoldTheMarkerInListOrder)
+{
+    EXPECT_THAT(LenientList({"MyLC#Net", "HomeNet", "LC#", "NetLC#", "LC#LC#"}),
+                ElementsAre("MyLC#Net", "LC#", "NetLC#", "LC#LC#"));
+}
+
+TEST_F(SoftApTest, TheMarkerIsThreeCharactersAndCaseSensitive)
+{
+    EXPECT_THAT(LenientList({"lc#net", "Lc#", "LC", "LC-#", "L", "#CL", "LC #"}), IsEmpty());
+}
+
+TEST_F(SoftApTest, AnEmptyListEmptiesTheVector)
+{
+    EXPECT_THAT(LenientList({}), IsEmpty());
+}
+
+TEST_F(SoftApTest, TheSsidEndsAtItsFirstZeroByteWhateverItsLength)
+{
+    EXPECT_THAT(LenientList({std::string("LC\0#", 4), std::string("LC#\0Net", 7), std::string("\0LC#", 4)}),
+                ElementsAre("LC#"));
+
+    const LenientPlatform lenient;
+    const AlteredAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+                                  {
+                                      DOT11_SSID& ssid = list.Network[0].dot11Ssid;
+                                      ssid = MakeSsid("NetLC#");
+                                      ssid.uSSIDLength = 2;
+                                  }});
+    EXPECT_THAT(List(), ElementsAre("NetLC#", "LC#")) << "the stated length is not used";
+}
+
+TEST_F(SoftApTest, AnSsidMayFillItsRoom)
+{
+    const std::string full = std::string(29, 'x') + "LC#";
+    EXPECT_THAT(LenientList({full}), ElementsAre(full));
+}
+
+TEST_F(SoftApTest, OneNameForEachEntry)
+{
+    UseWorld(WorldOf({"MyLC#Net", "LC#Two"}));
+    const LenientPlatform lenient;
+    const AlteredAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+                                  {
+                                      ASSERT_EQ(2u, list.dwNumberOfItems);
+                                      list.Network[1].dot11Ssid = list.Network[0].dot11Ssid;
+                                  }});
+    EXPECT_THAT(List(), ElementsAre("MyLC#Net", "MyLC#Net"));
+}
+
+// The names come in the active code page; what it lacks is replaced, what is no UTF-8 is passed over.
+TEST_F(SoftApTest, NamesAreInTheActiveCodePage)
+{
+    EXPECT_THAT(LenientList({"LC#\xC3\xA9", "LC#\xE2\x98\x83", "LC#\xFF"}), ElementsAre("LC#\xE9", "LC#?"));
+}
+
+TEST_F(SoftApTest, ANameThatCannotBeConvertedIsPassedOver)
+{
+    UseWorld(WorldOf({"LC#One", "LC#Two", "LC#Three"}));
+    const LenientPlatform lenient;
+    FailOn("MultiByteToWideChar", 1113, 1, 1);
+    FailOn("WideCharToMultiByte", 1113, 2, 1);
+    EXPECT_THAT(List(), ElementsAre("LC#Two")) << "neither the first, not widened, nor the third, not narrowed";
+    EXPECT_EQ(3u, callCount("MultiByteToWideChar"));
+    EXPECT_EQ(2u, callCount("WideCharToMultiByte"));
+    EXPECT_THAT(traced(), IsEmpty());
+}
+
+TEST_F(SoftApTest, EveryWayForTheListToFail)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(
+        *this, {
+                   {"GetSoftAPList", FailingList, "WlanOpenHandle", -1, {kOpenFailed}, local},
+                   // Deliberate: the platform's own error number, beside -1 for the handle.
+                   {"GetSoftAPList", FailingList, "WlanGetAvailableNetworkList", 1722, {kNetworksFailed}, local, 1722},
+               });
+}
+
+TEST_F(SoftApTest, ANullVectorIsRefused)
+{
+    EXPECT_EQ(-13, manager().GetSoftAPList(&kAdapterA, nullptr));
+}
+
+TEST_F(SoftApTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
+{
+    for (const GUID* none : {&kNoAdapter, static_cast<const GUID*>(nullptr)})
+    {
+        Names names = kBefore;
+        EXPECT_EQ(87, manager().GetSoftAPList(none, &names));
+        EXPECT_EQ(kBefore, names);
+    }
+}
+
+// --- SpecialSoftAP ---
+
+TEST_F(SoftApTest, TheProfileNameTells)
+{
+    struct
+    {
+        const wchar_t* name;
+        bool special;
+    } const rows[] = {{L"Office-LC#2", true}, {L"LC#", true}, {L"xLC#", true}, {L"LC#x", true},  {L"HomeNet", false},
+                      {L"lc#net", false},     {L"LC", false}, {L"", false},    {L"L C#", false}, {L"LC\u266F", false}};
+    for (const auto& row : rows)
+    {
+        const AlteredAnswers altered(WithProfileName(row.name));
+        EXPECT_EQ(row.special, manager().SpecialSoftAP()) << testing::PrintToString(std::wstring(row.name));
+    }
+}
+
+TEST_F(SoftApTest, TheNameEndsAtItsTerminatorOrWithTheRecord)
+{
+    {
+        const AlteredAnswers altered(WithProfileName(std::wstring(L"LC\0LC#", 6)));
+        EXPECT_FALSE(manager().SpecialSoftAP());
+    }
+    const AlteredAnswers altered(WithProfileName(std::wstring(253, L'x') + L"LC#"));
+    EXPECT_TRUE(manager().SpecialSoftAP()) << "256 characters and no terminator";
+}
+
+TEST_F(SoftApTest, TheSsidDoesNotTell)
+{
+    const auto change = [](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+    { static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.dot11Ssid = MakeSsid("MyLC#Net"); };
+    const AlteredAnswers altered({.query = change});
+    EXPECT_FALSE(manager().SpecialSoftAP());
+}
+
+TEST_F(SoftApTest, TheFirstInterfaceIsAsked)
+{
+    EXPECT_FALSE(manager().SpecialSoftAP());
+    EXPECT_THAT(callLines(), ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
+                                         "WlanQueryInterface(client=1, interface=" + kA +
+                                             ", opcode=current_connection, reserved=null, "
+                                             "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, "
+                                             "valueType=null)",
+                                         kRelease, kRelease));
+    EXPECT_THAT(traced(), IsEmpty());
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
+TEST_F(SoftApTest, EveryFailureIsNo)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this,
+                  {
+                      {"SpecialSoftAP", Special, "WlanOpenHandle", 0, {kOpenFailed}, local},
+                      {"SpecialSoftAP", Special, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
+                      {"SpecialSoftAP", Special, "WlanQueryInterface", 0, {kQueryFailed}, local},
+                      {.method = "SpecialSoftAP, no adapter",
+                       .call = Special,
+                       .traced = {kNoAdapterText},
+                       .buffer = local,
+                       .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }},
+                      {.method = "SpecialSoftAP, not connected",
+                       .call = Special,
+                       .traced = {kNotConnected},
+                       .buffer = local,
+                       .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }},
+                  });
+}
+
+TEST_F(SoftApTest, WhatComesWithAnErrorIsReleased)
+{
+    for (const char* operation : {"WlanEnumInterfaces", "WlanQueryInterface"})
+    {
+        const AlteredAnswers altered({.failingBesideAnswer = operation});
+        EXPECT_FALSE(manager().SpecialSoftAP());
+        ExpectNothingHeld();
+    }
+    const AlteredAnswers altered({.failingBesideAnswer = "WlanGetAvailableNetworkList"});
+    EXPECT_EQ(5, FailingList(manager()));
+    ExpectNothingHeld();
+}
+
+TEST_F(SoftApTest, SpecialSoftApNeedsNoMemoryOfItsOwn)
+{
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { Special(manager()); }));
+}
+
+} // namespace calvix::test

@@ -1,0 +1,215 @@
+#include "support/contract_table.h"
+#include "unit/inventory/altered_answers.h"
+#include "unit/inventory/trace_texts.h"
+
+#include <cstring>
+
+namespace calvix::test
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+
+constexpr unsigned long kUnseen = 77;
+constexpr const char* kAutoCfgFailed = "Enable auto config failed! err is %u";
+constexpr const char* kBackgroundScanFailed = "Enable background scan failed! err is %u";
+constexpr const char* kSettingFailed = "WlanQueryAutoConfigParameter failed! err is %u";
+
+const std::string kSettingQuery = "WlanQueryAutoConfigParameter(client=1, opcode=power_setting, reserved=null, "
+                                  "dataSize=sizeof(WLAN_POWER_SETTING), data=non-null, valueType=null)";
+
+class InterfaceSettingsTest : public LibraryTest
+{
+public:
+    /// The service's answer to the question whether a behaviour is on.
+    bool IsEnabled(WLAN_INTF_OPCODE behaviour)
+    {
+        DWORD size = 0;
+        PVOID data = nullptr;
+        EXPECT_EQ(0u, computer().wlan().WlanQueryInterface(ManagerInternals::Client(), &kAdapterA, behaviour, nullptr,
+                                                           &size, &data, nullptr));
+        const bool enabled = *static_cast<BOOL*>(data) != FALSE;
+        computer().wlan().WlanFreeMemory(data);
+        return enabled;
+    }
+
+    void Disable(WLAN_INTF_OPCODE behaviour)
+    {
+        const BOOL off = FALSE;
+        ASSERT_EQ(0u, computer().wlan().WlanSetInterface(ManagerInternals::Client(), &kAdapterA, behaviour, sizeof(off),
+                                                         &off, nullptr));
+        ASSERT_FALSE(IsEnabled(behaviour));
+    }
+};
+
+long long AutoCfg(CWirelessManage& manager)
+{
+    return manager.EnableAutoCfg(&kAdapterA);
+}
+
+long long BackgroundScan(CWirelessManage& manager)
+{
+    return manager.EnableBackgroundScan(&kAdapterA);
+}
+
+/// GetPowerSetting that has to leave the level alone.
+long long PowerSetting(CWirelessManage& manager)
+{
+    unsigned long level = kUnseen;
+    const int code = manager.GetPowerSetting(level);
+    EXPECT_EQ(kUnseen, level);
+    return code;
+}
+
+std::string SetLine(const char* opcode)
+{
+    return std::string("WlanSetInterface(client=1, interface=") + kAdapterAText + ", opcode=" + opcode +
+           ", dataSize=sizeof(BOOL), data=1, reserved=null)";
+}
+
+} // namespace
+
+// --- EnableAutoCfg, EnableBackgroundScan ---
+
+TEST_F(InterfaceSettingsTest, AutomaticConfigurationIsSwitchedOn)
+{
+    Disable(wlan_intf_opcode_autoconf_enabled);
+    EXPECT_EQ(0, manager().EnableAutoCfg(&kAdapterA));
+    EXPECT_THAT(callLines(), ElementsAre(SetLine("autoconf_enabled")));
+    EXPECT_THAT(traced(), IsEmpty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_TRUE(IsEnabled(wlan_intf_opcode_autoconf_enabled));
+
+    EXPECT_EQ(0, manager().EnableAutoCfg(&kAdapterA)) << "once more changes nothing";
+    EXPECT_TRUE(IsEnabled(wlan_intf_opcode_autoconf_enabled));
+}
+
+TEST_F(InterfaceSettingsTest, BackgroundScanningIsSwitchedOn)
+{
+    Disable(wlan_intf_opcode_background_scan_enabled);
+    EXPECT_EQ(0, manager().EnableBackgroundScan(&kAdapterA));
+    EXPECT_THAT(callLines(), ElementsAre(SetLine("background_scan_enabled")));
+    EXPECT_THAT(traced(), IsEmpty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_TRUE(IsEnabled(wlan_intf_opcode_background_scan_enabled));
+}
+
+// What is handed over is 4 bytes with the value 1 in either world.
+TEST_F(InterfaceSettingsTest, TheSettingIsFourBytes)
+{
+    int seen = 0;
+    const AlteredAnswers altered({.set = [&seen](WLAN_INTF_OPCODE, DWORD size, const void* data)
+                                  {
+                                      ASSERT_EQ(4u, size);
+                                      std::uint32_t value = 0;
+                                      std::memcpy(&value, data, sizeof(value));
+                                      EXPECT_EQ(1u, value);
+                                      ++seen;
+                                  }});
+    AutoCfg(manager());
+    BackgroundScan(manager());
+    EXPECT_EQ(2, seen);
+}
+
+TEST_F(InterfaceSettingsTest, EveryWayForTheSwitchesToFail)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this,
+                  {
+                      {"EnableAutoCfg", AutoCfg, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
+                      {"EnableAutoCfg", AutoCfg, "WlanSetInterface", 87, {kAutoCfgFailed}, local, 87},
+                      {"EnableBackgroundScan", BackgroundScan, "WlanOpenHandle", 5, {kOpenFailed}, local},
+                      {"EnableBackgroundScan", BackgroundScan, "WlanSetInterface", 5, {kBackgroundScanFailed}, local},
+                      {.method = "EnableBackgroundScan, not connected",
+                       .call = BackgroundScan,
+                       .expected = 5023,
+                       .traced = {"Enable background scan failed! err is 5023"},
+                       .buffer = local,
+                       .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }},
+                  });
+}
+
+TEST_F(InterfaceSettingsTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
+{
+    for (const GUID* none : {&kNoAdapter, static_cast<const GUID*>(nullptr)})
+    {
+        EXPECT_EQ(87, manager().EnableAutoCfg(none));
+        EXPECT_EQ(87, manager().EnableBackgroundScan(none));
+    }
+}
+
+// --- GetPowerSetting, SetPowerSetting ---
+
+TEST_F(InterfaceSettingsTest, ThePowerSettingIsTheServices)
+{
+    for (unsigned setting = 0; setting <= 4; ++setting)
+    {
+        simulation::Scenario world = RichWorld();
+        world.powerSetting = setting;
+        UseWorld(world);
+        unsigned long level = kUnseen;
+        EXPECT_EQ(0, manager().GetPowerSetting(level));
+        EXPECT_EQ(setting, level);
+        EXPECT_THAT(callLines(), ElementsAre(kSettingQuery, kRelease));
+        EXPECT_THAT(traced(), IsEmpty());
+        EXPECT_TRUE(sharedTraceUntouched());
+    }
+    EXPECT_EQ(4u, sizeof(WLAN_POWER_SETTING));
+}
+
+// Deliberate: a refused query gives 0 like an answered one; only the open error comes out.
+TEST_F(InterfaceSettingsTest, EveryWayForThePowerSettingToFail)
+{
+    const auto local = TraceBuffer::local;
+    CheckFailures(*this,
+                  {
+                      {"GetPowerSetting", PowerSetting, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
+                      {"GetPowerSetting", PowerSetting, "WlanQueryAutoConfigParameter", 0, {kSettingFailed}, local},
+                  });
+}
+
+TEST_F(InterfaceSettingsTest, SettingThePowerLevelDoesNothing)
+{
+    for (const unsigned long level : {0UL, 3UL, 4UL, 99UL})
+        EXPECT_EQ(0, manager().SetPowerSetting(level));
+    EXPECT_THAT(timeline(), IsEmpty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    unsigned long level = kUnseen;
+    manager().GetPowerSetting(level);
+    EXPECT_EQ(0u, level);
+}
+
+// --- GetPowerSettingStr ---
+
+TEST_F(InterfaceSettingsTest, PowerLevelsHaveThePlatformsNames)
+{
+    struct
+    {
+        unsigned long level;
+        const char* text;
+    } const rows[] = {{0, "wlan_power_setting_no_saving"},     {1, "wlan_power_setting_low_saving"},
+                      {2, "wlan_power_setting_medium_saving"}, {3, "wlan_power_setting_maximum_saving"},
+                      {4, "wlan_power_setting_invalid"},       {5, "wlan_power_setting_invalid"},
+                      {99, "wlan_power_setting_invalid"},      {0xFFFFFFFF, "wlan_power_setting_invalid"}};
+    for (const auto& row : rows)
+    {
+        char* const text = manager().GetPowerSettingStr(row.level);
+        EXPECT_STREQ(row.text, text) << row.level;
+        EXPECT_EQ(ManagerInternals::PowerSetting(manager()), text) << "the text is the object's";
+    }
+    EXPECT_THAT(timeline(), IsEmpty());
+}
+
+TEST_F(InterfaceSettingsTest, NeedsNoMemoryOfItsOwn)
+{
+    unsigned long level = 0;
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { AutoCfg(manager()); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { BackgroundScan(manager()); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetPowerSetting(level); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetPowerSettingStr(1); }));
+}
+
+} // namespace calvix::test
