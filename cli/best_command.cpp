@@ -1,9 +1,8 @@
 #include "autoconnect/candidate_ranking.h"
 #include "command.h"
+#include "connection_wait.h"
 #include "core/fixed_text.h"
-#include "core/trace.h"
 #include "describe.h"
-#include "failure_words.h"
 #include "host.h"
 #include "json_output.h"
 #include "platform_errors.h"
@@ -19,8 +18,6 @@ namespace calvix::host
 
 namespace
 {
-
-constexpr unsigned kPollMilliseconds = 250;
 
 struct BestOptions
 {
@@ -51,13 +48,7 @@ int ConnectBest(Host& host, const BestOptions& options)
 /// of them when each request is refused.
 std::vector<ConnectRequest> Rehearse(Host& host, const BestOptions& options)
 {
-    const unsigned char traced = g_bTraceOn;
-    g_bTraceOn = 0;
-    host.watched().Rehearse(true);
-    ConnectBest(host, options);
-    host.watched().Rehearse(false);
-    g_bTraceOn = traced;
-    return host.watched().ConnectRequests();
+    return host.Rehearse([&] { ConnectBest(host, options); });
 }
 
 /// The networks behind the requests, taken out of the list one by one: a profile may stand on several.
@@ -172,42 +163,24 @@ void PrintCandidates(Host& host, const std::vector<CandidateFacts>& candidates)
     throw Failure(report);
 }
 
-/// Whether the adapter is connected by this profile before the time is over.
-bool WaitForConnection(Host& host, const std::wstring& profile, unsigned seconds)
-{
-    for (unsigned waited = 0;; waited += kPollMilliseconds)
-    {
-        const auto connection = host.service().Connection(host.adapterGuid());
-        if (connection && StandsConnected(connection->isState) && FixedText(connection->strProfileName) == profile)
-            return true;
-        if (waited >= seconds * 1000)
-            return false;
-        host.Wait(kPollMilliseconds);
-    }
-}
-
-Failure NeverConnected(const std::wstring& profile, unsigned seconds)
-{
-    return OperationFailure("the request for \"" + VisibleText(Narrow(profile)) +
-                                "\" was accepted, but the connection was not made within " + Counted(seconds, "second"),
-                            "check the passphrase in the profile and the signal, or wait longer with --timeout");
-}
-
 void Best(Host& host, const BestOptions& options)
 {
     host.adapter();
     std::vector<CandidateFacts> candidates = ScoreCandidates(host, options);
-    const int code = ConnectBest(host, options);
-    const std::vector<ConnectRequest> requests = host.watched().ConnectRequests();
-    NoteOutcomes(requests, candidates);
-    if (code != 0)
-        Fail(host, host.MethodFailure("ConnectBestAP", code), candidates);
-
-    const std::wstring& profile = requests.back().profile;
-    if (host.terminal().isTerminal)
-        host.err() << "Asked for \"" << VisibleText(Narrow(profile)) << "\", waiting for the connection ...\n";
-    if (!WaitForConnection(host, profile, options.seconds))
-        Fail(host, NeverConnected(profile, options.seconds), candidates);
+    try
+    {
+        ConnectAndWait(host, options.seconds,
+                       [&]
+                       {
+                           const int code = ConnectBest(host, options);
+                           NoteOutcomes(host.watched().ConnectRequests(), candidates);
+                           host.Require("ConnectBestAP", code);
+                       });
+    }
+    catch (const Failure& failure)
+    {
+        Fail(host, failure, candidates);
+    }
     for (CandidateFacts& candidate : candidates)
     {
         if (candidate.outcome == Outcome::accepted)

@@ -46,6 +46,8 @@ class CommandSet
 public:
     virtual ~CommandSet() = default;
 
+    /// A family of commands, before the first of them.
+    virtual void AddFamily(const char* name, const char* summary) = 0;
     /// `path` is one word, or two for a command of a family ("profiles list").
     virtual Arguments& Add(const char* path, const char* summary, RunCommand run) = 0;
 };
@@ -54,6 +56,11 @@ void AddAdapterCommands(CommandSet& commands);
 void AddScanCommands(CommandSet& commands);
 void AddProfileCommands(CommandSet& commands);
 void AddConnectionCommands(CommandSet& commands);
+void AddRoamCommand(CommandSet& commands);
+void AddRadioCommands(CommandSet& commands);
+void AddSettingsCommands(CommandSet& commands);
+void AddWatchCommand(CommandSet& commands);
+void AddListCommands(CommandSet& commands);
 void AddMatchCommands(CommandSet& commands);
 void AddBestCommand(CommandSet& commands);
 void AddExplainCommand(CommandSet& commands);

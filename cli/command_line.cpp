@@ -100,11 +100,20 @@ class ParserCommands final : public CommandSet
 public:
     ParserCommands(CLI::App& app, Request& request) : m_app(app), m_request(request) {}
 
+    void AddFamily(const char* name, const char* summary) override
+    {
+        CLI::App& family = *m_app.add_subcommand(name, summary);
+        family.require_subcommand(1);
+        family.fallthrough();
+        family.footer(kExitCodes);
+        m_families[name] = &family;
+    }
+
     Arguments& Add(const char* path, const char* summary, RunCommand run) override
     {
         const std::string words = path;
         const std::size_t blank = words.find(' ');
-        CLI::App& parent = blank == std::string::npos ? m_app : Family(words.substr(0, blank));
+        CLI::App& parent = blank == std::string::npos ? m_app : *m_families.at(words.substr(0, blank));
         CLI::App& command = *parent.add_subcommand(words.substr(blank + 1), summary);
         command.footer(kExitCodes);
         command.callback(
@@ -119,19 +128,6 @@ public:
     }
 
 private:
-    CLI::App& Family(const std::string& name)
-    {
-        CLI::App*& family = m_families[name];
-        if (family == nullptr)
-        {
-            family = m_app.add_subcommand(name, "Stored " + name + ": list, show, add, delete, move");
-            family->require_subcommand(1);
-            family->fallthrough();
-            family->footer(kExitCodes);
-        }
-        return *family;
-    }
-
     CLI::App& m_app;
     Request& m_request;
     std::map<std::string, CLI::App*> m_families;
@@ -144,6 +140,11 @@ void AddCommands(CommandSet& commands)
     AddScanCommands(commands);
     AddProfileCommands(commands);
     AddConnectionCommands(commands);
+    AddRoamCommand(commands);
+    AddWatchCommand(commands);
+    AddRadioCommands(commands);
+    AddSettingsCommands(commands);
+    AddListCommands(commands);
     AddMatchCommands(commands);
     AddBestCommand(commands);
     AddExplainCommand(commands);

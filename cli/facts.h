@@ -100,6 +100,61 @@ struct MatchFacts
     std::vector<AccessPointFacts> accessPoints;
 };
 
+struct RadioFacts
+{
+    bool on = false;
+    std::string software; ///< "on", "off" or "unknown"
+    std::string hardware;
+};
+
+struct SettingsFacts
+{
+    unsigned powerLevel = 0;
+    std::string powerSetting; ///< the platform's name of the level
+    std::optional<bool> automaticConnection;
+    std::optional<bool> backgroundScan;
+    std::optional<bool> safeMode; ///< whether it is supported
+};
+
+struct SoftApFacts
+{
+    std::vector<std::string> names;
+    bool connected = false; ///< whether the first adapter is connected to one
+};
+
+/// The link at a moment.
+struct SignalFacts
+{
+    std::string state;
+    bool connected = false; ///< the rest is told only then
+    std::string profile;
+    SsidFacts ssid;
+    std::string bssid;
+    unsigned long quality = 0;
+    std::optional<int> rssi;
+};
+
+/// A notification of the service.
+struct NoticeFacts
+{
+    unsigned code = 0;
+    std::string name;
+    std::string profile;
+    SsidFacts ssid;
+    std::uint32_t reasonCode = 0;
+    std::string reason; ///< empty with reason code 0
+};
+
+/// What roaming came to.
+struct RoamFacts
+{
+    int code = 0;
+    std::string decision; ///< "roam", "stay", or "none" where the library could not decide
+    std::string why;
+    std::string from;
+    std::string to;
+};
+
 enum class Outcome
 {
     notTried,

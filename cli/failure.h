@@ -31,6 +31,8 @@ struct FailureReport
     std::optional<int> code;
     std::string operation; ///< the operation of the platform that was refused last; may be empty
     std::uint32_t platformError = 0;
+    std::uint32_t reasonCode = 0; ///< why the service did not make a connection or store a profile; 0: not told
+    std::string reason;           ///< its text
     std::vector<CandidateFacts> candidates; ///< that were asked for in vain
 };
 

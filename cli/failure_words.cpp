@@ -28,7 +28,11 @@ void AddRefusal(FailureReport& report, const Refusal& refusal)
     report.platformError = refusal.error;
     report.message += ": " + RefusalText(refusal.operation, refusal.error);
     if (refusal.reasonCode != 0)
-        report.message += ", because: " + ReasonText(refusal.reasonCode);
+    {
+        report.reasonCode = static_cast<std::uint32_t>(refusal.reasonCode);
+        report.reason = ReasonText(refusal.reasonCode);
+        report.message += ", because: " + report.reason;
+    }
     if (MeansUnavailable(refusal.error))
         report.exitCode = ExitCode::unavailable;
     const std::string advice = AdviseOnPlatformError(refusal.error, refusal.operation);

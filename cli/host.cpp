@@ -83,6 +83,19 @@ private:
     CWirelessManage* m_library = nullptr;
 };
 
+/// Switches the library's trace on or off, and back at the end.
+class TraceSwitch
+{
+public:
+    explicit TraceSwitch(bool on) : m_before(g_bTraceOn) { g_bTraceOn = on ? 1 : 0; }
+    ~TraceSwitch() { g_bTraceOn = m_before; }
+    TraceSwitch(const TraceSwitch&) = delete;
+    TraceSwitch& operator=(const TraceSwitch&) = delete;
+
+private:
+    unsigned char m_before;
+};
+
 bool SameGuidText(std::string_view left, std::string_view right)
 {
     const auto letters = [](std::string_view text)
@@ -201,10 +214,40 @@ WLAN_INTERFACE_INFO Host::FindAdapter()
                    "list the adapters with: calvix adapters. Give the number, the GUID or the whole description");
 }
 
+bool Host::isSimulated()
+{
+    return world().computer != nullptr;
+}
+
 void Host::Wait(unsigned milliseconds)
 {
     world();
     platform::clock().Sleep(milliseconds);
+}
+
+void Host::WhileWaiting(std::function<void(unsigned)> action)
+{
+    world().watched.steps().AfterEachStep(std::move(action));
+}
+
+std::string Host::CaptureTrace(const std::function<void()>& action)
+{
+    std::string captured;
+    const TraceSwitch on(true);
+    ShownDebuggerOutput& debugger = world().watched.shownDebugger();
+    debugger.CaptureIn(&captured);
+    action();
+    debugger.CaptureIn(nullptr);
+    return captured;
+}
+
+std::vector<ConnectRequest> Host::Rehearse(const std::function<void()>& action)
+{
+    const TraceSwitch off(false);
+    watched().Rehearse(true);
+    action();
+    watched().Rehearse(false);
+    return watched().ConnectRequests();
 }
 
 int Host::Check(const char* method, long code)
@@ -212,6 +255,12 @@ int Host::Check(const char* method, long code)
     if (code < 0)
         throw MethodFailure(method, code);
     return static_cast<int>(code);
+}
+
+void Host::Require(const char* method, long code)
+{
+    if (code != 0)
+        throw MethodFailure(method, code);
 }
 
 Failure Host::MethodFailure(const char* method, long code)

@@ -5,6 +5,7 @@
 
 #include <calvix/wireless_manage.h>
 
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -13,6 +14,7 @@
 namespace calvix::host
 {
 
+struct ConnectRequest;
 class ServiceView;
 class WatchedWlan;
 
@@ -56,12 +58,24 @@ public:
     const WLAN_INTERFACE_INFO& adapter();
     const GUID* adapterGuid() { return &adapter().InterfaceGuid; }
 
-    /// Lets time pass, simulated time where the computer is.
+    /// Lets time pass, simulated time where the computer is. Ends early after Ctrl-C.
     void Wait(unsigned milliseconds);
+    /// Has `action` called again and again while time passes, in the library's own waits too, with the milliseconds
+    /// since the last time. An empty one ends it.
+    void WhileWaiting(std::function<void(unsigned)> action);
+    /// Whether the computer is a simulated one that this program has put up.
+    bool isSimulated();
+
+    /// Carries out `action` and returns what the library traced meanwhile.
+    std::string CaptureTrace(const std::function<void()>& action);
+    /// Carries out `action` with connection requests withheld and nothing traced, and returns the requests.
+    std::vector<ConnectRequest> Rehearse(const std::function<void()>& action);
 
     /// Fails in words when `code`, the result of `method`, is negative; returns it otherwise. Written around a call:
     /// `host.Check("GetMatchAPList", host.library().GetMatchAPList(host.adapterGuid(), &list))`.
     int Check(const char* method, long code);
+    /// The same where 0 is the only success.
+    void Require(const char* method, long code);
     /// The failure of a method, with what the platform refused on the way.
     Failure MethodFailure(const char* method, long code);
 

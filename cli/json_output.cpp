@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <sstream>
+
 namespace calvix::host
 {
 
@@ -126,6 +128,51 @@ Json ToJson(const CandidateFacts& candidate)
     return json;
 }
 
+Json ToJson(const RoamFacts& roam)
+{
+    return {{"decision", roam.decision},
+            {"code", roam.code},
+            {"why", roam.why},
+            {"from", TextOrNull(roam.from)},
+            {"to", TextOrNull(roam.to)}};
+}
+
+Json ToJson(const SignalFacts& signal)
+{
+    Json json;
+    json["state"] = signal.state;
+    json["connected"] = signal.connected;
+    if (!signal.connected)
+        return json;
+    json["profile"] = signal.profile;
+    AddSsid(json, signal.ssid);
+    json["bssid"] = signal.bssid;
+    json["quality"] = signal.quality;
+    json["rssi"] = OrNull(signal.rssi);
+    return json;
+}
+
+Json ToJson(const NoticeFacts& notice)
+{
+    Json json;
+    json["code"] = notice.code;
+    json["name"] = notice.name;
+    json["profile"] = TextOrNull(notice.profile);
+    json["ssid"] = TextOrNull(notice.ssid.text);
+    json["ssidHex"] = TextOrNull(notice.ssid.hex);
+    json["reasonCode"] = notice.reasonCode;
+    json["reason"] = TextOrNull(notice.reason);
+    return json;
+}
+
+/// One line that a reader can take in as soon as it is there.
+void PrintLive(std::ostream& out, unsigned long long milliseconds, const char* event, const Json& rest)
+{
+    Json json = {{"event", event}, {"milliseconds", milliseconds}};
+    json.update(rest);
+    out << json.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
+}
+
 template <typename Facts>
 Json ToJson(const std::vector<Facts>& list)
 {
@@ -196,6 +243,65 @@ void PrintJson(std::ostream& out, const BestFacts& best)
     Print(out, {{"candidates", ToJson(best.candidates)}, {"status", ToJson(best.status)}});
 }
 
+void PrintJson(std::ostream& out, const RadioFacts& radio)
+{
+    Print(out, {{"radio", {{"on", radio.on}, {"software", radio.software}, {"hardware", radio.hardware}}}});
+}
+
+void PrintJson(std::ostream& out, const SettingsFacts& settings)
+{
+    Print(out, {{"settings",
+                 {{"powerLevel", settings.powerLevel},
+                  {"powerSetting", settings.powerSetting},
+                  {"automaticConnection", OrNull(settings.automaticConnection)},
+                  {"backgroundScan", OrNull(settings.backgroundScan)},
+                  {"safeMode", OrNull(settings.safeMode)}}}});
+}
+
+void PrintJson(std::ostream& out, const SoftApFacts& softAps)
+{
+    Print(out, {{"softAps", softAps.names}, {"connectedToSoftAp", softAps.connected}});
+}
+
+void PrintJson(std::ostream& out, const RoamFacts& roam, const StatusFacts& status)
+{
+    Print(out, {{"roam", ToJson(roam)}, {"status", ToJson(status)}});
+}
+
+void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const SignalFacts& signal)
+{
+    PrintLive(out, milliseconds, "signal", ToJson(signal));
+}
+
+void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const NoticeFacts& notice)
+{
+    PrintLive(out, milliseconds, "notification", ToJson(notice));
+}
+
+void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const RoamFacts& roam)
+{
+    PrintLive(out, milliseconds, "roam", ToJson(roam));
+}
+
+void PrintMoveJson(std::ostream& out, unsigned long long milliseconds, const std::string& from, const std::string& to)
+{
+    PrintLive(out, milliseconds, "moved", {{"from", from}, {"to", to}});
+}
+
+void PrintIhvJson(std::ostream& out, const std::string& request, const std::string& answer)
+{
+    Print(out, {{"ihv", {{"request", request}, {"answer", answer}}}});
+}
+
+void PrintListingJson(std::ostream& out, const std::string& text)
+{
+    Json lines = Json::array();
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    Print(out, {{"lines", lines}});
+}
+
 void PrintProfileJson(std::ostream& out, const std::string& name, const std::string& xml)
 {
     Print(out, {{"profile", {{"name", name}, {"xml", xml}}}});
@@ -241,6 +347,8 @@ void PrintJson(std::ostream& out, const FailureReport& failure)
     error["code"] = OrNull(failure.code);
     error["operation"] = TextOrNull(failure.operation);
     error["platformError"] = failure.platformError != 0 ? Json(failure.platformError) : Json(nullptr);
+    error["reasonCode"] = failure.reasonCode != 0 ? Json(failure.reasonCode) : Json(nullptr);
+    error["reason"] = TextOrNull(failure.reason);
     Json json;
     if (!failure.candidates.empty())
         json["candidates"] = ToJson(failure.candidates);

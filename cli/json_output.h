@@ -21,7 +21,23 @@ void PrintJson(std::ostream& out, const ScanFacts& scan);
 void PrintJson(std::ostream& out, const StatusFacts& status);
 void PrintJson(std::ostream& out, const MatchFacts& match);
 void PrintJson(std::ostream& out, const BestFacts& best);
+void PrintJson(std::ostream& out, const RadioFacts& radio);
+void PrintJson(std::ostream& out, const SettingsFacts& settings);
+void PrintJson(std::ostream& out, const SoftApFacts& softAps);
+/// A decision and what it led to.
+void PrintJson(std::ostream& out, const RoamFacts& roam, const StatusFacts& status);
 
+/// What happened at a moment, in one line; the moment in milliseconds since the beginning.
+void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const SignalFacts& signal);
+void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const NoticeFacts& notice);
+void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const RoamFacts& roam);
+/// The link has moved to another access point.
+void PrintMoveJson(std::ostream& out, unsigned long long milliseconds, const std::string& from, const std::string& to);
+
+/// A driver's request and answer, in hexadecimal.
+void PrintIhvJson(std::ostream& out, const std::string& request, const std::string& answer);
+/// A listing of the library's, line by line.
+void PrintListingJson(std::ostream& out, const std::string& text);
 /// One profile's document.
 void PrintProfileJson(std::ostream& out, const std::string& name, const std::string& xml);
 /// A change to the profile store: what was done ("added", "deleted", "moved") to which profile.

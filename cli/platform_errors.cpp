@@ -35,6 +35,7 @@ constexpr PlatformError kErrors[] = {
     {170, "busy", "wait a moment and try again"},
     {183, "already exists", "delete the old one first, or replace it"},
     {259, "no more items", ""},
+    {1004, "invalid flags", "choose another method: this one converts SSIDs in a way that the system refuses"},
     {1053, "the service did not answer in time", "restart the service \"WLAN AutoConfig\""},
     {1058, "the service is disabled", "enable the service \"WLAN AutoConfig\" and start it"},
     {1060, "no such service", "on a server install the wireless feature"},
@@ -77,6 +78,11 @@ bool ChangesTheStore(std::string_view operation)
     return operation == "WlanSetProfile" || operation == "WlanDeleteProfile" || operation == "WlanSetProfilePosition";
 }
 
+bool SetsWhatIsGuarded(std::string_view operation)
+{
+    return operation == "WlanSetInterface" || operation == "WlanSetSecuritySettings";
+}
+
 } // namespace
 
 std::string DescribePlatformError(std::uint32_t error)
@@ -90,6 +96,10 @@ std::string AdviseOnPlatformError(std::uint32_t error, const std::string& operat
     constexpr std::uint32_t accessDenied = 5;
     if (error == accessDenied && ChangesTheStore(operation))
         return "run as administrator, or ask for the right to change this profile";
+    if (error == accessDenied && operation == "WlanIhvControl")
+        return "run as administrator, or let ordinary users talk to drivers: calvix ihv --grant";
+    if (error == accessDenied && SetsWhatIsGuarded(operation))
+        return "run as administrator";
     if (error == accessDenied && !operation.empty())
         return "allow location access for desktop apps (Settings, Privacy & security, Location)";
     const PlatformError* const known = Find(error);

@@ -1,10 +1,10 @@
+#include "code_page.h"
 #include "command.h"
 #include "core/fixed_text.h"
 #include "describe.h"
 #include "files.h"
 #include "host.h"
 #include "json_output.h"
-#include "platform/platform.h"
 #include "service_view.h"
 #include "table.h"
 #include "text_forms.h"
@@ -125,34 +125,15 @@ void DeleteProfile(Host& host, const ProfileOptions& options)
     ReportChange(host, "deleted", options.name, "deleted");
 }
 
-/// The name in the active code page, in which the library takes it for the second place. Converted there and back,
-/// because not every code page tells whether a character was lost.
-std::string InActiveCodePage(const std::wstring& name)
-{
-    constexpr int capacity = 1024;
-    char narrow[capacity] = {};
-    wchar_t back[capacity] = {};
-    platform::Text& text = platform::text();
-    if (text.WideCharToMultiByte(CP_ACP, 0, name.c_str(), -1, narrow, capacity, nullptr, nullptr) == 0 ||
-        text.MultiByteToWideChar(CP_ACP, 0, narrow, -1, back, capacity) == 0 || name != back)
-        throw BadInput("the name \"" + Narrow(name) + "\" has characters outside the active code page",
-                       "such a profile can only be moved to the last place");
-    return narrow;
-}
-
 void MoveToSecondPlace(Host& host, const std::wstring& name)
 {
-    const std::string narrow = InActiveCodePage(name);
-    const int result = host.library().ResetProfilePosition(host.adapterGuid(), narrow.c_str());
-    if (result != 0)
-        throw host.MethodFailure("ResetProfilePosition", result);
+    const std::string narrow = InActiveCodePage(name, "such a profile can only be moved to the last place");
+    host.Require("ResetProfilePosition", host.library().ResetProfilePosition(host.adapterGuid(), narrow.c_str()));
 }
 
 void MoveToLastPlace(Host& host, const std::wstring& name)
 {
-    const int result = host.library().SetProfilePosition(host.adapterGuid(), name.c_str());
-    if (result != 0)
-        throw host.MethodFailure("SetProfilePosition", result);
+    host.Require("SetProfilePosition", host.library().SetProfilePosition(host.adapterGuid(), name.c_str()));
 }
 
 void MoveProfile(Host& host, const ProfileOptions& options)
@@ -173,6 +154,7 @@ void MoveProfile(Host& host, const ProfileOptions& options)
 void AddProfileCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<ProfileOptions>();
+    commands.AddFamily("profiles", "Stored profiles: list, show, add, delete, move");
     commands.Add("profiles list", "List the stored profiles, the preferred one first", ListProfiles);
     commands.Add("profiles show", "Print a profile's document", [options](Host& host) { ShowProfile(host, *options); })
         .Text("NAME", options->name, "The profile")

@@ -2,6 +2,7 @@
 
 #include "command_line.h"
 #include "failure_words.h"
+#include "interrupt.h"
 #include "json_output.h"
 
 namespace calvix::host
@@ -40,6 +41,7 @@ int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
     if (!request)
         return static_cast<int>(parsed);
 
+    const InterruptWatch interruptWatch;
     Host host(request->options, out, err, terminal);
     try
     {

@@ -1,12 +1,13 @@
 #include "command.h"
+#include "connection_wait.h"
 #include "describe.h"
 #include "failure_words.h"
 #include "host.h"
 #include "json_output.h"
+#include "notifications.h"
+#include "progress.h"
 #include "service_view.h"
 #include "table.h"
-
-#include <algorithm>
 
 namespace calvix::host
 {
@@ -14,71 +15,66 @@ namespace calvix::host
 namespace
 {
 
-constexpr unsigned kPollMilliseconds = 250;
-/// Drivers finish a scan within four seconds; a list that is empty or unchanged by then has nothing to add.
-constexpr unsigned kLongestScanMilliseconds = 4000;
-/// A driver reports access points as it finds them: the list is whole when it has rested for a while.
-constexpr unsigned kRestMilliseconds = 1000;
-
 struct ScanOptions
 {
     unsigned seconds = 10;
 };
 
-/// What changes when the service has heard something new.
-struct Heard
+/// What the service has told of the scan.
+enum class ScanEnd
 {
-    std::size_t entries = 0;
-    ULONGLONG latest = 0;
-
-    bool operator==(const Heard&) const = default;
+    notYet,
+    complete,
+    failed
 };
 
-Heard WhatWasHeard(Host& host)
+ScanEnd LookForEnd(const std::vector<Notice>& notices, const GUID& adapter, DWORD& reason)
 {
-    const std::vector<WLAN_BSS_ENTRY> entries = host.service().AccessPoints(host.adapterGuid());
-    Heard heard;
-    heard.entries = entries.size();
-    for (const WLAN_BSS_ENTRY& entry : entries)
-        heard.latest = (std::max)(heard.latest, entry.ullHostTimestamp);
-    return heard;
+    for (const Notice& notice : notices)
+    {
+        if (!IsEqualGUID(notice.adapter, adapter))
+            continue;
+        if (notice.code == wlan_notification_acm_scan_complete)
+            return ScanEnd::complete;
+        if (notice.code == wlan_notification_acm_scan_fail)
+        {
+            reason = notice.reason;
+            return ScanEnd::failed;
+        }
+    }
+    return ScanEnd::notYet;
 }
 
-/// Waits until the list has changed and come to rest again.
-ScanFacts WaitForScan(Host& host, const Heard& before, unsigned timeout)
+ScanFacts ScanAndWait(Host& host, unsigned seconds)
 {
+    const GUID* const adapter = host.adapterGuid();
+    Notifications notifications(host);
+    unsigned long error = 0;
+    host.Check("Rescan", host.library().Rescan(adapter, error));
     ScanFacts scan;
-    Heard last = before;
-    unsigned rested = 0;
-    while (scan.milliseconds < timeout)
-    {
-        host.Wait(kPollMilliseconds);
-        scan.milliseconds += kPollMilliseconds;
-        const Heard now = WhatWasHeard(host);
-        rested = now == last ? rested + kPollMilliseconds : 0;
-        last = now;
-        scan.accessPoints = now.entries;
-        const bool somethingNew = !(now == before);
-        const bool nothingThere = now.entries == 0 && scan.milliseconds >= kLongestScanMilliseconds;
-        scan.completed = (somethingNew && rested >= kRestMilliseconds) || nothingThere;
-        if (scan.completed)
-            break;
-    }
+    ScanEnd end = ScanEnd::notYet;
+    DWORD reason = 0;
+    const Progress progress(host, "Scanning");
+    scan.completed = WaitUntil(
+        host, seconds,
+        [&]
+        {
+            end = LookForEnd(notifications.Take(), *adapter, reason);
+            return end != ScanEnd::notYet;
+        },
+        &scan.milliseconds);
+    if (end == ScanEnd::failed)
+        throw ReasonFailure(host, "the scan failed", reason);
+    if (!scan.completed)
+        throw OperationFailure("the scan was not done within " + Counted(seconds, "second"),
+                               "wait longer with --timeout; the lists still show what was heard before");
     return scan;
 }
 
 void Scan(Host& host, const ScanOptions& options)
 {
-    const GUID* const adapter = host.adapterGuid();
-    unsigned long error = 0;
-    host.Check("Rescan", host.library().Rescan(adapter, error));
-    const Heard before = WhatWasHeard(host);
-    if (host.terminal().isTerminal)
-        host.err() << "Scanning ...\n";
-    const ScanFacts scan = WaitForScan(host, before, options.seconds * 1000);
-    if (!scan.completed)
-        throw OperationFailure("the scan was not done within " + Counted(options.seconds, "second"),
-                               "wait longer with --timeout; the lists still show what was heard before");
+    ScanFacts scan = ScanAndWait(host, options.seconds);
+    scan.accessPoints = host.service().AccessPoints(host.adapterGuid()).size();
     if (host.json())
         return PrintJson(host.out(), scan);
     host.out() << "Scan done after " << scan.milliseconds / 1000.0

@@ -82,4 +82,16 @@ std::optional<WLAN_CONNECTION_ATTRIBUTES> ServiceView::Connection(const GUID* ad
     return *attributes;
 }
 
+std::optional<bool> ServiceView::IsEnabled(const GUID* adapter, WLAN_INTF_OPCODE opcode)
+{
+    WlanMemory<BOOL> enabled;
+    DWORD size = sizeof(BOOL);
+    PVOID data = nullptr;
+    const DWORD error = wlan().WlanQueryInterface(m_client, adapter, opcode, nullptr, &size, &data, nullptr);
+    enabled.Take(data);
+    if (error != 0)
+        return std::nullopt;
+    return *enabled != FALSE;
+}
+
 } // namespace calvix::host

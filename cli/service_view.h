@@ -27,6 +27,9 @@ public:
     /// None while there is no connection.
     std::optional<WLAN_CONNECTION_ATTRIBUTES> Connection(const GUID* adapter);
 
+    /// A switch of the adapter's; none where the service does not tell.
+    std::optional<bool> IsEnabled(const GUID* adapter, WLAN_INTF_OPCODE opcode);
+
 private:
     HANDLE m_client = nullptr;
 };

@@ -1,7 +1,30 @@
 #include "watched_wlan.h"
 
+#include "text_forms.h"
+
 namespace calvix::host
 {
+
+namespace
+{
+
+ConnectRequest Describe(const GUID* interfaceGuid, const WLAN_CONNECTION_PARAMETERS* parameters)
+{
+    ConnectRequest request;
+    if (interfaceGuid != nullptr)
+        request.adapter = *interfaceGuid;
+    if (parameters == nullptr)
+        return request;
+    request.bssType = parameters->dot11BssType;
+    if (parameters->strProfile != nullptr)
+        request.profile = parameters->strProfile;
+    const DOT11_BSSID_LIST* const desired = parameters->pDesiredBssidList;
+    if (desired != nullptr && desired->uNumOfEntries > 0)
+        request.accessPoint = MacText(desired->BSSIDs[0]);
+    return request;
+}
+
+} // namespace
 
 void RefusalNotes::After(const wrappers::Call& call, long long result)
 {
@@ -36,13 +59,7 @@ DWORD WatchedWlan::WlanConnect(HANDLE client,
                                const WLAN_CONNECTION_PARAMETERS* parameters,
                                PVOID reserved)
 {
-    ConnectRequest request;
-    if (parameters != nullptr)
-    {
-        request.bssType = parameters->dot11BssType;
-        if (parameters->strProfile != nullptr)
-            request.profile = parameters->strProfile;
-    }
+    ConnectRequest request = Describe(interfaceGuid, parameters);
     const DWORD error = m_rehearsing ? ERROR_CANCELLED
                                      : InterceptedWlanService::WlanConnect(client, interfaceGuid, parameters, reserved);
     request.error = static_cast<std::uint32_t>(error);

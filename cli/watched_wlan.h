@@ -21,7 +21,9 @@ struct Refusal
 /// A connection that was asked for.
 struct ConnectRequest
 {
+    GUID adapter{};
     std::wstring profile;
+    std::string accessPoint; ///< the one that was asked for, "02:..."; empty: any
     DOT11_BSS_TYPE bssType = dot11_BSS_type_any;
     std::uint32_t error = 0; ///< 0: accepted
 };

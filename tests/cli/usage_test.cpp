@@ -44,7 +44,9 @@ TEST_F(Usage, ListsTheCommandsAndExitCodes)
     const Outcome outcome = Run({"--help"});
     EXPECT_EQ(kSuccess, outcome.exitCode);
     for (const char* command :
-         {"adapters", "scan", "networks", "bss", "profiles", "status", "match", "best", "explain", "import"})
+         {"adapters",  "scan",  "networks", "bss",    "profiles", "status",  "connect", "disconnect",
+          "reconnect", "reset", "auto",     "switch", "roam",     "watch",   "radio",   "settings",
+          "ihv",       "list",  "softap",   "match",  "best",     "explain", "import"})
         EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + command + " ")) << command;
     EXPECT_THAT(outcome.out, HasSubstr("3  no adapter, or the WLAN service cannot be reached"));
 }
@@ -68,6 +70,24 @@ TEST_F(Usage, NamesTheCommonOptionsInEveryCommand)
                                                                                          {"profiles", "delete"},
                                                                                          {"profiles", "move"},
                                                                                          {"status"},
+                                                                                         {"connect"},
+                                                                                         {"disconnect"},
+                                                                                         {"reconnect"},
+                                                                                         {"reset"},
+                                                                                         {"auto"},
+                                                                                         {"switch"},
+                                                                                         {"roam"},
+                                                                                         {"watch"},
+                                                                                         {"radio", "status"},
+                                                                                         {"radio", "on"},
+                                                                                         {"radio", "off"},
+                                                                                         {"radio", "reset"},
+                                                                                         {"radio", "restart"},
+                                                                                         {"settings"},
+                                                                                         {"ihv"},
+                                                                                         {"list", "networks"},
+                                                                                         {"list", "bss"},
+                                                                                         {"softap"},
                                                                                          {"match"},
                                                                                          {"best"},
                                                                                          {"explain"},

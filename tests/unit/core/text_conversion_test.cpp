@@ -81,7 +81,7 @@ TEST_F(TextConversionTest, UnicodeToAnsiEndsAtACharacterThatTheCodePageLacks)
     EXPECT_TRUE(manager().UnicodeToAnsi(kTokyo, m_room.bytes));
     EXPECT_STREQ("", m_room.bytes);
     UseWorld(WorldOfCodePage(932));
-    EXPECT_TRUE(manager().UnicodeToAnsi(L"\u6771\u00FF", m_room.bytes));
+    EXPECT_TRUE(manager().UnicodeToAnsi(L"\u6771\u0E01", m_room.bytes));
     EXPECT_STREQ("\x93\x8C", m_room.bytes);
 }
 

@@ -1,0 +1,41 @@
+#include "interrupt.h"
+
+#include <atomic>
+#include <csignal>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+// The handler runs on a thread of its own on Windows.
+std::atomic<bool> g_interrupted{false};
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+extern "C" void NoteInterrupt(int signal)
+{
+    g_interrupted = true;
+    std::signal(signal, SIG_DFL);
+}
+
+} // namespace
+
+InterruptWatch::InterruptWatch()
+{
+    g_interrupted = false;
+    m_before = std::signal(SIGINT, NoteInterrupt);
+}
+
+InterruptWatch::~InterruptWatch()
+{
+    if (m_before != SIG_ERR)
+        std::signal(SIGINT, m_before);
+}
+
+bool Interrupted()
+{
+    return g_interrupted;
+}
+
+} // namespace calvix::host

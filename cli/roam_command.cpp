@@ -1,0 +1,118 @@
+#include "command.h"
+#include "connection_wait.h"
+#include "describe.h"
+#include "failure.h"
+#include "json_output.h"
+#include "live_watch.h"
+#include "result_codes.h"
+#include "roaming.h"
+#include "service_view.h"
+#include "text_forms.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct RoamOptions
+{
+    LiveOptions live;
+    unsigned timeout = 15;
+};
+
+const char* MethodName(bool dryRun)
+{
+    return dryRun ? "PreRoaming" : "Roaming";
+}
+
+std::string CurrentAccessPoint(Host& host)
+{
+    const auto connection = host.service().Connection(host.adapterGuid());
+    return connection ? MacText(connection->wlanAssociationAttributes.dot11Bssid) : std::string();
+}
+
+/// The access point that the library asked for, or, after a mere decision, would ask for.
+std::string Target(Host& host, bool dryRun)
+{
+    const std::vector<ConnectRequest> requests =
+        dryRun ? host.Rehearse([&host] { host.library().Roaming(host.adapterGuid()); })
+               : host.watched().ConnectRequests();
+    return requests.empty() ? std::string() : requests.back().accessPoint;
+}
+
+std::string DecisionText(const std::optional<Cause>& obstacle)
+{
+    if (!obstacle)
+        return "roam";
+    return *obstacle == Cause::signalGoodEnough || *obstacle == Cause::alreadyThere ? "stay" : "none";
+}
+
+void PrintRoam(Host& host, const RoamFacts& roam, bool dryRun)
+{
+    if (roam.decision == "stay")
+        host.out() << "Stays at " << roam.from << ": " << roam.why << ".\n\n";
+    else
+        host.out() << (dryRun ? "Would move" : "Moved") << " from " << roam.from << " to " << roam.to << ".\n\n";
+}
+
+void RoamOnce(Host& host, const RoamOptions& options)
+{
+    const bool dryRun = options.live.dryRun;
+    ConnectionWait wait(host);
+    const RoamFacts roam = Roam(host, dryRun);
+    if (roam.decision == "none")
+        throw host.MethodFailure(MethodName(dryRun), roam.code);
+    if (roam.decision == "roam" && !dryRun)
+        wait.Finish(options.timeout);
+    const StatusFacts status = ReadStatus(host);
+    if (host.json())
+        return PrintJson(host.out(), roam, status);
+    PrintRoam(host, roam, dryRun);
+    PrintStatus(host, status);
+}
+
+void RoamCommand(Host& host, const RoamOptions& options)
+{
+    if (options.live.roamEvery == 0 && options.live.seconds != 0)
+        throw BadInput("--for goes with --every", "say how often to decide: --every SECONDS");
+    if (options.live.roamEvery == 0)
+        RoamOnce(host, options);
+    else
+        WatchLive(host, options.live);
+}
+
+} // namespace
+
+RoamFacts Roam(Host& host, bool dryRun)
+{
+    const GUID* const adapter = host.adapterGuid();
+    RoamFacts facts;
+    facts.from = CurrentAccessPoint(host);
+    facts.code = dryRun ? host.library().PreRoaming(adapter) : host.library().Roaming(adapter);
+    const char* const method = MethodName(dryRun);
+    const std::optional<Cause> obstacle = FindCause(*FindMethod(method), facts.code);
+    if (obstacle == Cause::clientNotOpened)
+        throw host.MethodFailure(method, facts.code);
+    facts.decision = DecisionText(obstacle);
+    facts.why = obstacle ? Describe(*obstacle).meaning : "the network has a better access point";
+    if (!obstacle)
+        facts.to = Target(host, dryRun);
+    return facts;
+}
+
+void AddRoamCommand(CommandSet& commands)
+{
+    const auto options = std::make_shared<RoamOptions>();
+    commands
+        .Add("roam", "Move to a better access point of the current network, if there is one",
+             [options](Host& host) { RoamCommand(host, *options); })
+        .Flag("--dry-run", options->live.dryRun, "Decide only, do not move")
+        .Number("--every", options->live.roamEvery, "Go on, deciding every so many seconds; 0: decide once")
+        .Number("--for", options->live.seconds, "Seconds to go on; 0: until Ctrl-C, a minute on a simulated computer")
+        .Number("--speed", options->live.speed,
+                "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
+        .Number("--timeout", options->timeout, "Seconds to wait for the connection at most");
+}
+
+} // namespace calvix::host
