@@ -18,7 +18,8 @@ namespace
 constexpr std::size_t kLargestCapacity = 0x7FFFFFFF;
 constexpr std::size_t kLargestWideText = 0x100000;
 
-/// Formats the whole text; the C runtime's wide formatter reports neither the room it needs nor what it cut.
+/// Formats the whole text. The C runtimes' wide formatters do not cut reliably: where the text does not fit, some report
+/// a failure and some the length it has.
 std::vector<wchar_t> FormatWhole(const wchar_t* format, std::va_list values)
 {
     std::vector<wchar_t> text;
@@ -29,7 +30,7 @@ std::vector<wchar_t> FormatWhole(const wchar_t* format, std::va_list values)
         va_copy(again, values);
         const int length = std::vswprintf(text.data(), room, format, again);
         va_end(again);
-        if (length >= 0)
+        if (length >= 0 && static_cast<std::size_t>(length) < room)
             return text;
     }
     return {L'\0'};
