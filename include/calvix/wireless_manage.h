@@ -350,7 +350,7 @@ public:
     /// -2 enumeration failed, -3 no interface, -4 not connected.
     int GetCurrentSSID(char* ssid, int capacity);
 
-    /// The same, and the whole record into `pAttributes` [out].
+    /// The same, and the whole record into `pAttributes` [out]; a null one is a fatal caller error.
     int GetCurrentSSID(char* ssid, int capacity, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
     /// State (WLAN_INTERFACE_STATE), SSID, BSSID (6 bytes) and BSS type (DOT11_BSS_TYPE) of the current connection;
