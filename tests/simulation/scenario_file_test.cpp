@@ -155,10 +155,10 @@ TEST(ScenarioFile, WritingKeepsWhatTheShortFormsCannotSay)
 TEST(ScenarioGallery, HoldsWhatTheDocumentationSays)
 {
     const std::vector<std::string> names = GalleryFiles();
-    const std::set<std::string> expected{"home.json",         "office.json",         "airport.json",
+    const std::set<std::string> expected{"home.json",         "office.json",          "airport.json",
                                          "no-adapter.json",   "service-stopped.json", "consent-denied.json",
                                          "two-adapters.json", "office-walk.json",     "train.json",
-                                         "radio-off.json",    "airport-hotspot.json"};
+                                         "radio-off.json",    "airport-hotspot.json", "automatic.json"};
     EXPECT_EQ(std::set<std::string>(names.begin(), names.end()), expected);
 }
 
