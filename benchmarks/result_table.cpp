@@ -84,17 +84,17 @@ void ResultTable::Keep(const Run& run)
     const double time = run.cpu_accumulated_time / static_cast<double>(run.iterations) * 1e9;
     if (full.substr(slash + 1) == "bare")
         return KeepShorter(times.bare, time);
-    KeepShorter(times.library, time);
+    KeepShorter(times.ours, time);
     times.allocations = run.counters.at("allocations").value;
 }
 
 void ResultTable::PrintRow(const std::string& name, const Times& times) const
 {
     const NameParts parts = Split(name);
-    const double ratio = times.bare > 0 ? times.library / times.bare : 0;
+    const double ratio = times.bare > 0 ? times.ours / times.bare : 0;
     std::printf("%-27s %13s %7s %11s %11s %7.2f %11s %7.0f\n", parts.method.c_str(), parts.lists.c_str(),
-                parts.matches.c_str(), Duration(times.library).c_str(), Duration(times.bare).c_str(), ratio,
-                Duration(times.library - times.bare).c_str(), times.allocations);
+                parts.matches.c_str(), Duration(times.ours).c_str(), Duration(times.bare).c_str(), ratio,
+                Duration(times.ours - times.bare).c_str(), times.allocations);
 }
 
 /// How the time of a method grows when ten times as many networks are visible to the same 1,000 profiles.
@@ -114,8 +114,8 @@ void ResultTable::PrintGrowth() const
             std::printf("\n1,000 x 1,000 against 1,000 x 100    same 100 matches    every network matches\n"
                         "                                       library   bare          library   bare\n");
         const Times& base = few->second;
-        std::printf("%-36s %9.2f %6.2f %16.2f %6.2f\n", method.c_str(), sameMatches->second.library / base.library,
-                    sameMatches->second.bare / base.bare, allMatch->second.library / base.library,
+        std::printf("%-36s %9.2f %6.2f %16.2f %6.2f\n", method.c_str(), sameMatches->second.ours / base.ours,
+                    sameMatches->second.bare / base.bare, allMatch->second.ours / base.ours,
                     allMatch->second.bare / base.bare);
     }
 }

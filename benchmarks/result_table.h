@@ -29,7 +29,7 @@ private:
     /// The two sides of a pair, in nanoseconds a call; 0 where it was not measured.
     struct Times
     {
-        double library = 0;
+        double ours = 0;
         double bare = 0;
         double allocations = 0;
     };

@@ -37,7 +37,7 @@ int ConnectBest(Host& host, const BestOptions& options)
         entry.dot11Ssid = MakeSsid(BytesOfVisibleText(ssid));
         excluded.push_back(entry);
     }
-    CWirelessManage& library = host.library();
+    CWirelessManage& library = host.manager();
     if (name.empty())
         return excluded.empty() ? library.ConnectBestAP(adapter) : library.ConnectBestAP(adapter, &excluded);
     return excluded.empty() ? library.ConnectBestAP(adapter, name.c_str())

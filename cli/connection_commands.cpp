@@ -48,7 +48,7 @@ void Connect(Host& host, const ConnectOptions& options)
     std::string name =
         InActiveCodePage(Widen(options.profile), "connect by the profile's automatic mode instead: calvix auto");
     ConnectAndShow(host, options,
-                   [&] { host.Require("LinkProfile", host.library().LinkProfile(adapter, name.data())); });
+                   [&] { host.Require("LinkProfile", host.manager().LinkProfile(adapter, name.data())); });
 }
 
 /// Waits until the service tells that the adapter's connection is down.
@@ -57,7 +57,7 @@ void DisconnectAndWait(Host& host, unsigned seconds)
     const GUID* const adapter = host.adapterGuid();
     const bool connected = host.service().Connection(adapter).has_value();
     Notifications notifications(host);
-    host.Require("Disconnect", host.library().Disconnect(adapter));
+    host.Require("Disconnect", host.manager().Disconnect(adapter));
     if (!connected)
         return;
     const Progress progress(host, "Disconnecting");
@@ -82,7 +82,7 @@ void Disconnect(Host& host, const ConnectOptions& options)
 void GoBack(Host& host, const std::string& method, WLAN_CONNECTION_ATTRIBUTES& remembered)
 {
     const GUID* const adapter = host.adapterGuid();
-    CWirelessManage& library = host.library();
+    CWirelessManage& library = host.manager();
     if (method == "network")
         host.Require("RecoverConnetionAttributes", library.RecoverConnetionAttributes(adapter));
     else if (method == "profile")
@@ -95,8 +95,8 @@ void Reconnect(Host& host, const ConnectOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
     WLAN_CONNECTION_ATTRIBUTES remembered{};
-    host.Check("GetCurrentConnection", host.library().GetCurrentConnection(adapter, &remembered));
-    host.Check("SaveCurrentConnectionAttributes", host.library().SaveCurrentConnectionAttributes(adapter));
+    host.Check("GetCurrentConnection", host.manager().GetCurrentConnection(adapter, &remembered));
+    host.Check("SaveCurrentConnectionAttributes", host.manager().SaveCurrentConnectionAttributes(adapter));
     DisconnectAndWait(host, options.seconds);
     ConnectAndShow(host, options, [&] { GoBack(host, options.method, remembered); });
 }
@@ -104,7 +104,7 @@ void Reconnect(Host& host, const ConnectOptions& options)
 void Reset(Host& host, const ConnectOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
-    ConnectAndShow(host, options, [&] { host.Require("ResetConnection", host.library().ResetConnection(adapter)); });
+    ConnectAndShow(host, options, [&] { host.Require("ResetConnection", host.manager().ResetConnection(adapter)); });
 }
 
 /// One method works on the first adapter, whichever it is given.
@@ -118,7 +118,7 @@ void RequireFirstAdapter(Host& host)
 void AskAutomatically(Host& host, const std::string& method)
 {
     const GUID* const adapter = host.adapterGuid();
-    CWirelessManage& library = host.library();
+    CWirelessManage& library = host.manager();
     if (method == "ranked")
         host.Require("AutoConnectEx", library.AutoConnectEx(adapter));
     else if (method == "smart")
@@ -132,7 +132,7 @@ void AskAutomatically(Host& host, const std::string& method)
 void Switch(Host& host, const std::string& method)
 {
     const GUID* const adapter = host.adapterGuid();
-    CWirelessManage& library = host.library();
+    CWirelessManage& library = host.manager();
     if (method == "smart")
         host.Require("SmartSwitch", library.SmartSwitch(adapter));
     else

@@ -18,10 +18,10 @@ AdapterFacts DescribeAdapter(Host& host, const WLAN_INTERFACE_INFO& info, unsign
 {
     AdapterFacts facts;
     facts.number = number;
-    facts.guid = host.library().GUID2String(info.InterfaceGuid);
+    facts.guid = host.manager().GUID2String(info.InterfaceGuid);
     facts.description = Narrow(FixedText(info.strInterfaceDescription));
     facts.state = static_cast<unsigned>(info.isState);
-    facts.stateText = host.library().GetWlanInterfaceState(facts.state);
+    facts.stateText = host.manager().GetWlanInterfaceState(facts.state);
     return facts;
 }
 
@@ -73,7 +73,7 @@ void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPo
     for (const AccessPointFacts& facts : accessPoints)
     {
         const Cell ssid = facts.ssid.hex.empty() ? Cell("(hidden)", Tone::faint) : Cell(facts.ssid.text);
-        const int quality = host.library().GetSignalStrength(static_cast<int>(facts.rssi));
+        const int quality = host.manager().GetSignalStrength(static_cast<int>(facts.rssi));
         table.AddRow({facts.bssid, ssid, SignalBars(static_cast<unsigned long>(quality), host.terminal()),
                       std::to_string(facts.rssi), std::to_string(facts.channel), facts.band, facts.phy});
     }

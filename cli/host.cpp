@@ -130,14 +130,14 @@ struct Host::World
         : computer(MakeComputer(options.scenario)),
           watched(computer ? static_cast<platform::Platform&>(*computer) : platform::CurrentPlatform(),
                   options.trace ? &err : nullptr),
-          inPlace(watched), library(options.trace)
+          inPlace(watched), libraryInUse(options.trace)
     {
     }
 
     std::unique_ptr<simulation::Computer> computer;
     WatchedPlatform watched;
     PlatformInPlace inPlace;
-    LibraryInUse library;
+    LibraryInUse libraryInUse;
     std::unique_ptr<ServiceView> service;
 };
 
@@ -160,11 +160,11 @@ Host::World& Host::world()
     return *m_world;
 }
 
-CWirelessManage& Host::library()
+CWirelessManage& Host::manager()
 {
     World& current = world();
     current.watched.watched().StartWatching();
-    return *current.library;
+    return *current.libraryInUse;
 }
 
 WatchedWlan& Host::watched()
@@ -183,7 +183,7 @@ ServiceView& Host::service()
 std::vector<WLAN_INTERFACE_INFO> Host::adapters()
 {
     std::vector<WLAN_INTERFACE_INFO> list;
-    Check("GetWlanInterface", library().GetWlanInterface(&list));
+    Check("GetWlanInterface", manager().GetWlanInterface(&list));
     return list;
 }
 
@@ -203,11 +203,11 @@ WLAN_INTERFACE_INFO Host::FindAdapter()
     if (const auto place = PlaceOf(wanted, list.size()))
         return list[*place];
     GUID guid{};
-    const bool described = library().GetWlanInterfaceGuid(Widen(wanted).c_str(), guid) == 0;
+    const bool described = manager().GetWlanInterfaceGuid(Widen(wanted).c_str(), guid) == 0;
     for (const WLAN_INTERFACE_INFO& info : list)
     {
         if (described ? IsEqualGUID(info.InterfaceGuid, guid)
-                      : SameGuidText(wanted, library().GUID2String(info.InterfaceGuid)))
+                      : SameGuidText(wanted, manager().GUID2String(info.InterfaceGuid)))
             return info;
     }
     throw BadInput("there is no adapter \"" + wanted + "\"",

@@ -47,10 +47,10 @@ public:
     const TerminalTraits& terminal() const { return m_terminal; }
 
     /// The library. The first call brings up the platform; later calls are cheap.
-    CWirelessManage& library();
+    CWirelessManage& manager();
     /// The WLAN service as this program itself looks at it, for what the library has no method for.
     ServiceView& service();
-    /// What the library asked of the WLAN service since `library()` was last called, and what was refused.
+    /// What the library asked of the WLAN service since `manager()` was last called, and what was refused.
     WatchedWlan& watched();
     /// All adapters, at least one.
     std::vector<WLAN_INTERFACE_INFO> adapters();
@@ -72,7 +72,7 @@ public:
     std::vector<ConnectRequest> Rehearse(const std::function<void()>& action);
 
     /// Fails in words when `code`, the result of `method`, is negative; returns it otherwise. Written around a call:
-    /// `host.Check("GetMatchAPList", host.library().GetMatchAPList(host.adapterGuid(), &list))`.
+    /// `host.Check("GetMatchAPList", host.manager().GetMatchAPList(host.adapterGuid(), &list))`.
     int Check(const char* method, long code);
     /// The same where 0 is the only success.
     void Require(const char* method, long code);

@@ -16,7 +16,7 @@ void List(Host& host, const char* method, int (CWirelessManage::*listing)())
 {
     host.adapter();
     int result = 0;
-    const std::string text = FromActiveCodePage(host.CaptureTrace([&] { result = (host.library().*listing)(); }));
+    const std::string text = FromActiveCodePage(host.CaptureTrace([&] { result = (host.manager().*listing)(); }));
     if (host.json() && result == 0)
         return PrintListingJson(host.out(), text);
     if (!host.json())
@@ -27,11 +27,11 @@ void List(Host& host, const char* method, int (CWirelessManage::*listing)())
 SoftApFacts ReadSoftAps(Host& host)
 {
     std::vector<std::string> names;
-    host.Require("GetSoftAPList", host.library().GetSoftAPList(host.adapterGuid(), &names));
+    host.Require("GetSoftAPList", host.manager().GetSoftAPList(host.adapterGuid(), &names));
     SoftApFacts facts;
     for (const std::string& name : names)
         facts.names.push_back(FromActiveCodePage(name));
-    facts.connected = host.library().SpecialSoftAP();
+    facts.connected = host.manager().SpecialSoftAP();
     return facts;
 }
 

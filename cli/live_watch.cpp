@@ -98,8 +98,8 @@ SignalFacts ReadSignal(Host& host)
 {
     const GUID* const adapter = host.adapterGuid();
     SignalFacts facts;
-    const auto state = static_cast<unsigned long>(host.Check("GetWlanStatus", host.library().GetWlanStatus(adapter)));
-    facts.state = host.library().GetWlanInterfaceState(state);
+    const auto state = static_cast<unsigned long>(host.Check("GetWlanStatus", host.manager().GetWlanStatus(adapter)));
+    facts.state = host.manager().GetWlanInterfaceState(state);
     const auto connection = host.service().Connection(adapter);
     if (!connection || !StandsConnected(connection->isState))
         return facts;
@@ -110,7 +110,7 @@ SignalFacts ReadSignal(Host& host)
     facts.bssid = MacText(association.dot11Bssid);
     facts.quality = association.wlanSignalQuality;
     int rssi = 0;
-    if (host.library().GetRssi(adapter, rssi) == 0)
+    if (host.manager().GetRssi(adapter, rssi) == 0)
         facts.rssi = rssi;
     return facts;
 }

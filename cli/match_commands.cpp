@@ -33,8 +33,8 @@ MatchFacts MatchEveryProfile(Host& host)
     std::vector<WLAN_BSS_ENTRY> entries;
     std::vector<std::wstring> names;
     const GUID* const adapter = host.adapterGuid();
-    host.Check("GetMatchAPList", host.library().GetMatchAPList(adapter, &entries));
-    host.Check("GetMatchAPCount", host.library().GetMatchAPCount(adapter, &names, kEveryProfile));
+    host.Check("GetMatchAPList", host.manager().GetMatchAPList(adapter, &entries));
+    host.Check("GetMatchAPCount", host.manager().GetMatchAPCount(adapter, &names, kEveryProfile));
     return Describe(entries, names);
 }
 
@@ -45,8 +45,8 @@ MatchFacts MatchConnectable(Host& host, const std::string& named)
     std::vector<std::wstring> names;
     std::wstring name = Widen(named);
     const GUID* const adapter = host.adapterGuid();
-    host.Check("GetConnectableAPList", host.library().GetConnectableAPList(adapter, name.data(), &entries));
-    host.Check("GetMatchAPCount", host.library().GetMatchAPCount(adapter, &names, name.c_str(), kAutomaticProfiles));
+    host.Check("GetConnectableAPList", host.manager().GetConnectableAPList(adapter, name.data(), &entries));
+    host.Check("GetMatchAPCount", host.manager().GetMatchAPCount(adapter, &names, name.c_str(), kAutomaticProfiles));
     return Describe(entries, names);
 }
 

@@ -50,12 +50,12 @@ void AddReason(const WLAN_NOTIFICATION_DATA& data, Notice& notice)
 
 Notifications::Notifications(Host& host) : m_host(host)
 {
-    host.Require("RegisterNotification", host.library().RegisterNotification(&Notifications::Receive, this));
+    host.Require("RegisterNotification", host.manager().RegisterNotification(&Notifications::Receive, this));
 }
 
 Notifications::~Notifications()
 {
-    m_host.library().UnRegisterNotification(&Notifications::Receive, this);
+    m_host.manager().UnRegisterNotification(&Notifications::Receive, this);
 }
 
 std::vector<Notice> Notifications::Take()

@@ -33,14 +33,14 @@ const char* ModeText(int automatic)
 std::vector<ProfileFacts> ReadProfiles(Host& host)
 {
     const GUID* const adapter = host.adapterGuid();
-    host.Check("GetProfileCount", host.library().GetProfileCount(adapter));
+    host.Check("GetProfileCount", host.manager().GetProfileCount(adapter));
     std::vector<ProfileFacts> profiles;
     for (const WLAN_PROFILE_INFO& info : host.service().Profiles(adapter))
     {
         ProfileFacts facts;
         facts.position = static_cast<unsigned>(profiles.size() + 1);
         facts.name = Narrow(FixedText(info.strProfileName));
-        facts.mode = ModeText(host.library().IsAutoConnMode2(adapter, info.strProfileName));
+        facts.mode = ModeText(host.manager().IsAutoConnMode2(adapter, info.strProfileName));
         facts.groupPolicy = (info.dwFlags & WLAN_PROFILE_GROUP_POLICY) != 0;
         facts.perUser = (info.dwFlags & WLAN_PROFILE_USER) != 0;
         profiles.push_back(facts);
@@ -85,7 +85,7 @@ void ShowProfile(Host& host, const ProfileOptions& options)
     std::wstring xml(1U << 16, L'\0');
     const std::wstring name = Widen(options.name);
     host.Check("GetProfile",
-               host.library().GetProfile(host.adapterGuid(), name.c_str(), xml.data(), static_cast<int>(xml.size())));
+               host.manager().GetProfile(host.adapterGuid(), name.c_str(), xml.data(), static_cast<int>(xml.size())));
     const std::string document = Narrow(xml.substr(0, xml.find(L'\0')));
     const std::string shown = options.showKey ? document : WithoutKey(document);
     if (host.json())
@@ -114,26 +114,26 @@ void ReportChange(Host& host, const char* change, const std::string& profile, co
 void AddProfile(Host& host, const ProfileOptions& options)
 {
     const std::string xml = ReadTextFile(options.file);
-    host.Check("SetProfile", host.library().SetProfile(host.adapterGuid(), Widen(xml).c_str()));
+    host.Check("SetProfile", host.manager().SetProfile(host.adapterGuid(), Widen(xml).c_str()));
     ReportChange(host, "added", FirstElementText(xml, "name"), "stored");
 }
 
 void DeleteProfile(Host& host, const ProfileOptions& options)
 {
     const std::wstring name = Widen(options.name);
-    host.Check("DeleteProfile", host.library().DeleteProfile(host.adapterGuid(), name.c_str()));
+    host.Check("DeleteProfile", host.manager().DeleteProfile(host.adapterGuid(), name.c_str()));
     ReportChange(host, "deleted", options.name, "deleted");
 }
 
 void MoveToSecondPlace(Host& host, const std::wstring& name)
 {
     const std::string narrow = InActiveCodePage(name, "such a profile can only be moved to the last place");
-    host.Require("ResetProfilePosition", host.library().ResetProfilePosition(host.adapterGuid(), narrow.c_str()));
+    host.Require("ResetProfilePosition", host.manager().ResetProfilePosition(host.adapterGuid(), narrow.c_str()));
 }
 
 void MoveToLastPlace(Host& host, const std::wstring& name)
 {
-    host.Require("SetProfilePosition", host.library().SetProfilePosition(host.adapterGuid(), name.c_str()));
+    host.Require("SetProfilePosition", host.manager().SetProfilePosition(host.adapterGuid(), name.c_str()));
 }
 
 void MoveProfile(Host& host, const ProfileOptions& options)
@@ -141,7 +141,7 @@ void MoveProfile(Host& host, const ProfileOptions& options)
     const GUID* const adapter = host.adapterGuid();
     const std::wstring name = Widen(options.name);
     // With fewer than two profiles the library has nothing to move and does not look at the name.
-    host.Check("GetProfile", host.library().GetProfile(adapter, name.c_str()));
+    host.Check("GetProfile", host.manager().GetProfile(adapter, name.c_str()));
     if (options.place == "second")
         MoveToSecondPlace(host, name);
     else

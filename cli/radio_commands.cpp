@@ -34,7 +34,7 @@ RadioFacts ReadRadio(Host& host)
     unsigned int software = dot11_radio_state_unknown;
     unsigned int hardware = dot11_radio_state_unknown;
     RadioFacts facts;
-    facts.on = host.Check("PhyRadioIsOn2", host.library().PhyRadioIsOn2(host.adapterGuid(), software, hardware)) == 1;
+    facts.on = host.Check("PhyRadioIsOn2", host.manager().PhyRadioIsOn2(host.adapterGuid(), software, hardware)) == 1;
     facts.software = SwitchText(software);
     facts.hardware = SwitchText(hardware);
     return facts;
@@ -69,7 +69,7 @@ void RequireOn(const RadioFacts& radio)
 void SwitchOn(Host& host)
 {
     unsigned long error = 0;
-    host.Require("TurnOnSoftwareRadio", host.library().TurnOnSoftwareRadio(host.adapterGuid(), error));
+    host.Require("TurnOnSoftwareRadio", host.manager().TurnOnSoftwareRadio(host.adapterGuid(), error));
     const RadioFacts radio = ReadRadio(host);
     RequireOn(radio);
     ShowRadio(host, radio);
@@ -77,7 +77,7 @@ void SwitchOn(Host& host)
 
 void SwitchOff(Host& host)
 {
-    host.Require("RadioTurnOff", host.library().RadioTurnOff(host.adapterGuid()));
+    host.Require("RadioTurnOff", host.manager().RadioTurnOff(host.adapterGuid()));
     ShowRadioNow(host);
 }
 
@@ -98,7 +98,7 @@ void Reset(Host& host)
     const GUID* const adapter = host.adapterGuid();
     {
         const Progress progress(host, "Switching the radio off and on");
-        host.Require("ResetWiFiRadio", host.library().ResetWiFiRadio(adapter));
+        host.Require("ResetWiFiRadio", host.manager().ResetWiFiRadio(adapter));
     }
     RequireSwitched(host, "ResetWiFiRadio");
     const RadioFacts radio = ReadRadio(host);
@@ -112,7 +112,7 @@ std::wstring ComingBack(Host& host)
     const GUID* const adapter = host.adapterGuid();
     const auto connection = host.service().Connection(adapter);
     const bool automatic = host.service().IsEnabled(adapter, wlan_intf_opcode_autoconf_enabled).value_or(false);
-    if (!connection || !automatic || host.library().IsAutoConnMode2(adapter, connection->strProfileName) != 1)
+    if (!connection || !automatic || host.manager().IsAutoConnMode2(adapter, connection->strProfileName) != 1)
         return {};
     return std::wstring(FixedText(connection->strProfileName));
 }
@@ -148,7 +148,7 @@ void Restart(Host& host, const RadioOptions& options)
     Notifications notifications(host);
     {
         const Progress progress(host, "Restarting the radio");
-        host.library().RestartWiFiRadio(adapter);
+        host.manager().RestartWiFiRadio(adapter);
     }
     RequireSwitched(host, "RestartWiFiRadio");
     const RadioFacts radio = ReadRadio(host);

@@ -72,7 +72,7 @@ ReasonAdvice AdviseOnReason(DWORD reasonCode)
 std::string ReasonInServiceWords(Host& host, DWORD reasonCode)
 {
     char text[512] = {};
-    if (!host.library().ReasonCode2String(reasonCode, text, static_cast<int>(sizeof(text))) || text[0] == '\0')
+    if (!host.manager().ReasonCode2String(reasonCode, text, static_cast<int>(sizeof(text))) || text[0] == '\0')
         return "no text for reason code " + std::to_string(reasonCode);
     return FromActiveCodePage(text);
 }

@@ -36,7 +36,7 @@ std::string CurrentAccessPoint(Host& host)
 std::string Target(Host& host, bool dryRun)
 {
     const std::vector<ConnectRequest> requests =
-        dryRun ? host.Rehearse([&host] { host.library().Roaming(host.adapterGuid()); })
+        dryRun ? host.Rehearse([&host] { host.manager().Roaming(host.adapterGuid()); })
                : host.watched().ConnectRequests();
     return requests.empty() ? std::string() : requests.back().accessPoint;
 }
@@ -89,7 +89,7 @@ RoamFacts Roam(Host& host, bool dryRun)
     const GUID* const adapter = host.adapterGuid();
     RoamFacts facts;
     facts.from = CurrentAccessPoint(host);
-    facts.code = dryRun ? host.library().PreRoaming(adapter) : host.library().Roaming(adapter);
+    facts.code = dryRun ? host.manager().PreRoaming(adapter) : host.manager().Roaming(adapter);
     const char* const method = MethodName(dryRun);
     const std::optional<Cause> obstacle = FindCause(*FindMethod(method), facts.code);
     if (obstacle == Cause::clientNotOpened)

@@ -50,7 +50,7 @@ ScanFacts ScanAndWait(Host& host, unsigned seconds)
     const GUID* const adapter = host.adapterGuid();
     Notifications notifications(host);
     unsigned long error = 0;
-    host.Check("Rescan", host.library().Rescan(adapter, error));
+    host.Check("Rescan", host.manager().Rescan(adapter, error));
     ScanFacts scan;
     ScanEnd end = ScanEnd::notYet;
     DWORD reason = 0;
@@ -112,7 +112,7 @@ void PrintNetworks(Host& host, const std::vector<NetworkFacts>& networks)
 void ListNetworks(Host& host)
 {
     const GUID* const adapter = host.adapterGuid();
-    host.Check("GetAvailableNetworkCount", host.library().GetAvailableNetworkCount(adapter));
+    host.Check("GetAvailableNetworkCount", host.manager().GetAvailableNetworkCount(adapter));
     std::vector<NetworkFacts> networks;
     for (const WLAN_AVAILABLE_NETWORK& network : host.service().Networks(adapter))
         networks.push_back(DescribeNetwork(network));

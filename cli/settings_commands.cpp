@@ -33,12 +33,12 @@ SettingsFacts ReadSettings(Host& host)
     const GUID* const adapter = host.adapterGuid();
     SettingsFacts facts;
     unsigned long level = wlan_power_setting_invalid;
-    host.Require("GetPowerSetting", host.library().GetPowerSetting(level));
+    host.Require("GetPowerSetting", host.manager().GetPowerSetting(level));
     facts.powerLevel = static_cast<unsigned>(level);
-    facts.powerSetting = host.library().GetPowerSettingStr(level);
+    facts.powerSetting = host.manager().GetPowerSettingStr(level);
     facts.automaticConnection = host.service().IsEnabled(adapter, wlan_intf_opcode_autoconf_enabled);
     facts.backgroundScan = host.service().IsEnabled(adapter, wlan_intf_opcode_background_scan_enabled);
-    const int safeMode = host.library().SupportedSafeMode(adapter);
+    const int safeMode = host.manager().SupportedSafeMode(adapter);
     if (safeMode >= 0)
         facts.safeMode = safeMode != 0;
     return facts;
@@ -55,9 +55,9 @@ void Settings(Host& host, const SettingsOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
     if (options.enableAuto)
-        host.Require("EnableAutoCfg", host.library().EnableAutoCfg(adapter));
+        host.Require("EnableAutoCfg", host.manager().EnableAutoCfg(adapter));
     if (options.enableBackgroundScan)
-        host.Require("EnableBackgroundScan", host.library().EnableBackgroundScan(adapter));
+        host.Require("EnableBackgroundScan", host.manager().EnableBackgroundScan(adapter));
     const SettingsFacts facts = ReadSettings(host);
     if (host.json())
         return PrintJson(host.out(), facts);
@@ -101,9 +101,9 @@ void AskDriver(Host& host, const IhvOptions& options)
     const std::string request = HexOf(buffer, buffer.size());
     const GUID* const adapter = host.adapterGuid();
     if (options.grant)
-        host.Require("SetIhvSecuritySettings", static_cast<long>(host.library().SetIhvSecuritySettings()));
+        host.Require("SetIhvSecuritySettings", static_cast<long>(host.manager().SetIhvSecuritySettings()));
     unsigned long returned = 0;
-    host.Require("IhvControl", static_cast<long>(host.library().IhvControl(
+    host.Require("IhvControl", static_cast<long>(host.manager().IhvControl(
                                    adapter, buffer.data(), static_cast<unsigned long>(buffer.size()), returned)));
     const std::string answer = HexOf(buffer, (std::min)(static_cast<std::size_t>(returned), buffer.size()));
     if (host.json())

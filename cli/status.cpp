@@ -33,13 +33,13 @@ void AddMeasurements(Host& host, WLAN_CONNECTION_ATTRIBUTES& attributes, Connect
 {
     const GUID* const adapter = host.adapterGuid();
     int rssi = 0;
-    if (host.library().GetRssi(adapter, rssi) == 0)
+    if (host.manager().GetRssi(adapter, rssi) == 0)
         facts.rssi = rssi;
-    const long accessPoints = host.library().GetCurrentWiFi(adapter, &attributes);
+    const long accessPoints = host.manager().GetCurrentWiFi(adapter, &attributes);
     if (accessPoints >= 0)
         facts.accessPoints = accessPoints;
     _WIFI_TXRX_COUNT count{};
-    if (host.library().GetWlanStatistics(adapter, &count) == 0)
+    if (host.manager().GetWlanStatistics(adapter, &count) == 0)
     {
         facts.framesSent = count.ullTransmitted;
         facts.framesReceived = count.ullReceived;
@@ -95,7 +95,7 @@ StatusFacts ReadStatus(Host& host)
     if (!StandsConnected(now.isState))
         return status;
     WLAN_CONNECTION_ATTRIBUTES attributes{};
-    host.Check("GetCurrentConnection", host.library().GetCurrentConnection(host.adapterGuid(), &attributes));
+    host.Check("GetCurrentConnection", host.manager().GetCurrentConnection(host.adapterGuid(), &attributes));
     status.connection = DescribeConnection(attributes);
     AddMeasurements(host, attributes, *status.connection);
     return status;

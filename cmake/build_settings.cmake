@@ -36,6 +36,16 @@ if(CALVIX_COVERAGE)
     add_link_options(--coverage)
 endif()
 
+# The standard headers that most sources include, read once a target. Off in the native world, where a source that forgot
+# an include is to be noticed.
+function(calvix_precompile target)
+    if(CALVIX_PRECOMPILE)
+        target_precompile_headers(${target} PRIVATE <calvix/platform_records.h>
+            <algorithm> <array> <chrono> <functional> <map> <memory> <optional> <string> <string_view> <unordered_map>
+            <vector>)
+    endif()
+endfunction()
+
 # Sources are globbed at every build, so that a new file needs no line here: calvix_glob(RESULT FOLDER...) finds the
 # .cpp files in and below the folders, and an absent folder holds none.
 function(calvix_glob result)

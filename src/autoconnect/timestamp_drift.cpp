@@ -1,5 +1,6 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/narrow_name.h"
 #include "core/profile_network_match.h"
 #include "core/service_steps.h"
 
@@ -109,11 +110,11 @@ int CWirelessManage::GetMatchBSSID(const GUID* pInterfaceGuid)
     const NetworksByProfile networksByProfile(*networks);
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
     {
-        const std::wstring name(FixedText(profile.strProfileName));
-        trace.Line("ProfileName(%ls)", name.c_str());
+        const std::string name = NarrowName(profile.strProfileName);
+        trace.Line("ProfileName(%s)", name.c_str());
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {
-            trace.Line("Available Network(%ls)", name.c_str());
+            trace.Line("Available Network(%s)", name.c_str());
             TraceDrift(hClient, pInterfaceGuid, *network, trace, result);
         }
     }

@@ -1,7 +1,7 @@
 #include "inventory/interface_listing.h"
 
+#include "core/narrow_name.h"
 #include "core/wlan_lists.h"
-#include "inventory/narrow_name.h"
 #include "inventory/value_text.h"
 
 namespace calvix

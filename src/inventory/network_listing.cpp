@@ -1,8 +1,8 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/narrow_name.h"
 #include "core/wlan_lists.h"
 #include "inventory/interface_listing.h"
-#include "inventory/narrow_name.h"
 #include "inventory/signal_scale.h"
 #include "inventory/value_text.h"
 
