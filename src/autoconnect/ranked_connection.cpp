@@ -1,5 +1,7 @@
 #include "autoconnect/ranked_connection.h"
 
+#include "autoconnect/connection_walk.h"
+
 namespace calvix
 {
 
@@ -25,8 +27,7 @@ int ConnectCandidates(HANDLE client,
     // first accepted one stands.
     for (const Candidate& candidate : candidates)
     {
-        const WLAN_AVAILABLE_NETWORK& network = *candidate.network;
-        if (RequestConnection(client, interfaceGuid, network.strProfileName, network.dot11BssType, nullptr, trace) == 0)
+        if (RequestNetwork(client, interfaceGuid, *candidate.network, trace) == 0)
             return 0;
     }
     return -12;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "autoconnect/candidate_ranking.h"
-#include "core/connect_request.h"
 #include "core/profile_network_match.h"
 #include "core/service_steps.h"
 
