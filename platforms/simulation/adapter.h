@@ -80,7 +80,6 @@ public:
 
     /// Starts a scan, or joins the one that is under way. `ssid`: a hidden network to ask for by name.
     void StartScan(const std::optional<Bytes>& ssid = std::nullopt);
-    bool IsScanning() const { return m_scanning; }
     /// What the last finished scan heard, and the connection's access point as it is heard now; nothing while the
     /// radio is off.
     const std::vector<HeardBss>& Heard();

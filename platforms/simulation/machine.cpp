@@ -39,10 +39,4 @@ void Machine::SetPowerSetting(WLAN_POWER_SETTING setting)
     }
 }
 
-bool Machine::IsConnected() const
-{
-    return std::any_of(adapters.begin(), adapters.end(),
-                       [](const auto& adapter) { return adapter->CurrentLink() != nullptr; });
-}
-
 } // namespace calvix::simulation

@@ -55,9 +55,6 @@ struct Machine
 
     /// Changes the setting and tells the clients.
     void SetPowerSetting(WLAN_POWER_SETTING setting);
-
-    /// Whether any adapter is connected to a network.
-    bool IsConnected() const;
 };
 
 } // namespace calvix::simulation
