@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace calvix::test
+namespace calvix::test::connecting_test
 {
 namespace
 {
@@ -213,4 +213,4 @@ TEST_F(ConnectingCommands, ProgressIsForTerminalsAndVanishes)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::connecting_test

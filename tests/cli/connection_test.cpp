@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace calvix::test
+namespace calvix::test::connection_test
 {
 namespace
 {
@@ -226,4 +226,4 @@ TEST_F(BestCommand, ShowsProgressOnATerminal)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::connection_test

@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace calvix::test
+namespace calvix::test::explain_test
 {
 namespace
 {
@@ -75,4 +75,4 @@ TEST_F(ExplainCommand, RefusesWhatTheLibraryDoesNotHave)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::explain_test

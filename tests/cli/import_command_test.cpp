@@ -7,7 +7,7 @@
 
 #include <sstream>
 
-namespace calvix::host::test
+namespace calvix::host::test::import_command_test
 {
 
 namespace
@@ -177,4 +177,4 @@ TEST_F(ImportCommand, TheOutputMustBeNamed)
     EXPECT_EQ(Import({networks}).exitCode, 2);
 }
 
-} // namespace calvix::host::test
+} // namespace calvix::host::test::import_command_test

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::host::test
+namespace calvix::host::test::import_interfaces_test
 {
 
 using simulation::RadioSwitch;
@@ -164,4 +164,4 @@ TEST(ImportInterfaces, AnythingElseIsRefused)
         EXPECT_EQ(Complaint([&] { Parse(text); }), "file:1: this is no output of \"netsh wlan show interfaces\"");
 }
 
-} // namespace calvix::host::test
+} // namespace calvix::host::test::import_interfaces_test

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::host::test
+namespace calvix::host::test::import_networks_test
 {
 
 namespace
@@ -308,4 +308,4 @@ TEST(ImportNetworks, NoCutGoesUnnoticed)
     }
 }
 
-} // namespace calvix::host::test
+} // namespace calvix::host::test::import_networks_test

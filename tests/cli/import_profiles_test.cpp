@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::host::test
+namespace calvix::host::test::import_profiles_test
 {
 
 namespace
@@ -104,4 +104,4 @@ TEST(ImportProfiles, AFolderMustExistAndHoldProfiles)
               (folder / "notes.txt") + ": this folder cannot be read");
 }
 
-} // namespace calvix::host::test
+} // namespace calvix::host::test::import_profiles_test

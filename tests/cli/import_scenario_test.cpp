@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::host::test
+namespace calvix::host::test::import_scenario_test
 {
 
 namespace
@@ -239,4 +239,4 @@ TEST(ImportScenario, NoProfileIsMadeForSecurityThatNoProfileCanAskFor)
     EXPECT_EQ(imported.warnings.size(), 1u) << "one warning for a network, however many access points it has";
 }
 
-} // namespace calvix::host::test
+} // namespace calvix::host::test::import_scenario_test

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::host::test
+namespace calvix::host::test::import_text_test
 {
 
 TEST(CaptureText, FieldsEndAtTheFirstColonAndAreTrimmed)
@@ -120,4 +120,4 @@ TEST(ChannelFrequency, BandFromTheChannelAlone)
     EXPECT_EQ(BandOfChannel(178), "");
 }
 
-} // namespace calvix::host::test
+} // namespace calvix::host::test::import_text_test

@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace calvix::test
+namespace calvix::test::inventory_test
 {
 namespace
 {
@@ -233,4 +233,4 @@ TEST_F(ScanCommand, SaysWhatWasRefused)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::inventory_test

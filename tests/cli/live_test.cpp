@@ -8,7 +8,7 @@
 #include <map>
 #include <sstream>
 
-namespace calvix::test
+namespace calvix::test::live_test
 {
 namespace
 {
@@ -227,4 +227,4 @@ TEST_F(CtrlC, EndsAWaitAsAFailure)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::live_test

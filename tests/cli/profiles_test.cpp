@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace calvix::test
+namespace calvix::test::profiles_test
 {
 namespace
 {
@@ -185,4 +185,4 @@ TEST_F(ProfilesCommand, CannotNameEveryProfileInTheCodePage)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::profiles_test

@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace calvix::test
+namespace calvix::test::radio_settings_test
 {
 namespace
 {
@@ -218,4 +218,4 @@ TEST_F(ListCommands, SoftApsAreToldByTheirMarker)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::radio_settings_test

@@ -10,7 +10,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace calvix::test
+namespace calvix::test::refusals_test
 {
 namespace
 {
@@ -184,4 +184,4 @@ TEST_F(Refusals, SavingNeedsAComputerOfTheProgramsOwn)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::refusals_test

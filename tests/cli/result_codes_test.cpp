@@ -11,7 +11,7 @@
 #include <sstream>
 #include <string>
 
-namespace calvix::host
+namespace calvix::host::result_codes_test
 {
 namespace
 {
@@ -193,4 +193,4 @@ TEST(PlatformErrors, HaveAdviceByOperation)
 }
 
 } // namespace
-} // namespace calvix::host
+} // namespace calvix::host::result_codes_test

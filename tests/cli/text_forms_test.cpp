@@ -7,7 +7,7 @@
 
 #include <sstream>
 
-namespace calvix::host
+namespace calvix::host::text_forms_test
 {
 namespace
 {
@@ -127,4 +127,4 @@ TEST(SignalBars, GrowWithTheQuality)
 }
 
 } // namespace
-} // namespace calvix::host
+} // namespace calvix::host::text_forms_test

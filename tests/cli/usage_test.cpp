@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-namespace calvix::test
+namespace calvix::test::usage_test
 {
 namespace
 {
@@ -222,4 +222,4 @@ TEST_F(HostProgram, RunsAsAProcess)
 }
 
 } // namespace
-} // namespace calvix::test
+} // namespace calvix::test::usage_test

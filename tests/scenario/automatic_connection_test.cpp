@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::automatic_connection_test
 {
 
 using ::testing::ElementsAre;
@@ -379,4 +379,4 @@ TEST_F(AutomaticConnectionExample, ReconnectReportsWhatIsGoneAndWhatIsRefusedAli
     EXPECT_THAT(requested(), IsEmpty()) << "nowhere to go, so nothing is asked";
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::automatic_connection_test

@@ -1,7 +1,7 @@
 // When the service connects by itself, and to what.
 #include "service_fixture.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::auto_configuration_test
 {
 
 namespace
@@ -152,4 +152,4 @@ TEST_F(AutoConfiguration, OnesThatDoNotAdmitTheAdapterDoNotTakeOver)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::auto_configuration_test

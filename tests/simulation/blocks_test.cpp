@@ -10,7 +10,7 @@
 #include <sanitizer/asan_interface.h>
 #endif
 
-namespace calvix::simulation
+namespace calvix::simulation::blocks_test
 {
 
 namespace
@@ -101,4 +101,4 @@ TEST(Blocks, FreedOnesAreKeptWithinBounds)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::blocks_test

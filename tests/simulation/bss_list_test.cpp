@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace calvix::simulation
+namespace calvix::simulation::bss_list_test
 {
 
 namespace
@@ -159,4 +159,4 @@ TEST_F(BssList, MadeUpElementsOfAnOpenHiddenNetworkAt5GHz)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::bss_list_test

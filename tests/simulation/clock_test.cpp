@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::simulation
+namespace calvix::simulation::clock_test
 {
 
 namespace
@@ -96,4 +96,4 @@ TEST(HostTime, BeginsInJanuary2026)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::clock_test

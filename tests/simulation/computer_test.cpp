@@ -1,7 +1,7 @@
 // The computer as a whole: what makes it, and what it tells about itself.
 #include "service_fixture.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::computer_test
 {
 
 namespace
@@ -122,4 +122,4 @@ TEST_F(WholeComputer, AServiceStoppedFromTheStart)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::computer_test

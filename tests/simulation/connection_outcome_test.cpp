@@ -2,7 +2,7 @@
 #include "notification_recorder.h"
 #include "service_fixture.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::connection_outcome_test
 {
 
 namespace
@@ -140,4 +140,4 @@ TEST_F(ConnectionOutcome, AnAttemptThatIsReplacedIsCancelled)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::connection_outcome_test

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace calvix::simulation
+namespace calvix::simulation::connection_test
 {
 
 namespace
@@ -301,4 +301,4 @@ TEST_F(Connected, StatesInPassingAreReportedAsDriversReportThem)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::connection_test

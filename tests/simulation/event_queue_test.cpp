@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace calvix::simulation
+namespace calvix::simulation::event_queue_test
 {
 
 namespace
@@ -55,4 +55,4 @@ TEST(EventQueue, CancelledEventsDoNotRun)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::event_queue_test

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::simulation
+namespace calvix::simulation::handles_test
 {
 
 namespace
@@ -61,4 +61,4 @@ TEST(Handles, MisuseIsNoted)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::handles_test

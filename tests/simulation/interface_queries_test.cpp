@@ -1,6 +1,6 @@
 #include "service_fixture.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::interface_queries_test
 {
 
 namespace
@@ -176,4 +176,4 @@ TEST_F(InterfaceQueries, SafeModeIsSupportedAndUnknownThingsAreNot)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::interface_queries_test

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace calvix::simulation
+namespace calvix::simulation::network_list_test
 {
 
 namespace
@@ -268,4 +268,4 @@ TEST_F(NetworkList, AnySsidIsGoodForANetwork)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::network_list_test

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-namespace calvix::simulation
+namespace calvix::simulation::notification_test
 {
 
 namespace
@@ -278,4 +278,4 @@ TEST_F(Notifications, CarryTheRecordsOfTheirModules)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::notification_test

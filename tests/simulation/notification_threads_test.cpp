@@ -6,7 +6,7 @@
 #include <mutex>
 #include <thread>
 
-namespace calvix::simulation
+namespace calvix::simulation::notification_threads_test
 {
 
 namespace
@@ -281,4 +281,4 @@ TEST_F(NotificationThreads, SeveralThreadsMayUseTheComputer)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::notification_threads_test

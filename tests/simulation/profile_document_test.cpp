@@ -7,7 +7,7 @@
 
 #include <string>
 
-namespace calvix::simulation
+namespace calvix::simulation::profile_document_test
 {
 
 namespace
@@ -225,4 +225,4 @@ TEST(ProfileDocument, KeysThatOthersProtectedStayAsTheyAre)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::profile_document_test

@@ -7,7 +7,7 @@
 
 #include <string>
 
-namespace calvix::simulation
+namespace calvix::simulation::profile_store_test
 {
 
 namespace
@@ -120,4 +120,4 @@ INSTANTIATE_TEST_SUITE_P(ProfileStore,
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::profile_store_test

@@ -2,7 +2,7 @@
 
 #include <cwchar>
 
-namespace calvix::simulation
+namespace calvix::simulation::reason_text_test
 {
 
 namespace
@@ -55,4 +55,4 @@ TEST_F(ReasonTexts, NeedABufferAndNothingElse)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::reason_text_test

@@ -1,6 +1,6 @@
 #include "service_fixture.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::scan_test
 {
 
 namespace
@@ -180,4 +180,4 @@ TEST_F(Scan, ARadioSwitchedOffEndsTheScanUnderWay)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::scan_test

@@ -8,7 +8,7 @@
 #include <iterator>
 #include <set>
 
-namespace calvix::simulation
+namespace calvix::simulation::scenario_file_test
 {
 
 namespace
@@ -200,4 +200,4 @@ TEST(ScenarioGallery, TheSchemaIsThePublishedOne)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::scenario_file_test

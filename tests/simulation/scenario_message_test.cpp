@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace calvix::simulation
+namespace calvix::simulation::scenario_message_test
 {
 
 namespace
@@ -189,4 +189,4 @@ TEST(ScenarioMessages, DeepNestingIsNoTrouble)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::scenario_message_test

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace calvix::simulation
+namespace calvix::simulation::scenario_profile_test
 {
 
 namespace
@@ -119,4 +119,4 @@ TEST(ScenarioProfile, AdHocAndManual)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::scenario_profile_test

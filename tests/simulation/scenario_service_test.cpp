@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::simulation
+namespace calvix::simulation::scenario_service_test
 {
 
 namespace
@@ -100,4 +100,4 @@ TEST(ScenarioService, RefusedFields)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::scenario_service_test

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 
-namespace calvix::simulation
+namespace calvix::simulation::scenario_walk_test
 {
 
 namespace
@@ -105,4 +105,4 @@ TEST_F(ScenarioPlay, AHardwareSwitchIsNoProgramsToTurn)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::scenario_walk_test

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::simulation
+namespace calvix::simulation::service_control_test
 {
 
 namespace
@@ -162,4 +162,4 @@ TEST(UnfurnishedRooms, SayThatTheyAre)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::service_control_test

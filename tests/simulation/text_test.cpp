@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::simulation
+namespace calvix::simulation::text_test
 {
 
 namespace
@@ -285,4 +285,4 @@ TEST_F(TextTest, GuidsHaveTheirRegistryForm)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::text_test

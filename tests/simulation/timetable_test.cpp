@@ -2,7 +2,7 @@
 #include "service_fixture.h"
 #include "simulation/timetable.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::timetable_test
 {
 
 namespace
@@ -136,4 +136,4 @@ TEST_F(Fading, ASnapshotGoesOnWhereItWasTaken)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::timetable_test

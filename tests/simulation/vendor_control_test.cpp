@@ -1,7 +1,7 @@
 // Requests to the driver, security settings and the service's own parameters.
 #include "service_fixture.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::vendor_control_test
 {
 
 namespace
@@ -165,4 +165,4 @@ TEST_F(ServiceParameters, RefusedQuestions)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::vendor_control_test

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-namespace calvix::simulation
+namespace calvix::simulation::wlan_errors_test
 {
 
 namespace
@@ -352,4 +352,4 @@ TEST_F(WlanHandles, OpenOnesAndUnreleasedBlocksAreAccountedFor)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::wlan_errors_test

@@ -1,6 +1,6 @@
 #include "service_fixture.h"
 
-namespace calvix::simulation
+namespace calvix::simulation::wlan_profiles_test
 {
 
 namespace
@@ -125,4 +125,4 @@ TEST_F(WlanProfiles, DeletingTheOneInUseEndsItsConnection)
 
 } // namespace
 
-} // namespace calvix::simulation
+} // namespace calvix::simulation::wlan_profiles_test

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::ap_lists_test
 {
 
 using ::testing::ElementsAre;
@@ -487,4 +487,4 @@ TEST_F(ApListsTest, AnEmptyListAddsNoEntriesWithoutATrace)
     EXPECT_TRUE(traced().empty());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::ap_lists_test

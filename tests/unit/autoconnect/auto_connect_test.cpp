@@ -8,7 +8,7 @@
 
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::auto_connect_test
 {
 
 using ::testing::ElementsAre;
@@ -242,4 +242,4 @@ TEST_F(AutoConnectExTest, AnEmptyBssListEndsItWithoutATrace)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::auto_connect_test

@@ -8,7 +8,7 @@
 
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::auto_switch_test
 {
 
 using ::testing::ElementsAre;
@@ -326,4 +326,4 @@ TEST_F(SmartSwitchTest, WhatComesWithAnErrorIsReleased)
     }
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::auto_switch_test

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::best_ap_test
 {
 
 using ::testing::ElementsAre;
@@ -371,4 +371,4 @@ TEST_F(BestApTest, MoreThanThirtyTwoCandidatesAreAllTriedInOrder)
     EXPECT_EQ(expected, Ranking());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::best_ap_test

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::candidate_ranking_test
 {
 
 using ::testing::ElementsAre;
@@ -310,4 +310,4 @@ TEST_F(CandidateRankingTest, NobodyCanBeRankedToo)
     EXPECT_TRUE(candidates.empty());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::candidate_ranking_test

@@ -8,7 +8,7 @@
 
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::connect_auto_mode_test
 {
 
 using ::testing::ElementsAre;
@@ -244,4 +244,4 @@ TEST_F(ConnectAutoModeTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(-9, manager().ConnectAutoMode(&kAdapterA)); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::connect_auto_mode_test

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::roaming_test
 {
 
 using ::testing::ElementsAre;
@@ -277,4 +277,4 @@ TEST_F(RoamingTest, NeedsNoMemoryOfItsOwn)
         EXPECT_EQ(0u, CountLibraryAllocations([&, call = method] { EXPECT_EQ(0, call(manager())); })) << name;
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::roaming_test

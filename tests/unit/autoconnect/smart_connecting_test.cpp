@@ -10,7 +10,7 @@
 #include <cstring>
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::smart_connecting_test
 {
 
 using ::testing::ElementsAre;
@@ -169,4 +169,4 @@ TEST_F(SmartConnectingTest, WhatComesWithAnErrorIsReleased)
     }
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::smart_connecting_test

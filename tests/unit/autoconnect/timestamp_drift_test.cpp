@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::timestamp_drift_test
 {
 
 using ::testing::ElementsAre;
@@ -282,4 +282,4 @@ TEST_F(TimestampDriftTest, NothingInViewIsNoProblem)
     EXPECT_EQ(0u, callCount("Sleep"));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::timestamp_drift_test

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::connect_test
 {
 
 using ::testing::ElementsAre;
@@ -548,4 +548,4 @@ TEST_F(ConnectTest, NeedsNoMemoryOfItsOwn)
     expectNone("Disconnect", DisconnectA);
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::connect_test

@@ -9,7 +9,7 @@
 #include <cstring>
 #include <iterator>
 
-namespace calvix::test
+namespace calvix::test::current_connection_test
 {
 
 using ::testing::ElementsAre;
@@ -371,4 +371,4 @@ TEST_F(CurrentConnectionTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetCurrentSSID(ssid, sizeof ssid, &record); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::current_connection_test

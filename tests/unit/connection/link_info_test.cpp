@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-namespace calvix::test
+namespace calvix::test::link_info_test
 {
 
 using ::testing::ElementsAre;
@@ -283,4 +283,4 @@ TEST_F(CurrentWiFiTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([this] { CountHomeNet(manager()); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::link_info_test

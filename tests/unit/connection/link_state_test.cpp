@@ -5,7 +5,7 @@
 
 #include <iterator>
 
-namespace calvix::test
+namespace calvix::test::link_state_test
 {
 
 using ::testing::ElementsAre;
@@ -186,4 +186,4 @@ TEST_F(LinkStateTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([this] { Disconnected(manager()); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::link_state_test

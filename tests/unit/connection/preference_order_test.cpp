@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::preference_order_test
 {
 
 using ::testing::ElementsAre;
@@ -164,4 +164,4 @@ TEST_F(PreferenceOrderTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, manager().SetCurrentWiFiToLast()); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::preference_order_test

@@ -10,7 +10,7 @@
 #include <iterator>
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::saved_connection_test
 {
 
 using ::testing::ElementsAre;
@@ -448,4 +448,4 @@ TEST_F(SavedConnectionTest, TheMemoryIsTheInstances)
     EXPECT_EQ(1, SavedMode());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::saved_connection_test

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-namespace calvix::test
+namespace calvix::test::statistics_test
 {
 
 using ::testing::ElementsAre;
@@ -131,4 +131,4 @@ TEST_F(StatisticsTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetWlanStatistics(&kAdapterA, &count); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::statistics_test

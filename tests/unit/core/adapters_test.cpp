@@ -2,7 +2,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 
-namespace calvix::test
+namespace calvix::test::adapters_test
 {
 
 using ::testing::ElementsAre;
@@ -398,4 +398,4 @@ TEST_F(AdaptersTest, NothingIsAllocated)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::adapters_test

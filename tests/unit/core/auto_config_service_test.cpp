@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace calvix::test
+namespace calvix::test::auto_config_service_test
 {
 
 using ::testing::Contains;
@@ -105,4 +105,4 @@ TEST_F(AutoConfigServiceTest, NothingIsAllocated)
     EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().CheckAutoConfig(); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::auto_config_service_test

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::bounded_copy_test
 {
 
 namespace
@@ -90,4 +90,4 @@ TYPED_TEST(BoundedCopyTest, WithoutADestinationNothingHappens)
     EXPECT_EQ("##########", this->Room());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::bounded_copy_test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::test
+namespace calvix::test::channel_test
 {
 
 // Deliberate: in the 2.4 GHz band the number is one below the customary one.
@@ -66,4 +66,4 @@ TEST(ChannelTest, DividesOnlyAboveTenThousand)
     EXPECT_EQ(5u, ChannelOfFrequency(24379)) << "the rest of the division is dropped";
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::channel_test

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::connect_request_test
 {
 
 using ::testing::ElementsAre;
@@ -64,4 +64,4 @@ TEST_F(ConnectRequestTest, ReturnsAndTracesTheServicesRefusal)
     EXPECT_EQ(2u, callCount("WlanConnect")) << "a refused request is not repeated";
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::connect_request_test

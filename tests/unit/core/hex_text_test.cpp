@@ -1,6 +1,6 @@
 #include "support/library_test.h"
 
-namespace calvix::test
+namespace calvix::test::hex_text_test
 {
 
 using ::testing::IsEmpty;
@@ -216,4 +216,4 @@ TEST_F(HexTextTest, NothingIsAllocated)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::hex_text_test

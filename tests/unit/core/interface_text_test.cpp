@@ -1,6 +1,6 @@
 #include "support/library_test.h"
 
-namespace calvix::test
+namespace calvix::test::interface_text_test
 {
 
 using ::testing::IsEmpty;
@@ -80,4 +80,4 @@ TEST_F(InterfaceTextTest, NothingIsAllocated)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::interface_text_test

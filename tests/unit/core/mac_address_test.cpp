@@ -1,7 +1,7 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
 
-namespace calvix::test
+namespace calvix::test::mac_address_test
 {
 
 using ::testing::IsEmpty;
@@ -76,4 +76,4 @@ TEST_F(MacAddressTest, NothingIsAllocated)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::mac_address_test

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-namespace calvix::test
+namespace calvix::test::manager_test
 {
 
 using ::testing::Each;
@@ -271,4 +271,4 @@ TEST_F(ManagerTest, ZeroingEndsWithTheObject)
     EXPECT_THAT(BytesOf(object), Each(0));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::manager_test

@@ -7,7 +7,7 @@
 #include <mutex>
 #include <thread>
 
-namespace calvix::test
+namespace calvix::test::notifications_test
 {
 
 using ::testing::ElementsAre;
@@ -376,4 +376,4 @@ TEST_F(NotificationsTest, ACallbackMayCallTheLibrary)
     EXPECT_EQ(20u, listener.connected.load());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::notifications_test

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <type_traits>
 
-namespace calvix::test
+namespace calvix::test::object_layout_test
 {
 
 // Hosts were compiled against this object: it has no virtual operations, no base, and its members lie where they lie.
@@ -76,4 +76,4 @@ TEST_F(ObjectLayoutTest, TheFrameCounterRecordIsFourNumbers)
     EXPECT_EQ(&count.ullReceived, numbers + 3);
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::object_layout_test

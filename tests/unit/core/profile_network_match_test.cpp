@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::profile_network_match_test
 {
 
 using ::testing::ElementsAre;
@@ -92,4 +92,4 @@ TEST(NetworksByProfileTest, AnEmptyListMatchesNothing)
     EXPECT_THAT(Networks({}).PlacesOf(L"A"), IsEmpty());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::profile_network_match_test

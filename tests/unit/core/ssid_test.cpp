@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace calvix::test
+namespace calvix::test::ssid_test
 {
 
 TEST(SsidTest, HoldsAtMostThirtyTwoBytes)
@@ -48,4 +48,4 @@ TEST(FixedTextTest, EndsAtTheTerminatorOrTheArray)
     EXPECT_EQ(L"", FixedText(empty));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::ssid_test

@@ -1,7 +1,7 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
 
-namespace calvix::test
+namespace calvix::test::ssid_text_test
 {
 
 using ::testing::ElementsAre;
@@ -226,4 +226,4 @@ TEST_F(SsidTextTest, NothingIsAllocated)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::ssid_text_test

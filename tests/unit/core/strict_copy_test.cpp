@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-namespace calvix::test
+namespace calvix::test::strict_copy_test
 {
 
 TEST(StrictCopyTest, CopiesWhatFits)
@@ -93,4 +93,4 @@ TEST_F(StrictCopyDeathTest, TheConversionsEndTheProcess)
     EXPECT_DEATH(manager().GetSSID(&tooLong, text, 32), "GetSSID: the SSID is longer than 64 bytes");
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::strict_copy_test

@@ -1,7 +1,7 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
 
-namespace calvix::test
+namespace calvix::test::text_conversion_test
 {
 
 using ::testing::ElementsAre;
@@ -199,4 +199,4 @@ TEST_F(TextConversionTest, WideCharToCharGivesZeroWhenTheConversionFails)
     EXPECT_STREQ("", m_room.bytes);
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::text_conversion_test

@@ -2,7 +2,7 @@
 
 #include "support/library_test.h"
 
-namespace calvix::test
+namespace calvix::test::trace_test
 {
 
 using ::testing::ElementsAre;
@@ -168,4 +168,4 @@ TEST_F(TraceTest, OnlyAnErrorIsAFailure)
     EXPECT_THAT(traced(), ElementsAre("X failed with error: 2150899714"));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::trace_test

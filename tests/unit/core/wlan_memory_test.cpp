@@ -2,7 +2,7 @@
 
 #include "support/library_test.h"
 
-namespace calvix::test
+namespace calvix::test::wlan_memory_test
 {
 
 using ::testing::ElementsAre;
@@ -74,4 +74,4 @@ TEST_F(WlanMemoryTest, ReceivingAgainReleasesWhatWasHeld)
     ExpectNothingHeld();
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::wlan_memory_test

@@ -1,6 +1,6 @@
 #include "unit/inventory/listings_fixture.h"
 
-namespace calvix::test
+namespace calvix::test::bss_listing_test
 {
 
 using ::testing::Contains;
@@ -79,4 +79,4 @@ TEST_F(BssListingTest, AddressesAreUpperCase)
     EXPECT_THAT(lines, Contains("BSSID[0]:\t FF:0A:BC:DE:F0:00"));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::bss_listing_test

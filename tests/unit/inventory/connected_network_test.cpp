@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace calvix::test
+namespace calvix::test::connected_network_test
 {
 
 using ::testing::ElementsAre;
@@ -213,4 +213,4 @@ TEST_F(ConnectedNetworkTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([this] { CurrentBss(manager()); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::connected_network_test

@@ -2,7 +2,7 @@
 #include "unit/inventory/listings_fixture.h"
 #include "unit/inventory/trace_texts.h"
 
-namespace calvix::test
+namespace calvix::test::listings_test
 {
 
 using ::testing::Contains;
@@ -332,4 +332,4 @@ TEST_F(ListingsTest, WhatComesWithAnErrorIsReleased)
     }
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::listings_test

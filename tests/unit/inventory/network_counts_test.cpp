@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cwchar>
 
-namespace calvix::test
+namespace calvix::test::network_counts_test
 {
 
 using ::testing::ElementsAre;
@@ -276,4 +276,4 @@ TEST_F(NetworkCountsTest, CountingListsNeedsNoMemory)
     EXPECT_EQ(0u, CountLibraryAllocations([this] { CountBss(manager()); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::network_counts_test

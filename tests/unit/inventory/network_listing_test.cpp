@@ -1,6 +1,6 @@
 #include "unit/inventory/listings_fixture.h"
 
-namespace calvix::test
+namespace calvix::test::network_listing_test
 {
 
 using ::testing::Contains;
@@ -124,4 +124,4 @@ TEST_F(NetworkListingTest, TheRemarksOnTheFlags)
     }
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::network_listing_test

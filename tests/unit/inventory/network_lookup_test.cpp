@@ -3,7 +3,7 @@
 #include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
-namespace calvix::test
+namespace calvix::test::network_lookup_test
 {
 
 using ::testing::ElementsAre;
@@ -262,4 +262,4 @@ TEST_F(NetworkLookupTest, NeedsNoMemoryOfItsOwn)
             [&] { manager().GetNotConnectableReason(&kAdapterA, &wanted, kInfrastructure, m_connectable, m_reason); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::network_lookup_test

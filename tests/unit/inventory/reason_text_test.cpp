@@ -3,7 +3,7 @@
 #include <array>
 #include <cstring>
 
-namespace calvix::test
+namespace calvix::test::reason_text_test
 {
 
 using ::testing::ElementsAre;
@@ -124,4 +124,4 @@ TEST_F(ReasonTextTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().ReasonCode2String(kNotVisible, room.data(), 300); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::reason_text_test

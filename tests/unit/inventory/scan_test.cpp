@@ -3,7 +3,7 @@
 #include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
-namespace calvix::test
+namespace calvix::test::scan_test
 {
 
 using ::testing::ElementsAre;
@@ -140,4 +140,4 @@ TEST_F(ScanTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().Rescan(); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::scan_test

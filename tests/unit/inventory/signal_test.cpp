@@ -8,7 +8,7 @@
 #include <iterator>
 #include <map>
 
-namespace calvix::test
+namespace calvix::test::signal_test
 {
 
 using ::testing::ElementsAre;
@@ -449,4 +449,4 @@ TEST_F(SignalTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetChannel(2437000); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::signal_test

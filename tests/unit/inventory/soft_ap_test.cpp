@@ -6,7 +6,7 @@
 #include <cwchar>
 #include <optional>
 
-namespace calvix::test
+namespace calvix::test::soft_ap_test
 {
 
 using ::testing::Each;
@@ -337,4 +337,4 @@ TEST_F(SoftApTest, SpecialSoftApNeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { Special(manager()); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::soft_ap_test

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace calvix::test
+namespace calvix::test::profile_list_test
 {
 
 using ::testing::ElementsAre;
@@ -419,4 +419,4 @@ TEST_F(ProfileListTest, NothingIsAllocated)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::profile_list_test

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::profile_text_test
 {
 
 using ::testing::ElementsAre;
@@ -264,4 +264,4 @@ TEST_F(ProfileTextTest, OnlyNarrowTextIsAllocatedFor)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::profile_text_test

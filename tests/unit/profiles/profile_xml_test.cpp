@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace calvix::test
+namespace calvix::test::profile_xml_test
 {
 
 using ::testing::ElementsAre;
@@ -258,4 +258,4 @@ TEST_F(ProfileXmlTest, NothingIsAllocated)
                       }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::profile_xml_test

@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-namespace calvix::test
+namespace calvix::test::ihv_control_test
 {
 
 using simulation::Bytes;
@@ -241,4 +241,4 @@ TEST_F(IhvControlTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().SetIhvSecuritySettings(); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::ihv_control_test

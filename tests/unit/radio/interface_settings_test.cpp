@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-namespace calvix::test
+namespace calvix::test::interface_settings_test
 {
 
 using ::testing::ElementsAre;
@@ -212,4 +212,4 @@ TEST_F(InterfaceSettingsTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetPowerSettingStr(1); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::interface_settings_test

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace calvix::test
+namespace calvix::test::radio_restart_test
 {
 
 using simulation::RadioSwitch;
@@ -175,4 +175,4 @@ TEST_F(RadioRestartSceneTest, WithoutAClientHandleItTakesTwentySeconds)
     EXPECT_THAT(traced(), ::testing::Each("WlanOpenHandle failed with error: 1722"));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::radio_restart_test

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-namespace calvix::test
+namespace calvix::test::radio_state_test
 {
 
 using ::testing::ElementsAre;
@@ -259,4 +259,4 @@ TEST_F(RadioStateTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { SafeMode(manager()); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::radio_state_test

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace calvix::test
+namespace calvix::test::radio_switch_test
 {
 
 using simulation::RadioSwitch;
@@ -217,4 +217,4 @@ TEST_F(RadioSwitchTest, NeedsNoMemoryOfItsOwn)
     EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().RestartWiFiRadio(&kAdapterA); }));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::radio_switch_test

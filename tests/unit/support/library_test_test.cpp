@@ -8,7 +8,7 @@
 
 #include <new>
 
-namespace calvix::test
+namespace calvix::test::library_test_test
 {
 
 using ::testing::ElementsAre;
@@ -234,4 +234,4 @@ TEST(AllocationCounterTest, CountsEveryFormOnceAndNothingInAPause)
     EXPECT_EQ(4u, counter.Count());
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::library_test_test

@@ -8,7 +8,7 @@
 
 #include <cstring>
 
-namespace calvix::test
+namespace calvix::test::call_log_test
 {
 
 using ::testing::ElementsAre;
@@ -223,4 +223,4 @@ TEST_F(CallLogTest, TellsWhatTheComputerIsAskedFor)
                                  ::testing::HasSubstr("startup={size=sizeof(STARTUPINFOA), flags=0, showWindow=0}")));
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::call_log_test

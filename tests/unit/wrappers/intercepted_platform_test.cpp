@@ -8,7 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace calvix::test
+namespace calvix::test::intercepted_platform_test
 {
 
 using ::testing::ElementsAre;
@@ -302,4 +302,4 @@ TEST(FaultInjection, AnswersForTheLastError)
     EXPECT_EQ(1u, layer.errors().GetLastError()) << "the fake's own answer";
 }
 
-} // namespace calvix::test
+} // namespace calvix::test::intercepted_platform_test
