@@ -22,23 +22,24 @@ Notifier::~Notifier()
     Stop();
 }
 
-DWORD Notifier::Register(HANDLE client, const Registration& registration)
+Notifier::Replaced Notifier::Register(HANDLE client, const Registration& registration)
 {
     const std::lock_guard lock(m_mutex);
     const auto known = m_clients.find(client);
-    const DWORD previous = known != m_clients.end() ? known->second.registration.sources : 0;
+    const Replaced replaced{known != m_clients.end() ? known->second.registration.sources : 0,
+                            m_running == client ? m_delivery : 0};
     Discard(client);
     if (registration.sources == 0)
     {
         m_clients.erase(client);
-        return previous;
+        return replaced;
     }
     m_clients.insert_or_assign(client, Client{registration, {}});
     if (!m_thread.joinable() && !m_stopping)
     {
         m_thread = std::thread([this] { Run(); });
     }
-    return previous;
+    return replaced;
 }
 
 void Notifier::Discard(HANDLE client)
@@ -47,10 +48,10 @@ void Notifier::Discard(HANDLE client)
     m_delivered.notify_all();
 }
 
-void Notifier::WaitForCallback(HANDLE client)
+void Notifier::WaitFor(Delivery delivery)
 {
     std::unique_lock lock(m_mutex);
-    m_delivered.wait(lock, [this, client] { return m_running != client; });
+    m_delivered.wait(lock, [this, delivery] { return m_running == nullptr || m_delivery != delivery; });
 }
 
 void Notifier::Post(const Notification& notification)
@@ -121,6 +122,7 @@ void Notifier::Deliver(Queued next, std::unique_lock<std::mutex>& lock)
 {
     const Registration registration = m_clients.at(next.client).registration;
     m_running = next.client;
+    ++m_delivery;
     lock.unlock();
     Notification& notification = next.notification;
     L2_NOTIFICATION_DATA record{};

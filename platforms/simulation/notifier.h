@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <deque>
 #include <mutex>
 #include <thread>
@@ -42,13 +43,22 @@ public:
     Notifier(const Notifier&) = delete;
     Notifier& operator=(const Notifier&) = delete;
 
-    /// Puts a registration in the place of the client's present one; without sources, ends it. What is still queued for
-    /// the present one is discarded. Returns the sources that were registered. The present callback may still be
-    /// running: see WaitForCallback.
-    DWORD Register(HANDLE client, const Registration& registration);
+    /// Which call of a callback, of all there have been; 0 is none.
+    using Delivery = std::uint64_t;
 
-    /// Waits until no callback of the client is running.
-    void WaitForCallback(HANDLE client);
+    /// What a registration has replaced.
+    struct Replaced
+    {
+        DWORD sources = 0;
+        Delivery running = 0; ///< the call of its callback that has not returned yet
+    };
+
+    /// Puts a registration in the place of the client's present one; without sources, ends it. What is still queued for
+    /// the present one is discarded. A call of its callback may still be running: see WaitFor.
+    Replaced Register(HANDLE client, const Registration& registration);
+
+    /// Waits until that call has returned, and for no later one: news may come faster than they are delivered.
+    void WaitFor(Delivery delivery);
 
     /// Queues a notification for every client that wants it.
     void Post(const Notification& notification);
@@ -84,6 +94,7 @@ private:
     std::unordered_map<HANDLE, Client> m_clients;
     std::deque<Queued> m_queue;
     HANDLE m_running = nullptr; ///< the client whose callback is running
+    Delivery m_delivery = 0;    ///< the call that is running, or was the last
     bool m_stopping = false;
     std::thread m_thread;
 };

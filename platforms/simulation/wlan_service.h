@@ -110,7 +110,7 @@ private:
                 const void* reserved = nullptr);
 
     /// Waits until no callback of the client is running. Not to be called under the mutex.
-    void WaitForCallback(HANDLE client, const char* operation);
+    void WaitForCallback(const Notifier::Replaced& replaced, const char* operation);
 
     Machine& m_machine;
 };

@@ -16,6 +16,7 @@ DWORD SimulatedWlanService::WlanRegisterNotification(HANDLE client,
                                                      PVOID reserved,
                                                      DWORD* previousSource)
 {
+    Notifier::Replaced replaced;
     {
         const std::lock_guard lock(m_machine.mutex);
         if (const DWORD error = Check("WlanRegisterNotification", client, {}, reserved))
@@ -26,14 +27,13 @@ DWORD SimulatedWlanService::WlanRegisterNotification(HANDLE client,
         {
             return ERROR_INVALID_PARAMETER;
         }
-        const DWORD previous =
-            m_machine.notifier.Register(client, {source, ignoreDuplicate != FALSE, callback, context});
+        replaced = m_machine.notifier.Register(client, {source, ignoreDuplicate != FALSE, callback, context});
         if (previousSource != nullptr)
         {
-            *previousSource = previous;
+            *previousSource = replaced.sources;
         }
     }
-    WaitForCallback(client, "WlanRegisterNotification");
+    WaitForCallback(replaced, "WlanRegisterNotification");
     return ERROR_SUCCESS;
 }
 
@@ -44,24 +44,25 @@ DWORD SimulatedWlanService::WlanCloseHandle(HANDLE client, PVOID reserved)
     {
         return ERROR_INVALID_PARAMETER;
     }
+    Notifier::Replaced replaced;
     {
         const std::lock_guard lock(m_machine.mutex);
         if (!m_machine.handles.Close(client, HandleKind::wlanClient, "WlanCloseHandle"))
         {
             return ERROR_INVALID_HANDLE;
         }
-        m_machine.notifier.Register(client, {});
+        replaced = m_machine.notifier.Register(client, {});
     }
-    WaitForCallback(client, "WlanCloseHandle");
+    WaitForCallback(replaced, "WlanCloseHandle");
     return ERROR_SUCCESS;
 }
 
 // Inside a callback the real service would wait for ever. This one notes that, and does not wait.
-void SimulatedWlanService::WaitForCallback(HANDLE client, const char* operation)
+void SimulatedWlanService::WaitForCallback(const Notifier::Replaced& replaced, const char* operation)
 {
     if (!m_machine.notifier.IsServiceThread())
     {
-        m_machine.notifier.WaitForCallback(client);
+        m_machine.notifier.WaitFor(replaced.running);
         return;
     }
     const std::lock_guard lock(m_machine.mutex);

@@ -74,6 +74,8 @@ protected:
         return Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_NONE, FALSE, nullptr, nullptr, nullptr,
                                                nullptr);
     }
+
+public:
     /// Something happens.
     void Stir() { EXPECT_EQ(SetProfile(MakeProfile("New", "New"), true), ERROR_SUCCESS); }
 };
@@ -124,6 +126,49 @@ TEST_F(NotificationThreads, ReplacingWaitsForARunningCallback)
     computer->WaitForNotifications();
     EXPECT_EQ(gate.Entered(), entered);
     EXPECT_EQ(next.Entered(), 1);
+    EXPECT_EQ(Unregister(), ERROR_SUCCESS);
+}
+
+/// Makes news whenever it hears some, so that the service always has more to tell.
+struct Gossip
+{
+    NotificationThreads* test;
+    std::atomic<unsigned> heard{0};
+    std::atomic<bool> hushed{false};
+
+    void WaitForNews() const
+    {
+        for (const unsigned before = heard; heard == before;)
+        {
+            std::this_thread::yield();
+        }
+    }
+
+    static void WINAPI Callback(L2_NOTIFICATION_DATA*, PVOID context)
+    {
+        auto& self = *static_cast<Gossip*>(context);
+        ++self.heard;
+        if (!self.hushed)
+        {
+            self.test->Stir();
+        }
+    }
+};
+
+TEST_F(NotificationThreads, ReplacingDoesNotWaitForNewsToEnd)
+{
+    Gossip gossips[] = {{this}, {this}};
+    for (int round = 0; round < 50; ++round)
+    {
+        Gossip& next = gossips[round % 2];
+        ASSERT_EQ(Register(&Gossip::Callback, &next), ERROR_SUCCESS);
+        Stir();
+        next.WaitForNews();
+    }
+    for (Gossip& gossip : gossips)
+    {
+        gossip.hushed = true;
+    }
     EXPECT_EQ(Unregister(), ERROR_SUCCESS);
 }
 

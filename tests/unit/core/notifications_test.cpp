@@ -2,7 +2,7 @@
 #include "unit/inventory/trace_texts.h"
 
 #include <atomic>
-#include <latch>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -256,8 +256,8 @@ void GiveWay(unsigned turns)
 /// Holds its callback up until it is let go, and then a little longer.
 struct SlowListener
 {
-    std::latch entered{1};
-    std::latch letGo{1};
+    std::promise<void> entered;
+    std::promise<void> letGo;
     bool left = false; ///< deliberately unprotected: who has waited for the callback may read it
 
     static void CALLBACK Callback(PWLAN_NOTIFICATION_DATA, PVOID context)
@@ -265,8 +265,8 @@ struct SlowListener
         auto& self = *static_cast<SlowListener*>(context);
         if (self.left)
             return;
-        self.entered.count_down();
-        self.letGo.wait();
+        self.entered.set_value();
+        self.letGo.get_future().wait();
         GiveWay(1000);
         self.left = true;
     }
@@ -308,8 +308,8 @@ TEST_F(NotificationsTest, WhatEndsARegistrationWaitsForTheRunningCallback)
         SlowListener listener;
         manager().RegisterNotification(SlowListener::Callback, &listener);
         MakeNews();
-        listener.entered.wait();
-        std::thread letsGo([&listener] { listener.letGo.count_down(); });
+        listener.entered.get_future().wait();
+        std::thread letsGo([&listener] { listener.letGo.set_value(); });
         end();
         EXPECT_TRUE(listener.left);
         letsGo.join();
