@@ -18,7 +18,7 @@ namespace calvix::host
 namespace
 {
 
-constexpr unsigned kStepMilliseconds = 100;
+constexpr unsigned kWaitStepMilliseconds = 100;
 
 /// The request that was accepted; they end with it.
 ConnectRequest AcceptedRequest(Host& host)
@@ -99,11 +99,11 @@ Failure ReasonFailure(Host& host, const std::string& what, DWORD reasonCode)
 bool WaitUntil(Host& host, unsigned seconds, const std::function<bool()>& look, unsigned* waited)
 {
     unsigned milliseconds = 0;
-    for (; !look(); milliseconds += kStepMilliseconds)
+    for (; !look(); milliseconds += kWaitStepMilliseconds)
     {
         if (milliseconds >= seconds * 1000)
             return false;
-        host.Wait(kStepMilliseconds);
+        host.Wait(kWaitStepMilliseconds);
         if (Interrupted())
             throw OperationFailure("interrupted", "what was asked for goes on without this program");
     }

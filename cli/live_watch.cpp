@@ -22,7 +22,7 @@ namespace
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr unsigned kStepMilliseconds = 100;
+constexpr unsigned kWatchStepMilliseconds = 100;
 constexpr unsigned kSampleMilliseconds = 1000;
 constexpr unsigned kSimulatedSeconds = 60;
 
@@ -38,11 +38,11 @@ public:
 
     void Step()
     {
-        m_host.Wait(kStepMilliseconds);
-        m_stepped += kStepMilliseconds;
+        m_host.Wait(kWatchStepMilliseconds);
+        m_stepped += kWatchStepMilliseconds;
         // Simulated time takes none.
         if (m_simulated && m_speed > 0)
-            std::this_thread::sleep_for(std::chrono::microseconds(kStepMilliseconds * 1000 / m_speed));
+            std::this_thread::sleep_for(std::chrono::microseconds(kWatchStepMilliseconds * 1000 / m_speed));
     }
 
     unsigned long long Now() const

@@ -93,7 +93,7 @@ void RequireSwitched(Host& host, const char* method)
     throw Failure(report);
 }
 
-void Reset(Host& host)
+void ResetRadio(Host& host)
 {
     const GUID* const adapter = host.adapterGuid();
     {
@@ -169,7 +169,7 @@ void AddRadioCommands(CommandSet& commands)
     commands.Add("radio status", "Show the radio and its switches", ShowRadioNow);
     commands.Add("radio on", "Switch the software radio on", SwitchOn);
     commands.Add("radio off", "Switch the software radio off", SwitchOff);
-    commands.Add("radio reset", "Switch the radio off and, half a second later, on", Reset);
+    commands.Add("radio reset", "Switch the radio off and, half a second later, on", ResetRadio);
     commands
         .Add("radio restart", "Switch the radio off and on, waiting for both and for the connection to come back",
              [options](Host& host) { Restart(host, *options); })

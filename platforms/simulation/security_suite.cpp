@@ -12,13 +12,13 @@ namespace
 {
 
 template <typename Number>
-struct Named
+struct AlgorithmName
 {
     std::string_view name;
     Number number;
 };
 
-constexpr Named<DOT11_AUTH_ALGORITHM> authentications[] = {
+constexpr AlgorithmName<DOT11_AUTH_ALGORITHM> authentications[] = {
     {"open", DOT11_AUTH_ALGO_80211_OPEN},
     {"shared", DOT11_AUTH_ALGO_80211_SHARED_KEY},
     {"WPA", DOT11_AUTH_ALGO_WPA},
@@ -32,14 +32,14 @@ constexpr Named<DOT11_AUTH_ALGORITHM> authentications[] = {
     {"OWE", auth::owe},
 };
 
-constexpr Named<DOT11_CIPHER_ALGORITHM> encryptions[] = {
+constexpr AlgorithmName<DOT11_CIPHER_ALGORITHM> encryptions[] = {
     {"none", DOT11_CIPHER_ALGO_NONE}, {"WEP", DOT11_CIPHER_ALGO_WEP}, {"TKIP", DOT11_CIPHER_ALGO_TKIP},
     {"AES", DOT11_CIPHER_ALGO_CCMP},  {"GCMP256", cipher::gcmp_256},
 };
 
 // Null for a name that is not there.
 template <typename Number, std::size_t count>
-const Named<Number>* Find(const Named<Number> (&table)[count], std::string_view name)
+const AlgorithmName<Number>* Find(const AlgorithmName<Number> (&table)[count], std::string_view name)
 {
     const auto found =
         std::find_if(std::begin(table), std::end(table), [name](const auto& entry) { return entry.name == name; });

@@ -8,7 +8,7 @@ using namespace calvix;
 namespace
 {
 
-constexpr ProfileAndNetworkCodes kCodes{
+constexpr ProfileAndNetworkCodes kApListCodes{
     .notOpened = -2, .profilesFailed = -5, .noProfile = -6, .networksFailed = -7, .noNetwork = -8};
 
 /// Walks every pair of a stored profile and a network that carries its name, in profile order, then network order. For
@@ -19,7 +19,7 @@ int CollectMatches(HANDLE& client, const GUID* interfaceGuid, Trace& trace, Coun
 {
     ProfileList profiles;
     NetworkList networks;
-    if (const int code = ListProfilesAndNetworks(client, interfaceGuid, profiles, networks, trace, kCodes))
+    if (const int code = ListProfilesAndNetworks(client, interfaceGuid, profiles, networks, trace, kApListCodes))
         return code;
 
     const NetworksByProfile networksByProfile(*networks);

@@ -8,7 +8,7 @@ using namespace calvix;
 namespace
 {
 
-constexpr ProfileAndNetworkCodes kCodes{
+constexpr ProfileAndNetworkCodes kAutoConnectCodes{
     .notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7};
 
 } // namespace
@@ -18,7 +18,7 @@ int CWirelessManage::AutoConnect(const GUID* pInterfaceGuid)
     SharedTrace trace;
     ProfileList profiles;
     NetworkList networks;
-    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, profiles, networks, trace, kCodes))
+    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, profiles, networks, trace, kAutoConnectCodes))
         return code;
     // Deliberate: a walk on which every request was refused reports success.
     return WalkProfiles(hClient, pInterfaceGuid, *profiles, *networks, trace) == WalkEnd::noMatch ? -9 : 0;

@@ -10,7 +10,7 @@ using platform::wlan;
 namespace
 {
 
-constexpr unsigned long kLongestSsid = 256;
+constexpr unsigned long kLongestSwitchedSsid = 256;
 
 } // namespace
 
@@ -52,7 +52,7 @@ int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
         return static_cast<int>(error);
     const WLAN_ASSOCIATION_ATTRIBUTES& current = connection->wlanAssociationAttributes;
     wchar_t currentSsid[kSsidTextCapacity] = {};
-    if (!SsidAsProfileName(current.dot11Ssid, kLongestSsid, currentSsid))
+    if (!SsidAsProfileName(current.dot11Ssid, kLongestSwitchedSsid, currentSsid))
     {
         const DWORD error = platform::errors().GetLastError();
         trace.Failed(error, "Profile Name error: %u");

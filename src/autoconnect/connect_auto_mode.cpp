@@ -9,14 +9,14 @@ using namespace calvix;
 namespace
 {
 
-constexpr unsigned long kLongestSsid = 64;
+constexpr unsigned long kLongestListedSsid = 64;
 
 /// Whether the network is the profile's: tagged with its name, or of an SSID that reads like it.
 bool IsTarget(const WLAN_AVAILABLE_NETWORK& network, std::wstring_view profileName)
 {
     // Deliberate: a network whose SSID cannot be converted is passed over, also when its tag would match.
     wchar_t ssid[kSsidTextCapacity] = {};
-    if (!SsidAsProfileName(network.dot11Ssid, kLongestSsid, ssid))
+    if (!SsidAsProfileName(network.dot11Ssid, kLongestListedSsid, ssid))
         return false;
     return FixedText(network.strProfileName) == profileName || ssid == profileName;
 }

@@ -13,13 +13,13 @@ using namespace calvix;
 namespace
 {
 
-constexpr ProfileAndNetworkCodes kCodes{.notOpened = -2,
-                                        .profilesFailed = -5,
-                                        .noProfile = -6,
-                                        .networksFailed = -7,
-                                        .noNetwork = -8,
-                                        .noProfileText = "No network profile: %d",
-                                        .noNetworkText = "No available network: %d"};
+constexpr ProfileAndNetworkCodes kDriftCodes{.notOpened = -2,
+                                             .profilesFailed = -5,
+                                             .noProfile = -6,
+                                             .networksFailed = -7,
+                                             .noNetwork = -8,
+                                             .noProfileText = "No network profile: %d",
+                                             .noNetworkText = "No available network: %d"};
 
 /// Calendar time of an entry's host time stamp; false when it has none.
 bool HostTime(const WLAN_BSS_ENTRY& entry, SYSTEMTIME& time)
@@ -102,7 +102,7 @@ int CWirelessManage::GetMatchBSSID(const GUID* pInterfaceGuid)
     LocalTrace<128> trace;
     ProfileList profiles;
     NetworkList networks;
-    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, profiles, networks, trace, kCodes))
+    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, profiles, networks, trace, kDriftCodes))
         return code;
 
     // Deliberate: -1 even when all went well; the result is informational, what counts is the trace.

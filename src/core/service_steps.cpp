@@ -8,7 +8,6 @@ using platform::wlan;
 namespace
 {
 
-constexpr DWORD kClientVersion = 2;
 constexpr DWORD kNoHiddenOrAdHocProfiles = 0;
 
 ErrorNumber Traced(Trace& trace, DWORD error, const char* format)

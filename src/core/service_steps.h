@@ -6,6 +6,9 @@
 namespace calvix
 {
 
+/// The version of the WLAN API that handles are opened for.
+inline constexpr DWORD kClientVersion = 2;
+
 /// Steps that most methods share. Each traces its own failure through the method's trace and returns the platform's
 /// error number, 0 for success, unless said otherwise.
 

@@ -12,7 +12,7 @@ using namespace calvix;
 namespace
 {
 
-constexpr ValueText kBssTypes[] = {
+constexpr ValueText kEntryBssTypes[] = {
     {dot11_BSS_type_infrastructure, "Infrastructure"},
     {dot11_BSS_type_independent, "Independent"},
 };
@@ -39,7 +39,7 @@ void ListIdentity(Trace& trace, unsigned index, const WLAN_BSS_ENTRY& entry)
     char address[kAddressTextSize] = {};
     FormatAddress(entry.dot11Bssid, address, sizeof(address));
     trace.Line("BSSID[%u]:\t %s", index, address);
-    trace.Line("BSS Network type[%u]:\t %s", index, TextOf(kBssTypes, In32Bits(entry.dot11BssType), "Other"));
+    trace.Line("BSS Network type[%u]:\t %s", index, TextOf(kEntryBssTypes, In32Bits(entry.dot11BssType), "Other"));
     trace.Line("BssPhyType[%u]:\t%s", index, TextOf(kPhyTypes, In32Bits(entry.dot11BssPhyType), "unknown"));
 }
 

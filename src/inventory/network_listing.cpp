@@ -13,7 +13,7 @@ namespace
 
 constexpr const char* kOther = "Other ";
 
-constexpr ValueText kBssTypes[] = {
+constexpr ValueText kNetworkBssTypes[] = {
     {dot11_BSS_type_infrastructure, "Infrastructure "},
     {dot11_BSS_type_independent, "Independent "},
 };
@@ -47,7 +47,7 @@ void ListIdentity(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& ne
     FormatTrace(label, sizeof(label), "  SSID[%u]:\t ", index);
     ListSsid(trace, label, network.dot11Ssid);
     trace.Line("  BSS Network type[%u]:\t ", index);
-    ListValue(trace, kBssTypes, network.dot11BssType);
+    ListValue(trace, kNetworkBssTypes, network.dot11BssType);
     trace.Line("  Number of BSSIDs[%u]:\t %u", index, In32Bits(network.uNumberOfBssids));
 }
 

@@ -10,7 +10,6 @@ using platform::wlan;
 namespace
 {
 
-constexpr DWORD kClientVersion = 2;
 constexpr unsigned long kWrongVersion = 0xFFFFFFFF;
 
 /// Users, network operators and administrators may read and write; the entry that denies everyone comes last, on
