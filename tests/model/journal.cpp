@@ -9,11 +9,6 @@ namespace calvix::test
 namespace
 {
 
-std::string BytesOf(const DOT11_SSID& ssid)
-{
-    return {reinterpret_cast<const char*>(ssid.ucSSID), ssid.uSSIDLength};
-}
-
 bool IsForOne(const DOT11_BSSID_LIST& list)
 {
     return list.Header.Type == 0x80 && list.Header.Revision == 1 && list.Header.Size == sizeof(list) &&

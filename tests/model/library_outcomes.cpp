@@ -11,11 +11,6 @@ namespace calvix::test
 namespace
 {
 
-std::string BytesOf(const DOT11_SSID& ssid)
-{
-    return {reinterpret_cast<const char*>(ssid.ucSSID), ssid.uSSIDLength};
-}
-
 void CopyName(const std::wstring& name, wchar_t* destination)
 {
     std::copy(name.begin(), name.end(), destination);

@@ -7,6 +7,11 @@
 namespace calvix::test
 {
 
+std::string BytesOf(const DOT11_SSID& ssid)
+{
+    return {reinterpret_cast<const char*>(ssid.ucSSID), ssid.uSSIDLength};
+}
+
 std::string Describe(const Outcome& outcome)
 {
     std::ostringstream text;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <calvix/platform_records.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,6 +46,9 @@ struct Outcome
 
     bool operator==(const Outcome&) const = default;
 };
+
+/// The bytes of a network's name, as events and entries hold them.
+std::string BytesOf(const DOT11_SSID& ssid);
 
 std::string Describe(const Outcome& outcome);
 

@@ -8,11 +8,6 @@ namespace calvix::test
 namespace
 {
 
-std::string BytesOf(const DOT11_SSID& ssid)
-{
-    return {reinterpret_cast<const char*>(ssid.ucSSID), ssid.uSSIDLength};
-}
-
 std::string BytesOf(const DOT11_MAC_ADDRESS& address)
 {
     return {reinterpret_cast<const char*>(&address[0]), 6};
