@@ -125,6 +125,28 @@ constexpr CauseText kCauses[] = {
      kFailed},
     {Cause::alreadyThere, "the adapter is connected to the best access point of its network already",
      "nothing: there is no need to roam", nullptr, kFailed},
+    {Cause::suspendNotAllowed, "the computer cannot be suspended",
+     "powercfg /a tells what keeps it from sleeping: a driver, the firmware or a policy", "IsPwrSuspendAllowed",
+     kFailed},
+    {Cause::noActiveScheme, "which power scheme is active could not be told",
+     "powercfg /list shows the schemes; activate one with powercfg /setactive", nullptr, kFailed},
+    {Cause::schemeNotReadable, "the policy of the active power scheme could not be read",
+     "powercfg /restoredefaultschemes brings the system's own schemes back", "ReadPwrScheme", kFailed},
+    {Cause::schemeNotWritten, "the policy of the power scheme could not be written",
+     "run as administrator; a group policy may have fixed the power settings", "WritePwrScheme", kFailed},
+    {Cause::schemeNotActivated, "the power scheme could not be activated",
+     "run as administrator; a group policy may have fixed the active scheme", nullptr, kFailed},
+    {Cause::schemeNotCopied, "the active power scheme could not be copied", "run as administrator",
+     "PowerDuplicateScheme", kFailed},
+    {Cause::schemeNotNamed, "the copy of the power scheme could not be named",
+     "run as administrator; the copy is still in powercfg /list, and powercfg /delete removes it",
+     "PowerWriteFriendlyName", kFailed},
+    {Cause::sleepTimeNotWritten, "a sleep time-out of the new power scheme could not be written",
+     "run as administrator; the scheme is still in powercfg /list, and powercfg /delete removes it",
+     "PowerWriteACValueIndex", kFailed},
+    {Cause::internetNotReached, "the internet could not be reached",
+     "see that the adapter is connected and has an address; sign in where the network asks for it",
+     "InternetCheckConnectionA", kFailed},
 };
 
 /// The table is in the order of the enumeration, which Describe relies on.
@@ -138,7 +160,7 @@ constexpr bool IsInOrder()
     return true;
 }
 static_assert(IsInOrder());
-static_assert(std::size(kCauses) == static_cast<std::size_t>(Cause::alreadyThere) + 1);
+static_assert(std::size(kCauses) == static_cast<std::size_t>(Cause::internetNotReached) + 1);
 
 } // namespace
 

@@ -121,6 +121,22 @@ constexpr CodeRow kPreRoaming[] = {{-1, clientNotOpened}, {-4, notConnected}, {-
 constexpr CodeRow kRoaming[] = {{-1, clientNotOpened}, {-4, notConnected}, {-5, signalGoodEnough}, {-6, bssListFailed},
                                 {-7, noBssInView},     {-8, alreadyThere}, {-9, requestRefused}};
 
+// Power schemes, the internet
+
+constexpr CodeRow kSetPowerScheme[] = {{-1, suspendNotAllowed},
+                                       {-2, noActiveScheme},
+                                       {-3, schemeNotReadable},
+                                       {-4, schemeNotWritten},
+                                       {-5, schemeNotActivated}};
+constexpr CodeRow kResetPowerScheme[] = {
+    {-1, suspendNotAllowed}, {-2, noActiveScheme}, {-3, schemeNotWritten}, {-4, schemeNotActivated}};
+constexpr CodeRow kGetPowerScheme[] = {{-1, noActiveScheme},
+                                       {-2, schemeNotCopied},
+                                       {-3, schemeNotNamed},
+                                       {-4, sleepTimeNotWritten},
+                                       {-5, schemeNotActivated}};
+constexpr CodeRow kOpenUrl[] = {{-1, internetNotReached}};
+
 constexpr MethodResults kMethods[] = {
     {"Get", value, "the library's one object; null only when there is no memory for it", {}},
     {"Delete", nothing, "the client handle was closed and the object destroyed", {}},
@@ -246,6 +262,26 @@ constexpr MethodResults kMethods[] = {
 
     {"PreRoaming", status, "the network has a better access point", kPreRoaming},
     {"Roaming", status, "a better access point was asked for and the request accepted", kRoaming},
+
+    {"GetPrivileges", yesOrNo, "whether the platform took the request, even if the account lacks the privilege", {}},
+    {"EnablePriviledge", yesOrNo, "whether nothing kept the privilege from being enabled, should there be one", {}},
+    {"ForceComputerSleep", yesOrNo, "whether the computer was put to sleep", {}},
+    {"SetPowerScheme", status, "the power policy is remembered and an idle computer stays awake", kSetPowerScheme},
+    {"ResetPowerScheme", status, "the remembered power policy is in force again", kResetPowerScheme},
+    {"GetPowerScheme", status, "a copy of the power scheme that sleeps at once was made and is active",
+     kGetPowerScheme},
+    {"IsSurpportAoAc", yesOrNo, "whether the computer sleeps in the Modern Standby way", {}},
+    {"GetLastWakeTime", value, "the last wake time in 100 ns; 0 when it could not be asked", {}},
+    {"GetLastSleepTime", value, "the last sleep time in 100 ns; 0 when it could not be asked", {}},
+    {"GetSystemPowerPolicy", platformError, "the power policy on battery could be read", {}},
+    {"IsPowerHibernateAllowed", yesOrNo, "whether the computer woke by itself", {}},
+
+    {"IsWow64", yesOrNo, "whether this is a 32-bit process on a 64-bit system", {}},
+    {"CloseProcess", nothing, "the process was asked to end; nothing is reported", {}},
+    {"CreateProcRunCmd", nothing, "the program has ended, or was never started; nothing is reported", {}},
+    {"CreateProcRunExe", yesOrNo, "whether the program was started; it has ended", {}},
+    {"GetAppPath", text, "the host program's folder; empty when it cannot be told", {}},
+    {"OpenUrl", status, "the internet can be reached", kOpenUrl},
 };
 
 } // namespace

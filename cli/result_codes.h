@@ -62,7 +62,16 @@ enum class Cause
     savedNotInView,
     profileNotMoved,
     signalGoodEnough,
-    alreadyThere
+    alreadyThere,
+    suspendNotAllowed,
+    noActiveScheme,
+    schemeNotReadable,
+    schemeNotWritten,
+    schemeNotActivated,
+    schemeNotCopied,
+    schemeNotNamed,
+    sleepTimeNotWritten,
+    internetNotReached
 };
 
 struct CauseText

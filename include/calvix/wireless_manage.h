@@ -496,6 +496,80 @@ public:
     /// The same decision, then a request for that access point; also -9 refused.
     int Roaming(const GUID* pInterfaceGuid);
 
+    // --- Privileges, power and sleep ----------------------------------------------------------------------------
+
+    /// Enables the shutdown privilege for the calling process (OpenProcessToken, LookupPrivilegeValueA,
+    /// AdjustTokenPrivileges). 1 when the platform took the request, also where the account does not hold the
+    /// privilege and where there are no tokens; 0 on every other failure.
+    int GetPrivileges();
+
+    /// The same for a privilege named as the platform names it, "SeShutdownPrivilege". False only when there is such a
+    /// privilege and it was not enabled; true also when `privilegeName` [in] is null or names none, or there is no
+    /// token to open.
+    bool EnablePriviledge(const char* privilegeName);
+
+    /// Puts the computer to sleep (SetSuspendState, forced, wake events left on). Takes the shutdown privilege, see
+    /// GetPrivileges. The platform's answer: 1, or 0 when refused.
+    int ForceComputerSleep();
+
+    /// Remembers the policy of the active legacy power scheme and switches its idle time-outs off, on mains and on
+    /// battery (GetActivePwrScheme, ReadPwrScheme, WritePwrScheme, SetActivePwrScheme). 0; -1 the computer cannot be
+    /// suspended, -2 no active scheme, -3 not readable, -4 not written, -5 not activated.
+    long SetPowerScheme();
+
+    /// Writes the remembered policy, all zero when none was, to whichever scheme is active now, and activates it. 0;
+    /// -1 the computer cannot be suspended, -2 no active scheme, -3 not written, -4 not activated.
+    long ResetPowerScheme();
+
+    /// Copies the active power scheme, names the copy "Super energy-saving", in 8-bit characters where the platform
+    /// takes wide ones, makes it sleep after a second on mains, and activates it (PowerDuplicateScheme,
+    /// PowerWriteFriendlyName, PowerWriteACValueIndex, PowerSetActiveScheme). The copy stays in the store. 0; -1 no
+    /// active scheme, -2 not copied, -3 not named, -4 a time-out not written, -5 not activated. Begins by listing the
+    /// first scheme (PowerEnumerate) until that fails: where there is a scheme it does not return.
+    long GetPowerScheme();
+
+    /// 1 when the computer sleeps in the "always on, always connected" way, Modern Standby (CallNtPowerInformation);
+    /// else 0, also when it cannot be asked.
+    int IsSurpportAoAc();
+
+    /// When the computer last woke, in 100 ns of interrupt time (CallNtPowerInformation); 0 when it cannot be asked.
+    unsigned long long GetLastWakeTime();
+
+    /// When it last went to sleep, likewise.
+    unsigned long long GetLastSleepTime();
+
+    /// Asks for the power policies on mains and on battery (CallNtPowerInformation) and drops them. The NTSTATUS of
+    /// the second question, 0 for success.
+    long GetSystemPowerPolicy();
+
+    /// In spite of the name: whether the computer woke by itself, as the platform's boolean (IsSystemResumeAutomatic).
+    int IsPowerHibernateAllowed();
+
+    // --- Processes and the host program -------------------------------------------------------------------------
+
+    /// Whether this is a 32-bit process on a 64-bit system, the platform's boolean (IsWow64Process); 0 when it cannot
+    /// be asked.
+    int IsWow64();
+
+    /// Ends a process at once, with exit code 0 (OpenProcess, TerminateProcess). Reports nothing.
+    void CloseProcess(unsigned long processId);
+
+    /// Starts `commandLine` [in, the platform may write to it] (CreateProcessA) and waits, without limit, until the
+    /// program has ended. Reports nothing; a null command line starts nothing.
+    void CreateProcRunCmd(char* commandLine);
+
+    /// The same for the program `fileName` [in] beside the host program; overwrites GetAppPath's text. 1, whatever the
+    /// exit code; 0 when it was not started, as with a null name.
+    int CreateProcRunExe(char* fileName);
+
+    /// Folder of the host program, last backslash included (GetModuleFileNameA); empty when it cannot be told. The
+    /// text, at most 511 bytes, belongs to the object.
+    char* GetAppPath();
+
+    /// 0 when a connection to https://www.example.com/ can be made (InternetCheckConnectionA), else -1. Opens nothing,
+    /// but sets the whole process's connect time-out to three seconds (InternetSetOptionA).
+    long OpenUrl();
+
 private:
     friend struct calvix::ManagerInternals;
 

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/platform.h"
+
+namespace calvix
+{
+
+/// Owner of a scheme's GUID that power management handed out. Released with LocalFree at the end of its scope, also when
+/// nothing was handed out, which the platform takes.
+class SchemeGuid
+{
+public:
+    SchemeGuid() = default;
+    SchemeGuid(const SchemeGuid&) = delete;
+    SchemeGuid& operator=(const SchemeGuid&) = delete;
+    ~SchemeGuid() { platform::power().LocalFree(m_guid); }
+
+    /// Where an operation stores its result; for an owner that holds nothing yet.
+    GUID** Receive() { return &m_guid; }
+
+    const GUID* get() const { return m_guid; }
+
+private:
+    GUID* m_guid = nullptr;
+};
+
+} // namespace calvix

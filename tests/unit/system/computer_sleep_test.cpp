@@ -1,0 +1,51 @@
+#include "unit/system/system_test.h"
+
+namespace calvix::test::computer_sleep_test
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+
+class ComputerSleepTest : public SystemTest
+{
+};
+
+TEST_F(ComputerSleepTest, TheComputerSleepsOnceItMayBeShutDown)
+{
+    ASSERT_EQ(1, manager().GetPrivileges());
+    ClearCalls();
+    EXPECT_EQ(1, manager().ForceComputerSleep());
+    EXPECT_THAT(timeline(), ElementsAre("SetSuspendState(hibernate=false, force=true, wakeupEventsDisabled=false)"));
+    EXPECT_EQ(1u, computer().SuspendCount());
+    ExpectSilence();
+}
+
+TEST_F(ComputerSleepTest, NoPrivilegeIsEnabledHere)
+{
+    EXPECT_EQ(0, manager().ForceComputerSleep());
+    EXPECT_THAT(calls(), ElementsAre("SetSuspendState"));
+    EXPECT_EQ(0u, computer().SuspendCount());
+    EXPECT_FALSE(computer().IsPrivilegeEnabled("SeShutdownPrivilege"));
+    ExpectSilence();
+}
+
+TEST_F(ComputerSleepTest, ARefusalIsPassedOn)
+{
+    ASSERT_EQ(1, manager().GetPrivileges());
+    ClearCalls();
+    FailOn("SetSuspendState");
+    EXPECT_EQ(0, manager().ForceComputerSleep());
+    EXPECT_EQ(1u, InjectedFailures());
+    EXPECT_EQ(0u, computer().SuspendCount());
+    ExpectSilence();
+}
+
+TEST_F(ComputerSleepTest, NeedsNeitherAClientNorMemory)
+{
+    ExpectNoClientNeeded([this] { manager().ForceComputerSleep(); });
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().ForceComputerSleep(); }));
+}
+
+} // namespace
+} // namespace calvix::test::computer_sleep_test

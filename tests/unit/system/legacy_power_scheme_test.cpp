@@ -1,0 +1,287 @@
+#include "support/contract_table.h"
+#include "unit/system/system_test.h"
+#include "unit/system/watched_computer.h"
+
+#include <cstring>
+
+namespace calvix::test::legacy_power_scheme_test
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+
+constexpr UINT kActive = 3;
+constexpr UINT kOther = 5;
+
+const std::string kAllowed = "IsPwrSuspendAllowed()";
+const std::string kActiveScheme = "GetActivePwrScheme(schemeId=non-null)";
+
+std::string Write(UINT scheme)
+{
+    return "WritePwrScheme(schemeId=" + std::to_string(scheme) + ", name=null, description=null, policy=non-null)";
+}
+
+std::string Activate(UINT scheme)
+{
+    return "SetActivePwrScheme(schemeId=" + std::to_string(scheme) + ", globalPolicy=null, policy=non-null)";
+}
+
+simulation::Scenario TwoSchemes()
+{
+    simulation::Scenario world = RichWorld();
+    world.power.legacySchemes = {
+        {.id = kActive, .name = "Desk", .idleTimeoutAc = 1800, .idleTimeoutDc = 600, .videoTimeoutAc = 450},
+        {.id = kOther, .name = "Travel", .idleTimeoutAc = 300, .idleTimeoutDc = 120, .videoTimeoutAc = 60}};
+    world.power.activeLegacyScheme = kActive;
+    return world;
+}
+
+bool Same(const POWER_POLICY& one, const POWER_POLICY& other)
+{
+    return std::memcmp(&one, &other, sizeof(one)) == 0;
+}
+
+bool IsZero(const POWER_POLICY& policy)
+{
+    return Same(policy, POWER_POLICY{});
+}
+
+POWER_POLICY WithoutIdleTimeouts(POWER_POLICY policy)
+{
+    policy.user.IdleTimeoutAc = 0;
+    policy.user.IdleTimeoutDc = 0;
+    return policy;
+}
+
+class LegacyPowerSchemeTest : public SystemTest
+{
+public:
+    LegacyPowerSchemeTest() : SystemTest(TwoSchemes()) {}
+
+    POWER_POLICY PolicyOf(UINT scheme) { return computer().LegacyPowerPolicy(scheme).value(); }
+    POWER_POLICY& Saved() { return ManagerInternals::SavedPowerPolicy(manager()); }
+
+    void ExpectIdleTimeouts(UINT scheme, ULONG mains, ULONG battery)
+    {
+        EXPECT_EQ(mains, PolicyOf(scheme).user.IdleTimeoutAc) << scheme;
+        EXPECT_EQ(battery, PolicyOf(scheme).user.IdleTimeoutDc) << scheme;
+    }
+};
+
+long long Set(CWirelessManage& manager)
+{
+    return manager.SetPowerScheme();
+}
+
+long long Reset(CWirelessManage& manager)
+{
+    return manager.ResetPowerScheme();
+}
+
+// --- SetPowerScheme ---
+
+TEST_F(LegacyPowerSchemeTest, AnIdleComputerStaysAwake)
+{
+    EXPECT_EQ(0, manager().SetPowerScheme());
+    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kActiveScheme, "ReadPwrScheme(schemeId=3, policy=non-null)",
+                                        Write(kActive), Activate(kActive)));
+    ExpectIdleTimeouts(kActive, 0, 0);
+    ExpectIdleTimeouts(kOther, 300, 120);
+    EXPECT_EQ(450u, PolicyOf(kActive).user.VideoTimeoutAc);
+    EXPECT_EQ(kActive, computer().Snapshot().power.activeLegacyScheme);
+    ExpectSilence();
+}
+
+TEST_F(LegacyPowerSchemeTest, ThePolicyIsRememberedAsItWas)
+{
+    const POWER_POLICY before = PolicyOf(kActive);
+    ASSERT_TRUE(IsZero(Saved()));
+    EXPECT_EQ(0, manager().SetPowerScheme());
+    EXPECT_TRUE(Same(before, Saved()));
+    EXPECT_EQ(1800u, Saved().user.IdleTimeoutAc);
+    EXPECT_EQ(600u, Saved().user.IdleTimeoutDc);
+}
+
+// The record has many fields that are nobody's business here.
+TEST_F(LegacyPowerSchemeTest, NothingButTheIdleTimeoutsChanges)
+{
+    POWER_POLICY full{};
+    std::memset(&full, 0x5A, sizeof(full));
+    std::vector<POWER_POLICY> seen;
+    WatchedComputer watched;
+    watched.watchedPower.read = [&full](POWER_POLICY& policy) { policy = full; };
+    watched.watchedPower.written = [&seen](UINT scheme, const POWER_POLICY& policy)
+    {
+        EXPECT_EQ(kActive, scheme);
+        seen.push_back(policy);
+    };
+    watched.watchedPower.activated = watched.watchedPower.written;
+    manager().SetPowerScheme();
+    ASSERT_EQ(2u, seen.size());
+    for (const POWER_POLICY& policy : seen)
+        EXPECT_TRUE(Same(WithoutIdleTimeouts(full), policy));
+    EXPECT_TRUE(Same(full, Saved()));
+}
+
+TEST_F(LegacyPowerSchemeTest, EveryWayForTheSwitchToFail)
+{
+    CheckFailures(*this, {
+                             {"SetPowerScheme", Set, "IsPwrSuspendAllowed", -1},
+                             {"SetPowerScheme", Set, "GetActivePwrScheme", -2},
+                             {"SetPowerScheme", Set, "ReadPwrScheme", -3},
+                             {"SetPowerScheme", Set, "WritePwrScheme", -4},
+                             {"SetPowerScheme", Set, "SetActivePwrScheme", -5},
+                         });
+}
+
+TEST_F(LegacyPowerSchemeTest, AFailureEndsTheSwitch)
+{
+    struct
+    {
+        const char* operation;
+        std::size_t callsMade;
+        bool saved;
+        ULONG idleTimeout;
+    } const rows[] = {{"IsPwrSuspendAllowed", 1, false, 1800},
+                      {"GetActivePwrScheme", 2, false, 1800},
+                      {"ReadPwrScheme", 3, false, 1800},
+                      {"WritePwrScheme", 4, true, 1800},
+                      {"SetActivePwrScheme", 5, true, 0}};
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.operation);
+        Restart();
+        FailOn(row.operation);
+        EXPECT_GT(0, manager().SetPowerScheme());
+        EXPECT_EQ(1u, InjectedFailures());
+        EXPECT_EQ(row.callsMade, calls().size());
+        EXPECT_EQ(row.saved, !IsZero(Saved()));
+        EXPECT_EQ(row.saved ? 1800u : 0u, Saved().user.IdleTimeoutAc) << "what is saved is what was read";
+        EXPECT_EQ(row.idleTimeout, PolicyOf(kActive).user.IdleTimeoutAc);
+        ExpectSilence();
+    }
+}
+
+TEST_F(LegacyPowerSchemeTest, AComputerThatCannotBeSuspendedIsLeftAlone)
+{
+    simulation::Scenario world = TwoSchemes();
+    world.power.suspendAllowed = false;
+    UseWorld(world);
+    EXPECT_EQ(-1, manager().SetPowerScheme());
+    EXPECT_EQ(-1, manager().ResetPowerScheme());
+    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kAllowed));
+    ExpectIdleTimeouts(kActive, 1800, 600);
+}
+
+TEST_F(LegacyPowerSchemeTest, AComputerWithoutAnActiveSchemeIsLeftAlone)
+{
+    simulation::Scenario world = TwoSchemes();
+    world.power.activeLegacyScheme = std::nullopt;
+    UseWorld(world);
+    EXPECT_EQ(-2, manager().SetPowerScheme());
+    EXPECT_EQ(-2, manager().ResetPowerScheme());
+    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kActiveScheme, kAllowed, kActiveScheme));
+}
+
+// --- ResetPowerScheme ---
+
+TEST_F(LegacyPowerSchemeTest, TheRememberedPolicyComesBack)
+{
+    const POWER_POLICY before = PolicyOf(kActive);
+    ASSERT_EQ(0, manager().SetPowerScheme());
+    ClearCalls();
+    EXPECT_EQ(0, manager().ResetPowerScheme());
+    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kActiveScheme, Write(kActive), Activate(kActive)));
+    EXPECT_TRUE(Same(before, PolicyOf(kActive)));
+    EXPECT_TRUE(Same(before, Saved())) << "what is remembered stays remembered";
+    ExpectSilence();
+
+    ASSERT_EQ(0, manager().ResetPowerScheme());
+    ExpectIdleTimeouts(kActive, 1800, 600);
+}
+
+TEST_F(LegacyPowerSchemeTest, EveryWayForTheReturnToFail)
+{
+    CheckFailures(*this, {
+                             {"ResetPowerScheme", Reset, "IsPwrSuspendAllowed", -1},
+                             {"ResetPowerScheme", Reset, "GetActivePwrScheme", -2},
+                             {"ResetPowerScheme", Reset, "WritePwrScheme", -3},
+                             {"ResetPowerScheme", Reset, "SetActivePwrScheme", -4},
+                         });
+}
+
+TEST_F(LegacyPowerSchemeTest, AFailureEndsTheReturnAndKeepsWhatIsRemembered)
+{
+    struct
+    {
+        const char* operation;
+        std::size_t callsMade;
+    } const rows[] = {
+        {"IsPwrSuspendAllowed", 1}, {"GetActivePwrScheme", 2}, {"WritePwrScheme", 3}, {"SetActivePwrScheme", 4}};
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.operation);
+        Restart();
+        ASSERT_EQ(0, manager().SetPowerScheme());
+        const POWER_POLICY remembered = Saved();
+        ClearCalls();
+        FailOn(row.operation);
+        EXPECT_GT(0, manager().ResetPowerScheme());
+        EXPECT_EQ(row.callsMade, calls().size());
+        EXPECT_TRUE(Same(remembered, Saved()));
+        ExpectSilence();
+    }
+}
+
+// Deliberate: what was never saved is written all the same.
+TEST_F(LegacyPowerSchemeTest, WithoutASaveAPolicyOfZerosIsWritten)
+{
+    std::vector<POWER_POLICY> seen;
+    WatchedComputer watched;
+    watched.watchedPower.written = [&seen](UINT, const POWER_POLICY& policy) { seen.push_back(policy); };
+    watched.watchedPower.activated = watched.watchedPower.written;
+    EXPECT_EQ(0, manager().ResetPowerScheme());
+    ASSERT_EQ(2u, seen.size());
+    EXPECT_TRUE(IsZero(seen[0]));
+    EXPECT_TRUE(IsZero(seen[1]));
+    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kActiveScheme, Write(kActive), Activate(kActive)));
+    ExpectIdleTimeouts(kActive, 0, 0);
+    EXPECT_EQ(0u, PolicyOf(kActive).user.VideoTimeoutAc);
+}
+
+// Deliberate: the second save is of the policy that the first call made.
+TEST_F(LegacyPowerSchemeTest, ASecondSaveForgetsTheFirst)
+{
+    ASSERT_EQ(0, manager().SetPowerScheme());
+    ASSERT_EQ(0, manager().SetPowerScheme());
+    EXPECT_EQ(0, manager().ResetPowerScheme());
+    ExpectIdleTimeouts(kActive, 0, 0);
+    EXPECT_EQ(450u, PolicyOf(kActive).user.VideoTimeoutAc);
+}
+
+// Deliberate: the policy goes to the scheme that is active now, not to the one that it was read from.
+TEST_F(LegacyPowerSchemeTest, ThePolicyGoesToWhicheverSchemeIsActive)
+{
+    const POWER_POLICY desk = PolicyOf(kActive);
+    ASSERT_EQ(0, manager().SetPowerScheme());
+    ASSERT_TRUE(computer().power().SetActivePwrScheme(kOther, nullptr, nullptr));
+    ClearCalls();
+    EXPECT_EQ(0, manager().ResetPowerScheme());
+    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kActiveScheme, Write(kOther), Activate(kOther)));
+    EXPECT_TRUE(Same(desk, PolicyOf(kOther)));
+    ExpectIdleTimeouts(kActive, 0, 0);
+}
+
+// --- both ---
+
+TEST_F(LegacyPowerSchemeTest, NeedNeitherAClientNorMemory)
+{
+    ExpectNoClientNeeded([this] { manager().SetPowerScheme(); });
+    ExpectNoClientNeeded([this] { manager().ResetPowerScheme(); });
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().SetPowerScheme(); }));
+    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().ResetPowerScheme(); }));
+}
+
+} // namespace
+} // namespace calvix::test::legacy_power_scheme_test

@@ -1,0 +1,262 @@
+#include "unit/system/system_test.h"
+#include "unit/system/watched_computer.h"
+
+#include <algorithm>
+
+namespace calvix::test::power_facts_test
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// STATUS_ACCESS_DENIED, as the methods and the fault injection have it.
+constexpr DWORD kDenied = 0xC0000022;
+constexpr long kDeniedStatus = static_cast<std::int32_t>(0xC0000022);
+
+std::string Query(const std::string& level, const std::string& record)
+{
+    return "CallNtPowerInformation(level=" + level + ", input=null, inputSize=0, output=non-null, outputSize=sizeof(" +
+           record + "))";
+}
+
+class PowerFactsTest : public SystemTest
+{
+public:
+    void UsePower(const simulation::PowerDescription& power)
+    {
+        simulation::Scenario fresh = RichWorld();
+        fresh.power = power;
+        UseWorld(fresh);
+    }
+
+    void ExpectTraced(const std::vector<std::string>& lines)
+    {
+        EXPECT_EQ(lines, traced());
+        EXPECT_EQ(lines.back(), sharedTrace());
+        ExpectNothingHeld();
+    }
+};
+
+// --- the questions with a trace line ---
+
+struct Question
+{
+    const char* method;
+    std::function<long long(CWirelessManage&)> ask;
+    std::string line;
+    std::string succeeded;
+    std::string failed;
+};
+
+std::vector<Question> Questions()
+{
+    return {{"IsSurpportAoAc", [](CWirelessManage& m) -> long long { return m.IsSurpportAoAc(); },
+             Query("SystemPowerCapabilities", "SYSTEM_POWER_CAPABILITIES"), "SYSTEM_POWER_CAPABILITIES succeed",
+             "SYSTEM_POWER_CAPABILITIES fail"},
+            {"GetLastWakeTime", [](CWirelessManage& m) { return static_cast<long long>(m.GetLastWakeTime()); },
+             Query("LastWakeTime", "ULONGLONG"), "GetLastWakeTime succeed", "GetLastWakeTime fail"},
+            {"GetLastSleepTime", [](CWirelessManage& m) { return static_cast<long long>(m.GetLastSleepTime()); },
+             Query("LastSleepTime", "ULONGLONG"), "GetLastSleepTime succeed", "GetLastSleepTime fail"}};
+}
+
+simulation::PowerDescription SleptOnce()
+{
+    simulation::PowerDescription power;
+    power.modernStandby = true;
+    power.upMilliseconds = 60'000;
+    power.lastSleepTime = 111'111'111;
+    power.lastWakeTime = 222'222'222;
+    return power;
+}
+
+TEST_F(PowerFactsTest, EachAsksOnceAndTracesItsSuccess)
+{
+    for (const Question& question : Questions())
+    {
+        SCOPED_TRACE(question.method);
+        UsePower(SleptOnce());
+        EXPECT_NE(0, question.ask(manager()));
+        EXPECT_THAT(callLines(), ElementsAre(question.line));
+        ExpectTraced({question.succeeded});
+    }
+}
+
+TEST_F(PowerFactsTest, AFailureGivesZeroAndItsTrace)
+{
+    for (const Question& question : Questions())
+    {
+        SCOPED_TRACE(question.method);
+        UsePower(SleptOnce());
+        FailOn("CallNtPowerInformation", kDenied);
+        EXPECT_EQ(0, question.ask(manager()));
+        EXPECT_EQ(1u, InjectedFailures());
+        EXPECT_THAT(callLines(), ElementsAre(question.line));
+        ExpectTraced({question.failed});
+    }
+}
+
+TEST_F(PowerFactsTest, TheLineIsFormattedWithTracingOffToo)
+{
+    SetTracing(false);
+    for (const Question& question : Questions())
+    {
+        ClearCalls();
+        question.ask(manager());
+        EXPECT_THAT(traced(), IsEmpty());
+        EXPECT_EQ(question.succeeded, sharedTrace());
+    }
+}
+
+TEST_F(PowerFactsTest, WhatIsAskedForBeginsAsZero)
+{
+    unsigned seen = 0;
+    WatchedComputer watched;
+    watched.watchedPower.queried = [&seen](PVOID output, ULONG size) -> NTSTATUS
+    {
+        const auto* const bytes = static_cast<const unsigned char*>(output);
+        EXPECT_TRUE(std::all_of(bytes, bytes + size, [](unsigned char byte) { return byte == 0; }));
+        ++seen;
+        return 0;
+    };
+    for (const Question& question : Questions())
+        question.ask(manager());
+    manager().GetSystemPowerPolicy();
+    EXPECT_EQ(5u, seen);
+}
+
+TEST_F(PowerFactsTest, ModernStandbyIsOneByteOfTheCapabilities)
+{
+    for (const bool modernStandby : {true, false})
+    {
+        simulation::PowerDescription power;
+        power.modernStandby = modernStandby;
+        UsePower(power);
+        EXPECT_EQ(modernStandby ? 1 : 0, manager().IsSurpportAoAc());
+    }
+}
+
+TEST_F(PowerFactsTest, TheTimesComeOutAsThePlatformGivesThem)
+{
+    UsePower(SleptOnce());
+    EXPECT_EQ(222'222'222u, manager().GetLastWakeTime());
+    EXPECT_EQ(111'111'111u, manager().GetLastSleepTime());
+    UsePower({});
+    EXPECT_EQ(0u, manager().GetLastWakeTime()) << "it has not slept yet";
+    EXPECT_EQ(0u, manager().GetLastSleepTime());
+}
+
+TEST_F(PowerFactsTest, TheTimesHaveSixtyFourBits)
+{
+    simulation::PowerDescription power = SleptOnce();
+    power.lastSleepTime = 0x123456789ABCDEF0ULL;
+    power.lastWakeTime = 0xFEDCBA9876543210ULL;
+    UsePower(power);
+    EXPECT_EQ(0xFEDCBA9876543210ULL, manager().GetLastWakeTime());
+    EXPECT_EQ(0x123456789ABCDEF0ULL, manager().GetLastSleepTime());
+}
+
+// --- GetSystemPowerPolicy ---
+
+const std::string kMains = Query("SystemPowerPolicyAc", "SYSTEM_POWER_POLICY");
+const std::string kBattery = Query("SystemPowerPolicyDc", "SYSTEM_POWER_POLICY");
+
+TEST_F(PowerFactsTest, BothPoliciesAreAskedFor)
+{
+    EXPECT_EQ(0, manager().GetSystemPowerPolicy());
+    EXPECT_THAT(callLines(), ElementsAre(kMains, kBattery));
+    ExpectTraced({"SystemPowerPolicyAc succeed", "SystemPowerPolicyDc succeed"});
+}
+
+// Deliberate: the answer about mains power shows in the trace only.
+TEST_F(PowerFactsTest, OnlyTheSecondAnswerComesOut)
+{
+    struct
+    {
+        unsigned fromCall, times;
+        long expected;
+        std::vector<std::string> lines;
+    } const rows[] = {
+        {1, 1, 0, {"SystemPowerPolicyAc fail", "SystemPowerPolicyDc succeed"}},
+        {2, 1, kDeniedStatus, {"SystemPowerPolicyAc succeed", "SystemPowerPolicyDc fail"}},
+        {1, 2, kDeniedStatus, {"SystemPowerPolicyAc fail", "SystemPowerPolicyDc fail"}},
+    };
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.lines[0] + ", " + row.lines[1]);
+        Restart();
+        FailOn("CallNtPowerInformation", kDenied, row.fromCall, row.times);
+        EXPECT_EQ(row.expected, manager().GetSystemPowerPolicy());
+        EXPECT_EQ(row.times, InjectedFailures());
+        EXPECT_THAT(callLines(), ElementsAre(kMains, kBattery));
+        ExpectTraced(row.lines);
+    }
+}
+
+// --- IsPowerHibernateAllowed ---
+
+// Deliberate: the name promises another answer.
+TEST_F(PowerFactsTest, TheAnswerAboutHibernationIsWhetherTheComputerWokeByItself)
+{
+    for (const bool byItself : {true, false})
+    {
+        for (const bool allowed : {true, false})
+        {
+            simulation::PowerDescription power = SleptOnce();
+            power.resumesAutomatically = byItself;
+            power.hibernateAllowed = power.shutdownAllowed = power.suspendAllowed = allowed;
+            UsePower(power);
+            EXPECT_EQ(byItself, manager().IsPowerHibernateAllowed() != 0);
+            EXPECT_THAT(timeline(), ElementsAre("IsPwrHibernateAllowed()", "IsPwrShutdownAllowed()",
+                                                "IsPwrSuspendAllowed()", "IsSystemResumeAutomatic()"));
+            ExpectSilence();
+        }
+    }
+}
+
+TEST_F(PowerFactsTest, OnlyTheLastOfItsQuestionsMatters)
+{
+    struct
+    {
+        const char* operation;
+        bool expected;
+    } const rows[] = {{"IsPwrHibernateAllowed", true},
+                      {"IsPwrShutdownAllowed", true},
+                      {"IsPwrSuspendAllowed", true},
+                      {"IsSystemResumeAutomatic", false}};
+    for (const auto& row : rows)
+    {
+        simulation::PowerDescription power = SleptOnce();
+        power.resumesAutomatically = true;
+        UsePower(power);
+        FailOn(row.operation);
+        EXPECT_EQ(row.expected, manager().IsPowerHibernateAllowed() != 0) << row.operation;
+        EXPECT_EQ(1u, InjectedFailures());
+        EXPECT_EQ(4u, calls().size());
+        ExpectSilence();
+    }
+}
+
+// --- all of them ---
+
+TEST_F(PowerFactsTest, NeedNeitherAClientNorMemory)
+{
+    std::vector<Question> all = Questions();
+    all.push_back(
+        {"GetSystemPowerPolicy", [](CWirelessManage& m) -> long long { return m.GetSystemPowerPolicy(); }, {}, {}, {}});
+    all.push_back({"IsPowerHibernateAllowed",
+                   [](CWirelessManage& m) -> long long { return m.IsPowerHibernateAllowed(); },
+                   {},
+                   {},
+                   {}});
+    for (const Question& question : all)
+    {
+        SCOPED_TRACE(question.method);
+        ExpectNoClientNeeded([&] { question.ask(manager()); });
+        EXPECT_EQ(0u, CountLibraryAllocations([&] { question.ask(manager()); }));
+    }
+}
+
+} // namespace
+} // namespace calvix::test::power_facts_test
