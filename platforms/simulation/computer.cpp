@@ -21,10 +21,10 @@ struct Computer::Parts
     Machine machine;
     SimulatedWlanService wlan{machine};
     LockedServiceControl services{machine};
-    SimulatedPower power{machine.lastError};
-    SimulatedSecurity security{machine.lastError};
-    SimulatedProcesses processes{machine.lastError};
-    SimulatedInternet internet{machine.lastError};
+    SimulatedPower power{machine};
+    SimulatedSecurity security{machine};
+    SimulatedProcesses processes{machine};
+    SimulatedInternet internet{machine};
     SimulatedText text{machine.lastError, machine.codePage};
     LockedClock clock{machine};
     LockedDebuggerOutput debugger{machine};
@@ -150,6 +150,37 @@ void Computer::SetInterfaceState(std::size_t adapter, WLAN_INTERFACE_STATE state
     m_parts->machine.adapters.at(adapter)->SetState(state);
 }
 
+void Computer::SetInternet(InternetAccess access)
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    m_parts->machine.internet = access;
+}
+
+std::optional<POWER_POLICY> Computer::LegacyPowerPolicy(UINT schemeId) const
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    const PowerStore::LegacyScheme* const scheme = m_parts->machine.powerStore.FindLegacy(schemeId);
+    return scheme != nullptr ? std::optional(scheme->policy) : std::nullopt;
+}
+
+unsigned Computer::SuspendCount() const
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    return m_parts->machine.suspendCount;
+}
+
+bool Computer::IsPrivilegeEnabled(const std::string& name) const
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    return m_parts->machine.IsPrivilegeEnabled(name);
+}
+
+std::vector<RunningProcess> Computer::RunningProcesses() const
+{
+    const std::lock_guard lock(m_parts->machine.mutex);
+    return m_parts->machine.processes.Running();
+}
+
 std::vector<AccessPoint>& Computer::air()
 {
     return m_parts->machine.air;
@@ -171,8 +202,9 @@ Accounts Computer::Audit()
     Machine& machine = m_parts->machine;
     const std::lock_guard lock(machine.mutex);
     machine.wlanBlocks.CheckFreed();
+    machine.localBlocks.CheckFreed();
     Accounts accounts;
-    accounts.liveBlocks = machine.wlanBlocks.CountLive();
+    accounts.liveBlocks = machine.wlanBlocks.CountLive() + machine.localBlocks.CountLive();
     accounts.openClients = machine.handles.CountOpen(HandleKind::wlanClient);
     accounts.openHandles = machine.handles.CountOpen() - accounts.openClients;
     accounts.defects = machine.defects;
@@ -190,6 +222,7 @@ Scenario Computer::Snapshot() const
     scenario.locationConsent = machine.locationConsent;
     scenario.administrator = machine.administrator;
     scenario.powerSetting = static_cast<std::uint32_t>(machine.powerSetting);
+    machine.DescribeSystem(scenario);
     scenario.accessPoints = machine.air;
     for (AccessPoint& accessPoint : scenario.accessPoints)
     {

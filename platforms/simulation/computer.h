@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,11 +15,11 @@ namespace calvix::simulation
 /// What the computer noticed that a correct program does not do, or keeps while it should not.
 struct Accounts
 {
-    std::size_t liveBlocks = 0;        ///< blocks of the WLAN service's allocator not yet released
-    std::size_t openClients = 0;       ///< WLAN client handles not yet closed
-    std::size_t openHandles = 0;       ///< other handles (service manager, tokens, processes) not yet closed
-    std::vector<std::string> defects;  ///< double frees, frees of foreign pointers, writes into freed blocks, use of
-                                       ///< closed handles: one line each
+    std::size_t liveBlocks = 0;       ///< blocks of the WLAN service and of power management not yet released
+    std::size_t openClients = 0;      ///< WLAN client handles not yet closed
+    std::size_t openHandles = 0;      ///< other handles (service manager, tokens, processes) not yet closed
+    std::vector<std::string> defects; ///< double frees, frees of foreign pointers, writes into freed blocks, use of
+                                      ///< closed handles: one line each
 };
 
 /// A small Windows machine in one process. Any thread may use it, but for what gives a reference (air, DebuggerLines):
@@ -63,6 +64,17 @@ public:
     /// The airspace. Changes are heard with the next scan, asked for or of the service itself (about every 60 s),
     /// but the connection's own access point is heard all the time.
     std::vector<AccessPoint>& air();
+
+    void SetInternet(InternetAccess access);
+
+    /// The whole policy of a legacy power scheme as it stands now; nothing if there is no such scheme. What else there
+    /// is to know of the power schemes stands in Snapshot().power.
+    std::optional<POWER_POLICY> LegacyPowerPolicy(UINT schemeId) const;
+    /// How often programs have put the computer to sleep.
+    unsigned SuspendCount() const;
+    bool IsPrivilegeEnabled(const std::string& name) const;
+    /// The processes that run, beside the program that uses the computer.
+    std::vector<RunningProcess> RunningProcesses() const;
 
     /// What went to the debugger so far, in order, one element a call.
     const std::vector<std::string>& DebuggerLines() const;

@@ -1,6 +1,7 @@
 #include "simulation/guid_text.h"
 
 #include <cstdint>
+#include <cstdio>
 
 namespace calvix::simulation
 {
@@ -61,6 +62,15 @@ std::optional<GUID> GuidFromText(std::string_view text)
         guid.Data4[index] = static_cast<std::uint8_t>(number(byteAt[index], 2));
     }
     return guid;
+}
+
+std::string GuidText(const GUID& guid)
+{
+    char text[shape.size() + 1];
+    std::snprintf(text, sizeof(text), "{%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X}",
+                  static_cast<unsigned>(guid.Data1), guid.Data2, guid.Data3, guid.Data4[0], guid.Data4[1],
+                  guid.Data4[2], guid.Data4[3], guid.Data4[4], guid.Data4[5], guid.Data4[6], guid.Data4[7]);
+    return text;
 }
 
 } // namespace calvix::simulation

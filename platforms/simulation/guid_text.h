@@ -3,6 +3,7 @@
 #include <calvix/platform_records.h>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace calvix::simulation
@@ -10,5 +11,8 @@ namespace calvix::simulation
 
 /// The GUID that "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" stands for; nothing for any other text.
 std::optional<GUID> GuidFromText(std::string_view text);
+
+/// The reverse, in capitals.
+std::string GuidText(const GUID& guid);
 
 } // namespace calvix::simulation

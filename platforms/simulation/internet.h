@@ -1,26 +1,27 @@
 #pragma once
 
 #include "platform/internet.h"
-#include "simulation/last_error_cell.h"
+#include "simulation/machine.h"
 
 namespace calvix::simulation
 {
 
-/// The internet connection: this part of the machine is not furnished yet. Every operation fails with
-/// ERROR_CALL_NOT_IMPLEMENTED.
+/// The internet connection, which does not depend on the wireless adapters: there may be a cable. No handle is ever given
+/// out, so every option is the whole process's.
 class SimulatedInternet final : public platform::Internet
 {
 public:
-    /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedInternet(LastErrorCell& lastError) : m_lastError(lastError) {}
+    /// `machine` outlives this object.
+    explicit SimulatedInternet(Machine& machine) : m_machine(machine) {}
 
     BOOL InternetSetOptionA(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize) override;
     BOOL InternetCheckConnectionA(const char* url, DWORD flags, DWORD reserved) override;
 
 private:
-    BOOL Refuse();
+    BOOL Fail(DWORD error);
 
-    LastErrorCell& m_lastError;
+    Machine& m_machine;
+    DWORD m_connectTimeout = 60'000; ///< chosen: that of a program which has not set one
 };
 
 } // namespace calvix::simulation

@@ -2,9 +2,10 @@
 
 #include <calvix/platform_records.h>
 
+#include <atomic>
+#include <cstdint>
 #include <map>
 #include <mutex>
-#include <thread>
 
 namespace calvix::simulation
 {
@@ -16,20 +17,29 @@ public:
     LastErrorCell& operator=(DWORD error)
     {
         const std::lock_guard lock(m_mutex);
-        m_errors[std::this_thread::get_id()] = error;
+        m_errors[ThisThread()] = error;
         return *this;
     }
 
     operator DWORD() const
     {
         const std::lock_guard lock(m_mutex);
-        const auto known = m_errors.find(std::this_thread::get_id());
+        const auto known = m_errors.find(ThisThread());
         return known != m_errors.end() ? known->second : 0;
     }
 
 private:
+    /// A number of its own for each thread. The system's identities will not do: a new thread may get that of one that
+    /// has ended, and would find its error.
+    static std::uint64_t ThisThread()
+    {
+        static std::atomic<std::uint64_t> latest{0};
+        thread_local const std::uint64_t number = ++latest;
+        return number;
+    }
+
     mutable std::mutex m_mutex;
-    std::map<std::thread::id, DWORD> m_errors;
+    std::map<std::uint64_t, DWORD> m_errors;
 };
 
 } // namespace calvix::simulation

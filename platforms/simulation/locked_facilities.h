@@ -3,9 +3,11 @@
 #include "simulation/clock.h"
 #include "simulation/debugger_output.h"
 #include "simulation/machine.h"
+#include "simulation/passing_time.h"
 #include "simulation/service_control.h"
 
 #include <chrono>
+#include <cstdint>
 #include <mutex>
 
 namespace calvix::simulation
@@ -80,12 +82,7 @@ public:
 
     void Sleep(DWORD milliseconds) override
     {
-        {
-            const std::lock_guard lock(m_machine.mutex);
-            m_clock.Sleep(milliseconds);
-        }
-        // The limit is real time. It passes only when a callback waits for something that the sleeper holds.
-        m_machine.notifier.WaitUntilIdle(std::chrono::seconds(1));
+        PassTime(m_machine, std::chrono::milliseconds(static_cast<std::uint32_t>(milliseconds)));
     }
     BOOL FileTimeToSystemTime(const FILETIME* fileTime, SYSTEMTIME* systemTime) override
     {

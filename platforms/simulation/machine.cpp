@@ -1,6 +1,8 @@
 #include "simulation/machine.h"
 
+#include "simulation/narrow_encoding.h"
 #include "simulation/notification_records.h"
+#include "simulation/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,10 +10,20 @@
 namespace calvix::simulation
 {
 
+namespace
+{
+
+constexpr std::uint64_t kInterruptUnitsPerMillisecond = 10'000;
+constexpr std::uint32_t kUtf8CodePage = 65001;
+
+} // namespace
+
 Machine::Machine(const Scenario& scenario)
     : description(scenario.description), codePage(scenario.codePage), serviceRunning(scenario.serviceRunning),
       locationConsent(scenario.locationConsent), administrator(scenario.administrator),
-      powerSetting(scenario.powerSetting), air(scenario.accessPoints)
+      powerSetting(scenario.powerSetting), air(scenario.accessPoints), power(scenario.power),
+      powerStore(scenario.power), wokenByItself(scenario.power.resumesAutomatically), tokens(scenario.tokens),
+      privileges(scenario.privileges), processes(scenario, time), wow64(scenario.wow64), internet(scenario.internet)
 {
     for (const AdapterDescription& adapter : scenario.adapters)
     {
@@ -28,6 +40,44 @@ Adapter* Machine::FindAdapter(const GUID& guid) const
     const auto found = std::find_if(adapters.begin(), adapters.end(),
                                     [&guid](const auto& adapter) { return adapter->Guid() == guid; });
     return found == adapters.end() ? nullptr : found->get();
+}
+
+void Machine::DescribeSystem(Scenario& scenario) const
+{
+    scenario.power = power;
+    scenario.power.upMilliseconds += static_cast<std::uint64_t>(time.Now().count());
+    powerStore.Describe(scenario.power);
+    scenario.tokens = tokens;
+    scenario.privileges = privileges;
+    scenario.programPath = processes.HostPath();
+    scenario.wow64 = wow64;
+    scenario.programs = processes.Programs();
+    scenario.processes = processes.Running();
+    scenario.internet = internet;
+}
+
+std::uint64_t Machine::InterruptTime() const
+{
+    return (power.upMilliseconds + static_cast<std::uint64_t>(time.Now().count())) * kInterruptUnitsPerMillisecond;
+}
+
+bool Machine::IsPrivilegeEnabled(std::string_view name) const
+{
+    return std::any_of(privileges.begin(), privileges.end(),
+                       [name](const Privilege& each) { return each.enabled && each.name == name; });
+}
+
+std::string Machine::NarrowFromUtf8(std::string_view text) const
+{
+    bool replaced = false;
+    return codePage == kUtf8CodePage ? std::string(text)
+                                     : EncodeNarrow(codePage, WideFromUtf8(text), '?', false, replaced);
+}
+
+std::string Machine::Utf8FromNarrow(std::string_view text) const
+{
+    bool illFormed = false;
+    return codePage == kUtf8CodePage ? std::string(text) : Utf8FromWide(DecodeNarrow(codePage, text, illFormed));
 }
 
 void Machine::SetPowerSetting(WLAN_POWER_SETTING setting)

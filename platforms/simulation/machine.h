@@ -6,6 +6,8 @@
 #include "simulation/handles.h"
 #include "simulation/last_error_cell.h"
 #include "simulation/notifier.h"
+#include "simulation/power_store.h"
+#include "simulation/process_table.h"
 #include "simulation/scenario.h"
 
 #include <calvix/platform_records.h>
@@ -14,7 +16,9 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace calvix::simulation
@@ -46,12 +50,35 @@ struct Machine
     Notifier notifier;
     EventQueue time;
     Handles handles{defects};
-    Blocks wlanBlocks{defects}; ///< the WLAN service's allocator
+    Blocks wlanBlocks{defects};  ///< the WLAN service's allocator
+    Blocks localBlocks{defects}; ///< what power management hands out
+
+    PowerDescription power; ///< all but the schemes
+    PowerStore powerStore;
+    unsigned suspendCount = 0;
+    bool wokenByItself;
+    bool tokens;
+    std::vector<Privilege> privileges;
+    ProcessTable processes;
+    std::optional<bool> wow64;
+    InternetAccess internet;
 
     std::vector<std::unique_ptr<Adapter>> adapters;
 
     /// The adapter of this interface GUID, or null.
     Adapter* FindAdapter(const GUID& guid) const;
+
+    /// Puts what the computer is beside its adapters into `scenario`, as it stands now.
+    void DescribeSystem(Scenario& scenario) const;
+
+    /// How long the computer has been up, also in sleep, in units of 100 ns.
+    std::uint64_t InterruptTime() const;
+
+    bool IsPrivilegeEnabled(std::string_view name) const;
+
+    /// Narrow text in the computer's code page, and back.
+    std::string NarrowFromUtf8(std::string_view text) const;
+    std::string Utf8FromNarrow(std::string_view text) const;
 
     /// Changes the setting and tells the clients.
     void SetPowerSetting(WLAN_POWER_SETTING setting);

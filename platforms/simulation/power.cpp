@@ -1,8 +1,11 @@
 #include "simulation/power.h"
 
 #include "platform/records/error_numbers.h"
+#include "simulation/passing_time.h"
+#include "simulation/power_information.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace calvix::simulation
 {
@@ -10,105 +13,290 @@ namespace calvix::simulation
 namespace
 {
 
-// The NTSTATUS counterpart of ERROR_CALL_NOT_IMPLEMENTED.
-constexpr NTSTATUS kStatusNotImplemented = static_cast<NTSTATUS>(static_cast<std::int32_t>(0xC0000002));
+// 32 bits wide on the platform, and negative.
+constexpr NTSTATUS FailureStatus(std::uint32_t value)
+{
+    return static_cast<NTSTATUS>(static_cast<std::int32_t>(value));
+}
+
+constexpr NTSTATUS kStatusSuccess = 0;
+constexpr NTSTATUS kStatusNotImplemented = FailureStatus(0xC0000002);
+constexpr NTSTATUS kStatusInvalidParameter = FailureStatus(0xC000000D);
+constexpr NTSTATUS kStatusBufferTooSmall = FailureStatus(0xC0000023);
+
+constexpr UINT kNewLegacyScheme = 0xFFFFFFFF;
+
+template <typename Record>
+NTSTATUS AnswerPowerQuestion(const Record& record, PVOID output, ULONG outputSize)
+{
+    if (outputSize < sizeof(record))
+        return kStatusBufferTooSmall;
+    std::memcpy(output, &record, sizeof(record));
+    return kStatusSuccess;
+}
+
+/// Hands out bytes by the rules of the operations that fill a buffer: without a buffer the caller learns the size only.
+DWORD HandOut(const void* data, std::size_t size, UCHAR* buffer, DWORD& bufferSize)
+{
+    const bool fits = bufferSize >= size;
+    bufferSize = static_cast<DWORD>(size);
+    if (buffer == nullptr)
+        return ERROR_SUCCESS;
+    if (!fits)
+        return ERROR_MORE_DATA;
+    std::memcpy(buffer, data, size);
+    return ERROR_SUCCESS;
+}
+
+GUID* NewGuid(Blocks& blocks, const GUID& guid)
+{
+    auto* const block = static_cast<GUID*>(blocks.Allocate(sizeof(GUID), "GUID of a power scheme"));
+    *block = guid;
+    return block;
+}
 
 } // namespace
 
-BOOL SimulatedPower::Refuse()
+BOOLEAN SimulatedPower::Fail(DWORD error)
 {
-    m_lastError = ERROR_CALL_NOT_IMPLEMENTED;
-    return FALSE;
+    m_machine.lastError = error;
+    return 0;
 }
 
-NTSTATUS SimulatedPower::CallNtPowerInformation(POWER_INFORMATION_LEVEL, PVOID, ULONG, PVOID, ULONG)
+// Chosen: the policies are changed through their schemes and not here, so that nothing takes an input.
+NTSTATUS
+SimulatedPower::CallNtPowerInformation(
+    POWER_INFORMATION_LEVEL level, PVOID input, ULONG, PVOID output, ULONG outputSize)
 {
-    return kStatusNotImplemented;
+    const std::lock_guard lock(m_machine.mutex);
+    if (input != nullptr || output == nullptr)
+        return kStatusInvalidParameter;
+    switch (static_cast<unsigned int>(level))
+    {
+    case SystemPowerPolicyAc:
+        return AnswerPowerQuestion(MakeSystemPolicy(m_machine.powerStore.Current(), false), output, outputSize);
+    case SystemPowerPolicyDc:
+        return AnswerPowerQuestion(MakeSystemPolicy(m_machine.powerStore.Current(), true), output, outputSize);
+    case SystemPowerCapabilities:
+        return AnswerPowerQuestion(MakeCapabilities(m_machine.power), output, outputSize);
+    case LastWakeTime:
+        return AnswerPowerQuestion(m_machine.power.lastWakeTime, output, outputSize);
+    case LastSleepTime:
+        return AnswerPowerQuestion(m_machine.power.lastSleepTime, output, outputSize);
+    default:
+        return kStatusNotImplemented;
+    }
 }
 
-BOOLEAN SimulatedPower::GetActivePwrScheme(UINT*)
+BOOLEAN SimulatedPower::GetActivePwrScheme(UINT* schemeId)
 {
-    return static_cast<BOOLEAN>(Refuse());
+    const std::lock_guard lock(m_machine.mutex);
+    if (schemeId == nullptr)
+        return Fail(ERROR_INVALID_PARAMETER);
+    if (!m_machine.powerStore.ActiveLegacy())
+        return Fail(ERROR_FILE_NOT_FOUND);
+    *schemeId = *m_machine.powerStore.ActiveLegacy();
+    return 1;
 }
 
-BOOLEAN SimulatedPower::ReadPwrScheme(UINT, POWER_POLICY*)
+BOOLEAN SimulatedPower::ReadPwrScheme(UINT schemeId, POWER_POLICY* policy)
 {
-    return static_cast<BOOLEAN>(Refuse());
+    const std::lock_guard lock(m_machine.mutex);
+    if (policy == nullptr)
+        return Fail(ERROR_INVALID_PARAMETER);
+    const PowerStore::LegacyScheme* const scheme = m_machine.powerStore.FindLegacy(schemeId);
+    if (scheme == nullptr)
+        return Fail(ERROR_FILE_NOT_FOUND);
+    *policy = scheme->policy;
+    return 1;
 }
 
-BOOLEAN SimulatedPower::WritePwrScheme(UINT*, const wchar_t*, const wchar_t*, POWER_POLICY*)
+// A policy is taken as it is, whatever its values. Descriptions are not kept: nothing reads them back.
+BOOLEAN
+SimulatedPower::WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t*, POWER_POLICY* policy)
 {
-    return static_cast<BOOLEAN>(Refuse());
+    const std::lock_guard lock(m_machine.mutex);
+    if (schemeId == nullptr || policy == nullptr)
+        return Fail(ERROR_INVALID_PARAMETER);
+    PowerStore& store = m_machine.powerStore;
+    const PowerStore::LegacyScheme* const present = store.FindLegacy(*schemeId);
+    // Only a scheme that is there already has a name to keep.
+    if (present == nullptr && name == nullptr)
+        return Fail(ERROR_INVALID_PARAMETER);
+    if (*schemeId == kNewLegacyScheme)
+        *schemeId = store.UnusedLegacyId();
+    store.WriteLegacy(*schemeId, {name != nullptr ? std::wstring(name) : present->name, *policy});
+    return 1;
 }
 
-BOOLEAN SimulatedPower::SetActivePwrScheme(UINT, GLOBAL_POWER_POLICY*, POWER_POLICY*)
+BOOLEAN SimulatedPower::SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY*, POWER_POLICY* policy)
 {
-    return static_cast<BOOLEAN>(Refuse());
+    const std::lock_guard lock(m_machine.mutex);
+    if (m_machine.powerStore.FindLegacy(schemeId) == nullptr)
+        return Fail(ERROR_FILE_NOT_FOUND);
+    m_machine.powerStore.ActivateLegacy(schemeId, policy);
+    return 1;
 }
 
-DWORD SimulatedPower::PowerEnumerate(HKEY, const GUID*, const GUID*, POWER_DATA_ACCESSOR, ULONG, UCHAR*, DWORD*)
+// Chosen: schemes can be listed, but not their subgroups and settings.
+DWORD SimulatedPower::PowerEnumerate(
+    HKEY root, const GUID*, const GUID*, POWER_DATA_ACCESSOR access, ULONG index, UCHAR* buffer, DWORD* bufferSize)
 {
-    return ERROR_CALL_NOT_IMPLEMENTED;
+    const std::lock_guard lock(m_machine.mutex);
+    if (root != nullptr || bufferSize == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    if (access != ACCESS_SCHEME)
+        return ERROR_NOT_SUPPORTED;
+    if (m_machine.power.enumerationError != 0)
+        return m_machine.power.enumerationError;
+    const auto& schemes = m_machine.powerStore.Schemes();
+    if (index >= schemes.size())
+        return ERROR_NO_MORE_ITEMS;
+    return HandOut(&schemes[index].guid, sizeof(GUID), buffer, *bufferSize);
 }
 
-DWORD SimulatedPower::PowerReadFriendlyName(HKEY, const GUID*, const GUID*, const GUID*, UCHAR*, DWORD*)
+// Chosen: subgroups and settings have no names here, only schemes do.
+DWORD SimulatedPower::PowerReadFriendlyName(
+    HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD* bufferSize)
 {
-    return ERROR_CALL_NOT_IMPLEMENTED;
+    const std::lock_guard lock(m_machine.mutex);
+    if (root != nullptr || scheme == nullptr || bufferSize == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    const PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
+    if (known == nullptr || subgroup != nullptr || setting != nullptr)
+        return ERROR_FILE_NOT_FOUND;
+    return HandOut(known->name.data(), known->name.size(), buffer, *bufferSize);
 }
 
-DWORD SimulatedPower::PowerGetActiveScheme(HKEY, GUID**)
+DWORD SimulatedPower::PowerGetActiveScheme(HKEY root, GUID** scheme)
 {
-    return ERROR_CALL_NOT_IMPLEMENTED;
+    const std::lock_guard lock(m_machine.mutex);
+    if (root != nullptr || scheme == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    if (!m_machine.powerStore.Active())
+        return ERROR_FILE_NOT_FOUND;
+    *scheme = NewGuid(m_machine.localBlocks, *m_machine.powerStore.Active());
+    return ERROR_SUCCESS;
 }
 
-DWORD SimulatedPower::PowerDuplicateScheme(HKEY, const GUID*, GUID**)
+DWORD SimulatedPower::PowerDuplicateScheme(HKEY root, const GUID* source, GUID** duplicate)
 {
-    return ERROR_CALL_NOT_IMPLEMENTED;
+    const std::lock_guard lock(m_machine.mutex);
+    if (root != nullptr || source == nullptr || duplicate == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    PowerStore& store = m_machine.powerStore;
+    const PowerStore::Scheme* const original = store.Find(*source);
+    if (original == nullptr)
+        return ERROR_FILE_NOT_FOUND;
+    // Who brings a GUID has it used; who does not is given a new one.
+    const bool ownGuid = *duplicate != nullptr;
+    const GUID guid = ownGuid ? **duplicate : store.UnusedGuid();
+    if (store.Find(guid) != nullptr)
+        return ERROR_ALREADY_EXISTS;
+    store.Duplicate(*original, guid);
+    if (!ownGuid)
+        *duplicate = NewGuid(m_machine.localBlocks, guid);
+    return ERROR_SUCCESS;
 }
 
-DWORD SimulatedPower::PowerWriteFriendlyName(HKEY, const GUID*, const GUID*, const GUID*, UCHAR*, DWORD)
+// The name is stored as it comes: the platform takes any bytes for one.
+DWORD SimulatedPower::PowerWriteFriendlyName(
+    HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD bufferSize)
 {
-    return ERROR_CALL_NOT_IMPLEMENTED;
+    const std::lock_guard lock(m_machine.mutex);
+    if (root != nullptr || scheme == nullptr || buffer == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
+    if (known == nullptr || subgroup != nullptr || setting != nullptr)
+        return ERROR_FILE_NOT_FOUND;
+    known->name.assign(buffer, buffer + bufferSize);
+    return ERROR_SUCCESS;
 }
 
-DWORD SimulatedPower::PowerWriteACValueIndex(HKEY, const GUID*, const GUID*, const GUID*, DWORD)
+DWORD SimulatedPower::PowerWriteACValueIndex(
+    HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, DWORD value)
 {
-    return ERROR_CALL_NOT_IMPLEMENTED;
+    const std::lock_guard lock(m_machine.mutex);
+    if (root != nullptr || scheme == nullptr || setting == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    PowerStore& store = m_machine.powerStore;
+    const GUID& group = subgroup != nullptr ? *subgroup : power_guid::no_subgroup;
+    PowerStore::Scheme* const known = store.Find(*scheme);
+    if (known == nullptr || !store.HasSetting(group, *setting))
+        return ERROR_FILE_NOT_FOUND;
+    PowerStore::SetAcValue(*known, group, *setting, value);
+    return ERROR_SUCCESS;
 }
 
-DWORD SimulatedPower::PowerSetActiveScheme(HKEY, const GUID*)
+DWORD SimulatedPower::PowerSetActiveScheme(HKEY root, const GUID* scheme)
 {
-    return ERROR_CALL_NOT_IMPLEMENTED;
+    const std::lock_guard lock(m_machine.mutex);
+    if (root != nullptr || scheme == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    if (m_machine.powerStore.Find(*scheme) == nullptr)
+        return ERROR_FILE_NOT_FOUND;
+    m_machine.powerStore.Activate(*scheme);
+    return ERROR_SUCCESS;
 }
 
 BOOLEAN SimulatedPower::IsPwrSuspendAllowed()
 {
-    return static_cast<BOOLEAN>(Refuse());
+    const std::lock_guard lock(m_machine.mutex);
+    return m_machine.power.suspendAllowed ? 1 : 0;
 }
 
 BOOLEAN SimulatedPower::IsPwrHibernateAllowed()
 {
-    return static_cast<BOOLEAN>(Refuse());
+    const std::lock_guard lock(m_machine.mutex);
+    return m_machine.power.hibernateAllowed ? 1 : 0;
 }
 
 BOOLEAN SimulatedPower::IsPwrShutdownAllowed()
 {
-    return static_cast<BOOLEAN>(Refuse());
+    const std::lock_guard lock(m_machine.mutex);
+    return m_machine.power.shutdownAllowed ? 1 : 0;
 }
 
-BOOLEAN SimulatedPower::SetSuspendState(BOOLEAN, BOOLEAN, BOOLEAN)
+DWORD SimulatedPower::SuspendError(bool hibernate) const
 {
-    return static_cast<BOOLEAN>(Refuse());
+    // Where there are no tokens, there is nobody who lacks a privilege.
+    if (m_machine.tokens && !m_machine.IsPrivilegeEnabled("SeShutdownPrivilege"))
+        return ERROR_PRIVILEGE_NOT_HELD;
+    const PowerDescription& power = m_machine.power;
+    return (hibernate ? power.hibernateAllowed : power.suspendAllowed) ? ERROR_SUCCESS : ERROR_NOT_SUPPORTED;
+}
+
+// The operation returns once the computer is awake again. Chosen: to the wireless adapters the time asleep is time like
+// any other.
+BOOLEAN SimulatedPower::SetSuspendState(BOOLEAN hibernate, BOOLEAN, BOOLEAN wakeupEventsDisabled)
+{
+    std::chrono::milliseconds sleep{0};
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (const DWORD error = SuspendError(hibernate != 0); error != ERROR_SUCCESS)
+            return Fail(error);
+        ++m_machine.suspendCount;
+        m_machine.power.lastSleepTime = m_machine.InterruptTime();
+        sleep = std::chrono::milliseconds(m_machine.power.sleepMilliseconds);
+    }
+    PassTime(m_machine, sleep);
+    const std::lock_guard lock(m_machine.mutex);
+    m_machine.power.lastWakeTime = m_machine.InterruptTime();
+    // Without wake-up events nobody but its user is left to wake it.
+    m_machine.wokenByItself = m_machine.power.resumesAutomatically && wakeupEventsDisabled == 0;
+    return 1;
 }
 
 BOOL SimulatedPower::IsSystemResumeAutomatic()
 {
-    return Refuse();
+    const std::lock_guard lock(m_machine.mutex);
+    return m_machine.wokenByItself ? TRUE : FALSE;
 }
 
-void SimulatedPower::LocalFree(PVOID)
+void SimulatedPower::LocalFree(PVOID memory)
 {
-    // Nothing was handed out, so null is all there is to release.
+    const std::lock_guard lock(m_machine.mutex);
+    m_machine.localBlocks.Free(memory);
 }
 
 } // namespace calvix::simulation

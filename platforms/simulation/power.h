@@ -1,18 +1,18 @@
 #pragma once
 
 #include "platform/power.h"
-#include "simulation/last_error_cell.h"
+#include "simulation/machine.h"
 
 namespace calvix::simulation
 {
 
-/// Power management: this part of the machine is not furnished yet. Every operation fails with
-/// ERROR_CALL_NOT_IMPLEMENTED.
+/// Power management: the two kinds of power schemes, what the computer can do, and sleeping. Everybody has every right to
+/// the schemes; putting the computer to sleep takes the shutdown privilege.
 class SimulatedPower final : public platform::Power
 {
 public:
-    /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedPower(LastErrorCell& lastError) : m_lastError(lastError) {}
+    /// `machine` outlives this object.
+    explicit SimulatedPower(Machine& machine) : m_machine(machine) {}
 
     NTSTATUS CallNtPowerInformation(
         POWER_INFORMATION_LEVEL level, PVOID input, ULONG inputSize, PVOID output, ULONG outputSize) override;
@@ -54,9 +54,10 @@ public:
     void LocalFree(PVOID memory) override;
 
 private:
-    BOOL Refuse();
+    BOOLEAN Fail(DWORD error);
+    DWORD SuspendError(bool hibernate) const;
 
-    LastErrorCell& m_lastError;
+    Machine& m_machine;
 };
 
 } // namespace calvix::simulation

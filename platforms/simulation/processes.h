@@ -1,18 +1,20 @@
 #pragma once
 
 #include "platform/processes.h"
-#include "simulation/last_error_cell.h"
+#include "simulation/machine.h"
+
+#include <optional>
+#include <string>
 
 namespace calvix::simulation
 {
 
-/// Processes and modules: this part of the machine is not furnished yet. Every operation fails with
-/// ERROR_CALL_NOT_IMPLEMENTED, GetProcAddress with ERROR_PROC_NOT_FOUND.
+/// Processes and modules. A process is a span of simulated time and an exit code; waiting for one lets that time pass.
 class SimulatedProcesses final : public platform::Processes
 {
 public:
-    /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedProcesses(LastErrorCell& lastError) : m_lastError(lastError) {}
+    /// `machine` outlives this object.
+    explicit SimulatedProcesses(Machine& machine) : m_machine(machine) {}
 
     HANDLE GetCurrentProcess() override;
     BOOL CreateProcessA(const char* application,
@@ -34,9 +36,23 @@ public:
     FARPROC GetProcAddress(HMODULE module, const char* name) override;
 
 private:
-    BOOL Refuse();
+    /// How long a wait takes and how it ends.
+    struct Wait
+    {
+        std::chrono::milliseconds duration{0};
+        DWORD result = WAIT_OBJECT_0;
+    };
 
-    LastErrorCell& m_lastError;
+    BOOL Fail(DWORD error);
+    DWORD FailWait(DWORD error);
+    const Program* FindProgram(const std::string& name) const;
+    const Program* FindCommand(const std::string& commandLine) const;
+    HANDLE OpenHandle(HandleKind kind, DWORD processId, DWORD rights);
+    DWORD OpeningError(DWORD processId);
+    DWORD PlanWait(HANDLE handle, DWORD milliseconds, Wait& wait);
+    std::optional<std::string> ModulePath(HMODULE module) const;
+
+    Machine& m_machine;
 };
 
 } // namespace calvix::simulation

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "simulation/scenario_system.h"
+
 #include <array>
 #include <cstdint>
 #include <map>
@@ -49,13 +51,14 @@ struct AccessPoint
     std::uint32_t frequencyKhz = 2412000;
     std::int32_t rssi = -60; ///< dBm, as every adapter hears it
     std::uint32_t phyType = 7;
-    std::uint32_t bssType = 1;            ///< DOT11_BSS_TYPE: 1 infrastructure, 2 independent
-    std::string authentication = "WPA2PSK"; ///< as in a profile: open, shared, WPA, WPAPSK, WPA2, WPA2PSK, WPA3SAE, OWE ...
-    std::string encryption = "AES";       ///< as in a profile: none, WEP, TKIP, AES, GCMP256
-    std::uint16_t beaconPeriod = 100;     ///< in 1024 microseconds
-    Bytes informationElements;            ///< empty: made up from the other fields
-    std::string key{};                    ///< passphrase that it takes; empty: any
-    bool answers = true;                  ///< whether it replies to those who want to associate
+    std::uint32_t bssType = 1; ///< DOT11_BSS_TYPE: 1 infrastructure, 2 independent
+    std::string authentication =
+        "WPA2PSK";                    ///< as in a profile: open, shared, WPA, WPAPSK, WPA2, WPA2PSK, WPA3SAE, OWE ...
+    std::string encryption = "AES";   ///< as in a profile: none, WEP, TKIP, AES, GCMP256
+    std::uint16_t beaconPeriod = 100; ///< in 1024 microseconds
+    Bytes informationElements;        ///< empty: made up from the other fields
+    std::string key{};                ///< passphrase that it takes; empty: any
+    bool answers = true;              ///< whether it replies to those who want to associate
     std::vector<SignalPoint> timetable{}; ///< if not empty, in place of rssi; see SignalAt
 
     bool operator==(const AccessPoint&) const = default;
@@ -70,8 +73,8 @@ struct StoredProfile
 
 struct Connection
 {
-    std::string profile;              ///< name of a stored profile
-    std::optional<MacAddress> bssid;  ///< none: the strongest access point of the profile's network
+    std::string profile;             ///< name of a stored profile
+    std::optional<MacAddress> bssid; ///< none: the strongest access point of the profile's network
 
     bool operator==(const Connection&) const = default;
 };
@@ -104,8 +107,8 @@ struct AdapterDescription
     std::vector<StoredProfile> profiles;      ///< in preference order
     std::optional<Connection> connection;
     Statistics statistics;
-    bool autoConfiguration = true;   ///< whether the service looks after this adapter: scans and connects by itself
-    bool backgroundScan = true;      ///< whether it scans by itself while connected, too
+    bool autoConfiguration = true;    ///< whether the service looks after this adapter: scans and connects by itself
+    bool backgroundScan = true;       ///< whether it scans by itself while connected, too
     std::map<Bytes, IhvAnswer> ihv{}; ///< the driver's answers, by request
 
     bool operator==(const AdapterDescription&) const = default;
@@ -116,9 +119,17 @@ struct Scenario
     std::string description;
     std::uint32_t codePage = 1252; ///< the active narrow code page: 1252, 932, 936 or 65001
     bool serviceRunning = true;
-    bool locationConsent = true; ///< without it the service refuses whatever would tell where the computer is
-    bool administrator = true;   ///< whether the programs run with an administrator's rights
+    bool locationConsent = true;    ///< without it the service refuses whatever would tell where the computer is
+    bool administrator = true;      ///< whether the programs run with an administrator's rights
     std::uint32_t powerSetting = 0; ///< WLAN_POWER_SETTING: the service's power saving
+    PowerDescription power;
+    bool tokens = true; ///< without them, the platform has no privileges and says that the operations are missing
+    std::vector<Privilege> privileges = DefaultPrivileges();
+    std::string programPath = "C:\\Program Files\\Calvix\\calvix.exe"; ///< of the program that uses the computer
+    std::optional<bool> wow64 = false; ///< whether it is a 32-bit one on a 64-bit system; none: cannot be asked
+    std::vector<Program> programs;
+    std::vector<RunningProcess> processes;
+    InternetAccess internet = InternetAccess::reachable;
     std::vector<AdapterDescription> adapters;
     std::vector<AccessPoint> accessPoints;
 
@@ -154,9 +165,9 @@ struct ProfileSettings
     std::string mode = "auto";
     std::string authentication = "WPA2PSK";
     std::string encryption = "AES";
-    std::string key;            ///< passphrase, empty: none
-    bool hidden = false;        ///< <nonBroadcast>true</nonBroadcast>
-    std::uint32_t bssType = 1;  ///< 1 ESS, 2 IBSS
+    std::string key;           ///< passphrase, empty: none
+    bool hidden = false;       ///< <nonBroadcast>true</nonBroadcast>
+    std::uint32_t bssType = 1; ///< 1 ESS, 2 IBSS
 };
 std::string MakeProfileXml(const ProfileSettings& settings);
 

@@ -1,4 +1,6 @@
+#include "simulation/ascii_case.h"
 #include "simulation/embedded_texts.h"
+#include "simulation/privileges.h"
 #include "simulation/profile_document.h"
 #include "simulation/scenario.h"
 #include "simulation/scenario_names.h"
@@ -75,6 +77,17 @@ public:
         if (Has(name) && !m_value->at(name).is_number_unsigned())
             (*this)[name].Refuse("less than 0");
         Read(name, target);
+    }
+
+    /// The same for a member whose null means that there is none.
+    template <typename Target>
+    void ReadOptional(const char* name, std::optional<Target>& target) const
+    {
+        if (!Has(name))
+            return;
+        target.reset();
+        if (!IsNull(name))
+            Read(name, target.emplace());
     }
 
     void ReadSwitch(const char* name, RadioSwitch& target) const
@@ -252,8 +265,7 @@ std::vector<SignalPoint> ReadTimetable(const Value& accessPoint)
         value.Read("at", point.at);
         if (!points.empty() && point.at <= points.back().at)
             value["at"].Refuse("not later than the point before it");
-        if (!value.IsNull("rssi"))
-            value.Read("rssi", point.rssi.emplace());
+        value.ReadOptional("rssi", point.rssi);
         points.push_back(point);
     }
     return points;
@@ -301,6 +313,158 @@ void RefuseDuplicates(const std::vector<Value>& places, const std::vector<Elemen
     }
 }
 
+PowerScheme ReadPowerScheme(const Value& value)
+{
+    PowerScheme scheme;
+    scheme.guid = value["guid"].Text();
+    scheme.name = value.Has("nameHex") ? ReadHex(value["nameHex"]) : FriendlyName(value["name"].Text());
+    for (const Value& each : value.Elements("values"))
+    {
+        PowerValue& read = scheme.values.emplace_back();
+        read.subgroup = each["subgroup"].Text();
+        read.setting = each["setting"].Text();
+        each.Read("ac", read.ac);
+        each.Read("dc", read.dc);
+    }
+    return scheme;
+}
+
+/// The schemes and the active one, which is the first unless another, or none, is named.
+void ReadPowerSchemes(const Value& value, PowerDescription& power)
+{
+    if (value.Has("schemes"))
+    {
+        const std::vector<Value> places = value.Elements("schemes");
+        power.schemes.clear();
+        for (const Value& each : places)
+            power.schemes.push_back(ReadPowerScheme(each));
+        RefuseDuplicates(places, power.schemes, "guid", [](const auto& each) { return LowerCase(each.guid); });
+        power.activeScheme.reset();
+        if (!power.schemes.empty())
+            power.activeScheme = power.schemes.front().guid;
+    }
+    value.ReadOptional("activeScheme", power.activeScheme);
+    const auto isActive = [&power](const auto& each) { return SameButForCase(each.guid, *power.activeScheme); };
+    if (power.activeScheme && std::none_of(power.schemes.begin(), power.schemes.end(), isActive))
+        value["activeScheme"].Refuse("there is no scheme with this GUID");
+}
+
+LegacyPowerScheme ReadLegacyPowerScheme(const Value& value)
+{
+    LegacyPowerScheme scheme;
+    value.Read("id", scheme.id);
+    value.Read("name", scheme.name);
+    value.Read("idleTimeoutAc", scheme.idleTimeoutAc);
+    value.Read("idleTimeoutDc", scheme.idleTimeoutDc);
+    value.Read("videoTimeoutAc", scheme.videoTimeoutAc);
+    value.Read("videoTimeoutDc", scheme.videoTimeoutDc);
+    return scheme;
+}
+
+void ReadLegacyPowerSchemes(const Value& value, PowerDescription& power)
+{
+    if (value.Has("legacySchemes"))
+    {
+        const std::vector<Value> places = value.Elements("legacySchemes");
+        power.legacySchemes.clear();
+        for (const Value& each : places)
+            power.legacySchemes.push_back(ReadLegacyPowerScheme(each));
+        RefuseDuplicates(places, power.legacySchemes, "id", [](const auto& each) { return each.id; });
+        power.activeLegacyScheme.reset();
+        if (!power.legacySchemes.empty())
+            power.activeLegacyScheme = power.legacySchemes.front().id;
+    }
+    value.ReadOptional("activeLegacyScheme", power.activeLegacyScheme);
+    const auto isActive = [&power](const auto& each) { return each.id == *power.activeLegacyScheme; };
+    if (power.activeLegacyScheme && std::none_of(power.legacySchemes.begin(), power.legacySchemes.end(), isActive))
+        value["activeLegacyScheme"].Refuse("there is no legacy scheme of this number");
+}
+
+PowerDescription ReadPower(const Value& value)
+{
+    PowerDescription power;
+    value.Read("suspendAllowed", power.suspendAllowed);
+    value.Read("hibernateAllowed", power.hibernateAllowed);
+    value.Read("shutdownAllowed", power.shutdownAllowed);
+    value.Read("modernStandby", power.modernStandby);
+    value.Read("battery", power.battery);
+    value.ReadCount("upMilliseconds", power.upMilliseconds);
+    value.ReadCount("lastSleepTime", power.lastSleepTime);
+    value.ReadCount("lastWakeTime", power.lastWakeTime);
+    value.Read("sleepMilliseconds", power.sleepMilliseconds);
+    value.Read("resumesAutomatically", power.resumesAutomatically);
+    value.Read("enumerationError", power.enumerationError);
+    ReadPowerSchemes(value, power);
+    ReadLegacyPowerSchemes(value, power);
+    return power;
+}
+
+std::vector<Privilege> ReadPrivileges(const std::vector<Value>& places)
+{
+    std::vector<Privilege> privileges;
+    for (const Value& value : places)
+    {
+        const std::string& name = value["name"].Text();
+        const std::optional<LUID> known = PrivilegeLuid(name);
+        if (!known)
+            value["name"].Refuse("the platform has no privilege of this name");
+        privileges.push_back({PrivilegeName(*known), false});
+        value.Read("enabled", privileges.back().enabled);
+    }
+    RefuseDuplicates(places, privileges, "name", [](const auto& each) { return each.name; });
+    return privileges;
+}
+
+Program ReadProgram(const Value& value)
+{
+    Program program;
+    program.path = value["path"].Text();
+    value.ReadOptional("milliseconds", program.milliseconds);
+    value.Read("exitCode", program.exitCode);
+    return program;
+}
+
+RunningProcess ReadRunningProcess(const Value& value)
+{
+    RunningProcess process;
+    value.Read("id", process.id);
+    process.path = value["path"].Text();
+    value.ReadOptional("milliseconds", process.milliseconds);
+    value.Read("exitCode", process.exitCode);
+    value.Read("foreign", process.foreign);
+    return process;
+}
+
+InternetAccess ReadInternet(const Value& value)
+{
+    for (const InternetName& known : kInternetNames)
+        if (value.Text() == known.name)
+            return known.access;
+    return InternetAccess::reachable;
+}
+
+/// What the computer is beside its adapters.
+void ReadSystem(const Value& root, Scenario& scenario)
+{
+    if (root.Has("power"))
+        scenario.power = ReadPower(root["power"]);
+    root.Read("tokens", scenario.tokens);
+    if (root.Has("privileges"))
+        scenario.privileges = ReadPrivileges(root.Elements("privileges"));
+    root.Read("programPath", scenario.programPath);
+    root.ReadOptional("wow64", scenario.wow64);
+    const std::vector<Value> programs = root.Elements("programs");
+    for (const Value& value : programs)
+        scenario.programs.push_back(ReadProgram(value));
+    RefuseDuplicates(programs, scenario.programs, "path", [](const auto& each) { return LowerCase(each.path); });
+    const std::vector<Value> processes = root.Elements("processes");
+    for (const Value& value : processes)
+        scenario.processes.push_back(ReadRunningProcess(value));
+    RefuseDuplicates(processes, scenario.processes, "id", [](const auto& each) { return each.id; });
+    if (root.Has("internet"))
+        scenario.internet = ReadInternet(root["internet"]);
+}
+
 Scenario ReadScenario(const Value& root)
 {
     Scenario scenario;
@@ -310,6 +474,7 @@ Scenario ReadScenario(const Value& root)
     root.Read("administrator", scenario.administrator);
     root.ReadNamed("powerSetting", kPowerSettingNames, scenario.powerSetting);
     scenario.serviceRunning = !root.Has("service") || root["service"].Text() == "running";
+    ReadSystem(root, scenario);
     const std::vector<Value> adapters = root.Elements("adapters");
     for (const Value& value : adapters)
         scenario.adapters.push_back(ReadAdapter(value));

@@ -25,6 +25,16 @@ inline constexpr NumberName kPhyNames[] = {{1, "fhss"},   {2, "dsss"}, {3, "irba
 inline constexpr NumberName kBssTypeNames[] = {{1, "infrastructure"}, {2, "independent"}};
 inline constexpr NumberName kPowerSettingNames[] = {{0, "none"}, {1, "low"}, {2, "medium"}, {3, "maximum"}};
 
+struct InternetName
+{
+    InternetAccess access;
+    const char* name;
+};
+
+inline constexpr InternetName kInternetNames[] = {{InternetAccess::reachable, "reachable"},
+                                                  {InternetAccess::unresolved, "unresolved"},
+                                                  {InternetAccess::unreachable, "unreachable"}};
+
 /// Bytes as pairs of lower-case hexadecimal digits, and back from digits of either case; nothing for other text.
 std::string HexText(const Bytes& bytes);
 std::optional<Bytes> BytesFromHex(std::string_view text);

@@ -115,6 +115,128 @@ Json WriteAccessPoint(const AccessPoint& point)
     return result;
 }
 
+/// Adds a member, unless it says what is so anyway.
+template <typename Type>
+void PutUnless(Json& object, const char* name, const Type& value, const Type& otherwise)
+{
+    if (value != otherwise)
+        object[name] = value;
+}
+
+template <typename Type>
+Json OrNull(const std::optional<Type>& value)
+{
+    return value ? Json(*value) : Json(nullptr);
+}
+
+Json WritePowerSchemes(const std::vector<PowerScheme>& schemes)
+{
+    Json result = Json::array();
+    for (const PowerScheme& scheme : schemes)
+    {
+        Json entry = {{"guid", scheme.guid}};
+        if (const std::optional<std::string> name = TextOfFriendlyName(scheme.name))
+            entry["name"] = *name;
+        else
+            entry["nameHex"] = HexText(scheme.name);
+        for (const PowerValue& value : scheme.values)
+            entry["values"].push_back(
+                {{"subgroup", value.subgroup}, {"setting", value.setting}, {"ac", value.ac}, {"dc", value.dc}});
+        result.push_back(entry);
+    }
+    return result;
+}
+
+Json WriteLegacyPowerSchemes(const std::vector<LegacyPowerScheme>& schemes)
+{
+    Json result = Json::array();
+    for (const LegacyPowerScheme& scheme : schemes)
+        result.push_back({{"id", scheme.id},
+                          {"name", scheme.name},
+                          {"idleTimeoutAc", scheme.idleTimeoutAc},
+                          {"idleTimeoutDc", scheme.idleTimeoutDc},
+                          {"videoTimeoutAc", scheme.videoTimeoutAc},
+                          {"videoTimeoutDc", scheme.videoTimeoutDc}});
+    return result;
+}
+
+Json WritePower(const PowerDescription& power)
+{
+    const PowerDescription usual;
+    Json result = Json::object();
+    PutUnless(result, "suspendAllowed", power.suspendAllowed, usual.suspendAllowed);
+    PutUnless(result, "hibernateAllowed", power.hibernateAllowed, usual.hibernateAllowed);
+    PutUnless(result, "shutdownAllowed", power.shutdownAllowed, usual.shutdownAllowed);
+    PutUnless(result, "modernStandby", power.modernStandby, usual.modernStandby);
+    PutUnless(result, "battery", power.battery, usual.battery);
+    PutUnless(result, "upMilliseconds", power.upMilliseconds, usual.upMilliseconds);
+    PutUnless(result, "lastSleepTime", power.lastSleepTime, usual.lastSleepTime);
+    PutUnless(result, "lastWakeTime", power.lastWakeTime, usual.lastWakeTime);
+    PutUnless(result, "sleepMilliseconds", power.sleepMilliseconds, usual.sleepMilliseconds);
+    PutUnless(result, "resumesAutomatically", power.resumesAutomatically, usual.resumesAutomatically);
+    PutUnless(result, "enumerationError", power.enumerationError, usual.enumerationError);
+    if (power.schemes != usual.schemes)
+        result["schemes"] = WritePowerSchemes(power.schemes);
+    if (power.schemes != usual.schemes || power.activeScheme != usual.activeScheme)
+        result["activeScheme"] = OrNull(power.activeScheme);
+    if (power.legacySchemes != usual.legacySchemes)
+        result["legacySchemes"] = WriteLegacyPowerSchemes(power.legacySchemes);
+    if (power.legacySchemes != usual.legacySchemes || power.activeLegacyScheme != usual.activeLegacyScheme)
+        result["activeLegacyScheme"] = OrNull(power.activeLegacyScheme);
+    return result;
+}
+
+Json WritePrivileges(const std::vector<Privilege>& privileges)
+{
+    Json result = Json::array();
+    for (const Privilege& each : privileges)
+        result.push_back({{"name", each.name}, {"enabled", each.enabled}});
+    return result;
+}
+
+Json WritePrograms(const std::vector<Program>& programs)
+{
+    Json result = Json::array();
+    for (const Program& each : programs)
+        result.push_back(
+            {{"path", each.path}, {"milliseconds", OrNull(each.milliseconds)}, {"exitCode", each.exitCode}});
+    return result;
+}
+
+Json WriteProcesses(const std::vector<RunningProcess>& processes)
+{
+    Json result = Json::array();
+    for (const RunningProcess& each : processes)
+        result.push_back({{"id", each.id},
+                          {"path", each.path},
+                          {"milliseconds", OrNull(each.milliseconds)},
+                          {"exitCode", each.exitCode},
+                          {"foreign", each.foreign}});
+    return result;
+}
+
+/// What the computer is beside its adapters.
+void WriteSystem(const Scenario& scenario, Json& document)
+{
+    const Scenario usual;
+    if (scenario.power != usual.power)
+        document["power"] = WritePower(scenario.power);
+    PutUnless(document, "tokens", scenario.tokens, usual.tokens);
+    if (scenario.privileges != usual.privileges)
+        document["privileges"] = WritePrivileges(scenario.privileges);
+    PutUnless(document, "programPath", scenario.programPath, usual.programPath);
+    if (scenario.wow64 != usual.wow64)
+        document["wow64"] = OrNull(scenario.wow64);
+    if (!scenario.programs.empty())
+        document["programs"] = WritePrograms(scenario.programs);
+    if (!scenario.processes.empty())
+        document["processes"] = WriteProcesses(scenario.processes);
+    if (scenario.internet != usual.internet)
+        for (const InternetName& known : kInternetNames)
+            if (known.access == scenario.internet)
+                document["internet"] = known.name;
+}
+
 } // namespace
 
 std::string WriteScenario(const Scenario& scenario)
@@ -133,6 +255,7 @@ std::string WriteScenario(const Scenario& scenario)
         document["administrator"] = false;
     if (scenario.powerSetting != 0)
         document["powerSetting"] = Named(kPowerSettingNames, scenario.powerSetting);
+    WriteSystem(scenario, document);
     document["adapters"] = adapters;
     document["accessPoints"] = points;
     return document.dump(2) + "\n";

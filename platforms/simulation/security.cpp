@@ -1,29 +1,140 @@
 #include "simulation/security.h"
 
 #include "platform/records/error_numbers.h"
+#include "simulation/privileges.h"
+
+#include <cstddef>
 
 namespace calvix::simulation
 {
 
-BOOL SimulatedSecurity::Refuse()
+namespace
 {
-    m_lastError = ERROR_CALL_NOT_IMPLEMENTED;
+
+constexpr DWORD kNoSuchSystem = 1722;
+
+const HANDLE kCurrentProcess = reinterpret_cast<HANDLE>(~UINT_PTR{0});
+
+std::size_t SizeOfPrivileges(std::size_t count)
+{
+    return offsetof(TOKEN_PRIVILEGES, Privileges) + count * sizeof(LUID_AND_ATTRIBUTES);
+}
+
+} // namespace
+
+BOOL SimulatedSecurity::Fail(DWORD error)
+{
+    m_machine.lastError = error;
     return FALSE;
 }
 
-BOOL SimulatedSecurity::OpenProcessToken(HANDLE, DWORD, HANDLE*)
+BOOL SimulatedSecurity::OpenProcessToken(HANDLE process, DWORD access, HANDLE* token)
 {
-    return Refuse();
+    const std::lock_guard lock(m_machine.mutex);
+    if (!m_machine.tokens)
+        return Fail(ERROR_CALL_NOT_IMPLEMENTED);
+    if (token == nullptr)
+        return Fail(ERROR_INVALID_PARAMETER);
+    if (process != kCurrentProcess)
+    {
+        if (!m_machine.handles.Use(process, HandleKind::process, "OpenProcessToken"))
+            return Fail(ERROR_INVALID_HANDLE);
+        // Chosen: no other process's token is to be had.
+        return Fail(ERROR_ACCESS_DENIED);
+    }
+    *token = m_machine.handles.Open(HandleKind::token);
+    m_rights[*token] = access;
+    return TRUE;
 }
 
-BOOL SimulatedSecurity::LookupPrivilegeValueA(const char*, const char*, LUID*)
+BOOL SimulatedSecurity::LookupPrivilegeValueA(const char* system, const char* name, LUID* luid)
 {
-    return Refuse();
+    const std::lock_guard lock(m_machine.mutex);
+    if (!m_machine.tokens)
+        return Fail(ERROR_CALL_NOT_IMPLEMENTED);
+    if (name == nullptr || luid == nullptr)
+        return Fail(ERROR_INVALID_PARAMETER);
+    if (system != nullptr && *system != '\0')
+        return Fail(kNoSuchSystem);
+    const std::optional<LUID> known = PrivilegeLuid(name);
+    if (!known)
+        return Fail(ERROR_NO_SUCH_PRIVILEGE);
+    *luid = *known;
+    return TRUE;
 }
 
-BOOL SimulatedSecurity::AdjustTokenPrivileges(HANDLE, BOOL, TOKEN_PRIVILEGES*, DWORD, TOKEN_PRIVILEGES*, DWORD*)
+DWORD SimulatedSecurity::TokenError(HANDLE token, bool wantsPrevious)
 {
-    return Refuse();
+    if (!m_machine.tokens)
+        return ERROR_CALL_NOT_IMPLEMENTED;
+    if (!m_machine.handles.Use(token, HandleKind::token, "AdjustTokenPrivileges"))
+        return ERROR_INVALID_HANDLE;
+    const DWORD needed = TOKEN_ADJUST_PRIVILEGES | (wantsPrevious ? TOKEN_QUERY : 0);
+    return (m_rights[token] & needed) == needed ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;
+}
+
+SimulatedSecurity::Change SimulatedSecurity::PlanChange(const TOKEN_PRIVILEGES* newState) const
+{
+    Change change;
+    const std::vector<Privilege>& held = m_machine.privileges;
+    if (newState == nullptr)
+    {
+        for (std::size_t index = 0; index < held.size(); ++index)
+            change.enabled[index] = false;
+    }
+    for (DWORD entry = 0; newState != nullptr && entry < newState->PrivilegeCount; ++entry)
+    {
+        const LUID_AND_ATTRIBUTES& wanted = newState->Privileges[entry];
+        const std::string name = PrivilegeName(wanted.Luid);
+        std::size_t index = 0;
+        while (index < held.size() && held[index].name != name)
+            ++index;
+        if (index < held.size())
+            change.enabled[index] = (wanted.Attributes & SE_PRIVILEGE_ENABLED) != 0;
+        else
+            change.allHeld = false;
+    }
+    std::erase_if(change.enabled, [&held](const auto& each) { return held[each.first].enabled == each.second; });
+    return change;
+}
+
+void SimulatedSecurity::WritePrevious(const Change& change, TOKEN_PRIVILEGES& previous) const
+{
+    LUID_AND_ATTRIBUTES* entry = previous.Privileges;
+    for (const auto& [index, enabled] : change.enabled)
+    {
+        entry->Luid = *PrivilegeLuid(m_machine.privileges[index].name);
+        entry->Attributes = enabled ? 0 : SE_PRIVILEGE_ENABLED;
+        ++entry;
+    }
+    previous.PrivilegeCount = static_cast<DWORD>(change.enabled.size());
+}
+
+BOOL SimulatedSecurity::AdjustTokenPrivileges(HANDLE token,
+                                              BOOL disableAll,
+                                              TOKEN_PRIVILEGES* newState,
+                                              DWORD previousSize,
+                                              TOKEN_PRIVILEGES* previous,
+                                              DWORD* returnLength)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = TokenError(token, previous != nullptr); error != ERROR_SUCCESS)
+        return Fail(error);
+    if ((!disableAll && newState == nullptr) || (previous != nullptr && returnLength == nullptr))
+        return Fail(ERROR_INVALID_PARAMETER);
+    const Change change = PlanChange(disableAll ? nullptr : newState);
+    const std::size_t needed = SizeOfPrivileges(change.enabled.size());
+    if (previous != nullptr)
+    {
+        *returnLength = static_cast<DWORD>(needed);
+        if (previousSize < needed)
+            return Fail(ERROR_INSUFFICIENT_BUFFER);
+        WritePrevious(change, *previous);
+    }
+    for (const auto& [index, enabled] : change.enabled)
+        m_machine.privileges[index].enabled = enabled;
+    m_machine.lastError = change.allHeld ? ERROR_SUCCESS : ERROR_NOT_ALL_ASSIGNED;
+    return TRUE;
 }
 
 } // namespace calvix::simulation

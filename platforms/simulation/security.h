@@ -1,18 +1,20 @@
 #pragma once
 
 #include "platform/security.h"
-#include "simulation/last_error_cell.h"
+#include "simulation/machine.h"
+
+#include <map>
+#include <optional>
 
 namespace calvix::simulation
 {
 
-/// Tokens and privileges: this part of the machine is not furnished yet. Every operation fails with
-/// ERROR_CALL_NOT_IMPLEMENTED.
+/// The token of the programs that use the computer, and its privileges. All handles to it are handles to the same token.
 class SimulatedSecurity final : public platform::Security
 {
 public:
-    /// `lastError` receives the reason of a failure; it outlives this object.
-    explicit SimulatedSecurity(LastErrorCell& lastError) : m_lastError(lastError) {}
+    /// `machine` outlives this object.
+    explicit SimulatedSecurity(Machine& machine) : m_machine(machine) {}
 
     BOOL OpenProcessToken(HANDLE process, DWORD access, HANDLE* token) override;
     BOOL LookupPrivilegeValueA(const char* system, const char* name, LUID* luid) override;
@@ -24,9 +26,20 @@ public:
                                DWORD* returnLength) override;
 
 private:
-    BOOL Refuse();
+    /// What becomes of the privileges: their switches as they are to stand, and whether one was named that is not held.
+    struct Change
+    {
+        std::map<std::size_t, bool> enabled; ///< by position, only those that change
+        bool allHeld = true;
+    };
 
-    LastErrorCell& m_lastError;
+    BOOL Fail(DWORD error);
+    DWORD TokenError(HANDLE token, bool wantsPrevious);
+    Change PlanChange(const TOKEN_PRIVILEGES* newState) const;
+    void WritePrevious(const Change& change, TOKEN_PRIVILEGES& previous) const;
+
+    Machine& m_machine;
+    std::map<HANDLE, DWORD> m_rights; ///< by token handle, which never comes again
 };
 
 } // namespace calvix::simulation

@@ -1,6 +1,9 @@
 #include "simulation/service_control.h"
 
 #include "platform/records/error_numbers.h"
+#include "simulation/ascii_case.h"
+
+#include <cstring>
 
 namespace calvix::simulation
 {
@@ -10,21 +13,18 @@ namespace
 
 constexpr DWORD kNoSuchMachine = 1722;
 constexpr DWORD kNoSuchDatabase = 1065;
+constexpr DWORD kInvalidName = 123;
+constexpr DWORD kInvalidAddress = 487;
 constexpr DWORD kAcceptsStopAndShutdown = 0x00000001 | 0x00000004;
-
-/// The manager compares names without regard to case.
-bool SameName(const char* left, const char* right)
-{
-    const auto lower = [](char character)
-    { return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 32) : character; };
-    for (; *left != '\0' && lower(*left) == lower(*right); ++left, ++right)
-        ;
-    return lower(*left) == lower(*right);
-}
 
 bool GivenAndNot(const char* name, const char* expected)
 {
-    return name != nullptr && *name != '\0' && !SameName(name, expected);
+    return name != nullptr && *name != '\0' && !SameButForCase(name, expected);
+}
+
+bool CanBeServiceName(const char* name)
+{
+    return *name != '\0' && std::strpbrk(name, "/\\") == nullptr;
 }
 
 } // namespace
@@ -44,31 +44,27 @@ SC_HANDLE SimulatedServiceControl::OpenSCManagerA(const char* machine, const cha
     }
     if (GivenAndNot(database, "ServicesActive"))
     {
-        Fail(kNoSuchDatabase);
+        Fail(SameButForCase(database, "ServicesFailed") ? kNoSuchDatabase : kInvalidName);
         return nullptr;
     }
     return static_cast<SC_HANDLE>(m_handles.Open(HandleKind::serviceManager));
 }
 
-SC_HANDLE SimulatedServiceControl::OpenServiceA(SC_HANDLE manager, const char* name, DWORD)
+SC_HANDLE SimulatedServiceControl::OpenServiceA(SC_HANDLE manager, const char* name, DWORD access)
 {
     if (!m_handles.Use(manager, HandleKind::serviceManager, "OpenServiceA"))
     {
         Fail(ERROR_INVALID_HANDLE);
         return nullptr;
     }
-    // Of a missing name the record says nothing; this machine calls it an invalid argument.
-    if (name == nullptr)
+    if (name == nullptr || !CanBeServiceName(name) || !SameButForCase(name, "WlanSvc"))
     {
-        Fail(ERROR_INVALID_PARAMETER);
+        Fail(name == nullptr ? kInvalidAddress : !CanBeServiceName(name) ? kInvalidName : ERROR_SERVICE_DOES_NOT_EXIST);
         return nullptr;
     }
-    if (!SameName(name, "WlanSvc"))
-    {
-        Fail(ERROR_SERVICE_DOES_NOT_EXIST);
-        return nullptr;
-    }
-    return static_cast<SC_HANDLE>(m_handles.Open(HandleKind::service));
+    const SC_HANDLE service = static_cast<SC_HANDLE>(m_handles.Open(HandleKind::service));
+    m_access.emplace(service, access);
+    return service;
 }
 
 BOOL SimulatedServiceControl::QueryServiceStatus(SC_HANDLE service, SERVICE_STATUS* status)
@@ -76,7 +72,9 @@ BOOL SimulatedServiceControl::QueryServiceStatus(SC_HANDLE service, SERVICE_STAT
     if (!m_handles.Use(service, HandleKind::service, "QueryServiceStatus"))
         return Fail(ERROR_INVALID_HANDLE);
     if (status == nullptr)
-        return Fail(ERROR_INVALID_PARAMETER);
+        return Fail(kInvalidAddress);
+    if (!MayDo(service, SERVICE_QUERY_STATUS))
+        return Fail(ERROR_ACCESS_DENIED);
     *status = SERVICE_STATUS{};
     status->dwServiceType = SERVICE_WIN32_OWN_PROCESS;
     status->dwCurrentState = m_serviceRunning ? SERVICE_RUNNING : SERVICE_STOPPED;
@@ -88,6 +86,8 @@ BOOL SimulatedServiceControl::StartServiceA(SC_HANDLE service, DWORD, const char
 {
     if (!m_handles.Use(service, HandleKind::service, "StartServiceA"))
         return Fail(ERROR_INVALID_HANDLE);
+    if (!MayDo(service, SERVICE_START))
+        return Fail(ERROR_ACCESS_DENIED);
     if (m_serviceRunning)
         return Fail(ERROR_SERVICE_ALREADY_RUNNING);
     m_serviceRunning = true;
@@ -98,7 +98,14 @@ BOOL SimulatedServiceControl::CloseServiceHandle(SC_HANDLE handle)
 {
     const HandleKind kind =
         m_handles.IsOpen(handle, HandleKind::serviceManager) ? HandleKind::serviceManager : HandleKind::service;
+    m_access.erase(handle);
     return m_handles.Close(handle, kind, "CloseServiceHandle") ? TRUE : Fail(ERROR_INVALID_HANDLE);
+}
+
+bool SimulatedServiceControl::MayDo(SC_HANDLE service, DWORD right) const
+{
+    const auto access = m_access.find(service);
+    return access != m_access.end() && (access->second & right) != 0;
 }
 
 } // namespace calvix::simulation

@@ -4,10 +4,13 @@
 #include "simulation/handles.h"
 #include "simulation/last_error_cell.h"
 
+#include <map>
+
 namespace calvix::simulation
 {
 
-/// A service manager that knows one service, WlanSvc. Everybody has every right to it.
+/// A service manager that knows one service, WlanSvc. Everybody gets every right to it that is asked for by its own name;
+/// generic rights stand for none here.
 class SimulatedServiceControl final : public platform::ServiceControl
 {
 public:
@@ -26,10 +29,13 @@ public:
 
 private:
     BOOL Fail(DWORD error);
+    /// Whether the handle was opened for this.
+    bool MayDo(SC_HANDLE service, DWORD right) const;
 
     LastErrorCell& m_lastError;
     Handles& m_handles;
     bool& m_serviceRunning;
+    std::map<SC_HANDLE, DWORD> m_access; ///< of the services' handles
 };
 
 } // namespace calvix::simulation

@@ -16,6 +16,7 @@ namespace
 
 constexpr std::uint32_t kLatin1 = 1252;
 constexpr std::uint32_t kLatin1Oem = 437;
+constexpr std::uint32_t kShiftJis = 932;
 constexpr UINT kThreadCodePage = 3;
 
 /// The text that a source and a length stand for; a negative length includes the terminator.
@@ -35,15 +36,58 @@ bool AreArgumentsValid(const Source* source, int sourceLength, const Target* des
            static_cast<const void*>(source) != static_cast<const void*>(destination);
 }
 
-/// Hands out `text`, or its size to who came without room; ERROR_INSUFFICIENT_BUFFER gets what fits all the same.
+/// Whether a byte begins a character of two in one of the code pages that have such.
+bool IsLeadByte(std::uint32_t codePage, std::uint8_t byte)
+{
+    if (codePage == kShiftJis)
+        return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+    return (codePage == 936 || codePage == 949 || codePage == 950) && byte >= 0x81 && byte <= 0xFE;
+}
+
+/// How many elements of the character at `position` follow its first.
+std::size_t FollowingElements(std::uint32_t, std::wstring_view text, std::size_t position)
+{
+    const auto element = static_cast<char32_t>(text[position]);
+    return sizeof(wchar_t) == 2 && element >= 0xD800 && element < 0xDC00 ? 1 : 0;
+}
+
+std::size_t FollowingElements(std::uint32_t codePage, std::string_view text, std::size_t position)
+{
+    const auto byte = static_cast<std::uint8_t>(text[position]);
+    if (codePage == CP_UTF8)
+        return byte < 0xC0 ? 0 : byte < 0xE0 ? 1 : byte < 0xF0 ? 2 : 3;
+    return IsLeadByte(codePage, byte) ? 1 : 0;
+}
+
+/// The size of the whole characters at the beginning of `text` that take no more than `room`.
 template <typename Character>
-DWORD Deliver(const std::basic_string<Character>& text, Character* destination, int room, int& size)
+std::size_t SizeOfWholeCharacters(std::uint32_t codePage, const std::basic_string<Character>& text, std::size_t room)
+{
+    std::size_t size = 0;
+    while (size < text.size())
+    {
+        const std::size_t next = size + 1 + FollowingElements(codePage, text, size);
+        if (next > room)
+            break;
+        size = next;
+    }
+    return size;
+}
+
+/// Hands out `text`, or its size to who came without room; ERROR_INSUFFICIENT_BUFFER gets the characters that fit all
+/// the same.
+template <typename Character>
+DWORD Deliver(
+    std::uint32_t codePage, const std::basic_string<Character>& text, Character* destination, int room, int& size)
 {
     size = static_cast<int>(text.size());
     if (room == 0)
         return ERROR_SUCCESS;
-    std::copy_n(text.data(), std::min(size, room), destination);
-    return size <= room ? ERROR_SUCCESS : ERROR_INSUFFICIENT_BUFFER;
+    const bool isEnough = size <= room;
+    std::copy_n(text.data(),
+                isEnough ? text.size() : SizeOfWholeCharacters(codePage, text, static_cast<std::size_t>(room)),
+                destination);
+    return isEnough ? ERROR_SUCCESS : ERROR_INSUFFICIENT_BUFFER;
 }
 
 DWORD RefusedDecodingFlags(std::uint32_t codePage, DWORD flags)
@@ -101,7 +145,7 @@ int SimulatedText::MultiByteToWideChar(
     if (illFormed && (flags & MB_ERR_INVALID_CHARS) != 0)
         return Fail(ERROR_NO_UNICODE_TRANSLATION);
     int size = 0;
-    const DWORD error = Deliver(text, destination, destinationLength, size);
+    const DWORD error = Deliver(actual, text, destination, destinationLength, size);
     return error == ERROR_SUCCESS ? size : Fail(error);
 }
 
@@ -136,7 +180,7 @@ int SimulatedText::WideCharToMultiByte(UINT codePage,
     if (usedDefaultCharacter != nullptr)
         *usedDefaultCharacter = replaced ? TRUE : FALSE;
     int size = 0;
-    const DWORD error = Deliver(bytes, destination, destinationLength, size);
+    const DWORD error = Deliver(actual, bytes, destination, destinationLength, size);
     return error == ERROR_SUCCESS ? size : Fail(error);
 }
 

@@ -6,7 +6,7 @@
 namespace calvix::wrappers
 {
 
-class InterceptedPower final : public platform::Power
+class InterceptedPower : public platform::Power
 {
 public:
     InterceptedPower(platform::Power& inner, InterceptionPoint& point) : m_inner(inner), m_point(point) {}

@@ -27,7 +27,7 @@ private:
     InterceptionPoint& m_point;
 };
 
-class InterceptedProcesses final : public platform::Processes
+class InterceptedProcesses : public platform::Processes
 {
 public:
     InterceptedProcesses(platform::Processes& inner, InterceptionPoint& point) : m_inner(inner), m_point(point) {}

@@ -158,7 +158,8 @@ TEST(ScenarioGallery, HoldsWhatTheDocumentationSays)
     const std::set<std::string> expected{"home.json",         "office.json",          "airport.json",
                                          "no-adapter.json",   "service-stopped.json", "consent-denied.json",
                                          "two-adapters.json", "office-walk.json",     "train.json",
-                                         "radio-off.json",    "airport-hotspot.json", "automatic.json"};
+                                         "radio-off.json",    "airport-hotspot.json", "automatic.json",
+                                         "laptop.json"};
     EXPECT_EQ(std::set<std::string>(names.begin(), names.end()), expected);
 }
 
