@@ -16,7 +16,7 @@ struct InternetExports
     OptionalExport<decltype(&::InternetCheckConnectionA)> InternetCheckConnectionA{library, "InternetCheckConnectionA"};
 };
 
-const InternetExports& Exports()
+const InternetExports& InternetLibrary()
 {
     static const InternetExports exports;
     return exports;
@@ -26,12 +26,12 @@ const InternetExports& Exports()
 
 BOOL Internet::InternetSetOptionA(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize)
 {
-    return Exports().InternetSetOptionA(internet, option, buffer, bufferSize);
+    return InternetLibrary().InternetSetOptionA(internet, option, buffer, bufferSize);
 }
 
 BOOL Internet::InternetCheckConnectionA(const char* url, DWORD flags, DWORD reserved)
 {
-    return Exports().InternetCheckConnectionA(url, flags, reserved);
+    return InternetLibrary().InternetCheckConnectionA(url, flags, reserved);
 }
 
 } // namespace calvix::windows

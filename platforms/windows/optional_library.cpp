@@ -1,5 +1,7 @@
 #include "windows/optional_library.h"
 
+#include "windows/wine_stubs.h"
+
 namespace calvix::windows
 {
 
@@ -18,6 +20,11 @@ FARPROC OptionalLibrary::Find(const char* exportName, DWORD& error) const
     }
     const FARPROC address = ::GetProcAddress(module_, exportName);
     error = address == nullptr ? ::GetLastError() : ERROR_SUCCESS;
+    if (address != nullptr && IsWineStub(address, exportName))
+    {
+        error = ERROR_CALL_NOT_IMPLEMENTED;
+        return nullptr;
+    }
     return address;
 }
 

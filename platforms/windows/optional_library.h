@@ -14,8 +14,9 @@ class OptionalLibrary
 public:
     explicit OptionalLibrary(const wchar_t* fileName);
 
-    /// The export's address, or null with the reason in `error` [out]: ERROR_PROC_NOT_FOUND, or what kept the library
-    /// from being loaded (ERROR_MOD_NOT_FOUND when there is none).
+    /// The export's address, or null with the reason in `error` [out]: ERROR_PROC_NOT_FOUND, what kept the library from
+    /// being loaded (ERROR_MOD_NOT_FOUND when there is none), or ERROR_CALL_NOT_IMPLEMENTED for what Wine exports
+    /// without having written it.
     FARPROC Find(const char* exportName, DWORD& error) const;
 
 private:

@@ -34,7 +34,7 @@ struct PowerExports
     OptionalExport<decltype(&::SetSuspendState)> SetSuspendState{library, "SetSuspendState"};
 };
 
-const PowerExports& Exports()
+const PowerExports& PowerLibrary()
 {
     static const PowerExports exports;
     return exports;
@@ -45,28 +45,28 @@ const PowerExports& Exports()
 NTSTATUS Power::CallNtPowerInformation(
     POWER_INFORMATION_LEVEL level, PVOID input, ULONG inputSize, PVOID output, ULONG outputSize)
 {
-    return Exports().CallNtPowerInformation(level, input, inputSize, output, outputSize);
+    return PowerLibrary().CallNtPowerInformation(level, input, inputSize, output, outputSize);
 }
 
 BOOLEAN Power::GetActivePwrScheme(UINT* schemeId)
 {
-    return Exports().GetActivePwrScheme(schemeId);
+    return PowerLibrary().GetActivePwrScheme(schemeId);
 }
 
 BOOLEAN Power::ReadPwrScheme(UINT schemeId, POWER_POLICY* policy)
 {
-    return Exports().ReadPwrScheme(schemeId, policy);
+    return PowerLibrary().ReadPwrScheme(schemeId, policy);
 }
 
 BOOLEAN
 Power::WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t* description, POWER_POLICY* policy)
 {
-    return Exports().WritePwrScheme(schemeId, name, description, policy);
+    return PowerLibrary().WritePwrScheme(schemeId, name, description, policy);
 }
 
 BOOLEAN Power::SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY* globalPolicy, POWER_POLICY* policy)
 {
-    return Exports().SetActivePwrScheme(schemeId, globalPolicy, policy);
+    return PowerLibrary().SetActivePwrScheme(schemeId, globalPolicy, policy);
 }
 
 DWORD Power::PowerEnumerate(HKEY root,
@@ -77,60 +77,60 @@ DWORD Power::PowerEnumerate(HKEY root,
                             UCHAR* buffer,
                             DWORD* bufferSize)
 {
-    return Exports().PowerEnumerate(root, scheme, subgroup, access, index, buffer, bufferSize);
+    return PowerLibrary().PowerEnumerate(root, scheme, subgroup, access, index, buffer, bufferSize);
 }
 
 DWORD Power::PowerReadFriendlyName(
     HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD* bufferSize)
 {
-    return Exports().PowerReadFriendlyName(root, scheme, subgroup, setting, buffer, bufferSize);
+    return PowerLibrary().PowerReadFriendlyName(root, scheme, subgroup, setting, buffer, bufferSize);
 }
 
 DWORD Power::PowerGetActiveScheme(HKEY root, GUID** scheme)
 {
-    return Exports().PowerGetActiveScheme(root, scheme);
+    return PowerLibrary().PowerGetActiveScheme(root, scheme);
 }
 
 DWORD Power::PowerDuplicateScheme(HKEY root, const GUID* source, GUID** duplicate)
 {
-    return Exports().PowerDuplicateScheme(root, source, duplicate);
+    return PowerLibrary().PowerDuplicateScheme(root, source, duplicate);
 }
 
 DWORD Power::PowerWriteFriendlyName(
     HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD bufferSize)
 {
-    return Exports().PowerWriteFriendlyName(root, scheme, subgroup, setting, buffer, bufferSize);
+    return PowerLibrary().PowerWriteFriendlyName(root, scheme, subgroup, setting, buffer, bufferSize);
 }
 
 DWORD Power::PowerWriteACValueIndex(
     HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, DWORD value)
 {
-    return Exports().PowerWriteACValueIndex(root, scheme, subgroup, setting, value);
+    return PowerLibrary().PowerWriteACValueIndex(root, scheme, subgroup, setting, value);
 }
 
 DWORD Power::PowerSetActiveScheme(HKEY root, const GUID* scheme)
 {
-    return Exports().PowerSetActiveScheme(root, scheme);
+    return PowerLibrary().PowerSetActiveScheme(root, scheme);
 }
 
 BOOLEAN Power::IsPwrSuspendAllowed()
 {
-    return Exports().IsPwrSuspendAllowed();
+    return PowerLibrary().IsPwrSuspendAllowed();
 }
 
 BOOLEAN Power::IsPwrHibernateAllowed()
 {
-    return Exports().IsPwrHibernateAllowed();
+    return PowerLibrary().IsPwrHibernateAllowed();
 }
 
 BOOLEAN Power::IsPwrShutdownAllowed()
 {
-    return Exports().IsPwrShutdownAllowed();
+    return PowerLibrary().IsPwrShutdownAllowed();
 }
 
 BOOLEAN Power::SetSuspendState(BOOLEAN hibernate, BOOLEAN force, BOOLEAN wakeupEventsDisabled)
 {
-    return Exports().SetSuspendState(hibernate, force, wakeupEventsDisabled);
+    return PowerLibrary().SetSuspendState(hibernate, force, wakeupEventsDisabled);
 }
 
 BOOL Power::IsSystemResumeAutomatic()

@@ -1,9 +1,29 @@
 #include "windows/text.h"
 
+#include "windows/optional_library.h"
+
 #include <objbase.h>
 
 namespace calvix::windows
 {
+
+namespace
+{
+
+/// Every Windows has ole32.dll, but it brings a dozen others, and only the listings write a GUID.
+struct GuidTextExports
+{
+    OptionalLibrary library{L"ole32.dll"};
+    OptionalExport<decltype(&::StringFromGUID2)> StringFromGUID2{library, "StringFromGUID2"};
+};
+
+const GuidTextExports& GuidTextLibrary()
+{
+    static const GuidTextExports exports;
+    return exports;
+}
+
+} // namespace
 
 int Text::MultiByteToWideChar(
     UINT codePage, DWORD flags, const char* source, int sourceLength, wchar_t* destination, int destinationLength)
@@ -26,7 +46,7 @@ int Text::WideCharToMultiByte(UINT codePage,
 
 int Text::StringFromGUID2(const GUID& guid, wchar_t* text, int capacity)
 {
-    return ::StringFromGUID2(guid, text, capacity);
+    return GuidTextLibrary().StringFromGUID2(guid, text, capacity);
 }
 
 } // namespace calvix::windows

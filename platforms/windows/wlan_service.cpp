@@ -37,7 +37,7 @@ struct WlanExports
     OptionalExport<decltype(&::WlanFreeMemory)> WlanFreeMemory{library, "WlanFreeMemory"};
 };
 
-const WlanExports& Exports()
+const WlanExports& WlanLibrary()
 {
     static const WlanExports exports;
     return exports;
@@ -55,29 +55,29 @@ Record* Input(const Record* record)
 
 DWORD WlanService::WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client)
 {
-    return Exports().WlanOpenHandle(clientVersion, reserved, negotiatedVersion, client);
+    return WlanLibrary().WlanOpenHandle(clientVersion, reserved, negotiatedVersion, client);
 }
 
 DWORD WlanService::WlanCloseHandle(HANDLE client, PVOID reserved)
 {
-    return Exports().WlanCloseHandle(client, reserved);
+    return WlanLibrary().WlanCloseHandle(client, reserved);
 }
 
 DWORD WlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list)
 {
-    return Exports().WlanEnumInterfaces(client, reserved, list);
+    return WlanLibrary().WlanEnumInterfaces(client, reserved, list);
 }
 
 DWORD WlanService::WlanScan(
     HANDLE client, const GUID* interfaceGuid, const DOT11_SSID* ssid, const WLAN_RAW_DATA* ieData, PVOID reserved)
 {
-    return Exports().WlanScan(client, interfaceGuid, Input(ssid), Input(ieData), reserved);
+    return WlanLibrary().WlanScan(client, interfaceGuid, Input(ssid), Input(ieData), reserved);
 }
 
 DWORD WlanService::WlanGetAvailableNetworkList(
     HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list)
 {
-    return Exports().WlanGetAvailableNetworkList(client, interfaceGuid, flags, reserved, list);
+    return WlanLibrary().WlanGetAvailableNetworkList(client, interfaceGuid, flags, reserved, list);
 }
 
 DWORD WlanService::WlanGetNetworkBssList(HANDLE client,
@@ -88,8 +88,8 @@ DWORD WlanService::WlanGetNetworkBssList(HANDLE client,
                                          PVOID reserved,
                                          WLAN_BSS_LIST** list)
 {
-    return Exports().WlanGetNetworkBssList(client, interfaceGuid, Input(ssid), bssType, securityEnabled, reserved,
-                                           list);
+    return WlanLibrary().WlanGetNetworkBssList(client, interfaceGuid, Input(ssid), bssType, securityEnabled, reserved,
+                                               list);
 }
 
 DWORD WlanService::WlanQueryInterface(HANDLE client,
@@ -100,13 +100,13 @@ DWORD WlanService::WlanQueryInterface(HANDLE client,
                                       PVOID* data,
                                       WLAN_OPCODE_VALUE_TYPE* valueType)
 {
-    return Exports().WlanQueryInterface(client, interfaceGuid, opcode, reserved, dataSize, data, valueType);
+    return WlanLibrary().WlanQueryInterface(client, interfaceGuid, opcode, reserved, dataSize, data, valueType);
 }
 
 DWORD WlanService::WlanSetInterface(
     HANDLE client, const GUID* interfaceGuid, WLAN_INTF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved)
 {
-    return Exports().WlanSetInterface(client, interfaceGuid, opcode, dataSize, Input(data), reserved);
+    return WlanLibrary().WlanSetInterface(client, interfaceGuid, opcode, dataSize, Input(data), reserved);
 }
 
 DWORD WlanService::WlanQueryAutoConfigParameter(HANDLE client,
@@ -116,7 +116,7 @@ DWORD WlanService::WlanQueryAutoConfigParameter(HANDLE client,
                                                 PVOID* data,
                                                 WLAN_OPCODE_VALUE_TYPE* valueType)
 {
-    return Exports().WlanQueryAutoConfigParameter(client, opcode, reserved, dataSize, data, valueType);
+    return WlanLibrary().WlanQueryAutoConfigParameter(client, opcode, reserved, dataSize, data, valueType);
 }
 
 DWORD WlanService::WlanGetProfileList(HANDLE client,
@@ -124,7 +124,7 @@ DWORD WlanService::WlanGetProfileList(HANDLE client,
                                       PVOID reserved,
                                       WLAN_PROFILE_INFO_LIST** list)
 {
-    return Exports().WlanGetProfileList(client, interfaceGuid, reserved, list);
+    return WlanLibrary().WlanGetProfileList(client, interfaceGuid, reserved, list);
 }
 
 DWORD WlanService::WlanGetProfile(HANDLE client,
@@ -135,7 +135,7 @@ DWORD WlanService::WlanGetProfile(HANDLE client,
                                   DWORD* flags,
                                   DWORD* grantedAccess)
 {
-    return Exports().WlanGetProfile(client, interfaceGuid, name, reserved, xml, flags, grantedAccess);
+    return WlanLibrary().WlanGetProfile(client, interfaceGuid, name, reserved, xml, flags, grantedAccess);
 }
 
 DWORD WlanService::WlanSetProfile(HANDLE client,
@@ -147,19 +147,19 @@ DWORD WlanService::WlanSetProfile(HANDLE client,
                                   PVOID reserved,
                                   DWORD* reasonCode)
 {
-    return Exports().WlanSetProfile(client, interfaceGuid, flags, xml, allUserProfileSecurity, overwrite, reserved,
-                                    reasonCode);
+    return WlanLibrary().WlanSetProfile(client, interfaceGuid, flags, xml, allUserProfileSecurity, overwrite, reserved,
+                                        reasonCode);
 }
 
 DWORD WlanService::WlanDeleteProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved)
 {
-    return Exports().WlanDeleteProfile(client, interfaceGuid, name, reserved);
+    return WlanLibrary().WlanDeleteProfile(client, interfaceGuid, name, reserved);
 }
 
 DWORD WlanService::WlanSetProfilePosition(
     HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD position, PVOID reserved)
 {
-    return Exports().WlanSetProfilePosition(client, interfaceGuid, name, position, reserved);
+    return WlanLibrary().WlanSetProfilePosition(client, interfaceGuid, name, position, reserved);
 }
 
 DWORD WlanService::WlanConnect(HANDLE client,
@@ -167,12 +167,12 @@ DWORD WlanService::WlanConnect(HANDLE client,
                                const WLAN_CONNECTION_PARAMETERS* parameters,
                                PVOID reserved)
 {
-    return Exports().WlanConnect(client, interfaceGuid, Input(parameters), reserved);
+    return WlanLibrary().WlanConnect(client, interfaceGuid, Input(parameters), reserved);
 }
 
 DWORD WlanService::WlanDisconnect(HANDLE client, const GUID* interfaceGuid, PVOID reserved)
 {
-    return Exports().WlanDisconnect(client, interfaceGuid, reserved);
+    return WlanLibrary().WlanDisconnect(client, interfaceGuid, reserved);
 }
 
 DWORD WlanService::WlanRegisterNotification(HANDLE client,
@@ -183,8 +183,8 @@ DWORD WlanService::WlanRegisterNotification(HANDLE client,
                                             PVOID reserved,
                                             DWORD* previousSource)
 {
-    return Exports().WlanRegisterNotification(client, source, ignoreDuplicate, callback, context, reserved,
-                                              previousSource);
+    return WlanLibrary().WlanRegisterNotification(client, source, ignoreDuplicate, callback, context, reserved,
+                                                  previousSource);
 }
 
 DWORD WlanService::WlanIhvControl(HANDLE client,
@@ -196,22 +196,23 @@ DWORD WlanService::WlanIhvControl(HANDLE client,
                                   PVOID output,
                                   DWORD* bytesReturned)
 {
-    return Exports().WlanIhvControl(client, interfaceGuid, type, inputSize, input, outputSize, output, bytesReturned);
+    return WlanLibrary().WlanIhvControl(client, interfaceGuid, type, inputSize, input, outputSize, output,
+                                        bytesReturned);
 }
 
 DWORD WlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl)
 {
-    return Exports().WlanSetSecuritySettings(client, object, sddl);
+    return WlanLibrary().WlanSetSecuritySettings(client, object, sddl);
 }
 
 DWORD WlanService::WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, wchar_t* buffer, PVOID reserved)
 {
-    return Exports().WlanReasonCodeToString(reasonCode, bufferSize, buffer, reserved);
+    return WlanLibrary().WlanReasonCodeToString(reasonCode, bufferSize, buffer, reserved);
 }
 
 void WlanService::WlanFreeMemory(PVOID memory)
 {
-    Exports().WlanFreeMemory(memory);
+    WlanLibrary().WlanFreeMemory(memory);
 }
 
 } // namespace calvix::windows

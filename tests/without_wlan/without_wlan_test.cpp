@@ -1,51 +1,58 @@
 // A computer without wlanapi.dll: a Windows Server on which nobody has added the wireless feature.
 
-#include <calvix/wireless_manage.h>
+#include "without_wlan/method_case.h"
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
+namespace calvix::test::without_wlan_test
+{
 namespace
 {
 
-constexpr GUID kInterface = {0xcafe0001, 0x0002, 0x0003, {4, 5, 6, 7, 8, 9, 10, 11}};
+using every_method::MethodCase;
 
-TEST(WithoutWlan, ThereIsNoWlanLibraryHere)
+class WithoutWlan : public every_method::OnWine
+{
+};
+
+class EveryMethodWithoutWlan : public WithoutWlan, public testing::WithParamInterface<MethodCase>
+{
+};
+
+TEST_F(WithoutWlan, ThereIsNoWlanLibraryHere)
 {
     EXPECT_EQ(::LoadLibraryW(L"wlanapi.dll"), nullptr);
     EXPECT_EQ(::GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
 }
 
-TEST(WithoutWlan, TheManagerIsThereAllTheSame)
+TEST_F(WithoutWlan, EveryExportedMethodIsCalled)
+{
+    std::vector<std::string> called;
+    for (const MethodCase& method : every_method::AllMethods())
+        called.push_back(method.declaration);
+    EXPECT_THAT(called, testing::UnorderedElementsAreArray(every_method::ExportedMethods()));
+}
+
+TEST_P(EveryMethodWithoutWlan, ReportsAClientThatCannotBeOpened)
 {
     CWirelessManage* const manager = CWirelessManage::Get();
     ASSERT_NE(manager, nullptr);
-    EXPECT_STREQ(manager->GetWlanInterfaceState(1), "connected");
-    EXPECT_EQ(manager->GetSignalStrength(-75), 50);
+    EXPECT_THAT(GetParam().call(*manager), GetParam().withoutWlan);
 }
 
-TEST(WithoutWlan, MethodsReportAClientThatCannotBeOpened)
-{
-    CWirelessManage* const manager = CWirelessManage::Get();
-    std::vector<WLAN_INTERFACE_INFO> adapters;
-    EXPECT_EQ(manager->GetWiFiAdapterCount(), -2);
-    EXPECT_EQ(manager->GetWlanInterface(&adapters), -1);
-    EXPECT_EQ(manager->GetWlanStatus(&kInterface), -2);
-    EXPECT_EQ(manager->Rescan(), -1);
-    EXPECT_EQ(manager->GetAvailableNetworkCount(&kInterface), -2);
-    EXPECT_EQ(manager->GetProfileCount(&kInterface), -1);
-    EXPECT_EQ(manager->GetWlanProfile(&kInterface, "home"), ERROR_MOD_NOT_FOUND);
-}
+INSTANTIATE_TEST_SUITE_P(All,
+                         EveryMethodWithoutWlan,
+                         testing::ValuesIn(every_method::AllMethods()),
+                         every_method::TestName);
 
-TEST(WithoutWlan, ARefusalNamesTheMissingLibrary)
+TEST_F(WithoutWlan, ARefusalNamesTheMissingLibrary)
 {
     unsigned long error = 0;
-    EXPECT_EQ(CWirelessManage::Get()->Rescan(&kInterface, error), -1);
+    EXPECT_EQ(CWirelessManage::Get()->Rescan(&every_method::kAdapter, error), -1);
     EXPECT_EQ(error, static_cast<unsigned long>(ERROR_MOD_NOT_FOUND));
 }
 
-TEST(WithoutWlan, DeleteHasNothingToClose)
+TEST_F(WithoutWlan, DeleteHasNothingToClose)
 {
     CWirelessManage::Get();
     CWirelessManage::Delete();
@@ -54,3 +61,4 @@ TEST(WithoutWlan, DeleteHasNothingToClose)
 }
 
 } // namespace
+} // namespace calvix::test::without_wlan_test

@@ -1,0 +1,6 @@
+// Something to start: ends at once.
+
+int main()
+{
+    return 0;
+}

@@ -1,0 +1,79 @@
+#include "without_wlan/library_sleep.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace calvix::test::every_method
+{
+
+namespace
+{
+
+DWORD sleptMilliseconds = 0;
+
+void WINAPI CountSleep(DWORD milliseconds)
+{
+    sleptMilliseconds += milliseconds;
+}
+
+template <typename Record>
+Record* At(unsigned char* image, ULONG_PTR offset)
+{
+    return reinterpret_cast<Record*>(image + offset);
+}
+
+/// Where calvix.dll keeps the address of the Sleep that it calls.
+ULONG_PTR* FindSleepImport()
+{
+    auto* const image = reinterpret_cast<unsigned char*>(::GetModuleHandleW(L"calvix.dll"));
+    const auto* const header =
+        At<IMAGE_NT_HEADERS64>(image, static_cast<ULONG_PTR>(At<IMAGE_DOS_HEADER>(image, 0)->e_lfanew));
+    const DWORD imports = header->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
+    for (auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(image, imports); library->FirstThunk != 0; ++library)
+    {
+        auto* name = At<IMAGE_THUNK_DATA64>(image, library->OriginalFirstThunk);
+        auto* address = At<ULONG_PTR>(image, library->FirstThunk);
+        for (; name->u1.AddressOfData != 0; ++name, ++address)
+            if (!IMAGE_SNAP_BY_ORDINAL64(name->u1.Ordinal) &&
+                std::strcmp(At<IMAGE_IMPORT_BY_NAME>(image, name->u1.AddressOfData)->Name, "Sleep") == 0)
+                return address;
+    }
+    return nullptr;
+}
+
+ULONG_PTR Exchange(ULONG_PTR address)
+{
+    ULONG_PTR* const import = FindSleepImport();
+    if (import == nullptr)
+    {
+        ADD_FAILURE() << "calvix.dll does not import Sleep";
+        return address;
+    }
+    const ULONG_PTR former = *import;
+    DWORD protection = 0;
+    ::VirtualProtect(import, sizeof(*import), PAGE_READWRITE, &protection);
+    *import = address;
+    ::VirtualProtect(import, sizeof(*import), protection, &protection);
+    return former;
+}
+
+} // namespace
+
+LibrarySleep::LibrarySleep()
+{
+    sleptMilliseconds = 0;
+    original_ = Exchange(reinterpret_cast<ULONG_PTR>(CountSleep));
+}
+
+LibrarySleep::~LibrarySleep()
+{
+    Exchange(original_);
+}
+
+DWORD LibrarySleep::Milliseconds() const
+{
+    return sleptMilliseconds;
+}
+
+} // namespace calvix::test::every_method
