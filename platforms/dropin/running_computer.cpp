@@ -1,0 +1,67 @@
+#include "dropin/running_computer.h"
+
+#include "dropin/module.h"
+#include "dropin/real_time.h"
+#include "dropin/settings.h"
+#include "simulation/computer.h"
+#include "simulation/utf8.h"
+
+#include <windows.h>
+
+#include <cstdio>
+#include <exception>
+#include <memory>
+#include <string>
+
+namespace calvix::dropin
+{
+
+namespace
+{
+
+struct RunningComputer
+{
+    explicit RunningComputer(const Settings& settings) : computer(settings.scenario), time(computer, settings.speed) {}
+
+    simulation::Computer computer;
+    RealTime time;
+};
+
+void Report(const char* problem)
+{
+    const std::string line = "wlanapi.dll of Calvix: " + std::string(problem) + "\n";
+    std::fputs(line.c_str(), stderr);
+    std::fflush(stderr);
+    ::OutputDebugStringW(simulation::WideFromUtf8(line).c_str());
+}
+
+// Nobody destroys it: its threads run until the process ends, and end with it wherever they are.
+RunningComputer* Start()
+{
+    try
+    {
+        auto running = std::make_unique<RunningComputer>(ReadSettings(PinThisModule()));
+        running->time.KeepGoing();
+        return running.release();
+    }
+    catch (const std::exception& problem)
+    {
+        Report(problem.what());
+        return nullptr;
+    }
+}
+
+} // namespace
+
+platform::WlanService* CurrentService()
+{
+    static RunningComputer* const running = Start();
+    if (running == nullptr)
+    {
+        return nullptr;
+    }
+    running->time.CatchUp();
+    return &running->computer.wlan();
+}
+
+} // namespace calvix::dropin

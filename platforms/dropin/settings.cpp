@@ -1,0 +1,78 @@
+#include "dropin/settings.h"
+
+#include "simulation/utf8.h"
+
+#include <windows.h>
+
+#include <charconv>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace calvix::dropin
+{
+
+namespace
+{
+
+constexpr unsigned int highestSpeed = 100'000;
+
+/// The value, or nothing where the variable is not set.
+std::wstring EnvironmentVariable(const wchar_t* name)
+{
+    std::wstring value(::GetEnvironmentVariableW(name, nullptr, 0), L'\0');
+    value.resize(::GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size())));
+    return value;
+}
+
+bool Exists(const std::wstring& path)
+{
+    return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+// The simulation's own reader takes a narrow path, which cannot name every file.
+simulation::Scenario LoadScenario(const std::wstring& path)
+{
+    const std::string name = simulation::Utf8FromWide(path);
+    std::ifstream file(path.c_str(), std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    if (!file.is_open() || file.bad())
+    {
+        throw simulation::ScenarioError(name + ": cannot be read");
+    }
+    return simulation::ParseScenario(text, name);
+}
+
+simulation::Scenario ChosenScenario(const std::wstring& folder)
+{
+    if (const std::wstring named = EnvironmentVariable(L"CALVIX_SCENARIO"); !named.empty())
+    {
+        return LoadScenario(named);
+    }
+    const std::wstring beside = folder + L"wlanapi.scenario.json";
+    return Exists(beside) ? LoadScenario(beside) : simulation::BuiltInScenario();
+}
+
+unsigned int ChosenSpeed()
+{
+    const std::string text = simulation::Utf8FromWide(EnvironmentVariable(L"CALVIX_SPEED"));
+    unsigned int speed = 1;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), speed);
+    const bool isWholeNumber = error == std::errc() && end == text.data() + text.size();
+    if (!text.empty() && (!isWholeNumber || speed < 1 || speed > highestSpeed))
+    {
+        throw std::runtime_error("CALVIX_SPEED: \"" + text + "\" is no whole number from 1 to " +
+                                 std::to_string(highestSpeed));
+    }
+    return speed;
+}
+
+} // namespace
+
+Settings ReadSettings(const std::wstring& folder)
+{
+    const unsigned int speed = ChosenSpeed();
+    return {ChosenScenario(folder), speed};
+}
+
+} // namespace calvix::dropin

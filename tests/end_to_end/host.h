@@ -1,0 +1,40 @@
+#pragma once
+
+#include "end_to_end/news.h"
+
+#include <calvix/wireless_manage.h>
+
+#include <iosfwd>
+#include <string>
+
+namespace calvix::test
+{
+
+/// The library, as a program gets it.
+inline CWirelessManage& Manager()
+{
+    return *CWirelessManage::Get();
+}
+
+/// The GUID of the computer's first adapter, zeroes where it has none.
+GUID FirstAdapter();
+
+/// The network, profile and access point of the adapter's connection; empty where there is none.
+struct Place
+{
+    std::string ssid;
+    std::wstring profile;
+    std::string bssid;
+
+    bool operator==(const Place&) const = default;
+};
+void PrintTo(const Place& place, std::ostream* stream);
+
+Place WhereConnected(const GUID& adapter);
+
+/// Waits until the connection that was asked for after `from` is made, or given up; where the adapter is then.
+Place ConnectedAfter(const News& news, std::size_t from, const GUID& adapter);
+
+DOT11_SSID Ssid(const std::string& text);
+
+} // namespace calvix::test
