@@ -59,6 +59,8 @@ void AddConnectionCommands(CommandSet& commands);
 void AddRoamCommand(CommandSet& commands);
 void AddRadioCommands(CommandSet& commands);
 void AddSettingsCommands(CommandSet& commands);
+void AddPowerCommands(CommandSet& commands);
+void AddProcessCommands(CommandSet& commands);
 void AddWatchCommand(CommandSet& commands);
 void AddListCommands(CommandSet& commands);
 void AddMatchCommands(CommandSet& commands);

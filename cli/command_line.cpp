@@ -18,7 +18,8 @@ constexpr const char* kExitCodes = R"(Exit codes:
   0  success
   1  the operation failed
   2  bad usage, or a file that cannot be used
-  3  no adapter, or the WLAN service cannot be reached)";
+  3  no adapter, or the WLAN service cannot be reached
+  4  a question was not answered with yes, so nothing was done)";
 
 constexpr const char* kCommonGroup = "Options of every command";
 
@@ -144,6 +145,8 @@ void AddCommands(CommandSet& commands)
     AddWatchCommand(commands);
     AddRadioCommands(commands);
     AddSettingsCommands(commands);
+    AddPowerCommands(commands);
+    AddProcessCommands(commands);
     AddListCommands(commands);
     AddMatchCommands(commands);
     AddBestCommand(commands);

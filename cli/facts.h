@@ -116,6 +116,27 @@ struct SettingsFacts
     std::optional<bool> safeMode; ///< whether it is supported
 };
 
+/// Seconds without use until something happens, 0: never.
+struct IdlePolicyFacts
+{
+    std::uint32_t sleepAfter = 0;
+    std::uint32_t displayOffAfter = 0;
+};
+
+struct PowerFacts
+{
+    bool sleep = false; ///< whether the computer can
+    bool hibernate = false;
+    bool shutDown = false;
+    bool modernStandby = false;
+    std::uint64_t lastSleepTime = 0; ///< in units of 100 ns since the start; 0: not since, or not told
+    std::uint64_t lastWakeTime = 0;
+    bool wokeByItself = false;
+    std::optional<IdlePolicyFacts> onMains; ///< none: not told
+    std::optional<IdlePolicyFacts> onBattery;
+    std::string scheme; ///< empty: not told
+};
+
 struct SoftApFacts
 {
     std::vector<std::string> names;

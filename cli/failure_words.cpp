@@ -17,25 +17,27 @@ bool MeansUnavailable(std::uint32_t error)
            error == ERROR_SERVICE_DOES_NOT_EXIST || error == ERROR_MOD_NOT_FOUND;
 }
 
-std::string RefusalText(const std::string& operation, std::uint32_t error)
+std::string RefusalText(const std::string& operation, std::uint32_t error, bool bySystem = false)
 {
-    return "the WLAN service refused " + operation + " (" + DescribePlatformError(error) + ")";
+    return (bySystem ? "the system refused " : "the WLAN service refused ") + operation + " (" +
+           DescribePlatformError(error) + ")";
 }
 
 void AddRefusal(FailureReport& report, const Refusal& refusal)
 {
     report.operation = refusal.operation;
     report.platformError = refusal.error;
-    report.message += ": " + RefusalText(refusal.operation, refusal.error);
+    report.message += ": " + RefusalText(refusal.operation, refusal.error, refusal.bySystem);
     if (refusal.reasonCode != 0)
     {
         report.reasonCode = static_cast<std::uint32_t>(refusal.reasonCode);
         report.reason = ReasonText(refusal.reasonCode);
         report.message += ", because: " + report.reason;
     }
-    if (MeansUnavailable(refusal.error))
+    if (!refusal.bySystem && MeansUnavailable(refusal.error))
         report.exitCode = ExitCode::unavailable;
-    const std::string advice = AdviseOnPlatformError(refusal.error, refusal.operation);
+    const std::string advice = refusal.bySystem ? AdviseOnSystemError(refusal.error, refusal.operation)
+                                                : AdviseOnPlatformError(refusal.error, refusal.operation);
     if (!advice.empty())
         report.advice = advice;
 }
@@ -71,7 +73,9 @@ Failure MethodFailureInWords(const char* method, long code, const Refusal& refus
     report.exitCode = text.exitCode;
     report.message = text.meaning;
     report.advice = text.advice;
-    if (text.operation != nullptr && refusal.operation == text.operation)
+    // What the system refuses ends a method at once; the WLAN service is asked about other things meanwhile.
+    const bool itsRefusal = text.operation != nullptr && refusal.operation == text.operation;
+    if (itsRefusal || (refusal.bySystem && text.operation == nullptr))
         AddRefusal(report, refusal);
     return Failure(report);
 }
@@ -85,6 +89,17 @@ Failure ServiceFailure(const char* operation, std::uint32_t error)
     report.advice = AdviseOnPlatformError(error, operation);
     if (MeansUnavailable(error))
         report.exitCode = ExitCode::unavailable;
+    return Failure(report);
+}
+
+Failure SystemFailure(const char* method, std::optional<int> code, std::string message, const Refusal& refusal)
+{
+    FailureReport report;
+    report.method = method;
+    report.code = code;
+    report.message = std::move(message);
+    if (!refusal.operation.empty())
+        AddRefusal(report, refusal);
     return Failure(report);
 }
 

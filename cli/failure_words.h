@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "watched_wlan.h"
 
+#include <optional>
 #include <ostream>
 
 namespace calvix::host
@@ -13,6 +14,9 @@ Failure MethodFailureInWords(const char* method, long code, const Refusal& refus
 
 /// The failure of an operation of the service that this program called itself.
 Failure ServiceFailure(const char* operation, std::uint32_t error);
+
+/// The failure of a method whose result does not tell it, with what the system refused, if anything.
+Failure SystemFailure(const char* method, std::optional<int> code, std::string message, const Refusal& refusal);
 
 /// A failure that is nobody's code: a time-out, a connection that was never made.
 Failure OperationFailure(std::string message, std::string advice);

@@ -141,8 +141,8 @@ struct Host::World
     std::unique_ptr<ServiceView> service;
 };
 
-Host::Host(CommonOptions options, std::ostream& out, std::ostream& err, TerminalTraits terminal)
-    : m_options(std::move(options)), m_out(out), m_err(err), m_terminal(terminal)
+Host::Host(CommonOptions options, std::istream& in, std::ostream& out, std::ostream& err, TerminalTraits terminal)
+    : m_options(std::move(options)), m_in(in), m_out(out), m_err(err), m_terminal(terminal)
 {
     m_terminal.color = m_terminal.color && !m_options.noColor;
 }
@@ -164,12 +164,18 @@ CWirelessManage& Host::manager()
 {
     World& current = world();
     current.watched.watched().StartWatching();
+    current.watched.systemRefusals().Forget();
     return *current.libraryInUse;
 }
 
 WatchedWlan& Host::watched()
 {
     return world().watched.watched();
+}
+
+const SystemRefusals& Host::systemRefusals()
+{
+    return world().watched.systemRefusals();
 }
 
 ServiceView& Host::service()
@@ -265,7 +271,8 @@ void Host::Require(const char* method, long code)
 
 Failure Host::MethodFailure(const char* method, long code)
 {
-    return MethodFailureInWords(method, code, watched().LastRefusal());
+    const Refusal& refusal = watched().LastRefusal();
+    return MethodFailureInWords(method, code, refusal.operation.empty() ? systemRefusals().Last() : refusal);
 }
 
 void Host::Save()

@@ -6,6 +6,7 @@
 #include <calvix/wireless_manage.h>
 
 #include <functional>
+#include <istream>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -16,6 +17,7 @@ namespace calvix::host
 
 struct ConnectRequest;
 class ServiceView;
+class SystemRefusals;
 class WatchedWlan;
 
 /// The options that every command has.
@@ -34,14 +36,15 @@ struct CommonOptions
 class Host
 {
 public:
-    Host(CommonOptions options, std::ostream& out, std::ostream& err, TerminalTraits terminal);
+    Host(CommonOptions options, std::istream& in, std::ostream& out, std::ostream& err, TerminalTraits terminal);
     ~Host();
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
 
     const CommonOptions& options() const { return m_options; }
     bool json() const { return m_options.json; }
-    /// Results go to `out`, everything else to `err`.
+    /// Answers to questions come from `in`, results go to `out`, everything else to `err`.
+    std::istream& in() { return m_in; }
     std::ostream& out() { return m_out; }
     std::ostream& err() { return m_err; }
     const TerminalTraits& terminal() const { return m_terminal; }
@@ -52,6 +55,8 @@ public:
     ServiceView& service();
     /// What the library asked of the WLAN service since `manager()` was last called, and what was refused.
     WatchedWlan& watched();
+    /// The same for the rest of the operating system.
+    const SystemRefusals& systemRefusals();
     /// All adapters, at least one.
     std::vector<WLAN_INTERFACE_INFO> adapters();
     /// The adapter that was asked for. Fails when there is none like it.
@@ -89,6 +94,7 @@ private:
     WLAN_INTERFACE_INFO FindAdapter();
 
     CommonOptions m_options;
+    std::istream& m_in;
     std::ostream& m_out;
     std::ostream& m_err;
     TerminalTraits m_terminal;

@@ -128,6 +128,13 @@ Json ToJson(const CandidateFacts& candidate)
     return json;
 }
 
+Json ToJson(const std::optional<IdlePolicyFacts>& policy)
+{
+    if (!policy)
+        return nullptr;
+    return {{"sleepAfter", policy->sleepAfter}, {"displayOffAfter", policy->displayOffAfter}};
+}
+
 Json ToJson(const RoamFacts& roam)
 {
     return {{"decision", roam.decision},
@@ -258,6 +265,21 @@ void PrintJson(std::ostream& out, const SettingsFacts& settings)
                   {"safeMode", OrNull(settings.safeMode)}}}});
 }
 
+void PrintJson(std::ostream& out, const PowerFacts& power)
+{
+    Print(out, {{"power",
+                 {{"sleep", power.sleep},
+                  {"hibernate", power.hibernate},
+                  {"shutDown", power.shutDown},
+                  {"modernStandby", power.modernStandby},
+                  {"lastSleepTime", power.lastSleepTime},
+                  {"lastWakeTime", power.lastWakeTime},
+                  {"wokeByItself", power.wokeByItself},
+                  {"onMains", ToJson(power.onMains)},
+                  {"onBattery", ToJson(power.onBattery)},
+                  {"scheme", TextOrNull(power.scheme)}}}});
+}
+
 void PrintJson(std::ostream& out, const SoftApFacts& softAps)
 {
     Print(out, {{"softAps", softAps.names}, {"connectedToSoftAp", softAps.connected}});
@@ -310,6 +332,26 @@ void PrintProfileJson(std::ostream& out, const std::string& name, const std::str
 void PrintChangeJson(std::ostream& out, const std::string& change, const std::string& profile)
 {
     Print(out, {{"change", change}, {"profile", TextOrNull(profile)}});
+}
+
+void PrintPrivilegeJson(std::ostream& out, const std::string& name)
+{
+    Print(out, {{"privilege", {{"name", name}, {"enabled", true}}}});
+}
+
+void PrintRunJson(std::ostream& out, const std::string& what)
+{
+    Print(out, {{"run", {{"started", what}}}});
+}
+
+void PrintEndedJson(std::ostream& out, const std::vector<unsigned long>& processes)
+{
+    Print(out, {{"ended", processes}});
+}
+
+void PrintOnlineJson(std::ostream& out)
+{
+    Print(out, {{"online", true}});
 }
 
 void PrintMethodsJson(std::ostream& out)

@@ -23,6 +23,7 @@ void PrintJson(std::ostream& out, const MatchFacts& match);
 void PrintJson(std::ostream& out, const BestFacts& best);
 void PrintJson(std::ostream& out, const RadioFacts& radio);
 void PrintJson(std::ostream& out, const SettingsFacts& settings);
+void PrintJson(std::ostream& out, const PowerFacts& power);
 void PrintJson(std::ostream& out, const SoftApFacts& softAps);
 /// A decision and what it led to.
 void PrintJson(std::ostream& out, const RoamFacts& roam, const StatusFacts& status);
@@ -42,6 +43,15 @@ void PrintListingJson(std::ostream& out, const std::string& text);
 void PrintProfileJson(std::ostream& out, const std::string& name, const std::string& xml);
 /// A change to the profile store: what was done ("added", "deleted", "moved") to which profile.
 void PrintChangeJson(std::ostream& out, const std::string& change, const std::string& profile);
+
+/// A privilege that was enabled.
+void PrintPrivilegeJson(std::ostream& out, const std::string& name);
+/// What was started and has ended: a command line, or a program's path.
+void PrintRunJson(std::ostream& out, const std::string& what);
+/// The processes that were ended.
+void PrintEndedJson(std::ostream& out, const std::vector<unsigned long>& processes);
+/// The internet can be reached.
+void PrintOnlineJson(std::ostream& out);
 
 void PrintMethodsJson(std::ostream& out);
 void PrintMethodJson(std::ostream& out, const MethodResults& results);

@@ -5,5 +5,5 @@
 int main(int argc, char** argv)
 {
     const calvix::host::TerminalTraits terminal = calvix::host::DetectTerminal();
-    return calvix::host::Run(calvix::host::ProgramArguments(argc, argv), std::cout, std::cerr, terminal);
+    return calvix::host::Run(calvix::host::ProgramArguments(argc, argv), std::cin, std::cout, std::cerr, terminal);
 }

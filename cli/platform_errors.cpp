@@ -56,11 +56,37 @@ constexpr PlatformError kErrors[] = {
     {0x80342002, "the radio is off", "switch the radio on: flight mode, the switch on the case, the device manager"},
 };
 
+/// What the rest of the system answers with; where a number is in both tables, this one counts for it.
+constexpr PlatformError kSystemErrors[] = {
+    {2, "file not found",
+     "check the name; a program is looked for beside calvix, in the system's folders and on the path"},
+    {3, "path not found", "check the folder"},
+    {5, "access denied", "run as administrator"},
+    {50, "not supported", "this computer cannot do it: powercfg /a tells what it can"},
+    {87, "invalid parameter", ""},
+    {193, "not a program", "give the name of a program for this system"},
+    {740, "elevation required", "run as administrator"},
+    {1131, "it would never end", "see what the program waits for, and end it with: calvix run --kill PID"},
+    {1313, "no such privilege", "check the name: SeShutdownPrivilege, SeDebugPrivilege and so on"},
+    {1314, "a required privilege is not held", "run as administrator"},
+    {12007, "the name could not be resolved",
+     "see that the network has a name server, and sign in where it asks for it"},
+    {12029, "no connection could be made",
+     "see that the network leads to the internet, and sign in where it asks for it"},
+};
+
+template <std::size_t Count>
+const PlatformError* FindIn(const PlatformError (&errors)[Count], std::uint32_t number)
+{
+    const auto found = std::find_if(std::begin(errors), std::end(errors),
+                                    [number](const PlatformError& error) { return error.number == number; });
+    return found != std::end(errors) ? found : nullptr;
+}
+
 const PlatformError* Find(std::uint32_t number)
 {
-    const auto found = std::find_if(std::begin(kErrors), std::end(kErrors),
-                                    [number](const PlatformError& error) { return error.number == number; });
-    return found != std::end(kErrors) ? found : nullptr;
+    const PlatformError* const known = FindIn(kErrors, number);
+    return known != nullptr ? known : FindIn(kSystemErrors, number);
 }
 
 std::string NumberText(std::uint32_t number)
@@ -103,6 +129,15 @@ std::string AdviseOnPlatformError(std::uint32_t error, const std::string& operat
     if (error == accessDenied && !operation.empty())
         return "allow location access for desktop apps (Settings, Privacy & security, Location)";
     const PlatformError* const known = Find(error);
+    return known != nullptr ? known->advice : "";
+}
+
+std::string AdviseOnSystemError(std::uint32_t error, const std::string& operation)
+{
+    constexpr std::uint32_t invalidParameter = 87;
+    if (error == invalidParameter && operation == "OpenProcess")
+        return "there is no process of this number: the task manager shows those that run";
+    const PlatformError* const known = FindIn(kSystemErrors, error);
     return known != nullptr ? known->advice : "";
 }
 

@@ -13,4 +13,7 @@ std::string DescribePlatformError(std::uint32_t error);
 /// the same number has different cures.
 std::string AdviseOnPlatformError(std::uint32_t error, const std::string& operation = {});
 
+/// The same where it was not the WLAN service that gave it.
+std::string AdviseOnSystemError(std::uint32_t error, const std::string& operation);
+
 } // namespace calvix::host

@@ -34,7 +34,11 @@ void SaveAfterFailure(Host& host)
 
 } // namespace
 
-int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, TerminalTraits terminal)
+int Run(const std::vector<std::string>& arguments,
+        std::istream& in,
+        std::ostream& out,
+        std::ostream& err,
+        TerminalTraits terminal)
 {
     ExitCode parsed = ExitCode::success;
     const std::optional<Request> request = ParseArguments(arguments, out, err, parsed);
@@ -42,7 +46,7 @@ int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
         return static_cast<int>(parsed);
 
     const InterruptWatch interruptWatch;
-    Host host(request->options, out, err, terminal);
+    Host host(request->options, in, out, err, terminal);
     try
     {
         request->run(host);

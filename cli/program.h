@@ -2,6 +2,7 @@
 
 #include "terminal.h"
 
+#include <istream>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -9,8 +10,12 @@
 namespace calvix::host
 {
 
-/// The whole program: carries out what the arguments ask for, writes results to `out` and everything else to `err`, and
-/// returns the exit code (see ExitCode).
-int Run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, TerminalTraits terminal);
+/// The whole program: carries out what the arguments ask for, reads answers to its questions from `in`, writes results to
+/// `out` and everything else to `err`, and returns the exit code (see ExitCode).
+int Run(const std::vector<std::string>& arguments,
+        std::istream& in,
+        std::ostream& out,
+        std::ostream& err,
+        TerminalTraits terminal);
 
 } // namespace calvix::host

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "stepping_clock.h"
+#include "watched_system.h"
 #include "watched_wlan.h"
 
 #include <ostream>
@@ -28,26 +29,28 @@ private:
     bool m_atLineStart = true;
 };
 
-/// The platform with the WLAN service and the debugger watched, and waiting in small steps.
+/// The platform with the WLAN service, the system and the debugger watched, and waiting in small steps.
 class WatchedPlatform final : public platform::Platform
 {
 public:
     /// Trace lines are shown on `shown` unless it is null. Both must live as long as this object.
     WatchedPlatform(platform::Platform& inner, std::ostream* shown)
-        : m_inner(inner), m_wlan(inner.wlan()), m_clock(inner.clock()), m_debugger(inner.debugger(), shown)
+        : m_inner(inner), m_wlan(inner.wlan()), m_system(inner), m_clock(inner.clock()),
+          m_debugger(inner.debugger(), shown)
     {
     }
 
     WatchedWlan& watched() { return m_wlan; }
+    SystemRefusals& systemRefusals() { return m_system.refusals(); }
     SteppingClock& steps() { return m_clock; }
     ShownDebuggerOutput& shownDebugger() { return m_debugger; }
 
     platform::WlanService& wlan() override { return m_wlan; }
     platform::ServiceControl& services() override { return m_inner.services(); }
-    platform::Power& power() override { return m_inner.power(); }
-    platform::Security& security() override { return m_inner.security(); }
-    platform::Processes& processes() override { return m_inner.processes(); }
-    platform::Internet& internet() override { return m_inner.internet(); }
+    platform::Power& power() override { return m_system.power(); }
+    platform::Security& security() override { return m_system.security(); }
+    platform::Processes& processes() override { return m_system.processes(); }
+    platform::Internet& internet() override { return m_system.internet(); }
     platform::Text& text() override { return m_inner.text(); }
     platform::Clock& clock() override { return m_clock; }
     platform::DebuggerOutput& debugger() override { return m_debugger; }
@@ -56,6 +59,7 @@ public:
 private:
     platform::Platform& m_inner;
     WatchedWlan m_wlan;
+    WatchedSystem m_system;
     SteppingClock m_clock;
     ShownDebuggerOutput m_debugger;
 };

@@ -10,12 +10,13 @@
 namespace calvix::host
 {
 
-/// The last operation that the WLAN service refused.
+/// An operation that the WLAN service, or the rest of the system, refused.
 struct Refusal
 {
     std::string operation; ///< empty: none was
     std::uint32_t error = 0;
-    DWORD reasonCode = 0; ///< of a refused profile, 0 otherwise
+    DWORD reasonCode = 0;  ///< of a refused profile, 0 otherwise
+    bool bySystem = false; ///< not by the WLAN service
 };
 
 /// A connection that was asked for.

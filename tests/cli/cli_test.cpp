@@ -39,10 +39,11 @@ CliTest::~CliTest()
 Outcome CliTest::Run(const std::vector<std::string>& arguments, host::TerminalTraits terminal)
 {
     ManagerInternals::Reset();
+    std::istringstream in(m_input);
     std::ostringstream out;
     std::ostringstream err;
     Outcome outcome;
-    outcome.exitCode = host::Run(arguments, out, err, terminal);
+    outcome.exitCode = host::Run(arguments, in, out, err, terminal);
     outcome.out = out.str();
     outcome.err = err.str();
     return outcome;

@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace calvix::test
@@ -41,6 +42,9 @@ protected:
     Outcome
     RunOn(const simulation::Scenario& world, std::vector<std::string> arguments, host::TerminalTraits terminal = {});
 
+    /// What the program's questions are answered with from now on: standard input, empty unless set.
+    void Answer(std::string input) { m_input = std::move(input); }
+
     /// A path in a folder that is gone after the test.
     std::string PathFor(const std::string& name) const;
     /// Writes a file there and returns its path.
@@ -51,9 +55,11 @@ protected:
     static constexpr int kFailed = 1;
     static constexpr int kBadInput = 2;
     static constexpr int kUnavailable = 3;
+    static constexpr int kNotConfirmed = 4;
 
 private:
     std::string m_folder;
+    std::string m_input;
 };
 
 } // namespace calvix::test

@@ -23,9 +23,10 @@ struct Outcome
 Outcome Import(std::vector<std::string> arguments)
 {
     arguments.insert(arguments.begin(), "import");
+    std::istringstream in;
     std::ostringstream out;
     std::ostringstream err;
-    const int exitCode = Run(arguments, out, err, TerminalTraits{});
+    const int exitCode = Run(arguments, in, out, err, TerminalTraits{});
     return {exitCode, out.str(), err.str()};
 }
 

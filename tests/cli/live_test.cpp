@@ -205,10 +205,11 @@ TEST_F(WatchCommand, TakesAMinuteOfASimulatedComputer)
 TEST_F(CtrlC, EndsAWatchAsASuccess)
 {
     ManagerInternals::Reset();
+    std::istringstream noInput;
     InterruptingText buffer;
     std::ostream out(&buffer);
     std::ostringstream err;
-    EXPECT_EQ(kSuccess, host::Run({"watch", "--for", "200", "--scenario", kOfficeWalk}, out, err, {}));
+    EXPECT_EQ(kSuccess, host::Run({"watch", "--for", "200", "--scenario", kOfficeWalk}, noInput, out, err, {}));
     EXPECT_THAT(buffer.str(), EndsWith("Moved 0 times in 0 seconds.\n"));
     EXPECT_EQ("", err.str());
 }
@@ -217,11 +218,12 @@ TEST_F(CtrlC, EndsAWaitAsAFailure)
 {
     const std::string file = FileWith("world.json", simulation::WriteScenario(RichWorld()));
     ManagerInternals::Reset();
+    std::istringstream noInput;
     std::ostringstream out;
     InterruptingText buffer;
     std::ostream err(&buffer);
     // The trace line of the registration is the first line, the progress behind it flushes.
-    EXPECT_EQ(kFailed, host::Run({"scan", "--trace", "--scenario", file}, out, err, {.isTerminal = true}));
+    EXPECT_EQ(kFailed, host::Run({"scan", "--trace", "--scenario", file}, noInput, out, err, {.isTerminal = true}));
     EXPECT_THAT(buffer.str(), HasSubstr("calvix: interrupted.\n"));
     EXPECT_THAT(buffer.str(), HasSubstr("WlanUnRegisterNotification: 0")) << "left cleanly";
 }

@@ -44,9 +44,9 @@ TEST_F(Usage, ListsTheCommandsAndExitCodes)
     const Outcome outcome = Run({"--help"});
     EXPECT_EQ(kSuccess, outcome.exitCode);
     for (const char* command :
-         {"adapters",  "scan",  "networks", "bss",    "profiles", "status",  "connect", "disconnect",
-          "reconnect", "reset", "auto",     "switch", "roam",     "watch",   "radio",   "settings",
-          "ihv",       "list",  "softap",   "match",  "best",     "explain", "import"})
+         {"adapters", "scan",  "networks", "bss",     "profiles", "status", "connect",  "disconnect", "reconnect",
+          "reset",    "auto",  "switch",   "roam",    "watch",    "radio",  "settings", "ihv",        "list",
+          "softap",   "match", "best",     "explain", "import",   "power",  "run",      "online"})
         EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + command + " ")) << command;
     EXPECT_THAT(outcome.out, HasSubstr("3  no adapter, or the WLAN service cannot be reached"));
 }
@@ -85,6 +85,14 @@ TEST_F(Usage, NamesTheCommonOptionsInEveryCommand)
                                                                                          {"radio", "restart"},
                                                                                          {"settings"},
                                                                                          {"ihv"},
+                                                                                         {"power", "status"},
+                                                                                         {"power", "keep-awake"},
+                                                                                         {"power", "restore"},
+                                                                                         {"power", "saver"},
+                                                                                         {"power", "sleep"},
+                                                                                         {"power", "privilege"},
+                                                                                         {"run"},
+                                                                                         {"online"},
                                                                                          {"list", "networks"},
                                                                                          {"list", "bss"},
                                                                                          {"softap"},
