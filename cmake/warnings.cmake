@@ -1,12 +1,13 @@
-# calvix_warnings(TARGET): the warnings that this project's own code compiles without, as errors.
+# calvix_warnings(TARGET): the warnings that this project's own code compiles without, as errors; as mere warnings where
+# the project is part of another one, whose compiler may know more of them.
 
 function(calvix_warnings target)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /WX /permissive- /utf-8)
+        target_compile_options(${target} PRIVATE /W4 $<$<BOOL:${calvix_IS_TOP_LEVEL}>:/WX> /permissive- /utf-8)
         return()
     endif()
     target_compile_options(${target} PRIVATE
-        -Wall -Wextra -Wpedantic -Werror
+        -Wall -Wextra -Wpedantic $<$<BOOL:${calvix_IS_TOP_LEVEL}>:-Werror>
         -Wshadow -Wconversion -Wsign-conversion
         -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
         -Wformat=2 -Wno-format-nonliteral)

@@ -1,9 +1,9 @@
 #include "dropin/running_computer.h"
 
 #include "dropin/module.h"
-#include "dropin/real_time.h"
 #include "dropin/settings.h"
 #include "simulation/computer.h"
+#include "simulation/real_time.h"
 #include "simulation/utf8.h"
 
 #include <windows.h>
@@ -24,7 +24,7 @@ struct RunningComputer
     explicit RunningComputer(const Settings& settings) : computer(settings.scenario), time(computer, settings.speed) {}
 
     simulation::Computer computer;
-    RealTime time;
+    simulation::RealTime time;
 };
 
 void Report(const char* problem)

@@ -1,21 +1,18 @@
 #include "dropin/settings.h"
 
+#include "simulation/real_time.h"
 #include "simulation/utf8.h"
 
 #include <windows.h>
 
-#include <charconv>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 
 namespace calvix::dropin
 {
 
 namespace
 {
-
-constexpr unsigned int highestSpeed = 100'000;
 
 /// The value, or nothing where the variable is not set.
 std::wstring EnvironmentVariable(const wchar_t* name)
@@ -55,16 +52,7 @@ simulation::Scenario ChosenScenario(const std::wstring& folder)
 
 unsigned int ChosenSpeed()
 {
-    const std::string text = simulation::Utf8FromWide(EnvironmentVariable(L"CALVIX_SPEED"));
-    unsigned int speed = 1;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), speed);
-    const bool isWholeNumber = error == std::errc() && end == text.data() + text.size();
-    if (!text.empty() && (!isWholeNumber || speed < 1 || speed > highestSpeed))
-    {
-        throw std::runtime_error("CALVIX_SPEED: \"" + text + "\" is no whole number from 1 to " +
-                                 std::to_string(highestSpeed));
-    }
-    return speed;
+    return simulation::ReadSpeed(simulation::Utf8FromWide(EnvironmentVariable(L"CALVIX_SPEED")), "CALVIX_SPEED");
 }
 
 } // namespace

@@ -19,7 +19,8 @@ namespace
 
 struct RunningComputer
 {
-    RunningComputer(const simulation::Scenario& scenario, unsigned int speed) : computer(scenario), time(computer, speed)
+    RunningComputer(const simulation::Scenario& scenario, unsigned int speed)
+        : computer(scenario), time(computer, speed)
     {
         time.KeepGoing();
     }

@@ -1,0 +1,16 @@
+# One archive with everything that is installed: `cpack` in the build folder, or script/package.
+
+set(CPACK_PACKAGE_NAME calvix)
+set(CPACK_PACKAGE_VENDOR "Calvix")
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_STRIP_FILES ON)
+if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+    set(CPACK_SYSTEM_NAME windows-x64)
+else()
+    set(CPACK_GENERATOR TGZ)
+    set(CPACK_SYSTEM_NAME linux-x64)
+endif()
+set(CPACK_PACKAGE_FILE_NAME "calvix-${PROJECT_VERSION}-${CPACK_SYSTEM_NAME}")
+set(CPACK_SOURCE_GENERATOR "")
+include(CPack)

@@ -1,0 +1,21 @@
+#include <calvix/wireless_manage.h>
+
+#include <cstdio>
+
+int main()
+{
+    CWirelessManage* const manager = CWirelessManage::Get();
+    std::vector<WLAN_INTERFACE_INFO> adapters;
+    const long code = manager->GetWlanInterface(&adapters);
+    if (code != 0)
+    {
+        std::printf("GetWlanInterface: %ld\n", code);
+        return 1;
+    }
+    char description[1024];
+    manager->UnicodeToAnsi(adapters.front().strInterfaceDescription, description);
+    std::printf("%d adapter%s, the first: %s\n", static_cast<int>(adapters.size()), adapters.size() == 1 ? "" : "s",
+                description);
+    CWirelessManage::Delete();
+    return 0;
+}
