@@ -38,8 +38,8 @@ endif()
 
 # calvix_unity(TARGET BATCH): compiles the target's sources BATCH at a time as one, which more than halves a build from
 # scratch: what they include is read once, and what they instantiate is compiled once. Names in anonymous namespaces must
-# therefore be distinct within a target. Off for the product in the native world, where a source that forgot an include is
-# to be noticed.
+# therefore be distinct within a target. The presets for measuring and for coverage compile the product's sources one by
+# one, where a source that forgot an include is noticed.
 function(calvix_unity target batch)
     if(CALVIX_UNITY)
         set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${batch})
