@@ -22,7 +22,7 @@ typedef VOID(WINAPI* FreeMemory)(PVOID);
 
 struct Wlan
 {
-    HMODULE library;
+    HMODULE module;
     OpenHandle openHandle;
     CloseHandleOf closeHandle;
     EnumInterfaces enumInterfaces;
@@ -59,14 +59,14 @@ static const char* const names[] = {
 
 static AnyFunction Find(const struct Wlan* wlan, const char* name)
 {
-    return (AnyFunction)GetProcAddress(wlan->library, name);
+    return (AnyFunction)GetProcAddress(wlan->module, name);
 }
 
 static int Load(struct Wlan* wlan)
 {
-    wlan->library = LoadLibraryW(L"wlanapi.dll");
-    CHECK(wlan->library != NULL);
-    if (wlan->library == NULL)
+    wlan->module = LoadLibraryW(L"wlanapi.dll");
+    CHECK(wlan->module != NULL);
+    if (wlan->module == NULL)
     {
         return 0;
     }
@@ -150,7 +150,7 @@ static void CheckUnloading(void)
     if (Load(&wlan))
     {
         CheckExports(&wlan);
-        CHECK(FreeLibrary(wlan.library));
+        CHECK(FreeLibrary(wlan.module));
         CHECK(GetModuleHandleW(L"wlanapi.dll") == NULL);
     }
 }
@@ -170,14 +170,14 @@ int main(void)
     profiles = CountProfiles(&wlan, client, &adapter);
     CheckConnecting(&wlan, client, &adapter);
     CHECK_ANSWER(ERROR_SUCCESS, wlan.deleteProfile(client, &adapter, L"Lindenhof Garden", NULL));
-    CHECK(FreeLibrary(wlan.library));
+    CHECK(FreeLibrary(wlan.module));
 
     /* The service has not forgotten anything, not even the client. */
     if (Load(&wlan))
     {
         CHECK(CountProfiles(&wlan, client, &adapter) == profiles - 1);
         CHECK_ANSWER(ERROR_SUCCESS, wlan.closeHandle(client, NULL));
-        CHECK(FreeLibrary(wlan.library));
+        CHECK(FreeLibrary(wlan.module));
     }
     return CheckedExitCode();
 }

@@ -8,7 +8,7 @@
 //     edited.service.SetProfileText(L"HomeNet", L"</connectionMode>");
 //     edited.conversion.takesAllFlagsForUtf8 = true;
 
-#include "platform/platform.h"
+#include "support/forwarding_platform.h"
 #include "wrappers/intercepted_wlan_service.h"
 
 #include <gtest/gtest.h>
@@ -196,31 +196,19 @@ private:
 };
 
 /// Stands before the provider in use for as long as it lives.
-class EditedAnswers final : public platform::Platform
+class EditedAnswers final : public ForwardingPlatform
 {
 public:
-    EditedAnswers() { platform::ReplacePlatform(this); }
-    ~EditedAnswers() override { platform::ReplacePlatform(&m_inner); }
-
     platform::WlanService& wlan() override { return service; }
-    platform::ServiceControl& services() override { return m_inner.services(); }
-    platform::Power& power() override { return m_inner.power(); }
-    platform::Security& security() override { return m_inner.security(); }
-    platform::Processes& processes() override { return m_inner.processes(); }
-    platform::Internet& internet() override { return m_inner.internet(); }
     platform::Text& text() override { return conversion; }
-    platform::Clock& clock() override { return m_inner.clock(); }
-    platform::DebuggerOutput& debugger() override { return m_inner.debugger(); }
-    platform::LastError& errors() override { return m_inner.errors(); }
 
 private:
-    platform::Platform& m_inner = platform::CurrentPlatform();
     wrappers::Interceptor m_seesNothing;
     wrappers::InterceptionPoint m_point{m_seesNothing};
 
 public:
-    EditedWlanService service{m_inner.wlan(), m_point};
-    EditedText conversion{m_inner.text()};
+    EditedWlanService service{inner().wlan(), m_point};
+    EditedText conversion{inner().text()};
 };
 
 } // namespace calvix::test
