@@ -1,0 +1,147 @@
+#include "support/test_worlds.h"
+#include "sweep/method_call.h"
+
+namespace calvix::test::sweep
+{
+
+using Manager = CWirelessManage;
+
+namespace
+{
+
+Outcome RescanWithError(Manager& manager)
+{
+    unsigned long error = 0;
+    return Told(manager.Rescan(&kAdapterA, error));
+}
+
+Outcome LookForNetwork(Manager& manager)
+{
+    DOT11_SSID ssid = MakeSsid("OfficeNet");
+    return Told(manager.GetAP(&kAdapterA, &ssid));
+}
+
+Outcome AskReason(Manager& manager)
+{
+    DOT11_SSID ssid = MakeSsid("OfficeNet");
+    int connectable = 0;
+    unsigned long reason = 0;
+    return Told(manager.GetNotConnectableReason(&kAdapterA, &ssid, dot11_BSS_type_infrastructure, connectable, reason));
+}
+
+Outcome AskRssi(Manager& manager)
+{
+    int rssi = 0;
+    return Told(manager.GetRssi(&kAdapterA, rssi));
+}
+
+Outcome AskCurrentRssi(Manager& manager)
+{
+    int rssi = 0;
+    return Told(manager.GetCurrentRSSI(&kAdapterA, rssi));
+}
+
+Outcome EstimateRssi(Manager& manager)
+{
+    DOT11_SSID ssid = MakeSsid("OfficeNet");
+    return Told(manager.GetWiFiRSSI(&kAdapterA, ssid));
+}
+
+Outcome ListSoftAccessPoints(Manager& manager)
+{
+    std::vector<std::string> names;
+    return Told(manager.GetSoftAPList(&kAdapterA, &names));
+}
+
+Outcome AskReasonText(Manager& manager)
+{
+    char text[64] = {};
+    return Told(manager.ReasonCode2String(0, text, sizeof(text)));
+}
+
+template <typename Entry, typename Method>
+Outcome WithList(const Method& method)
+{
+    std::vector<Entry> list;
+    return Told(method(&list));
+}
+
+Outcome ListMatching(Manager& manager)
+{
+    return WithList<WLAN_BSS_ENTRY>([&](auto* list) { return manager.GetMatchAPList(&kAdapterA, list); });
+}
+
+Outcome ListConnectable(Manager& manager)
+{
+    wchar_t name[] = L"OfficeNet";
+    return WithList<WLAN_BSS_ENTRY>([&](auto* list) { return manager.GetConnectableAPList(&kAdapterA, name, list); });
+}
+
+Outcome ListFirstConnectable(Manager& manager)
+{
+    wchar_t name[] = L"OfficeNet";
+    return WithList<WLAN_BSS_ENTRY>([&](auto* list) { return manager.GetConnectableAPList(name, list); });
+}
+
+Outcome CountMatching(Manager& manager)
+{
+    return WithList<std::wstring>([&](auto* list) { return manager.GetMatchAPCount(&kAdapterA, list, 1); });
+}
+
+Outcome CountOthers(Manager& manager)
+{
+    return WithList<std::wstring>([&](auto* list)
+                                  { return manager.GetMatchAPCount(&kAdapterA, list, L"OfficeNet", 1); });
+}
+
+std::vector<MethodCall> SignalMethods()
+{
+    return {
+        {"GetChannel(unsigned long)", [](Manager& m) { return Told(m.GetChannel(5180000)); }},
+        {"GetSignalStrength(int)", [](Manager& m) { return Told(m.GetSignalStrength(-75)); }},
+        {"GetRssi(GUID const*, int&)", AskRssi},
+        {"GetCurrentRSSI(GUID const*, int&)", AskCurrentRssi},
+        {"GetWiFiRSSI(GUID const*, DOT11_SSID&)", EstimateRssi},
+        {"GetSignalQuality(GUID const*)", [](Manager& m) { return Told(m.GetSignalQuality(&kAdapterA)); }},
+    };
+}
+
+std::vector<MethodCall> ListMethods()
+{
+    return {
+        {"Rescan(GUID const*, unsigned long&)", RescanWithError},
+        {"Rescan()", [](Manager& m) { return Told(m.Rescan()); }},
+        {"GetAvailableNetworkCount(GUID const*)",
+         [](Manager& m) { return Told(m.GetAvailableNetworkCount(&kAdapterA)); }},
+        {"GetNetworkBssCount()", [](Manager& m) { return Told(m.GetNetworkBssCount()); }},
+        {"GetConnectableNetworkCount(GUID const*)",
+         [](Manager& m) { return Told(m.GetConnectableNetworkCount(&kAdapterA)); }},
+        {"GetAP(GUID const*, DOT11_SSID*)", LookForNetwork},
+        {"GetNotConnectableReason(GUID const*, DOT11_SSID*, unsigned long, int&, unsigned long&)", AskReason},
+        {"IsWiFiDisappear(GUID const*)", [](Manager& m) { return Told(m.IsWiFiDisappear(&kAdapterA)); }},
+        {"GetCurrentBSS()", [](Manager& m) { return Told(m.GetCurrentBSS()); }},
+        {"GetSoftAPList(GUID const*, std::vector<std::string>*)", ListSoftAccessPoints},
+        {"SpecialSoftAP()", [](Manager& m) { return Told(m.SpecialSoftAP()); }},
+        {"GetAvailableNetwork()", [](Manager& m) { return Told(m.GetAvailableNetwork()); }},
+        {"GetNetworkBss()", [](Manager& m) { return Told(m.GetNetworkBss()); }},
+        {"ReasonCode2String(unsigned long, char*, int)", AskReasonText},
+        {"GetMatchAPList(GUID const*, std::vector<WLAN_BSS_ENTRY>*)", ListMatching},
+        {"GetConnectableAPList(GUID const*, wchar_t*, std::vector<WLAN_BSS_ENTRY>*)", ListConnectable},
+        {"GetConnectableAPList(wchar_t*, std::vector<WLAN_BSS_ENTRY>*)", ListFirstConnectable},
+        {"GetMatchAPCount(GUID const*, std::vector<std::wstring>*, int)", CountMatching},
+        {"GetMatchAPCount(GUID const*, std::vector<std::wstring>*, wchar_t const*, int)", CountOthers},
+        {"GetMatchBSSID(GUID const*)", [](Manager& m) { return Told(m.GetMatchBSSID(&kAdapterA)); }},
+    };
+}
+
+} // namespace
+
+std::vector<MethodCall> AirMethods()
+{
+    std::vector<MethodCall> methods = ListMethods();
+    const std::vector<MethodCall> signals = SignalMethods();
+    methods.insert(methods.end(), signals.begin(), signals.end());
+    return methods;
+}
+
+} // namespace calvix::test::sweep

@@ -1,0 +1,146 @@
+#include "sweep/bench.h"
+
+#include "core/trace.h"
+#include "support/manager_internals.h"
+#include "wrappers/call_log.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <span>
+#include <string_view>
+
+namespace calvix::test::sweep
+{
+
+namespace
+{
+
+using wrappers::Fault;
+
+constexpr std::array<DWORD, 3> kErrors = {5, 1062, 1168};
+/// Of the one operation that returns an NTSTATUS.
+constexpr std::array<DWORD, 3> kStatuses = {0xC0000022, 0xC000000D, 0xC00000BB};
+
+constexpr std::array<std::string_view, 5> kNeverFail = {"WlanFreeMemory", "LocalFree", "Sleep", "GetCurrentProcess",
+                                                        "OutputDebugStringA"};
+constexpr std::array<std::string_view, 3> kReleases = {"WlanCloseHandle", "CloseServiceHandle", "CloseHandle"};
+
+template <std::size_t Count>
+bool Contains(const std::array<std::string_view, Count>& names, std::string_view name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+} // namespace
+
+Bench::Bench(const simulation::Scenario& world, wrappers::Interceptor& interceptor)
+    : m_computer(world), m_platform(m_computer, interceptor)
+{
+    ManagerInternals::Reset();
+    platform::ReplacePlatform(&m_platform);
+    g_bTraceOn = 1;
+}
+
+Bench::~Bench()
+{
+    g_bTraceOn = 0;
+    ForgetClosedClient();
+    CWirelessManage::Delete();
+    platform::ReplacePlatform(nullptr);
+    ManagerInternals::Reset();
+}
+
+CWirelessManage& Bench::Manager()
+{
+    CWirelessManage* const instance = ManagerInternals::Instance();
+    return instance != nullptr ? *instance : *CWirelessManage::Get();
+}
+
+/// Delete leaves the closed handle where it was.
+void Bench::ForgetClosedClient()
+{
+    if (m_computer.Audit().openClients == 0)
+        ManagerInternals::Client() = nullptr;
+}
+
+void Bench::CloseClient()
+{
+    if (ManagerInternals::Client() != nullptr)
+        m_computer.wlan().WlanCloseHandle(ManagerInternals::Client(), nullptr);
+    ManagerInternals::Client() = nullptr;
+}
+
+void Bench::Prepare(const MethodCall& method)
+{
+    CWirelessManage& manager = Manager();
+    if (method.before != nullptr)
+        method.before(manager);
+    if (method.opensClient)
+        CloseClient();
+}
+
+Outcome Bench::Call(const MethodCall& method)
+{
+    ForgetClosedClient();
+    return method.call(Manager());
+}
+
+Reference Record(const simulation::Scenario& world, const MethodCall& method)
+{
+    wrappers::CallLog log;
+    Bench bench(world, log);
+    bench.Prepare(method);
+    log.Clear();
+    Reference reference;
+    reference.first = bench.Call(method);
+    reference.operations = log.Operations();
+    reference.again = bench.Call(method);
+    return reference;
+}
+
+std::string Failure::Text() const
+{
+    return operation + " call " + std::to_string(fault.fromCall) +
+           (fault.times == 1 ? " fails with " : " and all later ones fail with ") + std::to_string(fault.error);
+}
+
+bool Failure::IsRelease() const
+{
+    return Contains(kReleases, operation);
+}
+
+std::vector<Failure> FailuresOf(const Reference& reference)
+{
+    std::vector<Failure> failures;
+    std::map<std::string, unsigned> seen;
+    for (const std::string& operation : reference.operations)
+    {
+        if (Contains(kNeverFail, operation))
+            continue;
+        const unsigned number = ++seen[operation];
+        const auto& errors = operation == "CallNtPowerInformation" ? kStatuses : kErrors;
+        for (const DWORD error : std::span(errors).first<CALVIX_SWEEP_ERRORS>())
+            for (const unsigned times : {1U, Fault::kUnlimited})
+                failures.push_back({operation, {error, number, times}});
+    }
+    return failures;
+}
+
+Run Repeat(const simulation::Scenario& world, const MethodCall& method, const Failure& failure)
+{
+    wrappers::FaultInjection faults;
+    Bench bench(world, faults);
+    bench.Prepare(method);
+    Run run;
+    faults.Fail(failure.operation, failure.fault);
+    run.outcome = bench.Call(method);
+    run.failed = faults.Injected();
+    faults.Clear();
+    run.afterwards = bench.Audit();
+    run.again = bench.Call(method);
+    run.inTheEnd = bench.Audit();
+    return run;
+}
+
+} // namespace calvix::test::sweep

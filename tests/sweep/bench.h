@@ -1,0 +1,73 @@
+#pragma once
+
+#include "simulation/computer.h"
+#include "sweep/method_call.h"
+#include "wrappers/fault_injection.h"
+#include "wrappers/intercepted_platform.h"
+
+#include <string>
+#include <vector>
+
+namespace calvix::test::sweep
+{
+
+/// A fresh computer with the library on it, ready for one method. One at a time.
+class Bench
+{
+public:
+    Bench(const simulation::Scenario& world, wrappers::Interceptor& interceptor);
+    ~Bench();
+    Bench(const Bench&) = delete;
+    Bench& operator=(const Bench&) = delete;
+
+    /// Brings about what the method needs.
+    void Prepare(const MethodCall& method);
+    Outcome Call(const MethodCall& method);
+    simulation::Accounts Audit() { return m_computer.Audit(); }
+
+private:
+    CWirelessManage& Manager();
+    void ForgetClosedClient();
+    void CloseClient();
+
+    simulation::Computer m_computer;
+    wrappers::InterceptedPlatform m_platform;
+};
+
+/// What a method does where nothing fails.
+struct Reference
+{
+    std::vector<std::string> operations; ///< the platform operations that it calls, in order
+    Outcome first;                       ///< on a fresh computer
+    Outcome again;                       ///< called once more
+};
+
+Reference Record(const simulation::Scenario& world, const MethodCall& method);
+
+/// One way in which the platform lets a method down.
+struct Failure
+{
+    std::string operation;
+    wrappers::Fault fault;
+
+    std::string Text() const;
+    /// Whether the operation gives something back, which then stays with the program that wanted to.
+    bool IsRelease() const;
+};
+
+/// Every recorded call that can fail: alone and with all that follow of its operation, each with several errors.
+std::vector<Failure> FailuresOf(const Reference& reference);
+
+/// A failure's run.
+struct Run
+{
+    unsigned failed = 0; ///< how many calls of the platform
+    Outcome outcome;
+    simulation::Accounts afterwards;
+    Outcome again; ///< the same method when nothing fails any more
+    simulation::Accounts inTheEnd;
+};
+
+Run Repeat(const simulation::Scenario& world, const MethodCall& method, const Failure& failure);
+
+} // namespace calvix::test::sweep

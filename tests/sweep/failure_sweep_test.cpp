@@ -1,0 +1,182 @@
+// Every method, with every one of its platform calls failing in turn.
+
+#include "result_codes.h"
+#include "support/test_worlds.h"
+#include "sweep/bench.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdint>
+#include <fstream>
+#include <iostream>
+
+namespace calvix::test::failure_sweep_test
+{
+namespace
+{
+
+using host::Explanation;
+using host::MethodResults;
+using sweep::Failure;
+using sweep::MethodCall;
+using sweep::Outcome;
+using sweep::Reference;
+using sweep::Run;
+
+struct World
+{
+    const char* name;
+    simulation::Scenario (*make)();
+};
+
+/// What the methods ask beside the radio. Listing the power schemes fails, or GetPowerScheme would never end.
+simulation::Scenario Furnished(simulation::Scenario world)
+{
+    constexpr std::uint32_t kNoMoreItems = 259;
+    world.power.enumerationError = kNoMoreItems;
+    world.power.lastSleepTime = 1'000;
+    world.power.lastWakeTime = 2'000;
+    world.power.modernStandby = true;
+    world.power.resumesAutomatically = true;
+    world.wow64 = true;
+    world.programPath = "C:\\Tools\\host.exe";
+    world.programs = {{.path = std::string("C:\\Tools\\") + sweep::kProgram}};
+    world.processes = {{.id = sweep::kProcess, .path = "C:\\Tools\\running.exe"}};
+    world.adapters[0].ihv[simulation::Bytes(16)] = {{1, 2, 3, 4}};
+    return world;
+}
+
+simulation::Scenario Connected()
+{
+    return Furnished(RichWorld());
+}
+
+simulation::Scenario Disconnected()
+{
+    return Furnished(DisconnectedWorld());
+}
+
+/// Where another access point of the network is better than the connected one.
+simulation::Scenario Wandering()
+{
+    constexpr std::int32_t kAlmostGone = -88;
+    simulation::Scenario world = RichWorld();
+    world.accessPoints[0].rssi = kAlmostGone;
+    return Furnished(world);
+}
+
+/// Where the WLAN service can be started.
+simulation::Scenario Stopped()
+{
+    simulation::Scenario world = Connected();
+    world.serviceRunning = false;
+    return world;
+}
+
+constexpr World kWorlds[] = {
+    {"connected", Connected}, {"disconnected", Disconnected}, {"wandering", Wandering}, {"stopped", Stopped}};
+
+bool IsCodeOf(const MethodResults& results, long long code, DWORD injected, const Reference& reference)
+{
+    const Explanation explanation = Explain(results, code);
+    if (!explanation.known)
+        return false;
+    const bool isErrorNumber =
+        results.kind == host::ResultKind::platformError && explanation.failure && !FindCause(results, code);
+    return !isErrorNumber || static_cast<std::uint32_t>(code) == injected || reference.first == Outcome{code};
+}
+
+/// Whether a method may end so: with a code of its own, or with the platform's where it passes that on.
+void ExpectAllowed(const MethodCall& method, const Run& run, const Failure& failure, const Reference& reference)
+{
+    const MethodResults* const results = host::FindMethod(method.Name());
+    ASSERT_NE(results, nullptr);
+    if (!run.outcome.code)
+        return;
+    EXPECT_TRUE(IsCodeOf(*results, *run.outcome.code, failure.fault.error, reference))
+        << "the code is " << *run.outcome.code;
+}
+
+/// A release that the platform refuses leaves what it was to release.
+void ExpectNothingHeld(const simulation::Accounts& accounts, std::size_t refusedReleases)
+{
+    EXPECT_EQ(accounts.liveBlocks, 0U);
+    EXPECT_LE(accounts.openHandles, refusedReleases);
+    EXPECT_LE(accounts.openClients, 1U);
+    EXPECT_THAT(accounts.defects, testing::IsEmpty());
+}
+
+/// Called again, the method finds the computer as it was, or done with what it had asked for.
+void ExpectAsFresh(const Run& run, const Reference& reference)
+{
+    EXPECT_TRUE(run.again == reference.first || run.again == reference.again)
+        << "called again: " << run.again.code.value_or(0) << run.again.text << ", where nothing fails "
+        << reference.first.code.value_or(0) << reference.first.text << ", then " << reference.again.code.value_or(0)
+        << reference.again.text;
+}
+
+void Check(const World& world, const MethodCall& method, const Failure& failure, const Reference& reference)
+{
+    SCOPED_TRACE(std::string(world.name) + ": " + failure.Text());
+    const Run run = Repeat(world.make(), method, failure);
+    EXPECT_GE(run.failed, 1U) << "the call was not made";
+    ExpectAllowed(method, run, failure, reference);
+    const std::size_t refusedReleases = failure.IsRelease() ? run.failed : 0;
+    ExpectNothingHeld(run.afterwards, refusedReleases);
+    ExpectNothingHeld(run.inTheEnd, refusedReleases);
+    ExpectAsFresh(run, reference);
+}
+
+class EveryMethod : public testing::TestWithParam<MethodCall>
+{
+};
+
+TEST_P(EveryMethod, SurvivesEachFailure)
+{
+    for (const World& world : kWorlds)
+    {
+        const Reference reference = Record(world.make(), GetParam());
+        for (const Failure& failure : FailuresOf(reference))
+            Check(world, GetParam(), failure, reference);
+    }
+}
+
+std::string TestName(const testing::TestParamInfo<MethodCall>& method)
+{
+    std::string name = method.param.Name();
+    std::replace_if(
+        name.begin(), name.end(), [](unsigned char letter) { return std::isalnum(letter) == 0; }, 'X');
+    return name + "_" + std::to_string(method.index);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, EveryMethod, testing::ValuesIn(sweep::EveryMethod()), TestName);
+
+TEST(FailureSweep, MissesNoMethod)
+{
+    std::ifstream list(CALVIX_SOURCE_DIR "/tests/binary/exports.txt");
+    std::vector<std::string> exported;
+    for (std::string line; std::getline(list, line);)
+        exported.push_back(line);
+    std::vector<std::string> called;
+    for (const MethodCall& method : sweep::EveryMethod())
+        called.emplace_back(method.declaration);
+    EXPECT_THAT(called, testing::UnorderedElementsAreArray(exported));
+}
+
+TEST(FailureSweep, IsNotEmpty)
+{
+    constexpr std::size_t kAtLeast = 2700 * CALVIX_SWEEP_ERRORS;
+    std::size_t failures = 0;
+    for (const World& world : kWorlds)
+        for (const MethodCall& method : sweep::EveryMethod())
+            failures += FailuresOf(Record(world.make(), method)).size();
+    RecordProperty("failures", std::to_string(failures));
+    std::cout << failures << " failures of platform calls in the sweep\n";
+    EXPECT_GT(failures, kAtLeast);
+}
+
+} // namespace
+} // namespace calvix::test::failure_sweep_test

@@ -1,0 +1,68 @@
+#include "support/test_worlds.h"
+#include "sweep/method_call.h"
+
+namespace calvix::test::sweep
+{
+
+using Manager = CWirelessManage;
+
+namespace
+{
+
+constexpr int kCapacity = 4096;
+
+/// A profile document that the service takes.
+std::wstring Document()
+{
+    const std::string xml = MakeProfile("NewNet").xml;
+    return {xml.begin(), xml.end()};
+}
+
+Outcome ReadWide(Manager& manager)
+{
+    std::vector<wchar_t> xml(kCapacity);
+    return Told(manager.GetProfile(&kAdapterA, L"OfficeNet", xml.data(), kCapacity));
+}
+
+Outcome ReadNarrow(Manager& manager)
+{
+    std::vector<char> xml(kCapacity);
+    return Told(manager.GetProfile(&kAdapterA, L"OfficeNet", xml.data(), kCapacity));
+}
+
+Outcome CompareSsid(Manager& manager)
+{
+    wchar_t ssid[] = L"NewNet";
+    return Told(manager.IsThisSSID(Document().c_str(), ssid));
+}
+
+} // namespace
+
+std::vector<MethodCall> ProfileMethods()
+{
+    return {
+        {"GetWlanProfile(GUID const*, char const*)",
+         [](Manager& m) { return Told(m.GetWlanProfile(&kAdapterA, "OfficeNet")); }},
+        {"DeleteProfile(GUID const*, char const*)",
+         [](Manager& m) { return Told(m.DeleteProfile(&kAdapterA, "OfficeNet")); }},
+        {"DeleteProfile(GUID const*, wchar_t const*)",
+         [](Manager& m) { return Told(m.DeleteProfile(&kAdapterA, L"OfficeNet")); }},
+        {"ResetProfilePosition(GUID const*, char const*)",
+         [](Manager& m) { return Told(m.ResetProfilePosition(&kAdapterA, "OfficeNet")); }},
+        {"SetProfilePosition(GUID const*, wchar_t const*)",
+         [](Manager& m) { return Told(m.SetProfilePosition(&kAdapterA, L"OfficeNet")); }},
+        {"GetProfileCount(GUID const*)", [](Manager& m) { return Told(m.GetProfileCount(&kAdapterA)); }},
+        {"GetProfile(GUID const*, wchar_t const*, wchar_t*, int)", ReadWide},
+        {"GetProfile(GUID const*, wchar_t const*, char*, int)", ReadNarrow},
+        {"GetProfile(GUID const*, wchar_t const*)",
+         [](Manager& m) { return Told(m.GetProfile(&kAdapterA, L"OfficeNet")); }},
+        {"SetProfile(GUID const*, wchar_t const*)",
+         [](Manager& m) { return Told(m.SetProfile(&kAdapterA, Document().c_str())); }},
+        {"IsThisSSID(wchar_t const*, wchar_t*)", CompareSsid},
+        {"IsAutoConnMode(wchar_t const*)", [](Manager& m) { return Told(m.IsAutoConnMode(Document().c_str())); }},
+        {"IsAutoConnMode2(GUID const*, wchar_t const*)",
+         [](Manager& m) { return Told(m.IsAutoConnMode2(&kAdapterA, L"HomeNet")); }},
+    };
+}
+
+} // namespace calvix::test::sweep
