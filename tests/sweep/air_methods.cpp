@@ -11,8 +11,8 @@ namespace
 
 Outcome RescanWithError(Manager& manager)
 {
-    unsigned long error = 0;
-    return Told(manager.Rescan(&kAdapterA, error));
+    Output<unsigned long> error;
+    return Told(manager.Rescan(&kAdapterA, error.value), error);
 }
 
 Outcome LookForNetwork(Manager& manager)
@@ -24,21 +24,23 @@ Outcome LookForNetwork(Manager& manager)
 Outcome AskReason(Manager& manager)
 {
     DOT11_SSID ssid = MakeSsid("OfficeNet");
-    int connectable = 0;
-    unsigned long reason = 0;
-    return Told(manager.GetNotConnectableReason(&kAdapterA, &ssid, dot11_BSS_type_infrastructure, connectable, reason));
+    Output<int> connectable;
+    Output<unsigned long> reason;
+    return Told(manager.GetNotConnectableReason(&kAdapterA, &ssid, dot11_BSS_type_infrastructure, connectable.value,
+                                                reason.value),
+                connectable, reason);
 }
 
 Outcome AskRssi(Manager& manager)
 {
-    int rssi = 0;
-    return Told(manager.GetRssi(&kAdapterA, rssi));
+    Output<int> rssi;
+    return Told(manager.GetRssi(&kAdapterA, rssi.value), rssi);
 }
 
 Outcome AskCurrentRssi(Manager& manager)
 {
-    int rssi = 0;
-    return Told(manager.GetCurrentRSSI(&kAdapterA, rssi));
+    Output<int> rssi;
+    return Told(manager.GetCurrentRSSI(&kAdapterA, rssi.value), rssi);
 }
 
 Outcome EstimateRssi(Manager& manager)
@@ -49,21 +51,21 @@ Outcome EstimateRssi(Manager& manager)
 
 Outcome ListSoftAccessPoints(Manager& manager)
 {
-    std::vector<std::string> names;
-    return Told(manager.GetSoftAPList(&kAdapterA, &names));
+    OutputList<std::string> names;
+    return Told(manager.GetSoftAPList(&kAdapterA, &names.value), names);
 }
 
 Outcome AskReasonText(Manager& manager)
 {
-    char text[64] = {};
-    return Told(manager.ReasonCode2String(0, text, sizeof(text)));
+    TextOutput<64> text;
+    return Told(manager.ReasonCode2String(0, text.value.data(), sizeof(text.value)), text);
 }
 
 template <typename Entry, typename Method>
 Outcome WithList(const Method& method)
 {
-    std::vector<Entry> list;
-    return Told(method(&list));
+    OutputList<Entry> list;
+    return Told(method(&list.value), list);
 }
 
 Outcome ListMatching(Manager& manager)

@@ -1,11 +1,13 @@
 #include "sweep/bench.h"
 
 #include "core/trace.h"
+#include "support/edited_answers.h"
 #include "support/manager_internals.h"
 #include "wrappers/call_log.h"
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <span>
 #include <string_view>
@@ -25,6 +27,50 @@ constexpr std::array<DWORD, 3> kStatuses = {0xC0000022, 0xC000000D, 0xC00000BB};
 constexpr std::array<std::string_view, 5> kNeverFail = {"WlanFreeMemory", "LocalFree", "Sleep", "GetCurrentProcess",
                                                         "OutputDebugStringA"};
 constexpr std::array<std::string_view, 3> kReleases = {"WlanCloseHandle", "CloseServiceHandle", "CloseHandle"};
+
+constexpr std::array<std::string_view, 4> kLists = {"WlanEnumInterfaces", "WlanGetProfileList",
+                                                    "WlanGetAvailableNetworkList", "WlanGetNetworkBssList"};
+
+/// Takes the entries out of the lists that a failure of that kind is about.
+class Emptying
+{
+public:
+    explicit Emptying(const Failure& failure) : m_failure(failure)
+    {
+        m_answers.service.interfaceList = For<WLAN_INTERFACE_INFO_LIST>("WlanEnumInterfaces");
+        m_answers.service.profileList = For<WLAN_PROFILE_INFO_LIST>("WlanGetProfileList");
+        m_answers.service.networkList = For<WLAN_AVAILABLE_NETWORK_LIST>("WlanGetAvailableNetworkList");
+        m_answers.service.bssList = [empty = For<WLAN_BSS_LIST>("WlanGetNetworkBssList")](WLAN_BSS_LIST& list, unsigned)
+        { empty(list); };
+    }
+
+    unsigned Emptied() const { return m_emptied; }
+
+private:
+    template <typename List>
+    std::function<void(List&)> For(std::string_view operation)
+    {
+        return [this, concerned = operation == m_failure.operation](List& list)
+        {
+            if (!concerned || ++m_seen < m_failure.fault.fromCall)
+                return;
+            if (m_seen - m_failure.fault.fromCall < m_failure.fault.times)
+                Empty(list);
+        };
+    }
+
+    template <typename List>
+    void Empty(List& list)
+    {
+        list.dwNumberOfItems = 0;
+        ++m_emptied;
+    }
+
+    const Failure& m_failure;
+    EditedAnswers m_answers;
+    unsigned m_seen = 0;
+    unsigned m_emptied = 0;
+};
 
 template <std::size_t Count>
 bool Contains(const std::array<std::string_view, Count>& names, std::string_view name)
@@ -101,6 +147,9 @@ Reference Record(const simulation::Scenario& world, const MethodCall& method)
 
 std::string Failure::Text() const
 {
+    if (emptied)
+        return operation + " from call " + std::to_string(fault.fromCall) + " lists nothing, " +
+               std::to_string(fault.times) + " times";
     return operation + " call " + std::to_string(fault.fromCall) +
            (fault.times == 1 ? " fails with " : " and all later ones fail with ") + std::to_string(fault.error);
 }
@@ -123,9 +172,35 @@ std::vector<Failure> FailuresOf(const Reference& reference)
         for (const DWORD error : std::span(errors).first<CALVIX_SWEEP_ERRORS>())
             for (const unsigned times : {1U, Fault::kUnlimited})
                 failures.push_back({operation, {error, number, times}});
+        if (Contains(kLists, operation))
+            for (const unsigned times : {1U, Fault::kUnlimited})
+                failures.push_back({operation, {0, number, times}, true});
     }
     return failures;
 }
+
+namespace
+{
+
+/// Calls the method while the platform lets it down, and counts how often.
+Outcome CallInTrouble(
+    Bench& bench, wrappers::FaultInjection& faults, const MethodCall& method, const Failure& failure, unsigned& failed)
+{
+    if (failure.emptied)
+    {
+        const Emptying emptying(failure);
+        const Outcome outcome = bench.Call(method);
+        failed = emptying.Emptied();
+        return outcome;
+    }
+    faults.Fail(failure.operation, failure.fault);
+    const Outcome outcome = bench.Call(method);
+    failed = faults.Injected();
+    faults.Clear();
+    return outcome;
+}
+
+} // namespace
 
 Run Repeat(const simulation::Scenario& world, const MethodCall& method, const Failure& failure)
 {
@@ -133,10 +208,7 @@ Run Repeat(const simulation::Scenario& world, const MethodCall& method, const Fa
     Bench bench(world, faults);
     bench.Prepare(method);
     Run run;
-    faults.Fail(failure.operation, failure.fault);
-    run.outcome = bench.Call(method);
-    run.failed = faults.Injected();
-    faults.Clear();
+    run.outcome = CallInTrouble(bench, faults, method, failure, run.failed);
     run.afterwards = bench.Audit();
     run.again = bench.Call(method);
     run.inTheEnd = bench.Audit();

@@ -49,13 +49,15 @@ struct Failure
 {
     std::string operation;
     wrappers::Fault fault;
+    bool emptied = false; ///< the call is answered, with an empty list
 
     std::string Text() const;
     /// Whether the operation gives something back, which then stays with the program that wanted to.
     bool IsRelease() const;
 };
 
-/// Every recorded call that can fail: alone and with all that follow of its operation, each with several errors.
+/// Every recorded call that can fail: alone and with all that follow of its operation, each with several errors. Those
+/// that give a list are answered with an empty one, too.
 std::vector<Failure> FailuresOf(const Reference& reference);
 
 /// A failure's run.

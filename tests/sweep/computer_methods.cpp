@@ -14,26 +14,26 @@ constexpr DOT11_SSID kHome = {4, {'H', 'o', 'm', 'e'}};
 
 Outcome ToAnsi(Manager& manager)
 {
-    char text[1024] = {};
-    return Told(manager.UnicodeToAnsi(L"Home", text));
+    TextOutput<1024> text;
+    return Told(manager.UnicodeToAnsi(L"Home", text.value.data()), text);
 }
 
 Outcome ToNarrow(Manager& manager)
 {
-    char text[8] = {};
-    return Told(manager.WideCharToChar(L"Home", text, sizeof(text)));
+    TextOutput<8> text;
+    return Told(manager.WideCharToChar(L"Home", text.value.data(), sizeof(text.value)), text);
 }
 
 Outcome SsidText(Manager& manager)
 {
-    char text[33] = {};
-    return Told(manager.GetSSID(&kHome, text, sizeof(text)));
+    TextOutput<33> text;
+    return Told(manager.GetSSID(&kHome, text.value.data(), sizeof(text.value)), text);
 }
 
 Outcome WideSsidText(Manager& manager)
 {
-    wchar_t text[33] = {};
-    return Told(manager.GetSSID(&kHome, text, 33));
+    Output<std::array<wchar_t, 33>> text;
+    return Told(manager.GetSSID(&kHome, text.value.data(), 33), text);
 }
 
 Outcome FromHex(Manager& manager)

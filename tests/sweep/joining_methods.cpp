@@ -48,8 +48,8 @@ Outcome WithFormer(const Method& method)
 template <typename Method>
 Outcome WithAttributes(const Method& method)
 {
-    WLAN_CONNECTION_ATTRIBUTES attributes{};
-    return Told(method(&attributes));
+    Output<WLAN_CONNECTION_ATTRIBUTES> attributes;
+    return Told(method(&attributes.value), attributes);
 }
 
 template <typename Method>
@@ -61,29 +61,32 @@ Outcome WithExcluded(const Method& method)
 
 Outcome ReadSsid(Manager& manager)
 {
-    char ssid[33] = {};
-    return Told(manager.GetCurrentSSID(ssid, sizeof(ssid)));
+    TextOutput<33> ssid;
+    return Told(manager.GetCurrentSSID(ssid.value.data(), sizeof(ssid.value)), ssid);
 }
 
 Outcome ReadSsidAndConnection(Manager& manager)
 {
-    char ssid[33] = {};
-    return WithAttributes([&](auto* attributes) { return manager.GetCurrentSSID(ssid, sizeof(ssid), attributes); });
+    TextOutput<33> ssid;
+    Output<WLAN_CONNECTION_ATTRIBUTES> attributes;
+    return Told(manager.GetCurrentSSID(ssid.value.data(), sizeof(ssid.value), &attributes.value), ssid, attributes);
 }
 
 Outcome ReadLink(Manager& manager)
 {
-    int state = 0;
-    int bssType = 0;
-    char ssid[33] = {};
-    char bssid[6] = {};
-    return Told(manager.GetCurrentLinkInfo(&kAdapterA, &state, &bssType, ssid, sizeof(ssid), bssid));
+    Output<int> state;
+    Output<int> bssType;
+    TextOutput<33> ssid;
+    TextOutput<6> bssid;
+    return Told(manager.GetCurrentLinkInfo(&kAdapterA, &state.value, &bssType.value, ssid.value.data(),
+                                           sizeof(ssid.value), bssid.value.data()),
+                state, bssType, ssid, bssid);
 }
 
 Outcome ReadStatistics(Manager& manager)
 {
-    _WIFI_TXRX_COUNT count{};
-    return Told(manager.GetWlanStatistics(&kAdapterA, &count));
+    Output<_WIFI_TXRX_COUNT> count;
+    return Told(manager.GetWlanStatistics(&kAdapterA, &count.value), count);
 }
 
 Outcome Link(Manager& manager)
@@ -111,8 +114,8 @@ void SaveNotification(Manager& manager)
 
 Outcome JoinFirstMatch(Manager& manager)
 {
-    char profileName[128] = {};
-    return Told(manager.SmartConnecting(&kAdapterA, profileName));
+    TextOutput<128> profileName;
+    return Told(manager.SmartConnecting(&kAdapterA, profileName.value.data()), profileName);
 }
 
 std::vector<MethodCall> CurrentConnectionMethods()

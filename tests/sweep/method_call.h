@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sweep/output.h"
+
 #include <calvix/wireless_manage.h>
 
 #include <iosfwd>
@@ -16,6 +18,7 @@ struct Outcome
 {
     std::optional<long long> code; ///< none where the result is no number
     std::string text{};
+    bool wroteOutput = false; ///< whether anything that the method was given to fill has changed
 
     bool operator==(const Outcome&) const = default;
 };
@@ -53,13 +56,14 @@ inline Outcome Nothing()
     return {std::nullopt};
 }
 
-template <typename Result>
-Outcome Told(Result result)
+template <typename Result, typename... Outputs>
+Outcome Told(Result result, const Outputs&... outputs)
 {
+    const bool wrote = (outputs.Written() || ... || false);
     if constexpr (std::is_arithmetic_v<Result>)
-        return {static_cast<long long>(result)};
+        return {static_cast<long long>(result), {}, wrote};
     else
-        return {std::nullopt, result == nullptr ? "null" : reinterpret_cast<const char*>(result)};
+        return {std::nullopt, result == nullptr ? "null" : reinterpret_cast<const char*>(result), wrote};
 }
 
 } // namespace calvix::test::sweep

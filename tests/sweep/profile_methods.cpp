@@ -20,14 +20,14 @@ std::wstring Document()
 
 Outcome ReadWide(Manager& manager)
 {
-    std::vector<wchar_t> xml(kCapacity);
-    return Told(manager.GetProfile(&kAdapterA, L"OfficeNet", xml.data(), kCapacity));
+    Output<std::array<wchar_t, kCapacity>> xml;
+    return Told(manager.GetProfile(&kAdapterA, L"OfficeNet", xml.value.data(), kCapacity), xml);
 }
 
 Outcome ReadNarrow(Manager& manager)
 {
-    std::vector<char> xml(kCapacity);
-    return Told(manager.GetProfile(&kAdapterA, L"OfficeNet", xml.data(), kCapacity));
+    TextOutput<kCapacity> xml;
+    return Told(manager.GetProfile(&kAdapterA, L"OfficeNet", xml.value.data(), kCapacity), xml);
 }
 
 Outcome CompareSsid(Manager& manager)

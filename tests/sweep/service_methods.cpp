@@ -18,40 +18,41 @@ void Register(Manager& manager)
 
 Outcome ListAdapters(Manager& manager)
 {
-    std::vector<WLAN_INTERFACE_INFO> adapters;
-    return Told(manager.GetWlanInterface(&adapters));
+    OutputList<WLAN_INTERFACE_INFO> adapters;
+    return Told(manager.GetWlanInterface(&adapters.value), adapters);
 }
 
 Outcome FindAdapter(Manager& manager)
 {
-    GUID guid{};
-    return Told(manager.GetWlanInterfaceGuid(kAdapterADescription, guid));
+    Output<GUID> guid;
+    return Told(manager.GetWlanInterfaceGuid(kAdapterADescription, guid.value), guid);
 }
 
 Outcome AskBothSwitches(Manager& manager)
 {
-    unsigned int software = 0;
-    unsigned int hardware = 0;
-    return Told(manager.PhyRadioIsOn2(&kAdapterA, software, hardware));
+    Output<unsigned int> software;
+    Output<unsigned int> hardware;
+    return Told(manager.PhyRadioIsOn2(&kAdapterA, software.value, hardware.value), software, hardware);
 }
 
 Outcome SwitchOn(Manager& manager)
 {
-    unsigned long error = 0;
-    return Told(manager.TurnOnSoftwareRadio(&kAdapterA, error));
+    Output<unsigned long> error;
+    return Told(manager.TurnOnSoftwareRadio(&kAdapterA, error.value), error);
 }
 
 Outcome AskPowerSetting(Manager& manager)
 {
-    unsigned long level = 0;
-    return Told(manager.GetPowerSetting(level));
+    Output<unsigned long> level;
+    return Told(manager.GetPowerSetting(level.value), level);
 }
 
 Outcome AskDriver(Manager& manager)
 {
-    char buffer[16] = {};
-    unsigned long returned = 0;
-    return Told(manager.IhvControl(&kAdapterA, buffer, sizeof(buffer), returned));
+    TextOutput<16> buffer;
+    Output<unsigned long> returned;
+    return Told(manager.IhvControl(&kAdapterA, buffer.value.data(), sizeof(buffer.value), returned.value), buffer,
+                returned);
 }
 
 Outcome Restart(Manager& manager)
