@@ -24,7 +24,7 @@ namespace
 
 constexpr unsigned char freedPattern = 0xdd;
 constexpr std::size_t mostFreedBlocks = 4096;
-constexpr std::size_t mostFreedBytes = 16u * 1024 * 1024;
+constexpr std::size_t mostFreedBytes = std::size_t{16} * 1024 * 1024;
 
 // The sanitizer stops the program at the very read or write of a freed block; without it a write shows later, by
 // the pattern.

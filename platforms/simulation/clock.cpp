@@ -11,7 +11,9 @@ namespace
 {
 
 constexpr std::uint64_t unitsPerMillisecond = 10'000;
-constexpr std::uint64_t millisecondsPerDay = 24ull * 60 * 60 * 1000;
+constexpr std::uint64_t millisecondsPerMinute = 60'000;
+constexpr std::uint64_t millisecondsPerHour = 60 * millisecondsPerMinute;
+constexpr std::uint64_t millisecondsPerDay = 24 * millisecondsPerHour;
 constexpr std::uint64_t latestTime = 0x7fffffffffffffff;
 
 struct Date
@@ -80,8 +82,8 @@ BOOL SimulatedClock::FileTimeToSystemTime(const FILETIME* fileTime, SYSTEMTIME* 
     systemTime->wMonth = static_cast<WORD>(date.month);
     systemTime->wDay = static_cast<WORD>(date.day);
     systemTime->wDayOfWeek = static_cast<WORD>((days + 1) % 7); // 1601 began on a Monday
-    systemTime->wHour = static_cast<WORD>(ofDay / (60 * 60 * 1000));
-    systemTime->wMinute = static_cast<WORD>(ofDay / (60 * 1000) % 60);
+    systemTime->wHour = static_cast<WORD>(ofDay / millisecondsPerHour);
+    systemTime->wMinute = static_cast<WORD>(ofDay / millisecondsPerMinute % 60);
     systemTime->wSecond = static_cast<WORD>(ofDay / 1000 % 60);
     systemTime->wMilliseconds = static_cast<WORD>(ofDay % 1000);
     return TRUE;

@@ -123,7 +123,7 @@ std::string EncodeNarrow(std::uint32_t codePage,
         text.remove_prefix(ConvertStretch(encoder, text, result));
         if (text.empty())
             return result;
-        const auto character = static_cast<std::uint32_t>(text.front());
+        const std::uint32_t character = static_cast<char32_t>(text.front());
         text.remove_prefix(1);
         if (IsControlInPlatformTable(codePage, character))
         {
