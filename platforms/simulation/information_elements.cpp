@@ -1,6 +1,7 @@
 #include "simulation/information_elements.h"
 
 #include "platform/records/wlan_constants.h"
+#include "simulation/channel_elements.h"
 
 #include <initializer_list>
 #include <optional>
@@ -150,6 +151,8 @@ Bytes InformationElements(const HeardBss& bss)
         Append(elements, channelElement, {Channel24Ghz(bss.accessPoint.frequencyKhz)});
     }
     AppendSecurity(elements, bss.security);
+    const Bytes channel = ChannelElements(bss.accessPoint);
+    elements.insert(elements.end(), channel.begin(), channel.end());
     return elements;
 }
 

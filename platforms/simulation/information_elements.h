@@ -6,7 +6,7 @@ namespace calvix::simulation
 {
 
 /// What an access point's beacons carry. Where the scenario says nothing it is made up from the other facts: SSID,
-/// rates, the channel in the 2.4 GHz band, and how the network is secured.
+/// rates, the channel in the 2.4 GHz band, how the network is secured, and how wide the channel is.
 Bytes InformationElements(const HeardBss& bss);
 
 /// Legacy rates of an access point's band, in 500 kbit/s, the basic ones with their highest bit set.

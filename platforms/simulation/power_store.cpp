@@ -184,7 +184,7 @@ UINT PowerStore::UnusedLegacyId() const
 void PowerStore::ActivateLegacy(UINT id, const POWER_POLICY* policy)
 {
     m_activeLegacy = id;
-    m_current = policy != nullptr ? *policy : FindLegacy(id)->policy;
+    m_current = policy != nullptr ? *policy : m_legacy.at(id).policy;
 }
 
 } // namespace calvix::simulation

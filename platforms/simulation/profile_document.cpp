@@ -38,11 +38,8 @@ bool IsNestedTooDeep(std::string_view xml)
     int depth = 0;
     for (std::size_t at = 0; at + 1 < xml.size() && depth <= deepestNesting; ++at)
     {
-        if (xml[at] == '<' && xml[at + 1] == '/')
-        {
-            --depth;
-        }
-        else if (xml[at] == '/' && xml[at + 1] == '>')
+        const std::string_view mark = xml.substr(at, 2);
+        if (mark == "</" || mark == "/>")
         {
             --depth;
         }
@@ -87,7 +84,7 @@ bool ReadFlag(const Element& parent, const char* name, bool otherwise)
 
 std::wstring ReadName(const Element& root)
 {
-    const std::wstring name = WideFromUtf8(Text(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
+    std::wstring name = WideFromUtf8(Text(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
     if (name.empty() || name.size() > longestName)
     {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_NAME);

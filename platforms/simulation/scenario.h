@@ -60,6 +60,7 @@ struct AccessPoint
     std::string key{};                ///< passphrase that it takes; empty: any
     bool answers = true;              ///< whether it replies to those who want to associate
     std::vector<SignalPoint> timetable{}; ///< if not empty, in place of rssi; see SignalAt
+    std::uint32_t channelWidth = 0;       ///< MHz, as made-up information elements tell it; 0: they do not
 
     bool operator==(const AccessPoint&) const = default;
 };

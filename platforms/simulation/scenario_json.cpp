@@ -288,6 +288,7 @@ AccessPoint ReadAccessPoint(const Value& value)
         point.informationElements = ReadHex(value["informationElements"]);
     value.Read("key", point.key);
     value.Read("answers", point.answers);
+    value.Read("channelWidth", point.channelWidth);
     point.timetable = ReadTimetable(value);
     return point;
 }
@@ -486,12 +487,13 @@ Scenario ReadScenario(const Value& root)
     return scenario;
 }
 
-/// "[json.exception.parse_error.101] parse error at line 3, column 5: ..." from "line" on.
-std::string SyntaxProblem(const json::parse_error& error)
+/// "[json.exception.parse_error.101] parse error at line 3, column 5: ..." from "line" on; what tells of no line, such as
+/// a number too large to be one, without its label.
+std::string SyntaxProblem(const json::exception& error)
 {
     const std::string text = error.what();
     const std::size_t line = text.find("line ");
-    return line == std::string::npos ? text : text.substr(line);
+    return text.substr(line != std::string::npos ? line : text.find("] ") + 2);
 }
 
 } // namespace
@@ -503,7 +505,7 @@ Scenario ParseScenario(const std::string& text, const std::string& source)
     {
         document = json::parse(text);
     }
-    catch (const json::parse_error& error)
+    catch (const json::exception& error)
     {
         throw ScenarioError(source + ": " + SyntaxProblem(error));
     }

@@ -54,7 +54,7 @@ std::vector<std::uint8_t> FriendlyName(const std::string& text)
     std::vector<std::uint8_t> bytes;
     for (const wchar_t character : WideFromUtf8(text))
     {
-        const auto value = static_cast<std::uint32_t>(character);
+        const std::uint32_t value = static_cast<char32_t>(character);
         if (value < kFirstAfterBasicPlane)
         {
             AppendUnit(bytes, value);

@@ -110,6 +110,8 @@ Json WriteAccessPoint(const AccessPoint& point)
         result["key"] = point.key;
     if (!point.answers)
         result["answers"] = false;
+    if (point.channelWidth != 0)
+        result["channelWidth"] = point.channelWidth;
     if (!point.timetable.empty())
         result["timetable"] = WriteTimetable(point);
     return result;

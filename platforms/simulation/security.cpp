@@ -42,6 +42,8 @@ BOOL SimulatedSecurity::OpenProcessToken(HANDLE process, DWORD access, HANDLE* t
         // Chosen: no other process's token is to be had.
         return Fail(ERROR_ACCESS_DENIED);
     }
+    std::erase_if(m_rights,
+                  [this](const auto& each) { return !m_machine.handles.IsOpen(each.first, HandleKind::token); });
     *token = m_machine.handles.Open(HandleKind::token);
     m_rights[*token] = access;
     return TRUE;

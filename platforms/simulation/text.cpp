@@ -47,8 +47,10 @@ bool IsLeadByte(std::uint32_t codePage, std::uint8_t byte)
 /// How many elements of the character at `position` follow its first.
 std::size_t FollowingElements(std::uint32_t, std::wstring_view text, std::size_t position)
 {
-    const auto element = static_cast<char32_t>(text[position]);
-    return sizeof(wchar_t) == 2 && element >= 0xD800 && element < 0xDC00 ? 1 : 0;
+    if constexpr (sizeof(wchar_t) == 2)
+        return text[position] >= 0xD800 && text[position] < 0xDC00 ? 1 : 0;
+    else
+        return 0;
 }
 
 std::size_t FollowingElements(std::uint32_t codePage, std::string_view text, std::size_t position)
