@@ -1,8 +1,12 @@
-#include "paired_benchmark.h"
-#include "result_table.h"
+#include "growth/growth_benchmarks.h"
+#include "measure/report.h"
+#include "methods/method_benchmarks.h"
+#include "methods/method_row.h"
+#include "simulator/simulator_benchmarks.h"
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <vector>
 
 #if defined(__GLIBC__)
@@ -11,6 +15,8 @@
 
 namespace
 {
+
+using namespace calvix::benchmarks;
 
 /// The C library gives large blocks back to the system at once, so that every list of a few megabytes would pay for
 /// fresh pages: their price, not the library's, would then be measured.
@@ -22,14 +28,20 @@ void KeepLargeBlocks()
 #endif
 }
 
-/// The program's arguments behind those that make it repeat each benchmark, the two sides of a pair in random turns, so
-/// that both meet the machine's quiet and busy moments.
+/// Whether every exported method is measured.
+bool CoversAllMethods()
+{
+    const std::vector<std::string> uncovered = Uncovered(AllRows(), CALVIX_EXPORTS_FILE);
+    for (const std::string& method : uncovered)
+        std::fprintf(stderr, "exported or measured, but not both: %s\n", method.c_str());
+    return uncovered.empty();
+}
+
+/// The program's arguments behind the usual ones.
 std::vector<char*> WithDefaults(int argumentCount, char** arguments)
 {
     static char repetitions[] = "--benchmark_repetitions=9";
-    static char duration[] = "--benchmark_min_time=0.03";
-    static char interleaved[] = "--benchmark_enable_random_interleaving=true";
-    std::vector<char*> all{arguments[0], repetitions, duration, interleaved};
+    std::vector<char*> all{arguments[0], repetitions};
     all.insert(all.end(), arguments + 1, arguments + argumentCount);
     return all;
 }
@@ -39,6 +51,8 @@ std::vector<char*> WithDefaults(int argumentCount, char** arguments)
 int main(int argc, char** argv)
 {
     KeepLargeBlocks();
+    if (!CoversAllMethods())
+        return 1;
     std::vector<char*> arguments = WithDefaults(argc, argv);
     int count = static_cast<int>(arguments.size());
     arguments.push_back(nullptr);
@@ -46,10 +60,11 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
         return 2;
 
-    calvix::benchmarks::RegisterMatchBenchmarks();
-    calvix::benchmarks::RegisterThinWrapperBenchmarks();
-    calvix::benchmarks::ResultTable table(calvix::benchmarks::PairNames());
-    benchmark::RunSpecifiedBenchmarks(&table);
+    RegisterMethodBenchmarks();
+    RegisterGrowthBenchmarks();
+    RegisterSimulatorBenchmarks();
+    Report report;
+    benchmark::RunSpecifiedBenchmarks(&report);
     benchmark::Shutdown();
-    return table.HasErrors() ? 1 : 0;
+    return report.HasErrors() ? 1 : 0;
 }

@@ -1,5 +1,6 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/fixed_text.h"
 #include "core/profile_network_match.h"
 #include "core/service_steps.h"
 
@@ -22,7 +23,7 @@ int CollectMatches(HANDLE& client, const GUID* interfaceGuid, Trace& trace, Coun
     if (const int code = ListProfilesAndNetworks(client, interfaceGuid, profiles, networks, trace, kApListCodes))
         return code;
 
-    const NetworksByProfile networksByProfile(*networks);
+    NetworksByProfile networksByProfile(*networks);
     int result = 0;
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
     {
@@ -81,9 +82,10 @@ int CWirelessManage::GetConnectableAPList(const GUID* pInterfaceGuid, wchar_t* n
     if (name == nullptr)
         return -14;
     LocalTrace<128> trace;
-    const auto namedOrAutomatic = [=, this](const WLAN_PROFILE_INFO& profile) {
+    const auto namedOrAutomatic = [=, this](const WLAN_PROFILE_INFO& profile)
+    {
         return FixedText(profile.strProfileName) == name ||
-               IsAutoConnMode2(pInterfaceGuid, profile.strProfileName) == 1;
+               IsAutoConnMode2(pInterfaceGuid, TerminatedName(profile.strProfileName)) == 1;
     };
     return CollectMatches(hClient, pInterfaceGuid, trace, namedOrAutomatic, AppendEntriesTo(*pList));
 }
@@ -125,7 +127,7 @@ int CWirelessManage::GetMatchAPCount(const GUID* pInterfaceGuid,
     {
         if (mode != 1 || (name != nullptr && FixedText(profile.strProfileName) == name))
             return true;
-        return IsAutoConnMode2(pInterfaceGuid, profile.strProfileName) == 1;
+        return IsAutoConnMode2(pInterfaceGuid, TerminatedName(profile.strProfileName)) == 1;
     };
     return CollectMatches(hClient, pInterfaceGuid, trace, counts, AppendNameTo(*pNames, trace));
 }

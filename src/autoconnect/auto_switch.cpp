@@ -2,6 +2,7 @@
 
 #include "autoconnect/connection_walk.h"
 #include "autoconnect/ssid_as_profile_name.h"
+#include "core/fixed_text.h"
 #include "core/service_steps.h"
 
 using namespace calvix;
@@ -29,9 +30,9 @@ int CWirelessManage::AutoSwitch(const GUID* pInterfaceGuid)
     if (profiles->dwNumberOfItems > 1)
     {
         const DWORD last = profiles->dwNumberOfItems - 1;
-        if (trace.Failed(
-                wlan().WlanSetProfilePosition(hClient, pInterfaceGuid, connection->strProfileName, last, nullptr),
-                "WlanSetProfilePosition failed with error: %u"))
+        if (trace.Failed(wlan().WlanSetProfilePosition(hClient, pInterfaceGuid,
+                                                       TerminatedName(connection->strProfileName), last, nullptr),
+                         "WlanSetProfilePosition failed with error: %u"))
             return -5;
     }
     if (ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace) != 0)
@@ -51,7 +52,7 @@ int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
     if (const ErrorNumber error = QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace))
         return static_cast<int>(error);
     const WLAN_ASSOCIATION_ATTRIBUTES& current = connection->wlanAssociationAttributes;
-    wchar_t currentSsid[kSsidTextCapacity] = {};
+    wchar_t currentSsid[kSsidTextCapacity];
     if (!SsidAsProfileName(current.dot11Ssid, kLongestSwitchedSsid, currentSsid))
     {
         const DWORD error = platform::errors().GetLastError();
@@ -62,7 +63,7 @@ int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
         return static_cast<int>(error);
     if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace))
         return static_cast<int>(error);
-    const NetworksByProfile networksByProfile(*networks);
+    NetworksByProfile networksByProfile(*networks);
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
     {
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))

@@ -1,6 +1,7 @@
 #include <calvix/wireless_manage.h>
 
 #include "autoconnect/ranked_connection.h"
+#include "core/fixed_text.h"
 #include "core/ssid.h"
 
 #include <algorithm>
@@ -32,7 +33,10 @@ int ConnectBest(CWirelessManage& manager,
     const auto usesProfile = [excludedName](const WLAN_PROFILE_INFO& profile)
     { return excludedName == nullptr || FixedText(profile.strProfileName) != excludedName; };
     const auto accepts = [&](const WLAN_AVAILABLE_NETWORK& network)
-    { return manager.IsAutoConnMode2(interfaceGuid, network.strProfileName) == 1 && !Excludes(excluded, network); };
+    {
+        return manager.IsAutoConnMode2(interfaceGuid, TerminatedName(network.strProfileName)) == 1 &&
+               !Excludes(excluded, network);
+    };
     return ConnectRanked(client, interfaceGuid, trace, usesProfile, accepts);
 }
 

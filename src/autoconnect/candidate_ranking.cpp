@@ -5,6 +5,7 @@
 #include "core/wlan_lists.h"
 
 #include <algorithm>
+#include <bitset>
 #include <string_view>
 #include <unordered_map>
 
@@ -18,21 +19,33 @@ constexpr unsigned long kBonus = 10;
 constexpr unsigned long kBestScore = 100;
 constexpr std::uint32_t kHighestTwoPointFourChannel = 14;
 
+bool HasLowerScore(const Candidate& left, const Candidate& right)
+{
+    return left.score < right.score;
+}
+
 std::string_view FirstBytes(const DOT11_SSID& ssid, std::size_t length)
 {
     return {reinterpret_cast<const char*>(ssid.ucSSID), length};
 }
 
 /// BSS entries that earn the bonus, counted by SSID.
-using BonusBySsid = std::unordered_map<std::string_view, unsigned>;
+struct BonusBySsid
+{
+    std::unordered_map<std::string_view, unsigned> entries;
+    std::bitset<DOT11_SSID_MAX_LENGTH + 1> lengths; ///< of the SSIDs: there is nothing to be found under others
+};
 
 BonusBySsid CountBonusEntries(const WLAN_BSS_LIST& entries)
 {
     BonusBySsid bonus;
     for (const WLAN_BSS_ENTRY& entry : Items(entries))
     {
-        if (ChannelOfFrequency(entry.ulChCenterFrequency) > kHighestTwoPointFourChannel)
-            ++bonus[FirstBytes(entry.dot11Ssid, SsidLength(entry.dot11Ssid))];
+        if (ChannelOfFrequency(entry.ulChCenterFrequency) <= kHighestTwoPointFourChannel)
+            continue;
+        const std::size_t length = SsidLength(entry.dot11Ssid);
+        ++bonus.entries[FirstBytes(entry.dot11Ssid, length)];
+        bonus.lengths.set(length);
     }
     return bonus;
 }
@@ -41,10 +54,12 @@ BonusBySsid CountBonusEntries(const WLAN_BSS_LIST& entries)
 unsigned BonusOf(const DOT11_SSID& candidate, const BonusBySsid& bonus)
 {
     unsigned entries = 0;
-    for (std::size_t length = 0; length <= sizeof(candidate.ucSSID); ++length)
+    for (std::size_t length = 0; length < bonus.lengths.size(); ++length)
     {
-        const auto found = bonus.find(FirstBytes(candidate, length));
-        if (found != bonus.end())
+        if (!bonus.lengths.test(length))
+            continue;
+        const auto found = bonus.entries.find(FirstBytes(candidate, length));
+        if (found != bonus.entries.end())
             entries += found->second;
     }
     return entries;
@@ -55,7 +70,7 @@ unsigned BonusOf(const DOT11_SSID& candidate, const BonusBySsid& bonus)
 void AddBandBonus(std::vector<Candidate>& candidates, const WLAN_BSS_LIST& entries)
 {
     const BonusBySsid bonus = CountBonusEntries(entries);
-    if (bonus.empty())
+    if (bonus.lengths.none())
         return;
     for (Candidate& candidate : candidates)
     {
@@ -67,8 +82,12 @@ void AddBandBonus(std::vector<Candidate>& candidates, const WLAN_BSS_LIST& entri
 
 void SortByScore(std::vector<Candidate>& candidates)
 {
-    std::stable_sort(candidates.begin(), candidates.end(),
-                     [](const Candidate& left, const Candidate& right) { return left.score < right.score; });
+    std::stable_sort(candidates.begin(), candidates.end(), HasLowerScore);
+}
+
+const Candidate& LowestScored(const std::vector<Candidate>& candidates)
+{
+    return *std::min_element(candidates.begin(), candidates.end(), HasLowerScore);
 }
 
 } // namespace calvix

@@ -27,4 +27,7 @@ void AddBandBonus(std::vector<Candidate>& candidates, const WLAN_BSS_LIST& entri
 /// Sorts by score, the lowest first; equals keep their order.
 void SortByScore(std::vector<Candidate>& candidates);
 
+/// The candidate that SortByScore would put first, of at least one.
+const Candidate& LowestScored(const std::vector<Candidate>& candidates);
+
 } // namespace calvix

@@ -2,6 +2,7 @@
 
 #include "autoconnect/connection_walk.h"
 #include "autoconnect/ssid_as_profile_name.h"
+#include "core/fixed_text.h"
 #include "core/service_steps.h"
 
 using namespace calvix;
@@ -15,7 +16,7 @@ constexpr unsigned long kLongestListedSsid = 64;
 bool IsTarget(const WLAN_AVAILABLE_NETWORK& network, std::wstring_view profileName)
 {
     // Deliberate: a network whose SSID cannot be converted is passed over, also when its tag would match.
-    wchar_t ssid[kSsidTextCapacity] = {};
+    wchar_t ssid[kSsidTextCapacity];
     if (!SsidAsProfileName(network.dot11Ssid, kLongestListedSsid, ssid))
         return false;
     return FixedText(network.strProfileName) == profileName || ssid == profileName;
@@ -36,8 +37,9 @@ int CWirelessManage::ConnectAutoMode(const GUID* pInterfaceGuid)
     WalkEnd end = WalkEnd::noMatch;
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
     {
-        wchar_t xml[1024] = {};
-        if (GetProfile(pInterfaceGuid, profile.strProfileName, xml, 1024) != 0 || IsAutoConnMode(xml) == 0)
+        wchar_t xml[1024];
+        if (GetProfile(pInterfaceGuid, TerminatedName(profile.strProfileName), xml, 1024) != 0 ||
+            IsAutoConnMode(xml) == 0)
             continue;
         for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
         {

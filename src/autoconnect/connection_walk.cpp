@@ -1,6 +1,7 @@
 #include "autoconnect/connection_walk.h"
 
 #include "core/connect_request.h"
+#include "core/fixed_text.h"
 
 namespace calvix
 {
@@ -8,7 +9,8 @@ namespace calvix
 ErrorNumber
 RequestNetwork(HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, Trace& trace)
 {
-    return RequestConnection(client, interfaceGuid, network.strProfileName, network.dot11BssType, nullptr, trace);
+    return RequestConnection(client, interfaceGuid, TerminatedName(network.strProfileName), network.dot11BssType,
+                             nullptr, trace);
 }
 
 WalkEnd WalkProfiles(HANDLE client,
@@ -17,7 +19,7 @@ WalkEnd WalkProfiles(HANDLE client,
                      const WLAN_AVAILABLE_NETWORK_LIST& networks,
                      Trace& trace)
 {
-    const NetworksByProfile networksByProfile(networks);
+    NetworksByProfile networksByProfile(networks);
     WalkEnd end = WalkEnd::noMatch;
     for (const WLAN_PROFILE_INFO& profile : Items(profiles))
     {

@@ -2,6 +2,8 @@
 
 #include "autoconnect/connection_walk.h"
 
+#include <span>
+
 namespace calvix
 {
 
@@ -22,10 +24,12 @@ int ConnectCandidates(HANDLE client,
         return -11;
 
     AddBandBonus(candidates, *entries);
-    SortByScore(candidates);
     // Deliberate: from the weakest upward. The service accepts a request without waiting for the connection, so the
-    // first accepted one stands.
-    for (const Candidate& candidate : candidates)
+    // first accepted one stands, which mostly is the first: the others are sorted only where it is not.
+    if (RequestNetwork(client, interfaceGuid, *LowestScored(candidates).network, trace) == 0)
+        return 0;
+    SortByScore(candidates);
+    for (const Candidate& candidate : std::span(candidates).subspan(1))
     {
         if (RequestNetwork(client, interfaceGuid, *candidate.network, trace) == 0)
             return 0;

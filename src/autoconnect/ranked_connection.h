@@ -28,7 +28,7 @@ int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesP
             {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
         return code;
 
-    const NetworksByProfile networksByProfile(*networks);
+    NetworksByProfile networksByProfile(*networks);
     std::vector<Candidate> candidates;
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
     {

@@ -2,6 +2,7 @@
 
 #include "core/access_point_pick.h"
 #include "core/connect_request.h"
+#include "core/fixed_text.h"
 #include "core/service_steps.h"
 
 #include <cstring>
@@ -28,7 +29,8 @@ int DecideMove(
     // Deliberate: a failing list is not traced here.
     if (wlan().WlanGetNetworkBssList(client, interfaceGuid, &association.dot11Ssid, association.dot11BssType,
                                      connection->wlanSecurityAttributes.bSecurityEnabled, nullptr,
-                                     entries.Receive()) != 0)
+                                     entries.Receive()) != 0 ||
+        entries.get() == nullptr)
         return -6;
     if (entries->dwNumberOfItems == 0)
         return -7;
@@ -56,7 +58,7 @@ int CWirelessManage::Roaming(const GUID* pInterfaceGuid)
     if (const int code = DecideMove(hClient, pInterfaceGuid, connection, entries, trace))
         return code;
     DOT11_BSSID_LIST desired = DesireOnly(PickAccessPoint(*entries));
-    if (RequestConnection(hClient, pInterfaceGuid, connection->strProfileName,
+    if (RequestConnection(hClient, pInterfaceGuid, TerminatedName(connection->strProfileName),
                           connection->wlanAssociationAttributes.dot11BssType, &desired, trace) != 0)
         return -9;
     return 0;

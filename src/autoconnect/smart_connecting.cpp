@@ -1,9 +1,10 @@
 #include <calvix/wireless_manage.h>
 
 #include "autoconnect/connection_walk.h"
+#include "core/bounded_copy.h"
 #include "core/service_steps.h"
 
-#include <string>
+#include <iterator>
 
 using namespace calvix;
 
@@ -28,16 +29,21 @@ int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
         return static_cast<int>(error);
     if (const ErrorNumber error = ListAvailableNetworks(hClient, first, networks, trace))
         return static_cast<int>(error);
-    const NetworksByProfile networksByProfile(*networks);
+    NetworksByProfile networksByProfile(*networks);
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
     {
-        if (networksByProfile.Of(profile).empty())
-            continue;
-        const WLAN_AVAILABLE_NETWORK& network = *networksByProfile.Of(profile).front();
-        const ErrorNumber error = RequestNetwork(hClient, first, network, trace);
-        if (error == 0 && profileName != nullptr)
-            FormatTrace(profileName, 128, "%ls", std::wstring(FixedText(network.strProfileName)).c_str());
-        return static_cast<int>(error);
+        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        {
+            const ErrorNumber error = RequestNetwork(hClient, first, *network, trace);
+            if (error == 0 && profileName != nullptr)
+            {
+                // A name may fill its array without a terminator.
+                wchar_t terminated[WLAN_MAX_NAME_LENGTH + 1];
+                CopyTruncating(terminated, std::size(terminated), network->strProfileName);
+                FormatTrace(profileName, 128, "%ls", terminated);
+            }
+            return static_cast<int>(error);
+        }
     }
     return -2;
 }

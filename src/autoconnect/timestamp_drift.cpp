@@ -107,7 +107,7 @@ int CWirelessManage::GetMatchBSSID(const GUID* pInterfaceGuid)
 
     // Deliberate: -1 even when all went well; the result is informational, what counts is the trace.
     int result = -1;
-    const NetworksByProfile networksByProfile(*networks);
+    NetworksByProfile networksByProfile(*networks);
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
     {
         const std::string name = NarrowName(profile.strProfileName);

@@ -30,9 +30,9 @@ int ReconnectTo(HANDLE& client, const GUID* interfaceGuid, const RememberedNetwo
     BssList entries;
     if (OpenClient(client, trace) != 0)
         return -1;
-    if (trace.Failed(wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.ssid, network.bssType,
-                                                  network.securityEnabled, nullptr, entries.Receive()),
-                     "WlanGetNetworkBssList failed with error: %u"))
+    const DWORD error = wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.ssid, network.bssType,
+                                                     network.securityEnabled, nullptr, entries.Receive());
+    if (trace.Failed(ErrorOf(error, entries.get()), "WlanGetNetworkBssList failed with error: %u"))
         return -4;
     if (entries->dwNumberOfItems == 0)
         return -6;
@@ -48,7 +48,7 @@ int CWirelessManage::LinkProfile(const GUID* pInterfaceGuid, char* name)
 {
     LocalTrace<128> trace;
     NetworkList networks;
-    wchar_t wide[kProfileNameCapacity] = {};
+    wchar_t wide[kProfileNameCapacity];
     if (OpenClient(hClient, trace) != 0)
         return -1;
     if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace))
@@ -61,8 +61,8 @@ int CWirelessManage::LinkProfile(const GUID* pInterfaceGuid, char* name)
     const auto network = std::find_if(items.begin(), items.end(), carriesProfile);
     if (network == items.end())
         return -2;
-    return static_cast<int>(
-        RequestConnection(hClient, pInterfaceGuid, network->strProfileName, network->dot11BssType, nullptr, trace));
+    return static_cast<int>(RequestConnection(hClient, pInterfaceGuid, TerminatedName(network->strProfileName),
+                                              network->dot11BssType, nullptr, trace));
 }
 
 int CWirelessManage::Disconnect(const GUID* pInterfaceGuid)
@@ -83,15 +83,17 @@ int CWirelessManage::Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRI
     const WLAN_ASSOCIATION_ATTRIBUTES& association = pAttributes->wlanAssociationAttributes;
     return ReconnectTo(hClient, pInterfaceGuid,
                        {association.dot11Ssid, association.dot11BssType,
-                        pAttributes->wlanSecurityAttributes.bSecurityEnabled, pAttributes->strProfileName});
+                        pAttributes->wlanSecurityAttributes.bSecurityEnabled,
+                        TerminatedName(pAttributes->strProfileName)});
 }
 
 int CWirelessManage::Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_NOTIFICATION_DATA* pData, unsigned long)
 {
     if (pData == nullptr)
         return -14;
-    return ReconnectTo(hClient, pInterfaceGuid,
-                       {pData->dot11Ssid, pData->dot11BssType, pData->bSecurityEnabled, pData->strProfileName});
+    return ReconnectTo(
+        hClient, pInterfaceGuid,
+        {pData->dot11Ssid, pData->dot11BssType, pData->bSecurityEnabled, TerminatedName(pData->strProfileName)});
 }
 
 int CWirelessManage::RecoverConnection(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes)
@@ -101,7 +103,7 @@ int CWirelessManage::RecoverConnection(const GUID* pInterfaceGuid, WLAN_CONNECTI
     SharedTrace trace;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (RequestConnection(hClient, pInterfaceGuid, pAttributes->strProfileName,
+    if (RequestConnection(hClient, pInterfaceGuid, TerminatedName(pAttributes->strProfileName),
                           pAttributes->wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)
         return -4;
     return 0;
@@ -115,7 +117,7 @@ int CWirelessManage::ResetConnection(const GUID* pInterfaceGuid)
         return -1;
     if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
         return -4;
-    if (RequestConnection(hClient, pInterfaceGuid, connection->strProfileName,
+    if (RequestConnection(hClient, pInterfaceGuid, TerminatedName(connection->strProfileName),
                           connection->wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)
         return -5;
     return 0;

@@ -4,7 +4,6 @@
 #include "core/strict_copy.h"
 
 using namespace calvix;
-using platform::wlan;
 
 namespace
 {

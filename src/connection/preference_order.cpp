@@ -1,5 +1,6 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/fixed_text.h"
 #include "core/service_steps.h"
 
 using namespace calvix;
@@ -28,7 +29,8 @@ int CWirelessManage::SetCurrentWiFiToLast()
     if (profiles->dwNumberOfItems < 2)
         return 0;
     const DWORD last = profiles->dwNumberOfItems - 1;
-    const DWORD error = wlan().WlanSetProfilePosition(hClient, first, connection->strProfileName, last, nullptr);
+    const DWORD error =
+        wlan().WlanSetProfilePosition(hClient, first, TerminatedName(connection->strProfileName), last, nullptr);
     trace.Failed(error, "WlanSetProfilePosition failed with error: %u");
     return static_cast<int>(error);
 }

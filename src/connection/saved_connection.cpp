@@ -1,6 +1,7 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/connect_request.h"
+#include "core/fixed_text.h"
 #include "core/service_steps.h"
 #include "core/strict_copy.h"
 #include "profiles/profile_read.h"
@@ -20,7 +21,7 @@ int CWirelessManage::SaveCurrentConnectionAttributes(const GUID* pInterfaceGuid)
     StrictCopy(&m_SavedConnAttr, sizeof(m_SavedConnAttr), connection.get(), size, "SaveCurrentConnectionAttributes");
     // Deliberate: from here on the record is the new one, while the mode keeps its former value when the profile cannot
     // be read.
-    if (ReadProfile(hClient, pInterfaceGuid, connection->strProfileName, profile, trace) != 0)
+    if (ReadProfile(hClient, pInterfaceGuid, TerminatedName(connection->strProfileName), profile, trace) != 0)
         return -5;
     m_nSavedAutoConnMode = IsAutoConnMode(profile.get());
     return 0;
@@ -38,7 +39,7 @@ long CWirelessManage::RecoverConnetionAttributes(const GUID* pInterfaceGuid)
         return -4;
     if (entries->dwNumberOfItems == 0)
         return -5;
-    if (RequestConnection(hClient, pInterfaceGuid, m_SavedConnAttr.strProfileName,
+    if (RequestConnection(hClient, pInterfaceGuid, TerminatedName(m_SavedConnAttr.strProfileName),
                           m_SavedConnAttr.wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)
         return -6;
     return 0;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
+#include <string_view>
 
 namespace calvix
 {
@@ -12,13 +14,20 @@ void CopyTruncating(Character* destination, std::size_t capacity, const Characte
 {
     if (destination == nullptr || capacity == 0)
         return;
-    std::size_t length = 0;
-    while (length + 1 < capacity && source[length] != 0)
-    {
-        destination[length] = source[length];
-        ++length;
-    }
+    using Traits = std::char_traits<Character>;
+    const Character* const end = Traits::find(source, capacity - 1, Character{});
+    const std::size_t length = end != nullptr ? static_cast<std::size_t>(end - source) : capacity - 1;
+    Traits::copy(destination, source, length);
     destination[length] = 0;
+}
+
+/// The same for text of a known length.
+template <std::size_t Capacity>
+void CopyTruncating(char (&destination)[Capacity], std::string_view source)
+{
+    const std::size_t length = source.size() < Capacity ? source.size() : Capacity - 1;
+    source.copy(destination, length);
+    destination[length] = '\0';
 }
 
 /// The same for a capacity that a caller passed in as a signed number: a negative one gives the empty text.

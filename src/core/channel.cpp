@@ -1,16 +1,13 @@
 #include "core/channel.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace calvix
 {
 
 namespace
 {
 
-constexpr std::uint32_t kTwoPointFourGigahertz[] = {0,    2412, 2417, 2422, 2427, 2432, 2437, 2442,
-                                                    2447, 2452, 2457, 2462, 2467, 2472, 2484};
+constexpr std::uint32_t kFirstTwoPointFour = 2412;
+constexpr std::uint32_t kThirteenthTwoPointFour = 2472;
 constexpr std::uint32_t kLastTwoPointFour = 2484;
 constexpr std::uint32_t kFiveGigahertz = 5000;
 constexpr std::uint32_t kNoChannel = 14;
@@ -33,10 +30,12 @@ std::uint32_t ChannelOfFrequency(unsigned long frequency)
     if (megahertz > kLastTwoPointFour)
         return (megahertz - kFiveGigahertz) / 5;
 
-    const auto first = std::next(std::begin(kTwoPointFourGigahertz));
-    const auto slot = std::find(first, std::end(kTwoPointFourGigahertz), megahertz);
     // Deliberate: one below the customary channel number; hosts and the ranking have always seen it so.
-    return slot != std::end(kTwoPointFourGigahertz) ? static_cast<std::uint32_t>(slot - first) : kNoChannel;
+    if (megahertz == kLastTwoPointFour)
+        return 13;
+    const bool isChannel = megahertz >= kFirstTwoPointFour && megahertz <= kThirteenthTwoPointFour &&
+                           (megahertz - kFirstTwoPointFour) % 5 == 0;
+    return isChannel ? (megahertz - kFirstTwoPointFour) / 5 : kNoChannel;
 }
 
 } // namespace calvix

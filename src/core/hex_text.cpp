@@ -1,5 +1,6 @@
 #include <calvix/wireless_manage.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace
@@ -11,7 +12,7 @@ constexpr char kDigits[] = "0123456789ABCDEF";
 /// gives, modulo 256.
 unsigned char DigitValue(char digit)
 {
-    const int character = static_cast<signed char>(digit);
+    const int character = static_cast<signed char>(digit); // NOLINT(bugprone-signed-char-misuse,cert-str34-c)
     if (character >= 'a' && character <= 'z')
         return static_cast<unsigned char>(character - 87);
     if (character >= 'A')
@@ -40,14 +41,16 @@ void FillWithZeroDigits(char* destination, int capacity)
 template <typename ByteAt>
 void WriteDigitsFromEnd(char* destination, int capacity, int count, ByteAt byteAt)
 {
-    int place = capacity - 1;
-    for (int index = count - 1; index >= 0 && place >= 0; --index)
+    const int pairs = (std::min)(count, capacity / 2);
+    char* place = destination + capacity;
+    for (int index = count - 1; index >= count - pairs; --index)
     {
         const unsigned char byte = byteAt(index);
-        destination[place--] = kDigits[byte & 0x0F];
-        if (place >= 0)
-            destination[place--] = kDigits[byte >> 4];
+        *--place = kDigits[byte & 0x0F];
+        *--place = kDigits[byte >> 4];
     }
+    if (pairs < count && capacity % 2 == 1)
+        destination[0] = kDigits[byteAt(count - pairs - 1) & 0x0F];
 }
 
 } // namespace

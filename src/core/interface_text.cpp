@@ -3,13 +3,15 @@
 #include "core/bounded_copy.h"
 #include "core/trace.h"
 
+#include <string_view>
+
 using namespace calvix;
 
 namespace
 {
 
-/// Text of an interface state, null for a number that is none.
-const char* InterfaceStateText(unsigned long state)
+/// Text of an interface state, empty for a number that is none.
+std::string_view InterfaceStateText(unsigned long state)
 {
     switch (state)
     {
@@ -30,7 +32,7 @@ const char* InterfaceStateText(unsigned long state)
     case wlan_interface_state_authenticating:
         return "authenticating";
     default:
-        return nullptr;
+        return {};
     }
 }
 
@@ -39,8 +41,8 @@ const char* InterfaceStateText(unsigned long state)
 char* CWirelessManage::GetWlanInterfaceState(unsigned long state)
 {
     auto& m_szInterfaceState = m_Text[0].szLong;
-    if (const char* const text = InterfaceStateText(state))
-        CopyTruncating(m_szInterfaceState, sizeof(m_szInterfaceState), text);
+    if (const std::string_view text = InterfaceStateText(state); !text.empty())
+        CopyTruncating(m_szInterfaceState, text);
     else
         FormatTrace(m_szInterfaceState, sizeof(m_szInterfaceState), "unknown(%lu)", state);
     return m_szInterfaceState;

@@ -18,18 +18,16 @@ ErrorNumber Traced(Trace& trace, DWORD error, const char* format)
 
 } // namespace
 
-ErrorNumber OpenClient(HANDLE& client, Trace& trace, const char* failureText)
+ErrorNumber OpenNewClient(HANDLE& client, Trace& trace, const char* failureText)
 {
-    if (client != nullptr)
-        return 0;
     DWORD negotiatedVersion = 0;
     return Traced(trace, wlan().WlanOpenHandle(kClientVersion, nullptr, &negotiatedVersion, &client), failureText);
 }
 
 ErrorNumber EnumerateInterfaces(HANDLE client, InterfaceList& list, Trace& trace)
 {
-    return Traced(trace, wlan().WlanEnumInterfaces(client, nullptr, list.Receive()),
-                  "WlanEnumInterfaces failed with error: %u");
+    const DWORD error = wlan().WlanEnumInterfaces(client, nullptr, list.Receive());
+    return Traced(trace, ErrorOf(error, list.get()), "WlanEnumInterfaces failed with error: %u");
 }
 
 int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const InterfaceListCodes& codes)
@@ -51,42 +49,38 @@ ErrorNumber ListConnectionBss(
     HANDLE client, const GUID* interfaceGuid, const WLAN_CONNECTION_ATTRIBUTES& connection, BssList& list, Trace& trace)
 {
     const WLAN_ASSOCIATION_ATTRIBUTES& association = connection.wlanAssociationAttributes;
-    return Traced(trace,
-                  wlan().WlanGetNetworkBssList(client, interfaceGuid, &association.dot11Ssid, association.dot11BssType,
-                                               connection.wlanSecurityAttributes.bSecurityEnabled, nullptr,
-                                               list.Receive()),
-                  "WlanGetNetworkBssList failed with error: %u");
+    const DWORD error =
+        wlan().WlanGetNetworkBssList(client, interfaceGuid, &association.dot11Ssid, association.dot11BssType,
+                                     connection.wlanSecurityAttributes.bSecurityEnabled, nullptr, list.Receive());
+    return Traced(trace, ErrorOf(error, list.get()), "WlanGetNetworkBssList failed with error: %u");
 }
 
 ErrorNumber ListNetworkBss(
     HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, BssList& list, Trace& trace)
 {
-    return Traced(trace,
-                  wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.dot11Ssid, network.dot11BssType,
-                                               network.bSecurityEnabled, nullptr, list.Receive()),
-                  "WlanGetNetworkBssList failed with error: %u");
+    const DWORD error = wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.dot11Ssid, network.dot11BssType,
+                                                     network.bSecurityEnabled, nullptr, list.Receive());
+    return Traced(trace, ErrorOf(error, list.get()), "WlanGetNetworkBssList failed with error: %u");
 }
 
 ErrorNumber ListAllBss(HANDLE client, const GUID* interfaceGuid, BssList& list, Trace& trace)
 {
-    return Traced(trace,
-                  wlan().WlanGetNetworkBssList(client, interfaceGuid, nullptr, dot11_BSS_type_any, FALSE, nullptr,
-                                               list.Receive()),
-                  "WlanGetNetworkBssList failed with error: %u");
+    const DWORD error = wlan().WlanGetNetworkBssList(client, interfaceGuid, nullptr, dot11_BSS_type_any, FALSE, nullptr,
+                                                     list.Receive());
+    return Traced(trace, ErrorOf(error, list.get()), "WlanGetNetworkBssList failed with error: %u");
 }
 
 ErrorNumber ListAvailableNetworks(HANDLE client, const GUID* interfaceGuid, NetworkList& list, Trace& trace)
 {
-    return Traced(
-        trace,
-        wlan().WlanGetAvailableNetworkList(client, interfaceGuid, kNoHiddenOrAdHocProfiles, nullptr, list.Receive()),
-        "WlanGetAvailableNetworkList failed with error: %u");
+    const DWORD error =
+        wlan().WlanGetAvailableNetworkList(client, interfaceGuid, kNoHiddenOrAdHocProfiles, nullptr, list.Receive());
+    return Traced(trace, ErrorOf(error, list.get()), "WlanGetAvailableNetworkList failed with error: %u");
 }
 
 ErrorNumber ListProfiles(HANDLE client, const GUID* interfaceGuid, ProfileList& list, Trace& trace)
 {
-    return Traced(trace, wlan().WlanGetProfileList(client, interfaceGuid, nullptr, list.Receive()),
-                  "WlanGetProfileList failed with error: %u");
+    const DWORD error = wlan().WlanGetProfileList(client, interfaceGuid, nullptr, list.Receive());
+    return Traced(trace, ErrorOf(error, list.get()), "WlanGetProfileList failed with error: %u");
 }
 
 int ListProfilesAndNetworks(HANDLE& client,

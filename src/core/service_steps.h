@@ -2,6 +2,7 @@
 
 #include "core/trace.h"
 #include "core/wlan_memory.h"
+#include "platform/records/error_numbers.h"
 
 namespace calvix
 {
@@ -12,8 +13,21 @@ inline constexpr DWORD kClientVersion = 2;
 /// Steps that most methods share. Each traces its own failure through the method's trace and returns the platform's
 /// error number, 0 for success, unless said otherwise.
 
-/// Opens the client handle when it is not open yet.
-ErrorNumber OpenClient(HANDLE& client, Trace& trace, const char* failureText = "WlanOpenHandle failed with error: %u");
+/// What an operation has to be taken for: one that succeeded and handed out nothing has failed.
+inline DWORD ErrorOf(DWORD error, const void* handedOut)
+{
+    return error == 0 && handedOut == nullptr ? ERROR_INVALID_DATA : error;
+}
+
+/// Opens a client handle.
+ErrorNumber OpenNewClient(HANDLE& client, Trace& trace, const char* failureText);
+
+/// The same when it is not open yet.
+inline ErrorNumber
+OpenClient(HANDLE& client, Trace& trace, const char* failureText = "WlanOpenHandle failed with error: %u")
+{
+    return client != nullptr ? 0 : OpenNewClient(client, trace, failureText);
+}
 
 /// All interfaces, none included.
 ErrorNumber EnumerateInterfaces(HANDLE client, InterfaceList& list, Trace& trace);
@@ -31,25 +45,30 @@ struct InterfaceListCodes
 /// otherwise it returns the method's code. A null `noneText` keeps the empty list out of the trace.
 int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const InterfaceListCodes& codes);
 
-/// Queries an interface for a record; `size` receives the bytes that the service returned.
+/// Queries an interface for a record; `size` receives the bytes that the service returned. An answer of fewer than
+/// `needed` bytes is a failed query.
 template <typename Record>
 ErrorNumber QueryInterface(HANDLE client,
                            const GUID* interfaceGuid,
                            WLAN_INTF_OPCODE opcode,
                            WlanMemory<Record>& record,
                            DWORD& size,
-                           Trace& trace)
+                           Trace& trace,
+                           std::size_t needed = 0)
 {
     size = sizeof(Record);
     PVOID data = nullptr;
-    const DWORD error =
-        platform::wlan().WlanQueryInterface(client, interfaceGuid, opcode, nullptr, &size, &data, nullptr);
+    DWORD error = platform::wlan().WlanQueryInterface(client, interfaceGuid, opcode, nullptr, &size, &data, nullptr);
     record.Take(data);
+    error = ErrorOf(error, data);
+    if (error == 0 && size < needed)
+        error = ERROR_BAD_LENGTH;
     trace.Failed(error, "WlanQueryInterface failed with error: %u");
     return static_cast<ErrorNumber>(error);
 }
 
-/// Attributes of the current connection; fails when there is none.
+/// Attributes of the current connection; fails when there is none. The returned size is not judged: the methods that
+/// hand the record on copy so many bytes, whatever that leaves out.
 inline ErrorNumber QueryCurrentConnection(
     HANDLE client, const GUID* interfaceGuid, ConnectionAttributes& attributes, DWORD& size, Trace& trace)
 {

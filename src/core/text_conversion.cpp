@@ -3,6 +3,7 @@
 #include "core/strict_copy.h"
 #include "platform/platform.h"
 
+#include <cstring>
 #include <string>
 
 using namespace calvix;
@@ -20,9 +21,17 @@ bool CWirelessManage::UnicodeToAnsi(const wchar_t* source, char* destination)
 int CWirelessManage::WideCharToChar(const wchar_t* source, char* destination, int capacity)
 {
     const int size = text().WideCharToMultiByte(CP_ACP, 0, source, -1, nullptr, 0, nullptr, nullptr);
-    std::string narrow(static_cast<std::size_t>(size) + 1, '\0');
+    char usual[256];
+    std::string longer;
+    char* narrow = usual;
+    if (size >= static_cast<int>(sizeof(usual)))
+    {
+        longer.resize(static_cast<std::size_t>(size));
+        narrow = longer.data();
+    }
+    std::memset(narrow, 0, static_cast<std::size_t>(size) + 1);
     const int converted =
-        size == 0 ? 0 : text().WideCharToMultiByte(CP_ACP, 0, source, -1, narrow.data(), size, nullptr, nullptr);
-    StrictCopyText(destination, capacity, narrow.c_str(), "WideCharToChar");
+        size == 0 ? 0 : text().WideCharToMultiByte(CP_ACP, 0, source, -1, narrow, size, nullptr, nullptr);
+    StrictCopyText(destination, capacity, narrow, "WideCharToChar");
     return converted;
 }

@@ -1,8 +1,11 @@
 #include "core/trace.h"
 
 #include "core/bounded_copy.h"
+#include "core/simple_format.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <cwchar>
 #include <vector>
 
@@ -17,6 +20,16 @@ namespace
 
 constexpr std::size_t kLargestCapacity = 0x7FFFFFFF;
 constexpr std::size_t kLargestWideText = 0x100000;
+
+/// The length that the whole text has; more than there can be room for when the runtime reports a failure.
+std::size_t FormatByRuntime(char* buffer, std::size_t capacity, const char* format, std::va_list values)
+{
+    const int length = std::vsnprintf(buffer, capacity, format, values);
+    if (length >= 0)
+        return static_cast<std::size_t>(length);
+    buffer[0] = '\0';
+    return kLargestCapacity + 1;
+}
 
 /// Formats the whole text. The C runtimes' wide formatters do not cut reliably: where the text does not fit, some report
 /// a failure and some the length it has.
@@ -47,10 +60,10 @@ std::uint32_t FormatTraceV(char* buffer, std::size_t capacity, const char* forma
         buffer[0] = '\0';
         return kFormatBadCapacity;
     }
-    const int length = std::vsnprintf(buffer, capacity, format, values);
-    if (length < 0)
-        buffer[0] = '\0';
-    return length >= 0 && static_cast<std::size_t>(length) < capacity ? kFormatComplete : kFormatTruncated;
+    std::size_t length = 0;
+    if (!FormatSimply(buffer, capacity, format, values, length))
+        length = FormatByRuntime(buffer, capacity, format, values);
+    return length < capacity ? kFormatComplete : kFormatTruncated;
 }
 
 std::uint32_t FormatTrace(char* buffer, std::size_t capacity, const char* format, ...)
@@ -79,10 +92,8 @@ std::uint32_t FormatTraceW(wchar_t* buffer, std::size_t capacity, const wchar_t*
     return std::wcslen(text.data()) < capacity ? kFormatComplete : kFormatTruncated;
 }
 
-void EmitTrace(const char* text)
+void WriteToDebugger(const char* text)
 {
-    if (g_bTraceOn == 0)
-        return;
     platform::debugger().OutputDebugStringA(text);
     platform::debugger().OutputDebugStringA("\n");
 }
@@ -96,17 +107,11 @@ void Trace::Line(const char* format, ...)
     EmitTrace(m_buffer);
 }
 
-bool Trace::Failed(DWORD error, const char* format)
+void Trace::Message(std::string_view text)
 {
-    if (error == 0)
-        return false;
-    Line(format, static_cast<unsigned>(error));
-    return true;
-}
-
-void Trace::Message(const char* text)
-{
-    CopyTruncating(m_buffer, m_capacity, text);
+    const std::size_t length = (std::min)(text.size(), m_capacity - 1);
+    std::memcpy(m_buffer, text.data(), length);
+    m_buffer[length] = '\0';
     EmitTrace(m_buffer);
 }
 

@@ -5,6 +5,7 @@
 #include <cstdarg>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #if defined(__MINGW32__)
 #define CALVIX_PRINTF(formatIndex, valuesIndex) __attribute__((format(__MINGW_PRINTF_FORMAT, formatIndex, valuesIndex)))
@@ -41,8 +42,15 @@ extern char g_szTraceBuf[kSharedTraceCapacity];
 /// Whether trace lines reach the debugger. Nothing in the library sets it: it is a switch for a debugger or a host.
 extern unsigned char g_bTraceOn;
 
-/// Writes a text and a line break to the debugger, when tracing is on.
-void EmitTrace(const char* text);
+/// Writes a text and a line break to the debugger.
+void WriteToDebugger(const char* text);
+
+/// The same when tracing is on.
+inline void EmitTrace(const char* text)
+{
+    if (g_bTraceOn != 0)
+        WriteToDebugger(text);
+}
 
 /// Where a method's trace lines are formatted. The line is formatted whether or not tracing is on.
 class Trace
@@ -56,10 +64,16 @@ public:
     void Line(const char* format, ...) CALVIX_PRINTF(2, 3);
 
     /// Copies a fixed text as the line and emits it.
-    void Message(const char* text);
+    void Message(std::string_view text);
 
     /// Whether `error` is one; then formats it as the line (the format has one %u) and emits it.
-    bool Failed(DWORD error, const char* format);
+    bool Failed(DWORD error, const char* format)
+    {
+        if (error == 0)
+            return false;
+        Line(format, static_cast<unsigned>(error));
+        return true;
+    }
 
 private:
     char* m_buffer;
@@ -81,7 +95,7 @@ public:
     LocalTrace() : Trace(m_text, Capacity) {}
 
 private:
-    char m_text[Capacity] = {};
+    char m_text[Capacity]; // not cleared: every line is written whole, and most calls write none
 };
 
 } // namespace calvix

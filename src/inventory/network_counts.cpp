@@ -39,9 +39,10 @@ int CWirelessManage::GetConnectableNetworkCount(const GUID* pInterfaceGuid)
             {.notOpened = -2, .profilesFailed = -5, .noProfile = -6, .networksFailed = -7, .noNetwork = -8}))
         return code;
 
-    const NetworksByProfile networksByProfile(*networks);
-    std::size_t pairs = 0;
+    NetworksByProfile networksByProfile(*networks);
+    int pairs = 0;
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
-        pairs += networksByProfile.Of(profile).size();
-    return static_cast<int>(pairs);
+        for ([[maybe_unused]] const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+            ++pairs;
+    return pairs;
 }

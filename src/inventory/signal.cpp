@@ -27,7 +27,7 @@ int CWirelessManage::GetRssi(const GUID* pInterfaceGuid, int& rssi)
     if (OpenClient(hClient, trace) != 0)
         return -1;
     DWORD size = 0;
-    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_rssi, value, size, trace) != 0)
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_rssi, value, size, trace, sizeof(LONG)) != 0)
         return -4;
     rssi = static_cast<int>(*value);
     return 0;

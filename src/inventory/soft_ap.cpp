@@ -17,18 +17,15 @@ namespace
 constexpr DWORD kFlags = MB_PRECOMPOSED | MB_ERR_INVALID_CHARS;
 
 /// The SSID up to its first zero byte, in the active code page; whether both conversions succeeded.
-bool NarrowSsid(const DOT11_SSID& ssid, std::string& name)
+bool NarrowSsid(const DOT11_SSID& ssid, char (&name)[128])
 {
     char bytes[sizeof(ssid.ucSSID) + 1] = {};
     std::memcpy(bytes, ssid.ucSSID, sizeof(ssid.ucSSID));
-    wchar_t wide[256] = {};
-    if (text().MultiByteToWideChar(CP_UTF8, kFlags, bytes, -1, wide, 256) == 0)
-        return false;
-    char narrow[128] = {};
-    if (text().WideCharToMultiByte(CP_ACP, kFlags, wide, -1, narrow, sizeof(narrow), nullptr, nullptr) == 0)
-        return false;
-    name = narrow;
-    return true;
+    wchar_t wide[256];
+    wide[0] = L'\0';
+    name[0] = '\0';
+    return text().MultiByteToWideChar(CP_UTF8, kFlags, bytes, -1, wide, 256) != 0 &&
+           text().WideCharToMultiByte(CP_ACP, kFlags, wide, -1, name, sizeof(name), nullptr, nullptr) != 0;
 }
 
 } // namespace
@@ -47,9 +44,9 @@ int CWirelessManage::GetSoftAPList(const GUID* pInterfaceGuid, std::vector<std::
     pList->clear();
     for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
     {
-        std::string name;
-        if (NarrowSsid(network.dot11Ssid, name) && name.find("LC#") != std::string::npos)
-            pList->push_back(name);
+        char name[128];
+        if (NarrowSsid(network.dot11Ssid, name) && std::strstr(name, "LC#") != nullptr)
+            pList->emplace_back(name);
     }
     return 0;
 }

@@ -1,6 +1,7 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/fixed_text.h"
+#include "core/plain_ascii.h"
 #include "core/service_steps.h"
 #include "core/strict_copy.h"
 #include "core/wlan_lists.h"
@@ -27,6 +28,11 @@ void WidenTruncating(const char* narrow, wchar_t (&wide)[Capacity])
     const std::size_t size = std::strlen(narrow);
     for (std::size_t read = 0; read < size && length + 1 < Capacity; ++length)
     {
+        if (IsPlainAscii(narrow[read]) && std::mbsinit(&state) != 0)
+        {
+            wide[length] = narrow[read++];
+            continue;
+        }
         std::size_t used = std::mbrtowc(&wide[length], narrow + read, size - read, &state);
         if (used == 0 || used > size - read)
         {
@@ -45,8 +51,8 @@ int CWirelessManage::GetWlanProfile(const GUID* pInterfaceGuid, const char* name
 {
     LocalTrace<128> trace;
     ProfileList profiles;
-    char narrow[128] = {};
-    wchar_t wide[kProfileNameCapacity] = {};
+    char narrow[128];
+    wchar_t wide[kProfileNameCapacity];
     // Deliberate: every step's own error number is the result, that of the client handle included.
     if (const ErrorNumber error = OpenClient(hClient, trace))
         return static_cast<int>(error);
@@ -78,7 +84,7 @@ int CWirelessManage::ResetProfilePosition(const GUID* pInterfaceGuid, const char
 {
     LocalTrace<128> trace;
     ProfileList profiles;
-    wchar_t wide[kProfileNameCapacity] = {};
+    wchar_t wide[kProfileNameCapacity];
     if (OpenClient(hClient, trace) != 0)
         return -1;
     if (const ErrorNumber error = ListProfiles(hClient, pInterfaceGuid, profiles, trace))
@@ -111,7 +117,7 @@ int CWirelessManage::SetProfilePosition(const GUID* pInterfaceGuid, const wchar_
 
 int CWirelessManage::DeleteProfile(const GUID* pInterfaceGuid, const char* name)
 {
-    wchar_t wide[128] = {};
+    wchar_t wide[128];
     if (name != nullptr)
         WidenTruncating(name, wide);
     return DeleteProfile(pInterfaceGuid, name != nullptr ? wide : nullptr);

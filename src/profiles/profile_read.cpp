@@ -1,5 +1,7 @@
 #include "profiles/profile_read.h"
 
+#include "core/service_steps.h"
+
 namespace calvix
 {
 
@@ -7,8 +9,9 @@ ErrorNumber ReadProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t*
 {
     DWORD flags = WLAN_PROFILE_GET_PLAINTEXT_KEY;
     DWORD access = WLAN_READ_ACCESS;
-    const DWORD error =
+    const DWORD asked =
         platform::wlan().WlanGetProfile(client, interfaceGuid, name, nullptr, xml.Receive(), &flags, &access);
+    const DWORD error = ErrorOf(asked, xml.get());
     trace.Failed(error, "WlanGetProfile failed with error: %u");
     return static_cast<ErrorNumber>(error);
 }

@@ -1,11 +1,13 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/bounded_copy.h"
+#include "core/plain_ascii.h"
 #include "core/service_steps.h"
 #include "core/strict_copy.h"
 #include "profiles/profile_read.h"
 
 #include <cstdio>
+#include <cwchar>
 #include <string>
 
 using namespace calvix;
@@ -24,6 +26,23 @@ std::string NarrowInLocale(const wchar_t* text)
     std::snprintf(narrow.data(), narrow.size(), "%ls", text);
     narrow.pop_back();
     return narrow;
+}
+
+/// Copies the text as NarrowInLocale would give it, if it fits and is plain ASCII, as profiles mostly are. Whether it
+/// did.
+bool CopyPlainAscii(char* destination, int capacity, const wchar_t* text)
+{
+    const std::size_t length = std::wcslen(text);
+    if (destination == nullptr || capacity < 0 || length >= static_cast<std::size_t>(capacity))
+        return false;
+    bool isPlain = true;
+    for (std::size_t index = 0; index < length; ++index)
+    {
+        destination[index] = static_cast<char>(text[index]);
+        isPlain = isPlain && IsPlainAscii(text[index]);
+    }
+    destination[length] = '\0';
+    return isPlain;
 }
 
 } // namespace
@@ -51,7 +70,8 @@ int CWirelessManage::GetProfile(const GUID* pInterfaceGuid, const wchar_t* name,
     if (ReadProfile(hClient, pInterfaceGuid, name, profile, trace) != 0)
         return -4;
     // Deliberate: unlike the wide form this one never cuts.
-    StrictCopyText(xml, capacity, NarrowInLocale(profile.get()).c_str(), "GetProfile");
+    if (!CopyPlainAscii(xml, capacity, profile.get()))
+        StrictCopyText(xml, capacity, NarrowInLocale(profile.get()).c_str(), "GetProfile");
     return 0;
 }
 

@@ -3,6 +3,7 @@
 #include "core/service_steps.h"
 #include "profiles/profile_read.h"
 
+#include <cwchar>
 #include <string_view>
 
 using namespace calvix;
@@ -13,7 +14,7 @@ using namespace calvix;
 namespace
 {
 
-constexpr std::wstring_view kModeEnd = L"</connectionMode>";
+constexpr const wchar_t* kModeEnd = L"</connectionMode>";
 constexpr std::wstring_view kAutomatic = L"auto";
 
 enum class ElementProblem
@@ -30,12 +31,12 @@ struct ElementText
 };
 
 /// What stands between the first closing tag and the last '>' before it.
-ElementText TextBefore(std::wstring_view closingTag, std::wstring_view xml)
+ElementText TextBefore(const wchar_t* closingTag, const wchar_t* xml)
 {
-    const std::size_t end = xml.find(closingTag);
-    if (end == std::wstring_view::npos)
+    const wchar_t* const end = std::wcsstr(xml, closingTag);
+    if (end == nullptr)
         return {{}, ElementProblem::missingEnd};
-    const std::wstring_view head = xml.substr(0, end);
+    const std::wstring_view head(xml, static_cast<std::size_t>(end - xml));
     const std::size_t start = head.rfind(L'>');
     if (start == std::wstring_view::npos)
         return {{}, ElementProblem::missingStart};
@@ -48,12 +49,11 @@ int CWirelessManage::IsThisSSID(const wchar_t* xml, wchar_t* ssid)
 {
     if (xml == nullptr || ssid == nullptr)
         return 0;
-    const std::wstring_view document(xml);
     // The profile's own <name> stands before the SSID and must not be taken for it.
-    const std::size_t start = document.find(L"<SSID>");
-    if (start == std::wstring_view::npos)
+    const wchar_t* const start = std::wcsstr(xml, L"<SSID>");
+    if (start == nullptr)
         return 0;
-    const ElementText name = TextBefore(L"</name>", document.substr(start));
+    const ElementText name = TextBefore(L"</name>", start);
     return name.problem == ElementProblem::none && name.text == ssid ? 1 : 0;
 }
 

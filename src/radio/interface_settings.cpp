@@ -3,6 +3,8 @@
 #include "core/bounded_copy.h"
 #include "core/service_steps.h"
 
+#include <string_view>
+
 using namespace calvix;
 using platform::wlan;
 
@@ -21,7 +23,7 @@ int Enable(HANDLE& client, const GUID* interfaceGuid, WLAN_INTF_OPCODE behaviour
     return static_cast<int>(error);
 }
 
-const char* PowerSettingText(unsigned long level)
+std::string_view PowerSettingText(unsigned long level)
 {
     switch (level)
     {
@@ -59,9 +61,10 @@ int CWirelessManage::GetPowerSetting(unsigned long& level)
         return static_cast<int>(error);
     DWORD size = sizeof(*setting);
     PVOID data = nullptr;
-    const DWORD error = wlan().WlanQueryAutoConfigParameter(hClient, wlan_autoconf_opcode_power_setting, nullptr, &size,
-                                                            &data, nullptr);
+    DWORD error = wlan().WlanQueryAutoConfigParameter(hClient, wlan_autoconf_opcode_power_setting, nullptr, &size,
+                                                      &data, nullptr);
     setting.Take(data);
+    error = ErrorOf(error, data);
     // Deliberate: a failed query shows only in the trace and in the level left alone.
     if (!trace.Failed(error, "WlanQueryAutoConfigParameter failed! err is %u"))
         level = *setting;
@@ -77,6 +80,6 @@ int CWirelessManage::SetPowerSetting(unsigned long)
 char* CWirelessManage::GetPowerSettingStr(unsigned long level)
 {
     auto& m_szPowerSetting = m_Text[1].szShort;
-    CopyTruncating(m_szPowerSetting, sizeof(m_szPowerSetting), PowerSettingText(level));
+    CopyTruncating(m_szPowerSetting, PowerSettingText(level));
     return m_szPowerSetting;
 }

@@ -2,6 +2,8 @@
 
 #include "core/service_steps.h"
 
+#include <cstddef>
+
 using namespace calvix;
 
 namespace
@@ -30,9 +32,11 @@ long ReadFirstPhy(HANDLE& client, const GUID* interfaceGuid, FirstPhy& phy, Trac
     if (OpenClient(client, trace) != 0)
         return kNotOpened;
     DWORD size = 0;
-    if (QueryInterface(client, interfaceGuid, wlan_intf_opcode_radio_state, radio, size, trace) != 0)
+    if (QueryInterface(client, interfaceGuid, wlan_intf_opcode_radio_state, radio, size, trace,
+                       offsetof(WLAN_RADIO_STATE, PhyRadioState)) != 0)
         return kQueryFailed;
-    if (radio->dwNumberOfPhys == 0)
+    constexpr std::size_t sizeWithPhy = offsetof(WLAN_RADIO_STATE, PhyRadioState) + sizeof(WLAN_PHY_RADIO_STATE);
+    if (radio->dwNumberOfPhys == 0 || size < sizeWithPhy)
     {
         noPhyTrace.Message("No valid Phy");
         return kNoPhy;
@@ -105,7 +109,8 @@ int CWirelessManage::SupportedSafeMode(const GUID* pInterfaceGuid)
     if (OpenClient(hClient, trace) != 0)
         return -2;
     DWORD size = 0;
-    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_supported_safe_mode, supported, size, trace) != 0)
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_supported_safe_mode, supported, size, trace,
+                       sizeof(BOOL)) != 0)
         return -5;
     return *supported;
 }

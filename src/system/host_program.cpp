@@ -1,18 +1,16 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/bounded_copy.h"
 #include "platform/platform.h"
 
 #include <cstring>
 
 char* CWirelessManage::GetAppPath()
 {
-    char path[512] = {};
-    calvix::platform::processes().GetModuleFileNameA(nullptr, path, sizeof(path));
+    m_szAppPath[0] = '\0';
+    calvix::platform::processes().GetModuleFileNameA(nullptr, m_szAppPath, sizeof(m_szAppPath));
     // Old systems do not terminate a path that they cut.
-    path[sizeof(path) - 1] = '\0';
-    char* const lastBackslash = std::strrchr(path, '\\');
-    *(lastBackslash != nullptr ? lastBackslash + 1 : path) = '\0';
-    calvix::CopyTruncating(m_szAppPath, sizeof(m_szAppPath), path);
+    m_szAppPath[sizeof(m_szAppPath) - 1] = '\0';
+    char* const lastBackslash = std::strrchr(m_szAppPath, '\\');
+    *(lastBackslash != nullptr ? lastBackslash + 1 : m_szAppPath) = '\0';
     return m_szAppPath;
 }

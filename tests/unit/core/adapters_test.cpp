@@ -208,6 +208,18 @@ TEST_F(AdaptersTest, NoGuidIsNoAdapters)
     EXPECT_STREQ("", manager().GetWlanInterfaceDesc(nullptr));
 }
 
+// Deliberate: the first description stays, and be it of one character.
+TEST_F(AdaptersTest, AShortDescriptionIsKeptToo)
+{
+    simulation::Scenario scenario = RichWorld();
+    scenario.adapters[0].description = "W";
+    UseWorld(scenario);
+    EXPECT_STREQ("W", manager().GetWlanInterfaceDesc(&kAdapterA));
+    ClearCalls();
+    EXPECT_STREQ("W", manager().GetWlanInterfaceDesc(&kAdapterB));
+    EXPECT_THAT(calls(), IsEmpty());
+}
+
 // --- GetWlanInterfaceGuid ---------------------------------------------------------------------------------------
 
 TEST_F(AdaptersTest, TheDescriptionFindsTheGuid)

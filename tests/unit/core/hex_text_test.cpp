@@ -80,7 +80,8 @@ TEST_F(HexTextTest, TextBecomesBytes)
                  {"ABC", 2, "0ABC", "BC0A"}, // an odd length: the first character is a lone low half
                  {"F", 1, "0F", "0F"},
                  {"ab", 1, "AB", "AB"},
-                 {"AB", 1, "AB", "AB"},
+                 {"BA", 1, "BA", "BA"},
+                 {"ba", 1, "BA", "BA"}, // in the high place of a byte a digit wrong by 32 would not show
                  {"aBcDeF09", 4, "ABCDEF09", "09EFCDAB"},
                  {"0A1B2C", 2, "1B2C", "2C1B"}, // a short destination takes the text's end
                  {"ABC", 1, "BC", "BC"},

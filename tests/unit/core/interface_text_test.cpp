@@ -32,6 +32,8 @@ TEST_F(InterfaceTextTest, EveryStateHasItsText)
         EXPECT_STREQ(each.text, text) << each.state;
         EXPECT_EQ(ManagerInternals::InterfaceState(manager()), text) << "the text is the object's own";
     }
+    const unsigned long highest = ~0UL;
+    EXPECT_EQ("unknown(" + std::to_string(highest) + ")", manager().GetWlanInterfaceState(highest));
     EXPECT_THAT(timeline(), IsEmpty());
     EXPECT_TRUE(sharedTraceUntouched());
 }

@@ -131,12 +131,12 @@ TEST_F(ManagerTest, DeleteClosesTheClientAndDestroysTheInstance)
 
 TEST_F(ManagerTest, DeleteTracesAClientThatCannotBeClosed)
 {
-    FailOn("WlanCloseHandle", 6);
+    FailOn("WlanCloseHandle", 2150899714);
     CWirelessManage::Delete();
     EXPECT_EQ(nullptr, ManagerInternals::Instance()) << "the instance goes all the same";
     EXPECT_NE(nullptr, ManagerInternals::Client());
-    EXPECT_THAT(traced(), ElementsAre("WlanCloseHandle failed with error: 6"));
-    EXPECT_EQ("WlanCloseHandle failed with error: 6", sharedTrace());
+    EXPECT_THAT(traced(), ElementsAre("WlanCloseHandle failed with error: 2150899714"));
+    EXPECT_EQ("WlanCloseHandle failed with error: 2150899714", sharedTrace());
 }
 
 TEST_F(ManagerTest, DeleteWithNothingToDeleteDoesNothing)

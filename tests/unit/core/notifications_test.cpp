@@ -147,7 +147,7 @@ TEST_F(NotificationsTest, EveryWayToFail)
                               .call = RegisterSomething,
                               .failingOperation = "WlanRegisterNotification",
                               .expected = 5,
-                              .traced = {"WlanRegisterNotification: %u"}},
+                              .traced = {"WlanRegisterNotification: %d"}},
                              {.method = "UnRegisterNotification",
                               .call = Unregister,
                               .failingOperation = "WlanOpenHandle",
@@ -158,7 +158,7 @@ TEST_F(NotificationsTest, EveryWayToFail)
                               .call = Unregister,
                               .failingOperation = "WlanRegisterNotification",
                               .expected = 5,
-                              .traced = {"WlanUnRegisterNotification: %u"}},
+                              .traced = {"WlanUnRegisterNotification: %d"}},
                          });
 }
 

@@ -44,7 +44,7 @@ public:
     /// Places in the list of the networks that match.
     std::vector<std::ptrdiff_t> PlacesOf(const std::wstring& profile) const
     {
-        const NetworksByProfile networks(List());
+        NetworksByProfile networks(List());
         std::vector<std::ptrdiff_t> places;
         for (const WLAN_AVAILABLE_NETWORK* network : networks.Of(Profile(profile)))
             places.push_back(network - List().Network);
@@ -85,6 +85,45 @@ TEST(NetworksByProfileTest, ANameThatFillsItsRecordNeedsNoTerminator)
     const Networks networks({full, full.substr(1)});
     EXPECT_THAT(networks.PlacesOf(full), ElementsAre(0));
     EXPECT_THAT(networks.PlacesOf(full.substr(1)), ElementsAre(1));
+}
+
+TEST(NetworksByProfileTest, ProfilesMayBeAskedForInAnyOrderAndWalksMayBeLeft)
+{
+    const Networks networks({L"A", L"B", L"A", L"C", L"B", L"A"});
+    NetworksByProfile byProfile(networks.List());
+    const auto placesOf = [&](const std::wstring& name, std::size_t most)
+    {
+        std::vector<std::ptrdiff_t> places;
+        for (const WLAN_AVAILABLE_NETWORK* network : byProfile.Of(Profile(name)))
+        {
+            places.push_back(network - networks.List().Network);
+            if (places.size() == most)
+                break;
+        }
+        return places;
+    };
+    EXPECT_THAT(placesOf(L"A", 1), ElementsAre(0));
+    EXPECT_THAT(placesOf(L"C", 9), ElementsAre(3));
+    EXPECT_THAT(placesOf(L"B", 1), ElementsAre(1));
+    EXPECT_THAT(placesOf(L"A", 9), ElementsAre(0, 2, 5));
+    EXPECT_THAT(placesOf(L"D", 9), IsEmpty());
+    EXPECT_THAT(placesOf(L"B", 9), ElementsAre(1, 4));
+}
+
+TEST(NetworksByProfileTest, ManyNamesAreToldApart)
+{
+    std::vector<std::wstring> names;
+    for (int index = 0; index < 3000; ++index)
+        names.push_back(L"Network " + std::to_wstring(index % 1500));
+    const Networks networks(names);
+    NetworksByProfile byProfile(networks.List());
+    for (int index = 1499; index >= 0; --index)
+    {
+        std::vector<std::ptrdiff_t> places;
+        for (const WLAN_AVAILABLE_NETWORK* network : byProfile.Of(Profile(L"Network " + std::to_wstring(index))))
+            places.push_back(network - networks.List().Network);
+        ASSERT_THAT(places, ElementsAre(index, index + 1500));
+    }
 }
 
 TEST(NetworksByProfileTest, AnEmptyListMatchesNothing)

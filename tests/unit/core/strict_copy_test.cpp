@@ -45,6 +45,8 @@ TEST(StrictCopyTest, TextNeedsRoomForItsTerminator)
     ExpectFatal([&] { StrictCopyText(destination, 5, nullptr, "Method"); }, "null source");
     ExpectFatal([&] { StrictCopyText(nullptr, 5, "Home", "Method"); }, "null destination");
     EXPECT_STREQ("Home", destination);
+    StrictCopyText(destination, 1, "", "Method");
+    EXPECT_STREQ("", destination);
 }
 
 TEST(StrictCopyTest, TheMessageNamesTheMethodAndTheMistake)

@@ -86,6 +86,9 @@ TEST(FormatTraceTest, FormatsWideTextOfAnyLength)
     EXPECT_EQ(L"[" + name + L"]", room.data());
     EXPECT_EQ(kTruncated, FormatTraceW(room.data(), 4, L"[%ls]", name.c_str()));
     EXPECT_EQ(L"[\u6771\u6771", std::wstring(room.data()));
+    const std::wstring longest(1'000'000, L'\u6771');
+    EXPECT_EQ(kTruncated, FormatTraceW(room.data(), 4, L"[%ls]", longest.c_str()));
+    EXPECT_EQ(L"[\u6771\u6771", std::wstring(room.data()));
 }
 
 TEST(FormatTraceTest, FormatsAllThirtyTwoBitsOfAnErrorNumber)

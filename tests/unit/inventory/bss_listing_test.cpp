@@ -48,7 +48,7 @@ TEST_F(BssListingTest, TheNumbersOfAnAccessPoint)
             entry.ulChCenterFrequency = 5180000;
             entry.uLinkQuality = 4000000000U;
             entry.usBeaconPeriod = 65535;
-            entry.uPhyId = 63;
+            entry.uPhyId = 4000000002U;
         });
     EXPECT_THAT(lines, Contains("Rssi[0]:\t -113"));
     EXPECT_THAT(lines, Contains("Signal Strength[0]:\t 0"));
@@ -56,7 +56,7 @@ TEST_F(BssListingTest, TheNumbersOfAnAccessPoint)
     EXPECT_THAT(lines, Contains("Channel[0]:\t 36"));
     EXPECT_THAT(lines, Contains("Link Quality[0]:\t 4000000000"));
     EXPECT_THAT(lines, Contains("Beacon Period[0]:\t 65535"));
-    EXPECT_THAT(lines, Contains("PhyId[0]:\t 63"));
+    EXPECT_THAT(lines, Contains("PhyId[0]:\t 4000000002"));
 }
 
 TEST_F(BssListingTest, StrengthAndChannelFollowTheRulesOfTheirMethods)
@@ -66,6 +66,8 @@ TEST_F(BssListingTest, StrengthAndChannelFollowTheRulesOfTheirMethods)
                     Contains("Signal Strength[0]:\t " + std::to_string(manager().GetSignalStrength(rssi))));
     EXPECT_THAT(Entry([](auto& entry) { entry.ulChCenterFrequency = 2484000; }), Contains("Channel[0]:\t 13"));
     EXPECT_THAT(Entry([](auto& entry) { entry.ulChCenterFrequency = 2485; }), Contains("Channel[0]:\t 4294966993"));
+    EXPECT_THAT(Entry([](auto& entry) { entry.ulChCenterFrequency = 4000000000U; }),
+                Contains("Center Frequency[0]:\t 4000000000"));
 }
 
 TEST_F(BssListingTest, AddressesAreUpperCase)

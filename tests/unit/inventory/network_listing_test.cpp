@@ -23,6 +23,12 @@ TEST_F(NetworkListingTest, EveryNetworkTypeHasItsText)
     }
 }
 
+TEST_F(NetworkListingTest, ACharacterOfAProfileNameIsAByteOrAQuestionMark)
+{
+    EXPECT_THAT(Network([](auto& network) { std::wmemcpy(network.strProfileName, L"\u00FF\u0100\u6771", 4); }),
+                Contains("  Profile Name[0]:  \xFF??"));
+}
+
 TEST_F(NetworkListingTest, WhyANetworkCannotBeJoined)
 {
     const Lines lines = Network(
@@ -43,11 +49,11 @@ TEST_F(NetworkListingTest, CountsAndSecurity)
         [](auto& network)
         {
             network.uNumberOfBssids = 4000000000U;
-            network.uNumberOfPhyTypes = 8;
+            network.uNumberOfPhyTypes = 4000000001U;
             network.bSecurityEnabled = FALSE;
         });
     EXPECT_THAT(lines, Contains("  Number of BSSIDs[0]:\t 4000000000"));
-    EXPECT_THAT(lines, Contains("  Number of PHY types supported[0]:\t 8"));
+    EXPECT_THAT(lines, Contains("  Number of PHY types supported[0]:\t 4000000001"));
     EXPECT_EQ("No", After(lines, "  Security Enabled[0]:\t "));
 }
 

@@ -80,18 +80,18 @@ TEST_F(ScanTest, OpensTheClientWhenItIsNotOpen)
 
 TEST_F(ScanTest, EveryWayToFail)
 {
-    const auto stores5 = [](auto& m) { return RescanStoring(m, 5); };
-    const auto storesPowerState = [](auto& m) { return RescanStoring(m, 2150899714); };
+    constexpr unsigned kPowerState = 2150899714;
+    const auto storing = [](auto& m) { return RescanStoring(m, kPowerState); };
+    const auto shared = TraceBuffer::shared;
     CheckFailures(*this,
                   {
-                      {"Rescan(guid)", stores5, "WlanOpenHandle", -1, {kOpenFailed}},
-                      {"Rescan(guid)", stores5, "WlanScan", -4, {kScanFailed}},
+                      {"Rescan(guid)", storing, "WlanOpenHandle", -1, {kOpenFailed}, shared, kPowerState},
                       {.method = "Rescan(guid)",
-                       .call = storesPowerState,
+                       .call = storing,
                        .failingOperation = "WlanScan",
                        .expected = -4,
                        .traced = {"WlanScan failed with error: 2150899714"},
-                       .error = 2150899714},
+                       .error = kPowerState},
                       {"Rescan()", RescanFirst, "WlanOpenHandle", -1, {kOpenFailed}},
                       {"Rescan()", RescanFirst, "WlanEnumInterfaces", -2, {kEnumFailed}},
                       {"Rescan()", RescanFirst, "WlanScan", -4, {kScanFailed}},

@@ -154,6 +154,12 @@ TEST_F(ProfileListTest, GetWlanProfileReportsInvalidCharacters)
 }
 
 // The precomposed flag is none that UTF-8 takes.
+TEST_F(ProfileListTest, AnErrorFromEarlierIsNotTheNames)
+{
+    FailOn("GetLastError", 1113);
+    EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
+}
+
 TEST_F(ProfileListTest, GetWlanProfileReportsTheRefusalOfAUtf8CodePage)
 {
     simulation::Scenario scenario = RichWorld();

@@ -105,6 +105,16 @@ TEST_F(ProfileTextTest, NarrowTextIsTheWholeText)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
+// A character that the C locale has no form for leaves nothing to copy.
+TEST_F(ProfileTextTest, NarrowTextThatCannotBeNarrowedIsEmpty)
+{
+    EditedAnswers edited;
+    edited.service.SetProfileText(L"HomeNet", L"<name>\u6771</name>");
+    char text[] = "####";
+    EXPECT_EQ(0, manager().GetProfile(&kAdapterA, L"HomeNet", text, sizeof(text)));
+    EXPECT_STREQ("", text);
+}
+
 // Deliberate: unlike wide text, narrow text is never cut.
 TEST_F(ProfileTextTest, NarrowTextThatDoesNotFitEndsTheProcess)
 {

@@ -19,7 +19,7 @@ constexpr unsigned long kWrongVersion = 0xFFFFFFFF;
 constexpr unsigned long kUnseen = 77;
 constexpr const char* kSecurityOpenFailed = "SetSecuritySettings -> WlanOpenHandle failed with error: %u";
 constexpr const char* kControlOpenFailed = "IhvControl -> WlanOpenHandle failed with error: %u";
-constexpr const char* kControlFailed = "WlanIhvControl ErrorCode:%u\n";
+constexpr const char* kControlFailed = "WlanIhvControl ErrorCode:%d\n";
 
 // Users, then network operators, then administrators: reading and writing each. Everybody else last.
 const std::string kAccess = "O:SYG:SYD:"

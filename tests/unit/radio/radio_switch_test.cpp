@@ -44,12 +44,15 @@ long long OnByItsOtherName(CWirelessManage& manager)
     return manager.TurnOnSoftwareRadio(&kAdapterA);
 }
 
+/// An error number of the service's own: it has the highest of its 32 bits set.
+constexpr unsigned kPowerState = 2150899714;
+
 /// TurnOnSoftwareRadio that has to tell the error of the row.
 long long OnWithError(CWirelessManage& manager)
 {
     unsigned long error = kUnseen;
     const int code = manager.TurnOnSoftwareRadio(&kAdapterA, error);
-    EXPECT_EQ(5u, error);
+    EXPECT_EQ(kPowerState, error);
     return code;
 }
 
@@ -128,8 +131,20 @@ TEST_F(RadioSwitchTest, EveryWayForASwitchToFail)
                              {"RadioTurnOn", On, "WlanSetInterface", -4, {kSetFailed}},
                              {"TurnOnSoftwareRadio", OnByItsOtherName, "WlanOpenHandle", -1, {kOpenFailed}},
                              {"TurnOnSoftwareRadio", OnByItsOtherName, "WlanSetInterface", -4, {kSetFailed}},
-                             {"TurnOnSoftwareRadio with error", OnWithError, "WlanOpenHandle", -1, {kOpenFailed}},
-                             {"TurnOnSoftwareRadio with error", OnWithError, "WlanSetInterface", -4, {kSetFailed}},
+                             {"TurnOnSoftwareRadio with error",
+                              OnWithError,
+                              "WlanOpenHandle",
+                              -1,
+                              {kOpenFailed},
+                              TraceBuffer::shared,
+                              kPowerState},
+                             {"TurnOnSoftwareRadio with error",
+                              OnWithError,
+                              "WlanSetInterface",
+                              -4,
+                              {kSetFailed},
+                              TraceBuffer::shared,
+                              kPowerState},
                              {"RadioTurnOff", Off, "WlanOpenHandle", -1, {kOpenFailed}, local},
                              {"RadioTurnOff", Off, "WlanSetInterface", -4, {kSetFailed}, local},
                          });

@@ -16,15 +16,19 @@ struct Shape
     std::size_t profiles;
     std::size_t networks;
     std::size_t matches;
+    std::size_t accessPoints = 2; ///< entries of every BSS list
+    bool lastOnly = false;        ///< the one match is that of the last profile with the last network
 
     auto operator<=>(const Shape&) const = default;
 };
 
+std::wstring ProfileName(std::size_t index);
+
+/// A profile that connects automatically.
+std::wstring ProfileXml();
+
 /// A record as it lies in memory, ready to be copied.
 using Block = std::vector<std::byte>;
-
-/// Access points that every network is heard from.
-inline constexpr int kAccessPoints = 2;
 
 /// Everything a ListService hands out. All networks are heard from the same access points and all profiles have the same
 /// text, so that an answer costs its copy and no search.
@@ -38,6 +42,13 @@ struct ServiceContent
     Block accessPoints;
     Block profileXml; ///< of a profile that connects automatically
     Block connection;
+    Block radio; ///< on, by both switches
+    Block statistics;
+    Block number; ///< what a query for a plain number gives
+    Block powerSetting;
+
+    /// What a query of the interface gives.
+    const Block& AnswerTo(WLAN_INTF_OPCODE opcode) const;
 };
 
 /// The content of a shape, built once.

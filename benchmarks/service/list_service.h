@@ -1,40 +1,18 @@
 #pragma once
 
 #include "platform/wlan_service.h"
-#include "service_content.h"
-
-#include <compare>
+#include "service/service_content.h"
 
 namespace calvix::benchmarks
 {
 
-/// How often each operation was called.
-struct CallCounts
-{
-    unsigned enumerations = 0;
-    unsigned scans = 0;
-    unsigned networkLists = 0;
-    unsigned bssLists = 0;
-    unsigned queries = 0;
-    unsigned profileLists = 0;
-    unsigned profileTexts = 0;
-    unsigned connects = 0;
-    unsigned releases = 0;
-
-    bool operator==(const CallCounts&) const = default;
-};
-
 /// About the cheapest WLAN service that can stand behind the library: each list or record is one block from the heap,
-/// copied from a preset one, whatever the interface, network or profile asked for. Requests are accepted and forgotten;
-/// what the benchmarks do not need is not there (ERROR_CALL_NOT_IMPLEMENTED).
+/// copied from a preset one, whatever the interface, network or profile asked for. Requests are accepted and forgotten.
 class ListService final : public platform::WlanService
 {
 public:
     /// Hands out `content` from now on; it outlives this object.
     void Use(const ServiceContent& content) { m_content = &content; }
-
-    /// Calls since the last time that this was asked.
-    CallCounts TakeCalls();
 
     DWORD WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client) override;
     DWORD WlanCloseHandle(HANDLE client, PVOID reserved) override;
@@ -123,10 +101,6 @@ public:
 
 private:
     const ServiceContent* m_content = nullptr;
-    CallCounts m_calls;
 };
-
-/// The service behind the library in this program.
-ListService& TheService();
 
 } // namespace calvix::benchmarks

@@ -1,4 +1,4 @@
-#include "allocation_count.h"
+#include "measure/allocation_count.h"
 
 #include <atomic>
 #include <cstdlib>

@@ -1,0 +1,179 @@
+#include "simulator/simulator_benchmarks.h"
+
+#include "service/household_scenario.h"
+#include "service/service_content.h"
+#include "simulation/computer.h"
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+namespace calvix::benchmarks
+{
+
+namespace
+{
+
+/// A client of a simulated computer.
+struct Client
+{
+    explicit Client(std::size_t networks)
+        : computer(HouseholdScenario(networks / 2, networks, networks / 5)), wlan(computer.wlan())
+    {
+        DWORD version = 0;
+        wlan.WlanOpenHandle(2, nullptr, &version, &handle);
+        constexpr char name[] = "network-0";
+        for (ssid.uSSIDLength = 0; ssid.uSSIDLength < sizeof(name) - 1; ++ssid.uSSIDLength)
+            ssid.ucSSID[ssid.uSSIDLength] = static_cast<UCHAR>(name[ssid.uSSIDLength]);
+        xml = ProfileXml();
+    }
+
+    simulation::Computer computer;
+    platform::WlanService& wlan;
+    HANDLE handle = nullptr;
+    DOT11_SSID ssid{};
+    std::wstring xml;
+};
+
+using Operation = DWORD (*)(Client&);
+
+struct Simulated
+{
+    const char* name;
+    Operation operation;
+};
+
+const GUID* const kAdapter = &kHouseholdAdapter;
+
+DWORD OpenAndClose(Client& client)
+{
+    DWORD version = 0;
+    HANDLE handle = nullptr;
+    const DWORD error = client.wlan.WlanOpenHandle(2, nullptr, &version, &handle);
+    client.wlan.WlanCloseHandle(handle, nullptr);
+    return error;
+}
+
+DWORD EnumInterfaces(Client& client)
+{
+    WLAN_INTERFACE_INFO_LIST* list = nullptr;
+    const DWORD error = client.wlan.WlanEnumInterfaces(client.handle, nullptr, &list);
+    client.wlan.WlanFreeMemory(list);
+    return error;
+}
+
+DWORD ListNetworks(Client& client)
+{
+    WLAN_AVAILABLE_NETWORK_LIST* list = nullptr;
+    const DWORD error = client.wlan.WlanGetAvailableNetworkList(client.handle, kAdapter, 0, nullptr, &list);
+    client.wlan.WlanFreeMemory(list);
+    return error;
+}
+
+DWORD ListEveryBss(Client& client)
+{
+    WLAN_BSS_LIST* list = nullptr;
+    const DWORD error =
+        client.wlan.WlanGetNetworkBssList(client.handle, kAdapter, nullptr, dot11_BSS_type_any, FALSE, nullptr, &list);
+    client.wlan.WlanFreeMemory(list);
+    return error;
+}
+
+DWORD ListBssOfOne(Client& client)
+{
+    WLAN_BSS_LIST* list = nullptr;
+    const DWORD error = client.wlan.WlanGetNetworkBssList(client.handle, kAdapter, &client.ssid,
+                                                          dot11_BSS_type_infrastructure, TRUE, nullptr, &list);
+    client.wlan.WlanFreeMemory(list);
+    return error;
+}
+
+DWORD QueryConnection(Client& client)
+{
+    DWORD size = 0;
+    PVOID data = nullptr;
+    const DWORD error = client.wlan.WlanQueryInterface(client.handle, kAdapter, wlan_intf_opcode_current_connection,
+                                                       nullptr, &size, &data, nullptr);
+    client.wlan.WlanFreeMemory(data);
+    return error;
+}
+
+DWORD ListProfiles(Client& client)
+{
+    WLAN_PROFILE_INFO_LIST* list = nullptr;
+    const DWORD error = client.wlan.WlanGetProfileList(client.handle, kAdapter, nullptr, &list);
+    client.wlan.WlanFreeMemory(list);
+    return error;
+}
+
+DWORD ReadProfile(Client& client)
+{
+    DWORD flags = 0;
+    DWORD access = 0;
+    wchar_t* xml = nullptr;
+    const DWORD error =
+        client.wlan.WlanGetProfile(client.handle, kAdapter, L"Wireless network 0", nullptr, &xml, &flags, &access);
+    client.wlan.WlanFreeMemory(xml);
+    return error;
+}
+
+DWORD StoreProfile(Client& client)
+{
+    DWORD reason = 0;
+    return client.wlan.WlanSetProfile(client.handle, kAdapter, 0, client.xml.c_str(), nullptr, TRUE, nullptr, &reason);
+}
+
+DWORD Scan(Client& client)
+{
+    return client.wlan.WlanScan(client.handle, kAdapter, nullptr, nullptr, nullptr);
+}
+
+DWORD Connect(Client& client)
+{
+    WLAN_CONNECTION_PARAMETERS parameters{};
+    parameters.strProfile = L"Wireless network 0";
+    parameters.dot11BssType = dot11_BSS_type_infrastructure;
+    return client.wlan.WlanConnect(client.handle, kAdapter, &parameters, nullptr);
+}
+
+constexpr Simulated kOperations[] = {
+    {"WlanOpenHandle and WlanCloseHandle", OpenAndClose},
+    {"WlanEnumInterfaces", EnumInterfaces},
+    {"WlanGetAvailableNetworkList", ListNetworks},
+    {"WlanGetNetworkBssList, all", ListEveryBss},
+    {"WlanGetNetworkBssList, one network", ListBssOfOne},
+    {"WlanQueryInterface, current connection", QueryConnection},
+    {"WlanGetProfileList", ListProfiles},
+    {"WlanGetProfile", ReadProfile},
+    {"WlanSetProfile", StoreProfile},
+    {"WlanScan", Scan},
+    {"WlanConnect", Connect},
+};
+
+void MeasureOperation(benchmark::State& state, Operation operation, std::size_t networks)
+{
+    Client client(networks);
+    if (operation(client) != 0)
+        return state.SkipWithError("the simulated computer refuses");
+    for (auto iteration : state)
+    {
+        static_cast<void>(iteration);
+        benchmark::DoNotOptimize(operation(client));
+    }
+}
+
+} // namespace
+
+void RegisterSimulatorBenchmarks()
+{
+    for (const Simulated& simulated : kOperations)
+        for (const std::size_t networks : {std::size_t{20}, std::size_t{200}})
+            benchmark::RegisterBenchmark(
+                (std::string("simulator/") + simulated.name + "/" + std::to_string(networks)).c_str(),
+                [simulated, networks](benchmark::State& state)
+                { MeasureOperation(state, simulated.operation, networks); })
+                ->MinTime(0.01)
+                ->Repetitions(5);
+}
+
+} // namespace calvix::benchmarks

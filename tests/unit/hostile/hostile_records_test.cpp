@@ -1,0 +1,423 @@
+// A service whose records hold what no service should say. What the methods make of it follows from their rules, or is
+// their answer to a failed call; nothing is read beyond the records, which the sanitizers watch, and nothing is left held.
+
+#include "support/edited_answers.h"
+#include "support/library_test.h"
+#include "support/strict_copy_guard.h"
+#include "unit/hostile/empty_handed_service.h"
+#include "unit/hostile/every_reader.h"
+#include "unit/inventory/altered_answers.h"
+
+#include "core/wlan_lists.h"
+
+#include <cstddef>
+
+namespace calvix::test::hostile_records_test
+{
+namespace
+{
+
+using ::testing::Contains;
+
+class HostileRecordsTest : public LibraryTest
+{
+public:
+    long long Result(const std::string& method)
+    {
+        for (const Reader& reader : EveryReader())
+            if (reader.method == method)
+                return reader.call(manager());
+        ADD_FAILURE() << "no such method: " << method;
+        return 0;
+    }
+
+    void CallEverything()
+    {
+        for (const Reader& reader : EveryReader())
+        {
+            SCOPED_TRACE(reader.method);
+            reader.call(manager());
+            ExpectNothingHeld();
+        }
+    }
+};
+
+const std::string kFullName(WLAN_MAX_NAME_LENGTH, 'n');
+const std::wstring kFullWideName(WLAN_MAX_NAME_LENGTH, L'n');
+
+template <std::size_t Capacity>
+void FillUp(wchar_t (&name)[Capacity])
+{
+    std::fill(std::begin(name), std::end(name), L'n');
+}
+
+template <typename List, typename Change>
+void ChangeEach(List& list, Change change)
+{
+    for (const auto& item : Items(list))
+        change(const_cast<std::remove_cvref_t<decltype(item)>&>(item));
+}
+
+struct Spoiling
+{
+    const char* name;
+    AnswerChanges changes;
+};
+
+Spoiling SsidLength(const char* name, ULONG stated)
+{
+    const auto spoil = [stated](auto& record) { record.dot11Ssid.uSSIDLength = stated; };
+    return {name,
+            {.networks = [spoil](auto& list) { ChangeEach(list, spoil); },
+             .bss = [spoil](auto& list) { ChangeEach(list, spoil); },
+             .query =
+                 [spoil](WLAN_INTF_OPCODE opcode, PVOID data, DWORD&)
+             {
+                 if (opcode == wlan_intf_opcode_current_connection)
+                     spoil(static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes);
+             }}};
+}
+
+Spoiling Numbers(const char* name, std::uint32_t number)
+{
+    const auto network = [number](WLAN_AVAILABLE_NETWORK& each)
+    {
+        each.wlanSignalQuality = number;
+        each.dot11BssType = static_cast<DOT11_BSS_TYPE>(number);
+        each.uNumberOfPhyTypes = number;
+        each.wlanNotConnectableReason = number;
+    };
+    const auto entry = [number](WLAN_BSS_ENTRY& each)
+    {
+        each.ulChCenterFrequency = number;
+        each.lRssi = static_cast<std::int32_t>(number);
+        each.uLinkQuality = number;
+        each.ulIeOffset = number;
+        each.ulIeSize = number;
+        each.ullHostTimestamp = number == 0 ? 0 : ~0ULL;
+        each.dot11BssPhyType = static_cast<DOT11_PHY_TYPE>(number);
+    };
+    return {name,
+            {.interfaces =
+                 [number](WLAN_INTERFACE_INFO_LIST& list)
+             {
+                 list.dwIndex = number;
+                 ChangeEach(list, [number](auto& each) { each.isState = static_cast<WLAN_INTERFACE_STATE>(number); });
+             },
+             .networks = [network](auto& list) { ChangeEach(list, network); },
+             .profiles = [number](WLAN_PROFILE_INFO_LIST& list) { list.dwIndex = number; },
+             .bss = [entry](auto& list) { ChangeEach(list, entry); }}};
+}
+
+AnswerChanges FullNames()
+{
+    return {.interfaces = [](auto& list)
+            { ChangeEach(list, [](auto& each) { FillUp(each.strInterfaceDescription); }); },
+            .networks = [](auto& list) { ChangeEach(list, [](auto& each) { FillUp(each.strProfileName); }); },
+            .profiles = [](auto& list) { ChangeEach(list, [](auto& each) { FillUp(each.strProfileName); }); },
+            .query =
+                [](WLAN_INTF_OPCODE opcode, PVOID data, DWORD&)
+            {
+                if (opcode == wlan_intf_opcode_current_connection)
+                    FillUp(static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->strProfileName);
+            }};
+}
+
+template <typename List>
+void Empty(List& list)
+{
+    list.dwNumberOfItems = 0;
+    list.dwIndex = 5;
+}
+
+AnswerChanges EmptyLists()
+{
+    return {.interfaces = Empty<WLAN_INTERFACE_INFO_LIST>,
+            .networks = Empty<WLAN_AVAILABLE_NETWORK_LIST>,
+            .profiles = Empty<WLAN_PROFILE_INFO_LIST>,
+            .bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; }};
+}
+
+AnswerChanges AdaptersOfNowhere()
+{
+    return {.interfaces = [](auto& list) { ChangeEach(list, [](auto& each) { each.InterfaceGuid = kNoAdapter; }); }};
+}
+
+std::vector<Spoiling> EverySpoiling()
+{
+    return {SsidLength("SSIDs of 33 bytes", 33),
+            SsidLength("SSIDs of 255 bytes", 255),
+            SsidLength("SSIDs of 4294967295 bytes", 0xFFFFFFFF),
+            Numbers("all zero", 0),
+            Numbers("just above 100", 101),
+            Numbers("the smallest negative number", 0x80000000),
+            Numbers("the largest number", 0xFFFFFFFF),
+            {"names without a terminator", FullNames()},
+            {"empty lists", EmptyLists()},
+            {"adapters of nowhere", AdaptersOfNowhere()}};
+}
+
+TEST_F(HostileRecordsTest, NoRecordBringsAMethodDown)
+{
+    for (Spoiling& spoiling : EverySpoiling())
+    {
+        SCOPED_TRACE(spoiling.name);
+        UseWorld(RichWorld());
+        const AlteredAnswers altered(std::move(spoiling.changes));
+        CallEverything();
+    }
+}
+
+// --- Success without a result ---
+
+struct Expectation
+{
+    const char* method;
+    long long result;
+};
+
+const std::map<std::string, std::vector<Expectation>> kEmptyHanded = {
+    {"WlanEnumInterfaces",
+     {{"GetWlanStatus", -3},
+      {"GetWlanInterfaceGuid", -2},
+      {"GetWlanInterface", -2},
+      {"GetWlanInterfaceDesc", 0},
+      {"GetWiFiAdapterCount", -3},
+      {"Rescan", -2},
+      {"GetNetworkBssCount", -3},
+      {"GetCurrentBSS", -2},
+      {"GetConnectableAPList", -3},
+      {"SmartConnecting", 13},
+      {"SetCurrentWiFiToLast", 13},
+      {"SpecialSoftAP", 0},
+      {"GetCurrentConnection", -2},
+      {"WiFiIsConnected", 0}}},
+    {"WlanGetProfileList",
+     {{"GetProfileCount", -4},
+      {"GetWlanProfile", 13},
+      {"SetProfilePosition", 13},
+      {"GetConnectableNetworkCount", -5},
+      {"AutoConnect", -4},
+      {"GetMatchAPList", -5},
+      {"ConnectBestAP", -4},
+      {"SmartConnecting", 13},
+      {"AutoSwitch", -4},
+      {"ConnectAutoMode", -4},
+      {"SetCurrentWiFiToLast", 13}}},
+    {"WlanGetAvailableNetworkList",
+     {{"GetAvailableNetworkCount", -5},
+      {"GetAP", -3},
+      {"GetNotConnectableReason", -4},
+      {"GetWiFiRSSI", -100},
+      {"GetSoftAPList", 13},
+      {"GetAvailableNetwork", 1},
+      {"LinkProfile", 13},
+      {"AutoConnect", -6},
+      {"GetMatchAPList", -7},
+      {"ConnectBestAP", -6},
+      {"SmartConnecting", 13},
+      {"ConnectAutoMode", -6}}},
+    {"WlanGetNetworkBssList",
+     {{"GetNetworkBssCount", -5},
+      {"IsWiFiDisappear", 0},
+      {"GetCurrentBSS", -5},
+      {"GetCurrentRSSI", -5},
+      {"GetNetworkBss", 1},
+      {"GetMatchAPList", 0},
+      {"GetMatchBSSID", -9},
+      {"ConnectBestAP", -10},
+      {"Reconnect", -4},
+      {"PreRoaming", -6},
+      {"Roaming", -6},
+      {"RecoverConnetionAttributes", -4}}},
+    {"WlanQueryInterface",
+     {{"GetRssi", -4},
+      {"GetCurrentRSSI", -4},
+      {"GetSignalQuality", -4},
+      {"GetCurrentConnection", -4},
+      {"PhyRadioIsOn2", -4},
+      {"SupportedSafeMode", -5},
+      {"GetWlanStatistics", -4},
+      {"GetCurrentBSS", -4},
+      {"ResetConnection", -4},
+      {"SaveCurrentConnectionAttributes", -4},
+      {"AutoSwitch", -3},
+      {"SmartSwitch", 13},
+      {"PreRoaming", -4},
+      {"SetCurrentWiFiToLast", 13},
+      {"SpecialSoftAP", 0}}},
+    {"WlanQueryAutoConfigParameter", {{"GetPowerSetting", 77}}},
+    {"WlanGetProfile",
+     {{"GetProfile", -4}, {"IsAutoConnMode2", -4}, {"SaveCurrentConnectionAttributes", -5}, {"ConnectAutoMode", -9}}}};
+
+/// Where roaming is worth considering.
+simulation::Scenario WeakWorld()
+{
+    simulation::Scenario world = RichWorld();
+    world.accessPoints[0].rssi = -88;
+    return world;
+}
+
+TEST_F(HostileRecordsTest, SuccessWithoutAResultIsAFailedCall)
+{
+    for (const auto& [operation, expectations] : kEmptyHanded)
+    {
+        SCOPED_TRACE(operation);
+        UseWorld(WeakWorld());
+        const EmptyHandedAnswers emptyHanded(operation);
+        for (const Expectation& expected : expectations)
+            EXPECT_EQ(expected.result, Result(expected.method)) << expected.method;
+        CallEverything();
+        EXPECT_THAT(traced(), testing::AnyOf(Contains(operation + " failed with error: 13"),
+                                             Contains(operation + " failed! err is 13")));
+    }
+}
+
+// --- Short answers ---
+
+TEST_F(HostileRecordsTest, AnAnswerShorterThanItsRecordIsAFailedQuery)
+{
+    const AlteredAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = 0; }});
+    EXPECT_EQ(-4, Result("GetRssi"));
+    EXPECT_EQ(-5, Result("SupportedSafeMode"));
+    EXPECT_EQ(-4, Result("PhyRadioIsOn2"));
+    EXPECT_EQ(-4, Result("GetWlanStatistics"));
+    EXPECT_EQ(0, Result("GetCurrentConnection")) << "of this record so much is copied as the service says";
+}
+
+TEST_F(HostileRecordsTest, RadioStateWithoutItsFirstPhyHasNone)
+{
+    constexpr DWORD kCountOnly = offsetof(WLAN_RADIO_STATE, PhyRadioState);
+    const AlteredAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = kCountOnly; }});
+    EXPECT_EQ(-5, Result("PhyRadioIsOn2"));
+}
+
+// --- Names that fill their array ---
+
+TEST_F(HostileRecordsTest, FullNamesAreWholeNames)
+{
+    const AlteredAnswers altered(FullNames());
+    GUID guid{};
+    EXPECT_EQ(0, manager().GetWlanInterfaceGuid(kFullWideName.c_str(), guid));
+    EXPECT_EQ(kFullName.substr(1), manager().GetWlanInterfaceDesc(&kAdapterA)) << "cut to what the text holds";
+    std::vector<std::wstring> names;
+    EXPECT_LT(0, manager().GetMatchAPCount(&kAdapterA, &names, 0));
+    ASSERT_FALSE(names.empty());
+    EXPECT_EQ(kFullWideName, names[0]);
+}
+
+TEST_F(HostileRecordsTest, FullNamesReachThePlatformTerminated)
+{
+    WLAN_CONNECTION_ATTRIBUTES remembered{};
+    FillUp(remembered.strProfileName);
+    remembered.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_infrastructure;
+    remembered.wlanAssociationAttributes.dot11Ssid = MakeSsid("HomeNet");
+    remembered.wlanSecurityAttributes.bSecurityEnabled = TRUE;
+    const AlteredAnswers altered(FullNames());
+    EditedAnswers edited;
+    std::vector<std::wstring> asked;
+    edited.service.connectRequest = [&asked](const WLAN_CONNECTION_PARAMETERS& parameters)
+    { asked.emplace_back(parameters.strProfile); };
+
+    Result("SmartConnecting");
+    Result("AutoConnect");
+    Result("ResetConnection");
+    manager().Reconnect(&kAdapterA, &remembered, 0);
+    manager().RecoverConnection(&kAdapterA, &remembered);
+    ASSERT_LE(5u, asked.size());
+    for (const std::wstring& name : asked)
+        EXPECT_EQ(kFullWideName, name);
+}
+
+TEST_F(HostileRecordsTest, FullNamesAreReadAndMovedTerminated)
+{
+    const AlteredAnswers altered(FullNames());
+    Result("SetCurrentWiFiToLast");
+    Result("AutoSwitch");
+    Result("SaveCurrentConnectionAttributes");
+    Result("ConnectAutoMode");
+    Result("ConnectBestAP");
+    std::size_t seen = 0;
+    for (const std::string_view operation : {"WlanSetProfilePosition", "WlanGetProfile"})
+    {
+        for (std::size_t number = 1; number <= callCount(operation); ++number, ++seen)
+        {
+            const wrappers::Call made = call(operation, number);
+            EXPECT_EQ("\"" + kFullName + "\"", made["name"]) << made.Line();
+        }
+    }
+    EXPECT_LE(5u, seen);
+}
+
+// --- Numbers at their limits ---
+
+TEST_F(HostileRecordsTest, QualitiesComeOutAsTheyAre)
+{
+    const auto with = [this](std::uint32_t quality, const char* method)
+    {
+        const AlteredAnswers altered(
+            {.networks = [quality](auto& list)
+             { ChangeEach(list, [quality](auto& each) { each.wlanSignalQuality = quality; }); },
+             .query =
+                 [quality](WLAN_INTF_OPCODE opcode, PVOID data, DWORD&)
+             {
+                 if (opcode == wlan_intf_opcode_current_connection)
+                     static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.wlanSignalQuality =
+                         quality;
+             }});
+        return Result(method);
+    };
+    EXPECT_EQ(101, with(101, "GetSignalQuality"));
+    EXPECT_EQ(-1, with(0xFFFFFFFF, "GetSignalQuality"));
+    EXPECT_EQ(-50, with(101, "GetWiFiRSSI"));
+    EXPECT_EQ(2147483547, with(0xFFFFFFFF, "GetWiFiRSSI"));
+}
+
+TEST_F(HostileRecordsTest, ListingsShowNumbersAtTheirLimits)
+{
+    const auto listed = [this](Spoiling spoiling)
+    {
+        ClearCalls();
+        const AlteredAnswers altered(std::move(spoiling.changes));
+        EXPECT_EQ(0, manager().GetNetworkBss());
+        return traced();
+    };
+    const std::vector<std::string> zeros = listed(Numbers("", 0));
+    EXPECT_THAT(zeros, Contains("Channel[0]:\t 14"));
+    EXPECT_THAT(zeros, Contains("Signal Strength[0]:\t 100"));
+    const std::vector<std::string> largest = listed(Numbers("", 0xFFFFFFFF));
+    EXPECT_THAT(largest, Contains("Center Frequency[0]:\t 4294967295"));
+    EXPECT_THAT(largest, Contains("Rssi[0]:\t -1"));
+    const std::vector<std::string> smallest = listed(Numbers("", 0x80000000));
+    EXPECT_THAT(smallest, Contains("Rssi[0]:\t -2147483648"));
+    EXPECT_THAT(smallest, Contains("Signal Strength[0]:\t 100")) << "the doubling wraps in 32 bits";
+}
+
+// --- SSIDs longer than can be ---
+
+TEST_F(HostileRecordsTest, AnSsidIsReadNoFurtherThanItsArray)
+{
+    const auto current = [this](ULONG stated)
+    {
+        EditedAnswers edited;
+        edited.service.currentConnection = [stated](WLAN_CONNECTION_ATTRIBUTES& connection)
+        {
+            DOT11_SSID& ssid = connection.wlanAssociationAttributes.dot11Ssid;
+            std::fill(std::begin(ssid.ucSSID), std::end(ssid.ucSSID), static_cast<UCHAR>('S'));
+            ssid.uSSIDLength = stated;
+        };
+        char text[80] = {};
+        EXPECT_EQ(0, manager().GetCurrentSSID(text, sizeof text));
+        return std::string(text);
+    };
+    EXPECT_EQ(std::string(32, 'S'), current(33));
+    EXPECT_EQ(std::string(32, 'S'), current(64));
+    for (const ULONG stated : {65UL, 255UL, 0xFFFFFFFFUL})
+    {
+        ExpectFatal([&] { current(stated); }, "GetSSID");
+        ExpectNothingHeld();
+    }
+}
+
+} // namespace
+} // namespace calvix::test::hostile_records_test
