@@ -5,7 +5,7 @@
 #include "simulation/scenario_names.h"
 
 #include <algorithm>
-#include <charconv>
+#include <array>
 #include <initializer_list>
 #include <utility>
 
@@ -33,18 +33,33 @@ Value Meaning(const CaptureField& field, const Terms<Value>& terms, const std::s
     return found->second;
 }
 
-/// -1 unless the whole text is a decimal number.
-int WholeNumber(std::string_view text)
+std::optional<simulation::MacAddress> AddressIn(std::string_view value)
 {
-    int number = -1;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() ? number : -1;
+    std::string text(value);
+    std::replace(text.begin(), text.end(), '-', ':');
+    return simulation::AddressFromText(text);
+}
+
+/// "5 GHz", with a point or a comma in "2.4" and the unit in either alphabet; empty for anything else.
+std::string_view BandIn(std::string_view text)
+{
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kBands{
+        {{"2.4", "2.4"}, {"2,4", "2.4"}, {"5", "5"}, {"6", "6"}}};
+    for (const auto& [number, band] : kBands)
+    {
+        const std::string_view unit = text.starts_with(number) ? Trim(text.substr(number.size())) : "";
+        if (SameWord(unit, "GHz") || unit == "ГГц")
+            return band;
+    }
+    return {};
 }
 
 std::string_view BandNamed(const CaptureField& field)
 {
-    return Meaning<const char*>(field, {{"2.4 GHz", "2.4"}, {"5 GHz", "5"}, {"6 GHz", "6"}},
-                                "a known band (2.4, 5 or 6 GHz)");
+    const std::string_view band = BandIn(field.value);
+    if (band.empty())
+        throw Unusable(field, "a known band (2.4, 5 or 6 GHz)");
+    return band;
 }
 
 std::uint32_t Frequency(const CaptureRecord& record)
@@ -63,7 +78,117 @@ std::uint32_t Frequency(const CaptureRecord& record)
     return *frequency;
 }
 
+const std::string kKnownAuthentications = "a known authentication (Open, WPA2-Personal, WPA3-Enterprise, OWE ...)";
+
+/// "WPA2-Personal" is a standard, the same everywhere, and a word for how keys are had.
+std::string WpaAuthentication(std::string_view text)
+{
+    const std::size_t end = text.find_first_not_of("0123456789", 3);
+    const std::string_view version = text.substr(3, end == std::string_view::npos ? end : end - 3);
+    if (end == std::string_view::npos || version.size() > 1 || (!version.empty() && version != "2" && version != "3"))
+        return {};
+    std::string_view word = text.substr(end);
+    const std::size_t bits = version == "3" ? word.find("192") : std::string_view::npos;
+    word = Trim(word.substr(0, bits));
+    while (word.starts_with('-') || word.starts_with("\u2013") || word.ends_with('-'))
+        word = Trim(word.ends_with('-') ? word.substr(0, word.size() - 1) : word.substr(word[0] == '-' ? 1 : 3));
+    const std::optional<std::string_view> how = MeaningOf(WordKind::authentication, word);
+    const std::string standard = "WPA" + std::string(version);
+    if (how == "personal" && bits == std::string_view::npos)
+        return version == "3" ? "WPA3SAE" : standard + "PSK";
+    if (how != "enterprise")
+        return {};
+    return version != "3" ? standard : bits == std::string_view::npos ? "WPA3ENT" : "WPA3ENT192";
+}
+
+/// Empty for a word of another language that says nothing of WPA.
+std::string Authentication(const CaptureField& field, const Vocabulary& vocabulary)
+{
+    if (const std::optional<std::string> explained = Explained(vocabulary, field.value))
+        return *explained;
+    const bool isWpa = field.value.starts_with("WPA");
+    if (isWpa)
+    {
+        if (std::string name = WpaAuthentication(field.value); !name.empty())
+            return name;
+    }
+    else if (const auto meaning = MeaningOf(WordKind::authentication, field.value);
+             meaning && meaning != "personal" && meaning != "enterprise")
+    {
+        return std::string(*meaning);
+    }
+    if (!vocabulary.foreign)
+        throw Unusable(field, kKnownAuthentications);
+    if (isWpa || field.value.empty())
+        throw UnknownWord(field.line, Unusable(field, kKnownAuthentications).what());
+    return {};
+}
+
+/// Whether a text could be the name of a cipher: capitals, digits and hyphens.
+bool IsAcronym(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](char letter) {
+                           return (letter >= 'A' && letter <= 'Z') || (letter >= '0' && letter <= '9') || letter == '-';
+                       });
+}
+
+std::string Encryption(const CaptureField& field, const Vocabulary& vocabulary)
+{
+    constexpr std::array<std::pair<std::string_view, const char*>, 8> kCiphers{{{"WEP", "WEP"},
+                                                                                {"WEP-40", "WEP"},
+                                                                                {"WEP-104", "WEP"},
+                                                                                {"TKIP", "TKIP"},
+                                                                                {"CCMP", "AES"},
+                                                                                {"AES", "AES"},
+                                                                                {"GCMP", "GCMP256"},
+                                                                                {"GCMP-256", "GCMP256"}}};
+    if (const std::optional<std::string> explained = Explained(vocabulary, field.value))
+        return *explained;
+    const auto found = std::find_if(kCiphers.begin(), kCiphers.end(),
+                                    [&](const auto& cipher) { return SameWord(cipher.first, field.value); });
+    if (found != kCiphers.end())
+        return found->second;
+    if (MeaningOf(WordKind::encryption, field.value) || (vocabulary.foreign && !IsAcronym(field.value)))
+        return "none";
+    const LineError unusable = Unusable(field, "a known encryption (None, WEP, TKIP, CCMP, GCMP ...)");
+    if (vocabulary.foreign)
+        throw UnknownWord(field.line, unusable.what());
+    throw unusable;
+}
+
 } // namespace
+
+bool IsPercentage(std::string_view text)
+{
+    return text.ends_with('%') && WholeNumber(Trim(text.substr(0, text.size() - 1))) >= 0;
+}
+
+bool IsRadioType(std::string_view text)
+{
+    return text.starts_with("802.11");
+}
+
+bool IsBand(std::string_view text)
+{
+    return !BandIn(text).empty();
+}
+
+bool IsNumberList(std::string_view text)
+{
+    return !text.empty() && text.find_first_not_of("0123456789., ") == std::string_view::npos;
+}
+
+bool IsAddress(std::string_view text)
+{
+    return AddressIn(text).has_value();
+}
+
+bool IsGuid(std::string_view text)
+{
+    return simulation::GuidFromText(text.starts_with('{') ? std::string(text) : "{" + std::string(text) + "}")
+        .has_value();
+}
 
 std::int32_t SignalStrength(const CaptureField& field)
 {
@@ -91,50 +216,37 @@ std::uint32_t PhyType(const CaptureField& field)
                                   "a known radio type (802.11a, b, g, n, ac, ad, ax or be)");
 }
 
-std::uint32_t BssType(const CaptureField& field)
+std::uint32_t BssType(const CaptureField& field, const Vocabulary& vocabulary)
 {
-    return Meaning<std::uint32_t>(field, {{"Infrastructure", 1u}, {"Adhoc", 2u}, {"Ad hoc", 2u}, {"Ad-hoc", 2u}},
-                                  "a known network type (Infrastructure or Adhoc)");
+    const std::string expected = "a known network type (Infrastructure or Adhoc)";
+    const std::optional<std::string> explained = Explained(vocabulary, field.value);
+    const std::optional<std::string_view> meaning =
+        explained ? std::optional<std::string_view>(*explained) : MeaningOf(WordKind::networkType, field.value);
+    if (meaning)
+        return *meaning == "infrastructure" ? 1 : 2;
+    if (vocabulary.foreign)
+        throw UnknownWord(field.line, Unusable(field, expected).what());
+    throw Unusable(field, expected);
 }
 
-std::string Authentication(const CaptureField& field)
+NetworkSecurity
+Security(const CaptureField& authentication, const CaptureField& encryption, const Vocabulary& vocabulary)
 {
-    return Meaning<const char*>(field,
-                                {{"Open", "open"},
-                                 {"Shared", "shared"},
-                                 {"WPA-Personal", "WPAPSK"},
-                                 {"WPA-Enterprise", "WPA"},
-                                 {"WPA2-Personal", "WPA2PSK"},
-                                 {"WPA2-Enterprise", "WPA2"},
-                                 {"WPA3-Personal", "WPA3SAE"},
-                                 {"WPA3-Enterprise", "WPA3ENT"},
-                                 {"WPA3-Enterprise 192 Bits", "WPA3ENT192"},
-                                 {"WPA3-Enterprise-192", "WPA3ENT192"},
-                                 {"OWE", "OWE"},
-                                 {"Enhanced Open", "OWE"}},
-                                "a known authentication (Open, WPA2-Personal, WPA3-Enterprise, OWE ...)");
-}
-
-std::string Encryption(const CaptureField& field)
-{
-    return Meaning<const char*>(field,
-                                {{"None", "none"},
-                                 {"WEP", "WEP"},
-                                 {"WEP-40", "WEP"},
-                                 {"WEP-104", "WEP"},
-                                 {"TKIP", "TKIP"},
-                                 {"CCMP", "AES"},
-                                 {"AES", "AES"},
-                                 {"GCMP", "GCMP256"},
-                                 {"GCMP-256", "GCMP256"}},
-                                "a known encryption (None, WEP, TKIP, CCMP, GCMP ...)");
+    const std::string how = Authentication(authentication, vocabulary);
+    const std::string cipher = Encryption(encryption, vocabulary);
+    if (!how.empty())
+        return {how, cipher};
+    // Without WPA there are open networks, those that share a WEP key, and open ones that encrypt all the same.
+    if (cipher == "none")
+        return {"open", cipher};
+    if (cipher == "AES" || cipher == "GCMP256")
+        return {"OWE", cipher};
+    throw UnknownWord(authentication.line, Unusable(authentication, kKnownAuthentications).what());
 }
 
 simulation::MacAddress Address(const CaptureField& field)
 {
-    std::string text = field.value;
-    std::replace(text.begin(), text.end(), '-', ':');
-    const std::optional<simulation::MacAddress> address = simulation::AddressFromText(text);
+    const std::optional<simulation::MacAddress> address = AddressIn(field.value);
     if (!address)
         throw Unusable(field, "an address of six bytes");
     return *address;

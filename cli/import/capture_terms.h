@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/capture_text.h"
+#include "import/capture_words.h"
 #include "simulation/scenario.h"
 
 #include <cstdint>
@@ -9,8 +10,24 @@
 namespace calvix::host
 {
 
+/// A word of another language than English that nothing here knows.
+class UnknownWord : public LineError
+{
+public:
+    using LineError::LineError;
+};
+
 /// What the words and numbers of a capture mean. Every function throws LineError, with the field's line, for a value that
 /// it does not know.
+
+/// Whether a value has the shape of a percentage, a radio type ("802.11..."), a band ("5 GHz"), a list of numbers, an
+/// address or a GUID.
+bool IsPercentage(std::string_view text);
+bool IsRadioType(std::string_view text);
+bool IsBand(std::string_view text);
+bool IsNumberList(std::string_view text);
+bool IsAddress(std::string_view text);
+bool IsGuid(std::string_view text);
 
 /// "70%" as dBm, by the service's rule: 0 to 100 % are -100 to -50 dBm.
 std::int32_t SignalStrength(const CaptureField& field);
@@ -18,14 +35,21 @@ std::int32_t SignalStrength(const CaptureField& field);
 /// "802.11ax" as DOT11_PHY_TYPE.
 std::uint32_t PhyType(const CaptureField& field);
 
-/// "Infrastructure" or "Adhoc" as DOT11_BSS_TYPE.
-std::uint32_t BssType(const CaptureField& field);
+/// "Infrastructure" or "Adhoc" as DOT11_BSS_TYPE. Throws UnknownWord where the vocabulary is foreign.
+std::uint32_t BssType(const CaptureField& field, const Vocabulary& vocabulary);
 
-/// "WPA2-Personal" as a profile writes it: "WPA2PSK".
-std::string Authentication(const CaptureField& field);
+/// How a network authenticates and encrypts, as a profile writes it.
+struct NetworkSecurity
+{
+    std::string authentication; ///< "WPA2PSK" for "WPA2-Personal"
+    std::string encryption;     ///< "AES" for "CCMP"
+};
 
-/// "CCMP" as a profile writes it: "AES".
-std::string Encryption(const CaptureField& field);
+/// Ciphers have their names in every language, but for "None"; so have the standards that authentications begin with. Where
+/// the vocabulary is foreign, an unknown word in a cipher's place therefore means that there is none, and one in the
+/// authentication's place is told by the cipher, if it can be; otherwise this throws UnknownWord.
+NetworkSecurity
+Security(const CaptureField& authentication, const CaptureField& encryption, const Vocabulary& vocabulary);
 
 /// Six bytes, as "02:00:00:00:00:01" or with hyphens.
 simulation::MacAddress Address(const CaptureField& field);

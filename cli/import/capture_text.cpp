@@ -1,6 +1,7 @@
 #include "import/capture_text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace calvix::host
@@ -9,7 +10,43 @@ namespace calvix::host
 namespace
 {
 
-constexpr std::string_view kBlanks = " \t\r\f\v";
+/// Also the blanks that French and East Asian texts have around colons and numbers: no-break, narrow no-break, figure and
+/// ideographic spaces.
+constexpr std::array<std::string_view, 10> kBlanks{
+    " ", "\t", "\r", "\f", "\v", "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x87", "\xE3\x80\x80", "\xEF\xBB\xBF"};
+constexpr std::string_view kWideColon = "\xEF\xBC\x9A";
+
+bool IsInk(char letter)
+{
+    return letter > ' ' && letter <= '~';
+}
+
+std::size_t BlankAtStart(std::string_view text)
+{
+    if (text.empty() || IsInk(text.front()))
+        return 0;
+    const auto blank =
+        std::find_if(kBlanks.begin(), kBlanks.end(), [&](std::string_view each) { return text.starts_with(each); });
+    return blank == kBlanks.end() ? 0 : blank->size();
+}
+
+std::size_t BlankAtEnd(std::string_view text)
+{
+    if (text.empty() || IsInk(text.back()))
+        return 0;
+    const auto blank =
+        std::find_if(kBlanks.begin(), kBlanks.end(), [&](std::string_view each) { return text.ends_with(each); });
+    return blank == kBlanks.end() ? 0 : blank->size();
+}
+
+/// A no-break space in a name is as good as any other.
+std::string PlainName(std::string_view name)
+{
+    std::string plain(Trim(name));
+    for (std::size_t at = 0; (at = plain.find("\xC2\xA0", at)) != std::string::npos;)
+        plain.replace(at, 2, " ");
+    return plain;
+}
 
 char LowerCase(char letter)
 {
@@ -23,13 +60,15 @@ bool IsDigit(char letter)
 
 CaptureField ReadField(std::string_view line, std::size_t number)
 {
-    const std::size_t colon = line.find(':');
+    const std::size_t narrow = line.find(':');
+    const std::size_t wide = line.find(kWideColon);
+    const std::size_t colon = std::min(narrow, wide);
     CaptureField field;
     field.line = number;
-    field.name = Trim(line.substr(0, colon));
+    field.name = PlainName(line.substr(0, colon));
     field.hasColon = colon != std::string_view::npos;
     if (field.hasColon)
-        field.value = Trim(line.substr(colon + 1));
+        field.value = Trim(line.substr(colon + (colon == wide ? kWideColon.size() : 1)));
     return field;
 }
 
@@ -37,10 +76,26 @@ CaptureField ReadField(std::string_view line, std::size_t number)
 
 std::string_view Trim(std::string_view text)
 {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+    while (const std::size_t blank = BlankAtStart(text))
+        text.remove_prefix(blank);
+    while (const std::size_t blank = BlankAtEnd(text))
+        text.remove_suffix(blank);
+    return text;
+}
+
+std::vector<std::string_view> LinesOf(std::string_view text)
+{
+    std::vector<std::string_view> lines;
+    while (!text.empty())
+    {
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r'))
+            line.remove_suffix(1);
+        lines.push_back(line);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    return lines;
 }
 
 bool SameWord(std::string_view one, std::string_view other)
@@ -66,25 +121,40 @@ bool IsNumbered(std::string_view name, std::string_view keyword)
     return !number.empty() && name[keyword.size()] == ' ' && std::all_of(number.begin(), number.end(), IsDigit);
 }
 
+int WholeNumber(std::string_view text)
+{
+    int number = -1;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() ? number : -1;
+}
+
 std::vector<CaptureField> ReadFields(std::string_view text)
 {
     std::vector<CaptureField> fields;
-    std::size_t number = 0;
-    while (!text.empty())
+    bool beginsParagraph = true;
+    const std::vector<std::string_view> lines = LinesOf(text);
+    for (std::size_t i = 0; i < lines.size(); ++i)
     {
-        const std::size_t end = text.find('\n');
-        const std::string_view line = Trim(text.substr(0, end));
-        ++number;
+        const std::string_view line = Trim(lines[i]);
         if (!line.empty())
-            fields.push_back(ReadField(line, number));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        {
+            fields.push_back(ReadField(line, i + 1));
+            fields.back().indent = static_cast<std::size_t>(line.data() - lines[i].data());
+            fields.back().beginsParagraph = beginsParagraph;
+        }
+        beginsParagraph = line.empty();
     }
     return fields;
 }
 
+std::string FieldText(const CaptureField& field)
+{
+    return field.hasColon ? field.name + " : " + field.value : field.name;
+}
+
 void CaptureRecord::Add(const CaptureField& field)
 {
-    if (const CaptureField* earlier = Find(field.name))
+    if (const CaptureField* earlier = Find(field.Key()))
         throw LineError(field.line, "\"" + field.name + "\" is given twice for " + m_title + ", first in line " +
                                         std::to_string(earlier->line));
     m_fields.push_back(field);
@@ -93,7 +163,7 @@ void CaptureRecord::Add(const CaptureField& field)
 const CaptureField* CaptureRecord::Find(std::string_view name) const
 {
     const auto found = std::find_if(m_fields.begin(), m_fields.end(),
-                                    [&](const CaptureField& field) { return SameWord(field.name, name); });
+                                    [&](const CaptureField& field) { return SameWord(field.Key(), name); });
     return found == m_fields.end() ? nullptr : &*found;
 }
 

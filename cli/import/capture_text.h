@@ -48,10 +48,19 @@ struct CaptureField
     std::string name;     ///< without the blanks around it
     std::string value;    ///< without the blanks around it; may hold colons
     bool hasColon = false;
+    std::string key;             ///< what the field is, by its English name; empty: as `name` says
+    bool understood = false;     ///< whether something knows what the field is
+    std::size_t indent = 0;      ///< blanks before it
+    bool beginsParagraph = true; ///< nothing but blank lines before it
+
+    const std::string& Key() const { return key.empty() ? name : key; }
 };
 
-/// The lines of a text that are not blank. The first colon ends the name.
+/// The lines of a text that are not blank. The first colon, of either width, ends the name.
 std::vector<CaptureField> ReadFields(std::string_view text);
+
+/// "SSID 1 : Home", for messages.
+std::string FieldText(const CaptureField& field);
 
 /// The fields that describe one thing, such as an access point.
 class CaptureRecord
@@ -74,8 +83,11 @@ private:
     std::vector<CaptureField> m_fields;
 };
 
-/// `text` without the blanks around it.
+/// `text` without the blanks around it, those of other scripts and those that do not break a line included.
 std::string_view Trim(std::string_view text);
+
+/// The lines of a text, without their ends.
+std::vector<std::string_view> LinesOf(std::string_view text);
 
 /// Compares without regard to the case of ASCII letters.
 bool SameWord(std::string_view one, std::string_view other);
@@ -86,9 +98,15 @@ int FirstNumber(std::string_view text);
 /// For "SSID 12" and the keyword "SSID": true.
 bool IsNumbered(std::string_view name, std::string_view keyword);
 
+/// -1 unless the whole text is a decimal number.
+int WholeNumber(std::string_view text);
+
 /// The same text in UTF-8 without a byte order mark: UTF-16 is recognised by its mark, anything else must be UTF-8.
 /// Throws LineError for bytes that are neither.
 std::string ToUtf8(std::string_view bytes);
+
+/// UTF-16 without a byte order mark as UTF-8. Throws LineError for half a surrogate pair and half a character.
+std::string FromUtf16(std::string_view bytes, bool bigEndian);
 
 /// A whole file as it lies on the disk. Throws CaptureError when it cannot be read.
 std::string ReadWholeFile(const std::string& path);

@@ -44,6 +44,8 @@ std::vector<CapturedInterface> AdaptersOf(const Captures& captures)
     madeUp.description = "Wireless adapter";
     madeUp.guid = "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E01}";
     madeUp.address = {0x02, 0x00, 0x5E, 0x10, 0x00, 0x01};
+    if (captures.networks && !captures.networks->connections.empty())
+        madeUp.connection = captures.networks->connections.front();
     return {madeUp};
 }
 
@@ -76,6 +78,9 @@ public:
             m_result.scenario.accessPoints = AirOf(*captures.networks);
             m_result.warnings = captures.networks->warnings;
         }
+        if (captures.interfaces)
+            m_result.warnings.insert(m_result.warnings.end(), captures.interfaces->warnings.begin(),
+                                     captures.interfaces->warnings.end());
         m_result.scenario.description = Description();
         AddAdapters();
         for (const ExportedProfile& profile : captures.profiles)
@@ -193,7 +198,9 @@ private:
     void WarnOfLostConnection(std::size_t index, const std::string& why)
     {
         const CapturedConnection& connection = *m_captured[index].connection;
-        Warn("the connection of \"" + m_captured[index].name + "\" to \"" + connection.ssid + "\" is left out: " + why);
+        const std::string& name = m_captured[index].name;
+        Warn("the connection " + (name.empty() ? "" : "of \"" + name + "\" ") + "to \"" + connection.ssid +
+             "\" is left out: " + why);
     }
 
     /// The air's access point that an adapter was connected to, or null. A hidden one gets the name that the connection

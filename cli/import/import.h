@@ -30,8 +30,8 @@ struct ImportedScenario
 /// Puts captures together.
 ///
 /// - The air is what the networks capture lists; without one, the access points that adapters are connected to.
-/// - The adapters are those of the interfaces capture; without one, a single adapter is made up. Their PHYs are guessed
-///   from the newest radio type seen.
+/// - The adapters are those of the interfaces capture; without one, a single adapter is made up, connected as the list of
+///   networks shows it. Their PHYs are guessed from the newest radio type seen.
 /// - An exported profile goes to the adapter whose name its file name begins with ("Wi-Fi-Home.xml"), else to all.
 /// - A connected adapter whose profile was not exported gets one from what the capture tells about the network, with a
 ///   made-up key. Its connection is kept if the air holds its access point.

@@ -1,11 +1,16 @@
 #include "command.h"
 #include "host.h"
+#include "import/capture_encoding.h"
 #include "import/capture_text.h"
 #include "import/file_path.h"
 #include "import/import.h"
+#include "import/read_capture.h"
+#include "simulation/security_suite.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <array>
 #include <fstream>
 
 namespace calvix::host
@@ -22,70 +27,152 @@ struct ImportOptions
     std::string interfaces;
     std::string profiles;
     std::vector<std::string> captures;
+    std::vector<std::string> words;
+    std::string columns;
     std::string output;
+    unsigned codePage = 0; ///< 0: find out
     bool withProfiles = false;
+};
+
+/// What was read so far.
+struct Readings
+{
+    Captures captures;
+    std::vector<std::string> warnings;
 };
 
 constexpr const char* kStandardOutput = "-";
 
-std::string ReadCapture(const std::string& path)
+constexpr const char* kImportExamples = R"(Captures of Windows, in any language of it and any code page:
+  netsh wlan show networks mode=bssid > networks.txt
+  netsh wlan show interfaces > interfaces.txt
+  netsh wlan export profile folder=profiles
+  calvix import networks.txt interfaces.txt profiles -o air.json
+
+Captures of Linux:
+  sudo iw dev wlan0 scan > networks.txt
+  nmcli -t -f IN-USE,BSSID,SSID,MODE,CHAN,FREQ,RATE,SIGNAL,SECURITY dev wifi list > networks.txt
+  calvix import networks.txt -o air.json
+
+What is not told is said in so many words:
+  calvix import old.txt --code-page 852 -o air.json
+  calvix import networks.txt --word "WPA2-Tajne=WPA2PSK" -o air.json
+  calvix import list.txt --columns BSSID,SSID,CHAN,SIGNAL,SECURITY -o air.json)";
+
+bool IsMeaning(const std::string& text)
 {
-    const std::string bytes = ReadWholeFile(path);
-    return ReadingFrom(path, [&] { return ToUtf8(bytes); });
+    constexpr std::array<std::string_view, 4> kOthers{"infrastructure", "independent", "auto", "manual"};
+    return simulation::IsAuthenticationName(text) || simulation::IsEncryptionName(text) ||
+           std::find(kOthers.begin(), kOthers.end(), text) != kOthers.end();
 }
 
-void AddNetworks(Captures& captures, const std::string& text, const std::string& path)
+/// "WPA2-Osobní=WPA2PSK"
+ExplainedWords WordsOf(const std::vector<std::string>& arguments)
 {
-    if (captures.networks)
-        throw CaptureError(path + ": a second list of networks, after " + captures.networks->source);
-    captures.networks = ParseNetworks(text, path);
+    ExplainedWords words;
+    for (const std::string& argument : arguments)
+    {
+        const std::size_t sign = argument.rfind('=');
+        const std::string meaning = sign == std::string::npos ? "" : argument.substr(sign + 1);
+        if (sign == 0 || !IsMeaning(meaning))
+            throw BadInput("\"" + argument + "\" explains no word",
+                           "Write WORD=MEANING; meanings are the names that profiles use (WPA2PSK, WPA3SAE, open, AES, "
+                           "none ...), infrastructure, independent, auto and manual.");
+        words.emplace_back(argument.substr(0, sign), meaning);
+    }
+    return words;
 }
 
-void AddInterfaces(Captures& captures, const std::string& text, const std::string& path)
+std::vector<std::string> ColumnNamesOf(std::string text)
 {
-    if (captures.interfaces)
-        throw CaptureError(path + ": a second list of interfaces, after " + captures.interfaces->source);
-    captures.interfaces = ParseInterfaces(text, path);
+    std::vector<std::string> names;
+    while (!text.empty())
+    {
+        const std::size_t end = std::min(text.find(','), text.size());
+        names.emplace_back(Trim(std::string_view(text).substr(0, end)));
+        text.erase(0, end + 1);
+    }
+    return names;
 }
 
-void AddProfiles(Captures& captures, std::vector<ExportedProfile> profiles)
+CaptureHints HintsOf(const ImportOptions& options)
 {
-    captures.profiles.insert(captures.profiles.end(), std::make_move_iterator(profiles.begin()),
-                             std::make_move_iterator(profiles.end()));
+    CaptureHints hints;
+    hints.words = WordsOf(options.words);
+    hints.columns = ColumnNamesOf(options.columns);
+    if (options.codePage != 0)
+        hints.codePage = options.codePage;
+    return hints;
 }
 
-void AddByContent(Captures& captures, const std::string& path)
+void Add(Readings& readings, NetworksCapture networks)
+{
+    std::optional<NetworksCapture>& known = readings.captures.networks;
+    if (known)
+        throw CaptureError(networks.source + ": a second list of networks, after " + known->source);
+    known = std::move(networks);
+}
+
+void Add(Readings& readings, InterfacesCapture interfaces)
+{
+    std::optional<InterfacesCapture>& known = readings.captures.interfaces;
+    if (known)
+        throw CaptureError(interfaces.source + ": a second list of interfaces, after " + known->source);
+    known = std::move(interfaces);
+}
+
+void Add(Readings& readings, ExportedProfile profile)
+{
+    readings.captures.profiles.push_back(std::move(profile));
+}
+
+void AddFolder(Readings& readings, const std::string& path)
+{
+    for (ExportedProfile& profile : ReadProfileFolder(path))
+        Add(readings, std::move(profile));
+}
+
+std::string TextOf(Readings& readings, const std::string& path, const CaptureHints& hints)
+{
+    DecodedCapture decoded = DecodeCapture(ReadWholeFile(path), path, hints.codePage);
+    readings.warnings.insert(readings.warnings.end(), decoded.warnings.begin(), decoded.warnings.end());
+    return decoded.text;
+}
+
+void AddByContent(Readings& readings, const std::string& path, const CaptureHints& hints)
 {
     std::error_code ignored;
     if (files::is_directory(PathOf(path), ignored))
-        return AddProfiles(captures, ReadProfileFolder(path));
-    const std::string text = ReadCapture(path);
-    if (LooksLikeProfile(text))
-        AddProfiles(captures, {ParseExportedProfile(text, path)});
-    else if (LooksLikeNetworks(text))
-        AddNetworks(captures, text, path);
-    else if (LooksLikeInterfaces(text))
-        AddInterfaces(captures, text, path);
-    else
-        throw CaptureError(path +
-                           ":1: this is no output of \"netsh wlan show networks mode=bssid\" or \"netsh wlan show "
-                           "interfaces\", and no profile");
+        return AddFolder(readings, path);
+    ReadResult result = ReadCapture(ReadWholeFile(path), path, hints);
+    readings.warnings.insert(readings.warnings.end(), result.warnings.begin(), result.warnings.end());
+    std::visit([&readings](auto& content) { Add(readings, std::move(content)); }, result.content);
 }
 
-Captures ReadCaptures(const ImportOptions& options)
+Readings ReadCaptures(const ImportOptions& options)
 {
-    Captures captures;
+    const CaptureHints hints = HintsOf(options);
+    Readings readings;
     if (!options.networks.empty())
-        AddNetworks(captures, ReadCapture(options.networks), options.networks);
+        Add(readings, ReadNetworksText(TextOf(readings, options.networks, hints), options.networks, hints));
     if (!options.interfaces.empty())
-        AddInterfaces(captures, ReadCapture(options.interfaces), options.interfaces);
+        Add(readings, ParseInterfaces(TextOf(readings, options.interfaces, hints), options.interfaces, hints.words));
     if (!options.profiles.empty())
-        AddProfiles(captures, ReadProfileFolder(options.profiles));
+        AddFolder(readings, options.profiles);
     for (const std::string& path : options.captures)
-        AddByContent(captures, path);
+        AddByContent(readings, path, hints);
+    const Captures& captures = readings.captures;
     if (!captures.networks && !captures.interfaces && captures.profiles.empty())
         throw BadInput("there is nothing to import", "Name at least one file: --networks, --interfaces or --profiles");
-    return captures;
+    return readings;
+}
+
+ImportedScenario Assemble(const ImportOptions& options)
+{
+    Readings readings = ReadCaptures(options);
+    ImportedScenario imported = AssembleScenario(readings.captures, options.withProfiles);
+    imported.warnings.insert(imported.warnings.begin(), readings.warnings.begin(), readings.warnings.end());
+    return imported;
 }
 
 /// The text for the file, known to be readable again.
@@ -159,7 +246,7 @@ void Import(Host& host, const ImportOptions& options)
 {
     try
     {
-        const ImportedScenario imported = AssembleScenario(ReadCaptures(options), options.withProfiles);
+        const ImportedScenario imported = Assemble(options);
         const std::string text = CheckedText(imported.scenario);
         if (options.output == kStandardOutput)
             host.out() << text;
@@ -183,16 +270,26 @@ void AddImportCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<ImportOptions>();
     commands
-        .Add("import", "Make a scenario from what netsh printed and exported",
+        .Add("import", "Make a scenario from what netsh, iw or nmcli printed",
              [options](Host& host) { Import(host, *options); })
-        .Text("--networks", options->networks, "Output of \"netsh wlan show networks mode=bssid\"")
+        .Text("--networks", options->networks,
+              "Output of \"netsh wlan show networks mode=bssid\", \"iw dev wlan0 scan\" or \"nmcli dev wifi list\"")
+        .Takes(ValueKind::file)
         .Text("--interfaces", options->interfaces, "Output of \"netsh wlan show interfaces\"")
+        .Takes(ValueKind::file)
         .Text("--profiles", options->profiles, "Folder of \"netsh wlan export profile\"")
+        .Takes(ValueKind::folder)
         .Flag("--with-profiles", options->withProfiles,
               "Make an automatic profile, with a made-up key, for every named network that has none")
+        .Number("--code-page", options->codePage, "The code page of captures that are not Unicode; 0: the likeliest")
+        .Texts("--word", options->words, "WORD=MEANING: what a word of another language means, as profiles say it")
+        .Text("--columns", options->columns, "What was given to nmcli's -f, for a list without names of columns")
         .Texts("[CAPTURES]", options->captures, "The same files and folders, told apart by what they hold")
+        .Takes(ValueKind::file)
         .Text("-o,--output", options->output, "Scenario file to write, - for standard output")
-        .Required();
+        .Takes(ValueKind::scenario)
+        .Required()
+        .Examples(kImportExamples);
 }
 
 } // namespace calvix::host

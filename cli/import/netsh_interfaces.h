@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/capture_words.h"
 #include "simulation/scenario.h"
 
 #include <optional>
@@ -35,13 +36,16 @@ struct InterfacesCapture
 {
     std::string source;
     std::vector<CapturedInterface> adapters;
+    std::vector<std::string> warnings; ///< what was not understood, and what became of it
 };
 
 /// Whether a text looks like this kind of capture.
 bool LooksLikeInterfaces(std::string_view text);
 
-/// Reads a capture. `text` is UTF-8; `source` is what messages call it. Throws CaptureError for any other text and for a
-/// capture that is damaged.
-InterfacesCapture ParseInterfaces(std::string_view text, const std::string& source);
+/// Reads a capture of any language of the system. `text` is UTF-8; `source` is what messages call it; `explained` are words
+/// that the user knows better. Throws CaptureError for any other text and for a capture that is damaged. Connections are
+/// left out, with a warning, for words of a language other than English that nothing explains.
+InterfacesCapture
+ParseInterfaces(std::string_view text, const std::string& source, const ExplainedWords& explained = {});
 
 } // namespace calvix::host

@@ -2,6 +2,8 @@
 
 #include "import/capture_terms.h"
 #include "import/capture_text.h"
+#include "import/field_roles.h"
+#include "import/misread_text.h"
 
 #include <algorithm>
 #include <optional>
@@ -37,7 +39,9 @@ std::string NetworkTitle(const std::string& ssid)
 class NetworksReader
 {
 public:
-    void Read(const CaptureField& field)
+    explicit NetworksReader(bool foreign) : m_foreign(foreign) {}
+
+    void Read(CaptureField& field)
     {
         if (IsNumbered(field.name, "SSID"))
             BeginNetwork(field);
@@ -45,7 +49,7 @@ public:
             BeginAccessPoint(field);
         else if (!field.hasColon)
             ReadSentence(field);
-        else if (SameWord(field.name, "Interface name"))
+        else if (SameWord(field.Key(), "Interface name"))
             BeginAdapter(field);
         else if (m_current != nullptr)
             m_current->Add(field);
@@ -69,8 +73,12 @@ private:
         return listings.back();
     }
 
-    void ReadSentence(const CaptureField& field)
+    /// What an English capture says between its fields is damage; nobody knows what other languages say there.
+    void ReadSentence(CaptureField& field)
     {
+        field.understood = m_current == nullptr;
+        if (m_current != nullptr && m_foreign)
+            return;
         if (m_current != nullptr)
             throw LineError(field.line, "\"" + field.name + "\" has no value");
         if (FirstNumber(field.name) < 0)
@@ -97,17 +105,34 @@ private:
         m_current = &accessPoints.back().second;
     }
 
+    bool m_foreign;
     CaptureRecord* m_current = nullptr; ///< what the next field belongs to
 };
 
-CapturedNetwork Interpret(const NetworkRecord& record)
+std::uint32_t BssTypeOf(const NetworkRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
+{
+    const CaptureField& field = record.fields.Need("Network type");
+    try
+    {
+        return BssType(field, vocabulary);
+    }
+    catch (const UnknownWord& unknown)
+    {
+        report(field.line, std::string(unknown.what()) + "; it is taken for infrastructure");
+        return 1;
+    }
+}
+
+CapturedNetwork Interpret(const NetworkRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
 {
     simulation::AccessPoint common;
     common.ssid = record.ssid;
     common.hidden = record.ssid.empty();
-    common.bssType = BssType(record.fields.Need("Network type"));
-    common.authentication = Authentication(record.fields.Need("Authentication"));
-    common.encryption = Encryption(record.fields.Need("Encryption"));
+    common.bssType = BssTypeOf(record, vocabulary, report);
+    const NetworkSecurity security =
+        Security(record.fields.Need("Authentication"), record.fields.Need("Encryption"), vocabulary);
+    common.authentication = security.authentication;
+    common.encryption = security.encryption;
     CapturedNetwork network{record.start.value, {}};
     for (const auto& [address, fields] : record.accessPoints)
     {
@@ -128,15 +153,24 @@ void CheckCount(const Listing& listing)
                             std::to_string(listing.networks.size()) + " follow: the capture is cut off");
 }
 
-void Append(NetworksCapture& capture, const Listing& listing)
+void Append(NetworksCapture& capture, const Listing& listing, const Vocabulary& vocabulary)
 {
+    const CaptureReport report = [&capture](std::size_t line, const std::string& what)
+    { capture.warnings.push_back(capture.source + ":" + std::to_string(line) + ": " + what); };
     for (const NetworkRecord& record : listing.networks)
     {
-        capture.networks.push_back(Interpret(record));
+        const std::string title = NetworkTitle(record.start.value);
+        try
+        {
+            capture.networks.push_back(Interpret(record, vocabulary, report));
+            ReportMisread(record.start.value, record.start.line, report);
+        }
+        catch (const UnknownWord& unknown)
+        {
+            report(unknown.line(), std::string(unknown.what()) + "; " + title + " is left out");
+        }
         if (record.accessPoints.empty())
-            capture.warnings.push_back(capture.source + ":" + std::to_string(record.start.line) + ": " +
-                                       NetworkTitle(record.start.value) +
-                                       " is listed without access points and left out");
+            report(record.start.line, title + " is listed without access points and left out");
     }
     CheckCount(listing);
 }
@@ -162,30 +196,36 @@ void CheckAccessPoints(const NetworksReader& reader)
 bool LooksLikeNetworks(std::string_view text)
 {
     const std::vector<CaptureField> fields = ReadFields(text);
-    return std::any_of(fields.begin(), fields.end(),
-                       [](const CaptureField& field)
-                       {
-                           return IsNumbered(field.name, "SSID") || IsNumbered(field.name, "BSSID") ||
-                                  field.name.ends_with("networks currently visible.");
-                       });
+    const bool hasNone = fields.size() == 2 && fields[0].hasColon && !fields[0].value.empty() &&
+                         FirstNumber(FieldText(fields[1])) == 0 && fields[1].value.size() <= 2;
+    return hasNone || std::any_of(fields.begin(), fields.end(),
+                                  [](const CaptureField& field)
+                                  {
+                                      return IsNumbered(field.name, "SSID") || IsNumbered(field.name, "BSSID") ||
+                                             field.name.ends_with("networks currently visible.");
+                                  });
 }
 
-NetworksCapture ParseNetworks(std::string_view text, const std::string& source)
+NetworksCapture ParseNetworks(std::string_view text, const std::string& source, const ExplainedWords& explained)
 {
     return ReadingFrom(source,
                        [&]
                        {
                            if (!LooksLikeNetworks(text))
                                throw LineError(1, "this is no output of \"netsh wlan show networks mode=bssid\"");
-                           NetworksReader reader;
-                           for (const CaptureField& field : ReadFields(text))
+                           std::vector<CaptureField> fields = ReadFields(text);
+                           const Vocabulary vocabulary{RecogniseNetworkLines(fields), explained};
+                           NetworksReader reader(vocabulary.foreign);
+                           for (CaptureField& field : fields)
                                reader.Read(field);
                            NetworksCapture capture;
                            capture.source = source;
                            capture.adapterNames = std::move(reader.adapterNames);
                            for (const Listing& listing : reader.listings)
-                               Append(capture, listing);
+                               Append(capture, listing, vocabulary);
                            CheckAccessPoints(reader);
+                           const std::vector<std::string> others = NotUnderstood(fields, source);
+                           capture.warnings.insert(capture.warnings.end(), others.begin(), others.end());
                            return capture;
                        });
 }

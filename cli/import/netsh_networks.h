@@ -1,5 +1,7 @@
 #pragma once
 
+#include "import/capture_words.h"
+#include "import/netsh_interfaces.h"
 #include "simulation/scenario.h"
 
 #include <string>
@@ -9,7 +11,7 @@
 namespace calvix::host
 {
 
-/// One "SSID n" of the capture: what its access points have in common, and the access points. The latter carry
+/// One "SSID n" of a capture: what its access points have in common, and the access points. The latter carry
 /// everything, ready for a scenario.
 struct CapturedNetwork
 {
@@ -17,20 +19,22 @@ struct CapturedNetwork
     std::vector<simulation::AccessPoint> accessPoints;
 };
 
-/// What `netsh wlan show networks mode=bssid` printed.
+/// What a tool printed that lists the networks in view.
 struct NetworksCapture
 {
     std::string source;
-    std::vector<std::string> adapterNames; ///< one for each adapter that listened
-    std::vector<CapturedNetwork> networks; ///< in the capture's order
-    std::vector<std::string> warnings;
+    std::vector<std::string> adapterNames;       ///< one for each adapter that listened
+    std::vector<CapturedNetwork> networks;       ///< in the capture's order
+    std::vector<CapturedConnection> connections; ///< for tools that list them with the networks
+    std::vector<std::string> warnings;           ///< what was not understood, and what became of it
 };
 
 /// Whether a text looks like this kind of capture.
 bool LooksLikeNetworks(std::string_view text);
 
-/// Reads a capture. `text` is UTF-8; `source` is what messages call it. Throws CaptureError for any other text and for a
-/// capture that is damaged.
-NetworksCapture ParseNetworks(std::string_view text, const std::string& source);
+/// Reads a capture of any language of the system. `text` is UTF-8; `source` is what messages call it; `explained` are words
+/// that the user knows better. Throws CaptureError for any other text and for a capture that is damaged. Networks are left
+/// out, with a warning, for words of a language other than English that nothing explains.
+NetworksCapture ParseNetworks(std::string_view text, const std::string& source, const ExplainedWords& explained = {});
 
 } // namespace calvix::host

@@ -72,29 +72,6 @@ bool IsLowSurrogate(unsigned unit)
     return (unit & 0xFC00) == 0xDC00;
 }
 
-std::string FromUtf16(std::string_view bytes, bool bigEndian)
-{
-    const std::vector<std::uint16_t> units = Units(bytes, bigEndian);
-    std::string text;
-    for (std::size_t i = 0; i < units.size(); ++i)
-    {
-        std::uint32_t point = units[i];
-        if (IsHighSurrogate(units[i]) && i + 1 < units.size() && IsLowSurrogate(units[i + 1]))
-        {
-            ++i;
-            point = 0x10000 + ((point - 0xD800) << 10) + (units[i] - 0xDC00u);
-        }
-        else if (IsHighSurrogate(units[i]) || IsLowSurrogate(units[i]))
-        {
-            throw LineError(LineAt(text, text.size()), "this is not UTF-16: half of a surrogate pair");
-        }
-        AppendUtf8(text, point);
-    }
-    if (bytes.size() % 2 != 0)
-        throw LineError(LineAt(text, text.size()), "this is not UTF-16: the last character is cut in two");
-    return text;
-}
-
 unsigned ByteAt(std::string_view text, std::size_t position)
 {
     return position < text.size() ? static_cast<unsigned char>(text[position]) : 0;
@@ -149,6 +126,29 @@ std::string CheckedUtf8(std::string_view text)
 }
 
 } // namespace
+
+std::string FromUtf16(std::string_view bytes, bool bigEndian)
+{
+    const std::vector<std::uint16_t> units = Units(bytes, bigEndian);
+    std::string text;
+    for (std::size_t i = 0; i < units.size(); ++i)
+    {
+        std::uint32_t point = units[i];
+        if (IsHighSurrogate(units[i]) && i + 1 < units.size() && IsLowSurrogate(units[i + 1]))
+        {
+            ++i;
+            point = 0x10000 + ((point - 0xD800) << 10) + (units[i] - 0xDC00u);
+        }
+        else if (IsHighSurrogate(units[i]) || IsLowSurrogate(units[i]))
+        {
+            throw LineError(LineAt(text, text.size()), "this is not UTF-16: half of a surrogate pair");
+        }
+        AppendUtf8(text, point);
+    }
+    if (bytes.size() % 2 != 0)
+        throw LineError(LineAt(text, text.size()), "this is not UTF-16: the last character is cut in two");
+    return text;
+}
 
 std::string ToUtf8(std::string_view bytes)
 {

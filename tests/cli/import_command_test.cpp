@@ -120,6 +120,54 @@ TEST_F(ImportCommand, ACaptureOfAnotherEncodingIsRead)
     EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 3u);
 }
 
+TEST_F(ImportCommand, WhatIsGuessedAndWhatTheUserExplainsIsTold)
+{
+    const std::string languages = DataPath("languages/");
+    const Outcome guessed =
+        Import({languages + "german/networks-oem.txt", languages + "polish/interfaces.txt", "-o", output});
+    EXPECT_EQ(guessed.exitCode, 0) << guessed.err;
+    EXPECT_TRUE(Contains(guessed.err, "warning: ")) << guessed.err;
+    EXPECT_TRUE(Contains(guessed.err, "read as code page 850")) << guessed.err;
+    EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 6u);
+    EXPECT_TRUE(simulation::LoadScenario(output).adapters.at(0).connection);
+
+    std::string text = ReadWholeFile(languages + "polish/networks.txt");
+    text = Replaced(text, "WPA2-Osobiste", "WPA2-Tajne");
+    const std::string foreign = folder.Write("foreign.txt", text);
+    EXPECT_TRUE(Contains(Import({foreign, "-o", output}).err, foreign + ":7: ")) << "the network is left out";
+    const Outcome explained = Import({foreign, "--word", "wpa2 - tajne=WPA2PSK", "--code-page", "852", "-o", output});
+    EXPECT_EQ(explained.exitCode, 0) << explained.err;
+}
+
+TEST_F(ImportCommand, ListsOfTheLinuxToolsAreRead)
+{
+    const std::string linuxFolder = DataPath("linux/");
+    for (const char* file : {"iw-scan.txt", "nmcli-terse.txt", "nmcli-multiline-german.txt", "nmcli-table.txt"})
+    {
+        for (const bool named : {false, true})
+        {
+            std::vector<std::string> arguments{linuxFolder + file, "-o", output};
+            if (named)
+                arguments.insert(arguments.begin(), "--networks");
+            const Outcome outcome = Import(arguments);
+            EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+            EXPECT_TRUE(Contains(outcome.out, "Access points  6 on ")) << outcome.out;
+            EXPECT_TRUE(simulation::LoadScenario(output).adapters.at(0).connection) << file;
+        }
+    }
+    const std::string list = folder.Write("list.txt", "6:11:02\\:61\\:00\\:00\\:00\\:01:yes:WPA2\n");
+    EXPECT_EQ(Import({list, "--columns", "SIGNAL,CHAN,BSSID,SSID,SECURITY", "-o", output}).exitCode, 0);
+    EXPECT_EQ(simulation::LoadScenario(output).accessPoints.at(0).rssi, -97);
+}
+
+TEST_F(ImportCommand, TheHelpHasExamples)
+{
+    const Outcome outcome = Import({"--help"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_TRUE(Contains(outcome.out, "sudo iw dev wlan0 scan > networks.txt")) << outcome.out;
+    EXPECT_TRUE(Contains(outcome.out, "Exit codes:")) << outcome.out;
+}
+
 TEST_F(ImportCommand, DamageEndsItWithCodeTwoAndNothingWritten)
 {
     const std::string damaged = folder.Write("damaged.txt", Replaced(kNetworks, "61%", "61"));
@@ -130,7 +178,10 @@ TEST_F(ImportCommand, DamageEndsItWithCodeTwoAndNothingWritten)
         {{networks, "--interfaces", damaged}, damaged + ":1: this is no output of \"netsh wlan show interfaces\""},
         {{"--networks", interfaces}, interfaces + ":1: this is no output of \"netsh wlan show networks mode=bssid\""},
         {{other}, other + ":1: this is no output of"},
-        {{narrow}, narrow + ":5: this is not UTF-8"},
+        {{narrow, "--code-page", "65001"}, narrow + ":5: this is not UTF-8"},
+        {{networks, "--code-page", "12345"}, networks + ": this computer cannot read code page 12345"},
+        {{networks, "--word", "Offen"}, "\"Offen\" explains no word"},
+        {{networks, "--word", "Offen=offen"}, "\"Offen=offen\" explains no word"},
         {{networks, networks}, networks + ": a second list of networks"},
         {{interfaces, "--interfaces", interfaces}, interfaces + ": a second list of interfaces"},
         {{folder / "absent.txt"}, (folder / "absent.txt") + ": cannot be read"},

@@ -155,6 +155,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"Hardware On\n", "\n", "file:26: \"Radio status\" does not tell whether \"Hardware\" is On or Off"},
         Damage{"    State                  : disconnected\n", "    Sta\n",
                "file:25: \"Sta\" is no line of a list of interfaces"},
+        Damage{"55556666abce", "55556666abcd", "file:23: a second interface with this GUID"},
         Damage{"There are 2", "There are 3",
                "file:2: this announces 3 interfaces, but only 2 follow: the capture is cut off"}));
 

@@ -1,0 +1,335 @@
+#include "import/iw_scan.h"
+
+#include "import/capture_text.h"
+#include "import/heard_access_point.h"
+#include "simulation/scenario_names.h"
+#include "text_forms.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+constexpr std::string_view kBssStart = "BSS ";
+constexpr std::size_t kAddressSize = 17;
+
+/// What an RSN or WPA element says.
+struct SecurityElement
+{
+    std::string suites;
+    std::string ciphers;
+    bool isThere = false;
+};
+
+struct HeardBss
+{
+    std::size_t line = 0;
+    simulation::AccessPoint accessPoint;
+    bool associated = false;
+    bool hasSignal = false;
+    bool hasSsid = false;
+    bool privacy = false;
+    double highestRate = 0;
+    SecurityElement rsn;
+    SecurityElement wpa;
+};
+
+std::optional<simulation::MacAddress> StartOf(std::string_view line)
+{
+    if (!line.starts_with(kBssStart))
+        return std::nullopt;
+    return simulation::AddressFromText(std::string(line.substr(kBssStart.size(), kAddressSize)));
+}
+
+int HexDigit(char letter)
+{
+    if (letter >= '0' && letter <= '9')
+        return letter - '0';
+    const char low = static_cast<char>(letter | 0x20);
+    return low >= 'a' && low <= 'f' ? low - 'a' + 10 : -1;
+}
+
+/// iw prints control characters, blanks at the ends, backslashes and, in most versions, all that is not ASCII as \xNN.
+std::string Unescape(std::string_view text)
+{
+    std::string bytes;
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        const bool escaped = text[i] == '\\' && i + 3 < text.size() && text[i + 1] == 'x' &&
+                             HexDigit(text[i + 2]) >= 0 && HexDigit(text[i + 3]) >= 0;
+        bytes += escaped ? static_cast<char>(HexDigit(text[i + 2]) * 16 + HexDigit(text[i + 3])) : text[i];
+        i += escaped ? 3 : 0;
+    }
+    return bytes;
+}
+
+bool Has(const std::string& text, std::string_view part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+/// The rates "1.0* 2.0* 5.5* 11.0*", the basic ones with a star.
+double HighestRate(std::string_view text)
+{
+    double highest = 0;
+    while (!text.empty())
+    {
+        const std::size_t end = text.find(' ');
+        highest = std::max(highest, static_cast<double>(FirstNumber(text.substr(0, end))));
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    return highest;
+}
+
+std::uint32_t PhyTypeOf(std::string_view element)
+{
+    constexpr std::pair<std::string_view, std::uint32_t> kElements[] = {
+        {"HT ", 7u}, {"VHT ", 8u}, {"HE ", 10u}, {"EHT ", 11u}};
+    for (const auto& [start, type] : kElements)
+        if (element.starts_with(start) && (element.ends_with("capabilities") || element.ends_with("operation") ||
+                                           element.ends_with("Capabilities") || element.ends_with("Operation")))
+            return type;
+    return 0;
+}
+
+class IwReader
+{
+public:
+    explicit IwReader(NetworksCapture& capture) : m_capture(capture) {}
+
+    void Read(std::string_view line, std::size_t number)
+    {
+        if (const std::optional<simulation::MacAddress> address = StartOf(line))
+            return Begin(line, number, *address);
+        if (Trim(line).empty())
+            return;
+        if (m_found.empty() || line.find_first_not_of(" \t") == 0)
+            return Report(number, "\"" + std::string(Trim(line)) + "\" is not understood and left out");
+        const bool isTopLevel = line.starts_with('\t') && !line.starts_with("\t\t") && !line.starts_with("\t ");
+        if (isTopLevel)
+            TopLevel(line.substr(1), number);
+        else
+            Nested(Trim(line));
+    }
+
+    void Finish()
+    {
+        for (HeardBss& bss : m_found)
+            Add(bss);
+    }
+
+private:
+    void Report(std::size_t line, const std::string& what)
+    {
+        m_capture.warnings.push_back(m_capture.source + ":" + std::to_string(line) + ": " + what);
+    }
+
+    void Begin(std::string_view line, std::size_t number, const simulation::MacAddress& address)
+    {
+        constexpr std::string_view kAdapter = "(on ";
+        m_element = nullptr;
+        HeardBss& bss = m_found.emplace_back();
+        bss.line = number;
+        bss.accessPoint.bssid = address;
+        bss.accessPoint.frequencyKhz = 0;
+        bss.accessPoint.phyType = 0;
+        bss.accessPoint.hidden = true;
+        bss.associated = line.find("-- associated") != std::string_view::npos;
+        const std::size_t at = line.find(kAdapter);
+        if (at == std::string_view::npos)
+            return;
+        std::string_view name = line.substr(at + kAdapter.size());
+        name = name.substr(0, name.find(')'));
+        std::vector<std::string>& names = m_capture.adapterNames;
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            names.emplace_back(name);
+    }
+
+    void TopLevel(std::string_view line, std::size_t number)
+    {
+        const std::size_t colon = line.find(':');
+        const std::string_view name = Trim(line.substr(0, colon));
+        std::string_view value = colon == std::string_view::npos ? "" : line.substr(colon + 1);
+        HeardBss& bss = m_found.back();
+        m_element = name == "RSN" ? &bss.rsn : name == "WPA" ? &bss.wpa : nullptr;
+        if (m_element != nullptr)
+            m_element->isThere = true;
+        if (name == "SSID")
+            Ssid(value.starts_with(' ') ? value.substr(1) : value, number);
+        else
+            Value(name, Trim(value), number);
+        bss.accessPoint.phyType = std::max(bss.accessPoint.phyType, PhyTypeOf(name));
+    }
+
+    void Value(std::string_view name, std::string_view value, std::size_t number)
+    {
+        HeardBss& bss = m_found.back();
+        if (name == "freq")
+            bss.accessPoint.frequencyKhz = FrequencyFromMegahertz(value);
+        else if (name == "beacon interval")
+            BeaconPeriod(FirstNumber(value));
+        else if (name == "signal")
+            Signal(value, number);
+        else if (name == "Supported rates" || name == "Extended supported rates")
+            bss.highestRate = std::max(bss.highestRate, HighestRate(value));
+        else if (name == "capability")
+        {
+            bss.accessPoint.bssType = Has(std::string(value), "IBSS") ? 2 : 1;
+            bss.privacy = Has(std::string(value), "Privacy");
+        }
+        else if (m_element != nullptr)
+            Nested(value);
+    }
+
+    void BeaconPeriod(int period)
+    {
+        if (period > 0 && period <= 0xFFFF)
+            m_found.back().accessPoint.beaconPeriod = static_cast<std::uint16_t>(period);
+    }
+
+    /// Drivers that do not know the strength in dBm tell it without a unit, as "70/100".
+    void Signal(std::string_view value, std::size_t number)
+    {
+        const bool isRelative = value.ends_with("/100");
+        const std::string_view digits = value.substr(0, value.find_first_of("./ "));
+        int level = 0;
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), level);
+        if (error != std::errc() || end != digits.data() + digits.size() || (!isRelative && !value.ends_with("dBm")))
+            throw LineError(number, "\"signal\" is \"" + std::string(value) + "\", which is not a strength in dBm");
+        m_found.back().hasSignal = true;
+        m_found.back().accessPoint.rssi = isRelative ? std::clamp(level, 0, 100) / 2 - 100 : std::clamp(level, -120, 0);
+    }
+
+    void Ssid(std::string_view value, std::size_t number)
+    {
+        const std::string bytes = Unescape(value);
+        HeardBss& bss = m_found.back();
+        if (bytes.size() > 32)
+            throw LineError(number, "this SSID is longer than 32 bytes");
+        // A beacon that hides its name has none, or zeros in its place; the probe response may tell it all the same.
+        if (bss.hasSsid || bytes.find_first_not_of('\0') == std::string::npos)
+            return;
+        bss.hasSsid = true;
+        bss.accessPoint.hidden = false;
+        bss.accessPoint.ssid.assign(bytes.begin(), bytes.end());
+    }
+
+    /// " * Pairwise ciphers: CCMP TKIP"
+    void Nested(std::string_view line)
+    {
+        if (m_element == nullptr || !line.starts_with("* "))
+            return;
+        const std::size_t colon = line.find(':');
+        const std::string_view name = line.substr(2, colon == std::string_view::npos ? colon : colon - 2);
+        const std::string_view value = colon == std::string_view::npos ? "" : Trim(line.substr(colon + 1));
+        if (name == "Pairwise ciphers")
+            m_element->ciphers = value;
+        else if (name == "Authentication suites")
+            m_element->suites = value;
+    }
+
+    std::string CipherOf(const HeardBss& bss, const SecurityElement& element)
+    {
+        if (Has(element.ciphers, "GCMP-256"))
+            return "GCMP256";
+        if (Has(" " + element.ciphers + " ", " CCMP "))
+            return "AES";
+        if (Has(element.ciphers, "TKIP"))
+            return "TKIP";
+        throw LineError(bss.line, "its ciphers (" + element.ciphers + ") are none that a scenario has");
+    }
+
+    /// The best that the access point offers, as Windows shows it.
+    std::string AuthenticationOf(const HeardBss& bss, const SecurityElement& element, const std::string& wpa)
+    {
+        const std::string& suites = element.suites;
+        if (Has(suites, "SUITE-B-192"))
+            return "WPA3ENT192";
+        if (Has(suites, "SAE") && Has(suites, "PSK"))
+            Report(bss.line, MacOf(bss) + " takes both WPA2 and WPA3; the scenario has WPA3");
+        if (Has(suites, "SAE"))
+            return "WPA3SAE";
+        if (Has(suites, "OWE"))
+            return "OWE";
+        if (Has(suites, "PSK"))
+            return wpa + "PSK";
+        if (Has(suites, "802.1X"))
+            return wpa;
+        throw LineError(bss.line, "its authentication (" + suites + ") is none that a scenario has");
+    }
+
+    void SetSecurity(HeardBss& bss)
+    {
+        simulation::AccessPoint& accessPoint = bss.accessPoint;
+        const SecurityElement& element = bss.rsn.isThere ? bss.rsn : bss.wpa;
+        if (element.isThere)
+        {
+            accessPoint.authentication = AuthenticationOf(bss, element, bss.rsn.isThere ? "WPA2" : "WPA");
+            accessPoint.encryption = CipherOf(bss, element);
+            return;
+        }
+        accessPoint.authentication = "open";
+        accessPoint.encryption = bss.privacy ? "WEP" : "none";
+    }
+
+    static std::string MacOf(const HeardBss& bss)
+    {
+        return "the access point " + simulation::AddressText(bss.accessPoint.bssid);
+    }
+
+    void Add(HeardBss& bss)
+    {
+        simulation::AccessPoint& accessPoint = bss.accessPoint;
+        if (accessPoint.frequencyKhz == 0 || !bss.hasSignal)
+            throw LineError(bss.line, MacOf(bss) + " has no \"" + (bss.hasSignal ? "freq" : "signal") + "\"");
+        if (accessPoint.phyType == 0)
+            accessPoint.phyType = OldPhyType(accessPoint.frequencyKhz, bss.highestRate);
+        try
+        {
+            SetSecurity(bss);
+        }
+        catch (const LineError& error)
+        {
+            return Report(bss.line, MacOf(bss) + " is left out: " + error.what());
+        }
+        AddHeard(m_capture, accessPoint);
+        if (bss.associated)
+            AddConnection(m_capture, accessPoint);
+    }
+
+    NetworksCapture& m_capture;
+    std::vector<HeardBss> m_found;
+    SecurityElement* m_element = nullptr; ///< the element that lines further in belong to
+};
+
+} // namespace
+
+bool LooksLikeIwScan(std::string_view text)
+{
+    const std::vector<std::string_view> lines = LinesOf(text);
+    return std::any_of(lines.begin(), lines.end(), [](std::string_view line) { return StartOf(line).has_value(); });
+}
+
+NetworksCapture ParseIwScan(std::string_view text, const std::string& source)
+{
+    return ReadingFrom(source,
+                       [&]
+                       {
+                           if (!LooksLikeIwScan(text))
+                               throw LineError(1, "this is no output of \"iw dev wlan0 scan\"");
+                           NetworksCapture capture;
+                           capture.source = source;
+                           IwReader reader(capture);
+                           const std::vector<std::string_view> lines = LinesOf(text);
+                           for (std::size_t i = 0; i < lines.size(); ++i)
+                               reader.Read(lines[i], i + 1);
+                           reader.Finish();
+                           return capture;
+                       });
+}
+
+} // namespace calvix::host

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "import/netsh_networks.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// Whether a text looks like what `nmcli dev wifi list` prints: a table, a table with colons (-t), or a line for each value
+/// (-m multiline).
+bool LooksLikeNmcliList(std::string_view text);
+
+/// Reads such a text; `source` is what messages call it. Labels may be of any language: columns are told by what stands in
+/// them, unless `columns` names them in English, as they were given to -f. Signal strengths are percentages of nmcli's own,
+/// and PHY types are guessed from bands and rates, with a warning. Rows that do not fit are left out with a warning; throws
+/// CaptureError where a column is missing that a scenario needs.
+NetworksCapture
+ParseNmcliList(std::string_view text, const std::string& source, const std::vector<std::string>& columns);
+
+} // namespace calvix::host
