@@ -1,9 +1,9 @@
 // Every method, with every one of its platform calls failing in turn.
 
 #include "result_codes.h"
-#include "support/test_worlds.h"
 #include "sweep/bench.h"
 #include "sweep/tolerance.h"
+#include "sweep/worlds.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -26,56 +26,7 @@ using sweep::MethodCall;
 using sweep::Outcome;
 using sweep::Reference;
 using sweep::Run;
-
-struct World
-{
-    const char* name;
-    simulation::Scenario (*make)();
-};
-
-/// What the methods ask beside the radio. Listing the power schemes fails, or GetPowerScheme would never end.
-simulation::Scenario Furnished(simulation::Scenario world)
-{
-    constexpr std::uint32_t kNoMoreItems = 259;
-    world.power.enumerationError = kNoMoreItems;
-    world.power.lastSleepTime = 1'000;
-    world.power.lastWakeTime = 2'000;
-    world.power.modernStandby = true;
-    world.power.resumesAutomatically = true;
-    world.wow64 = true;
-    world.programPath = "C:\\Tools\\host.exe";
-    world.programs = {{.path = std::string("C:\\Tools\\") + sweep::kProgram}};
-    world.processes = {{.id = sweep::kProcess, .path = "C:\\Tools\\running.exe"}};
-    world.adapters[0].ihv[simulation::Bytes(16)] = {{1, 2, 3, 4}};
-    return world;
-}
-
-simulation::Scenario Connected()
-{
-    return Furnished(RichWorld());
-}
-
-simulation::Scenario Disconnected()
-{
-    return Furnished(DisconnectedWorld());
-}
-
-/// Where another access point of the network is better than the connected one.
-simulation::Scenario Wandering()
-{
-    constexpr std::int32_t kAlmostGone = -88;
-    simulation::Scenario world = RichWorld();
-    world.accessPoints[0].rssi = kAlmostGone;
-    return Furnished(world);
-}
-
-/// Where the WLAN service can be started.
-simulation::Scenario Stopped()
-{
-    simulation::Scenario world = Connected();
-    world.serviceRunning = false;
-    return world;
-}
+using sweep::World;
 
 /// What a method may say for want of anything in a list.
 bool MeansNothingThere(host::Cause cause)
@@ -89,9 +40,6 @@ bool MeansNothingThere(host::Cause cause)
         diagnosticRun};
     return std::find(std::begin(kNothingThere), std::end(kNothingThere), cause) != std::end(kNothingThere);
 }
-
-constexpr World kWorlds[] = {
-    {"connected", Connected}, {"disconnected", Disconnected}, {"wandering", Wandering}, {"stopped", Stopped}};
 
 /// Whether the failed call can be why a method ended with a code of its table.
 bool CanCause(const Failure& failure, host::Cause cause)
@@ -176,7 +124,7 @@ class EveryMethod : public testing::TestWithParam<MethodCall>
 
 TEST_P(EveryMethod, SurvivesEachFailure)
 {
-    for (const World& world : kWorlds)
+    for (const World& world : sweep::Worlds())
     {
         const Reference reference = Record(world.make(), GetParam());
         for (const Failure& failure : FailuresOf(reference))
@@ -210,7 +158,7 @@ TEST(FailureSweep, IsNotEmpty)
 {
     constexpr std::size_t kAtLeast = 2700 * CALVIX_SWEEP_ERRORS + 600;
     std::size_t failures = 0;
-    for (const World& world : kWorlds)
+    for (const World& world : sweep::Worlds())
         for (const MethodCall& method : sweep::EveryMethod())
             failures += FailuresOf(Record(world.make(), method)).size();
     RecordProperty("failures", std::to_string(failures));

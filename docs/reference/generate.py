@@ -1,0 +1,424 @@
+#!/usr/bin/env python3
+"""Makes what Doxygen reads from the header, the result codes and the data of this folder.
+
+    generate.py --check              whether every method has all of its parts
+    generate.py --calvix PROGRAM OUT the input of Doxygen, in the folder OUT; PROGRAM is the host program, which knows
+                                     the result codes
+
+The parts of a method, and where each is written down, once:
+    purpose, results in brief   its comment in include/calvix/wireless_manage.h
+    result codes                cli/result_codes.cpp, through `calvix explain`
+    calls, arguments, quirks    methods/*.json here; arguments that many methods have: arguments.json
+    example                     the region of its name in examples/reference/*.cpp
+"""
+
+import json
+import pathlib
+import re
+import subprocess
+import sys
+import textwrap
+
+HERE = pathlib.Path(__file__).resolve().parent
+ROOT = HERE.parent.parent
+HEADER = ROOT / "include/calvix/wireless_manage.h"
+# In the order of the main page.
+FAMILIES = "adapters networks profiles connections automatic radio system texts manager".split()
+PAGES = [*sorted((ROOT / "docs/guides").glob("*.md")), *sorted((ROOT / "docs").glob("*.md"))]
+
+
+class Method:
+    """A declaration of the header with its comment, and what this folder knows of it."""
+
+    def __init__(self, comment, declaration):
+        self.comment = comment
+        self.declaration = declaration
+        match = re.match(r"(?:static )?(.*?)([A-Za-z_]\w*|operator=)\((.*)\);$", declaration)
+        self.returns, self.name, parameters = match[1].strip(), match[2], match[3]
+        self.parameters = [split_parameter(text) for text in split_list(parameters)]
+        self.key = f"{self.name}({', '.join(kind for kind, _ in self.parameters)})"
+        self.data = {}
+        self.family = ""
+
+    @property
+    def example(self):
+        return self.data.get("example", self.name)
+
+    @property
+    def target(self):
+        parameters = ", ".join(f"{without_order(kind)}" for kind, _ in self.parameters)
+        return f"CWirelessManage::{self.name}({parameters})"
+
+    def argument(self, name, shared):
+        return self.data.get("arguments", {}).get(name) or shared.get(name)
+
+
+def split_list(text):
+    """At the commas that stand in no angle brackets."""
+    return [part.strip() for part in re.split(r",(?![^<]*>)", text) if part.strip()]
+
+
+def split_parameter(text):
+    match = re.match(r"(.*?)(\w+)$", text)
+    kind = match[1].strip()
+    return (re.sub(r"^const ((?:unsigned )?\w+)", r"\1 const", kind), match[2])
+
+
+def without_order(kind):
+    return re.sub(r"^((?:unsigned )?\w+) const", r"const \1", kind)
+
+
+def read_header():
+    """The header's lines, where a method stands as a Method."""
+    items, comment, declaration = [], [], ""
+    for line in HEADER.read_text(encoding="utf-8").splitlines():
+        text = line.strip()
+        if declaration or (comment and line.startswith("    ") and "(" in text and not text.startswith("//")) or (
+                comment and text in ("int", "char*", "unsigned char*", "unsigned long")):
+            declaration += (" " if declaration else "") + text
+            if declaration.endswith(";"):
+                items.append(Method(comment, declaration))
+                comment, declaration = [], ""
+        elif text.startswith("///"):
+            comment.append(text[3:].strip())
+        else:
+            items += [f"/// {words}" for words in comment] + [line]
+            comment = []
+    return items
+
+
+def load(items):
+    """The header's methods with their data; what is missing or too much."""
+    problems = []
+    methods = {item.key: item for item in items if isinstance(item, Method)}
+    exports = (ROOT / "tests/binary/exports.txt").read_text(encoding="utf-8").splitlines()
+    shared = json.loads((HERE / "arguments.json").read_text(encoding="utf-8"))
+    families = {}
+    for name in FAMILIES:
+        families[name] = json.loads((HERE / "methods" / f"{name}.json").read_text(encoding="utf-8"))
+        for key, data in families[name]["methods"].items():
+            if key not in methods:
+                problems.append(f"methods/{name}.json: the header declares no {key}")
+                continue
+            methods[key].data, methods[key].family = data, name
+    regions = example_regions()
+    results = (ROOT / "cli/result_codes.cpp").read_text(encoding="utf-8")
+    codes = set(re.findall(r'^    \{"([\w=]+)", \w+,', results, re.M))
+    for key in sorted(set(exports) ^ set(methods)):
+        problems.append(f"{key}: {'exported, but not declared' if key in exports else 'declared, but not exported'}")
+    for method in methods.values():
+        problems += [f"{method.key}: {problem}" for problem in missing_parts(method, shared, regions, codes)]
+    examples = [method.example for method in methods.values()]
+    problems += [f"examples/reference: no method shows [{name}]" for name in sorted(set(regions) - set(examples))]
+    problems += [f"the example [{name}] is shown twice" for name in sorted(regions) if examples.count(name) > 1]
+    return methods, families, shared, regions, problems
+
+
+def missing_parts(method, shared, regions, codes):
+    if not method.data:
+        yield "no entry in methods/*.json"
+        return
+    if not " ".join(method.comment).strip():
+        yield "no comment in the header"
+    for part in ("calls", "quirks", "arguments"):
+        if part not in method.data:
+            yield f'no "{part}"'
+    if "purpose" not in method.data and re.match(r"The same|\d|\W", " ".join(method.comment)):
+        yield "its comment leans on others, and it has no \"purpose\""
+    for _, name in method.parameters:
+        text = method.argument(name, shared)
+        if not text:
+            yield f"nothing is said about the argument {name}"
+        elif not re.match(r"(in|out|in,out): .", text):
+            yield f"the argument {name} has no direction"
+    for name in set(method.data["arguments"]) - {name for _, name in method.parameters}:
+        yield f"has no argument {name}"
+    if method.example not in regions:
+        yield f"no region [{method.example}] in examples/reference"
+    if method.name not in codes:
+        yield "no entry in cli/result_codes.cpp"
+
+
+def example_regions():
+    """The examples by their names: what stands between two lines with the name in square brackets."""
+    regions = {}
+    for path in sorted((ROOT / "examples/reference").glob("*.cpp")):
+        pieces = re.split(r"^ *//! \[(.+)\]\n", path.read_text(encoding="utf-8"), flags=re.M)
+        for begin, text, end in zip(pieces[1::4], pieces[2::4], pieces[3::4], strict=True):
+            if begin != end or begin in regions:
+                raise SystemExit(f"{path.name}: the region [{begin}] is not closed, or there are two")
+            regions[begin] = textwrap.dedent(text).rstrip()
+    return regions
+
+
+# --- What Doxygen reads --------------------------------------------------------------------------------------------
+
+
+def escaped(text):
+    return text.replace("&", "&amp;").replace("<", "&lt;").replace(">", "&gt;").replace("|", "&#124;")
+
+
+class Links:
+    """Turns the names of methods in a text into links."""
+
+    def __init__(self, methods):
+        names = {method.name for method in methods.values() if len(re.findall(r"[A-Z0-9]", method.name)) > 1}
+        self.methods = {method.name for method in methods.values()}
+        longest_first = "|".join(sorted(names, key=len, reverse=True))
+        self.pattern = re.compile(rf"(?<![\w`:.\"#])({longest_first})(?![\w`\"(:])")
+
+    def __call__(self, text, own=""):
+        return self.pattern.sub(lambda m: m[1] if m[1] == own else self.link(m[1]), text)
+
+    def link(self, name):
+        return f'@ref CWirelessManage::{name} "{name}"'
+
+
+def own_words(method):
+    """The header's comment, but for a first sentence that says only what is different from the method above."""
+    text = " ".join(method.comment)
+    if not text.startswith("The same"):
+        return method.comment
+    _, _, rest = text.partition(". ")
+    return textwrap.wrap(rest, 110)
+
+
+def operation(call):
+    """The operation of an entry, whether it is made in some cases only, and the remark behind it."""
+    match = re.match(r"(\[?)(\w+)\]?(?: (.*))?$", call)
+    return match[2], bool(match[1]), match[3] or ""
+
+
+def calls_text(method):
+    calls = method.data["calls"]
+    if not calls:
+        yield "@par Platform calls"
+        yield "None."
+        return
+    yield "@par Platform calls"
+    for call in calls:
+        name, conditional, remark = operation(call)
+        if name == "WlanOpenHandle" and not remark:
+            remark = "(where the client handle is not open)"
+        yield f"- `{name}`{' ' + escaped(remark) if remark else ''}{' <em>(not always)</em>' if conditional else ''}"
+    yield ""
+
+
+def returned(results):
+    """What comes back, in a sentence that begins with the number where it is always the same."""
+    forms = {
+        "0 or a code": "0: {}; otherwise a code",
+        "a number or a code": "{}, or a code",
+        "1 or 0": "1 or 0: {}",
+        "0 or the platform's error number": "0: {}; otherwise a code or the platform's error number",
+    }
+    text = forms.get(results["returns"], "{}").format(results["success"])
+    return text[0].upper() + text[1:]
+
+
+def codes_text(method, results):
+    """The method's own result codes; overloads share a table, of which each has its part."""
+    without = method.data.get("without", [])
+    codes = [row for row in results["codes"] if row["code"] not in without]
+    for code in without:
+        if code not in [row["code"] for row in results["codes"]]:
+            raise SystemExit(f"{method.key}: its table has no {code} that could be left out")
+    said = {int(code) for code in re.findall(r"(?<![\w.(`])-\d+(?=[ ,;:.])", " ".join(method.comment))}
+    if results["returns"] != "a value" and (unknown := said - {row["code"] for row in codes}):
+        raise SystemExit(f"{method.key}: its comment names {sorted(unknown)}, its table does not")
+    if method.returns != "void":
+        yield f"@return {escaped(returned(results))}."
+    if not codes:
+        return
+    yield "@par Result codes"
+    yield "| Code | Meaning | What to do |"
+    yield "|-----:|---------|------------|"
+    for row in codes:
+        code = row["code"] if not method.returns.startswith("unsigned") else f"0x{row['code'] & 0xFFFFFFFF:X}"
+        yield f"| {code} | {escaped(row['meaning'])} | {escaped(row['advice'])} |"
+    if results["returns"] == "0 or the platform's error number":
+        yield "| other | the platform's error number | `calvix explain` tells what it means |"
+    yield ""
+
+
+def method_comment(method, results, families, shared, regions, links):
+    """The comment of the header, then everything else."""
+    if "purpose" in method.data:
+        yield links(escaped(purpose(method)), method.name)
+        yield ""
+    yield from (links(line, method.name) for line in own_words(method))
+    yield ""
+    if mark := method.data.get("mark"):
+        yield "@par Mark"
+        yield f'<span class="mark">{mark}</span>'
+        yield ""
+    if alias := method.data.get("alias"):
+        yield "@par Alias"
+        yield f"Another name of {links.link(alias)}."
+        yield ""
+    for _, name in method.parameters:
+        direction, text = method.argument(name, shared).split(": ", 1)
+        yield f"@param[{direction}] {name} {links(escaped(text), method.name)}"
+    yield from codes_text(method, results)
+    yield from calls_text(method)
+    if method.data["quirks"]:
+        yield "@par Quirks"
+        yield from (f"- {links(escaped(quirk), method.name)}" for quirk in method.data["quirks"])
+        yield ""
+    yield "@par Example"
+    yield "@code{.cpp}"
+    yield from regions[method.example].splitlines()
+    yield "@endcode"
+    yield ""
+    yield f'@see @ref family_{method.family} "{families[method.family]["title"]}"'
+
+
+def write_header(items, results, families, shared, regions, links, out):
+    lines, open_section = [], False
+    for item in items:
+        if isinstance(item, Method):
+            comment = method_comment(item, results[item.name], families, shared, regions, links)
+            lines += [f"    /// {line}".rstrip() for line in comment]
+            lines.append(f"    {item.declaration}")
+        elif section := re.match(r"    // --- (.*?) -+$", item):
+            lines += ["    /// @}"] if open_section else []
+            lines += [f"    /// @name {section[1]}", "    /// @{"]
+            open_section = True
+        elif item.startswith("private:"):
+            lines += ["    /// @}", item]
+        else:
+            lines.append(item)
+    (out / "calvix").mkdir(parents=True, exist_ok=True)
+    (out / "calvix/wireless_manage.h").write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+
+def purpose(method):
+    """In one sentence: the first of the header's comment, without the operations that it names in brackets, or, where
+    that leans on the comments around it, one of its own."""
+    if text := method.data.get("purpose"):
+        return text
+    text = re.sub(r" \([A-Z]\w+(?:, [^()]*|; [^()]*)?\)| \[(?:in|out)\]", "", " ".join(method.comment))
+    return re.split(r"(?<=[a-z)\"])\. |; -", text)[0].rstrip(".") + "."
+
+
+def write_families(methods, families, results, links, out):
+    for name, family in families.items():
+        lines = [f"# {family['title']} {{#family_{name}}}", "", links(family["intro"]), "",
+                 "| Method | What it does | Returns |", "|--------|--------------|---------|"]
+        for key in family["methods"]:
+            method = methods[key]
+            mark = method.data.get("mark") or (f"alias of {method.data['alias']}" if "alias" in method.data else "")
+            mark = f' <span class="mark">{mark}</span>' if mark else ""
+            lines.append(f"| @ref {method.target} \"{method.name}\"{mark} | "
+                         f"{links(escaped(purpose(method)), method.name)} | {results[method.name]['returns']} |")
+        (out / f"family_{name}.md").write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+
+def write_index(methods, families, links, out):
+    lines = ["# Methods from A to Z {#methods}", "", "| Method | What it does | Family |", "|---|---|---|"]
+    for method in sorted(methods.values(), key=lambda method: method.name.lower()):
+        family = families[method.family]["title"]
+        lines.append(f"| @ref {method.target} \"{method.name}\" | {links(escaped(purpose(method)), method.name)} | "
+                     f"@ref family_{method.family} \"{family}\" |")
+    (out / "methods.md").write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+
+def slug(heading):
+    """As the forges make it."""
+    text = re.sub(r"`|\*|\[|\]\([^)]*\)", "", heading).strip().lower()
+    return re.sub(r"[^\w\- ]", "", text).replace(" ", "-")
+
+
+def page_label(path):
+    return "page_" + re.sub(r"\W", "_", path.relative_to(ROOT / "docs").with_suffix("").as_posix())
+
+
+def page_text(path, links):
+    """A page of docs/ in Doxygen's terms: labels at the headings, links to labels, names of methods as links."""
+
+    def target(match):
+        text, where = match[1], match[2]
+        if re.match(r"[a-z]+:", where):
+            return match[0]
+        file, _, anchor = where.partition("#")
+        linked = (path.parent / file).resolve() if file else path
+        if linked not in PAGES:
+            return text
+        return f'@ref {page_label(linked)}{"_" + anchor if anchor else ""} "{text.strip("`")}"'
+
+    lines, fenced, first = [], False, True
+    for line in path.read_text(encoding="utf-8").splitlines():
+        if line.lstrip().startswith("```"):
+            fenced = not fenced
+        if fenced or line.lstrip().startswith("```"):
+            lines.append(line)
+            continue
+        if heading := re.match(r"(#+) (.*)", line):
+            label = page_label(path) + ("" if first else "_" + slug(heading[2]))
+            lines.append(f"{heading[1]} {heading[2].replace('`', '')} {{#{label}}}")
+            first = False
+            continue
+        line = re.sub(r"(`[^`]*`)|@(?=\w)", lambda m: m[1] or "\\@", line)
+        line = re.sub(r"(?<!!)\[([^\]]+)\]\(([^)\s]+)\)", target, line)
+        line = re.sub(r"`(\w+)`", lambda m: links.link(m[1]) if m[1] in links.methods else m[0], line)
+        lines.append(line)
+    return "\n".join(lines) + "\n"
+
+
+def title_of(path):
+    return path.read_text(encoding="utf-8").splitlines()[0].lstrip("# ")
+
+
+def write_pages(families, links, out):
+    for path in PAGES:
+        (out / f"{page_label(path)}.md").write_text(page_text(path, links), encoding="utf-8")
+    text = (HERE / "mainpage.md").read_text(encoding="utf-8")
+    text = text.replace("@FAMILIES@", "\n".join(
+        f"- @ref family_{name} \"{family['title']}\": {len(family['methods'])} methods"
+        for name, family in families.items()))
+    guides = [path for path in PAGES if path.parent.name == "guides" and path.name != "README.md"]
+    others = [path for path in PAGES if path.parent.name != "guides"]
+    for name, paths in (("@GUIDES@", guides), ("@PAGES@", others)):
+        text = text.replace(name, "\n".join(f'- @ref {page_label(path)} "{title_of(path)}"' for path in paths))
+    (out / "mainpage.md").write_text(text, encoding="utf-8")
+
+
+def read_results(program):
+    """The result codes as the host program explains them, with the kind of result, which its table shows."""
+
+
+    def said(*arguments):
+        return subprocess.run([program, *arguments], check=True, capture_output=True, encoding="utf-8").stdout
+
+    results = {entry["method"]: entry for entry in json.loads(said("explain", "--json"))["methods"]}
+    for line in said("explain").splitlines()[1:]:
+        name, returns, _ = re.split(r"\s{2,}", line.strip())
+        results[name]["returns"] = returns
+    return results
+
+
+def main(arguments):
+    items = read_header()
+    methods, families, shared, regions, problems = load(items)
+    for problem in problems:
+        print(f"reference: {problem}", file=sys.stderr)
+    if problems:
+        return 1
+    if arguments == ["--check"]:
+        print(f"reference: {len(methods)} methods with all their parts")
+        return 0
+    if len(arguments) != 3 or arguments[0] != "--calvix":
+        print(__doc__, file=sys.stderr)
+        return 2
+    out = pathlib.Path(arguments[2])
+    results = read_results(arguments[1])
+    links = Links(methods)
+    write_header(items, results, families, shared, regions, links, out)
+    write_families(methods, families, results, links, out)
+    write_index(methods, families, links, out)
+    write_pages(families, links, out)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
