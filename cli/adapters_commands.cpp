@@ -31,7 +31,9 @@ void ListAdapters(Host& host)
 
 void AddAdapterCommands(CommandSet& commands)
 {
-    commands.Add("adapters", "List the wireless adapters and their states", ListAdapters);
+    commands.Add("adapters", "List the wireless adapters and their states", ListAdapters)
+        .Examples("Numbers for --interface:\n"
+                  "  calvix adapters");
 }
 
 } // namespace calvix::host

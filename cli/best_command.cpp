@@ -1,4 +1,5 @@
 #include "autoconnect/candidate_ranking.h"
+#include "best.h"
 #include "command.h"
 #include "connection_wait.h"
 #include "core/fixed_text.h"
@@ -26,6 +27,15 @@ struct BestOptions
     unsigned seconds = 15;
 };
 
+std::string SsidArgument(const std::string& text)
+{
+    const auto bytes = BytesOfSsidArgument(text);
+    if (!bytes)
+        throw BadInput("\"" + text + "\" is no SSID: behind hex: it takes pairs of hexadecimal digits",
+                       "write it like hex:436166E9; calvix networks --json shows the bytes as ssidHex");
+    return *bytes;
+}
+
 int ConnectBest(Host& host, const BestOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
@@ -34,7 +44,7 @@ int ConnectBest(Host& host, const BestOptions& options)
     for (const std::string& ssid : options.excludedSsids)
     {
         WLAN_BSS_ENTRY entry{};
-        entry.dot11Ssid = MakeSsid(BytesOfVisibleText(ssid));
+        entry.dot11Ssid = MakeSsid(SsidArgument(ssid));
         excluded.push_back(entry);
     }
     CWirelessManage& library = host.manager();
@@ -196,6 +206,11 @@ void Best(Host& host, const BestOptions& options)
 
 } // namespace
 
+std::vector<CandidateFacts> BestCandidates(Host& host)
+{
+    return ScoreCandidates(host, {});
+}
+
 const char* OutcomeText(Outcome outcome)
 {
     switch (outcome)
@@ -219,9 +234,13 @@ void AddBestCommand(CommandSet& commands)
         .Add("best", "Join the best network with a stored profile that connects automatically",
              [options](Host& host) { Best(host, *options); })
         .Text("--exclude-profile", options->excludedProfile, "Do not choose this profile")
+        .Takes(ValueKind::profile)
         .Texts("--exclude-ssid", options->excludedSsids,
-               "Do not choose networks whose SSID is this or its beginning; may be given several times")
-        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most");
+               "Do not choose networks whose SSID is this or its beginning, as it is shown or as hex:4361E9; may be given "
+               "several times")
+        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
+        .Examples("Join the best network, but no hot spot:\n"
+                  "  calvix best --exclude-ssid Guest --exclude-ssid hex:436166E9");
 }
 
 } // namespace calvix::host

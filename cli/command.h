@@ -8,6 +8,23 @@ namespace calvix::host
 {
 
 class Host;
+struct CommonOptions;
+
+/// What the value of an argument is, for help and for completion.
+enum class ValueKind
+{
+    nothing, ///< a flag has none
+    text,
+    number,
+    choice, ///< one of a few words
+    file,
+    folder,
+    scenario, ///< a scenario file
+    adapter,
+    profile, ///< the name of a stored one
+    method,  ///< of the library
+    command  ///< of this program, in one word or two
+};
 
 /// The arguments of one command, declared next to it and bound to its variables. A name that begins with "--" (a short
 /// form may stand before it: "-o,--output") is an option, any other is a positional argument in the order of
@@ -25,8 +42,14 @@ public:
     virtual Arguments& Number(const char* name, unsigned& value, const char* help) = 0;
     virtual Arguments&
     OneOf(const char* name, std::string& value, const std::vector<std::string>& choices, const char* help) = 0;
+    /// What the argument declared last takes, where it is a text of a kind.
+    virtual Arguments& Takes(ValueKind kind) = 0;
     /// The option declared last must be given.
     virtual Arguments& Required() = 0;
+    /// Lines that stand below the arguments in the command's help.
+    virtual Arguments& Examples(const char* text) = 0;
+    /// The command is for programs: no list of commands shows it.
+    virtual Arguments& Hidden() = 0;
 };
 
 /// What a command does. Success is to return; whatever else ends it throws a Failure (failure.h).
@@ -52,6 +75,12 @@ public:
     virtual Arguments& Add(const char* path, const char* summary, RunCommand run) = 0;
 };
 
+/// The options that every command has.
+void DeclareCommonOptions(Arguments& arguments, CommonOptions& options);
+
+/// All commands, in the order in which help lists them.
+void AddAllCommands(CommandSet& commands);
+
 void AddAdapterCommands(CommandSet& commands);
 void AddScanCommands(CommandSet& commands);
 void AddProfileCommands(CommandSet& commands);
@@ -67,5 +96,7 @@ void AddMatchCommands(CommandSet& commands);
 void AddBestCommand(CommandSet& commands);
 void AddExplainCommand(CommandSet& commands);
 void AddImportCommand(CommandSet& commands);
+void AddReportCommand(CommandSet& commands);
+void AddHelpCommands(CommandSet& commands);
 
 } // namespace calvix::host

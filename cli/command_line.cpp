@@ -1,9 +1,17 @@
 #include "command_line.h"
 
+#include "command_description.h"
+#include "exit_codes.h"
+#include "failure_words.h"
+#include "json_output.h"
+#include "program_texts.h"
+#include "usage_failure.h"
+
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <algorithm>
 #include <map>
 
 namespace calvix::host
@@ -12,41 +20,21 @@ namespace calvix::host
 namespace
 {
 
-constexpr const char* kVersion = "calvix 1.0.0";
-
-constexpr const char* kExitCodes = R"(Exit codes:
-  0  success
-  1  the operation failed
-  2  bad usage, or a file that cannot be used
-  3  no adapter, or the WLAN service cannot be reached
-  4  a question was not answered with yes, so nothing was done)";
-
 constexpr const char* kCommonGroup = "Options of every command";
-
-void AddCommonOptions(CLI::App& app, CommonOptions& options)
-{
-    app.add_flag("--json", options.json, "Print one JSON object instead of text")->group(kCommonGroup);
-    app.add_option("--interface", options.adapter,
-                   "The adapter: its GUID, its number or its description (default: the first)")
-        ->group(kCommonGroup);
-    app.add_option("--scenario", options.scenario, "Run on the simulated computer that this file describes")
-        ->group(kCommonGroup);
-    app.add_option("--save", options.save, "Write the simulated computer to this scenario file afterwards")
-        ->group(kCommonGroup);
-    app.add_flag("--trace", options.trace, "Show the library's trace lines on standard error")->group(kCommonGroup);
-    app.add_flag("--no-color", options.noColor, "No colours, also not on a terminal")->group(kCommonGroup);
-}
 
 /// The arguments of one command. Declarations of one command follow each other, so one object serves all.
 class DeclaredArguments final : public Arguments
 {
 public:
-    void Begin(CLI::App& command) { m_command = &command; }
+    void Begin(CLI::App& command, const char* group = nullptr)
+    {
+        m_command = &command;
+        m_group = group;
+    }
 
     Arguments& Flag(const char* name, bool& value, const char* help) override
     {
-        m_last = m_command->add_flag(name, value, help);
-        return *this;
+        return Declared(m_command->add_flag(name, value, help));
     }
     Arguments& Text(const char* name, std::string& value, const char* help) override
     {
@@ -63,6 +51,7 @@ public:
     Arguments& Number(const char* name, unsigned& value, const char* help) override
     {
         Option(name, value, help);
+        m_last->type_name(ValueText(ValueKind::number, {}));
         m_last->capture_default_str();
         return *this;
     }
@@ -70,12 +59,28 @@ public:
     OneOf(const char* name, std::string& value, const std::vector<std::string>& choices, const char* help) override
     {
         Option(name, value, help);
-        m_last->check(CLI::IsMember(choices));
+        m_last->type_name(ValueText(ValueKind::choice, choices));
+        m_last->check(CLI::Validator(CLI::IsMember(choices)).description(""));
+        return *this;
+    }
+    Arguments& Takes(ValueKind kind) override
+    {
+        m_last->type_name(ValueText(kind, {}));
         return *this;
     }
     Arguments& Required() override
     {
         m_last->required();
+        return *this;
+    }
+    Arguments& Examples(const char* text) override
+    {
+        m_command->footer(std::string(text) + "\n\n" + ExitCodeLines());
+        return *this;
+    }
+    Arguments& Hidden() override
+    {
+        m_command->group("");
         return *this;
     }
 
@@ -86,12 +91,21 @@ private:
         const bool optional = name.front() == '[' || name.front() == '-';
         if (name.front() == '[')
             name = name.substr(1, name.size() - 2);
-        m_last = m_command->add_option(name, value, help);
+        Declared(m_command->add_option(name, value, help));
         m_last->required(!optional);
         return *this;
     }
 
+    Arguments& Declared(CLI::Option* option)
+    {
+        m_last = option;
+        if (m_group != nullptr)
+            option->group(m_group);
+        return *this;
+    }
+
     CLI::App* m_command = nullptr;
+    const char* m_group = nullptr;
     CLI::Option* m_last = nullptr;
 };
 
@@ -99,14 +113,14 @@ private:
 class ParserCommands final : public CommandSet
 {
 public:
-    ParserCommands(CLI::App& app, Request& request) : m_app(app), m_request(request) {}
+    ParserCommands(CLI::App& app, Request& request) : m_app(app), m_request(request) { AddCommonOptions(app); }
 
     void AddFamily(const char* name, const char* summary) override
     {
         CLI::App& family = *m_app.add_subcommand(name, summary);
         family.require_subcommand(1);
         family.fallthrough();
-        family.footer(kExitCodes);
+        family.footer(ExitCodeLines());
         m_families[name] = &family;
     }
 
@@ -116,65 +130,95 @@ public:
         const std::size_t blank = words.find(' ');
         CLI::App& parent = blank == std::string::npos ? m_app : *m_families.at(words.substr(0, blank));
         CLI::App& command = *parent.add_subcommand(words.substr(blank + 1), summary);
-        command.footer(kExitCodes);
+        command.footer(ExitCodeLines());
         command.callback(
             [this, words, run = std::move(run)]
             {
                 m_request.command = words;
                 m_request.run = run;
             });
-        AddCommonOptions(command, m_request.options);
+        AddCommonOptions(command);
         m_arguments.Begin(command);
         return m_arguments;
     }
 
 private:
+    void AddCommonOptions(CLI::App& app)
+    {
+        m_arguments.Begin(app, kCommonGroup);
+        DeclareCommonOptions(m_arguments, m_request.options);
+    }
+
     CLI::App& m_app;
     Request& m_request;
     std::map<std::string, CLI::App*> m_families;
     DeclaredArguments m_arguments;
 };
 
-void AddCommands(CommandSet& commands)
+/// Options may stand before the command and after it, which the parser takes for different ones.
+void RefuseContradictions(const CommonOptions& options)
 {
-    AddAdapterCommands(commands);
-    AddScanCommands(commands);
-    AddProfileCommands(commands);
-    AddConnectionCommands(commands);
-    AddRoamCommand(commands);
-    AddWatchCommand(commands);
-    AddRadioCommands(commands);
-    AddSettingsCommands(commands);
-    AddPowerCommands(commands);
-    AddProcessCommands(commands);
-    AddListCommands(commands);
-    AddMatchCommands(commands);
-    AddBestCommand(commands);
-    AddExplainCommand(commands);
-    AddImportCommand(commands);
+    const auto refuse = [](bool wrong, const char* text)
+    {
+        if (wrong)
+            throw CLI::ValidationError(text);
+    };
+    refuse(options.anonymise && options.record.empty(), "--anonymise is for --record");
+    if (options.replay.empty())
+        return;
+    refuse(!options.scenario.empty(), "--replay excludes --scenario");
+    refuse(!options.record.empty(), "--replay excludes --record");
+    refuse(!options.save.empty(), "--replay excludes --save");
+}
+
+/// "help profiles list" means "profiles list --help".
+std::vector<std::string> WithHelpBehind(std::vector<std::string> arguments)
+{
+    if (arguments.empty() || arguments.front() != "help")
+        return arguments;
+    arguments.erase(arguments.begin());
+    arguments.push_back("--help");
+    return arguments;
+}
+
+void TellUsageFailure(const std::vector<std::string>& arguments,
+                      const std::string& parserWords,
+                      std::ostream& out,
+                      std::ostream& err)
+{
+    const FailureReport report = UsageFailure(DescribeProgram(), arguments, parserWords).report();
+    if (std::find(arguments.begin(), arguments.end(), "--json") != arguments.end())
+        PrintJson(out, report);
+    PrintFailure(err, report);
 }
 
 } // namespace
 
 std::optional<Request>
-ParseArguments(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err, ExitCode& exitCode)
+ParseArguments(const std::vector<std::string>& given, std::ostream& out, std::ostream& err, ExitCode& exitCode)
 {
+    const std::vector<std::string> arguments = WithHelpBehind(given);
     Request request;
-    CLI::App app("Wireless networks: adapters, scans, profiles, connections.", "calvix");
+    CLI::App app(kProgramDescription, "calvix");
     app.allow_windows_style_options(false);
-    app.set_version_flag("--version", kVersion);
+    app.set_version_flag("--version", std::string("calvix ") + kVersionNumber);
     app.require_subcommand(1);
-    app.footer(kExitCodes);
-    AddCommonOptions(app, request.options);
+    app.footer(std::string(kProgramExamples) + "\n\n" + ExitCodeLines());
     ParserCommands commands(app, request);
-    AddCommands(commands);
+    AddAllCommands(commands);
     try
     {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        RefuseContradictions(request.options);
     }
     catch (const CLI::ParseError& error)
     {
-        exitCode = app.exit(error, out, err) == 0 ? ExitCode::success : ExitCode::badInput;
+        const bool asked = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success);
+        exitCode = asked ? ExitCode::success : ExitCode::badInput;
+        if (asked)
+            app.exit(error, out, err);
+        else
+            TellUsageFailure(arguments, error.what(), out, err);
         return std::nullopt;
     }
     return request;

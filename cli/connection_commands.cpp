@@ -147,17 +147,26 @@ Arguments& AddWaiting(Arguments& arguments, const std::shared_ptr<ConnectOptions
 void AddPlainCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<ConnectOptions>();
-    commands.Add("status", "Show the adapter's state and connection", ShowNow);
+    commands.Add("status", "Show the adapter's state and connection", ShowNow)
+        .Examples("Of the second adapter:\n"
+                  "  calvix status --interface 2");
     AddWaiting(commands.Add("connect", "Connect by a stored profile whose network is in view",
                             [options](Host& host) { Connect(host, *options); }),
                options)
-        .Text("PROFILE", options->profile, "The profile");
+        .Text("PROFILE", options->profile, "The profile")
+        .Takes(ValueKind::profile)
+        .Examples("Connect, and wait a minute at most:\n"
+                  "  calvix connect Office --timeout 60");
     AddWaiting(
         commands.Add("disconnect", "Take the connection down", [options](Host& host) { Disconnect(host, *options); }),
-        options);
+        options)
+        .Examples("Until the service or a person connects again:\n"
+                  "  calvix disconnect");
     AddWaiting(commands.Add("reset", "Ask again for the connection that is up",
                             [options](Host& host) { Reset(host, *options); }),
-               options);
+               options)
+        .Examples("The connection is up and does not work:\n"
+                  "  calvix reset");
 }
 
 void AddMethodCommands(CommandSet& commands)
@@ -167,7 +176,9 @@ void AddMethodCommands(CommandSet& commands)
                             [reconnect](Host& host) { Reconnect(host, *reconnect); }),
                reconnect)
         .OneOf("--method", reconnect->method, {"access-point", "network", "profile"},
-               "Back to the best access point (default), to the network, or by the profile");
+               "Back to the best access point (default), to the network, or by the profile")
+        .Examples("Back by the same profile:\n"
+                  "  calvix reconnect --method profile");
 
     const auto automatic = std::make_shared<ConnectOptions>();
     AddWaiting(commands.Add("auto", "Connect to a network in view that has a stored profile",
@@ -180,7 +191,9 @@ void AddMethodCommands(CommandSet& commands)
                automatic)
         .OneOf("--method", automatic->method, {"connect", "ranked", "smart", "mode"},
                "By the profiles' order (connect, default), by rank, the first profile's only (smart), or only profiles "
-               "that connect automatically (mode)");
+               "that connect automatically (mode)")
+        .Examples("The best-ranked profile in view:\n"
+                  "  calvix auto --method ranked");
 
     const auto change = std::make_shared<ConnectOptions>();
     AddWaiting(commands.Add("switch", "Change to another network that has a stored profile",
@@ -189,7 +202,9 @@ void AddMethodCommands(CommandSet& commands)
                change)
         .OneOf("--method", change->method, {"auto", "smart"},
                "Put the present profile last and take the first in order (auto, default), or the first with a better "
-               "signal (smart)");
+               "signal (smart)")
+        .Examples("To whatever is stronger:\n"
+                  "  calvix switch --method smart");
 }
 
 } // namespace

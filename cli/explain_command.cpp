@@ -113,7 +113,10 @@ void AddExplainCommand(CommandSet& commands)
         .Add("explain", "Say what a method's result code means and what to do about it",
              [options](Host& host) { Explain(host, *options); })
         .Text("[METHOD]", options->method, "A method of the library; without it all are listed")
-        .Text("[CODE]", options->code, "Its result; without it all its codes are listed");
+        .Takes(ValueKind::method)
+        .Text("[CODE]", options->code, "Its result; without it all its codes are listed")
+        .Examples("What a number in a log means:\n"
+                  "  calvix explain ConnectBestAP -9");
 }
 
 } // namespace calvix::host

@@ -2,6 +2,7 @@
 
 #include "platform_errors.h"
 #include "result_codes.h"
+#include "table.h"
 #include "words.h"
 
 namespace calvix::host
@@ -111,9 +112,11 @@ Failure OperationFailure(std::string message, std::string advice)
     return Failure(report);
 }
 
-void PrintFailure(std::ostream& err, const FailureReport& report)
+void PrintFailure(std::ostream& err, const FailureReport& report, const TerminalTraits& terminal)
 {
-    err << "calvix: " << report.message << FullStop(report.message) << '\n';
+    TerminalTraits ofError;
+    ofError.color = terminal.errorColor;
+    err << Toned("calvix:", Tone::poor, ofError) << ' ' << report.message << FullStop(report.message) << '\n';
     if (!report.method.empty() && report.code)
         err << "  Result: " << report.method << " gave " << *report.code << ".\n";
     if (!report.advice.empty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "failure.h"
+#include "terminal.h"
 #include "watched_wlan.h"
 
 #include <optional>
@@ -22,6 +23,6 @@ Failure SystemFailure(const char* method, std::optional<int> code, std::string m
 Failure OperationFailure(std::string message, std::string advice);
 
 /// The failure for people.
-void PrintFailure(std::ostream& err, const FailureReport& report);
+void PrintFailure(std::ostream& err, const FailureReport& report, const TerminalTraits& terminal = {});
 
 } // namespace calvix::host

@@ -1,9 +1,11 @@
 #include "host.h"
 
+#include "core/fixed_text.h"
 #include "core/trace.h"
 #include "failure_words.h"
 #include "files.h"
 #include "platform/platform.h"
+#include "recorded_session.h"
 #include "service_view.h"
 #include "simulation/computer.h"
 #include "text_forms.h"
@@ -126,12 +128,17 @@ std::optional<std::size_t> PlaceOf(const std::string& text, std::size_t count)
 /// Everything that a command on networks needs, in the order in which it comes up.
 struct Host::World
 {
-    World(const CommonOptions& options, std::ostream& err)
-        : computer(MakeComputer(options.scenario)),
-          watched(computer ? static_cast<platform::Platform&>(*computer) : platform::CurrentPlatform(),
-                  options.trace ? &err : nullptr),
-          inPlace(watched), libraryInUse(options.trace)
+    World(const CommonOptions& options, RecordedSession& session, std::ostream& err)
+        : computer(session.isReplay() ? nullptr : MakeComputer(options.scenario)),
+          watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched), libraryInUse(options.trace)
     {
+    }
+
+    platform::Platform& Answering(RecordedSession& session) const
+    {
+        if (session.isReplay())
+            return session.replayed();
+        return session.Recorded(computer ? *computer : platform::CurrentPlatform(), computer != nullptr);
     }
 
     std::unique_ptr<simulation::Computer> computer;
@@ -144,7 +151,7 @@ struct Host::World
 Host::Host(CommonOptions options, std::istream& in, std::ostream& out, std::ostream& err, TerminalTraits terminal)
     : m_options(std::move(options)), m_in(in), m_out(out), m_err(err), m_terminal(terminal)
 {
-    m_terminal.color = m_terminal.color && !m_options.noColor;
+    m_terminal = InColor(m_terminal, m_options.noColor ? "never" : m_options.color);
 }
 
 Host::~Host() = default;
@@ -153,7 +160,8 @@ Host::World& Host::world()
 {
     if (m_world == nullptr)
     {
-        m_world = std::make_unique<World>(m_options, m_err);
+        m_session = std::make_unique<RecordedSession>(m_options);
+        m_world = std::make_unique<World>(m_options, *m_session, m_err);
         if (!m_options.save.empty() && m_world->computer == nullptr)
             throw BadInput("--save needs a simulated computer", "name one with --scenario FILE");
     }
@@ -200,12 +208,24 @@ const WLAN_INTERFACE_INFO& Host::adapter()
     return *m_adapter;
 }
 
+/// A second adapter that nobody thought of explains many a riddle.
+void Host::TellFirstOf(const std::vector<WLAN_INTERFACE_INFO>& list)
+{
+    m_err << "calvix: this is the first of " << list.size() << " adapters, \""
+          << Narrow(FixedText(list.front().strInterfaceDescription))
+          << "\"; --interface 2 is for the second (calvix adapters lists them).\n";
+}
+
 WLAN_INTERFACE_INFO Host::FindAdapter()
 {
     const std::vector<WLAN_INTERFACE_INFO> list = adapters();
     const std::string& wanted = m_options.adapter;
     if (wanted.empty())
+    {
+        if (list.size() > 1)
+            TellFirstOf(list);
         return list.front();
+    }
     if (const auto place = PlaceOf(wanted, list.size()))
         return list[*place];
     GUID guid{};
@@ -222,7 +242,18 @@ WLAN_INTERFACE_INFO Host::FindAdapter()
 
 bool Host::isSimulated()
 {
-    return world().computer != nullptr;
+    return world().computer != nullptr || m_session->isOfSimulated();
+}
+
+bool Host::countsTime()
+{
+    return isSimulated() || m_session->isRecording() || m_session->isReplay();
+}
+
+bool Host::isReplay()
+{
+    world();
+    return m_session->isReplay();
 }
 
 void Host::Wait(unsigned milliseconds)
@@ -273,6 +304,32 @@ Failure Host::MethodFailure(const char* method, long code)
 {
     const Refusal& refusal = watched().LastRefusal();
     return MethodFailureInWords(method, code, refusal.operation.empty() ? systemRefusals().Last() : refusal);
+}
+
+void Host::RequireSession()
+{
+    if (m_session != nullptr)
+        return;
+    if (!m_options.record.empty())
+        throw BadInput("--record has nothing to write: this command asks no computer", "leave it out");
+    if (!m_options.replay.empty())
+        throw BadInput("--replay has nothing to answer: this command asks no computer", "leave it out");
+}
+
+std::optional<FailureReport> Host::EndReplay()
+{
+    if (m_session == nullptr || !m_session->isReplay())
+        return std::nullopt;
+    m_world.reset();
+    return m_session->EndReplay();
+}
+
+void Host::EndRecording()
+{
+    if (m_session == nullptr || !m_session->isRecording())
+        return;
+    m_world.reset();
+    m_session->EndRecording();
 }
 
 void Host::Save()

@@ -8,6 +8,7 @@
 #include <functional>
 #include <istream>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ namespace calvix::host
 {
 
 struct ConnectRequest;
+class RecordedSession;
 class ServiceView;
 class SystemRefusals;
 class WatchedWlan;
@@ -25,10 +27,14 @@ struct CommonOptions
 {
     bool json = false;
     bool trace = false;
-    bool noColor = false;
+    std::string color = "auto"; ///< "always", "never", or as the terminal is
+    bool noColor = false;       ///< the same as "never"
     std::string adapter; ///< GUID, number or description; empty: the first adapter
     std::string scenario;
     std::string save;
+    std::string record;
+    bool anonymise = false;
+    std::string replay;
 };
 
 /// What a command runs in: the options, the output, and on demand the library with a platform behind it, which is a
@@ -68,8 +74,12 @@ public:
     /// Has `action` called again and again while time passes, in the library's own waits too, with the milliseconds
     /// since the last time. An empty one ends it.
     void WhileWaiting(std::function<void(unsigned)> action);
-    /// Whether the computer is a simulated one that this program has put up.
+    /// Whether the computer is a simulated one that this program has put up, or was when it was recorded.
     bool isSimulated();
+    /// Whether time is what waits add up to, and no clock on the wall: on a simulated computer, and in recordings, which
+    /// are to be the same each time.
+    bool countsTime();
+    bool isReplay();
 
     /// Carries out `action` and returns what the library traced meanwhile.
     std::string CaptureTrace(const std::function<void()>& action);
@@ -87,17 +97,27 @@ public:
     /// Writes the simulated computer as it stands to the file that was asked for, if one was.
     void Save();
 
+    /// Fails where a recording was named and the command had no use for it.
+    void RequireSession();
+    /// At the command's end: lets go of the library and the platform where they were replayed, and tells what came
+    /// between the replay and its end. What a command fails with after that is no news.
+    std::optional<FailureReport> EndReplay();
+    /// The same for a recording, after everything else; what cannot be written is a Failure.
+    void EndRecording();
+
 private:
     struct World;
 
     World& world();
     WLAN_INTERFACE_INFO FindAdapter();
+    void TellFirstOf(const std::vector<WLAN_INTERFACE_INFO>& list);
 
     CommonOptions m_options;
     std::istream& m_in;
     std::ostream& m_out;
     std::ostream& m_err;
     TerminalTraits m_terminal;
+    std::unique_ptr<RecordedSession> m_session; ///< outlives the world, whose last calls are part of it
     std::unique_ptr<World> m_world;
     std::unique_ptr<WLAN_INTERFACE_INFO> m_adapter;
 };

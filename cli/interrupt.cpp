@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <utility>
 
 namespace calvix::host
 {
@@ -12,6 +13,8 @@ namespace
 // The handler runs on a thread of its own on Windows.
 std::atomic<bool> g_interrupted{false};
 static_assert(std::atomic<bool>::is_always_lock_free);
+
+std::function<void()> g_whenSeen;
 
 extern "C" void NoteInterrupt(int signal)
 {
@@ -35,7 +38,21 @@ InterruptWatch::~InterruptWatch()
 
 bool Interrupted()
 {
-    return g_interrupted;
+    if (!g_interrupted)
+        return false;
+    if (const auto whenSeen = std::exchange(g_whenSeen, nullptr))
+        whenSeen();
+    return true;
+}
+
+void RaiseInterrupt()
+{
+    g_interrupted = true;
+}
+
+void WhenInterruptIsSeen(std::function<void()> action)
+{
+    g_whenSeen = std::move(action);
 }
 
 } // namespace calvix::host

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace calvix::host
 {
 
@@ -19,5 +21,11 @@ private:
 
 /// Whether Ctrl-C was pressed during the present watch, or the last one.
 bool Interrupted();
+
+/// What Ctrl-C does, without it.
+void RaiseInterrupt();
+
+/// Has `action` called once, when Interrupted() first tells of it. An empty one ends it.
+void WhenInterruptIsSeen(std::function<void()> action);
 
 } // namespace calvix::host

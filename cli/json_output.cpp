@@ -1,5 +1,7 @@
 #include "json_output.h"
 
+#include "json_forms.h"
+
 #include <nlohmann/json.hpp>
 
 #include <sstream>
@@ -207,6 +209,36 @@ Json ToJson(const MethodResults& results)
 
 } // namespace
 
+nlohmann::ordered_json JsonOf(const AdapterFacts& adapter)
+{
+    return ToJson(adapter);
+}
+
+nlohmann::ordered_json JsonOf(const AccessPointFacts& accessPoint)
+{
+    return ToJson(accessPoint);
+}
+
+nlohmann::ordered_json JsonOf(const ProfileFacts& profile)
+{
+    return ToJson(profile);
+}
+
+nlohmann::ordered_json JsonOf(const StatusFacts& status)
+{
+    return ToJson(status);
+}
+
+nlohmann::ordered_json JsonOf(const CandidateFacts& candidate)
+{
+    return ToJson(candidate);
+}
+
+nlohmann::ordered_json JsonOf(const SignalFacts& signal)
+{
+    return ToJson(signal);
+}
+
 void PrintJson(std::ostream& out, const std::vector<AdapterFacts>& adapters)
 {
     Print(out, {{"adapters", ToJson(adapters)}});
@@ -377,6 +409,11 @@ void PrintExplanationJson(std::ostream& out,
                 {"failure", explanation.failure},
                 {"meaning", explanation.meaning},
                 {"advice", TextOrNull(explanation.advice)}});
+}
+
+void PrintTextJson(std::ostream& out, const char* name, const std::string& text)
+{
+    Print(out, {{name, text}});
 }
 
 void PrintJson(std::ostream& out, const FailureReport& failure)

@@ -60,6 +60,9 @@ void PrintExplanationJson(std::ostream& out,
                           long long code,
                           const Explanation& explanation);
 
+/// A text of the program's own under a name.
+void PrintTextJson(std::ostream& out, const char* name, const std::string& text);
+
 /// {"error": {...}}, in the place of a result; with "candidates" where some were asked for in vain.
 void PrintJson(std::ostream& out, const FailureReport& failure);
 

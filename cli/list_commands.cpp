@@ -52,10 +52,16 @@ void AddListCommands(CommandSet& commands)
 {
     commands.AddFamily("list", "The library's own diagnostic listings: networks, bss");
     commands.Add("list networks", "List what every adapter sees, networks with their flags",
-                 [](Host& host) { List(host, "GetAvailableNetwork", &CWirelessManage::GetAvailableNetwork); });
+                 [](Host& host) { List(host, "GetAvailableNetwork", &CWirelessManage::GetAvailableNetwork); })
+        .Examples("Networks as the library lists them:\n"
+                  "  calvix list networks");
     commands.Add("list bss", "List what every adapter sees, access points with their radio",
-                 [](Host& host) { List(host, "GetNetworkBss", &CWirelessManage::GetNetworkBss); });
-    commands.Add("softap", "List the software access points in view: networks whose SSID holds LC#", ListSoftAps);
+                 [](Host& host) { List(host, "GetNetworkBss", &CWirelessManage::GetNetworkBss); })
+        .Examples("Access points as the library lists them:\n"
+                  "  calvix list bss");
+    commands.Add("softap", "List the software access points in view: networks whose SSID holds LC#", ListSoftAps)
+        .Examples("Is one near?\n"
+                  "  calvix softap");
 }
 
 } // namespace calvix::host

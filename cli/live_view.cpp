@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace calvix::host
 {
@@ -23,13 +24,17 @@ std::string MomentText(unsigned long long milliseconds)
     return text;
 }
 
-/// A bar for each quality, as high as it is good.
-std::string HistoryText(const std::deque<unsigned long>& history)
+/// A bar for each quality, as high as it is good, and a line before the first one of another access point.
+std::string HistoryText(const std::deque<SignalMoment>& history, const TerminalTraits& terminal)
 {
     static constexpr const char* heights[] = {"▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
     std::string text;
-    for (const unsigned long quality : history)
-        text += heights[(std::min)(quality * 8 / 101, 7UL)];
+    for (const SignalMoment& moment : history)
+    {
+        if (moment.moved)
+            text += Toned("┃", Tone::strong, terminal);
+        text += heights[(std::min)(moment.quality * 8 / 101, 7UL)];
+    }
     return text;
 }
 
@@ -111,6 +116,7 @@ void LiveView::NoticeMove(const SignalFacts& signal)
     if (!before.connected || before.ssid.hex != signal.ssid.hex || before.bssid == signal.bssid)
         return;
     ++m_moves;
+    m_movedNow = true;
     if (m_host.json())
         return PrintMoveJson(m_host.out(), m_now, before.bssid, signal.bssid);
     Line("moved from " + before.bssid + " to " + signal.bssid);
@@ -128,14 +134,15 @@ bool LiveView::IsWorthALine(const SignalFacts& signal) const
 
 void LiveView::DrawSignalLine(const SignalFacts& signal)
 {
-    m_history.push_back(signal.connected ? signal.quality : 0);
+    m_history.push_back({signal.connected ? signal.quality : 0, std::exchange(m_movedNow, false)});
     if (m_history.size() > kHistory)
         m_history.pop_front();
     ClearSignalLine();
-    const std::string history = "  " + HistoryText(m_history);
-    m_host.out() << MomentText(m_now) << SignalText(signal, m_host.terminal()) << history << std::flush;
+    m_host.out() << MomentText(m_now) << SignalText(signal, m_host.terminal()) << "  "
+                 << HistoryText(m_history, m_host.terminal()) << std::flush;
     // Colours take no columns.
-    m_lineWidth = DisplayWidth(MomentText(m_now) + SignalText(signal, {.isTerminal = true}) + history);
+    const TerminalTraits plain{.isTerminal = true};
+    m_lineWidth = DisplayWidth(MomentText(m_now) + SignalText(signal, plain) + "  " + HistoryText(m_history, plain));
 }
 
 void LiveView::Line(const std::string& text)

@@ -9,6 +9,13 @@
 namespace calvix::host
 {
 
+/// A moment of the signal line.
+struct SignalMoment
+{
+    unsigned long quality = 0;
+    bool moved = false; ///< the link had moved to another access point
+};
+
 /// Shows what happens while it happens: on a terminal events above a signal line that draws itself, elsewhere plain
 /// lines, with JSON one object a line.
 class LiveView
@@ -45,7 +52,8 @@ private:
     int m_lastRoamCode = 1; ///< no code of roaming
     SignalFacts m_lastLink; ///< the last that was connected
     SignalFacts m_lastShown;
-    std::deque<unsigned long> m_history; ///< qualities
+    std::deque<SignalMoment> m_history;
+    bool m_movedNow = false; ///< since the signal line was drawn
     std::size_t m_lineWidth = 0;
     unsigned m_moves = 0;
 };

@@ -30,9 +30,10 @@ constexpr unsigned kSimulatedSeconds = 60;
 class WatchedTime
 {
 public:
-    WatchedTime(Host& host, unsigned speed) : m_host(host), m_simulated(host.isSimulated()), m_speed(speed)
+    WatchedTime(Host& host, unsigned speed)
+        : m_host(host), m_simulated(host.isSimulated()), m_counted(host.countsTime()), m_speed(speed)
     {
-        if (m_speed == 0 && host.terminal().isTerminal)
+        if (m_speed == 0 && host.terminal().isTerminal && !host.isReplay())
             m_speed = 1;
     }
 
@@ -47,7 +48,7 @@ public:
 
     unsigned long long Now() const
     {
-        if (m_simulated)
+        if (m_counted)
             return m_stepped;
         const auto passed = std::chrono::duration_cast<milliseconds>(steady_clock::now() - m_begin);
         return static_cast<unsigned long long>(passed.count());
@@ -56,6 +57,7 @@ public:
 private:
     Host& m_host;
     bool m_simulated;
+    bool m_counted;
     unsigned m_speed;
     unsigned long long m_stepped = 0;
     steady_clock::time_point m_begin = steady_clock::now();
@@ -94,27 +96,6 @@ NoticeFacts DescribeNotice(Host& host, const Notice& notice)
     return facts;
 }
 
-SignalFacts ReadSignal(Host& host)
-{
-    const GUID* const adapter = host.adapterGuid();
-    SignalFacts facts;
-    const auto state = static_cast<unsigned long>(host.Check("GetWlanStatus", host.manager().GetWlanStatus(adapter)));
-    facts.state = host.manager().GetWlanInterfaceState(state);
-    const auto connection = host.service().Connection(adapter);
-    if (!connection || !StandsConnected(connection->isState))
-        return facts;
-    const WLAN_ASSOCIATION_ATTRIBUTES& association = connection->wlanAssociationAttributes;
-    facts.connected = true;
-    facts.profile = Narrow(FixedText(connection->strProfileName));
-    facts.ssid = DescribeSsid(association.dot11Ssid);
-    facts.bssid = MacText(association.dot11Bssid);
-    facts.quality = association.wlanSignalQuality;
-    int rssi = 0;
-    if (host.manager().GetRssi(adapter, rssi) == 0)
-        facts.rssi = rssi;
-    return facts;
-}
-
 void ShowNotices(Host& host, Notifications& notifications, LiveView& view)
 {
     for (const Notice& notice : notifications.Take())
@@ -138,6 +119,27 @@ std::string Summary(const LiveView& view, unsigned long long now)
 }
 
 } // namespace
+
+SignalFacts ReadSignal(Host& host)
+{
+    const GUID* const adapter = host.adapterGuid();
+    SignalFacts facts;
+    const auto state = static_cast<unsigned long>(host.Check("GetWlanStatus", host.manager().GetWlanStatus(adapter)));
+    facts.state = host.manager().GetWlanInterfaceState(state);
+    const auto connection = host.service().Connection(adapter);
+    if (!connection || !StandsConnected(connection->isState))
+        return facts;
+    const WLAN_ASSOCIATION_ATTRIBUTES& association = connection->wlanAssociationAttributes;
+    facts.connected = true;
+    facts.profile = Narrow(FixedText(connection->strProfileName));
+    facts.ssid = DescribeSsid(association.dot11Ssid);
+    facts.bssid = MacText(association.dot11Bssid);
+    facts.quality = association.wlanSignalQuality;
+    int rssi = 0;
+    if (host.manager().GetRssi(adapter, rssi) == 0)
+        facts.rssi = rssi;
+    return facts;
+}
 
 void WatchLive(Host& host, const LiveOptions& options)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facts.h"
 #include "host.h"
 
 namespace calvix::host
@@ -12,6 +13,9 @@ struct LiveOptions
     unsigned roamEvery = 0; ///< seconds between two calls of Roaming, 0: none
     bool dryRun = false;    ///< decide only, do not roam
 };
+
+/// The link now.
+SignalFacts ReadSignal(Host& host);
 
 /// Shows notifications and the signal until the time is over or Ctrl-C is pressed.
 void WatchLive(Host& host, const LiveOptions& options);

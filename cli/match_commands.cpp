@@ -82,7 +82,10 @@ void AddMatchCommands(CommandSet& commands)
         .Add("match", "Show which access points belong to stored profiles",
              [options](Host& host) { Match(host, *options); })
         .Flag("--auto-only", options->autoOnly, "Only profiles that connect automatically")
-        .Text("--profile", options->profile, "Profiles that connect automatically, and this one");
+        .Text("--profile", options->profile, "Profiles that connect automatically, and this one")
+        .Takes(ValueKind::profile)
+        .Examples("Access points that the computer may join by itself:\n"
+                  "  calvix match --auto-only");
 }
 
 } // namespace calvix::host

@@ -18,6 +18,15 @@ struct PlatformError
     const char* advice;
 };
 
+constexpr const char* kAllowLocation =
+    "allow location access for desktop apps (Settings, Privacy & security, Location): switch on \"Location services\", "
+    "\"Let apps access your location\" and \"Let desktop apps access your location\". Windows 11 24H2 and later ask for "
+    "it; start ms-settings:privacy-location opens the page";
+
+constexpr const char* kOfAnotherUser =
+    "the profile may belong to another user: run in that user's session, or store it for all users (netsh wlan export "
+    "profile there, calvix profiles add here)";
+
 constexpr PlatformError kErrors[] = {
     {2, "file not found", "check the name"},
     {5, "access denied",
@@ -30,7 +39,8 @@ constexpr PlatformError kErrors[] = {
     {50, "not supported", "the adapter or its driver cannot do this"},
     {87, "invalid parameter", "check the adapter's GUID: the adapter may have been removed; check the profile's name"},
     {122, "buffer too small", "pass a larger buffer, or a shorter name"},
-    {126, "module not found", "wlanapi.dll is missing: on a server install the wireless feature"},
+    {126, "module not found", "wlanapi.dll is missing. On Windows Server install the feature \"Wireless LAN Service\" (as administrator: "
+     "Install-WindowsFeature Wireless-Networking) and restart"},
     {127, "procedure not found", "this version of the system lacks the operation"},
     {170, "busy", "wait a moment and try again"},
     {183, "already exists", "delete the old one first, or replace it"},
@@ -38,14 +48,17 @@ constexpr PlatformError kErrors[] = {
     {1004, "invalid flags", "choose another method: this one converts SSIDs in a way that the system refuses"},
     {1053, "the service did not answer in time", "restart the service \"WLAN AutoConfig\""},
     {1058, "the service is disabled", "enable the service \"WLAN AutoConfig\" and start it"},
-    {1060, "no such service", "on a server install the wireless feature"},
-    {1062, "the WLAN service is not running", "start the service \"WLAN AutoConfig\" (sc start WlanSvc)"},
+    {1060, "no such service",
+     "on Windows Server install the feature \"Wireless LAN Service\" (as administrator: Install-WindowsFeature "
+     "Wireless-Networking) and restart"},
+    {1062, "the WLAN service is not running", "start the service \"WLAN AutoConfig\" (as administrator: sc start WlanSvc)"},
     {1113, "a character has no counterpart in the code page",
      "the name has characters outside the active code page: use the operation that takes wide text"},
     {1168, "not found", "check the name, upper and lower case included, and that the adapter is still there"},
     {1169, "no match", "the profile asks for what the adapter cannot do: check its authentication and encryption"},
     {1206, "bad profile", "the document is not a valid WLAN profile: compare it with an exported one"},
-    {1220, "too many open handles", "close other programs that use the WLAN service"},
+    {1220, "too many open handles",
+     "a program opens client handles of the WLAN service and never closes them: end it, or restart the service"},
     {1223, "cancelled", "try again"},
     {1314, "a required privilege is not held", "run as administrator"},
     {1460, "time-out", "try again; see that the adapter answers"},
@@ -122,12 +135,14 @@ std::string AdviseOnPlatformError(std::uint32_t error, const std::string& operat
     constexpr std::uint32_t accessDenied = 5;
     if (error == accessDenied && ChangesTheStore(operation))
         return "run as administrator, or ask for the right to change this profile";
+    if (error == accessDenied && (operation == "WlanGetProfile" || operation == "WlanConnect"))
+        return kOfAnotherUser;
     if (error == accessDenied && operation == "WlanIhvControl")
         return "run as administrator, or let ordinary users talk to drivers: calvix ihv --grant";
     if (error == accessDenied && SetsWhatIsGuarded(operation))
         return "run as administrator";
     if (error == accessDenied && !operation.empty())
-        return "allow location access for desktop apps (Settings, Privacy & security, Location)";
+        return kAllowLocation;
     const PlatformError* const known = Find(error);
     return known != nullptr ? known->advice : "";
 }

@@ -212,29 +212,41 @@ void AddPowerCommands(CommandSet& commands)
     constexpr const char* yesHelp = "Do not ask";
     const auto options = std::make_shared<PowerOptions>();
     commands.AddFamily("power", "Power and sleep: status, keep-awake, restore, saver, sleep, privilege");
-    commands.Add("power status", "Show what the computer can do, when it slept, and its power policies", ShowPower);
+    commands.Add("power status", "Show what the computer can do, when it slept, and its power policies", ShowPower)
+        .Examples("What it can do, for a program:\n"
+                  "  calvix power status --json");
     commands
         .Add("power keep-awake", "Keep the idle computer from sleeping until Ctrl-C, and put the policy back then",
              [options](Host& host) { KeepAwake(host, *options); })
         .Number("--for", options->seconds, "Seconds to stay awake; 0: until Ctrl-C, a minute on a simulated computer")
         .Flag("--leave", options->leave, "Return at once and leave it so: the old policy is forgotten")
-        .Flag("--yes", options->yes, yesHelp);
+        .Flag("--yes", options->yes, yesHelp)
+        .Examples("For ten minutes, without a question:\n"
+                  "  calvix power keep-awake --for 600 --yes");
     commands
         .Add("power restore", "Write the remembered policy, here one of zeros, to the active power scheme",
              [options](Host& host) { Restore(host, *options); })
-        .Flag("--yes", options->yes, yesHelp);
+        .Flag("--yes", options->yes, yesHelp)
+        .Examples("After keep-awake --leave:\n"
+                  "  calvix power restore");
     commands
         .Add("power saver", "Make and activate a copy of the power scheme that sleeps after a second",
              [options](Host& host) { SavePower(host, *options); })
         .Flag("--may-not-return", options->mayNotReturn,
               "Also where the power schemes can be listed: there the library's method does not return")
-        .Flag("--yes", options->yes, yesHelp);
+        .Flag("--yes", options->yes, yesHelp)
+        .Examples("On battery:\n"
+                  "  calvix power saver");
     commands.Add("power sleep", "Put the computer to sleep", [options](Host& host) { PutToSleep(host, *options); })
-        .Flag("--yes", options->yes, yesHelp);
+        .Flag("--yes", options->yes, yesHelp)
+        .Examples("Without a question:\n"
+                  "  calvix power sleep --yes");
     commands
         .Add("power privilege", "Tell whether this account can enable a privilege",
              [options](Host& host) { EnablePrivilege(host, *options); })
-        .Text("NAME", options->privilege, "The privilege, such as SeShutdownPrivilege");
+        .Text("NAME", options->privilege, "The privilege, such as SeShutdownPrivilege")
+        .Examples("May this account put the computer to sleep?\n"
+                  "  calvix power privilege SeShutdownPrivilege");
 }
 
 } // namespace calvix::host

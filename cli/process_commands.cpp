@@ -149,9 +149,14 @@ void AddProcessCommands(CommandSet& commands)
              [options](Host& host) { RunOrEnd(host, *options); })
         .Texts("[COMMANDLINE]", options->words,
                "The command line: one word as it is, several joined; put -- before one that has options")
+        .Takes(ValueKind::file)
         .Text("--exe", options->program, "Start the program of this name in the folder of calvix")
-        .Texts("--kill", options->processes, "End the process of this number at once (may be given several times)");
-    commands.Add("online", "Tell whether the internet can be reached", ShowOnline);
+        .Texts("--kill", options->processes, "End the process of this number at once (may be given several times)")
+        .Examples("A program with options of its own:\n"
+                  "  calvix run -- ping -n 1 localhost");
+    commands.Add("online", "Tell whether the internet can be reached", ShowOnline)
+        .Examples("Its exit code is 1 where it cannot:\n"
+                  "  calvix online");
 }
 
 } // namespace calvix::host

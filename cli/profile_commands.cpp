@@ -5,6 +5,7 @@
 #include "files.h"
 #include "host.h"
 #include "json_output.h"
+#include "profiles.h"
 #include "service_view.h"
 #include "table.h"
 #include "text_forms.h"
@@ -28,24 +29,6 @@ const char* ModeText(int automatic)
     if (automatic < 0)
         return "unknown";
     return automatic == 1 ? "auto" : "manual";
-}
-
-std::vector<ProfileFacts> ReadProfiles(Host& host)
-{
-    const GUID* const adapter = host.adapterGuid();
-    host.Check("GetProfileCount", host.manager().GetProfileCount(adapter));
-    std::vector<ProfileFacts> profiles;
-    for (const WLAN_PROFILE_INFO& info : host.service().Profiles(adapter))
-    {
-        ProfileFacts facts;
-        facts.position = static_cast<unsigned>(profiles.size() + 1);
-        facts.name = Narrow(FixedText(info.strProfileName));
-        facts.mode = ModeText(host.manager().IsAutoConnMode2(adapter, info.strProfileName));
-        facts.groupPolicy = (info.dwFlags & WLAN_PROFILE_GROUP_POLICY) != 0;
-        facts.perUser = (info.dwFlags & WLAN_PROFILE_USER) != 0;
-        profiles.push_back(facts);
-    }
-    return profiles;
 }
 
 void ListProfiles(Host& host)
@@ -151,26 +134,58 @@ void MoveProfile(Host& host, const ProfileOptions& options)
 
 } // namespace
 
+std::vector<ProfileFacts> ReadProfiles(Host& host)
+{
+    const GUID* const adapter = host.adapterGuid();
+    host.Check("GetProfileCount", host.manager().GetProfileCount(adapter));
+    std::vector<ProfileFacts> profiles;
+    for (const WLAN_PROFILE_INFO& info : host.service().Profiles(adapter))
+    {
+        ProfileFacts facts;
+        facts.position = static_cast<unsigned>(profiles.size() + 1);
+        facts.name = Narrow(FixedText(info.strProfileName));
+        facts.mode = ModeText(host.manager().IsAutoConnMode2(adapter, info.strProfileName));
+        facts.groupPolicy = (info.dwFlags & WLAN_PROFILE_GROUP_POLICY) != 0;
+        facts.perUser = (info.dwFlags & WLAN_PROFILE_USER) != 0;
+        profiles.push_back(facts);
+    }
+    return profiles;
+}
+
 void AddProfileCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<ProfileOptions>();
     commands.AddFamily("profiles", "Stored profiles: list, show, add, delete, move");
-    commands.Add("profiles list", "List the stored profiles, the preferred one first", ListProfiles);
+    commands.Add("profiles list", "List the stored profiles, the preferred one first", ListProfiles)
+        .Examples("In the order in which the service tries them:\n"
+                  "  calvix profiles list");
     commands.Add("profiles show", "Print a profile's document", [options](Host& host) { ShowProfile(host, *options); })
-        .Text("NAME", options->name, "The profile")
-        .Flag("--show-key", options->showKey, "Show the key too, where the service tells it");
+        .Text("PROFILE", options->name, "The profile")
+        .Takes(ValueKind::profile)
+        .Flag("--show-key", options->showKey, "Show the key too, where the service tells it")
+        .Examples("Keep a profile for another computer:\n"
+                  "  calvix profiles show Office --show-key > office.xml");
     commands
         .Add("profiles add", "Store a profile document, replacing the one of the same name",
              [options](Host& host) { AddProfile(host, *options); })
-        .Text("FILE", options->file, "A profile document, as the system exports it");
+        .Text("FILE", options->file, "A profile document, as the system exports it")
+        .Takes(ValueKind::file)
+        .Examples("Store what was kept:\n"
+                  "  calvix profiles add office.xml");
     commands.Add("profiles delete", "Delete a profile", [options](Host& host) { DeleteProfile(host, *options); })
-        .Text("NAME", options->name, "The profile");
+        .Text("PROFILE", options->name, "The profile")
+        .Takes(ValueKind::profile)
+        .Examples("Quotation marks around blanks:\n"
+                  "  calvix profiles delete \"Hotel Lobby\"");
     commands
         .Add("profiles move", "Move a profile in the order of preference",
              [options](Host& host) { MoveProfile(host, *options); })
-        .Text("NAME", options->name, "The profile")
+        .Text("PROFILE", options->name, "The profile")
+        .Takes(ValueKind::profile)
         .OneOf("--to", options->place, {"second", "last"}, "The place to move it to")
-        .Required();
+        .Required()
+        .Examples("Let it be tried after all others:\n"
+                  "  calvix profiles move Guest --to last");
 }
 
 } // namespace calvix::host

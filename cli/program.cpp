@@ -11,12 +11,48 @@ namespace calvix::host
 namespace
 {
 
-int Report(Host& host, const FailureReport& failure)
+int TellFailure(Host& host, const FailureReport& failure)
 {
     if (host.json())
         PrintJson(host.out(), failure);
-    PrintFailure(host.err(), failure);
+    PrintFailure(host.err(), failure, host.terminal());
     return static_cast<int>(failure.exitCode);
+}
+
+/// Carries the command out; why it failed, if it did.
+std::optional<FailureReport> CarryOut(Host& host, const RunCommand& run)
+{
+    try
+    {
+        run(host);
+        host.Save();
+        host.RequireSession();
+        return std::nullopt;
+    }
+    catch (const Failure& failure)
+    {
+        return failure.report();
+    }
+    catch (const std::exception& error)
+    {
+        return OperationFailure(error.what(), "report this with the command that led to it").report();
+    }
+}
+
+int EndRecording(Host& host, int exitCode)
+{
+    try
+    {
+        host.EndRecording();
+        return exitCode;
+    }
+    catch (const Failure& failure)
+    {
+        if (exitCode == static_cast<int>(ExitCode::success))
+            return TellFailure(host, failure.report());
+        PrintFailure(host.err(), failure.report(), host.terminal());
+        return exitCode;
+    }
 }
 
 /// What a failed command did before it failed is saved too.
@@ -28,7 +64,7 @@ void SaveAfterFailure(Host& host)
     }
     catch (const Failure& failure)
     {
-        PrintFailure(host.err(), failure.report());
+        PrintFailure(host.err(), failure.report(), host.terminal());
     }
 }
 
@@ -47,23 +83,16 @@ int Run(const std::vector<std::string>& arguments,
 
     const InterruptWatch interruptWatch;
     Host host(request->options, in, out, err, terminal);
-    try
-    {
-        request->run(host);
-        host.Save();
-        return static_cast<int>(ExitCode::success);
-    }
-    catch (const Failure& failure)
-    {
-        const int exitCode = Report(host, failure.report());
-        if (failure.report().exitCode != ExitCode::badInput)
-            SaveAfterFailure(host);
-        return exitCode;
-    }
-    catch (const std::exception& error)
-    {
-        return Report(host, OperationFailure(error.what(), "report this with the command that led to it").report());
-    }
+    std::optional<FailureReport> failure = CarryOut(host, request->run);
+    // A command that got no answers any more fails in some way or other, and that is not to the point.
+    if (const auto departure = host.EndReplay())
+        failure = departure;
+    if (!failure)
+        return EndRecording(host, static_cast<int>(ExitCode::success));
+    const int exitCode = TellFailure(host, *failure);
+    if (failure->exitCode != ExitCode::badInput)
+        SaveAfterFailure(host);
+    return EndRecording(host, exitCode);
 }
 
 } // namespace calvix::host

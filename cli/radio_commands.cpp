@@ -166,14 +166,24 @@ void AddRadioCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<RadioOptions>();
     commands.AddFamily("radio", "The adapter's radio: status, on, off, reset, restart");
-    commands.Add("radio status", "Show the radio and its switches", ShowRadioNow);
-    commands.Add("radio on", "Switch the software radio on", SwitchOn);
-    commands.Add("radio off", "Switch the software radio off", SwitchOff);
-    commands.Add("radio reset", "Switch the radio off and, half a second later, on", ResetRadio);
+    commands.Add("radio status", "Show the radio and its switches", ShowRadioNow)
+        .Examples("Which switch is off?\n"
+                  "  calvix radio status");
+    commands.Add("radio on", "Switch the software radio on", SwitchOn)
+        .Examples("Of the second adapter:\n"
+                  "  calvix radio on --interface 2");
+    commands.Add("radio off", "Switch the software radio off", SwitchOff)
+        .Examples("Of the first adapter:\n"
+                  "  calvix radio off");
+    commands.Add("radio reset", "Switch the radio off and, half a second later, on", ResetRadio)
+        .Examples("Without waiting for the connection:\n"
+                  "  calvix radio reset");
     commands
         .Add("radio restart", "Switch the radio off and on, waiting for both and for the connection to come back",
              [options](Host& host) { Restart(host, *options); })
-        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most");
+        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
+        .Examples("Have patience with the connection:\n"
+                  "  calvix radio restart --timeout 60");
 }
 
 } // namespace calvix::host

@@ -112,7 +112,11 @@ void AddRoamCommand(CommandSet& commands)
         .Number("--for", options->live.seconds, "Seconds to go on; 0: until Ctrl-C, a minute on a simulated computer")
         .Number("--speed", options->live.speed,
                 "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
-        .Number("--timeout", options->timeout, "Seconds to wait for the connection at most");
+        .Number("--timeout", options->timeout, "Seconds to wait for the connection at most")
+        .Examples("Would it move, and where to?\n"
+                  "  calvix roam --dry-run\n"
+                  "Look after the connection for an hour:\n"
+                  "  calvix roam --every 10 --for 3600");
 }
 
 } // namespace calvix::host

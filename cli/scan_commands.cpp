@@ -6,8 +6,11 @@
 #include "json_output.h"
 #include "notifications.h"
 #include "progress.h"
+#include "report/take_picture.h"
 #include "service_view.h"
+#include "spectrum_chart.h"
 #include "table.h"
+#include "text_forms.h"
 
 namespace calvix::host
 {
@@ -18,6 +21,8 @@ namespace
 struct ScanOptions
 {
     unsigned seconds = 10;
+    bool chart = false;
+    bool scanFirst = false;
 };
 
 /// What the service has told of the scan.
@@ -109,9 +114,17 @@ void PrintNetworks(Host& host, const std::vector<NetworkFacts>& networks)
     table.Print(host.out(), host.terminal());
 }
 
-void ListNetworks(Host& host)
+/// The lists hold what was heard up to now, and the service scans once a minute.
+void ScanIfAsked(Host& host, const ScanOptions& options)
+{
+    if (options.scanFirst)
+        ScanAndWait(host, options.seconds);
+}
+
+void ListNetworks(Host& host, const ScanOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
+    ScanIfAsked(host, options);
     host.Check("GetAvailableNetworkCount", host.manager().GetAvailableNetworkCount(adapter));
     std::vector<NetworkFacts> networks;
     for (const WLAN_AVAILABLE_NETWORK& network : host.service().Networks(adapter))
@@ -124,8 +137,23 @@ void ListNetworks(Host& host)
         PrintNetworks(host, networks);
 }
 
-void ListAccessPoints(Host& host)
+/// The access points in view as a picture.
+void DrawAccessPoints(Host& host)
 {
+    const auto connection = host.service().Connection(host.adapterGuid());
+    const auto accessPoints =
+        ArrangedAir(host, connection ? MacText(connection->wlanAssociationAttributes.dot11Bssid) : std::string());
+    if (accessPoints.empty())
+        host.out() << "No access point is in view. Scan with: calvix scan\n";
+    else
+        PrintSpectrum(host, accessPoints);
+}
+
+void ListAccessPoints(Host& host, const ScanOptions& options)
+{
+    ScanIfAsked(host, options);
+    if (options.chart && !host.json())
+        return DrawAccessPoints(host);
     const auto accessPoints = DescribeAccessPoints(host.service().AccessPoints(host.adapterGuid()));
     if (host.json())
         return PrintJson(host.out(), accessPoints);
@@ -135,15 +163,33 @@ void ListAccessPoints(Host& host)
         PrintAccessPoints(host, accessPoints);
 }
 
+Arguments& AddScanning(Arguments& arguments, const std::shared_ptr<ScanOptions>& options)
+{
+    return arguments.Flag("--scan", options->scanFirst, "Scan first, and wait until it is done")
+        .Number("--timeout", options->seconds, "Seconds to wait for the scan at most");
+}
+
 } // namespace
 
 void AddScanCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<ScanOptions>();
     commands.Add("scan", "Ask for a scan and wait until it is done", [options](Host& host) { Scan(host, *options); })
-        .Number("--timeout", options->seconds, "Seconds to wait at most");
-    commands.Add("networks", "List the visible networks, one line for each and each matching profile", ListNetworks);
-    commands.Add("bss", "List the access points in view", ListAccessPoints);
+        .Number("--timeout", options->seconds, "Seconds to wait at most")
+        .Examples("The driver takes its time:\n"
+                  "  calvix scan --timeout 30");
+    AddScanning(
+        commands.Add("networks", "List the visible networks, one line for each and each matching profile",
+                          [options](Host& host) { ListNetworks(host, *options); }),
+             options)
+        .Examples("As they are now, and not as they were at the service's last scan:\n"
+                  "  calvix networks --scan");
+    AddScanning(commands.Add("bss", "List the access points in view",
+                             [options](Host& host) { ListAccessPoints(host, *options); }),
+                options)
+        .Flag("--chart", options->chart, "Draw the spectrum, an arch for each access point")
+        .Examples("The spectrum as it is now:\n"
+                  "  calvix bss --scan --chart");
 }
 
 } // namespace calvix::host

@@ -18,6 +18,18 @@ void Require(const char* operation, DWORD error)
         throw ServiceFailure(operation, static_cast<std::uint32_t>(error));
 }
 
+/// The information elements lie behind the entries of the list, as far from its own entry as each tells.
+std::vector<std::uint8_t> ElementsOf(const WLAN_BSS_LIST& list, const WLAN_BSS_ENTRY& entry)
+{
+    const auto* const listBytes = reinterpret_cast<const std::uint8_t*>(&list);
+    const auto* const entryBytes = reinterpret_cast<const std::uint8_t*>(&entry);
+    const auto entryAt = static_cast<std::size_t>(entryBytes - listBytes);
+    const std::size_t begin = entryAt + entry.ulIeOffset;
+    if (begin > list.dwTotalSize || entry.ulIeSize > list.dwTotalSize - begin)
+        return {};
+    return {listBytes + begin, listBytes + begin + entry.ulIeSize};
+}
+
 template <typename List>
 auto CopyOf(const List& list)
 {
@@ -53,12 +65,27 @@ std::vector<WLAN_AVAILABLE_NETWORK> ServiceView::Networks(const GUID* adapter)
     return CopyOf(list);
 }
 
+void ServiceView::EveryAccessPoint(const GUID* adapter, BssList& list)
+{
+    Require("WlanGetNetworkBssList", wlan().WlanGetNetworkBssList(m_client, adapter, nullptr, dot11_BSS_type_any, FALSE,
+                                                                  nullptr, list.Receive()));
+}
+
 std::vector<WLAN_BSS_ENTRY> ServiceView::AccessPoints(const GUID* adapter)
 {
     BssList list;
-    Require("WlanGetNetworkBssList", wlan().WlanGetNetworkBssList(m_client, adapter, nullptr, dot11_BSS_type_any, FALSE,
-                                                                  nullptr, list.Receive()));
+    EveryAccessPoint(adapter, list);
     return CopyOf(list);
+}
+
+std::vector<HeardAccessPoint> ServiceView::AccessPointsWithElements(const GUID* adapter)
+{
+    BssList list;
+    EveryAccessPoint(adapter, list);
+    std::vector<HeardAccessPoint> heard;
+    for (const WLAN_BSS_ENTRY& entry : Items(*list))
+        heard.push_back({entry, ElementsOf(*list, entry)});
+    return heard;
 }
 
 void ServiceView::AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& list)

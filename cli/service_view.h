@@ -2,11 +2,19 @@
 
 #include "core/wlan_memory.h"
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
 namespace calvix::host
 {
+
+/// An access point, and the information elements of its beacons.
+struct HeardAccessPoint
+{
+    WLAN_BSS_ENTRY entry{};
+    std::vector<std::uint8_t> elements;
+};
 
 /// The WLAN service as this program looks at it, through a client handle of its own: the lists behind the library's
 /// counts and matches. A refused operation is a Failure in words; the connection's state is no failure.
@@ -22,6 +30,7 @@ public:
     /// One entry per visible network and matching profile, as the library's methods see them.
     std::vector<WLAN_AVAILABLE_NETWORK> Networks(const GUID* adapter);
     std::vector<WLAN_BSS_ENTRY> AccessPoints(const GUID* adapter);
+    std::vector<HeardAccessPoint> AccessPointsWithElements(const GUID* adapter);
     /// The entries of one network, left in the service's own record.
     void AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& list);
     /// None while there is no connection.
@@ -31,6 +40,8 @@ public:
     std::optional<bool> IsEnabled(const GUID* adapter, WLAN_INTF_OPCODE opcode);
 
 private:
+    void EveryAccessPoint(const GUID* adapter, BssList& list);
+
     HANDLE m_client = nullptr;
 };
 

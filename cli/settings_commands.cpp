@@ -7,7 +7,6 @@
 #include "text_forms.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace calvix::host
 {
@@ -67,23 +66,13 @@ void Settings(Host& host, const SettingsOptions& options)
                             {"Safe mode", YesOrNo(facts.safeMode, "supported", "not supported")}});
 }
 
-/// The bytes behind hexadecimal digits; blanks, colons and hyphens between bytes do not matter.
 std::vector<unsigned char> BytesOfHex(const std::string& text)
 {
-    std::string digits;
-    for (const char c : text)
-    {
-        if (c != ' ' && c != ':' && c != '-')
-            digits += c;
-    }
-    const auto isDigit = [](char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; };
-    if (digits.empty() || digits.size() % 2 != 0 || !std::all_of(digits.begin(), digits.end(), isDigit))
+    const auto bytes = BytesOfHexText(text);
+    if (!bytes)
         throw BadInput("\"" + text + "\" is no request: it takes pairs of hexadecimal digits",
                        "write it like 00A1F2 or \"00 A1 F2\"");
-    std::vector<unsigned char> bytes;
-    for (std::size_t i = 0; i < digits.size(); i += 2)
-        bytes.push_back(static_cast<unsigned char>(std::stoul(digits.substr(i, 2), nullptr, 16)));
-    return bytes;
+    return {bytes->begin(), bytes->end()};
 }
 
 std::string HexOf(const std::vector<unsigned char>& bytes, std::size_t count)
@@ -120,7 +109,9 @@ void AddSettingsCommands(CommandSet& commands)
         .Add("settings", "Show the adapter's settings, or switch some on",
              [settings](Host& host) { Settings(host, *settings); })
         .Flag("--enable-auto", settings->enableAuto, "Switch automatic connection on")
-        .Flag("--enable-background-scan", settings->enableBackgroundScan, "Switch scanning while connected on");
+        .Flag("--enable-background-scan", settings->enableBackgroundScan, "Switch scanning while connected on")
+        .Examples("Let the service connect by itself:\n"
+                  "  calvix settings --enable-auto");
 
     const auto ihv = std::make_shared<IhvOptions>();
     commands
@@ -128,7 +119,9 @@ void AddSettingsCommands(CommandSet& commands)
              [ihv](Host& host) { AskDriver(host, *ihv); })
         .Text("HEX", ihv->request, "The request's bytes in hexadecimal")
         .Number("--size", ihv->size, "Lengthen the request with zeros: the answer can be no longer than the request")
-        .Flag("--grant", ihv->grant, "First let ordinary users talk to drivers (takes an administrator)");
+        .Flag("--grant", ihv->grant, "First let ordinary users talk to drivers (takes an administrator)")
+        .Examples("A request of two bytes, an answer of up to eight:\n"
+                  "  calvix ihv 01FF --size 8");
 }
 
 } // namespace calvix::host

@@ -6,14 +6,31 @@
 namespace calvix::host
 {
 
-/// What standard output can show. By default it is a file or a pipe.
+/// What standard output and standard error can show. By default they are files or pipes.
 struct TerminalTraits
 {
-    bool isTerminal = false; ///< people are watching: signal bars, progress
+    bool isTerminal = false; ///< people are watching standard output: signal bars, progress
     bool color = false;
+    bool errorColor = false; ///< of standard error
 };
 
-/// Prepares the console (UTF-8, escape sequences) and says what standard output is.
+/// What is found out about the console.
+struct ConsoleFindings
+{
+    bool outIsTerminal = false;
+    bool errorIsTerminal = false;
+    bool sequences = true; ///< whether it understands escape sequences
+    std::string noColor;   ///< the environment variables NO_COLOR and TERM, empty where they are not set
+    std::string term;
+};
+
+/// What to do with it.
+TerminalTraits TraitsOf(const ConsoleFindings& findings);
+
+/// The same after --color: "always", "never" or "auto", which changes nothing.
+TerminalTraits InColor(TerminalTraits terminal, const std::string& when);
+
+/// Prepares the console (UTF-8, escape sequences) and says what it is.
 TerminalTraits DetectTerminal();
 
 /// The program's arguments as UTF-8, without the program's name.

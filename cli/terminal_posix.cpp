@@ -8,13 +8,25 @@
 namespace calvix::host
 {
 
+namespace
+{
+
+std::string VariableOrNothing(const char* name)
+{
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+} // namespace
+
 TerminalTraits DetectTerminal()
 {
-    const char* const noColor = std::getenv("NO_COLOR");
-    TerminalTraits traits;
-    traits.isTerminal = isatty(STDOUT_FILENO) == 1;
-    traits.color = traits.isTerminal && (noColor == nullptr || *noColor == '\0');
-    return traits;
+    ConsoleFindings findings;
+    findings.outIsTerminal = isatty(STDOUT_FILENO) == 1;
+    findings.errorIsTerminal = isatty(STDERR_FILENO) == 1;
+    findings.noColor = VariableOrNothing("NO_COLOR");
+    findings.term = VariableOrNothing("TERM");
+    return TraitsOf(findings);
 }
 
 std::vector<std::string> ProgramArguments(int argc, char** argv)

@@ -3,8 +3,6 @@
 #include "terminal.h"
 #include "text_forms.h"
 
-#include <cstdlib>
-
 #include <windows.h>
 
 #include <shellapi.h>
@@ -16,18 +14,41 @@
 namespace calvix::host
 {
 
+namespace
+{
+
+std::string VariableOrNothing(const wchar_t* name)
+{
+    wchar_t value[64] = {};
+    constexpr DWORD capacity = sizeof(value) / sizeof(value[0]);
+    const DWORD length = GetEnvironmentVariableW(name, value, capacity);
+    // One that does not fit is not looked at any closer than that it is there.
+    return length < capacity ? Narrow(std::wstring_view(value, length)) : "long";
+}
+
+/// Whether it is a console; escape sequences are then asked for, and `sequences` says whether it takes them. Old
+/// consoles refuse them and would show them.
+bool PrepareConsole(DWORD which, bool& sequences)
+{
+    const HANDLE handle = GetStdHandle(which);
+    DWORD mode = 0;
+    if (GetConsoleMode(handle, &mode) == 0)
+        return false;
+    sequences = SetConsoleMode(handle, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0 && sequences;
+    return true;
+}
+
+} // namespace
+
 TerminalTraits DetectTerminal()
 {
     SetConsoleOutputCP(CP_UTF8);
-    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
-    DWORD mode = 0;
-    TerminalTraits traits;
-    traits.isTerminal = GetConsoleMode(output, &mode) != 0;
-    // Old consoles refuse escape sequences and would show them.
-    const bool sequences = traits.isTerminal && SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
-    const bool unwanted = GetEnvironmentVariableW(L"NO_COLOR", nullptr, 0) > 1;
-    traits.color = sequences && !unwanted;
-    return traits;
+    ConsoleFindings findings;
+    findings.outIsTerminal = PrepareConsole(STD_OUTPUT_HANDLE, findings.sequences);
+    findings.errorIsTerminal = PrepareConsole(STD_ERROR_HANDLE, findings.sequences);
+    findings.noColor = VariableOrNothing(L"NO_COLOR");
+    findings.term = VariableOrNothing(L"TERM");
+    return TraitsOf(findings);
 }
 
 std::vector<std::string> ProgramArguments(int, char**)

@@ -204,6 +204,33 @@ std::string BytesOfVisibleText(std::string_view text)
     return bytes;
 }
 
+std::optional<std::string> BytesOfHexText(std::string_view text)
+{
+    std::string bytes;
+    std::optional<unsigned> high;
+    for (const char c : text)
+    {
+        if (c == ' ' || c == ':' || c == '-')
+            continue;
+        const auto digit = DigitValue(c);
+        if (!digit)
+            return std::nullopt;
+        const auto value = static_cast<unsigned>(*digit);
+        if (high)
+            bytes += static_cast<char>(*high * 16 + value);
+        high = high ? std::nullopt : std::optional<unsigned>(value);
+    }
+    return high || bytes.empty() ? std::nullopt : std::optional(bytes);
+}
+
+std::optional<std::string> BytesOfSsidArgument(std::string_view text)
+{
+    constexpr std::string_view prefix = "hex:";
+    if (text.starts_with(prefix))
+        return BytesOfHexText(text.substr(prefix.size()));
+    return BytesOfVisibleText(text);
+}
+
 std::string SsidBytes(const DOT11_SSID& ssid)
 {
     std::string bytes(SsidLength(ssid), '\0');

@@ -54,6 +54,14 @@ DWORD WatchedWlan::WlanSetProfile(HANDLE client,
     return error;
 }
 
+DWORD WatchedWlan::WlanSetProfilePosition(
+    HANDLE client, const GUID* interfaceGuid, const wchar_t* profileName, DWORD position, PVOID reserved)
+{
+    if (m_rehearsing)
+        return ERROR_SUCCESS;
+    return InterceptedWlanService::WlanSetProfilePosition(client, interfaceGuid, profileName, position, reserved);
+}
+
 DWORD WatchedWlan::WlanConnect(HANDLE client,
                                const GUID* interfaceGuid,
                                const WLAN_CONNECTION_PARAMETERS* parameters,

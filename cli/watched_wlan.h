@@ -57,7 +57,8 @@ public:
     /// Forgets what was refused and asked for so far.
     void StartWatching();
     /// While rehearsing, connection requests are noted and refused, and never reach the service: what is left to ask
-    /// for after a refusal comes to light without anything being joined.
+    /// for after a refusal comes to light without anything being joined. Profiles are not moved either, though the
+    /// library is told that they were.
     void Rehearse(bool rehearsing) { m_rehearsing = rehearsing; }
 
     DWORD WlanSetProfile(HANDLE client,
@@ -68,6 +69,8 @@ public:
                          BOOL overwrite,
                          PVOID reserved,
                          DWORD* reasonCode) override;
+    DWORD WlanSetProfilePosition(
+        HANDLE client, const GUID* interfaceGuid, const wchar_t* profileName, DWORD position, PVOID reserved) override;
     DWORD WlanConnect(HANDLE client,
                       const GUID* interfaceGuid,
                       const WLAN_CONNECTION_PARAMETERS* parameters,

@@ -1,0 +1,54 @@
+#include "report/page.h"
+
+#include "report/html_text.h"
+#include "report/page_parts.h"
+#include "report/page_texts.h"
+#include "report/report_json.h"
+#include "report/signal_picture.h"
+#include "report/spectrum_picture.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+std::string SubtitleText(const ReportFacts& report)
+{
+    std::string text = report.status ? report.status->adapter.description : std::string();
+    if (!report.heardAt.empty())
+        text += (text.empty() ? "" : " \xc2\xb7 ") + ("heard until " + report.heardAt);
+    return EscapeHtml(text);
+}
+
+std::string SignalSection(const ReportFacts& report)
+{
+    if (report.history.samples.size() < 2)
+        return {};
+    return "<section aria-labelledby=\"signal\"><h2 id=\"signal\">Signal over time</h2>\n" + SignalPicture(report) +
+           "</section>\n";
+}
+
+} // namespace
+
+std::string ReportPage(const ReportFacts& report)
+{
+    return FillTemplate(kPageTemplate, {{"title", EscapeHtml(report.title)},
+                                        {"subtitle", SubtitleText(report)},
+                                        {"style", kPageStyle},
+                                        {"style-hash", kPageStyleHash},
+                                        {"script", kPageScript},
+                                        {"script-hash", kPageScriptHash},
+                                        {"data", ReportJson(report, true)},
+                                        {"missing", MissingParts(report)},
+                                        {"keys", KeyFacts(report)},
+                                        {"spectrum", SpectrumPicture(report)},
+                                        {"signal", SignalSection(report)},
+                                        {"rows", AccessPointRows(report)},
+                                        {"adapters", AdapterItems(report)},
+                                        {"connection", ConnectionItems(report)},
+                                        {"profiles", ProfileItems(report)},
+                                        {"choices", ChoiceTable(report)}});
+}
+
+} // namespace calvix::host

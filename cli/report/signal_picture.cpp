@@ -1,0 +1,252 @@
+#include "report/signal_picture.h"
+
+#include "describe.h"
+#include "report/html_text.h"
+#include "report/picture_labels.h"
+#include "report/spectrum_picture.h"
+#include "spectrum.h"
+
+#include <algorithm>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+constexpr double kSignalWidth = 1280;
+constexpr double kSignalHeight = 300;
+constexpr double kSignalLeft = 44;
+constexpr double kSignalRight = kSignalWidth - 14;
+constexpr double kSignalTop = 30;
+constexpr double kSignalBottom = kSignalHeight - 40;
+
+/// Where moments and signals lie.
+struct TimeScale
+{
+    unsigned last;
+
+    double X(unsigned second) const
+    {
+        return kSignalLeft + (kSignalRight - kSignalLeft) * second / (std::max)(last, 1U);
+    }
+    static double Y(long dbm)
+    {
+        const long shown = std::clamp(dbm, kWeakestShown, kStrongestShown);
+        return kSignalTop + (kSignalBottom - kSignalTop) * static_cast<double>(kStrongestShown - shown) /
+                                static_cast<double>(kStrongestShown - kWeakestShown);
+    }
+    /// Seconds between two marks of the time axis.
+    unsigned Step() const
+    {
+        for (const unsigned step : {1U, 2U, 5U, 10U, 20U, 30U, 60U, 120U, 300U, 600U, 1800U})
+        {
+            if (last / step <= 14)
+                return step;
+        }
+        return 3600;
+    }
+};
+
+std::string At(double x, double y)
+{
+    return DecimalText(x) + "," + DecimalText(y);
+}
+
+std::string Stroke(const char* kind, double x1, double y1, double x2, double y2)
+{
+    return std::string("<path class=\"") + kind + "\" d=\"M" + At(x1, y1) + "L" + At(x2, y2) + "\"/>";
+}
+
+std::string Words(const char* kind, double x, double y, const std::string& text)
+{
+    return std::string("<text class=\"") + kind + "\" x=\"" + DecimalText(x) + "\" y=\"" + DecimalText(y) + "\">" +
+           EscapeHtml(text) + "</text>";
+}
+
+std::string TimeText(unsigned second)
+{
+    if (second < 60)
+        return std::to_string(second) + " s";
+    const std::string rest = std::to_string(second % 60);
+    return std::to_string(second / 60) + ":" + (rest.size() < 2 ? "0" : "") + rest;
+}
+
+std::string Axes(const TimeScale& scale)
+{
+    std::string svg;
+    for (long dbm = kWeakestShown; dbm <= kStrongestShown; dbm += 10)
+    {
+        svg += Stroke(dbm == kWeakestShown ? "axis" : "grid", kSignalLeft, TimeScale::Y(dbm), kSignalRight,
+                      TimeScale::Y(dbm));
+        if (dbm % 20 == 0)
+            svg += Words("dbm", kSignalLeft - 8, TimeScale::Y(dbm) + 4, std::to_string(dbm));
+    }
+    for (unsigned second = 0; second <= scale.last; second += scale.Step())
+    {
+        svg += Stroke("tick", scale.X(second), kSignalBottom, scale.X(second), kSignalBottom + 5);
+        svg += Words("channel", scale.X(second), kSignalBottom + 18, TimeText(second));
+    }
+    return svg + Words("unit", kSignalLeft - 8, kSignalTop - 10, "dBm") +
+           Words("axisname", (kSignalLeft + kSignalRight) / 2, kSignalHeight - 6, "Time");
+}
+
+const AirAccessPoint* AccessPointOf(const ReportFacts& report, const std::string& bssid)
+{
+    for (const AirAccessPoint& point : report.accessPoints)
+    {
+        if (point.facts.bssid == bssid)
+            return &point;
+    }
+    return nullptr;
+}
+
+/// The access points that the link has used, in order.
+std::vector<std::string> UsedAccessPoints(const HistoryFacts& history)
+{
+    std::vector<std::string> used;
+    for (const SignalSample& sample : history.samples)
+    {
+        if (sample.link.connected && std::find(used.begin(), used.end(), sample.link.bssid) == used.end())
+            used.push_back(sample.link.bssid);
+    }
+    return used;
+}
+
+/// A line through the moments at which there is a value, broken where there is none.
+class BrokenLine
+{
+public:
+    void Add(double x, double y)
+    {
+        m_path += (m_open ? "L" : "M") + At(x, y);
+        // A moment alone is a dot.
+        if (!m_open)
+            m_path += "h0.1";
+        m_open = true;
+    }
+    void Break() { m_open = false; }
+    std::string Draw(const std::string& kind) const
+    {
+        return m_path.empty() ? "" : "<path class=\"" + kind + "\" d=\"" + m_path + "\"/>";
+    }
+
+private:
+    std::string m_path;
+    bool m_open = false;
+};
+
+/// How an access point that the link has used was heard all the time.
+std::string HeardLine(const HistoryFacts& history, const std::string& bssid, std::size_t place, const TimeScale& scale)
+{
+    BrokenLine line;
+    for (const SignalSample& sample : history.samples)
+    {
+        const auto heard = std::find_if(sample.air.begin(), sample.air.end(),
+                                        [&bssid](const auto& point) { return point.first == bssid; });
+        if (heard != sample.air.end())
+            line.Add(scale.X(sample.second), TimeScale::Y(heard->second));
+        else
+            line.Break();
+    }
+    return line.Draw("heard c" + std::to_string(place % 10));
+}
+
+/// The link itself, each access point in a colour of its own.
+std::string LinkLines(const HistoryFacts& history, const std::vector<std::string>& used, const TimeScale& scale)
+{
+    std::string svg;
+    for (std::size_t place = 0; place < used.size(); ++place)
+    {
+        BrokenLine line;
+        for (const SignalSample& sample : history.samples)
+        {
+            if (sample.link.connected && sample.link.bssid == used[place] && sample.link.rssi)
+                line.Add(scale.X(sample.second), TimeScale::Y(*sample.link.rssi));
+            else
+                line.Break();
+        }
+        svg += line.Draw("link c" + std::to_string(place % 10));
+    }
+    return svg;
+}
+
+std::string EventWords(const LinkEvent& event)
+{
+    if (event.from.empty())
+        return "connected to " + event.to;
+    if (event.to.empty())
+        return "connection to " + event.from + " lost";
+    return "moved from " + event.from + " to " + event.to;
+}
+
+std::string EventMarks(const HistoryFacts& history, const TimeScale& scale)
+{
+    LabelPlacing placing(kSignalLeft, kSignalWidth - 4, 2, kSignalBottom);
+    std::string svg;
+    for (const LinkEvent& event : history.events)
+    {
+        const double x = scale.X(event.second);
+        const bool lost = event.to.empty();
+        const char* const kind = lost ? "mark lost" : "mark";
+        svg += Stroke(kind, x, kSignalTop - 6, x, kSignalBottom);
+        const std::string text = std::string(lost                 ? "\xe2\x9c\x95 lost"
+                                             : event.from.empty() ? "\xe2\x97\x8f connected"
+                                                                  : "\xe2\x97\x86 roam") +
+                                 " " + TimeText(event.second);
+        const LabelPlace place = placing.Place(x, kSignalTop - 6, LabelWidth(text));
+        svg += Words(lost ? "marked lost" : "marked", place.x, place.y, text);
+    }
+    return svg;
+}
+
+std::string NameAndAddress(const ReportFacts& report, const std::string& bssid)
+{
+    std::string name = bssid;
+    if (const AirAccessPoint* const point = AccessPointOf(report, bssid))
+        name += ", channel " + std::to_string(point->facts.channel) + " (" + point->facts.band + ")";
+    return name;
+}
+
+std::string Legend(const ReportFacts& report, const std::vector<std::string>& used)
+{
+    std::string html = "<ul class=\"legend\">";
+    for (std::size_t place = 0; place < used.size(); ++place)
+        html += "<li class=\"c" + std::to_string(place % 10) + "\"><span class=\"swatch\"></span>" +
+                EscapeHtml(NameAndAddress(report, used[place])) + "</li>";
+    return html + "<li class=\"note\">dotted: as the last scan heard it; thick: the link</li></ul>\n";
+}
+
+std::string EventList(const HistoryFacts& history)
+{
+    if (history.events.empty())
+        return "<p>The link stayed as it was.</p>\n";
+    std::string html = "<ol class=\"events\">";
+    for (const LinkEvent& event : history.events)
+        html += "<li><b>" + TimeText(event.second) + "</b> " + EscapeHtml(EventWords(event)) + "</li>";
+    return html + "</ol>\n";
+}
+
+} // namespace
+
+std::string SignalPicture(const ReportFacts& report)
+{
+    const HistoryFacts& history = report.history;
+    const TimeScale scale{history.samples.back().second};
+    const std::vector<std::string> used = UsedAccessPoints(history);
+    std::string lines;
+    for (std::size_t place = 0; place < used.size(); ++place)
+        lines += HeardLine(history, used[place], place, scale);
+    lines += LinkLines(history, used, scale) + EventMarks(history, scale);
+    const std::string description = "Signal of the link in dBm over " + Counted(scale.last, "second") + ", with " +
+                                    Counted(history.events.size(), "event") + ", which the list below names.";
+    return "<figure class=\"panel time\"><div class=\"scroll\" role=\"region\" tabindex=\"0\" "
+           "aria-label=\"Signal over time\"><svg viewBox=\"0 0 " +
+           DecimalText(kSignalWidth) + " " + DecimalText(kSignalHeight) +
+           "\" role=\"img\" aria-labelledby=\"time-title time-desc\"><title id=\"time-title\">Signal over time</title>"
+           "<desc id=\"time-desc\">" +
+           description + "</desc>\n" + Axes(scale) + "\n" + lines + "\n</svg></div>\n<figcaption>" +
+           Legend(report, used) + "</figcaption></figure>\n" + EventList(history);
+}
+
+} // namespace calvix::host

@@ -1,0 +1,70 @@
+#include "command.h"
+#include "describe.h"
+#include "files.h"
+#include "report/page.h"
+#include "report/report_json.h"
+#include "report/take_picture.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct ReportOptions
+{
+    std::string file = "air.html";
+    std::string title = "A picture of the air";
+    PictureOptions picture;
+};
+
+constexpr const char* kStandardOutput = "-";
+
+void WritePage(Host& host, const ReportOptions& options, const ReportFacts& report)
+{
+    const std::string page = ReportPage(report);
+    if (options.file == kStandardOutput)
+    {
+        if (!host.json())
+            host.out() << page;
+        return;
+    }
+    WriteWholeFile(options.file, page);
+    if (!host.json())
+        host.out() << "Wrote " << options.file << ": " << Counted(report.accessPoints.size(), "access point")
+                   << ". Open it in a browser.\n";
+}
+
+void MakeReport(Host& host, const ReportOptions& options)
+{
+    if (options.picture.roamEvery != 0 && options.picture.seconds == 0)
+        throw BadInput("--roam goes with --duration", "say how long to follow the signal: --duration SECONDS");
+    ReportFacts report = TakePicture(host, options.picture);
+    report.title = options.title;
+    WritePage(host, options, report);
+    // With JSON a failure is the only object.
+    if (!report.missing.empty())
+        throw Failure(report.missing.front().failure);
+    if (host.json())
+        host.out() << ReportJson(report, false) << '\n';
+}
+
+} // namespace
+
+void AddReportCommand(CommandSet& commands)
+{
+    const auto options = std::make_shared<ReportOptions>();
+    commands
+        .Add("report", "Write a page with a picture of the air",
+             [options](Host& host) { MakeReport(host, *options); })
+        .Text("-o,--output", options->file, "The page's file, - for standard output (default: air.html)")
+        .Takes(ValueKind::file)
+        .Text("--title", options->title, "The page's title")
+        .Number("--duration", options->picture.seconds, "Seconds to follow the signal first; 0: only how it is now")
+        .Number("--roam", options->picture.roamEvery,
+                "Meanwhile roam when it is time, deciding every so many seconds; 0: never")
+        .Examples("With a minute of the signal:\n"
+                  "  calvix report -o air.html --duration 60");
+}
+
+} // namespace calvix::host

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "command_description.h"
+#include "failure.h"
+
+#include <string>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// Why arguments that the parser refused cannot be used, with what was probably meant. `parserWords` is what the parser
+/// says of them.
+Failure UsageFailure(const ProgramDescription& program,
+                     const std::vector<std::string>& arguments,
+                     const std::string& parserWords);
+
+} // namespace calvix::host
