@@ -1,0 +1,2 @@
+def check_min_cppstd(recipe, standard):
+    assert standard == 20
