@@ -29,7 +29,7 @@ struct CommonOptions
     bool trace = false;
     std::string color = "auto"; ///< "always", "never", or as the terminal is
     bool noColor = false;       ///< the same as "never"
-    std::string adapter; ///< GUID, number or description; empty: the first adapter
+    std::string adapter;        ///< GUID, number or description; empty: the first adapter
     std::string scenario;
     std::string save;
     std::string record;

@@ -1,0 +1,333 @@
+#include "wrappers/recording/fields.h"
+
+#include "simulation/guid_text.h"
+#include "simulation/utf8.h"
+#include "wrappers/recording/anonymiser.h"
+#include "wrappers/recording/key_mask.h"
+#include "wrappers/recording/recorded_text.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string_view>
+
+namespace calvix::recording
+{
+
+using nlohmann::ordered_json;
+using wrappers::HandleFamily;
+
+namespace
+{
+
+template <typename Character>
+std::basic_string_view<Character> GivenView(const Character* text, int length)
+{
+    using View = std::basic_string_view<Character>;
+    return length < 0 ? View(text) : View(text, static_cast<std::size_t>(length));
+}
+
+/// Without a key, whatever that costs: a text with a key in it need not come back whole.
+ordered_json WithoutKeys(KeyMask& keys, std::wstring_view text)
+{
+    const std::string utf8 = simulation::Utf8FromWide(text);
+    std::string masked = keys.InText(utf8);
+    return masked != utf8 ? ordered_json(std::move(masked)) : RecordedWide(text);
+}
+
+std::string SsidBytes(const DOT11_SSID& ssid)
+{
+    const std::size_t length = (std::min)(static_cast<std::size_t>(ssid.uSSIDLength), sizeof ssid.ucSSID);
+    return {reinterpret_cast<const char*>(ssid.ucSSID), length};
+}
+
+/// Rates, channel, country, security and what the radio can do; no names, and nothing of a vendor's.
+constexpr std::uint8_t kTellingNoNames[] = {1, 3, 5, 7, 42, 45, 48, 50, 61, 191, 192};
+
+std::string WithoutNames(const std::string& elements)
+{
+    std::string kept;
+    for (std::size_t at = 0; at + 1 < elements.size();)
+    {
+        const auto id = static_cast<std::uint8_t>(elements[at]);
+        const std::size_t size = 2 + static_cast<std::uint8_t>(elements[at + 1]);
+        if (std::find(std::begin(kTellingNoNames), std::end(kTellingNoNames), id) != std::end(kTellingNoNames))
+            kept += elements.substr(at, size);
+        at += size;
+    }
+    return kept;
+}
+
+} // namespace
+
+void Fields::PutNull(const char* name)
+{
+    m_object[name] = nullptr;
+}
+
+void Fields::PutUnsigned(const char* name, unsigned long long value)
+{
+    m_object[name] = value;
+}
+
+void Fields::PutSigned(const char* name, long long value)
+{
+    m_object[name] = value;
+}
+
+bool Fields::Has(const char* name) const
+{
+    return m_object.is_object() && m_object.contains(name);
+}
+
+ordered_json& Fields::At(const char* name)
+{
+    if (!isReading())
+        return m_object[name];
+    if (!Has(name))
+        throw Damage(name, "is missing");
+    return m_object[name];
+}
+
+bool Fields::ReadsNull(const char* name)
+{
+    return At(name).is_null();
+}
+
+unsigned long long Fields::GetUnsigned(const char* name, unsigned long long highest)
+{
+    const ordered_json& value = At(name);
+    if (!value.is_number_unsigned() || value.get<unsigned long long>() > highest)
+        throw Damage(name, "is not a number that fits");
+    return value.get<unsigned long long>();
+}
+
+long long Fields::GetSigned(const char* name, long long lowest, long long highest)
+{
+    const ordered_json& value = At(name);
+    if (!value.is_number_integer() || value.get<long long>() < lowest || value.get<long long>() > highest)
+        throw Damage(name, "is not a number that fits");
+    return value.get<long long>();
+}
+
+void Fields::GivenText(const char* name, const char* text, int length)
+{
+    if (text == nullptr)
+        return PutNull(name);
+    m_object[name] = RecordedBytes(m_surroundings.keys->InText(std::string(GivenView(text, length))));
+}
+
+void Fields::GivenText(const char* name, const wchar_t* text, int length)
+{
+    if (text == nullptr)
+        return PutNull(name);
+    m_object[name] = WithoutKeys(*m_surroundings.keys, GivenView(text, length));
+}
+
+void Fields::GivenName(const char* name, const wchar_t* profile)
+{
+    if (profile == nullptr)
+        return PutNull(name);
+    m_object[name] = RecordedWide(profile);
+    if (m_surroundings.names != nullptr)
+        m_surroundings.names->LearnNetwork(simulation::Utf8FromWide(profile));
+}
+
+void Fields::GivenGuid(const char* name, const GUID* guid)
+{
+    if (guid == nullptr)
+        return PutNull(name);
+    GUID copy = *guid;
+    Guid(name, copy);
+}
+
+void Fields::GivenAdapter(const GUID* guid)
+{
+    if (guid == nullptr)
+        return PutNull("interface");
+    GUID copy = *guid;
+    AdapterGuid("interface", copy);
+}
+
+void Fields::GivenBytes(const char* name, const void* bytes, std::size_t size)
+{
+    if (bytes == nullptr)
+        return PutNull(name);
+    std::string copy(static_cast<const char*>(bytes), size);
+    Bytes(name, copy);
+}
+
+void Fields::GivenHandle(const char* name, HandleFamily family, const void* handle)
+{
+    Given(name, holdings().NumberOf(family, handle));
+}
+
+void Fields::Text(const char* name, std::string& bytes)
+{
+    if (isReading())
+        bytes = BytesFrom(At(name), name);
+    else
+        m_object[name] = RecordedBytes(m_surroundings.keys->InText(bytes));
+}
+
+void Fields::Text(const char* name, std::wstring& text)
+{
+    if (isReading())
+        text = WideFrom(At(name), name);
+    else
+        m_object[name] = WithoutKeys(*m_surroundings.keys, text);
+}
+
+void Fields::Bytes(const char* name, std::string& bytes)
+{
+    if (isReading())
+        bytes = BytesFrom(At(name), name);
+    else
+        m_object[name] = {{"bytes", HexText(m_surroundings.keys->InBytes(bytes))}};
+}
+
+void Fields::Into(const char* name, void* buffer, std::size_t size)
+{
+    std::string bytes;
+    if (!isReading() && buffer != nullptr)
+        bytes.assign(static_cast<const char*>(buffer), size);
+    Bytes(name, bytes);
+    if (isReading() && buffer != nullptr)
+        bytes.copy(static_cast<char*>(buffer), size);
+}
+
+void Fields::TerminatedInto(const char* name, wchar_t* buffer, std::size_t capacity)
+{
+    std::wstring text;
+    if (!isReading())
+        text.assign(buffer, static_cast<std::size_t>(std::find(buffer, buffer + capacity, L'\0') - buffer));
+    Text(name, text);
+    if (isReading() && capacity > 0)
+        buffer[text.copy(buffer, capacity - 1)] = L'\0';
+}
+
+void Fields::Elements(const char* name, std::string& elements)
+{
+    std::string told = m_surroundings.names != nullptr ? WithoutNames(elements) : elements;
+    Bytes(name, told);
+    if (isReading())
+        elements = told;
+}
+
+void Fields::Array(const char* name, wchar_t* text, std::size_t size, Meaning meaning)
+{
+    if (isReading())
+    {
+        const std::wstring read = WideFrom(At(name), name);
+        if (read.size() > size)
+            throw Damage(name, "is too long");
+        std::copy(read.begin(), read.end(), text);
+        return;
+    }
+    const std::wstring_view told(text, static_cast<std::size_t>(std::find(text, text + size, L'\0') - text));
+    m_object[name] = RecordedWide(told);
+    if (m_surroundings.names == nullptr)
+        return;
+    if (meaning == Meaning::name)
+        m_surroundings.names->LearnNetwork(simulation::Utf8FromWide(told));
+    else
+        m_surroundings.names->LearnAdapter(simulation::Utf8FromWide(told));
+}
+
+/// A length that no SSID can have is told beside the bytes.
+void Fields::Ssid(const char* name, DOT11_SSID& ssid)
+{
+    if (!isReading())
+    {
+        const std::string bytes = SsidBytes(ssid);
+        m_object[name] = RecordedBytes(bytes);
+        if (ssid.uSSIDLength > sizeof ssid.ucSSID)
+            Number("statedSsidLength", ssid.uSSIDLength);
+        if (m_surroundings.names != nullptr)
+            m_surroundings.names->LearnNetwork(bytes);
+        return;
+    }
+    const std::string bytes = BytesFrom(At(name), name);
+    if (bytes.size() > sizeof ssid.ucSSID)
+        throw Damage(name, "is too long");
+    std::copy(bytes.begin(), bytes.end(), ssid.ucSSID);
+    ssid.uSSIDLength = static_cast<ULONG>(bytes.size());
+    if (Has("statedSsidLength"))
+        Number("statedSsidLength", ssid.uSSIDLength);
+}
+
+void Fields::Address(const char* name, UCHAR* address)
+{
+    std::array<std::uint8_t, 6> bytes{};
+    if (!isReading())
+    {
+        std::copy_n(address, bytes.size(), bytes.begin());
+        std::string text;
+        for (const std::uint8_t byte : bytes)
+            text += (text.empty() ? "" : ":") + HexText(std::string(1, static_cast<char>(byte)));
+        m_object[name] = text;
+        if (m_surroundings.names != nullptr)
+            m_surroundings.names->LearnAddress(bytes);
+        return;
+    }
+    std::string text = BytesFrom(At(name), name);
+    text.erase(std::remove(text.begin(), text.end(), ':'), text.end());
+    std::string read;
+    if (!ReadHex(text, read) || read.size() != bytes.size())
+        throw Damage(name, "is no address");
+    std::copy(read.begin(), read.end(), address);
+}
+
+void Fields::Guid(const char* name, GUID& guid)
+{
+    if (!isReading())
+    {
+        m_object[name] = simulation::GuidText(guid);
+        return;
+    }
+    const std::optional<GUID> read = simulation::GuidFromText(BytesFrom(At(name), name));
+    if (!read)
+        throw Damage(name, "is no GUID");
+    guid = *read;
+}
+
+void Fields::AdapterGuid(const char* name, GUID& guid)
+{
+    Guid(name, guid);
+    if (m_surroundings.names != nullptr)
+        m_surroundings.names->LearnGuid(simulation::GuidText(guid));
+}
+
+Fields Fields::Object(const char* name)
+{
+    ordered_json& object = At(name);
+    if (!isReading())
+        object = ordered_json::object();
+    else if (!object.is_object())
+        throw Damage(name, "is no object");
+    return {object, m_direction, m_surroundings};
+}
+
+std::size_t Fields::Count(const char* name, std::size_t count)
+{
+    ordered_json& array = At(name);
+    if (!isReading())
+        array = ordered_json::array();
+    else if (!array.is_array())
+        throw Damage(name, "is no list");
+    return isReading() ? array.size() : count;
+}
+
+Fields Fields::Element(const char* name, std::size_t index)
+{
+    ordered_json& array = At(name);
+    if (!isReading())
+        array.push_back(ordered_json::object());
+    else if (!array[index].is_object())
+        throw Damage(name, "has an element that is no object");
+    return {isReading() ? array[index] : array.back(), m_direction, m_surroundings};
+}
+
+} // namespace calvix::recording

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/platform.h"
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+namespace calvix::recording
+{
+
+/// What the first line of a recording tells.
+struct Header
+{
+    bool simulated = false;  ///< of a simulated computer
+    bool anonymised = false; ///< names and addresses are made up
+};
+
+/// Writes every call that passes a platform down, with its arguments and results, and the notifications between them, one
+/// line each (docs/recordings.md tells the form). Keys are masked always. An anonymised recording is written at the end,
+/// when all names are known; any other line by line, so that what a crash leaves behind can be used.
+///
+/// Calls may come from any thread, but only a session of one thread can be replayed for certain. A notification that comes
+/// while no call is under way waits for the next one, a second at most, so that its place in the recording is a certain
+/// one; a call waits as long for the callbacks that are running.
+class Recorder
+{
+public:
+    /// `inner` makes the calls; it and `file` outlive this object.
+    Recorder(platform::Platform& inner, std::ostream& file, const Header& header);
+    ~Recorder();
+    Recorder(const Recorder&) = delete;
+    Recorder& operator=(const Recorder&) = delete;
+
+    /// The platform for the program that is recorded. It must not be used after this object's end.
+    platform::Platform& platform();
+
+    /// Notes something that came from outside, which a replay tells at the same place (Replay::AtMark).
+    void Mark(const std::string& text);
+
+    /// Writes the last line; nothing is recorded from here on.
+    void Finish();
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace calvix::recording

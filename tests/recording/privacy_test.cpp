@@ -1,0 +1,182 @@
+// What a recording keeps to itself.
+
+#include "cli/cli_test.h"
+#include "wrappers/recording/key_mask.h"
+
+#include <nlohmann/json.hpp>
+
+#include <regex>
+#include <set>
+
+namespace calvix::test::recording_privacy_test
+{
+namespace
+{
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+constexpr const char* kKey = "correct horse battery";
+
+std::string ProfileXml(const std::string& name, const std::string& key)
+{
+    return R"(<?xml version="1.0"?><WLANProfile xmlns="http://www.microsoft.com/networking/WLAN/profile/v1"><name>)" +
+           name + "</name><SSIDConfig><SSID><name>" + name +
+           R"(</name></SSID></SSIDConfig><connectionType>ESS</connectionType><connectionMode>manual</connectionMode>)"
+           R"(<MSM><security><authEncryption><authentication>WPA2PSK</authentication><encryption>AES</encryption>)"
+           R"(<useOneX>false</useOneX></authEncryption><sharedKey><keyType>passPhrase</keyType>)"
+           R"(<protected>false</protected><keyMaterial>)" +
+           key + "</keyMaterial></sharedKey></security></MSM></WLANProfile>";
+}
+
+class RecordingPrivacy : public CliTest
+{
+protected:
+    std::string File() const { return PathFor("session.jsonl"); }
+};
+
+TEST_F(RecordingPrivacy, MasksTheKeyOfAStoredProfile)
+{
+    const std::string profile = FileWith("profile.xml", ProfileXml("HomeNet5G", kKey));
+    const Outcome stored = RunOn(RichWorld(), {"profiles", "add", profile, "--record", File()});
+    ASSERT_EQ(kSuccess, stored.exitCode) << stored.err;
+    EXPECT_THAT(Content(File()), HasSubstr("<keyMaterial>********</keyMaterial>"));
+    EXPECT_THAT(Content(File()), Not(HasSubstr(kKey)));
+    EXPECT_EQ(stored.out, Run({"profiles", "add", profile, "--replay", File()}).out) << "with the key in the profile";
+}
+
+TEST_F(RecordingPrivacy, MasksKeysThatTheServiceTells)
+{
+    simulation::Scenario world = RichWorld();
+    world.adapters[0].profiles[0].xml = ProfileXml("HomeNet", kKey);
+    const Outcome shown = RunOn(world, {"profiles", "show", "HomeNet", "--show-key", "--record", File()});
+    ASSERT_EQ(kSuccess, shown.exitCode) << shown.err;
+    ASSERT_THAT(shown.out, HasSubstr(kKey));
+    EXPECT_THAT(Content(File()), Not(HasSubstr(kKey)));
+}
+
+TEST_F(RecordingPrivacy, MasksAKeyInEveryForm)
+{
+    using recording::KeyMask;
+    for (const auto& [text, masked] : std::vector<std::pair<std::string, std::string>>{
+             {"<keyMaterial>abc</keyMaterial>", "<keyMaterial>********</keyMaterial>"},
+             {"<w:keyMaterial a='b'>abc</w:keyMaterial >", "<w:keyMaterial a='b'>********</w:keyMaterial >"},
+             {"<KEYMATERIAL\n>abc</KEYMATERIAL>", "<KEYMATERIAL\n>********</KEYMATERIAL>"},
+             {"<keyMaterial><![CDATA[a</b>c]]></keyMaterial>", "<keyMaterial>********</keyMaterial>"},
+             {"<keyMaterial>abc", "<keyMaterial>********"},
+             {"<keyMaterial>a</keyMaterial><keyMaterial>b</keyMaterial>",
+              "<keyMaterial>********</keyMaterial><keyMaterial>********</keyMaterial>"},
+             {"<keyMaterial/><x>abc</x>", "<keyMaterial/><x>abc</x>"},
+             {"no keyMaterial here", "no keyMaterial here"}})
+        EXPECT_EQ(masked, KeyMask().InText(text));
+}
+
+TEST_F(RecordingPrivacy, MasksAKeyThatComesUpAgain)
+{
+    recording::KeyMask mask;
+    mask.InText("<keyMaterial>Tom &amp; Jerry</keyMaterial>");
+    EXPECT_EQ("set key=******** now", mask.InText("set key=Tom & Jerry now"));
+    EXPECT_EQ("<a>********</a>", mask.InText("<a>Tom &amp; Jerry</a>"));
+    EXPECT_EQ(std::string("\0***********\0", 13), mask.InBytes(std::string("\0Tom & Jerry\0", 13)));
+}
+
+/// Names and addresses of RichWorld, in any form in which they could have come through.
+const std::vector<std::string> kTellingWords = {
+    "HomeNet",  "OfficeNet", "HiddenNet",      "AdHocNet",       "GoneNet",           "CafeNet",  "Wireless Adapter",
+    "A0000001", "a0000001",  "B0000002",       "02:11:00",       "02:22:00",          "02:33:00", "02:55:00",
+    "02-11-00", "02110000",  "486F6D654E6574", "486f6d654e6574", "4F66666963654E6574"};
+
+void ExpectNothingTelling(const std::string& recording)
+{
+    for (const std::string& word : kTellingWords)
+        EXPECT_THAT(recording, Not(HasSubstr(word)));
+}
+
+TEST_F(RecordingPrivacy, LeavesNothingOfTheNamesWhereThatIsAskedFor)
+{
+    for (const std::vector<std::string>& command : {std::vector<std::string>{"networks"},
+                                                    {"bss"},
+                                                    {"status"},
+                                                    {"list", "networks"},
+                                                    {"list", "bss"},
+                                                    {"profiles", "show", "OfficeNet"},
+                                                    {"connect", "OfficeNet"},
+                                                    {"best"},
+                                                    {"match", "--profile", "OfficeNet"},
+                                                    {"profiles", "delete", "HomeNett"},
+                                                    {"adapters"},
+                                                    {"watch", "--for", "3", "--trace"},
+                                                    {"status", "--interface", "Wireless Adapter B"}})
+    {
+        std::vector<std::string> recorded = command;
+        recorded.insert(recorded.end(), {"--record", File(), "--anonymise"});
+        RunOn(RichWorld(), recorded);
+        const std::string content = Content(File());
+        SCOPED_TRACE(::testing::PrintToString(command) + "\n" + content);
+        EXPECT_THAT(content, HasSubstr("\"anonymised\":true"));
+        EXPECT_THAT(content, HasSubstr("\"end\":"));
+        ExpectNothingTelling(content);
+    }
+}
+
+TEST_F(RecordingPrivacy, ReplaysWithOtherNamesToTheSameTable)
+{
+    for (const std::vector<std::string>& command : {std::vector<std::string>{"networks"},
+                                                    {"bss"},
+                                                    {"status"},
+                                                    {"list", "networks"},
+                                                    {"list", "bss"},
+                                                    {"match"},
+                                                    {"adapters"},
+                                                    {"best"},
+                                                    {"profiles", "list"},
+                                                    {"watch", "--for", "3"}})
+    {
+        std::vector<std::string> recorded = command;
+        recorded.insert(recorded.end(), {"--record", File(), "--anonymise"});
+        std::vector<std::string> replayed = command;
+        replayed.insert(replayed.end(), {"--replay", File()});
+        const Outcome first = RunOn(RichWorld(), recorded);
+        const Outcome second = Run(replayed);
+        SCOPED_TRACE(::testing::PrintToString(command) + second.err);
+        EXPECT_EQ(first.exitCode, second.exitCode);
+        // Names keep their length, so what is left without their characters is the same.
+        const std::regex word("[-A-Za-z0-9 ]");
+        EXPECT_EQ(std::regex_replace(first.out, word, "x"), std::regex_replace(second.out, word, "x"));
+        ExpectNothingTelling(second.out);
+    }
+}
+
+TEST_F(RecordingPrivacy, GivesTheSameNameToTheSameNetwork)
+{
+    RunOn(RichWorld(), {"networks", "--json", "--record", File(), "--anonymise"});
+    const auto networks = nlohmann::json::parse(Run({"networks", "--json", "--replay", File()}).out)["networks"];
+    std::set<std::string> names;
+    for (const auto& network : networks)
+    {
+        names.insert(network["ssid"].get<std::string>());
+        const bool stored = network["profile"].is_string() && network["profile"] != "";
+        EXPECT_TRUE(!stored || network["ssid"] == network["profile"]) << "profiles are named for their networks here";
+    }
+    EXPECT_EQ(networks.size(), names.size()) << "different networks stay different";
+}
+
+TEST_F(RecordingPrivacy, HidesNamesThatAreNoAscii)
+{
+    simulation::Scenario world = RichWorld();
+    simulation::AccessPoint& first = world.accessPoints[0];
+    first.ssid = {'C', 'a', 'f', 0xC3, 0xA9, ' ', '&', ' ', 'B', 'a', 'r'};
+    world.accessPoints[1].ssid = {'C', 'a', 'f', 0xE9, 'x'};
+    for (const char* const command : {"networks", "bss"})
+    {
+        const Outcome shown = RunOn(world, {command, "--record", File(), "--anonymise"});
+        ASSERT_EQ(kSuccess, shown.exitCode) << shown.err;
+        const std::string content = Content(File());
+        for (const char* const telling : {"Caf", "436166"})
+            EXPECT_THAT(content, Not(HasSubstr(telling)));
+        EXPECT_EQ(kSuccess, Run({command, "--replay", File()}).exitCode);
+    }
+}
+
+} // namespace
+} // namespace calvix::test::recording_privacy_test
