@@ -84,10 +84,11 @@ char* CWirelessManage::HexToString(
         return destination;
     }
     // Deliberate: all digits are written whatever the capacity says.
+    char* digit = destination;
     for (int index = 0; index < count; ++index)
     {
-        destination[2 * index] = kDigits[bytes[index] >> 4];
-        destination[2 * index + 1] = kDigits[bytes[index] & 0x0F];
+        *digit++ = kDigits[bytes[index] >> 4];
+        *digit++ = kDigits[bytes[index] & 0x0F];
     }
     return destination;
 }

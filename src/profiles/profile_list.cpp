@@ -30,7 +30,7 @@ void WidenTruncating(const char* narrow, wchar_t (&wide)[Capacity])
     {
         if (IsPlainAscii(narrow[read]) && std::mbsinit(&state) != 0)
         {
-            wide[length] = narrow[read++];
+            wide[length] = static_cast<wchar_t>(narrow[read++]);
             continue;
         }
         std::size_t used = std::mbrtowc(&wide[length], narrow + read, size - read, &state);
