@@ -1,4 +1,5 @@
 #include "growth/growth_benchmarks.h"
+#include "growth/platform_share.h"
 #include "measure/report.h"
 #include "methods/method_benchmarks.h"
 #include "methods/method_row.h"
@@ -62,6 +63,7 @@ int main(int argc, char** argv)
 
     RegisterMethodBenchmarks();
     RegisterGrowthBenchmarks();
+    RegisterPlatformShareBenchmarks();
     RegisterSimulatorBenchmarks();
     Report report;
     benchmark::RunSpecifiedBenchmarks(&report);

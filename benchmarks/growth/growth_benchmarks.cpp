@@ -143,7 +143,8 @@ void MeasureGrowth(benchmark::State& state, const GrowthCase& growth, const Meth
     for (auto iteration : state)
     {
         static_cast<void>(iteration);
-        const Rounds rounds(scene, calls, nullptr, {.batch = 200e3, .total = 15e6, .least = 5, .most = 101, .processorTime = true});
+        const Rounds rounds(scene, calls, nullptr,
+                            {.batch = 200e3, .total = 15e6, .least = 5, .most = 101, .processorTime = true});
         state.SetIterationTime(rounds.Median(0) * 1e-9);
         state.counters["library"] = rounds.Median(0);
         state.counters["calls"] = rounds.Median(1);

@@ -59,6 +59,23 @@ void PrintGrowth(const Results& growth)
     std::printf("\n\"about\": not measured but extrapolated, a hundred times the loops at a tenth of the size.\n\n");
 }
 
+void PrintShares(const Results& shares)
+{
+    if (shares.names.empty())
+        return;
+    std::printf("### Growing lists on the simulated computer\n\n| Method | size | the call | of it in the platform | "
+                "call / platform |\n|---|--:|--:|--:|--:|\n");
+    for (const std::string& name : shares.names)
+    {
+        const Figures& figures = shares.figures.at(name);
+        const std::size_t slash = name.rfind('/');
+        std::printf("| `%s` | %s | %s | %s | %.2f |\n", name.substr(0, slash).c_str(), name.substr(slash + 1).c_str(),
+                    Duration(MedianOf(figures.at("library"))).c_str(), Duration(MedianOf(figures.at("calls"))).c_str(),
+                    MedianOf(figures.at("ratio")));
+    }
+    std::printf("\n");
+}
+
 void PrintSimulator(const Results& simulator)
 {
     if (simulator.names.empty())

@@ -74,6 +74,7 @@ void Report::Finalize()
     const Results all{m_names, m_figures};
     PrintMethods(all);
     PrintGrowth(all.Of("growth/"));
+    PrintShares(all.Of("share/"));
     PrintSimulator(all.Of("simulator/"));
     std::fflush(stdout);
 }

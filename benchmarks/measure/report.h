@@ -43,6 +43,7 @@ struct Results
 
 void PrintMethods(const Results& all);
 void PrintGrowth(const Results& growth);
+void PrintShares(const Results& shares);
 void PrintSimulator(const Results& simulator);
 
 /// "31.4 ns", "2.08 us".

@@ -140,7 +140,7 @@ bool FormatSimply(char* buffer, std::size_t capacity, const char* format, std::v
     std::va_list rest;
     va_copy(rest, values);
     bool known = true;
-    while (known && *format != '\0')
+    while (known)
     {
         const char* const conversion = std::strchr(format, '%');
         if (conversion == nullptr)

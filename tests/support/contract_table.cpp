@@ -2,6 +2,8 @@
 
 #include "core/trace.h"
 
+#include <cstdint>
+
 namespace calvix::test
 {
 
@@ -10,8 +12,11 @@ namespace
 
 std::string Filled(std::string text, unsigned error)
 {
-    const std::size_t place = text.find("%u");
-    return place == std::string::npos ? text : text.replace(place, 2, std::to_string(error));
+    if (const std::size_t place = text.find("%u"); place != std::string::npos)
+        return text.replace(place, 2, std::to_string(error));
+    if (const std::size_t place = text.find("%d"); place != std::string::npos)
+        return text.replace(place, 2, std::to_string(static_cast<std::int32_t>(error)));
+    return text;
 }
 
 std::vector<std::string> ExpectedLines(const FailureRow& row)
@@ -55,11 +60,28 @@ void Arrange(LibraryTest& test, const FailureRow& row, bool tracing)
         test.FailOn(row.failingOperation, row.error, row.fromCall);
 }
 
+/// The service's own error numbers have the highest of their 32 bits set.
+constexpr unsigned kHighError = 0x80342002;
+
+/// The same failure with such a number, which a method that passes errors out gives in 32 bits.
+FailureRow WithHighError(FailureRow row)
+{
+    if (row.expected == row.error)
+        row.expected = kHighError;
+    row.error = kHighError;
+    return row;
+}
+
 void RunOnce(LibraryTest& test, const FailureRow& row, bool tracing)
 {
     SCOPED_TRACE(tracing ? "tracing on" : "tracing off");
+    SCOPED_TRACE("error " + std::to_string(row.error));
     Arrange(test, row, tracing);
-    EXPECT_EQ(row.expected, row.call(test.manager()));
+    const long long result = row.call(test.manager());
+    if (row.error == kHighError)
+        EXPECT_EQ(static_cast<std::uint32_t>(row.expected), static_cast<std::uint32_t>(result));
+    else
+        EXPECT_EQ(row.expected, result);
     if (!row.failingOperation.empty())
     {
         EXPECT_GE(test.InjectedFailures(), 1u)
@@ -85,6 +107,11 @@ void CheckFailure(LibraryTest& test, const FailureRow& row)
     {
         test.UseWorld(world);
         RunOnce(test, row, tracing);
+    }
+    if (!row.failingOperation.empty() && (row.error == FailureRow{}.error || row.expected == row.error))
+    {
+        test.UseWorld(world);
+        RunOnce(test, WithHighError(row), true);
     }
     test.UseWorld(world);
 }

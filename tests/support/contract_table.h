@@ -32,7 +32,7 @@ struct FailureRow
     std::function<long long(CWirelessManage&)> call;
     std::string failingOperation = {}; ///< empty: none is made to fail, the world does it
     long long expected = 0;
-    /// All trace lines, in order, those of releases included; "%u" stands for the error. Empty: nothing traced.
+    /// All trace lines, in order, those of releases included; "%u" stands for the error, "%d" for it with a sign. Empty: nothing traced.
     std::vector<std::string> traced = {};
     TraceBuffer buffer = TraceBuffer::shared;
     unsigned error = 5;
@@ -40,9 +40,10 @@ struct FailureRow
     std::function<void(LibraryTest&)> prepare = {};
 };
 
-/// Runs a row on a computer of its own, with tracing on and then off, and checks result, trace lines, the shared trace
-/// buffer (which is written with tracing off, too), that the failure was met, and that nothing is held afterwards. A
-/// failing WlanOpenHandle finds the client handle closed.
+/// Runs a row on a computer of its own, with tracing on and then off, and once more with an error number of more than 31
+/// bits where the row has the usual one or gives it as the result. Checks result, trace lines, the shared trace buffer (which is written with
+/// tracing off, too), that the failure was met, and that nothing is held afterwards. A failing WlanOpenHandle finds the
+/// client handle closed.
 void CheckFailure(LibraryTest& test, const FailureRow& row);
 
 void CheckFailures(LibraryTest& test, const std::vector<FailureRow>& rows);

@@ -105,14 +105,19 @@ TEST_F(ProfileTextTest, NarrowTextIsTheWholeText)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-// A character that the C locale has no form for leaves nothing to copy.
-TEST_F(ProfileTextTest, NarrowTextThatCannotBeNarrowedIsEmpty)
+// Where the C locale has no form for a character, one runtime gives up and the other stops before it.
+TEST_F(ProfileTextTest, NarrowTextEndsWhereItCannotBeNarrowed)
 {
+#if defined(_WIN32)
+    const char* const narrowed = "<name>";
+#else
+    const char* const narrowed = "";
+#endif
     EditedAnswers edited;
     edited.service.SetProfileText(L"HomeNet", L"<name>\u6771</name>");
-    char text[] = "####";
+    char text[64] = "####";
     EXPECT_EQ(0, manager().GetProfile(&kAdapterA, L"HomeNet", text, sizeof(text)));
-    EXPECT_STREQ("", text);
+    EXPECT_STREQ(narrowed, text);
 }
 
 // Deliberate: unlike wide text, narrow text is never cut.

@@ -1,0 +1,228 @@
+// Lives through many simulated days with the library and tells whether the process holds more at their end than at their
+// beginning. See the usage text below.
+
+#include "soak/host.h"
+#include "soak/surroundings.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+
+namespace calvix::test::soak
+{
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr const char* kUsage =
+    "Usage: calvix_soak [--days N] [--warm-up N] [--seed N] [--speed N] [--margin N] [--only TEXT]\n"
+    "\n"
+    "Calls every method of the library in a seeded random order, all day long, for so many simulated days (1), and\n"
+    "compares what the process holds after the last day with what it held after the first day behind the warm-up (10,\n"
+    "less where there are not so many days). With a drop-in wlanapi.dll time passes N times (10000) as fast as real "
+    "time.\n"
+    "--margin N: so many kilobytes may the resident memory grow (1024).\n"
+    "--only TEXT: only the methods with this text in their names, to find out which of them it is.\n";
+
+struct Options
+{
+    unsigned days = 1;
+    unsigned warmUp = 10;
+    unsigned seed = 1;
+    unsigned speed = 10'000;
+    unsigned margin = 1024; ///< how much more resident memory there may be at the end, in kilobytes
+    std::string only;
+};
+
+/// How many more blocks there may be at the end: what the simulated computer keeps varies by a few.
+constexpr std::uint64_t kMoreHeapBlocks = 64;
+
+/// What is done in these surroundings, each as often in the list as its weight says.
+std::vector<const Habit*> HabitsOf(const Surroundings& surroundings, const std::string& only)
+{
+    std::vector<const Habit*> habits;
+    for (const Habit& habit : Habits())
+    {
+        const bool possible = surroundings.SimulateEverything() || habit.needs != Needs::simulatedComputer;
+        if (possible && std::string(habit.method).find(only) != std::string::npos)
+            habits.insert(habits.end(), habit.weight, &habit);
+    }
+    if (habits.empty())
+        throw std::runtime_error("no such method: " + only);
+    return habits;
+}
+
+/// Where time follows real time, a second of that is hours, and what sleeps is done rarely.
+const Habit& Choose(const std::vector<const Habit*>& habits, Host& host, const Surroundings& surroundings)
+{
+    for (;;)
+    {
+        const Habit& chosen = *habits[host.Below(static_cast<unsigned>(habits.size()))];
+        if (surroundings.SimulateEverything() || chosen.needs != Needs::patience || host.Below(50) == 0)
+            return chosen;
+    }
+}
+
+void LiveUntil(Surroundings::Duration evening,
+               const std::vector<const Habit*>& habits,
+               Host& host,
+               Surroundings& surroundings)
+{
+    while (surroundings.Now() < evening)
+    {
+        const Habit& habit = Choose(habits, host, surroundings);
+        habit.act(host);
+        ++host.calls[habit.method];
+        if (host.Below(100) == 0)
+            surroundings.Trouble(host.random);
+        surroundings.Pass(std::chrono::seconds(1 + host.Below(240)));
+    }
+}
+
+void Print(const char* when, const Holdings& holdings, const Host& host, std::uint64_t calls)
+{
+    std::printf("%8s %13llu %12llu %8llu %8llu %10llu %14llu\n", when,
+                static_cast<unsigned long long>(holdings.residentKilobytes),
+                static_cast<unsigned long long>(holdings.heapBlocks), static_cast<unsigned long long>(holdings.handles),
+                static_cast<unsigned long long>(holdings.threads), static_cast<unsigned long long>(calls),
+                static_cast<unsigned long long>(host.notifications.load()));
+    std::fflush(stdout);
+}
+
+std::uint64_t CallsOf(const Host& host)
+{
+    std::uint64_t calls = 0;
+    for (const auto& [method, count] : host.calls)
+        calls += count;
+    return calls;
+}
+
+/// Whether the end is as good as the beginning; says what is not.
+bool IsFlat(const Holdings& first, const Holdings& last, std::uint64_t margin)
+{
+    bool flat = true;
+    const auto compare = [&flat](const char* what, std::uint64_t before, std::uint64_t after, std::uint64_t more)
+    {
+        if (after <= before + more)
+            return;
+        std::printf("soak: %s grew from %llu to %llu, by more than %llu\n", what,
+                    static_cast<unsigned long long>(before), static_cast<unsigned long long>(after),
+                    static_cast<unsigned long long>(more));
+        flat = false;
+    };
+    compare("the resident memory (KB)", first.residentKilobytes, last.residentKilobytes, margin);
+    compare("the number of heap blocks", first.heapBlocks, last.heapBlocks, kMoreHeapBlocks);
+    compare("the number of handles", first.handles, last.handles, 0);
+    compare("the number of threads", first.threads, last.threads, 0);
+    return flat;
+}
+
+/// Whether everything was done at least once, but for what is rare.
+bool DidEverything(const Host& host, const std::vector<const Habit*>& habits)
+{
+    bool all = host.notifications != 0;
+    for (const Habit* habit : habits)
+    {
+        if (host.calls.contains(habit->method) || habit->needs == Needs::patience)
+            continue;
+        std::printf("soak: never called: %s\n", habit->method);
+        all = false;
+    }
+    return all;
+}
+
+bool Soak(const Options& options)
+{
+    const std::unique_ptr<Surroundings> surroundings = MakeSurroundings(WorldText(options.days), options.speed);
+    Host host(options.seed);
+    std::vector<WLAN_INTERFACE_INFO> adapters;
+    host.Manager().GetWlanInterface(&adapters);
+    for (const WLAN_INTERFACE_INFO& info : adapters)
+        host.adapters.push_back(info.InterfaceGuid);
+
+    const std::vector<const Habit*> habits = HabitsOf(*surroundings, options.only);
+    const unsigned firstDay = (std::min)(options.warmUp + 1, options.days);
+    const unsigned step = (std::max)(options.days / 10, 1u);
+    Holdings first;
+    Holdings last;
+    bool good = true;
+    std::printf("%8s %13s %12s %8s %8s %10s %14s\n", "day", "resident KB", "heap blocks", "handles", "threads", "calls",
+                "notifications");
+    for (unsigned day = 1; day <= options.days; ++day)
+    {
+        LiveUntil(day * 24h, habits, host, *surroundings);
+        surroundings->Calm();
+        TidyUp(host);
+        surroundings->Pass(5min);
+        const std::string held = surroundings->EndOfDay();
+        if (!held.empty())
+            std::printf("soak: in the evening of day %u: %s", day, held.c_str());
+        good = good && held.empty();
+        last = surroundings->Measure();
+        if (day == firstDay)
+            first = last;
+        if (day == firstDay || day % step == 0 || day == options.days)
+            Print(std::to_string(day).c_str(), last, host, CallsOf(host));
+    }
+    good = IsFlat(first, last, options.margin) && good;
+    good = (options.days < 2 || !options.only.empty() || DidEverything(host, habits)) && good;
+    std::printf("soak: %u days, %s\n", options.days, good ? "flat" : "NOT FLAT");
+    return good;
+}
+
+unsigned ReadNumber(const char* text)
+{
+    char* end = nullptr;
+    const unsigned long number = std::strtoul(text, &end, 10);
+    if (*end != '\0' || number == 0 || number > 100'000)
+        throw std::runtime_error(std::string("not a number from 1 to 100000: ") + text);
+    return static_cast<unsigned>(number);
+}
+
+Options ReadOptions(int argc, char** argv)
+{
+    Options options;
+    for (int index = 1; index + 1 < argc; index += 2)
+    {
+        const std::string name = argv[index];
+        const char* const value = argv[index + 1];
+        if (name == "--days")
+            options.days = ReadNumber(value);
+        else if (name == "--warm-up")
+            options.warmUp = ReadNumber(value);
+        else if (name == "--seed")
+            options.seed = ReadNumber(value);
+        else if (name == "--speed")
+            options.speed = ReadNumber(value);
+        else if (name == "--margin")
+            options.margin = ReadNumber(value);
+        else if (name == "--only")
+            options.only = value;
+        else
+            throw std::runtime_error(kUsage);
+    }
+    if (argc % 2 == 0)
+        throw std::runtime_error(kUsage);
+    return options;
+}
+
+} // namespace
+
+} // namespace calvix::test::soak
+
+int main(int argc, char** argv)
+{
+    using namespace calvix::test::soak;
+    try
+    {
+        return Soak(ReadOptions(argc, argv)) ? 0 : 1;
+    }
+    catch (const std::exception& problem)
+    {
+        std::fprintf(stderr, "calvix_soak: %s\n", problem.what());
+        return 2;
+    }
+}
