@@ -18,7 +18,7 @@ NOT_COPIED = ["build", ".git"]
 LIBRARY = "library"
 PROGRAMS = ["unit", "scenario", "model", "sweep", LIBRARY]  # the quick ones first; the last needs a linking of its own
 SETTINGS = ["-DCMAKE_BUILD_TYPE=RelWithDebInfo", "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1", "-DCALVIX_SHARED_CORE=ON",
-            "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", "-DCALVIX_BUILD_HOST=OFF", "-DCALVIX_BUILD_EXAMPLES=OFF",
+            "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", "-DCALVIX_BUILD_EXAMPLES=OFF",
             "-DCALVIX_INSTALL=OFF"]
 MOST_MEMORY = 4 << 30
 MOST_OUTPUT = 64 << 20
