@@ -14,7 +14,7 @@ void ListAdapters(Host& host)
 {
     std::vector<AdapterFacts> adapters;
     for (const WLAN_INTERFACE_INFO& info : host.adapters())
-        adapters.push_back(DescribeAdapter(host, info, static_cast<unsigned>(adapters.size() + 1)));
+        adapters.push_back(DescribeAdapter(info, static_cast<unsigned>(adapters.size() + 1)));
     if (host.json())
         return PrintJson(host.out(), adapters);
 

@@ -235,9 +235,10 @@ void AddBestCommand(CommandSet& commands)
              [options](Host& host) { Best(host, *options); })
         .Text("--exclude-profile", options->excludedProfile, "Do not choose this profile")
         .Takes(ValueKind::profile)
-        .Texts("--exclude-ssid", options->excludedSsids,
-               "Do not choose networks whose SSID is this or its beginning, as it is shown or as hex:4361E9; may be given "
-               "several times")
+        .Texts(
+            "--exclude-ssid", options->excludedSsids,
+            "Do not choose networks whose SSID is this or its beginning, as it is shown or as hex:4361E9; may be given "
+            "several times")
         .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
         .Examples("Join the best network, but no hot spot:\n"
                   "  calvix best --exclude-ssid Guest --exclude-ssid hex:436166E9");

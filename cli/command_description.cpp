@@ -11,7 +11,7 @@ namespace
 {
 
 /// "-o,--output" in its parts, the long one first.
-std::vector<std::string> NamesOf(const std::string& declared)
+std::vector<std::string> DeclaredNames(const std::string& declared)
 {
     std::vector<std::string> names;
     for (std::size_t begin = 0; begin <= declared.size();)
@@ -52,8 +52,7 @@ public:
         m_arguments->back().byDefault = value;
         return *this;
     }
-    Arguments&
-    OneOf(const char* name, std::string&, const std::vector<std::string>& choices, const char* help) override
+    Arguments& OneOf(const char* name, std::string&, const std::vector<std::string>& choices, const char* help) override
     {
         Add(name, ValueKind::choice, help);
         m_arguments->back().choices = choices;
@@ -87,7 +86,7 @@ private:
         if (name.front() == '[')
             name = name.substr(1, name.size() - 2);
         ArgumentDescription argument;
-        argument.names = NamesOf(name);
+        argument.names = DeclaredNames(name);
         argument.help = help;
         argument.takes = takes;
         argument.required = !optional;

@@ -213,7 +213,9 @@ ParseArguments(const std::vector<std::string>& given, std::ostream& out, std::os
     }
     catch (const CLI::ParseError& error)
     {
-        const bool asked = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success);
+        // Asked for help on what there is not, the parser would tell all about the program.
+        const bool asked = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success) &&
+                           !NamesUnknownCommand(DescribeProgram(), arguments);
         exitCode = asked ? ExitCode::success : ExitCode::badInput;
         if (asked)
             app.exit(error, out, err);

@@ -33,9 +33,8 @@ struct Completion
 };
 
 /// Adapters or profiles by the names that the options on the line lead to: --scenario and --interface.
-using LiveNames = std::function<std::vector<CompletionWord>(ValueKind kind,
-                                                            const std::string& scenario,
-                                                            const std::string& adapter)>;
+using LiveNames =
+    std::function<std::vector<CompletionWord>(ValueKind kind, const std::string& scenario, const std::string& adapter)>;
 
 /// Completes a command line: the words before the cursor's, without the program's, and the beginning of that one.
 Completion Complete(const ProgramDescription& program,

@@ -1,7 +1,9 @@
 #include "describe.h"
 
 #include "core/fixed_text.h"
+#include "core/interface_state_text.h"
 #include "platform/records/wlan_constants.h"
+#include "simulation/guid_text.h"
 #include "table.h"
 #include "text_forms.h"
 #include "words.h"
@@ -14,14 +16,20 @@ SsidFacts DescribeSsid(const DOT11_SSID& ssid)
     return {SsidText(ssid), HexText(SsidBytes(ssid))};
 }
 
-AdapterFacts DescribeAdapter(Host& host, const WLAN_INTERFACE_INFO& info, unsigned number)
+std::string StateText(unsigned long state)
+{
+    const std::string_view text = InterfaceStateText(state);
+    return text.empty() ? "unknown(" + std::to_string(state) + ")" : std::string(text);
+}
+
+AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number)
 {
     AdapterFacts facts;
     facts.number = number;
-    facts.guid = host.manager().GUID2String(info.InterfaceGuid);
+    facts.guid = simulation::GuidText(info.InterfaceGuid);
     facts.description = Narrow(FixedText(info.strInterfaceDescription));
     facts.state = static_cast<unsigned>(info.isState);
-    facts.stateText = host.manager().GetWlanInterfaceState(facts.state);
+    facts.stateText = StateText(facts.state);
     return facts;
 }
 

@@ -1,6 +1,7 @@
 #include "command.h"
 #include "host.h"
 #include "json_output.h"
+#include "nearest_word.h"
 #include "result_codes.h"
 #include "table.h"
 
@@ -92,13 +93,23 @@ void ExplainCode(Host& host, const MethodResults& results, long long code)
         host.out() << "What to do: " << explanation.advice << ".\n";
 }
 
+Failure UnknownMethod(const std::string& method)
+{
+    std::vector<std::string> names;
+    for (const MethodResults& results : AllMethodResults())
+        names.emplace_back(results.method);
+    const std::string nearest = NearestWord(method, names);
+    return BadInput("the library has no method \"" + method + "\"",
+                    (nearest.empty() ? "" : "did you mean " + nearest + "? ") + "The methods: calvix explain");
+}
+
 void Explain(Host& host, const ExplainOptions& options)
 {
     if (options.method.empty())
         return ListMethods(host);
     const MethodResults* const results = FindMethod(options.method);
     if (results == nullptr)
-        throw BadInput("the library has no method \"" + options.method + "\"", "list the methods with: calvix explain");
+        throw UnknownMethod(options.method);
     if (options.code.empty())
         return ExplainMethod(host, *results);
     ExplainCode(host, *results, NumberOf(options.code));

@@ -16,9 +16,9 @@ namespace calvix::host
 enum class ExitCode
 {
     success = 0,
-    failed = 1,      ///< the operation failed
-    badInput = 2,    ///< bad usage, or a file that cannot be used
-    unavailable = 3, ///< no adapter, or the WLAN service cannot be reached
+    failed = 1,       ///< the operation failed
+    badInput = 2,     ///< bad usage, or a file that cannot be used
+    unavailable = 3,  ///< no adapter, or the WLAN service cannot be reached
     notConfirmed = 4, ///< the question whether to go on was not answered with yes
     departed = 5      ///< the command departed from the recording that it was replayed from
 };

@@ -14,7 +14,11 @@ namespace
 /// The library's listings go to its trace; here they are the result.
 void List(Host& host, const char* method, int (CWirelessManage::*listing)())
 {
-    host.adapter();
+    // It is about all adapters, but one that was named must be there.
+    if (host.options().adapter.empty())
+        host.adapters();
+    else
+        host.adapter();
     int result = 0;
     const std::string text = FromActiveCodePage(host.CaptureTrace([&] { result = (host.manager().*listing)(); }));
     if (host.json() && result == 0)
@@ -51,12 +55,14 @@ void ListSoftAps(Host& host)
 void AddListCommands(CommandSet& commands)
 {
     commands.AddFamily("list", "The library's own diagnostic listings: networks, bss");
-    commands.Add("list networks", "List what every adapter sees, networks with their flags",
-                 [](Host& host) { List(host, "GetAvailableNetwork", &CWirelessManage::GetAvailableNetwork); })
+    commands
+        .Add("list networks", "List what every adapter sees, networks with their flags",
+             [](Host& host) { List(host, "GetAvailableNetwork", &CWirelessManage::GetAvailableNetwork); })
         .Examples("Networks as the library lists them:\n"
                   "  calvix list networks");
-    commands.Add("list bss", "List what every adapter sees, access points with their radio",
-                 [](Host& host) { List(host, "GetNetworkBss", &CWirelessManage::GetNetworkBss); })
+    commands
+        .Add("list bss", "List what every adapter sees, access points with their radio",
+             [](Host& host) { List(host, "GetNetworkBss", &CWirelessManage::GetNetworkBss); })
         .Examples("Access points as the library lists them:\n"
                   "  calvix list bss");
     commands.Add("softap", "List the software access points in view: networks whose SSID holds LC#", ListSoftAps)

@@ -61,6 +61,8 @@ std::string InSynopsis(const ArgumentDescription& argument)
 void WriteArgument(std::ostream& out, const ArgumentDescription& argument)
 {
     out << ".TP\n" << Spelled(argument) << '\n' << Escaped(WithFullStop(argument.help));
+    if (!argument.isOption() && !argument.choices.empty())
+        out << " One of " << Escaped(ValueText(argument.takes, argument.choices)) << '.';
     if (argument.takes == ValueKind::number && argument.byDefault)
         out << " Default: " << *argument.byDefault << '.';
     out << '\n';
@@ -96,7 +98,8 @@ void WriteEnd(std::ostream& out)
 {
     out << ".SH EXIT STATUS\n";
     for (const ExitCodeText& text : AllExitCodes())
-        out << ".TP\n" << Bold(std::to_string(static_cast<int>(text.code))) << '\n'
+        out << ".TP\n"
+            << Bold(std::to_string(static_cast<int>(text.code))) << '\n'
             << Escaped(WithFullStop(text.meaning)) << '\n';
     out << ".SH ENVIRONMENT\n";
     for (const EnvironmentText& text : AllEnvironmentTexts())

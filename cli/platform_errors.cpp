@@ -20,7 +20,8 @@ struct PlatformError
 
 constexpr const char* kAllowLocation =
     "allow location access for desktop apps (Settings, Privacy & security, Location): switch on \"Location services\", "
-    "\"Let apps access your location\" and \"Let desktop apps access your location\". Windows 11 24H2 and later ask for "
+    "\"Let apps access your location\" and \"Let desktop apps access your location\". Windows 11 24H2 and later ask "
+    "for "
     "it; start ms-settings:privacy-location opens the page";
 
 constexpr const char* kOfAnotherUser =
@@ -39,7 +40,8 @@ constexpr PlatformError kErrors[] = {
     {50, "not supported", "the adapter or its driver cannot do this"},
     {87, "invalid parameter", "check the adapter's GUID: the adapter may have been removed; check the profile's name"},
     {122, "buffer too small", "pass a larger buffer, or a shorter name"},
-    {126, "module not found", "wlanapi.dll is missing. On Windows Server install the feature \"Wireless LAN Service\" (as administrator: "
+    {126, "module not found",
+     "wlanapi.dll is missing. On Windows Server install the feature \"Wireless LAN Service\" (as administrator: "
      "Install-WindowsFeature Wireless-Networking) and restart"},
     {127, "procedure not found", "this version of the system lacks the operation"},
     {170, "busy", "wait a moment and try again"},
@@ -51,7 +53,8 @@ constexpr PlatformError kErrors[] = {
     {1060, "no such service",
      "on Windows Server install the feature \"Wireless LAN Service\" (as administrator: Install-WindowsFeature "
      "Wireless-Networking) and restart"},
-    {1062, "the WLAN service is not running", "start the service \"WLAN AutoConfig\" (as administrator: sc start WlanSvc)"},
+    {1062, "the WLAN service is not running",
+     "start the service \"WLAN AutoConfig\" (as administrator: sc start WlanSvc)"},
     {1113, "a character has no counterpart in the code page",
      "the name has characters outside the active code page: use the operation that takes wide text"},
     {1168, "not found", "check the name, upper and lower case included, and that the adapter is still there"},

@@ -12,9 +12,10 @@ inline constexpr const char* kVersionNumber = "1.0.0";
 inline constexpr const char* kProgramSummary = "wireless networks: adapters, scans, profiles, connections";
 
 inline constexpr const char* kProgramDescription =
-    "Shows and changes what the WLAN service knows and does. Results go to standard output, failures, progress and "
-    "trace lines to standard error. With --scenario the commands work on a simulated computer in place of the real "
-    "one; where there is no WLAN service, a built-in one is used.";
+    "Shows and changes what the WLAN service knows and does. Results go to standard output,\n"
+    "failures, progress and trace lines to standard error. With --scenario the commands work on\n"
+    "a simulated computer in place of the real one; off Windows there is no other, and a\n"
+    "built-in one is used where none is named.";
 
 inline constexpr const char* kProgramExamples = R"(What is there, and how strong:
   calvix networks

@@ -38,7 +38,7 @@ void WritePage(Host& host, const ReportOptions& options, const ReportFacts& repo
 void MakeReport(Host& host, const ReportOptions& options)
 {
     if (options.picture.roamEvery != 0 && options.picture.seconds == 0)
-        throw BadInput("--roam goes with --duration", "say how long to follow the signal: --duration SECONDS");
+        throw BadInput("--roam goes with --for", "say how long to follow the signal: --for SECONDS");
     ReportFacts report = TakePicture(host, options.picture);
     report.title = options.title;
     WritePage(host, options, report);
@@ -55,16 +55,15 @@ void AddReportCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<ReportOptions>();
     commands
-        .Add("report", "Write a page with a picture of the air",
-             [options](Host& host) { MakeReport(host, *options); })
+        .Add("report", "Write a page with a picture of the air", [options](Host& host) { MakeReport(host, *options); })
         .Text("-o,--output", options->file, "The page's file, - for standard output (default: air.html)")
         .Takes(ValueKind::file)
         .Text("--title", options->title, "The page's title")
-        .Number("--duration", options->picture.seconds, "Seconds to follow the signal first; 0: only how it is now")
+        .Number("--for", options->picture.seconds, "Seconds to follow the signal first; 0: only how it is now")
         .Number("--roam", options->picture.roamEvery,
                 "Meanwhile roam when it is time, deciding every so many seconds; 0: never")
         .Examples("With a minute of the signal:\n"
-                  "  calvix report -o air.html --duration 60");
+                  "  calvix report -o air.html --for 60");
 }
 
 } // namespace calvix::host

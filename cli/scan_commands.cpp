@@ -178,10 +178,9 @@ void AddScanCommands(CommandSet& commands)
         .Number("--timeout", options->seconds, "Seconds to wait at most")
         .Examples("The driver takes its time:\n"
                   "  calvix scan --timeout 30");
-    AddScanning(
-        commands.Add("networks", "List the visible networks, one line for each and each matching profile",
-                          [options](Host& host) { ListNetworks(host, *options); }),
-             options)
+    AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
+                             [options](Host& host) { ListNetworks(host, *options); }),
+                options)
         .Examples("As they are now, and not as they were at the service's last scan:\n"
                   "  calvix networks --scan");
     AddScanning(commands.Add("bss", "List the access points in view",

@@ -39,6 +39,14 @@ auto CopyOf(const List& list)
 
 } // namespace
 
+std::vector<HeardAccessPoint> ReadAccessPoints(const WLAN_BSS_LIST& list)
+{
+    std::vector<HeardAccessPoint> heard;
+    for (const WLAN_BSS_ENTRY& entry : Items(list))
+        heard.push_back({entry, ElementsOf(list, entry)});
+    return heard;
+}
+
 ServiceView::ServiceView()
 {
     DWORD version = 0;
@@ -82,10 +90,7 @@ std::vector<HeardAccessPoint> ServiceView::AccessPointsWithElements(const GUID* 
 {
     BssList list;
     EveryAccessPoint(adapter, list);
-    std::vector<HeardAccessPoint> heard;
-    for (const WLAN_BSS_ENTRY& entry : Items(*list))
-        heard.push_back({entry, ElementsOf(*list, entry)});
-    return heard;
+    return ReadAccessPoints(*list);
 }
 
 void ServiceView::AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& list)

@@ -7,9 +7,6 @@
 namespace calvix::host
 {
 
-namespace
-{
-
 ConnectionFacts DescribeConnection(const WLAN_CONNECTION_ATTRIBUTES& attributes)
 {
     const WLAN_ASSOCIATION_ATTRIBUTES& association = attributes.wlanAssociationAttributes;
@@ -27,6 +24,9 @@ ConnectionFacts DescribeConnection(const WLAN_CONNECTION_ATTRIBUTES& attributes)
     facts.transmitKbps = association.ulTxRate;
     return facts;
 }
+
+namespace
+{
 
 /// What not every driver tells, and is left out where it is refused.
 void AddMeasurements(Host& host, WLAN_CONNECTION_ATTRIBUTES& attributes, ConnectionFacts& facts)
@@ -91,7 +91,7 @@ StatusFacts ReadStatus(Host& host)
             number = i + 1;
         }
     }
-    status.adapter = DescribeAdapter(host, now, number);
+    status.adapter = DescribeAdapter(now, number);
     if (!StandsConnected(now.isState))
         return status;
     WLAN_CONNECTION_ATTRIBUTES attributes{};
@@ -103,8 +103,9 @@ StatusFacts ReadStatus(Host& host)
 
 void PrintStatus(Host& host, const StatusFacts& status)
 {
-    std::vector<std::pair<std::string, std::string>> pairs = {{"Adapter", status.adapter.description},
-                                                              {"State", status.adapter.stateText}};
+    std::vector<std::pair<std::string, std::string>> pairs = {
+        {"Adapter", status.adapter.description},
+        {"State", Toned(status.adapter.stateText, status.connection ? Tone::good : Tone::plain, host.terminal())}};
     if (status.connection)
     {
         for (const auto& pair : PairsOf(*status.connection, host.terminal()))

@@ -25,6 +25,14 @@ std::vector<std::string> CommandNames(const ProgramDescription& program, const s
     return names;
 }
 
+WordReader ReadAll(const ProgramDescription& program, const std::vector<std::string>& arguments)
+{
+    WordReader reader(program);
+    for (const std::string& word : arguments)
+        reader.Take(word);
+    return reader;
+}
+
 std::string Meant(const std::string& nearest)
 {
     return nearest.empty() ? "" : "did you mean " + nearest + "? ";
@@ -60,13 +68,16 @@ Failure NoCommand(const WordReader& reader)
 
 } // namespace
 
+bool NamesUnknownCommand(const ProgramDescription& program, const std::vector<std::string>& arguments)
+{
+    return !ReadAll(program, arguments).unknownCommand().empty();
+}
+
 Failure UsageFailure(const ProgramDescription& program,
                      const std::vector<std::string>& arguments,
                      const std::string& parserWords)
 {
-    WordReader reader(program);
-    for (const std::string& word : arguments)
-        reader.Take(word);
+    const WordReader reader = ReadAll(program, arguments);
     if (!reader.unknownCommand().empty())
         return UnknownCommand(program, reader);
     if (!reader.unknownOption().empty())

@@ -15,4 +15,7 @@ Failure UsageFailure(const ProgramDescription& program,
                      const std::vector<std::string>& arguments,
                      const std::string& parserWords);
 
+/// Whether a word stands in the place of a command and is none.
+bool NamesUnknownCommand(const ProgramDescription& program, const std::vector<std::string>& arguments);
+
 } // namespace calvix::host

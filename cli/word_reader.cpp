@@ -65,13 +65,16 @@ void WordReader::TakeOption(const std::string& word)
 
 void WordReader::TakeCommandWord(const std::string& word)
 {
+    // Behind a word that is nothing, no other means anything.
+    if (!m_unknownCommand.empty())
+        return;
     m_command = m_program.FindCommand(m_family != nullptr ? m_family->name + " " + word : word);
     if (m_command != nullptr)
         return;
     const FamilyDescription* const family = m_family == nullptr ? m_program.FindFamily(word) : nullptr;
     if (family != nullptr)
         m_family = family;
-    else if (m_unknownCommand.empty())
+    else
         m_unknownCommand = word;
 }
 

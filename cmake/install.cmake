@@ -1,5 +1,5 @@
 # What `cmake --install` puts where, in four components:
-#   runtime        the shared library and the command-line host
+#   runtime        the shared library and the command-line host, with its manual page and completion
 #   development    headers, the import library, the CMake package and the pkg-config file
 #   simulation     on Windows, the simulated computer in the place of the system's WLAN library
 #   documentation  pages, examples and the scenario gallery, in one folder, so that their links to each other hold
@@ -42,6 +42,18 @@ file(RELATIVE_PATH pc_includedir "${CMAKE_INSTALL_PREFIX}" "${CMAKE_INSTALL_FULL
 configure_file(cmake/calvix.pc.in calvix.pc @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/calvix.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+
+# Completion and the manual page are for shells and man, which Windows has none of in fixed places: there the program
+# prints them. The page is a copy of what it prints, and the tests compare the two.
+if(TARGET calvix_host AND NOT WIN32)
+    install(FILES docs/calvix.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT runtime)
+    install(FILES cli/completions/calvix.bash RENAME calvix
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT runtime)
+    install(FILES cli/completions/_calvix
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT runtime)
+    install(FILES cli/completions/calvix.fish
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT runtime)
+endif()
 
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)
 install(DIRECTORY docs scenarios examples DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documentation)

@@ -26,13 +26,15 @@ _calvix()
     current=${current//[\"\'\\]/}
     before=("${before[@]//[\"\'\\]/}")
 
+    local program=${COMP_WORDS[0]//[\"\'\\]/}
+    program=${program/#\~\//$HOME/}
     local -a arguments=()
     [[ $current ]] && arguments+=("--current=$current")
     local -a lines=()
     local IFS=$'\n'
     while read -r word; do
         lines+=("${word%$'\r'}")
-    done < <("${COMP_WORDS[0]//[\"\'\\]/}" complete "${arguments[@]}" -- "${before[@]}" 2>/dev/null)
+    done < <("$program" complete "${arguments[@]}" -- "${before[@]}" 2>/dev/null)
 
     COMPREPLY=()
     for word in "${lines[@]:1}"; do

@@ -13,6 +13,8 @@ namespace
 
 constexpr unsigned kMillisecondsBetweenSamples = 1000;
 
+} // namespace
+
 void NoteHeard(std::vector<AirAccessPoint>& heard, const AirAccessPoint& point)
 {
     const auto known =
@@ -24,7 +26,7 @@ void NoteHeard(std::vector<AirAccessPoint>& heard, const AirAccessPoint& point)
         *known = point;
 }
 
-/// What has become of the link since the sample before. Between two access points of a network the link is down for a
+/// Between two access points of a network the link is down for a
 /// moment, in which a sample may fall: that is one move.
 void NoteEvent(HistoryFacts& history, const SignalFacts& before, const SignalSample& now)
 {
@@ -44,6 +46,9 @@ void NoteEvent(HistoryFacts& history, const SignalFacts& before, const SignalSam
     }
     history.events.push_back(event);
 }
+
+namespace
+{
 
 void AddSample(Host& host, HistoryFacts& history, unsigned second)
 {

@@ -65,6 +65,18 @@ struct MissingPart
     FailureReport failure;
 };
 
+/// The recording that the picture was made of.
+struct RecordingFacts
+{
+    std::string file; ///< its name, without the folders
+    bool simulated = false;
+    bool anonymised = false;
+    std::vector<std::string> notTold; ///< what it does not tell, in sentences
+    std::string brokenOff;            ///< where it breaks off: "session.jsonl:12: ..."; empty: it is whole
+    bool tellsAdapters = false;
+    bool tellsProfiles = false;
+};
+
 /// Everything that the page shows.
 struct ReportFacts
 {
@@ -79,6 +91,7 @@ struct ReportFacts
     std::vector<ChoiceFacts> choices;
     HistoryFacts history;
     std::vector<MissingPart> missing;
+    std::optional<RecordingFacts> recording; ///< none: the picture is of this computer
 };
 
 } // namespace calvix::host

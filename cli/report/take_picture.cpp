@@ -2,12 +2,12 @@
 
 #include "best.h"
 #include "describe.h"
-#include "platform/platform.h"
 #include "profiles.h"
-#include "service_view.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <limits>
 
 namespace calvix::host
 {
@@ -34,18 +34,22 @@ bool TakePart(ReportFacts& report, const char* part, Action action)
 /// The service's time stamp as the computer's calendar has it; empty for one that is none.
 std::string MomentOf(std::uint64_t hostTime)
 {
-    FILETIME fileTime{};
-    fileTime.dwLowDateTime = static_cast<DWORD>(hostTime & 0xffffffffU);
-    fileTime.dwHighDateTime = static_cast<DWORD>(hostTime >> 32U);
-    SYSTEMTIME time{};
-    constexpr unsigned firstYear = 2000; // drivers without a clock stamp from the start of the computer
-    if (!platform::clock().FileTimeToSystemTime(&fileTime, &time) || time.wYear < firstYear)
+    using namespace std::chrono;
+    constexpr std::uint64_t unitsInSecond = 10000000;
+    constexpr sys_days beginning = 1601y / January / 1;
+    constexpr auto first = 2000y; // drivers without a clock stamp from the start of the computer
+    if (hostTime > (std::numeric_limits<std::int64_t>::max)())
+        return {};
+    const auto moment = beginning + seconds(static_cast<std::int64_t>(hostTime / unitsInSecond));
+    const year_month_day date(floor<days>(moment));
+    const hh_mm_ss time(moment - floor<days>(moment));
+    if (date.year() < first)
         return {};
     char text[64];
-    std::snprintf(text, sizeof(text), "%04u-%02u-%02u %02u:%02u:%02u UTC", static_cast<unsigned>(time.wYear),
-                  static_cast<unsigned>(time.wMonth), static_cast<unsigned>(time.wDay),
-                  static_cast<unsigned>(time.wHour), static_cast<unsigned>(time.wMinute),
-                  static_cast<unsigned>(time.wSecond));
+    std::snprintf(text, sizeof(text), "%04d-%02u-%02u %02d:%02d:%02d UTC", static_cast<int>(date.year()),
+                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                  static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
+                  static_cast<int>(time.seconds().count()));
     return text;
 }
 
@@ -53,7 +57,7 @@ void TakeAdapters(Host& host, ReportFacts& report)
 {
     host.adapter();
     for (const WLAN_INTERFACE_INFO& info : host.adapters())
-        report.adapters.push_back(DescribeAdapter(host, info, static_cast<unsigned>(report.adapters.size() + 1)));
+        report.adapters.push_back(DescribeAdapter(info, static_cast<unsigned>(report.adapters.size() + 1)));
 }
 
 std::string BssidInUse(const ReportFacts& report)
@@ -103,6 +107,22 @@ void TakeAccessPoints(Host& host, ReportFacts& report)
 {
     report.accessPoints = ListAir(host);
     report.airKnown = true;
+    ArrangePicture(report);
+}
+
+} // namespace
+
+AirAccessPoint DescribeHeard(const HeardAccessPoint& heard)
+{
+    AirAccessPoint point;
+    point.facts = DescribeAccessPoint(heard.entry);
+    point.beacon = ReadBeacon(heard.entry, heard.elements);
+    point.hostTime = heard.entry.ullHostTimestamp;
+    return point;
+}
+
+void ArrangePicture(ReportFacts& report)
+{
     std::uint64_t newest = 0;
     for (AirAccessPoint& point : report.accessPoints)
     {
@@ -115,19 +135,11 @@ void TakeAccessPoints(Host& host, ReportFacts& report)
     Arrange(report.accessPoints);
 }
 
-} // namespace
-
 std::vector<AirAccessPoint> ListAir(Host& host)
 {
     std::vector<AirAccessPoint> air;
     for (const HeardAccessPoint& heard : host.service().AccessPointsWithElements(host.adapterGuid()))
-    {
-        AirAccessPoint point;
-        point.facts = DescribeAccessPoint(heard.entry);
-        point.beacon = ReadBeacon(heard.entry, heard.elements);
-        point.hostTime = heard.entry.ullHostTimestamp;
-        air.push_back(point);
-    }
+        air.push_back(DescribeHeard(heard));
     return air;
 }
 

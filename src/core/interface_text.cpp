@@ -1,17 +1,12 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/bounded_copy.h"
+#include "core/interface_state_text.h"
 #include "core/trace.h"
-
-#include <string_view>
 
 using namespace calvix;
 
-namespace
-{
-
-/// Text of an interface state, empty for a number that is none.
-std::string_view InterfaceStateText(unsigned long state)
+std::string_view calvix::InterfaceStateText(unsigned long state)
 {
     switch (state)
     {
@@ -35,8 +30,6 @@ std::string_view InterfaceStateText(unsigned long state)
         return {};
     }
 }
-
-} // namespace
 
 char* CWirelessManage::GetWlanInterfaceState(unsigned long state)
 {

@@ -49,6 +49,17 @@ Outcome CliTest::Run(const std::vector<std::string>& arguments, host::TerminalTr
     return outcome;
 }
 
+Outcome CliTest::RunTogether(const std::vector<std::string>& arguments)
+{
+    ManagerInternals::Reset();
+    std::istringstream in(m_input);
+    std::ostringstream both;
+    Outcome outcome;
+    outcome.exitCode = host::Run(arguments, in, both, both, {});
+    outcome.out = both.str();
+    return outcome;
+}
+
 Outcome
 CliTest::RunOn(const simulation::Scenario& world, std::vector<std::string> arguments, host::TerminalTraits terminal)
 {

@@ -38,7 +38,9 @@ protected:
 
     /// Runs the program as a new process would find the library: no instance, no client handle.
     Outcome Run(const std::vector<std::string>& arguments, host::TerminalTraits terminal = {});
-    /// The same with a scenario file of this world.
+    /// The same with standard output and standard error in one stream, `out`, in the order in which they are written.
+    Outcome RunTogether(const std::vector<std::string>& arguments);
+    /// Run with a scenario file of this world.
     Outcome
     RunOn(const simulation::Scenario& world, std::vector<std::string> arguments, host::TerminalTraits terminal = {});
 

@@ -54,7 +54,7 @@ protected:
 
 TEST_F(ConnectingCommands, ConnectWaitsAndShowsTheConnection)
 {
-    const Outcome outcome = RunOn(QuietWorld(), {"connect", "OfficeNet"});
+    const Outcome outcome = RunOn(QuietWorld(), {"connect", "OfficeNet", "--interface", "1"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
     EXPECT_THAT(outcome.out, StartsWith("Connected by \"OfficeNet\".\n\nAdapter:"));
     EXPECT_THAT(outcome.out, HasSubstr("BSSID:          02:22:00:00:50:95\n"));

@@ -118,7 +118,7 @@ TEST_F(MatchCommand, FailsWithoutProfilesOrNetworks)
 
 TEST_F(BestCommand, ShowsTheScoresAndJoinsTheLowest)
 {
-    const Outcome outcome = RunOn(TwoCandidates(), {"best"});
+    const Outcome outcome = RunOn(TwoCandidates(), {"best", "--interface", "1"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
     EXPECT_THAT(outcome.out, StartsWith("#  Profile  SSID    Quality  5 GHz APs  Bonus  Score  Outcome\n"
                                         "1  Weak     Weak         50          1    +10     60  joined\n"

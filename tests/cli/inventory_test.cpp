@@ -129,14 +129,17 @@ TEST_F(NetworksCommand, NamesTheMissingConsent)
 {
     simulation::Scenario world = RichWorld();
     world.locationConsent = false;
-    const Outcome outcome = RunOn(world, {"networks"});
+    const Outcome outcome = RunOn(world, {"networks", "--interface", "1"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_EQ("", outcome.out);
-    EXPECT_EQ("calvix: the list of visible networks could not be fetched: the WLAN service refused "
-              "WlanGetAvailableNetworkList (access denied, 5).\n"
-              "  Result: GetAvailableNetworkCount gave -5.\n"
-              "  What to do: allow location access for desktop apps (Settings, Privacy & security, Location).\n",
-              outcome.err);
+    EXPECT_EQ(
+        "calvix: the list of visible networks could not be fetched: the WLAN service refused "
+        "WlanGetAvailableNetworkList (access denied, 5).\n"
+        "  Result: GetAvailableNetworkCount gave -5.\n"
+        "  What to do: allow location access for desktop apps (Settings, Privacy & security, Location): switch on "
+        "\"Location services\", \"Let apps access your location\" and \"Let desktop apps access your location\". "
+        "Windows 11 24H2 and later ask for it; start ms-settings:privacy-location opens the page.\n",
+        outcome.err);
 }
 
 TEST_F(NetworksCommand, PutsTheFailureIntoTheJson)

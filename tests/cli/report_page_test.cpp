@@ -116,7 +116,7 @@ TEST(HtmlText, EscapesWhatHasAMeaning)
 
 TEST_F(ReportPage, NeedsNothingBesideItself)
 {
-    const std::string page = Run({"report", "-o", "-", "--scenario", kWalk, "--duration", "20"}).out;
+    const std::string page = Run({"report", "-o", "-", "--scenario", kWalk, "--for", "20"}).out;
     EXPECT_EQ(0u, Count(page, "http:"));
     EXPECT_EQ(0u, Count(page, "https:"));
     EXPECT_EQ(0u, Count(page, "src=\""));
@@ -131,7 +131,7 @@ TEST_F(ReportPage, NeedsNothingBesideItself)
 TEST_F(ReportPage, IsTheSameEachTime)
 {
     const std::vector<std::string> command = {"report",     "-o", "-",      "--scenario", kWalk,
-                                              "--duration", "90", "--roam", "1"};
+                                              "--for", "90", "--roam", "1"};
     const std::string page = Run(command).out;
     EXPECT_EQ(page, Run(command).out);
     EXPECT_THAT(page, HasSubstr("heard until 2026-01-01 00:0")) << "by the computer's clock";
@@ -208,7 +208,7 @@ TEST_F(ReportPage, TellsWhatTheAutomaticMethodsWouldDoAndDoesNothing)
 
 TEST_F(ReportPage, MarksTheRoamsOfTheOfficeWalk)
 {
-    const std::string page = Run({"report", "-o", "-", "--scenario", kWalk, "--duration", "240", "--roam", "1"}).out;
+    const std::string page = Run({"report", "-o", "-", "--scenario", kWalk, "--for", "240", "--roam", "1"}).out;
     const json data = DataOf(page);
     EXPECT_EQ(241u, data["samples"].size()) << "one at the beginning and one a second";
     ASSERT_EQ(2u, data["events"].size());
@@ -225,7 +225,7 @@ TEST_F(ReportPage, MarksTheRoamsOfTheOfficeWalk)
 TEST_F(ReportPage, IsMadeOfARecordingToo)
 {
     const std::string recording = PathFor("session.jsonl");
-    std::vector<std::string> command = {"report", "-o", "-", "--duration", "5", "--roam", "1"};
+    std::vector<std::string> command = {"report", "-o", "-", "--for", "5", "--roam", "1"};
     std::vector<std::string> recorded = command;
     recorded.insert(recorded.end(), {"--scenario", kWalk, "--record", recording});
     const std::string page = Run(recorded).out;

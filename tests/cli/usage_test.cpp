@@ -1,6 +1,13 @@
 #include "cli_test.h"
+#include "transcript.h"
 
+#include "command_description.h"
+#include "command_line.h"
+#include "exit_codes.h"
+
+#include <algorithm>
 #include <cstdlib>
+#include <sstream>
 
 namespace calvix::test::usage_test
 {
@@ -9,9 +16,45 @@ namespace
 
 using ::testing::HasSubstr;
 using ::testing::Not;
+using ::testing::StartsWith;
+
+/// A command line without the program's name; only quotation marks around blanks mean something.
+std::vector<std::string> WordsOf(const std::string& line)
+{
+    std::vector<std::string> words = ShellWords(line);
+    if (!words.empty() && words.front() == "calvix")
+        words.erase(words.begin());
+    const auto redirection =
+        std::find_if(words.begin(), words.end(), [](const std::string& one) { return one == ">" || one == "|"; });
+    words.erase(redirection, words.end());
+    return words;
+}
+
+std::string WithoutSequences(const std::string& text)
+{
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        if (text[i] == '\x1b')
+            i = text.find('m', i);
+        else
+            plain += text[i];
+    }
+    return plain;
+}
 
 class Usage : public CliTest
 {
+protected:
+    /// What the parser has against a command line, empty: nothing.
+    static std::string Refusal(const std::vector<std::string>& words)
+    {
+        std::ostringstream out;
+        std::ostringstream err;
+        host::ExitCode exitCode = host::ExitCode::success;
+        host::ParseArguments(words, out, err, exitCode);
+        return err.str();
+    }
 };
 class CommonOptions : public CliTest
 {
@@ -56,58 +99,6 @@ TEST_F(Usage, TellsTheVersion)
     const Outcome outcome = Run({"--version"});
     EXPECT_EQ(kSuccess, outcome.exitCode);
     EXPECT_EQ("calvix 1.0.0\n", outcome.out);
-}
-
-TEST_F(Usage, NamesTheCommonOptionsInEveryCommand)
-{
-    for (const std::vector<std::string>& command : std::vector<std::vector<std::string>>{{"adapters"},
-                                                                                         {"scan"},
-                                                                                         {"networks"},
-                                                                                         {"bss"},
-                                                                                         {"profiles", "list"},
-                                                                                         {"profiles", "show"},
-                                                                                         {"profiles", "add"},
-                                                                                         {"profiles", "delete"},
-                                                                                         {"profiles", "move"},
-                                                                                         {"status"},
-                                                                                         {"connect"},
-                                                                                         {"disconnect"},
-                                                                                         {"reconnect"},
-                                                                                         {"reset"},
-                                                                                         {"auto"},
-                                                                                         {"switch"},
-                                                                                         {"roam"},
-                                                                                         {"watch"},
-                                                                                         {"radio", "status"},
-                                                                                         {"radio", "on"},
-                                                                                         {"radio", "off"},
-                                                                                         {"radio", "reset"},
-                                                                                         {"radio", "restart"},
-                                                                                         {"settings"},
-                                                                                         {"ihv"},
-                                                                                         {"power", "status"},
-                                                                                         {"power", "keep-awake"},
-                                                                                         {"power", "restore"},
-                                                                                         {"power", "saver"},
-                                                                                         {"power", "sleep"},
-                                                                                         {"power", "privilege"},
-                                                                                         {"run"},
-                                                                                         {"online"},
-                                                                                         {"list", "networks"},
-                                                                                         {"list", "bss"},
-                                                                                         {"softap"},
-                                                                                         {"match"},
-                                                                                         {"best"},
-                                                                                         {"explain"},
-                                                                                         {"import"}})
-    {
-        std::vector<std::string> arguments = command;
-        arguments.push_back("--help");
-        const Outcome outcome = Run(arguments);
-        EXPECT_EQ(kSuccess, outcome.exitCode);
-        for (const char* option : {"--json", "--interface", "--scenario", "--save", "--trace", "--no-color"})
-            EXPECT_THAT(outcome.out, HasSubstr(option)) << command.back();
-    }
 }
 
 TEST_F(CommonOptions, MayStandBeforeTheCommand)
@@ -196,6 +187,83 @@ TEST_F(CommonOptions, ShowTheTraceOnStandardError)
     EXPECT_THAT(RunOn(NoProfileWorld(), {"match"}).err, Not(HasSubstr("trace:")));
 }
 
+TEST_F(Usage, TellsEveryCommandsOptionsWithAnExample)
+{
+    for (const host::CommandDescription& command : host::DescribeProgram().commands)
+    {
+        // Behind "help", help is about the program.
+        if (command.hidden || command.path == "help")
+            continue;
+        const Outcome outcome = Run(WordsOf(command.path + " --help"));
+        EXPECT_EQ(kSuccess, outcome.exitCode);
+        EXPECT_THAT(command.examples, HasSubstr("\n  calvix " + command.path)) << command.path;
+        EXPECT_THAT(outcome.out, HasSubstr(command.examples)) << command.path;
+        for (const char* option :
+             {"--json", "--interface", "--scenario", "--save", "--record", "--replay", "--trace", "--color"})
+            EXPECT_THAT(outcome.out, HasSubstr(option)) << command.path;
+    }
+}
+
+TEST_F(Usage, TakesTheExamplesOfEveryCommand)
+{
+    for (const host::CommandDescription& command : host::DescribeProgram().commands)
+    {
+        std::istringstream lines(command.examples);
+        for (std::string line; std::getline(lines, line);)
+        {
+            if (line.starts_with("  calvix ") && !line.starts_with("  calvix help"))
+            {
+                EXPECT_EQ("", Refusal(WordsOf(line))) << line;
+            }
+        }
+    }
+}
+
+TEST_F(Usage, TellsTheSameBehindHelpAndBeforeIt)
+{
+    EXPECT_EQ(Run({"profiles", "move", "--help"}).out, Run({"help", "profiles", "move"}).out);
+    EXPECT_EQ(Run({"radio", "--help"}).out, Run({"help", "radio"}).out);
+    EXPECT_EQ(Run({"--help"}).out, Run({"help"}).out);
+    EXPECT_EQ(kSuccess, Run({"help", "scan"}).exitCode);
+    EXPECT_EQ(kBadInput, Run({"help", "scna"}).exitCode);
+}
+
+TEST_F(Usage, SuggestsWhatWasProbablyMeant)
+{
+    const auto errorOf = [this](const std::string& line) { return Run(WordsOf(line)).err; };
+    EXPECT_THAT(errorOf("netwroks"), HasSubstr("did you mean networks?"));
+    EXPECT_THAT(errorOf("prof list"), HasSubstr("did you mean profiles?"));
+    EXPECT_THAT(errorOf("radio restrat"), HasSubstr("radio has no command \"restrat\"."));
+    EXPECT_THAT(errorOf("radio restrat"), HasSubstr("did you mean restart?"));
+    EXPECT_THAT(errorOf("bss --chrat"), HasSubstr("bss has no option --chrat."));
+    EXPECT_THAT(errorOf("bss --chrat"), HasSubstr("did you mean --chart?"));
+    EXPECT_THAT(errorOf("bss --scenari=x.json"), HasSubstr("did you mean --scenario?"));
+    EXPECT_THAT(errorOf("qqqqqq"), Not(HasSubstr("did you mean")));
+}
+
+TEST_F(Usage, IsAnErrorInJsonToo)
+{
+    const Outcome outcome = Run({"scan", "--json", "--timout", "5"});
+    EXPECT_EQ(kBadInput, outcome.exitCode);
+    EXPECT_THAT(outcome.out, HasSubstr("\"message\": \"scan has no option --timout\""));
+    EXPECT_THAT(outcome.out, HasSubstr("\"exitCode\": 2"));
+    EXPECT_THAT(outcome.err, HasSubstr("calvix: scan has no option --timout."));
+}
+
+TEST_F(Usage, EndsWithTheExitCodesThatThePageTells)
+{
+    const std::string page = Content(CALVIX_SOURCE_DIR "/docs/command-line.md");
+    const std::string help = Run({"scan", "--help"}).out;
+    const std::string manual = Run({"manual"}).out;
+    for (const host::ExitCodeText& text : host::AllExitCodes())
+    {
+        const std::string number = std::to_string(static_cast<int>(text.code));
+        EXPECT_THAT(help, HasSubstr("\n  " + number + "  " + text.meaning + "\n"));
+        EXPECT_THAT(manual, HasSubstr("\n\\fB" + number + "\\fR\n"));
+        EXPECT_THAT(page, HasSubstr("\n| " + number + " | " + text.meaning + " |\n"));
+    }
+}
+
 TEST_F(CommonOptions, DecideAboutColours)
 {
     const host::TerminalTraits terminal{.isTerminal = true, .color = true};
@@ -204,6 +272,71 @@ TEST_F(CommonOptions, DecideAboutColours)
     const Outcome plain = RunOn(RichWorld(), {"networks", "--no-color"}, terminal);
     EXPECT_THAT(plain.out, Not(HasSubstr("\x1b[")));
     EXPECT_THAT(plain.out, HasSubstr("▂▄▆█"));
+    EXPECT_EQ(plain.out, RunOn(RichWorld(), {"networks", "--color", "never"}, terminal).out);
+    EXPECT_EQ(RunOn(RichWorld(), {"networks"}, terminal).out,
+              RunOn(RichWorld(), {"networks", "--color", "auto"}, terminal).out);
+
+    const Outcome piped = RunOn(RichWorld(), {"networks", "--color=always"});
+    EXPECT_THAT(piped.out, HasSubstr("\x1b[32m####\x1b[0m"));
+    EXPECT_THAT(RunOn(RichWorld(), {"networks"}).out, Not(HasSubstr("\x1b[")));
+}
+
+TEST_F(CommonOptions, ColourFailuresOnATerminalOfTheirOwn)
+{
+    const host::TerminalTraits piped{.errorColor = true};
+    EXPECT_THAT(RunOn(NoAdapterWorld(), {"adapters"}, piped).err, HasSubstr("\x1b[31mcalvix:\x1b[0m the computer has"));
+    EXPECT_THAT(RunOn(NoAdapterWorld(), {"adapters", "--no-color"}, piped).err, StartsWith("calvix: the computer has"));
+    EXPECT_THAT(RunOn(NoAdapterWorld(), {"adapters"}).err, StartsWith("calvix: the computer has"));
+}
+
+TEST_F(CommonOptions, MeanNothingInColourAlone)
+{
+    for (const char* command : {"networks", "bss", "adapters", "status", "best", "match"})
+    {
+        const std::string colored = RunOn(RichWorld(), {command, "--color", "always"}).out;
+        EXPECT_EQ(RunOn(RichWorld(), {command}).out, WithoutSequences(colored)) << command;
+    }
+}
+
+TEST(Console, GetsColoursOnlyWhereTheyAreWelcome)
+{
+    const host::ConsoleFindings console{.outIsTerminal = true, .errorIsTerminal = true, .noColor = "", .term = "xterm"};
+    EXPECT_TRUE(host::TraitsOf(console).color);
+    EXPECT_TRUE(host::TraitsOf(console).errorColor);
+    EXPECT_TRUE(host::TraitsOf(console).isTerminal);
+
+    host::ConsoleFindings unwanted = console;
+    unwanted.noColor = "0";
+    EXPECT_FALSE(host::TraitsOf(unwanted).color);
+    EXPECT_FALSE(host::TraitsOf(unwanted).errorColor);
+    EXPECT_TRUE(host::TraitsOf(unwanted).isTerminal);
+
+    host::ConsoleFindings dumb = console;
+    dumb.term = "dumb";
+    EXPECT_FALSE(host::TraitsOf(dumb).color);
+    EXPECT_FALSE(host::TraitsOf(dumb).isTerminal) << "lines that draw themselves would pile up";
+
+    host::ConsoleFindings old = console;
+    old.sequences = false;
+    EXPECT_FALSE(host::TraitsOf(old).color);
+    EXPECT_TRUE(host::TraitsOf(old).isTerminal);
+
+    host::ConsoleFindings piped = console;
+    piped.outIsTerminal = false;
+    EXPECT_FALSE(host::TraitsOf(piped).color);
+    EXPECT_TRUE(host::TraitsOf(piped).errorColor);
+    EXPECT_FALSE(host::TraitsOf({}).color);
+}
+
+TEST_F(CommonOptions, TellWhichOfSeveralAdaptersIsMeant)
+{
+    const Outcome first = RunOn(RichWorld(), {"status"});
+    EXPECT_EQ(
+        "calvix: this is the first of 2 adapters, \"Wireless Adapter A\"; --interface 2 is for the second (calvix "
+        "adapters lists them).\n",
+        first.err);
+    EXPECT_EQ("", RunOn(RichWorld(), {"status", "--interface", "1"}).err);
+    EXPECT_EQ("", RunOn(NoProfileWorld(), {"adapters"}).err);
 }
 
 int RunProgram(const std::string& arguments)

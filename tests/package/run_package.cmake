@@ -78,7 +78,12 @@ file(REMOVE_RECURSE "${WORK}")
 run("${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${WORK}/installed")
 file(RENAME "${WORK}/installed" "${tree}")
 expect_file(include/calvix/wireless_manage.h "${DOCDIR}/LICENSE" "${DOCDIR}/README.md" "${DOCDIR}/CHANGELOG.md"
-    "${DOCDIR}/docs/architecture.md" "${DOCDIR}/docs/scenario.schema.json" "${DOCDIR}/scenarios/home.json")
+    "${DOCDIR}/docs/architecture.md" "${DOCDIR}/docs/scenario.schema.json" "${DOCDIR}/scenarios/home.json"
+    "${DOCDIR}/docs/output.schema.json" "${DOCDIR}/docs/troubleshooting.md")
+if(NOT WINDOWS)
+    expect_file("${DATADIR}/man/man1/calvix.1" "${DATADIR}/bash-completion/completions/calvix"
+        "${DATADIR}/zsh/site-functions/_calvix" "${DATADIR}/fish/vendor_completions.d/calvix.fish")
+endif()
 expect_movable()
 
 configure("${CMAKE_CURRENT_LIST_DIR}/consumer" consumer "-DCMAKE_PREFIX_PATH=${tree}" "-DEXPECTED_VERSION=${VERSION}")

@@ -1,0 +1,280 @@
+#include "report/recorded_adapter.h"
+
+#include "core/fixed_text.h"
+#include "core/interface_state_text.h"
+#include "describe.h"
+#include "platform/records/wlan_constants.h"
+#include "report/take_picture.h"
+#include "text_forms.h"
+#include "words.h"
+
+#include <algorithm>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+std::string InQuotes(const std::string& text)
+{
+    return "\xe2\x80\x9c" + text + "\xe2\x80\x9d";
+}
+
+std::string InRow(const std::set<std::string>& names)
+{
+    std::string text;
+    for (const std::string& name : names)
+        text += (text.empty() ? "" : ", ") + InQuotes(name);
+    return text;
+}
+
+bool IsSecured(const WLAN_BSS_ENTRY& entry)
+{
+    constexpr unsigned privacy = 0x0010;
+    return (entry.usCapabilityInformation & privacy) != 0;
+}
+
+/// Whether the list that was asked for would have an access point that is in view.
+bool IsAskedFor(const AirQuestion& asked, const WLAN_BSS_ENTRY& entry)
+{
+    return !asked.ssid ||
+           (SsidBytes(*asked.ssid) == SsidBytes(entry.dot11Ssid) && asked.secured == IsSecured(entry));
+}
+
+/// The text of the first element of this name; empty when there is none.
+std::string TextOfElement(const std::string& xml, const std::string& element)
+{
+    const std::string opening = "<" + element + ">";
+    const std::size_t begin = xml.find(opening);
+    const std::size_t end = xml.find("</" + element + ">", begin == std::string::npos ? 0 : begin);
+    if (begin == std::string::npos || end == std::string::npos)
+        return {};
+    return xml.substr(begin + opening.size(), end - begin - opening.size());
+}
+
+std::string WithoutEntities(std::string text)
+{
+    static constexpr std::pair<const char*, char> entities[] = {
+        {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}, {"&amp;", '&'}};
+    for (const auto& [entity, character] : entities)
+    {
+        for (std::size_t at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1))
+            text.replace(at, std::char_traits<char>::length(entity), 1, character);
+    }
+    return text;
+}
+
+} // namespace
+
+void RecordedAdapter::Hear(const AirQuestion& asked,
+                           const std::vector<HeardAccessPoint>& accessPoints,
+                           unsigned second)
+{
+    m_airKnown = true;
+    m_allAsked = m_allAsked || !asked.ssid;
+    if (asked.ssid)
+        m_networksAsked.insert(SsidText(*asked.ssid));
+    TakeOutOfView(asked);
+    for (const HeardAccessPoint& heard : accessPoints)
+    {
+        m_view[MacText(heard.entry.dot11Bssid)] = heard;
+        NoteHeard(m_history.heard, Described(heard));
+    }
+    AddMoment(second);
+}
+
+/// A list has everything that it was asked for: what is not in it any more is gone.
+void RecordedAdapter::TakeOutOfView(const AirQuestion& asked)
+{
+    for (auto point = m_view.begin(); point != m_view.end();)
+        point = IsAskedFor(asked, point->second.entry) ? m_view.erase(point) : std::next(point);
+}
+
+void RecordedAdapter::Hear(const std::vector<WLAN_PROFILE_INFO>& profiles)
+{
+    m_profiles = profiles;
+    m_profilesChanged = false;
+}
+
+void RecordedAdapter::HearProfile(const std::wstring& xml)
+{
+    const std::string document = Narrow(xml);
+    const std::string mode = TextOfElement(document, "connectionMode");
+    if (mode == "auto" || mode == "manual")
+        m_modes[WithoutEntities(TextOfElement(document, "name"))] = mode;
+}
+
+void RecordedAdapter::HearConnection(const WLAN_CONNECTION_ATTRIBUTES& attributes, unsigned second)
+{
+    if (!StandsConnected(attributes.isState))
+        return Disconnect(second);
+    const WLAN_ASSOCIATION_ATTRIBUTES& association = attributes.wlanAssociationAttributes;
+    m_attributes = attributes;
+    SignalFacts link;
+    link.state = StateText(static_cast<unsigned long>(attributes.isState));
+    link.connected = true;
+    link.profile = Narrow(FixedText(attributes.strProfileName));
+    link.ssid = DescribeSsid(association.dot11Ssid);
+    link.bssid = MacText(association.dot11Bssid);
+    link.quality = association.wlanSignalQuality;
+    if (link.bssid == m_link.bssid)
+        link.rssi = m_link.rssi;
+    NoteLink(link, second);
+}
+
+void RecordedAdapter::HearSignal(int rssi, unsigned second)
+{
+    if (!m_link.connected)
+        return;
+    m_link.rssi = rssi;
+    AddMoment(second);
+}
+
+/// The notification does not name the access point: it is the one of the request, or told by the next answer.
+void RecordedAdapter::Connect(unsigned second)
+{
+    const auto point = m_asked ? m_view.find(*m_asked) : m_view.end();
+    if (point == m_view.end() || m_link.bssid == *m_asked)
+        return;
+    SignalFacts link;
+    link.state = StateText(wlan_interface_state_connected);
+    link.connected = true;
+    link.ssid = DescribeSsid(point->second.entry.dot11Ssid);
+    link.bssid = *m_asked;
+    link.quality = static_cast<unsigned long>(point->second.entry.uLinkQuality);
+    m_attributes.reset();
+    NoteLink(link, second);
+}
+
+void RecordedAdapter::Disconnect(unsigned second)
+{
+    SignalFacts link;
+    link.state = StateText(wlan_interface_state_disconnected);
+    m_attributes.reset();
+    NoteLink(link, second);
+}
+
+void RecordedAdapter::NoteLink(const SignalFacts& link, unsigned second)
+{
+    if (m_linkKnown)
+        NoteEvent(m_history, m_link, {second, link, {}});
+    m_linkKnown = true;
+    m_link = link;
+    AddMoment(second);
+}
+
+/// A sample a second, and one more for each access point that the link uses in it.
+void RecordedAdapter::AddMoment(unsigned second)
+{
+    SignalSample sample{second, m_link, {}};
+    for (const auto& [bssid, heard] : m_view)
+        sample.air.emplace_back(bssid, heard.entry.lRssi);
+    std::vector<SignalSample>& samples = m_history.samples;
+    const bool isSame = !samples.empty() && samples.back().second == second &&
+                        (samples.back().link.bssid == m_link.bssid || samples.size() == 1);
+    if (isSame)
+        samples.back() = sample;
+    else
+        samples.push_back(sample);
+}
+
+/// Where no elements were recorded, the lists of networks may tell the security.
+AirAccessPoint RecordedAdapter::Described(const HeardAccessPoint& heard) const
+{
+    AirAccessPoint point = DescribeHeard(heard);
+    if (!heard.elements.empty())
+        return point;
+    for (const WLAN_AVAILABLE_NETWORK& network : m_networks)
+    {
+        if (SsidBytes(network.dot11Ssid) == SsidBytes(heard.entry.dot11Ssid) &&
+            (network.bSecurityEnabled != FALSE) == IsSecured(heard.entry))
+            point.beacon.security =
+                SecurityText(network.dot11DefaultAuthAlgorithm, network.dot11DefaultCipherAlgorithm);
+    }
+    return point;
+}
+
+void RecordedAdapter::Tell(ReportFacts& report, AdapterFacts adapter) const
+{
+    report.history = m_history;
+    TellConnection(report, adapter);
+    TellAir(report);
+    TellProfiles(report);
+    if (m_history.samples.size() < 2)
+        report.recording->notTold.push_back("The signal over time: the session looked no more than once.");
+}
+
+void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts& adapter) const
+{
+    std::vector<std::string>& notTold = report.recording->notTold;
+    if (!m_linkKnown)
+        return notTold.push_back("The connection: the session did not ask for it.");
+    report.status.emplace().adapter = adapter;
+    if (!m_link.connected)
+        return;
+    ConnectionFacts& connection = report.status->connection.emplace();
+    if (m_attributes)
+        connection = DescribeConnection(*m_attributes);
+    else
+        notTold.push_back("More of the connection than its access point: the session did not ask after it was made.");
+    connection.ssid = m_link.ssid;
+    connection.bssid = m_link.bssid;
+    connection.quality = m_link.quality;
+    connection.rssi = m_link.rssi;
+    if (!m_link.rssi)
+        notTold.push_back("The signal of the connection in dBm: the session did not ask for it.");
+}
+
+void RecordedAdapter::TellAir(ReportFacts& report) const
+{
+    std::vector<std::string>& notTold = report.recording->notTold;
+    report.airKnown = m_airKnown;
+    for (const auto& [bssid, heard] : m_view)
+        report.accessPoints.push_back(Described(heard));
+    if (!m_airKnown)
+        notTold.push_back("The access points: the session got no list of them." + NamedNetworks());
+    else if (!m_allAsked)
+        notTold.push_back("Access points of other networks: the session asked only for those of " +
+                          InRow(m_networksAsked) + ".");
+}
+
+std::string RecordedAdapter::NamedNetworks() const
+{
+    std::set<std::string> names;
+    for (const WLAN_AVAILABLE_NETWORK& network : m_networks)
+    {
+        if (network.dot11Ssid.uSSIDLength > 0)
+            names.insert(SsidText(network.dot11Ssid));
+    }
+    return names.empty() ? "" : " Its list of networks names " + InRow(names) + ".";
+}
+
+void RecordedAdapter::TellProfiles(ReportFacts& report) const
+{
+    RecordingFacts& recording = *report.recording;
+    recording.tellsProfiles = m_profiles.has_value();
+    for (const WLAN_PROFILE_INFO& info : m_profiles.value_or(std::vector<WLAN_PROFILE_INFO>()))
+    {
+        ProfileFacts facts;
+        facts.position = static_cast<unsigned>(report.profiles.size() + 1);
+        facts.name = Narrow(FixedText(info.strProfileName));
+        const auto mode = m_modes.find(facts.name);
+        facts.mode = mode == m_modes.end() ? "unknown" : mode->second;
+        facts.groupPolicy = (info.dwFlags & WLAN_PROFILE_GROUP_POLICY) != 0;
+        facts.perUser = (info.dwFlags & WLAN_PROFILE_USER) != 0;
+        report.profiles.push_back(facts);
+    }
+    if (m_profiles && m_profilesChanged)
+        recording.notTold.push_back("The profiles as they are in the end: they were changed after the last list.");
+    if (m_profiles)
+        return;
+    std::set<std::string> names;
+    for (const WLAN_AVAILABLE_NETWORK& network : m_networks)
+        names.insert(VisibleText(Narrow(FixedText(network.strProfileName))));
+    names.erase("");
+    recording.notTold.push_back("The stored profiles: the session got no list of them." +
+                                (names.empty() ? "" : " Networks in view have the profiles " + InRow(names) + "."));
+}
+
+} // namespace calvix::host

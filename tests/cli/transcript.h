@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace calvix::test
+{
+
+/// Files that read like a shell session, and pages with such sessions in them:
+///
+///     $ calvix adapters --scenario scenarios/no-adapter.json
+///     calvix: the computer has no wireless adapter.
+///     [exit code 3]
+///
+/// Standard output and standard error stand in the order in which they come; success has no line of its own. In a text
+/// file everything is part of the session, but for empty lines before a command. In a page sessions stand between lines
+/// with ```, and one with a line "..." is an excerpt and left alone. In both, a comment before a command puts another computer under the commands
+/// that follow, up to the next comment (in a page: up to the end of the session):
+///
+///     <!-- on scenarios/home.json: WlanOpenHandle fails with 126 -->
+
+/// A command line as a shell splits it; of quotation marks only those around whole words are understood.
+std::vector<std::string> ShellWords(const std::string& line);
+
+/// The computer that commands without --scenario run on; empty: as the program chooses.
+struct TranscriptComputer
+{
+    std::string scenario;
+    std::string operation; ///< that fails, empty: none
+    unsigned long error = 0;
+};
+
+struct TranscriptCommand
+{
+    TranscriptComputer computer;
+    std::string line;          ///< "calvix adapters"
+    std::size_t firstLine = 0; ///< of what it printed: place in the file's lines, and how many
+    std::size_t lineCount = 0;
+    std::string printed;
+};
+
+struct Transcript
+{
+    std::vector<std::string> lines;
+    std::vector<TranscriptCommand> commands;
+};
+
+Transcript ReadTranscript(const std::string& text, bool isPage);
+
+/// The file's text with what the commands really printed.
+std::string WithPrinted(const Transcript& transcript, const std::vector<std::string>& printed);
+
+} // namespace calvix::test

@@ -1,0 +1,127 @@
+// What the program prints, command by command, as it stands in files that people read: tests/data/transcripts and the
+// pages. Only script/update-transcripts writes them.
+
+#include "cli_test.h"
+#include "transcript.h"
+
+#include "command_description.h"
+#include "manual.h"
+#include "platform/platform.h"
+#include "simulation/computer.h"
+#include "wrappers/fault_injection.h"
+#include "wrappers/intercepted_platform.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace calvix::test::transcripts_test
+{
+namespace
+{
+
+namespace files = std::filesystem;
+
+bool IsUpdate()
+{
+    return std::getenv("CALVIX_UPDATE_TRANSCRIPTS") != nullptr;
+}
+
+void WriteText(const std::string& path, const std::string& text)
+{
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+/// The computer of a comment in the place of the system, while a command runs.
+class ComputerInPlace
+{
+public:
+    explicit ComputerInPlace(const TranscriptComputer& wanted)
+        : m_computer(simulation::LoadScenario(wanted.scenario)), m_platform(m_computer, m_faults)
+    {
+        if (!wanted.operation.empty())
+            m_faults.Fail(wanted.operation, {.error = static_cast<DWORD>(wanted.error)});
+        platform::ReplacePlatform(&m_platform);
+    }
+    ~ComputerInPlace() { platform::ReplacePlatform(nullptr); }
+    ComputerInPlace(const ComputerInPlace&) = delete;
+    ComputerInPlace& operator=(const ComputerInPlace&) = delete;
+
+private:
+    simulation::Computer m_computer;
+    wrappers::FaultInjection m_faults;
+    wrappers::InterceptedPlatform m_platform;
+};
+
+/// Paths in the files are those of the repository.
+class TranscriptFile : public CliTest, public ::testing::WithParamInterface<const char*>
+{
+protected:
+    TranscriptFile() : m_before(files::current_path()) { files::current_path(CALVIX_SOURCE_DIR); }
+    ~TranscriptFile() override { files::current_path(m_before); }
+
+    std::string Printed(const TranscriptCommand& command)
+    {
+        std::unique_ptr<ComputerInPlace> computer;
+        if (!command.computer.scenario.empty())
+            computer = std::make_unique<ComputerInPlace>(command.computer);
+        std::vector<std::string> words = ShellWords(command.line);
+        EXPECT_EQ("calvix", words.front()) << "only this program can be shown";
+        words.erase(words.begin());
+        const Outcome outcome = RunTogether(words);
+        std::string printed = outcome.out;
+        // The service's documents have line ends of their own.
+        std::erase(printed, '\r');
+        while (printed.ends_with("\n\n"))
+            printed.pop_back();
+        if (outcome.exitCode != 0)
+            printed += "[exit code " + std::to_string(outcome.exitCode) + "]\n";
+        return printed;
+    }
+
+private:
+    files::path m_before;
+};
+
+TEST_P(TranscriptFile, ShowsWhatIsPrinted)
+{
+    const std::string path = GetParam();
+    const Transcript transcript = ReadTranscript(Content(path), path.ends_with(".md"));
+    EXPECT_FALSE(transcript.commands.empty());
+    std::vector<std::string> printed;
+    for (const TranscriptCommand& command : transcript.commands)
+    {
+        printed.push_back(Printed(command));
+        if (!IsUpdate())
+        {
+            EXPECT_EQ(command.printed, printed.back()) << path << ": $ " << command.line;
+        }
+    }
+    if (IsUpdate())
+        WriteText(path, WithPrinted(transcript, printed));
+}
+
+INSTANTIATE_TEST_SUITE_P(Transcripts,
+                         TranscriptFile,
+                         ::testing::Values("tests/data/transcripts/looking.txt",
+                                           "tests/data/transcripts/connecting.txt",
+                                           "tests/data/transcripts/profiles.txt",
+                                           "tests/data/transcripts/computer.txt",
+                                           "tests/data/transcripts/help.txt",
+                                           "docs/command-line.md",
+                                           "docs/troubleshooting.md"));
+
+TEST(ManualPage, IsTheOneThatIsInstalled)
+{
+    const std::string path = CALVIX_SOURCE_DIR "/docs/calvix.1";
+    const std::string page = host::ManualPage(host::DescribeProgram());
+    if (IsUpdate())
+        WriteText(path, page);
+    std::ifstream file(path, std::ios::binary);
+    const std::string installed{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    EXPECT_EQ(page, installed) << "a command has changed: run script/update-transcripts";
+}
+
+} // namespace
+} // namespace calvix::test::transcripts_test
