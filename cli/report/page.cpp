@@ -6,6 +6,7 @@
 #include "report/report_json.h"
 #include "report/signal_picture.h"
 #include "report/spectrum_picture.h"
+#include "text_forms.h"
 
 namespace calvix::host
 {
@@ -13,11 +14,20 @@ namespace calvix::host
 namespace
 {
 
+std::string OriginText(const RecordingFacts& recording)
+{
+    return "from the recording " + VisibleText(recording.file) +
+           (recording.simulated ? ", of a simulated computer" : "") +
+           (recording.anonymised ? ", with names made up" : "");
+}
+
 std::string SubtitleText(const ReportFacts& report)
 {
     std::string text = report.status ? report.status->adapter.description : std::string();
     if (!report.heardAt.empty())
         text += (text.empty() ? "" : " \xc2\xb7 ") + ("heard until " + report.heardAt);
+    if (report.recording)
+        text += (text.empty() ? "" : " \xc2\xb7 ") + OriginText(*report.recording);
     return EscapeHtml(text);
 }
 
@@ -40,7 +50,7 @@ std::string ReportPage(const ReportFacts& report)
                                         {"script", kPageScript},
                                         {"script-hash", kPageScriptHash},
                                         {"data", ReportJson(report, true)},
-                                        {"missing", MissingParts(report)},
+                                        {"missing", MissingParts(report) + UntoldParts(report)},
                                         {"keys", KeyFacts(report)},
                                         {"spectrum", SpectrumPicture(report)},
                                         {"signal", SignalSection(report)},

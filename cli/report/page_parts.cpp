@@ -14,6 +14,8 @@ namespace calvix::host
 namespace
 {
 
+constexpr const char* kNotRecorded = "<p>Not recorded.</p>\n";
+
 std::string Named(const char* name, const std::string& html)
 {
     return "<div><dt>" + std::string(name) + "</dt><dd>" + html + "</dd></div>";
@@ -153,6 +155,17 @@ std::string MissingParts(const ReportFacts& report)
            html + "</ul></section>\n";
 }
 
+std::string UntoldParts(const ReportFacts& report)
+{
+    if (!report.recording || report.recording->notTold.empty())
+        return {};
+    std::string html = "<section class=\"missing\" aria-labelledby=\"untold\"><h2 id=\"untold\">What the recording does "
+                       "not tell</h2>\n<ul>\n";
+    for (const std::string& untold : report.recording->notTold)
+        html += "<li>" + EscapeHtml(untold) + "</li>\n";
+    return html + "</ul></section>\n";
+}
+
 std::string KeyFacts(const ReportFacts& report)
 {
     std::string html;
@@ -187,8 +200,9 @@ std::string AccessPointRows(const ReportFacts& report)
         rows += AccessPointRow(point);
     if (rows.empty())
         return "<tr><td colspan=\"10\">" +
-               std::string(report.airKnown ? "No access point is in view."
-                                           : "The access points in view are not known.") +
+               std::string(report.airKnown    ? "No access point is in view."
+                           : report.recording ? "The access points in view were not recorded."
+                                              : "The access points in view are not known.") +
                "</td></tr>\n";
     return rows;
 }
@@ -196,7 +210,7 @@ std::string AccessPointRows(const ReportFacts& report)
 std::string AdapterItems(const ReportFacts& report)
 {
     if (report.adapters.empty())
-        return "<p>No adapter is known.</p>\n";
+        return report.recording && !report.recording->tellsAdapters ? kNotRecorded : "<p>No adapter is known.</p>\n";
     std::string html = "<ul class=\"adapters\">\n";
     for (const AdapterFacts& adapter : report.adapters)
     {
@@ -212,7 +226,7 @@ std::string AdapterItems(const ReportFacts& report)
 std::string ConnectionItems(const ReportFacts& report)
 {
     if (!report.status)
-        return "<p>Not known.</p>\n";
+        return report.recording ? kNotRecorded : "<p>Not known.</p>\n";
     if (!report.status->connection)
         return "<p>There is no connection.</p>\n";
     const ConnectionFacts& connection = *report.status->connection;
@@ -230,7 +244,7 @@ std::string ConnectionItems(const ReportFacts& report)
 std::string ProfileItems(const ReportFacts& report)
 {
     if (report.profiles.empty())
-        return "<p>No profile is stored.</p>\n";
+        return report.recording && !report.recording->tellsProfiles ? kNotRecorded : "<p>No profile is stored.</p>\n";
     const std::string connected =
         report.status && report.status->connection ? report.status->connection->profile : std::string();
     std::string html = "<ol class=\"profiles\">\n";
@@ -248,6 +262,9 @@ std::string ProfileItems(const ReportFacts& report)
 
 std::string ChoiceTable(const ReportFacts& report)
 {
+    if (report.recording)
+        return "<p>Left out: they decide by what the computer itself answers them, which the recording does not "
+               "tell.</p>\n";
     if (report.choices.empty())
         return "<p>Not known.</p>\n";
     std::string html = "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"Automatic methods\">"

@@ -1,7 +1,6 @@
 #include "report/recorded_adapter.h"
 
 #include "core/fixed_text.h"
-#include "core/interface_state_text.h"
 #include "describe.h"
 #include "platform/records/wlan_constants.h"
 #include "report/take_picture.h"
@@ -195,7 +194,7 @@ AirAccessPoint RecordedAdapter::Described(const HeardAccessPoint& heard) const
     return point;
 }
 
-void RecordedAdapter::Tell(ReportFacts& report, AdapterFacts adapter) const
+void RecordedAdapter::Tell(ReportFacts& report, const AdapterFacts& adapter) const
 {
     report.history = m_history;
     TellConnection(report, adapter);
@@ -205,11 +204,17 @@ void RecordedAdapter::Tell(ReportFacts& report, AdapterFacts adapter) const
         report.recording->notTold.push_back("The signal over time: the session looked no more than once.");
 }
 
-void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts& adapter) const
+void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts adapter) const
 {
     std::vector<std::string>& notTold = report.recording->notTold;
     if (!m_linkKnown)
         return notTold.push_back("The connection: the session did not ask for it.");
+    // The link may be newer than the list of adapters.
+    if (m_link.connected != StandsConnected(static_cast<WLAN_INTERFACE_STATE>(adapter.state)))
+    {
+        adapter.state = m_link.connected ? wlan_interface_state_connected : wlan_interface_state_disconnected;
+        adapter.stateText = StateText(adapter.state);
+    }
     report.status.emplace().adapter = adapter;
     if (!m_link.connected)
         return;

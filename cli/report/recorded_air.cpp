@@ -132,6 +132,7 @@ AdapterFacts SessionAir::FactsOf(const std::string& guid) const
             return DescribeAdapter(m_list[i], static_cast<unsigned>(i + 1));
     }
     facts.guid = guid;
+    facts.number = static_cast<unsigned>(m_list.size() + 1);
     return facts;
 }
 
@@ -163,6 +164,11 @@ void SessionAir::Tell(ReportFacts& report, const std::string& wanted) const
         report.recording->notTold.push_back("The adapters: the session got no list of them.");
     const auto known = m_adapters.find(guid);
     (known == m_adapters.end() ? RecordedAdapter() : known->second).Tell(report, FactsOf(guid));
+    for (AdapterFacts& listed : report.adapters)
+    {
+        if (report.status && listed.guid == guid)
+            listed = report.status->adapter;
+    }
     ArrangePicture(report);
 }
 

@@ -100,6 +100,16 @@ ReportJsonValue Missing(const ReportFacts& report)
     return json;
 }
 
+ReportJsonValue ToReportJson(const std::optional<RecordingFacts>& recording)
+{
+    if (!recording)
+        return nullptr;
+    return {{"file", recording->file},
+            {"simulated", recording->simulated},
+            {"anonymised", recording->anonymised},
+            {"notTold", recording->notTold}};
+}
+
 /// What an HTML parser looks for inside a script element.
 std::string WithoutMarkup(const std::string& json)
 {
@@ -138,6 +148,7 @@ std::string ReportJson(const ReportFacts& report, bool forPage)
     json["heard"] = HeardInTime(report.history.samples);
     json["events"] = ToReportJson(report.history.events);
     json["missing"] = Missing(report);
+    json["recording"] = ToReportJson(report.recording);
     constexpr auto replace = ReportJsonValue::error_handler_t::replace;
     return forPage ? WithoutMarkup(json.dump(-1, ' ', true, replace)) : json.dump(2, ' ', false, replace);
 }
