@@ -159,8 +159,9 @@ std::string UntoldParts(const ReportFacts& report)
 {
     if (!report.recording || report.recording->notTold.empty())
         return {};
-    std::string html = "<section class=\"missing\" aria-labelledby=\"untold\"><h2 id=\"untold\">What the recording does "
-                       "not tell</h2>\n<ul>\n";
+    std::string html =
+        "<section class=\"missing\" aria-labelledby=\"untold\"><h2 id=\"untold\">What the recording does "
+        "not tell</h2>\n<ul>\n";
     for (const std::string& untold : report.recording->notTold)
         html += "<li>" + EscapeHtml(untold) + "</li>\n";
     return html + "</ul></section>\n";

@@ -15,6 +15,9 @@ namespace calvix::host
 namespace
 {
 
+constexpr auto kLinkUp = static_cast<unsigned>(wlan_interface_state_connected);
+constexpr auto kLinkDown = static_cast<unsigned>(wlan_interface_state_disconnected);
+
 std::string InQuotes(const std::string& text)
 {
     return "\xe2\x80\x9c" + text + "\xe2\x80\x9d";
@@ -37,8 +40,7 @@ bool IsSecured(const WLAN_BSS_ENTRY& entry)
 /// Whether the list that was asked for would have an access point that is in view.
 bool IsAskedFor(const AirQuestion& asked, const WLAN_BSS_ENTRY& entry)
 {
-    return !asked.ssid ||
-           (SsidBytes(*asked.ssid) == SsidBytes(entry.dot11Ssid) && asked.secured == IsSecured(entry));
+    return !asked.ssid || (SsidBytes(*asked.ssid) == SsidBytes(entry.dot11Ssid) && asked.secured == IsSecured(entry));
 }
 
 /// The text of the first element of this name; empty when there is none.
@@ -66,11 +68,10 @@ std::string WithoutEntities(std::string text)
 
 } // namespace
 
-void RecordedAdapter::Hear(const AirQuestion& asked,
-                           const std::vector<HeardAccessPoint>& accessPoints,
-                           unsigned second)
+void RecordedAdapter::Hear(const AirQuestion& asked, const std::vector<HeardAccessPoint>& accessPoints, unsigned second)
 {
     m_airKnown = true;
+    m_lastListed = second;
     m_allAsked = m_allAsked || !asked.ssid;
     if (asked.ssid)
         m_networksAsked.insert(SsidText(*asked.ssid));
@@ -137,7 +138,7 @@ void RecordedAdapter::Connect(unsigned second)
     if (point == m_view.end() || m_link.bssid == *m_asked)
         return;
     SignalFacts link;
-    link.state = StateText(wlan_interface_state_connected);
+    link.state = StateText(kLinkUp);
     link.connected = true;
     link.ssid = DescribeSsid(point->second.entry.dot11Ssid);
     link.bssid = *m_asked;
@@ -149,7 +150,7 @@ void RecordedAdapter::Connect(unsigned second)
 void RecordedAdapter::Disconnect(unsigned second)
 {
     SignalFacts link;
-    link.state = StateText(wlan_interface_state_disconnected);
+    link.state = StateText(kLinkDown);
     m_attributes.reset();
     NoteLink(link, second);
 }
@@ -171,11 +172,12 @@ void RecordedAdapter::AddMoment(unsigned second)
         sample.air.emplace_back(bssid, heard.entry.lRssi);
     std::vector<SignalSample>& samples = m_history.samples;
     const bool isSame = !samples.empty() && samples.back().second == second &&
-                        (samples.back().link.bssid == m_link.bssid || samples.size() == 1);
+                        (samples.back().link.bssid == m_link.bssid || !m_linkSampled);
     if (isSame)
         samples.back() = sample;
     else
         samples.push_back(sample);
+    m_linkSampled = m_linkKnown;
 }
 
 /// Where no elements were recorded, the lists of networks may tell the security.
@@ -212,7 +214,7 @@ void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts adapter) 
     // The link may be newer than the list of adapters.
     if (m_link.connected != StandsConnected(static_cast<WLAN_INTERFACE_STATE>(adapter.state)))
     {
-        adapter.state = m_link.connected ? wlan_interface_state_connected : wlan_interface_state_disconnected;
+        adapter.state = m_link.connected ? kLinkUp : kLinkDown;
         adapter.stateText = StateText(adapter.state);
     }
     report.status.emplace().adapter = adapter;
@@ -242,6 +244,11 @@ void RecordedAdapter::TellAir(ReportFacts& report) const
     else if (!m_allAsked)
         notTold.push_back("Access points of other networks: the session asked only for those of " +
                           InRow(m_networksAsked) + ".");
+    constexpr unsigned longAgo = 10;
+    const unsigned end = m_history.samples.empty() ? 0 : m_history.samples.back().second;
+    if (m_airKnown && end >= m_lastListed + longAgo)
+        notTold.push_back("The access points at the end: they were listed last at second " +
+                          std::to_string(m_lastListed) + " of " + std::to_string(end) + ".");
 }
 
 std::string RecordedAdapter::NamedNetworks() const

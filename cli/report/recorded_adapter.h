@@ -49,9 +49,11 @@ private:
     std::map<std::string, std::string> m_modes; ///< of profiles, by name
     bool m_profilesChanged = false;             ///< since they were listed
     bool m_airKnown = false;
-    bool m_allAsked = false; ///< for all access points, not only for those of a network
+    unsigned m_lastListed = 0; ///< the second of the last list
+    bool m_allAsked = false;   ///< for all access points, not only for those of a network
     std::set<std::string> m_networksAsked;
     bool m_linkKnown = false;
+    bool m_linkSampled = false; ///< the last sample knew the link
     SignalFacts m_link;
     std::optional<WLAN_CONNECTION_ATTRIBUTES> m_attributes;
     std::optional<std::string> m_asked; ///< the access point of the last request

@@ -36,8 +36,7 @@ public:
                 Of(info.InterfaceGuid).Disconnect(Second());
         }
     }
-    void
-    Hear(const GUID& adapter, const AirQuestion& asked, const std::vector<HeardAccessPoint>& accessPoints) override
+    void Hear(const GUID& adapter, const AirQuestion& asked, const std::vector<HeardAccessPoint>& accessPoints) override
     {
         m_lastHeard = GuidText(adapter);
         m_refusals.erase("WlanGetNetworkBssList");

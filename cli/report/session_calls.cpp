@@ -243,8 +243,8 @@ SessionTraits ListenToSession(std::istream& recording, const std::string& name, 
         }
         catch (const recording::Damage& damage)
         {
-            throw recording::RecordingError(name + ":" + std::to_string(line.number) + ": the recording is damaged: in " +
-                                            WhereIn(line) + ", " + damage.what());
+            throw recording::RecordingError(name + ":" + std::to_string(line.number) +
+                                            ": the recording is damaged: in " + WhereIn(line) + ", " + damage.what());
         }
     }
     return {recorded.header.simulated, recorded.header.anonymised, recorded.complete, recorded.lastLine};

@@ -1,10 +1,8 @@
 #include <calvix/wireless_manage.h>
 
 #include "autoconnect/connection_walk.h"
-#include "core/bounded_copy.h"
+#include "core/fixed_text.h"
 #include "core/service_steps.h"
-
-#include <iterator>
 
 using namespace calvix;
 
@@ -37,10 +35,8 @@ int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
             const ErrorNumber error = RequestNetwork(hClient, first, *network, trace);
             if (error == 0 && profileName != nullptr)
             {
-                // A name may fill its array without a terminator.
-                wchar_t terminated[WLAN_MAX_NAME_LENGTH + 1];
-                CopyTruncating(terminated, std::size(terminated), network->strProfileName);
-                FormatTrace(profileName, 128, "%ls", terminated);
+                const TerminatedName name(network->strProfileName);
+                FormatTrace(profileName, 128, "%ls", static_cast<const wchar_t*>(name));
             }
             return static_cast<int>(error);
         }

@@ -14,7 +14,6 @@ bool SsidAsProfileName(const DOT11_SSID& ssid, unsigned long longestStated, wcha
     if (ssid.uSSIDLength <= longestStated)
         std::memcpy(bytes, ssid.ucSSID, SsidLength(ssid));
     constexpr DWORD flags = MB_PRECOMPOSED | MB_ERR_INVALID_CHARS;
-    text[0] = L'\0';
     return platform::text().MultiByteToWideChar(CP_UTF8, flags, bytes, -1, text, kSsidTextCapacity) != 0;
 }
 

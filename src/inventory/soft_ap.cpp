@@ -16,14 +16,12 @@ namespace
 /// software access points stays empty; hosts know it so.
 constexpr DWORD kFlags = MB_PRECOMPOSED | MB_ERR_INVALID_CHARS;
 
-/// The SSID up to its first zero byte, in the active code page; whether both conversions succeeded.
+/// The SSID up to its first zero byte, in the active code page. Whether both conversions succeeded; else there is no name.
 bool NarrowSsid(const DOT11_SSID& ssid, char (&name)[128])
 {
     char bytes[sizeof(ssid.ucSSID) + 1] = {};
     std::memcpy(bytes, ssid.ucSSID, sizeof(ssid.ucSSID));
     wchar_t wide[256];
-    wide[0] = L'\0';
-    name[0] = '\0';
     return text().MultiByteToWideChar(CP_UTF8, kFlags, bytes, -1, wide, 256) != 0 &&
            text().WideCharToMultiByte(CP_ACP, kFlags, wide, -1, name, sizeof(name), nullptr, nullptr) != 0;
 }

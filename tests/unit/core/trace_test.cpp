@@ -78,6 +78,19 @@ TEST(FormatTraceTest, CutsALineAtTheSharedBuffersLastPlace)
     EXPECT_EQ(255u, std::strlen(g_szTraceBuf));
 }
 
+// The C locale has no form for the character: one runtime reports a failure, the other stops before it.
+TEST(FormatTraceTest, EmptiesTheTextWhenTheRuntimeFails)
+{
+#if defined(_WIN32)
+    const char* const formatted = "ab";
+#else
+    const char* const formatted = "";
+#endif
+    char buffer[16] = "gone";
+    FormatTrace(buffer, sizeof(buffer), "ab%ls", L"\u6771");
+    EXPECT_STREQ(formatted, buffer);
+}
+
 TEST(FormatTraceTest, FormatsWideTextOfAnyLength)
 {
     const std::wstring name(5000, L'\u6771');
