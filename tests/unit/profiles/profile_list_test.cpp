@@ -64,7 +64,8 @@ FailureRow Row(const char* method,
                TraceBuffer buffer)
 {
     FailureRow row{method, std::move(call), operation, expected, {traced}, buffer};
-    row.error = 1234;
+    if (expected > 0)
+        row.error = static_cast<unsigned>(expected);
     return row;
 }
 
