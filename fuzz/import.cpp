@@ -6,6 +6,10 @@
 
 #include "import/capture_text.h"
 #include "import/import.h"
+#include "import/read_capture.h"
+
+#include <utility>
+#include <variant>
 
 namespace calvix::fuzz
 {
@@ -16,15 +20,19 @@ namespace
 /// What stands between the files of an input.
 constexpr std::string_view kNextFile = "\n=====\n";
 
-void AddFile(host::Captures& captures, const std::string& bytes)
+/// Puts what a file held where it belongs.
+struct Sort
 {
-    const std::string text = host::ReadingFrom("capture.txt", [&] { return host::ToUtf8(bytes); });
-    if (host::LooksLikeProfile(text))
-        captures.profiles.push_back(host::ParseExportedProfile(text, "Wi-Fi-profile.xml"));
-    else if (host::LooksLikeNetworks(text))
-        captures.networks = host::ParseNetworks(text, "networks.txt");
-    else if (host::LooksLikeInterfaces(text))
-        captures.interfaces = host::ParseInterfaces(text, "interfaces.txt");
+    host::Captures& captures;
+
+    void operator()(host::NetworksCapture networks) { captures.networks = std::move(networks); }
+    void operator()(host::InterfacesCapture interfaces) { captures.interfaces = std::move(interfaces); }
+    void operator()(host::ExportedProfile profile) { captures.profiles.push_back(std::move(profile)); }
+};
+
+void AddFile(host::Captures& captures, std::string_view bytes)
+{
+    std::visit(Sort{captures}, host::ReadCapture(bytes, "capture.txt").content);
 }
 
 host::Captures ReadFiles(Input& input)
@@ -32,7 +40,7 @@ host::Captures ReadFiles(Input& input)
     constexpr int kMostFiles = 4;
     host::Captures captures;
     for (int file = 0; file < kMostFiles && !input.IsEmpty(); ++file)
-        AddFile(captures, std::string(input.Until(kNextFile)));
+        AddFile(captures, input.Until(kNextFile));
     return captures;
 }
 
