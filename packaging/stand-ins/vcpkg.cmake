@@ -1,6 +1,7 @@
 # Runs the port as vcpkg would, for one build type: cmake -DPORT_FOLDER=... -DWORK=... -DHEADERS=... [-DFEATURES=...] -P
 # The functions do what vcpkg's own of the same names are documented to do, as far as the port relies on it.
 
+cmake_minimum_required(VERSION 3.25)
 set(PORT calvix)
 set(CURRENT_PACKAGES_DIR "${WORK}/package")
 set(CURRENT_INSTALLED_DIR "${HEADERS}")
