@@ -114,7 +114,7 @@ bool WaitUntil(Host& host, unsigned seconds, const std::function<bool()>& look, 
 
 ConnectRequest ConnectionWait::Finish(unsigned seconds)
 {
-    const ConnectRequest request = AcceptedRequest(m_host);
+    ConnectRequest request = AcceptedRequest(m_host);
     ToldOutcome outcome(request);
     const Progress progress(m_host, "Asked for " + Quoted(request.profile) + ", waiting for the connection");
     const bool told = WaitUntil(m_host, seconds,

@@ -70,6 +70,7 @@ AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry)
 std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_ENTRY>& entries)
 {
     std::vector<AccessPointFacts> facts;
+    facts.reserve(entries.size());
     for (const WLAN_BSS_ENTRY& entry : entries)
         facts.push_back(DescribeAccessPoint(entry));
     return facts;

@@ -92,7 +92,7 @@ RoamFacts Roam(Host& host, bool dryRun)
     facts.code = dryRun ? host.manager().PreRoaming(adapter) : host.manager().Roaming(adapter);
     const char* const method = MethodName(dryRun);
     const std::optional<Cause> obstacle = FindCause(*FindMethod(method), facts.code);
-    if (obstacle == Cause::clientNotOpened)
+    if (obstacle && *obstacle == Cause::clientNotOpened)
         throw host.MethodFailure(method, facts.code);
     facts.decision = DecisionText(obstacle);
     facts.why = obstacle ? Describe(*obstacle).meaning : "the network has a better access point";

@@ -151,10 +151,10 @@ std::string Encryption(const CaptureField& field, const Vocabulary& vocabulary)
         return found->second;
     if (MeaningOf(WordKind::encryption, field.value) || (vocabulary.foreign && !IsAcronym(field.value)))
         return "none";
-    const LineError unusable = Unusable(field, "a known encryption (None, WEP, TKIP, CCMP, GCMP ...)");
+    constexpr const char* known = "a known encryption (None, WEP, TKIP, CCMP, GCMP ...)";
     if (vocabulary.foreign)
-        throw UnknownWord(field.line, unusable.what());
-    throw unusable;
+        throw UnknownWord(field.line, Unusable(field, known).what());
+    throw Unusable(field, known);
 }
 
 } // namespace

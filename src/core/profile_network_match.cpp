@@ -40,6 +40,8 @@ std::uint32_t HashOf(std::wstring_view name)
 
 } // namespace
 
+// The usual arrays stay as they are until they are used.
+// cppcheck-suppress uninitMemberVar
 NetworksByProfile::NetworksByProfile(const WLAN_AVAILABLE_NETWORK_LIST& networks)
     : m_items(Items(networks)), m_indexed(m_usualIndexed)
 {

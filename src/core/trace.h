@@ -92,6 +92,7 @@ template <std::size_t Capacity>
 class LocalTrace : public Trace
 {
 public:
+    // cppcheck-suppress uninitMemberVar
     LocalTrace() : Trace(m_text, Capacity) {}
 
 private:

@@ -23,7 +23,7 @@ std::string CallText(const std::string& operation, const ordered_json& arguments
     constexpr std::size_t longest = 300;
     std::string text = operation + " " + arguments.dump(-1, ' ', true);
     if (text.size() > longest)
-        text = text.substr(0, longest) + "...";
+        text.replace(longest, std::string::npos, "...");
     return text;
 }
 
