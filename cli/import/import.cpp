@@ -19,7 +19,6 @@ namespace
 using simulation::AccessPoint;
 using simulation::AdapterDescription;
 using simulation::Bytes;
-using simulation::PhyDescription;
 using simulation::StoredProfile;
 
 /// The PHY types in the order of their standards; an adapter knows those before its newest.
