@@ -130,9 +130,9 @@ void MeasureGrowth(benchmark::State& state, const GrowthCase& growth, const Meth
     scene.direct->GetCurrentConnection(&scene.guid, &scene.connection);
 
     const bool nested = NestedLoopsEnd(growth, size);
-    const Outcome library = TryOnce(scene, row.library, nullptr);
+    const Outcome library = TryOnce(scene, row.calvix, nullptr);
     g_replayed = library.calls;
-    std::vector<Call> calls{row.library, ReplayCall};
+    std::vector<Call> calls{row.calvix, ReplayCall};
     if (nested)
     {
         const std::string difference = Difference(library, TryOnce(scene, row.direct, nullptr), false);

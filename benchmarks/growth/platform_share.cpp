@@ -82,7 +82,7 @@ void MeasureShare(benchmark::State& state, const Measured& measured, std::size_t
     wrappers::InterceptedPlatform platform(computer, stopwatch);
     Scene scene;
     const Staging staging(scene, platform);
-    MeasureOnce(*scene.library, measured, stopwatch);
+    MeasureOnce(*scene.calvix, measured, stopwatch);
     for (auto iteration : state)
     {
         static_cast<void>(iteration);
@@ -91,7 +91,7 @@ void MeasureShare(benchmark::State& state, const Measured& measured, std::size_t
         std::vector<double> ratios;
         for (int round = 0; round < kRounds; ++round)
         {
-            const Share share = MeasureOnce(*scene.library, measured, stopwatch);
+            const Share share = MeasureOnce(*scene.calvix, measured, stopwatch);
             wholes.push_back(share.whole);
             platforms.push_back(share.platform);
             ratios.push_back(share.whole / share.platform);

@@ -8,8 +8,8 @@ namespace
 
 void Remember(Scene& scene)
 {
-    scene.library->SaveCurrentConnectionAttributes(&scene.guid);
-    scene.library->SaveConnNotificationData(&scene.notification);
+    scene.calvix->SaveCurrentConnectionAttributes(&scene.guid);
+    scene.calvix->SaveConnNotificationData(&scene.notification);
     scene.direct->SaveCurrentConnectionAttributes(&scene.guid);
     scene.direct->SaveConnNotificationData(&scene.notification);
 }

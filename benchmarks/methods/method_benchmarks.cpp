@@ -39,7 +39,7 @@ void MeasureMethod(benchmark::State& state, const MethodRow& row, Service servic
     if (row.once != nullptr)
         row.once(scene);
     const Preparation before = PreparationOf(row, service);
-    const Outcome library = TryOnce(scene, row.library, before);
+    const Outcome library = TryOnce(scene, row.calvix, before);
     const Outcome direct = TryOnce(scene, row.direct, before);
     const std::string difference = Difference(library, direct, service == Service::list);
     if (!difference.empty())
@@ -48,7 +48,7 @@ void MeasureMethod(benchmark::State& state, const MethodRow& row, Service servic
     for (auto iteration : state)
     {
         static_cast<void>(iteration);
-        const Rounds rounds(scene, {row.library, row.direct}, before, {});
+        const Rounds rounds(scene, {row.calvix, row.direct}, before, {});
         state.SetIterationTime(rounds.Median(0) * 1e-9);
         state.counters["library"] = rounds.Median(0);
         state.counters["direct"] = rounds.Median(1);
@@ -81,7 +81,7 @@ void RegisterMethodBenchmarks()
             signature == "RadioTurnOn(GUID const*)")
         {
             MethodRow itself = row;
-            itself.library = row.direct;
+            itself.calvix = row.direct;
             Register(std::string("control/list/") + row.signature, itself, Service::list);
             Register(std::string("control/computer/") + row.signature, itself, Service::computer);
         }

@@ -15,7 +15,7 @@ using Preparation = void (*)(Scene&);
 struct MethodRow
 {
     const char* signature; ///< as the library exports it
-    Call library;
+    Call calvix;
     Call direct;
     Preparation once = nullptr;       ///< before the measurement, for both sides
     Preparation everyTime = nullptr;  ///< before every call, untimed
@@ -61,7 +61,7 @@ template <typename Function>
 MethodRow Row(const char* signature, Function, const Preparations& preparations = {})
 {
     return {signature,
-            [](Scene& scene) { return Invoke<CWirelessManage, Function>(*scene.library, scene); },
+            [](Scene& scene) { return Invoke<CWirelessManage, Function>(*scene.calvix, scene); },
             [](Scene& scene) { return Invoke<HandWritten, Function>(*scene.direct, scene); },
             preparations.once,
             preparations.everyTime,

@@ -67,7 +67,7 @@ void StartAnew(Scene& scene)
 {
     ManagerInternals::Forget();
     HandWritten::Forget();
-    scene.library = CWirelessManage::Get();
+    scene.calvix = CWirelessManage::Get();
     scene.direct = HandWritten::Get();
 }
 

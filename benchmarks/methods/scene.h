@@ -43,7 +43,7 @@ struct Outputs
 /// The arguments of the calls, and the place for what they write.
 struct Scene
 {
-    CWirelessManage* library = nullptr;
+    CWirelessManage* calvix = nullptr;
     HandWritten* direct = nullptr;
     simulation::Computer* computer = nullptr; ///< null where the service is the list service
 
