@@ -6,7 +6,6 @@ import json
 import math
 import os
 import pathlib
-import re
 import resource
 import shlex
 import shutil
@@ -15,8 +14,7 @@ import subprocess
 import threading
 
 NOT_COPIED = ["build", ".git"]
-LIBRARY = "library"
-PROGRAMS = ["unit", "scenario", "model", "sweep", LIBRARY]  # the quick ones first; the last needs a linking of its own
+PROGRAMS = ["unit", "model", "sweep"]  # the quick ones first
 SETTINGS = ["-DCMAKE_BUILD_TYPE=RelWithDebInfo", "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1", "-DCALVIX_SHARED_CORE=ON",
             "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON", "-DCALVIX_BUILD_EXAMPLES=OFF",
             "-DCALVIX_INSTALL=OFF"]
@@ -57,7 +55,7 @@ def run(command, log, **options):
 class Workshop:
     def __init__(self, root, left_out=()):
         self.root = root
-        self.programs = [name for name in PROGRAMS if name not in left_out or name == LIBRARY]
+        self.programs = [name for name in PROGRAMS if name not in left_out]
         self.folder = root / "build" / "mutate"
         self.tree = self.folder / "tree"
         self.build = self.folder / "build"
@@ -110,9 +108,6 @@ class Workshop:
                 header = os.path.normpath(self.build / line.strip())
                 if header.startswith(f"{self.tree}/src/") and header.endswith(".h"):
                     self.dependents.setdefault(os.path.relpath(header, self.tree / "src"), set()).add(source)
-        links = subprocess.run(["ninja", "-C", self.build, "-t", "commands", "calvix"], capture_output=True, text=True,
-                               check=True).stdout.splitlines()
-        self.link_product = next(line for line in links if "-soname,libcalvix.so" in line)
 
     def test_command(self, name):
         command = [self.build / "bin" / f"calvix_{name}_tests", "--gtest_brief=1", "--gtest_fail_fast"]
@@ -166,16 +161,6 @@ class Workshop:
         command = ["nice", "-n", "10", "c++", "-shared", "-fuse-ld=gold", "-Wl,-Bsymbolic-functions",
                    "-Wl,-soname,libcalvix_core.so", "-o", str(library), *self.objects(name, changed)]
         return run(command, folder / "link.log")
-
-    def link_library(self, name, changed, folder):
-        """The library as it is shipped, with the changed object in it; few mutants get so far."""
-        command = self.link_product
-        for source in self.sources_of(name)[1:]:
-            command = command.replace(str(self.compile[source][1].relative_to(self.build)), "")
-        first = self.sources_of(name)[0]
-        command = command.replace(str(self.compile[first][1].relative_to(self.build)), str(changed))
-        command = re.sub(r"-o \S+", f"-o {folder / 'libcalvix.so.1'}", command)
-        return run(["bash", "-c", command], folder / "link.log", cwd=self.build)
 
     def passes(self, name, folder):
         """Whether a test program passes with the library in a folder. It is limited in the time that it computes, as the

@@ -199,6 +199,14 @@ TEST_P(PowerContract, UnknownSchemesAreMissed)
     EXPECT_EQ(duplicate, nullptr);
 }
 
+TEST_P(PowerContract, SettingsBelongToASchemeThatIsThere)
+{
+    EXPECT_EQ(Power().PowerWriteACValueIndex(nullptr, &kNobodysScheme, &power_guid::sleep_subgroup,
+                                             &power_guid::standby_timeout, 0),
+              OrOnWine(Error(ERROR_FILE_NOT_FOUND), Error(ERROR_PROC_NOT_FOUND)))
+        << "Wine 8 lacks the operation";
+}
+
 TEST_P(PowerContract, LegacySchemesAreReadByTheirNumber)
 {
     UINT active = 0;
