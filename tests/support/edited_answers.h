@@ -17,6 +17,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace calvix::test
 {
@@ -36,6 +37,8 @@ public:
     std::function<void(const WLAN_CONNECTION_PARAMETERS&)> connectRequest;
     /// Sees the reason code as the library hands it in.
     std::function<void(DWORD)> reasonCodeOfSetProfile;
+    /// The error, or 0, of an operation that has handed out its answer all the same.
+    std::function<DWORD(std::string_view)> errorBesideAnswer;
 
     /// Puts a text, not longer than the profile's own, in the place of a profile's XML.
     void SetProfileText(const std::wstring& name, const std::wstring& text) { m_profileTexts[name] = text; }
@@ -45,7 +48,7 @@ public:
         const DWORD error = InterceptedWlanService::WlanEnumInterfaces(client, reserved, list);
         if (error == 0 && interfaceList)
             interfaceList(**list);
-        return error;
+        return BesideAnswer("WlanEnumInterfaces", error);
     }
 
     DWORD
@@ -54,7 +57,7 @@ public:
         const DWORD error = InterceptedWlanService::WlanGetProfileList(client, interfaceGuid, reserved, list);
         if (error == 0 && profileList)
             profileList(**list);
-        return error;
+        return BesideAnswer("WlanGetProfileList", error);
     }
 
     DWORD WlanGetAvailableNetworkList(HANDLE client,
@@ -67,7 +70,7 @@ public:
             InterceptedWlanService::WlanGetAvailableNetworkList(client, interfaceGuid, flags, reserved, list);
         if (error == 0 && networkList)
             networkList(**list);
-        return error;
+        return BesideAnswer("WlanGetAvailableNetworkList", error);
     }
 
     DWORD WlanGetNetworkBssList(HANDLE client,
@@ -82,7 +85,7 @@ public:
                                                                           securityEnabled, reserved, list);
         if (error == 0 && bssList)
             bssList(**list, ++m_bssLists);
-        return error;
+        return BesideAnswer("WlanGetNetworkBssList", error);
     }
 
     DWORD WlanQueryInterface(HANDLE client,
@@ -97,7 +100,7 @@ public:
                                                                        dataSize, data, valueType);
         if (error == 0 && opcode == wlan_intf_opcode_current_connection && currentConnection)
             currentConnection(*static_cast<WLAN_CONNECTION_ATTRIBUTES*>(*data));
-        return error;
+        return BesideAnswer("WlanQueryInterface", error);
     }
 
     DWORD WlanConnect(HANDLE client,
@@ -123,7 +126,7 @@ public:
         const auto edited = m_profileTexts.find(name != nullptr ? name : L"");
         if (error == 0 && edited != m_profileTexts.end())
             Overwrite(*xml, edited->second);
-        return error;
+        return BesideAnswer("WlanGetProfile", error);
     }
 
     DWORD WlanSetProfile(HANDLE client,
@@ -142,6 +145,12 @@ public:
     }
 
 private:
+    DWORD BesideAnswer(std::string_view operation, DWORD error) const
+    {
+        const DWORD beside = errorBesideAnswer ? errorBesideAnswer(operation) : 0;
+        return error != 0 ? error : beside;
+    }
+
     static void Overwrite(wchar_t* xml, const std::wstring& text)
     {
         ASSERT_LE(text.size(), std::wcslen(xml)) << "there is no room for the edited profile";

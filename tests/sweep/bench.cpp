@@ -30,12 +30,26 @@ constexpr std::array<std::string_view, 3> kReleases = {"WlanCloseHandle", "Close
 
 constexpr std::array<std::string_view, 4> kLists = {"WlanEnumInterfaces", "WlanGetProfileList",
                                                     "WlanGetAvailableNetworkList", "WlanGetNetworkBssList"};
+/// Besides the lists.
+constexpr std::array<std::string_view, 2> kRecords = {"WlanQueryInterface", "WlanGetProfile"};
 
-/// Takes the entries out of the lists that a failure of that kind is about.
-class Emptying
+/// Changes the answers of the calls that a failure is about: takes the entries out of lists, or adds an error.
+class Altering
 {
 public:
-    explicit Emptying(const Failure& failure) : m_failure(failure)
+    explicit Altering(const Failure& failure) : m_failure(failure)
+    {
+        if (failure.way == Way::emptied)
+            EmptyLists();
+        else
+            m_answers.service.errorBesideAnswer = [this](std::string_view operation)
+            { return operation == m_failure.operation && Concerns() ? m_failure.fault.error : 0; };
+    }
+
+    unsigned Altered() const { return m_altered; }
+
+private:
+    void EmptyLists()
     {
         m_answers.service.interfaceList = For<WLAN_INTERFACE_INFO_LIST>("WlanEnumInterfaces");
         m_answers.service.profileList = For<WLAN_PROFILE_INFO_LIST>("WlanGetProfileList");
@@ -44,32 +58,29 @@ public:
         { empty(list); };
     }
 
-    unsigned Emptied() const { return m_emptied; }
-
-private:
     template <typename List>
     std::function<void(List&)> For(std::string_view operation)
     {
         return [this, concerned = operation == m_failure.operation](List& list)
         {
-            if (!concerned || ++m_seen < m_failure.fault.fromCall)
-                return;
-            if (m_seen - m_failure.fault.fromCall < m_failure.fault.times)
-                Empty(list);
+            if (concerned && Concerns())
+                list.dwNumberOfItems = 0;
         };
     }
 
-    template <typename List>
-    void Empty(List& list)
+    /// Whether the failure is about this call of its operation.
+    bool Concerns()
     {
-        list.dwNumberOfItems = 0;
-        ++m_emptied;
+        if (++m_seen < m_failure.fault.fromCall || m_seen - m_failure.fault.fromCall >= m_failure.fault.times)
+            return false;
+        ++m_altered;
+        return true;
     }
 
     const Failure& m_failure;
     EditedAnswers m_answers;
     unsigned m_seen = 0;
-    unsigned m_emptied = 0;
+    unsigned m_altered = 0;
 };
 
 template <std::size_t Count>
@@ -147,11 +158,18 @@ Reference Record(const simulation::Scenario& world, const MethodCall& method)
 
 std::string Failure::Text() const
 {
-    if (emptied)
-        return operation + " from call " + std::to_string(fault.fromCall) + " lists nothing, " +
-               std::to_string(fault.times) + " times";
-    return operation + " call " + std::to_string(fault.fromCall) +
-           (fault.times == 1 ? " fails with " : " and all later ones fail with ") + std::to_string(fault.error);
+    const std::string calls = operation + " call " + std::to_string(fault.fromCall) +
+                              (fault.times == 1 ? ", no other, " : " and all later ones, ");
+    switch (way)
+    {
+    case Way::refused:
+        break;
+    case Way::emptied:
+        return calls + "list nothing";
+    case Way::refusedBesideAnswer:
+        return calls + "fail beside their answer with " + std::to_string(fault.error);
+    }
+    return calls + "fail with " + std::to_string(fault.error);
 }
 
 bool Failure::IsRelease() const
@@ -174,7 +192,9 @@ std::vector<Failure> FailuresOf(const Reference& reference)
                 failures.push_back({operation, {error, number, times}});
         if (Contains(kLists, operation))
             for (const unsigned times : {1U, Fault::kUnlimited})
-                failures.push_back({operation, {0, number, times}, true});
+                failures.push_back({operation, {0, number, times}, Way::emptied});
+        if (Contains(kLists, operation) || Contains(kRecords, operation))
+            failures.push_back({operation, {kErrors[0], number, Fault::kUnlimited}, Way::refusedBesideAnswer});
     }
     return failures;
 }
@@ -186,11 +206,11 @@ namespace
 Outcome CallInTrouble(
     Bench& bench, wrappers::FaultInjection& faults, const MethodCall& method, const Failure& failure, unsigned& failed)
 {
-    if (failure.emptied)
+    if (failure.way != Way::refused)
     {
-        const Emptying emptying(failure);
+        const Altering altering(failure);
         const Outcome outcome = bench.Call(method);
-        failed = emptying.Emptied();
+        failed = altering.Altered();
         return outcome;
     }
     faults.Fail(failure.operation, failure.fault);

@@ -44,12 +44,20 @@ struct Reference
 
 Reference Record(const simulation::Scenario& world, const MethodCall& method);
 
+/// What becomes of the calls that a failure is about.
+enum class Way
+{
+    refused,
+    emptied,            ///< answered, with an empty list
+    refusedBesideAnswer ///< refused, although the answer was handed out, which has to be released
+};
+
 /// One way in which the platform lets a method down.
 struct Failure
 {
     std::string operation;
     wrappers::Fault fault;
-    bool emptied = false; ///< the call is answered, with an empty list
+    Way way = Way::refused;
 
     std::string Text() const;
     /// Whether the operation gives something back, which then stays with the program that wanted to.
@@ -57,7 +65,7 @@ struct Failure
 };
 
 /// Every recorded call that can fail: alone and with all that follow of its operation, each with several errors. Those
-/// that give a list are answered with an empty one, too.
+/// that give a list are answered with an empty one, too, and those that hand out memory are refused beside their answer.
 std::vector<Failure> FailuresOf(const Reference& reference);
 
 /// A failure's run.

@@ -44,7 +44,7 @@ bool MeansNothingThere(host::Cause cause)
 /// Whether the failed call can be why a method ended with a code of its table.
 bool CanCause(const Failure& failure, host::Cause cause)
 {
-    if (failure.emptied)
+    if (failure.way == sweep::Way::emptied)
         return MeansNothingThere(cause);
     const char* const operation = Describe(cause).operation;
     return operation == nullptr || operation == failure.operation;
@@ -81,7 +81,7 @@ void ExpectAllowed(const MethodCall& method, const Run& run, const Failure& fail
         EXPECT_TRUE(!run.outcome.wroteOutput || WritesWhenFailing(method))
             << "outputs are written, the code is " << code;
     }
-    else if (!failure.emptied && results->kind != host::ResultKind::nothing)
+    else if (failure.way != sweep::Way::emptied && results->kind != host::ResultKind::nothing)
     {
         EXPECT_TRUE(IsTolerated(method, failure, run.outcome, reference))
             << "no failure, but " << code << run.outcome.text;

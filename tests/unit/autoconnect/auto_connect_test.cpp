@@ -3,7 +3,6 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <string>
@@ -156,20 +155,6 @@ TEST_F(AutoConnectTest, TheClientIsOpenedFirstWhenNeeded)
     }
     EXPECT_EQ(-4, manager().AutoConnect(nullptr)) << "a null interface is the service's to refuse";
     EXPECT_EQ(-4, manager().AutoConnectEx(nullptr));
-}
-
-TEST_F(AutoConnectTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const auto method : {Auto, AutoEx})
-    {
-        {
-            const AlteredAnswers altered({.failingBesideAnswer = "WlanGetProfileList"});
-            EXPECT_EQ(-4, method(manager()));
-        }
-        const AlteredAnswers altered({.failingBesideAnswer = "WlanGetAvailableNetworkList"});
-        EXPECT_EQ(-6, method(manager()));
-        ExpectNothingHeld();
-    }
 }
 
 // --- AutoConnectEx ----------------------------------------------------------------------------------------------

@@ -3,7 +3,6 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <string>
@@ -182,17 +181,6 @@ TEST_F(AutoSwitchTest, WhereNothingMatchesItIsMinusSevenWithoutATrace)
     EXPECT_EQ(0u, callCount("WlanSetProfilePosition"));
 }
 
-TEST_F(AutoSwitchTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const auto& [operation, code] : {std::pair{"WlanQueryInterface", -3}, std::pair{"WlanGetProfileList", -4},
-                                          std::pair{"WlanGetAvailableNetworkList", -6}})
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_EQ(code, Switch(manager()));
-        ExpectNothingHeld();
-    }
-}
-
 // --- SmartSwitch ------------------------------------------------------------------------------------------------
 
 TEST_F(SmartSwitchTest, AsksForANetworkThatIsBetterThanTheCurrentOne)
@@ -314,16 +302,6 @@ TEST_F(SmartSwitchTest, Failures)
                            .traced = {kNotConnected},
                            .buffer = local,
                            .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
-}
-
-TEST_F(SmartSwitchTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const char* operation : {"WlanQueryInterface", "WlanGetProfileList", "WlanGetAvailableNetworkList"})
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_EQ(5, Smart(manager())) << operation;
-        ExpectNothingHeld();
-    }
 }
 
 } // namespace calvix::test::auto_switch_test

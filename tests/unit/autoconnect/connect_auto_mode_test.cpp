@@ -3,7 +3,6 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <string>
@@ -226,17 +225,6 @@ TEST_F(ConnectAutoModeTest, Failures)
                    {.method = name, .call = AutoMode, .expected = -9, .buffer = local, .prepare = [](auto& test) {
                         test.UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
                     }}});
-}
-
-TEST_F(ConnectAutoModeTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const auto& [operation, code] :
-         {std::pair{"WlanGetProfileList", -4}, std::pair{"WlanGetAvailableNetworkList", -6}})
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_EQ(code, AutoMode(manager()));
-        ExpectNothingHeld();
-    }
 }
 
 TEST_F(ConnectAutoModeTest, NeedsNoMemoryOfItsOwn)

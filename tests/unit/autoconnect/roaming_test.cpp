@@ -3,7 +3,6 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -255,20 +254,6 @@ TEST_F(RoamingTest, ANullInterfaceIsTheServicesToRefuse)
 {
     EXPECT_EQ(-4, manager().PreRoaming(nullptr));
     EXPECT_EQ(-4, manager().Roaming(nullptr));
-}
-
-TEST_F(RoamingTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const auto& [name, method] : kMethods)
-    {
-        {
-            const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
-            EXPECT_EQ(-4, method(manager())) << name;
-        }
-        const AlteredAnswers altered({.failingBesideAnswer = "WlanGetNetworkBssList"});
-        EXPECT_EQ(-6, method(manager())) << name;
-        ExpectNothingHeld();
-    }
 }
 
 TEST_F(RoamingTest, NeedsNoMemoryOfItsOwn)

@@ -3,7 +3,6 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -157,16 +156,6 @@ TEST_F(SmartConnectingTest, WithoutAnAdapterItSucceedsAndWritesNothing)
                            .traced = {kNoAdapterText},
                            .buffer = TraceBuffer::local,
                            .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }}});
-}
-
-TEST_F(SmartConnectingTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const char* operation : {"WlanEnumInterfaces", "WlanGetProfileList", "WlanGetAvailableNetworkList"})
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_EQ(5, ConnectWritingNothing(manager())) << operation;
-        ExpectNothingHeld();
-    }
 }
 
 } // namespace calvix::test::smart_connecting_test

@@ -2,7 +2,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -517,21 +516,6 @@ TEST_F(ConnectTest, ANullInterfaceIsTheServicesToRefuse)
     EXPECT_EQ(-4, manager().ResetConnection(nullptr));
     EXPECT_THAT(traced(), ElementsAre("WlanGetNetworkBssList failed with error: 87",
                                       "WlanConnect failed with error: 87", "WlanQueryInterface failed with error: 87"));
-}
-
-TEST_F(ConnectTest, WhatComesWithAnErrorIsReleased)
-{
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = "WlanGetAvailableNetworkList"});
-        EXPECT_EQ(5, LinkHomeNet(manager()));
-    }
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = "WlanGetNetworkBssList"});
-        EXPECT_EQ(-4, kReconnectForms[0].call(manager(), kHome, 20));
-    }
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
-    EXPECT_EQ(-4, ResetA(manager()));
-    ExpectNothingHeld();
 }
 
 TEST_F(ConnectTest, NeedsNoMemoryOfItsOwn)

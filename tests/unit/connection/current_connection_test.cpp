@@ -346,21 +346,6 @@ TEST_F(CurrentConnectionTest, OpensTheClientWhenItIsNotOpen)
     EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
 }
 
-TEST_F(CurrentConnectionTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const auto& [name, call] : kFirstInterfaceMethods)
-    {
-        {
-            const AlteredAnswers altered({.failingBesideAnswer = "WlanEnumInterfaces"});
-            EXPECT_EQ(-2, call(manager())) << name;
-            ExpectNothingHeld();
-        }
-        const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
-        EXPECT_EQ(-4, call(manager())) << name;
-        ExpectNothingHeld();
-    }
-}
-
 TEST_F(CurrentConnectionTest, NeedsNoMemoryOfItsOwn)
 {
     WLAN_CONNECTION_ATTRIBUTES record{};

@@ -196,13 +196,6 @@ TEST_F(LinkInfoTest, ANullInterfaceIsTheServicesToRefuse)
     EXPECT_EQ(77, info.state);
 }
 
-TEST_F(LinkInfoTest, WhatComesWithAnErrorIsReleased)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
-    EXPECT_EQ(5, AskUntouched(manager()));
-    ExpectNothingHeld();
-}
-
 TEST_F(LinkInfoTest, NeedsNoMemoryOfItsOwn)
 {
     LinkInfo info;
@@ -268,14 +261,6 @@ TEST_F(CurrentWiFiTest, NullArguments)
     WLAN_CONNECTION_ATTRIBUTES record = KeptAttributes();
     EXPECT_EQ(-4, manager().GetCurrentWiFi(nullptr, &record));
     EXPECT_EQ("WlanGetNetworkBssList failed with error: 87", sharedTrace());
-}
-
-TEST_F(CurrentWiFiTest, AListThatComesWithAnErrorIsReleased)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanGetNetworkBssList"});
-    EXPECT_EQ(-4, CountHomeNet(manager()));
-    EXPECT_THAT(traced(), ElementsAre("WlanGetNetworkBssList failed with error: 5", kBssReleased));
-    ExpectNothingHeld();
 }
 
 TEST_F(CurrentWiFiTest, NeedsNoMemoryOfItsOwn)

@@ -172,14 +172,6 @@ TEST_F(LinkStateTest, OpensTheClientWhenItIsNotOpen)
     }
 }
 
-TEST_F(LinkStateTest, AListThatComesWithAnErrorIsReleased)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanEnumInterfaces"});
-    EXPECT_EQ(0, Connected(manager()));
-    EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterB));
-    ExpectNothingHeld();
-}
-
 TEST_F(LinkStateTest, NeedsNoMemoryOfItsOwn)
 {
     EXPECT_EQ(0u, CountLibraryAllocations([this] { Connected(manager()); }));

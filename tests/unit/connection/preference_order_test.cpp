@@ -1,7 +1,6 @@
 #include "support/contract_table.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <string>
@@ -147,16 +146,6 @@ TEST_F(PreferenceOrderTest, AFailedMoveMovesNothing)
     FailOn("WlanSetProfilePosition", 1168);
     EXPECT_EQ(1168, manager().SetCurrentWiFiToLast());
     EXPECT_EQ(L"HomeNet", Order().front());
-}
-
-TEST_F(PreferenceOrderTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const char* operation : {"WlanEnumInterfaces", "WlanGetProfileList", "WlanQueryInterface"})
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_EQ(5, manager().SetCurrentWiFiToLast()) << operation;
-        ExpectNothingHeld();
-    }
 }
 
 TEST_F(PreferenceOrderTest, NeedsNoMemoryOfItsOwn)

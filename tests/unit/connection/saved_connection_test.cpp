@@ -232,13 +232,6 @@ TEST_F(SavedConnectionTest, AProfileDeletedMeanwhileIsSavedHalf)
     EXPECT_EQ(1, SavedMode());
 }
 
-TEST_F(SavedConnectionTest, WhatComesWithAnErrorIsReleased)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
-    EXPECT_EQ(-4, SaveNothing(manager()));
-    ExpectNothingHeld();
-}
-
 // --- RecoverConnetionAttributes ---------------------------------------------------------------------------------
 
 TEST_F(SavedConnectionTest, RecoversTheSavedConnection)

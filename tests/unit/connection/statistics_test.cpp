@@ -118,13 +118,6 @@ TEST_F(StatisticsTest, OpensTheClientWhenItIsNotOpen)
     EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanQueryInterface", "WlanFreeMemory"));
 }
 
-TEST_F(StatisticsTest, WhatComesWithAnErrorIsReleased)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
-    EXPECT_EQ(-4, Ask(manager()));
-    ExpectNothingHeld();
-}
-
 TEST_F(StatisticsTest, NeedsNoMemoryOfItsOwn)
 {
     _WIFI_TXRX_COUNT count{};

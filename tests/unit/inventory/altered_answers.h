@@ -4,8 +4,6 @@
 #include "support/forwarding_platform.h"
 
 #include <functional>
-#include <string>
-#include <string_view>
 #include <utility>
 
 namespace calvix::test
@@ -23,8 +21,6 @@ struct AnswerChanges
     std::function<void(WLAN_INTF_OPCODE, PVOID, DWORD&)> query = {};
     /// Sees what WlanSetInterface is given.
     std::function<void(WLAN_INTF_OPCODE, DWORD, const void*)> set = {};
-    /// An operation that hands out its answer and fails with 5 all the same.
-    std::string failingBesideAnswer = {};
 };
 
 /// The WLAN service in use, with changed answers.
@@ -43,7 +39,7 @@ public:
     DWORD WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list) override
     {
         const DWORD error = m_inner.WlanEnumInterfaces(client, reserved, list);
-        return Changed("WlanEnumInterfaces", error, list, m_changes.interfaces);
+        return Changed(error, list, m_changes.interfaces);
     }
     DWORD WlanScan(
         HANDLE client, const GUID* guid, const DOT11_SSID* ssid, const WLAN_RAW_DATA* data, PVOID reserved) override
@@ -54,7 +50,7 @@ public:
         HANDLE client, const GUID* guid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list) override
     {
         const DWORD error = m_inner.WlanGetAvailableNetworkList(client, guid, flags, reserved, list);
-        return Changed("WlanGetAvailableNetworkList", error, list, m_changes.networks);
+        return Changed(error, list, m_changes.networks);
     }
     DWORD WlanGetNetworkBssList(HANDLE client,
                                 const GUID* guid,
@@ -65,7 +61,7 @@ public:
                                 WLAN_BSS_LIST** list) override
     {
         const DWORD error = m_inner.WlanGetNetworkBssList(client, guid, ssid, type, secured, reserved, list);
-        return Changed("WlanGetNetworkBssList", error, list, m_changes.bss);
+        return Changed(error, list, m_changes.bss);
     }
     DWORD WlanQueryInterface(HANDLE client,
                              const GUID* guid,
@@ -78,7 +74,7 @@ public:
         const DWORD error = m_inner.WlanQueryInterface(client, guid, opcode, reserved, size, data, type);
         if (error == 0 && m_changes.query)
             m_changes.query(opcode, *data, *size);
-        return error != 0 ? error : ErrorBesideAnswer("WlanQueryInterface");
+        return error;
     }
     DWORD WlanSetInterface(
         HANDLE client, const GUID* guid, WLAN_INTF_OPCODE opcode, DWORD size, const void* data, PVOID reserved) override
@@ -100,7 +96,7 @@ public:
     WlanGetProfileList(HANDLE client, const GUID* guid, PVOID reserved, WLAN_PROFILE_INFO_LIST** list) override
     {
         const DWORD error = m_inner.WlanGetProfileList(client, guid, reserved, list);
-        return Changed("WlanGetProfileList", error, list, m_changes.profiles);
+        return Changed(error, list, m_changes.profiles);
     }
     DWORD WlanGetProfile(HANDLE client,
                          const GUID* guid,
@@ -174,18 +170,11 @@ public:
 
 private:
     template <typename List>
-    DWORD Changed(std::string_view operation, DWORD error, List** list, const std::function<void(List&)>& change) const
+    static DWORD Changed(DWORD error, List** list, const std::function<void(List&)>& change)
     {
-        if (error != 0)
-            return error;
-        if (change)
+        if (error == 0 && change)
             change(**list);
-        return ErrorBesideAnswer(operation);
-    }
-
-    DWORD ErrorBesideAnswer(std::string_view operation) const
-    {
-        return operation == m_changes.failingBesideAnswer ? 5 : 0;
+        return error;
     }
 
     platform::WlanService& m_inner;

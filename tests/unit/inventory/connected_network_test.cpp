@@ -1,6 +1,5 @@
 #include "support/contract_table.h"
 #include "support/library_test.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -192,20 +191,6 @@ TEST_F(ConnectedNetworkTest, TheSecondAdapterIsNeverAsked)
 }
 
 // --- Both ---
-
-TEST_F(ConnectedNetworkTest, WhatComesWithAnErrorIsReleased)
-{
-    const auto check = [this](const char* operation, long gone, long code)
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_EQ(gone, IsGone(manager())) << operation;
-        EXPECT_EQ(code, CurrentBss(manager())) << operation;
-        ExpectNothingHeld();
-    };
-    check("WlanEnumInterfaces", 0, -2);
-    check("WlanQueryInterface", 0, -4);
-    check("WlanGetNetworkBssList", 0, -5);
-}
 
 TEST_F(ConnectedNetworkTest, NeedsNoMemoryOfItsOwn)
 {

@@ -321,15 +321,4 @@ TEST_F(ListingsTest, OneRefusalDoesNotEndTheWalk)
         }
 }
 
-TEST_F(ListingsTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const char* operation : {"WlanEnumInterfaces", "WlanGetAvailableNetworkList", "WlanGetNetworkBssList"})
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        manager().GetAvailableNetwork();
-        manager().GetNetworkBss();
-        ExpectNothingHeld();
-    }
-}
-
 } // namespace calvix::test::listings_test

@@ -234,15 +234,6 @@ TEST_F(NetworkLookupTest, EveryWayToFail)
         });
 }
 
-TEST_F(NetworkLookupTest, ListsThatComeWithAnErrorAreReleased)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanGetAvailableNetworkList"});
-    EXPECT_EQ(-3, Find("HomeNet"));
-    EXPECT_THAT(traced(), ElementsAre("WlanGetAvailableNetworkList failed with error: 5", kNetworksReleased));
-    EXPECT_EQ(-4, Explain("HomeNet"));
-    ExpectNothingHeld();
-}
-
 TEST_F(NetworkLookupTest, ANullInterfaceIsTheServicesToRefuse)
 {
     DOT11_SSID wanted = MakeSsid("HomeNet");

@@ -1,6 +1,5 @@
 #include "support/contract_table.h"
 #include "support/library_test.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 namespace calvix::test::scan_test
@@ -124,13 +123,6 @@ TEST_F(ScanTest, DoesNotGoOnToTheSecondAdapterWhenTheFirstRefuses)
     EXPECT_EQ(-4, manager().Rescan());
     EXPECT_EQ(1u, callCount("WlanScan"));
     EXPECT_EQ(kAdapterAText, call("WlanScan")["interface"]);
-}
-
-TEST_F(ScanTest, ReleasesAListThatCameWithAnError)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanEnumInterfaces"});
-    EXPECT_EQ(-2, manager().Rescan());
-    ExpectNothingHeld();
 }
 
 TEST_F(ScanTest, NeedsNoMemoryOfItsOwn)

@@ -424,21 +424,6 @@ TEST_F(SignalTest, ANullInterfaceIsTheServicesToRefuse)
     EXPECT_EQ(77, rssi);
 }
 
-TEST_F(SignalTest, WhatComesWithAnErrorIsReleased)
-{
-    const auto check = [this](const char* operation, auto ask, long long code)
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_EQ(code, ask(manager())) << operation;
-        ExpectNothingHeld();
-    };
-    check("WlanQueryInterface", Rssi, -4);
-    check("WlanQueryInterface", CurrentRssi, -4);
-    check("WlanGetNetworkBssList", CurrentRssi, -5);
-    check("WlanGetAvailableNetworkList", HomeNetRssi, -100);
-    check("WlanQueryInterface", Quality, -4);
-}
-
 TEST_F(SignalTest, NeedsNoMemoryOfItsOwn)
 {
     int rssi = 0;

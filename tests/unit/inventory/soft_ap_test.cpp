@@ -319,19 +319,6 @@ TEST_F(SoftApTest, EveryFailureIsNo)
                   });
 }
 
-TEST_F(SoftApTest, WhatComesWithAnErrorIsReleased)
-{
-    for (const char* operation : {"WlanEnumInterfaces", "WlanQueryInterface"})
-    {
-        const AlteredAnswers altered({.failingBesideAnswer = operation});
-        EXPECT_FALSE(manager().SpecialSoftAP());
-        ExpectNothingHeld();
-    }
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanGetAvailableNetworkList"});
-    EXPECT_EQ(5, FailingList(manager()));
-    ExpectNothingHeld();
-}
-
 TEST_F(SoftApTest, SpecialSoftApNeedsNoMemoryOfItsOwn)
 {
     EXPECT_EQ(0u, CountLibraryAllocations([&] { Special(manager()); }));

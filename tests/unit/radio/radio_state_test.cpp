@@ -233,18 +233,6 @@ TEST_F(RadioStateTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
     }
 }
 
-TEST_F(RadioStateTest, WhatComesWithAnErrorIsReleased)
-{
-    const AlteredAnswers altered({.failingBesideAnswer = "WlanQueryInterface"});
-    for (const RadioMethod& method : kMethods)
-    {
-        EXPECT_EQ(method.queryFailed, method.call(manager())) << method.name;
-        ExpectNothingHeld();
-    }
-    EXPECT_EQ(-5, SafeMode(manager()));
-    ExpectNothingHeld();
-}
-
 TEST_F(RadioStateTest, NeedsNoMemoryOfItsOwn)
 {
     for (const RadioMethod& method : kMethods)
