@@ -1,5 +1,7 @@
 #include "result_codes.h"
 
+#include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace calvix::host
@@ -10,6 +12,16 @@ namespace
 
 using enum Cause;
 using enum ResultKind;
+
+/// The rows of several tables, one after the other.
+template <std::size_t... Sizes>
+constexpr auto Joined(const CodeRow (&... tables)[Sizes])
+{
+    std::array<CodeRow, (Sizes + ...)> rows{};
+    auto next = rows.begin();
+    ((next = std::copy(std::begin(tables), std::end(tables), next)), ...);
+    return rows;
+}
 
 // Frame and adapters
 
@@ -61,7 +73,7 @@ constexpr CodeRow kCurrentConnection[] = {
 constexpr CodeRow kGetCurrentWiFi[] = {{-1, clientNotOpened}, {-4, bssListFailed}, {-14, nullInput}};
 constexpr CodeRow kGetWlanStatistics[] = {{-1, clientNotOpened}, {-4, statisticsRefused}, {-13, nullOutput}};
 
-// Access points of stored networks, best access point
+// Access points of stored networks
 
 constexpr CodeRow kGetMatchAP[] = {{-2, clientNotOpened},   {-5, profileListFailed}, {-6, noProfile},
                                    {-7, networkListFailed}, {-8, networkListEmpty},  {-13, nullOutput}};
@@ -72,10 +84,6 @@ constexpr CodeRow kGetMatchBSSID[] = {{-1, diagnosticRun},      {-2, clientNotOp
                                       {-6, noProfile},          {-7, networkListFailed},  {-8, networkListEmpty},
                                       {-9, firstBssListFailed}, {-10, firstBssListEmpty}, {-11, laterBssListFailed},
                                       {-12, laterBssListEmpty}};
-constexpr CodeRow kConnectBestAP[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
-                                      {-6, networkListFailed}, {-7, networkListEmpty},  {-9, noCandidate},
-                                      {-10, bssListFailed},    {-11, bssListEmpty},     {-12, everyRequestRefused},
-                                      {-13, nullInput},        {-14, nullInput}};
 
 // Radio and interface settings
 
@@ -103,23 +111,26 @@ constexpr CodeRow kRecoverSaved[] = {
     {-99, savedNotAutomatic}, {-1, clientNotOpened}, {-4, bssListFailed}, {-5, savedNotInView}, {-6, requestRefused}};
 constexpr CodeRow kRecoverNotification[] = {{-1, clientNotOpened}, {-4, bssListFailed}, {-6, accessPointNotJoined}};
 
-// Automatic connection, roaming
+// Best access point, automatic connection, roaming
 
-constexpr CodeRow kAutoConnect[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
-                                    {-6, networkListFailed}, {-7, networkListEmpty},  {-9, nothingMatches}};
-constexpr CodeRow kAutoConnectEx[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
-                                      {-6, networkListFailed}, {-7, networkListEmpty},  {-9, nothingMatches},
-                                      {-10, bssListFailed},    {-11, bssListEmpty},     {-12, everyRequestRefused}};
+constexpr CodeRow kListed[] = {
+    {-1, clientNotOpened}, {-4, profileListFailed}, {-5, noProfile}, {-6, networkListFailed}, {-7, networkListEmpty}};
+constexpr CodeRow kNoCandidate[] = {{-9, noCandidate}};
+constexpr CodeRow kNothingMatches[] = {{-9, nothingMatches}};
+constexpr CodeRow kRanked[] = {{-10, bssListFailed}, {-11, bssListEmpty}, {-12, everyRequestRefused}};
+constexpr CodeRow kNullExclusion[] = {{-13, nullInput}, {-14, nullInput}};
+constexpr auto kConnectBestAP = Joined(kListed, kNoCandidate, kRanked, kNullExclusion);
+constexpr auto kAutoConnect = Joined(kListed, kNothingMatches);
+constexpr auto kAutoConnectEx = Joined(kListed, kNothingMatches, kRanked);
+constexpr auto kConnectAutoMode = Joined(kListed, kNoCandidate);
 constexpr CodeRow kAutoSwitch[] = {{-1, clientNotOpened}, {-3, notConnected},      {-4, profileListFailed},
                                    {-5, profileNotMoved}, {-6, networkListFailed}, {-7, nothingMatches}};
 constexpr CodeRow kSmartSwitch[] = {{-1, clientNotOpened}, {-2, nothingBetter}};
 constexpr CodeRow kSmartConnecting[] = {{-1, clientNotOpened}, {-2, nothingMatches}};
-constexpr CodeRow kConnectAutoMode[] = {{-1, clientNotOpened},   {-4, profileListFailed}, {-5, noProfile},
-                                        {-6, networkListFailed}, {-7, networkListEmpty},  {-9, noCandidate}};
 constexpr CodeRow kPreRoaming[] = {{-1, clientNotOpened}, {-4, notConnected}, {-5, signalGoodEnough},
                                    {-6, bssListFailed},   {-7, noBssInView},  {-8, alreadyThere}};
-constexpr CodeRow kRoaming[] = {{-1, clientNotOpened}, {-4, notConnected}, {-5, signalGoodEnough}, {-6, bssListFailed},
-                                {-7, noBssInView},     {-8, alreadyThere}, {-9, requestRefused}};
+constexpr CodeRow kRoamingRefused[] = {{-9, requestRefused}};
+constexpr auto kRoaming = Joined(kPreRoaming, kRoamingRefused);
 
 // Power schemes, the internet
 

@@ -77,6 +77,7 @@ enum class Cause
 struct CauseText
 {
     Cause cause;
+    const char* brief;     ///< as the library's header says it
     const char* meaning;   ///< what is the case, a sentence without its full stop
     const char* advice;    ///< what to do about it
     const char* operation; ///< the platform's operation that was refused; null: none

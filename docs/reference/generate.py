@@ -6,9 +6,9 @@
                                      the result codes
 
 The parts of a method, and where each is written down, once:
-    purpose, results in brief   its comment in include/calvix/wireless_manage.h
-    result codes                cli/result_codes.cpp, through `calvix explain`
-    calls, arguments, quirks    methods/*.json here; arguments that many methods have: arguments.json
+    purpose, arguments, codes   its comment in include/calvix/wireless_manage.h
+    what to do about a code     cli/result_causes.cpp, through `calvix explain`
+    platform calls, marks       methods/*.json here
     example                     the region of its name in examples/reference/*.cpp
 """
 
@@ -24,6 +24,8 @@ ROOT = HERE.parent.parent
 HEADER = ROOT / "include/calvix/wireless_manage.h"
 # In the order of the main page.
 FAMILIES = "adapters networks profiles connections automatic radio system texts manager".split()
+# The one argument that the header explains for all methods together.
+ADAPTER = ("pInterfaceGuid", "@param[in] pInterfaceGuid GUID of the adapter, as GetWlanInterface lists it")
 PAGES = [*sorted((ROOT / "docs/guides").glob("*.md")), *sorted((ROOT / "docs").glob("*.md"))]
 
 
@@ -49,8 +51,19 @@ class Method:
         parameters = ", ".join(f"{without_order(kind)}" for kind, _ in self.parameters)
         return f"CWirelessManage::{self.name}({parameters})"
 
-    def argument(self, name, shared):
-        return self.data.get("arguments", {}).get(name) or shared.get(name)
+    def paragraphs(self):
+        """The comment's paragraphs; each of its tags begins one."""
+        return re.split(r"\n(?=@)|\n\n+", "\n".join(self.comment))
+
+    def told_codes(self, methods):
+        """The codes after @return; "as METHOD" stands for those of that method's first declaration."""
+        text = " ".join(paragraph for paragraph in self.paragraphs() if paragraph.startswith("@return"))
+        codes = {int(code, 0) for code in re.findall(r"\s(-\d+|0x[0-9A-F]+|1)\s", text)}
+        firsts = {method.name: method for method in reversed(list(methods.values()))}
+        for name in re.findall(r"\bas\s(\w+)", text):
+            if name in firsts and firsts[name] is not self:
+                codes |= firsts[name].told_codes(methods)
+        return codes
 
 
 def split_list(text):
@@ -92,7 +105,6 @@ def load(items):
     problems = []
     methods = {item.key: item for item in items if isinstance(item, Method)}
     exports = (ROOT / "tests/binary/exports.txt").read_text(encoding="utf-8").splitlines()
-    shared = json.loads((HERE / "arguments.json").read_text(encoding="utf-8"))
     families = {}
     for name in FAMILIES:
         families[name] = json.loads((HERE / "methods" / f"{name}.json").read_text(encoding="utf-8"))
@@ -107,32 +119,27 @@ def load(items):
     for key in sorted(set(exports) ^ set(methods)):
         problems.append(f"{key}: {'exported, but not declared' if key in exports else 'declared, but not exported'}")
     for method in methods.values():
-        problems += [f"{method.key}: {problem}" for problem in missing_parts(method, shared, regions, codes)]
+        problems += [f"{method.key}: {problem}" for problem in missing_parts(method, regions, codes)]
     examples = [method.example for method in methods.values()]
     problems += [f"examples/reference: no method shows [{name}]" for name in sorted(set(regions) - set(examples))]
     problems += [f"the example [{name}] is shown twice" for name in sorted(regions) if examples.count(name) > 1]
-    return methods, families, shared, regions, problems
+    return methods, families, regions, problems
 
 
-def missing_parts(method, shared, regions, codes):
+def missing_parts(method, regions, codes):
     if not method.data:
         yield "no entry in methods/*.json"
         return
-    if not " ".join(method.comment).strip():
+    if not method.comment or method.comment[0].startswith("@"):
         yield "no comment in the header"
-    for part in ("calls", "quirks", "arguments"):
-        if part not in method.data:
-            yield f'no "{part}"'
-    if "purpose" not in method.data and re.match(r"The same|\d|\W", " ".join(method.comment)):
-        yield "its comment leans on others, and it has no \"purpose\""
-    for _, name in method.parameters:
-        text = method.argument(name, shared)
-        if not text:
-            yield f"nothing is said about the argument {name}"
-        elif not re.match(r"(in|out|in,out): .", text):
-            yield f"the argument {name} has no direction"
-    for name in set(method.data["arguments"]) - {name for _, name in method.parameters}:
-        yield f"has no argument {name}"
+    if "calls" not in method.data:
+        yield 'no "calls"'
+    said = re.findall(r"^@param\[(?:in|out|in,out)\] (\w+) \S", "\n".join(method.comment), re.M)
+    wanted = [name for _, name in method.parameters if name != ADAPTER[0] or name in said]
+    if said != wanted:
+        yield f"its arguments are {', '.join(wanted) or 'none'}; the comment has {', '.join(said) or 'none'}"
+    if any(line.startswith("@return") for line in method.comment) == (method.returns == "void"):
+        yield "@return is missing, or too much"
     if method.example not in regions:
         yield f"no region [{method.example}] in examples/reference"
     if method.name not in codes:
@@ -174,15 +181,6 @@ class Links:
         return f'@ref CWirelessManage::{name} "{name}"'
 
 
-def own_words(method):
-    """The header's comment, but for a first sentence that says only what is different from the method above."""
-    text = " ".join(method.comment)
-    if not text.startswith("The same"):
-        return method.comment
-    _, _, rest = text.partition(". ")
-    return textwrap.wrap(rest, 110)
-
-
 def operation(call):
     """The operation of an entry, whether it is made in some cases only, and the remark behind it."""
     match = re.match(r"(\[?)(\w+)\]?(?: (.*))?$", call)
@@ -204,30 +202,10 @@ def calls_text(method):
     yield ""
 
 
-def returned(results):
-    """What comes back, in a sentence that begins with the number where it is always the same."""
-    forms = {
-        "0 or a code": "0: {}; otherwise a code",
-        "a number or a code": "{}, or a code",
-        "1 or 0": "1 or 0: {}",
-        "0 or the platform's error number": "0: {}; otherwise a code or the platform's error number",
-    }
-    text = forms.get(results["returns"], "{}").format(results["success"])
-    return text[0].upper() + text[1:]
-
-
-def codes_text(method, results):
-    """The method's own result codes; overloads share a table, of which each has its part."""
-    without = method.data.get("without", [])
-    codes = [row for row in results["codes"] if row["code"] not in without]
-    for code in without:
-        if code not in [row["code"] for row in results["codes"]]:
-            raise SystemExit(f"{method.key}: its table has no {code} that could be left out")
-    said = {int(code) for code in re.findall(r"(?<![\w.(`])-\d+(?=[ ,;:.])", " ".join(method.comment))}
-    if results["returns"] != "a value" and (unknown := said - {row["code"] for row in codes}):
-        raise SystemExit(f"{method.key}: its comment names {sorted(unknown)}, its table does not")
-    if method.returns != "void":
-        yield f"@return {escaped(returned(results))}."
+def codes_text(method, results, methods):
+    """The method's own result codes with what to do about them; overloads share a table, of which each has its part."""
+    told = method.told_codes(methods)
+    codes = [row for row in results["codes"] if row["code"] in told or row["code"] & 0xFFFFFFFF in told]
     if not codes:
         return
     yield "@par Result codes"
@@ -241,13 +219,13 @@ def codes_text(method, results):
     yield ""
 
 
-def method_comment(method, results, families, shared, regions, links):
+def method_comment(method, results, methods, families, regions, links):
     """The comment of the header, then everything else."""
-    if "purpose" in method.data:
-        yield links(escaped(purpose(method)), method.name)
-        yield ""
-    yield from (links(line, method.name) for line in own_words(method))
-    yield ""
+    own = [line for paragraph in method.paragraphs() for line in (*paragraph.split("\n"), "")]
+    if any(name == ADAPTER[0] for _, name in method.parameters) and not any(ADAPTER[0] in line for line in own):
+        first_tag = next((at for at, line in enumerate(own) if line.startswith("@")), len(own))
+        own.insert(first_tag, ADAPTER[1])
+    yield from (links(escaped(line), method.name) for line in own)
     if mark := method.data.get("mark"):
         yield "@par Mark"
         yield f'<span class="mark">{mark}</span>'
@@ -256,15 +234,8 @@ def method_comment(method, results, families, shared, regions, links):
         yield "@par Alias"
         yield f"Another name of {links.link(alias)}."
         yield ""
-    for _, name in method.parameters:
-        direction, text = method.argument(name, shared).split(": ", 1)
-        yield f"@param[{direction}] {name} {links(escaped(text), method.name)}"
-    yield from codes_text(method, results)
+    yield from codes_text(method, results, methods)
     yield from calls_text(method)
-    if method.data["quirks"]:
-        yield "@par Quirks"
-        yield from (f"- {links(escaped(quirk), method.name)}" for quirk in method.data["quirks"])
-        yield ""
     yield "@par Example"
     yield "@code{.cpp}"
     yield from regions[method.example].splitlines()
@@ -273,17 +244,21 @@ def method_comment(method, results, families, shared, regions, links):
     yield f'@see @ref family_{method.family} "{families[method.family]["title"]}"'
 
 
-def write_header(items, results, families, shared, regions, links, out):
+def write_header(items, results, methods, families, regions, links, out):
     lines, open_section = [], False
     for item in items:
         if isinstance(item, Method):
-            comment = method_comment(item, results[item.name], families, shared, regions, links)
+            comment = method_comment(item, results[item.name], methods, families, regions, links)
             lines += [f"    /// {line}".rstrip() for line in comment]
             lines.append(f"    {item.declaration}")
         elif section := re.match(r"    // --- (.*?) -+$", item):
             lines += ["    /// @}"] if open_section else []
-            lines += [f"    /// @name {section[1]}", "    /// @{"]
+            lines += [f"    /// @name {section[1]}"]
             open_section = True
+        elif note := re.match(r"    // (.*)", item):
+            lines.append(f"    /// {links(escaped(note[1]))}")
+        elif not item and lines[-1].startswith("    ///"):
+            lines += ["    /// @{", ""]
         elif item.startswith("private:"):
             lines += ["    /// @}", item]
         else:
@@ -293,12 +268,9 @@ def write_header(items, results, families, shared, regions, links, out):
 
 
 def purpose(method):
-    """In one sentence: the first of the header's comment, without the operations that it names in brackets, or, where
-    that leans on the comments around it, one of its own."""
-    if text := method.data.get("purpose"):
-        return text
-    text = re.sub(r" \([A-Z]\w+(?:, [^()]*|; [^()]*)?\)| \[(?:in|out)\]", "", " ".join(method.comment))
-    return re.split(r"(?<=[a-z)\"])\. |; -", text)[0].rstrip(".") + "."
+    """In one sentence: the first of the header's comment, without the operations that it names in brackets."""
+    text = re.sub(r" \([A-Z]\w+(?:, [^()]*)?\)", "", " ".join(method.comment))
+    return re.split(r"(?<=[\w)\"])[.:] ", text)[0].rstrip(".") + "."
 
 
 def write_families(methods, families, results, links, out):
@@ -399,7 +371,7 @@ def read_results(program):
 
 def main(arguments):
     items = read_header()
-    methods, families, shared, regions, problems = load(items)
+    methods, families, regions, problems = load(items)
     for problem in problems:
         print(f"reference: {problem}", file=sys.stderr)
     if problems:
@@ -413,7 +385,7 @@ def main(arguments):
     out = pathlib.Path(arguments[2])
     results = read_results(arguments[1])
     links = Links(methods)
-    write_header(items, results, families, shared, regions, links, out)
+    write_header(items, results, methods, families, regions, links, out)
     write_families(methods, families, results, links, out)
     write_index(methods, families, links, out)
     write_pages(families, links, out)

@@ -22,552 +22,871 @@ struct ManagerInternals; // the library's own tests
 
 /// Wi-Fi management: one object in front of the WLAN service.
 ///
-/// Obtain it with Get, call its methods, end with Delete.
+/// Get gives the object, Delete ends it. For all methods:
 ///
-/// - Interfaces are named by their GUID and looked up afresh in each call; a method without a GUID works on the first
-///   interface that the service lists.
-/// - The client handle of the service is shared by all methods and opened by the first that needs it.
-/// - Results are per method: the same failure has different numbers in different methods.
+/// - Adapters are named by their GUID, as GetWlanInterface lists it, and looked up afresh in each call. A method
+///   without a GUID works on the first adapter that the service lists.
+/// - The client handle of the service is shared by all methods and opened by the first that needs it (WlanOpenHandle).
+/// - Result codes are each method's own: the same failure has different numbers in different methods. The command
+///   `calvix explain METHOD CODE` says what to do about one. A failure leaves the outputs as they were, where the
+///   method does not say otherwise.
 /// - Null pointers: a null interface GUID, description or profile name names none. Where a list of codes does not name
 ///   null pointers, a null record or container gives -13 when it is an output and -14 when it is an input.
-/// - Lists and records of the service are released before a method returns; what a method hands out lies in the
-///   caller's own buffers and vectors, or is text inside the object, valid until the same method is called again.
-/// - Narrow text is in the active code page.
+/// - A fatal caller error ends the process: what happened and where goes to the debugger and to standard error, then
+///   the process aborts. The methods name theirs.
+/// - Lists and records of the service are released before a method returns. What a method hands out lies in the
+///   caller's own buffers and containers, or is text inside the object: valid until the same method is called again or
+///   Delete, never freed by the caller.
+/// - Nothing waits, where the method does not say otherwise: an accepted scan or connection request is not a finished
+///   one.
+/// - Narrow text is in the active code page. Wide text is terminated. Capacities count the terminator. Names and SSIDs
+///   are compared whole and exactly, upper and lower case included.
 /// - Threading: no locks. Callers serialise their calls; every call runs on the caller's thread.
 class CALVIX_API CWirelessManage
 {
 public:
     // --- Frame --------------------------------------------------------------------------------------------------
 
-    /// The one instance, created by the first call; opens the client handle when it is not open (WlanOpenHandle),
-    /// and returns the instance even when that fails. Null only when there is no memory for it.
+    /// Gives the one object, which the first call creates. Opens the client handle when it is not open
+    /// (WlanOpenHandle); a failure is only traced, and the next method that needs the handle tries again.
+    /// @return the object; null only when there is no memory for it
     static CWirelessManage* Get();
 
-    /// Closes the client handle (WlanCloseHandle) and destroys the instance. The closed handle's value is kept, so
-    /// later calls through a new instance report the service's error for a closed handle.
+    /// Closes the client handle (WlanCloseHandle), which ends the registration for notifications, and destroys the
+    /// object with the saved connection, the saved power policy and its texts. The closed handle's value is kept: later
+    /// calls through a new object pass it on and report the service's error for a closed handle (6).
     static void Delete();
 
-    /// Copies all state of `other` into this object.
+    /// Copies the whole object. There is only one, so it can only be assigned to itself.
+    /// @param[in] other the object to copy
+    /// @return this object
     CWirelessManage& operator=(const CWirelessManage& other);
 
-    /// Zeroes the first `byteCount` bytes of the object, at most all of it.
+    /// Zeroes the object from its beginning: the saved connection, its connection mode and every text handed out.
+    /// @param[in] byteCount how many bytes; more than the object has mean all of it
     void __autoclassinit2(unsigned long long byteCount);
 
     // --- Adapters -----------------------------------------------------------------------------------------------
 
-    /// Makes sure that the WLAN service ("WlanSvc") runs, starting it when it does not. Reports nothing.
+    /// Starts the WLAN service ("WlanSvc") if it does not run (OpenSCManagerA, OpenServiceA, QueryServiceStatus,
+    /// StartServiceA). Reports nothing and checks no step. It needs the rights to control services, and does not wait
+    /// until the service runs.
     void CheckAutoConfig();
 
-    /// State of an interface (WlanEnumInterfaces): a WLAN_INTERFACE_STATE; -1 no such interface, -2 client handle not
-    /// opened, -3 enumeration failed, -4 no adapter.
+    /// Gives the state of an adapter (WlanEnumInterfaces). If the service lists a GUID twice, the last entry counts.
+    /// @return a WLAN_INTERFACE_STATE; -1 no such adapter, -2 client handle not opened, -3 enumeration failed, -4 no
+    /// adapter
     int GetWlanStatus(const GUID* pInterfaceGuid);
 
-    /// Whether GetWlanStatus gives 1 (connected).
+    /// Tells whether an adapter is connected: whether GetWlanStatus gives 1.
+    /// @return true when it is connected; false otherwise and on every failure
     bool GetWlanIsLink(const GUID* pInterfaceGuid);
 
-    /// English text of a WLAN_INTERFACE_STATE; "unknown(N)" for other values. The text belongs to the object.
+    /// Gives the English words of an adapter's state, such as "disconnected", or "unknown(N)" for any other number N.
+    /// @param[in] state a WLAN_INTERFACE_STATE
+    /// @return text inside the object
     char* GetWlanInterfaceState(unsigned long state);
 
-    /// Finds the interface whose description equals `description` exactly (WlanEnumInterfaces) and writes its GUID to
-    /// `guid` [out]. 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 not found.
+    /// Finds the adapter of a description (WlanEnumInterfaces). Of several with the same one, the first is found.
+    /// @param[in] description the whole description, wide text; null is not found
+    /// @param[out] guid the adapter's GUID
+    /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 no such description
     long GetWlanInterfaceGuid(const wchar_t* description, GUID& guid);
 
-    /// "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}", upper case. The text belongs to the object.
+    /// Gives the text of a GUID, "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" in upper case.
+    /// @param[in] guid any GUID
+    /// @return text inside the object
     char* GUID2String(const GUID& guid);
 
-    /// Description of an interface (WlanEnumInterfaces), empty when it was not found. The first description found is
-    /// remembered and returned for every later call, whatever its GUID. The text belongs to the object.
+    /// Gives the description of an adapter (WlanEnumInterfaces), converted as by UnicodeToAnsi and cut to 255 bytes.
+    /// The first description found is kept for good: every later call returns it, whatever its GUID.
+    /// @return text inside the object; empty when the adapter was not found and on every failure
     char* GetWlanInterfaceDesc(const GUID* pInterfaceGuid);
 
-    /// Number of interfaces (WlanEnumInterfaces), 0 included; -2 client handle not opened, -3 enumeration failed.
+    /// Counts the adapters (WlanEnumInterfaces). No adapter is no failure here.
+    /// @return the number, 0 included; -2 client handle not opened, -3 enumeration failed
     int GetWiFiAdapterCount();
 
-    /// Replaces the content of `pList` [out] by all interfaces (WlanEnumInterfaces). 0; -1 client handle not opened,
-    /// -2 enumeration failed, -3 no adapter; on failure the vector stays as it was.
+    /// Lists the adapters (WlanEnumInterfaces).
+    /// @param[out] pList one record for each adapter, in the service's order, in place of what it held; a failure, also
+    /// that there is no adapter, leaves it alone
+    /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -13 null output
     long GetWlanInterface(std::vector<WLAN_INTERFACE_INFO>* pList);
 
     // --- Text, SSID and address conversions ---------------------------------------------------------------------
+    // They need no client handle and write no trace.
 
-    /// Wide to narrow text. `destination` [out] is taken to hold 1024 bytes. A character that the code page lacks
-    /// ends the text. Whether the conversion succeeded.
+    /// Converts wide to narrow text (WideCharToMultiByte). A character that the code page lacks ends the text. Where
+    /// the active code page is UTF-8, every conversion fails: the platform then refuses to mark such characters.
+    /// @param[in] source wide text; null cannot be converted
+    /// @param[out] destination narrow text; taken to hold 1024 bytes, whatever its size
+    /// @return whether the text was converted; false also when it needs more than 1024 bytes
     bool UnicodeToAnsi(const wchar_t* source, char* destination);
 
-    /// Wide to narrow text into `capacity` bytes at `destination` [out]. Bytes produced, terminator included; 0 when
-    /// the text cannot be converted. A text that does not fit is a fatal caller error.
+    /// Converts wide to narrow text, whole (WideCharToMultiByte). A text that does not fit is a fatal caller error.
+    /// @param[in] source wide text; null cannot be converted
+    /// @param[out] destination narrow text; empty when the text cannot be converted
+    /// @param[in] capacity bytes at destination
+    /// @return bytes that the text needs, terminator included; 0 when it cannot be converted
     int WideCharToChar(const wchar_t* source, char* destination, int capacity);
 
-    /// SSID (UTF-8) as narrow text, cut to `capacity` - 1 bytes and terminated. 1, or 0 when it cannot be converted.
-    /// An SSID length above 64 is a fatal caller error.
+    /// Gives an SSID as narrow text (MultiByteToWideChar, WideCharToMultiByte). The SSID ends at its first zero byte;
+    /// characters that the code page lacks become its replacement character. A null SSID, or a length above 64, is a
+    /// fatal caller error.
+    /// @param[in] pSsid the SSID, taken as UTF-8
+    /// @param[out] destination narrow text, cut where it does not fit and terminated; left alone when the SSID cannot
+    /// be converted
+    /// @param[in] capacity bytes at destination; with 0 nothing is written, below 0 the empty text
+    /// @return 1, also when the text was cut or not written; 0 when the SSID cannot be converted
     int GetSSID(const DOT11_SSID* pSsid, char* destination, int capacity);
 
-    /// The same into wide text; `capacity` in characters.
+    /// Gives an SSID as wide text (MultiByteToWideChar), by the rules of the narrow form.
+    /// @param[in] pSsid the SSID, taken as UTF-8
+    /// @param[out] destination wide text, cut where it does not fit and terminated; left alone when the SSID cannot be
+    /// converted
+    /// @param[in] capacity characters at destination; with 0 nothing is written, below 0 the empty text
+    /// @return as GetSSID into narrow text
     int GetSSID(const DOT11_SSID* pSsid, wchar_t* destination, int capacity);
 
-    /// Hexadecimal text to bytes, taken in pairs from the end of the text; the rest of `destination` [out] is zero.
-    /// `reversed` false: right-aligned in the text's order; true: last pair first. Returns `destination`. Characters
-    /// that are no digits give bytes all the same.
+    /// Turns hexadecimal text into bytes, two characters each from the end of the text; of an odd number the first
+    /// makes a byte of its own. A character that is no digit is not refused, but gives some byte. What does not fit is
+    /// left out.
+    /// @param[in] text digits of either case
+    /// @param[in] textLength how many
+    /// @param[out] destination the bytes; the rest is zero
+    /// @param[in] destinationLength bytes at destination
+    /// @param[in] reversed false: right-aligned, in the order of the text; true: from the first byte, last pair first
+    /// @return destination
     unsigned char*
     StringToHex(const char* text, int textLength, unsigned char* destination, int destinationLength, bool reversed);
 
-    /// Bytes to upper-case hexadecimal text, padded with '0' to `capacity`. `fromStart` true: left-aligned, and all
-    /// 2 x `count` digits are written whatever the capacity. False: right-aligned over the whole capacity, which must
-    /// be even, and not terminated. Returns `destination`.
+    /// Turns bytes into upper-case hexadecimal text, padded with '0' to the capacity.
+    /// @param[in] bytes what to show
+    /// @param[in] count how many
+    /// @param[out] destination the text. Left-aligned, all 2 x count digits are written whatever the capacity, and the
+    /// capacity's last place is a terminator unless a digit lies there. Right-aligned, it fills the whole capacity
+    /// without a terminator, the beginning of what does not fit is left out, and only a count of 0 or less ends in one
+    /// @param[in] capacity characters at destination; should be even when right-aligned, as the first place of an odd
+    /// one has room for one digit of a byte only
+    /// @param[in] fromStart true: left-aligned; false: right-aligned
+    /// @return destination
     char* HexToString(const unsigned char* bytes, int count, char* destination, int capacity, bool fromStart);
 
-    /// Text to the hexadecimal text of its characters (top bits cleared), right-aligned over the whole, even
-    /// `capacity` of `destination` [out] and not terminated. Returns `destination`.
+    /// Turns text into the hexadecimal text of its characters, whose top bits are dropped.
+    /// @param[in] text ASCII text
+    /// @param[in] textLength characters of it
+    /// @param[out] destination upper-case digits, right-aligned as by HexToString
+    /// @param[in] capacity characters at destination, an even number
+    /// @return destination
     unsigned char* StringToHexString(const char* text, int textLength, unsigned char* destination, int capacity);
 
-    /// Six address bytes as "00:1A:2B:3C:4D:5E" into 18 bytes at `destination` [out].
+    /// Writes an address as "00:1A:2B:3C:4D:5E".
+    /// @param[in] address six bytes
+    /// @param[out] destination 17 characters and the terminator; no size is tested
     void FormMAC(const unsigned char* address, char* destination);
 
-    /// The same into `capacity` bytes, cut and terminated. A null address is a fatal caller error.
+    /// Writes an address as FormMAC does, within a capacity. A null address is a fatal caller error.
+    /// @param[in] address six bytes
+    /// @param[out] destination up to 17 characters, cut where they do not fit and terminated
+    /// @param[in] capacity bytes at destination; with 0 nothing is written, below 0 the empty text
     void GetBSSID(const unsigned char* address, char* destination, int capacity);
 
     // --- Notifications ------------------------------------------------------------------------------------------
 
-    /// Has `callback` called with the notifications of the automatic-configuration module (WlanRegisterNotification),
-    /// in place of what was registered before: one registration for the process. It is called on a thread of the
-    /// service. 0, or the platform's error number.
+    /// Has a callback called with the notifications of the service's automatic configuration
+    /// (WlanRegisterNotification), in place of what was registered before: there is one registration for the process.
+    /// It lasts until UnRegisterNotification or Delete.
+    /// @param[in] callback called on a thread of the service, also while a method runs; its record belongs to the
+    /// service and ends with the call. It must not call UnRegisterNotification
+    /// @param[in] context handed to the callback as it is
+    /// @return 0, or the platform's error number
     int RegisterNotification(WLAN_NOTIFICATION_CALLBACK callback, void* context);
 
-    /// Ends the registration, whichever callback is named; waits for a callback that is running. 0, or the platform's
-    /// error number.
+    /// Ends the registration (WlanRegisterNotification) and waits for a callback that is running.
+    /// @param[in] callback not looked at: whichever is registered ends
+    /// @param[in] context handed to the service
+    /// @return 0, or the platform's error number
     int UnRegisterNotification(WLAN_NOTIFICATION_CALLBACK callback, void* context);
 
     // --- Radio --------------------------------------------------------------------------------------------------
-    // A radio is off when its software or its hardware switch is off. Only the adapter's first PHY is looked at.
+    // Only the adapter's first PHY is looked at, and only its software switch is set. A radio is off when one of its
+    // two switches, software and hardware, says off; a switch that is unknown does not count as off.
 
-    /// 1 when the radio is on (WlanQueryInterface); 0 when off and on every failure.
+    /// Tells whether the radio is on (WlanQueryInterface).
+    /// @return 1 when it is on; 0 when it is off and on every failure
     int PhyRadioIsOn(const GUID* pInterfaceGuid);
 
-    /// 1 on, 0 off; -1 client handle not opened, -4 query refused, -5 no PHY.
+    /// Tells whether the radio is on (WlanQueryInterface), with codes for the failures.
+    /// @return 1 when it is on, 0 when it is off; -1 client handle not opened, -4 radio query refused, -5 no PHY
     long PhyRadioIsOn2(const GUID* pInterfaceGuid);
 
-    /// The same, with the DOT11_RADIO_STATE of both switches to the outputs, which a failure leaves alone.
+    /// Tells whether the radio is on (WlanQueryInterface), and both switches.
+    /// @param[out] softwareState a DOT11_RADIO_STATE
+    /// @param[out] hardwareState a DOT11_RADIO_STATE
+    /// @return as PhyRadioIsOn2 without outputs
     long PhyRadioIsOn2(const GUID* pInterfaceGuid, unsigned int& softwareState, unsigned int& hardwareState);
 
-    /// 1 when the radio is off; 0 when on and on every failure.
+    /// Tells whether the radio is off (WlanQueryInterface).
+    /// @return 1 when it is off; 0 when it is on and on every failure
     int PhyRadioTurnedOff(const GUID* pInterfaceGuid);
 
-    /// 1 off, 0 on; -1 client handle not opened, -4 query refused, -5 no PHY.
+    /// Tells whether the radio is off (WlanQueryInterface), with codes for the failures.
+    /// @return 1 when it is off, 0 when it is on; -1 client handle not opened, -4 radio query refused, -5 no PHY
     long PhyRadioTurnedOff2(const GUID* pInterfaceGuid);
 
-    /// Whether the adapter supports safe mode, as the platform's boolean; -2 client handle not opened, -5 query refused.
+    /// Tells whether the adapter supports safe mode (WlanQueryInterface).
+    /// @return the platform's boolean; -2 client handle not opened, -5 safe-mode query refused
     int SupportedSafeMode(const GUID* pInterfaceGuid);
 
-    /// Switches the software radio on (WlanSetInterface). 0; -1 client handle not opened, -4 refused.
+    /// Switches the software radio on (WlanSetInterface). Where the hardware switch is off, the radio stays off.
+    /// @return 0; -1 client handle not opened, -4 switch refused
     int RadioTurnOn(const GUID* pInterfaceGuid);
 
-    /// RadioTurnOn under its other name.
+    /// Switches the software radio on: another name of RadioTurnOn.
+    /// @return as RadioTurnOn
     int TurnOnSoftwareRadio(const GUID* pInterfaceGuid);
 
-    /// The same; on failure the platform's error number goes to `dwError` [out], which success leaves alone.
+    /// Switches the software radio on and tells the platform's error.
+    /// @param[out] dwError the platform's error number after a failure; success leaves it alone
+    /// @return as RadioTurnOn
     int TurnOnSoftwareRadio(const GUID* pInterfaceGuid, unsigned long& dwError);
 
-    /// Switches the software radio off (WlanSetInterface). 0; -1 client handle not opened, -4 refused.
+    /// Switches the software radio off (WlanSetInterface).
+    /// @return 0; -1 client handle not opened, -4 switch refused
     int RadioTurnOff(const GUID* pInterfaceGuid);
 
-    /// Switches the software radio off and, half a second later, on. 0 whatever became of it; -1 client handle not
-    /// opened.
+    /// Switches the software radio off, waits half a second, and switches it on (WlanSetInterface).
+    /// @return 0, whether or not the switches were accepted; -1 client handle not opened
     int ResetWiFiRadio(const GUID* pInterfaceGuid);
 
-    /// Switches the radio off, then on, waiting up to ten seconds each for the adapter to report it.
+    /// Switches the radio off and on as RadioTurnOff and RadioTurnOn do, and waits after each until the adapter reports
+    /// it, asking up to ten times, a second apart. Reports nothing.
     void RestartWiFiRadio(const GUID* pInterfaceGuid);
 
     // --- Interface settings -------------------------------------------------------------------------------------
 
-    /// Switches automatic connection on (WlanSetInterface). 0, or the platform's error number.
+    /// Switches automatic configuration on (WlanSetInterface), so that the adapter connects by itself. No method
+    /// switches it off.
+    /// @return 0, or the platform's error number
     int EnableAutoCfg(const GUID* pInterfaceGuid);
 
-    /// Switches background scanning on (WlanSetInterface). 0, or the platform's error number.
+    /// Switches background scanning on (WlanSetInterface). No method switches it off.
+    /// @return 0, or the platform's error number
     int EnableBackgroundScan(const GUID* pInterfaceGuid);
 
-    /// The service's power-saving level (WlanQueryAutoConfigParameter), a WLAN_POWER_SETTING, into `level` [out]. 0,
-    /// also when the query is refused, which leaves `level` alone; or the error number of the client handle.
+    /// Gives the service's power-saving level (WlanQueryAutoConfigParameter).
+    /// @param[out] level a WLAN_POWER_SETTING; left alone when the query is refused
+    /// @return 0, also when the query is refused; the platform's error number when the client handle was not opened
     int GetPowerSetting(unsigned long& level);
 
-    /// Does nothing, on purpose. 0.
+    /// Does nothing, on purpose.
+    /// @param[in] level not looked at
+    /// @return always 0
     int SetPowerSetting(unsigned long level);
 
-    /// Platform name of a power-saving level. The text belongs to the object.
+    /// Gives the platform's name of a power-saving level, "wlan_power_setting_invalid" for any other number.
+    /// @param[in] level a WLAN_POWER_SETTING
+    /// @return text inside the object
     char* GetPowerSettingStr(unsigned long level);
 
-    /// Lets ordinary users talk to the adapter's driver (WlanSetSecuritySettings; takes administrative rights). 0, the
-    /// platform's error number, or 0xFFFFFFFF when the service has another version.
+    /// Lets ordinary users talk to the adapters' drivers (WlanSetSecuritySettings). Needs administrative rights.
+    /// @return 0; 0xFFFFFFFF other service version, looked at only when this call opens the client handle, which then
+    /// stays open; otherwise the platform's error number
     unsigned long SetIhvSecuritySettings();
 
-    /// Sends `size` bytes at `buffer` [in, out] to the adapter's driver, whose answer replaces them, and its length to
-    /// `bytesReturned` [out] (WlanIhvControl). 0, or the platform's error number.
+    /// Sends a request to the adapter's driver and receives its answer (WlanIhvControl).
+    /// @param[in,out] buffer the request, in the driver's own layout; the answer overwrites it, within the same size
+    /// @param[in] size bytes at buffer
+    /// @param[out] bytesReturned bytes of the answer
+    /// @return 0, or the platform's error number
     unsigned long
     IhvControl(const GUID* pInterfaceGuid, void* buffer, unsigned long size, unsigned long& bytesReturned);
 
     // --- Scans, lists and counts --------------------------------------------------------------------------------
+    // The available-network list (WlanGetAvailableNetworkList, flags 0) has one entry for each visible network and
+    // matching profile. The BSS list (WlanGetNetworkBssList) has one entry for each access point.
 
-    /// Asks for a scan (WlanScan) and returns at once. 0; -1 client handle not opened, -4 scan refused; both store
-    /// the service's error in `dwError` [out], which success leaves alone.
+    /// Asks for a scan (WlanScan). The results are there some seconds later: the service then sends the notification
+    /// wlan_notification_acm_scan_complete.
+    /// @param[out] dwError the platform's error number after a failure; success leaves it alone
+    /// @return 0; -1 client handle not opened, -4 scan refused
     int Rescan(const GUID* pInterfaceGuid, unsigned long& dwError);
 
-    /// The same on the first interface. 0; -1 client handle not opened, -2 enumeration failed, -3 no interface,
-    /// -4 scan refused.
+    /// Asks for a scan on the first adapter (WlanEnumInterfaces, WlanScan).
+    /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 scan refused
     int Rescan();
 
-    /// Entries of the available-network list (WlanGetAvailableNetworkList, flags 0): one per network and matching
-    /// profile. -2 client handle not opened, -5 list failed.
+    /// Counts the entries of the available-network list. A network with two profiles counts twice.
+    /// @return the number, 0 included; -2 client handle not opened, -5 network list failed
     int GetAvailableNetworkCount(const GUID* pInterfaceGuid);
 
-    /// BSS entries of all networks on the first interface (WlanGetNetworkBssList). -2 client handle not opened,
-    /// -3 enumeration failed, -4 no interface, -5 list failed.
+    /// Counts the BSS entries of all networks on the first adapter (WlanEnumInterfaces, WlanGetNetworkBssList).
+    /// @return the number, 0 included; -2 client handle not opened, -3 enumeration failed, -4 no adapter, -5 BSS list
+    /// failed
     int GetNetworkBssCount();
 
-    /// Pairs of a stored profile and a visible network that carries its name. -2 client handle not opened, -5 profile
-    /// list failed, -6 no profile, -7 available-network list failed, -8 no network.
+    /// Counts the pairs of a stored profile and an available-network entry that carries its name (WlanGetProfileList,
+    /// WlanGetAvailableNetworkList). Whether the service calls the network connectable does not matter.
+    /// @return the number, 0 included; -2 client handle not opened, -5 profile list failed, -6 no profile, -7 network
+    /// list failed, -8 no network
     int GetConnectableNetworkCount(const GUID* pInterfaceGuid);
 
-    /// 0 when a visible network has this SSID; -1 client handle not opened, -3 list failed, -4 not found. An empty or
-    /// null SSID is never found.
+    /// Tells whether a network is in view (WlanGetAvailableNetworkList). An empty SSID is never found, although hidden
+    /// networks are listed with one.
+    /// @param[in] pSsid the SSID; null is not found
+    /// @return 0 when it is; -1 client handle not opened, -3 network list failed, -4 SSID not found
     int GetAP(const GUID* pInterfaceGuid, DOT11_SSID* pSsid);
 
-    /// Why a network cannot be joined: writes its connectable flag and its WLAN_REASON_CODE to the outputs. 0;
-    /// -1 client handle not opened, -4 list failed, -5 list empty, -6 no entry with this SSID and BSS type (outputs
-    /// untouched).
+    /// Tells why a network cannot be joined (WlanGetAvailableNetworkList), from the first entry that matches. An empty
+    /// SSID does match a hidden network here.
+    /// @param[in] pSsid the network's SSID
+    /// @param[in] dwBssType its DOT11_BSS_TYPE
+    /// @param[out] bConnectable the service's connectable flag
+    /// @param[out] dwReason a WLAN_REASON_CODE, see ReasonCode2String
+    /// @return 0; -1 client handle not opened, -4 network list failed, -5 no network, -6 no such network, -14 null
+    /// input
     long GetNotConnectableReason(const GUID* pInterfaceGuid,
                                  DOT11_SSID* pSsid,
                                  unsigned long dwBssType,
                                  int& bConnectable,
                                  unsigned long& dwReason);
 
-    /// 1 when the connected network has no BSS left in view; 0 otherwise and on every failure.
+    /// Tells whether the connected network has no BSS left in view (WlanQueryInterface, WlanGetNetworkBssList).
+    /// @return 1 when it has none; 0 otherwise, when there is no connection, and on every failure
     int IsWiFiDisappear(const GUID* pInterfaceGuid);
 
-    /// 0 when the network that the first interface is connected to has a BSS in view; -1 client handle not opened,
-    /// -2 enumeration failed, -3 no interface, -4 no current connection, -5 BSS list failed, -6 none in view.
+    /// Tells whether the network that the first adapter is connected to has a BSS in view (WlanEnumInterfaces,
+    /// WlanQueryInterface, WlanGetNetworkBssList).
+    /// @return 0 when it has; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 connection query
+    /// refused, -5 BSS list failed, -6 no BSS in view
     long GetCurrentBSS();
 
     // --- Signal metrics -----------------------------------------------------------------------------------------
 
-    /// Channel number of a centre frequency in MHz or a finer power of ten of it (kHz, Hz). In the 2.4 GHz band the
-    /// number is one below the customary one: 2412 gives 0, 2484 gives 13, and what is no channel there gives 14.
+    /// Gives the channel number of a centre frequency. In the 2.4 GHz band it is one below the customary number: 2412
+    /// MHz gives 0, 2484 MHz gives 13, and what is no channel up to there gives 14. Above, it is (MHz - 5000) / 5 from
+    /// 5000 MHz on and 200 - (5000 - MHz) / 5 below, as 32 unsigned bits: 5180 MHz gives 36, 4920 MHz gives 184, and up
+    /// to 3995 MHz the number wraps to a huge one. There is no rule for 6 GHz: 5955 MHz gives 191.
+    /// @param[in] frequency in MHz or a finer decimal unit, as the kHz of WLAN_BSS_ENTRY: divided by ten while above
+    /// 10000
+    /// @return the channel number
     unsigned long GetChannel(unsigned long frequency);
 
-    /// dBm to 0..100, linear from -100 to -50.
+    /// Turns dBm into a signal strength, linear from 0 at -100 dBm and below to 100 at -50 dBm and above.
+    /// @param[in] rssi dBm
+    /// @return the strength, from 0 to 100
     int GetSignalStrength(int rssi);
 
-    /// Received signal strength of the link in dBm (WlanQueryInterface) into `rssi` [out]. 0; -1 client handle not
-    /// opened, -4 query refused (`rssi` untouched).
+    /// Gives the received signal strength of the link, as the driver measures it (WlanQueryInterface).
+    /// @param[out] rssi dBm
+    /// @return 0; -1 client handle not opened, -4 RSSI query refused
     int GetRssi(const GUID* pInterfaceGuid, int& rssi);
 
-    /// The same from the BSS list entry of the connected access point. 0; -1 client handle not opened, -4 no current
-    /// connection, -5 BSS list failed, -6 list empty, -7 access point not listed (`rssi` untouched).
+    /// Gives the received signal strength of the connected access point, as the last scan heard it (WlanQueryInterface,
+    /// WlanGetNetworkBssList).
+    /// @param[out] rssi dBm
+    /// @return 0; -1 client handle not opened, -4 connection query refused, -5 BSS list failed, -6 no BSS in view, -7
+    /// access point not listed
     int GetCurrentRSSI(const GUID* pInterfaceGuid, int& rssi);
 
-    /// Estimated dBm (-100..-50) of the first visible network whose SSID begins with `ssid` [in]; -100 when there is
-    /// none or the list failed, -1 client handle not opened.
+    /// Estimates the signal strength of the first available network whose SSID begins with the given one
+    /// (WlanGetAvailableNetworkList): half its signal quality, less 100. An empty SSID means the first entry of the
+    /// list.
+    /// @param[in] ssid the SSID or its beginning; only read
+    /// @return dBm, `-100` to `-50`; `-100` also when there is no such network or the list failed; -1 client handle not
+    /// opened
     int GetWiFiRSSI(const GUID* pInterfaceGuid, DOT11_SSID& ssid);
 
-    /// Signal quality of the current connection, 0..100; -1 client handle not opened, -4 no current connection.
+    /// Gives the signal quality of the current connection (WlanQueryInterface).
+    /// @return the quality, from 0 to 100; -1 client handle not opened, -4 connection query refused
     int GetSignalQuality(const GUID* pInterfaceGuid);
 
     // --- Software access points, listings, reasons --------------------------------------------------------------
 
-    /// Visible networks whose SSID holds the software access point marker "LC#", into `pList` [out]. 0; -1 client handle
-    /// not opened; otherwise the platform's error number.
+    /// Lists the available networks whose SSID holds the marker of software access points, "LC#"
+    /// (WlanGetAvailableNetworkList). The SSID is taken as UTF-8 and ends at its first zero byte, whatever its length
+    /// says; one that cannot be converted is passed over. On Windows none can, as it does not take the flags of this
+    /// conversion, so that the list stays empty.
+    /// @param[out] pList the SSIDs, narrow text, one for each entry; emptied first, but left alone on a failure
+    /// @return 0; -1 client handle not opened, -13 null output; otherwise the platform's error number
     int GetSoftAPList(const GUID* pInterfaceGuid, std::vector<std::string>* pList);
 
-    /// Whether the first interface is connected by a profile whose name holds the marker; false on every failure.
+    /// Tells whether the first adapter is connected by a profile whose name holds that marker (WlanEnumInterfaces,
+    /// WlanQueryInterface). The SSID is not looked at.
+    /// @return true when it is; false otherwise and on every failure
     bool SpecialSoftAP();
 
-    /// Traces a listing of what every interface sees. 0; 1 when some interface refused; the platform's error number when
-    /// the client handle is not opened.
+    /// Traces a listing of the networks that every adapter sees (WlanEnumInterfaces, WlanGetAvailableNetworkList).
+    /// While tracing is off, everything is asked for and nothing written. The remark that a network has a profile
+    /// depends on its connected flag, so that only connected ones get it.
+    /// @return 0, also when the enumeration failed; 1 some list failed, the others being traced; the platform's error
+    /// number when the client handle was not opened
     int GetAvailableNetwork();
 
-    /// The same for the access points.
+    /// Traces a listing of the access points that every adapter sees (WlanEnumInterfaces, WlanGetNetworkBssList), with
+    /// channels as GetChannel counts them. While tracing is off, everything is asked for and nothing written.
+    /// @return as GetAvailableNetwork
     int GetNetworkBss();
 
-    /// Text of a WLAN_REASON_CODE (WlanReasonCodeToString) into `textSize` bytes at `text` [out]. Whether it fits; with
-    /// a size of 0 nothing is written and the answer is true.
+    /// Gives the service's words for a reason (WlanReasonCodeToString). Needs no client handle.
+    /// @param[in] reasonCode a WLAN_REASON_CODE
+    /// @param[out] text narrow text; empty after a failure of the service that is not an invalid parameter
+    /// @param[in] textSize bytes at text; with 0 nothing is written, and the answer is true
+    /// @return whether the text was written; false when the service finds a parameter invalid (87) or the text does not
+    /// fit, but true after other failures of the service
     bool ReasonCode2String(unsigned long reasonCode, char* text, int textSize);
 
     // --- Profile store ------------------------------------------------------------------------------------------
+    // A profile's document is XML. Keys are in plain text in it where the caller may see them: do not log it.
 
-    /// 0 when a profile of this name (at most 127 bytes; a longer or null one is a fatal caller error) is stored, -1
-    /// when not; otherwise the platform's error number of the client handle, the name's conversion or the list.
+    /// Tells whether a profile of a name is stored (WlanGetProfileList).
+    /// @param[in] name narrow text, at most 127 bytes; a longer or null one is a fatal caller error
+    /// @return 0 when it is; -1 no such profile; otherwise the platform's error number of the client handle, the name's
+    /// conversion or the list
     int GetWlanProfile(const GUID* pInterfaceGuid, const char* name);
 
-    /// Deletes a profile (WlanDeleteProfile); the name is cut to 127 characters. 0; -1 client handle not opened,
-    /// -4 not deleted.
+    /// Deletes a profile (WlanDeleteProfile).
+    /// @param[in] name narrow text in the C locale, where a byte without a meaning keeps its value; cut to 127
+    /// characters; null is passed on
+    /// @return 0; -1 client handle not opened, -4 not deleted
     int DeleteProfile(const GUID* pInterfaceGuid, const char* name);
 
-    /// The same with a wide name, passed on as it is.
+    /// Deletes a profile by its wide name (WlanDeleteProfile).
+    /// @param[in] name wide text, passed on as it is
+    /// @return as DeleteProfile by a narrow name
     int DeleteProfile(const GUID* pInterfaceGuid, const wchar_t* name);
 
-    /// Moves a profile to the second place of the preference order (WlanSetProfilePosition); nothing to do with fewer
-    /// than two profiles. 0; -1 client handle not opened; otherwise the platform's error number.
+    /// Moves a profile to the second place of the order of preference, never to the first (WlanGetProfileList,
+    /// WlanSetProfilePosition). With fewer than two profiles nothing is moved.
+    /// @param[in] name narrow text, at most 255 characters
+    /// @return 0, also when there was nothing to move; -1 client handle not opened; otherwise the platform's error
+    /// number of the list, the name's conversion or the move
     int ResetProfilePosition(const GUID* pInterfaceGuid, const char* name);
 
-    /// Moves a profile to the last place. Results as ResetProfilePosition.
+    /// Moves a profile to the last place of the order of preference (WlanGetProfileList, WlanSetProfilePosition). With
+    /// fewer than two profiles nothing is moved.
+    /// @param[in] name wide text, passed on as it is
+    /// @return 0, also when there was nothing to move; -1 client handle not opened; otherwise the platform's error
+    /// number
     int SetProfilePosition(const GUID* pInterfaceGuid, const wchar_t* name);
 
-    /// Number of stored profiles (WlanGetProfileList); -1 client handle not opened, -4 list failed.
+    /// Counts the stored profiles (WlanGetProfileList).
+    /// @return the number, 0 included; -1 client handle not opened, -4 profile list failed
     int GetProfileCount(const GUID* pInterfaceGuid);
 
-    /// A profile's XML (WlanGetProfile, keys in plain text where the caller may see them) into `capacity` wide
-    /// characters at `xml` [out], cut and terminated. 0; -1 client handle not opened, -4 not readable.
+    /// Gives a profile's document as wide text (WlanGetProfile).
+    /// @param[in] name wide text, passed on as it is
+    /// @param[out] xml the document, cut where it does not fit and terminated
+    /// @param[in] capacity characters at xml; with 0 nothing is written, and xml may be null; below 0 the empty text
+    /// @return 0, also when the document was cut; -1 client handle not opened, -4 profile not read, -13 null output
     int GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, wchar_t* xml, int capacity);
 
-    /// The same as narrow text (C locale) into `capacity` bytes. A text that does not fit is a fatal caller error.
+    /// Gives a profile's document as narrow text of the C locale (WlanGetProfile), whole: a document that does not fit,
+    /// or a null xml, is a fatal caller error.
+    /// @param[in] name wide text, passed on as it is
+    /// @param[out] xml the document
+    /// @param[in] capacity bytes at xml
+    /// @return 0; -1 client handle not opened, -4 profile not read
     int GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, char* xml, int capacity);
 
-    /// Whether a profile can be read: 0; -1 client handle not opened, -4 not readable.
+    /// Tells whether a profile can be read (WlanGetProfile).
+    /// @param[in] name wide text, passed on as it is
+    /// @return 0 when it can; -1 client handle not opened, -4 profile not read
     int GetProfile(const GUID* pInterfaceGuid, const wchar_t* name);
 
-    /// Stores a profile (WlanSetProfile), replacing the one of the same name. 0; -1 client handle not opened, -4 not
-    /// stored.
+    /// Stores a profile for all users, in place of one of the same name (WlanSetProfile). Why the service refuses a
+    /// document is not told.
+    /// @param[in] xml the document, wide text
+    /// @return 0; -1 client handle not opened, -4 not stored
     int SetProfile(const GUID* pInterfaceGuid, const wchar_t* xml);
 
     // --- Profile XML --------------------------------------------------------------------------------------------
+    // A search in the text, without an XML parser: entities are not decoded, and blanks count.
 
-    /// 1 when the SSID name in a profile's XML equals `ssid`, else 0. Plain text search: entities are not decoded.
+    /// Tells whether a profile's document is for an SSID: whether the text before the first "</name>" behind "<SSID>"
+    /// is the SSID. Malformed text is no failure.
+    /// @param[in] xml the document, wide text
+    /// @param[in] ssid the SSID, wide text; only read
+    /// @return 1 when it is, else 0
     int IsThisSSID(const wchar_t* xml, wchar_t* ssid);
 
-    /// 1 when the connection mode in a profile's XML is "auto", else 0.
+    /// Tells whether a profile's document says automatic connection: whether the text before its first
+    /// "</connectionMode>" is "auto". Malformed text is no failure.
+    /// @param[in] xml the document, wide text
+    /// @return 1 when it does, else 0
     int IsAutoConnMode(const wchar_t* xml);
 
-    /// The same for a stored profile (WlanGetProfile). 1 "auto", 0 any other mode; -1 client handle not opened, -4 not
-    /// readable, -5 no connection mode in the XML, -6 malformed before it.
+    /// Tells whether a stored profile connects automatically (WlanGetProfile), by the rule of IsAutoConnMode. Compare
+    /// with 1: a failure is not 0 either.
+    /// @param[in] name wide text, passed on as it is
+    /// @return 1 when it does, 0 when it has another mode; -1 client handle not opened, -4 profile not read, -5 no
+    /// connection mode, -6 malformed before the connection mode
     int IsAutoConnMode2(const GUID* pInterfaceGuid, const wchar_t* name);
 
     // --- Current connection -------------------------------------------------------------------------------------
+    // The service refuses the query for the current connection when there is none, and when location access is denied.
 
-    /// Attributes of the current connection (WlanQueryInterface) into `pAttributes` [out]. 0; -1 client handle not
-    /// opened, -4 not connected. A null record is a fatal caller error.
+    /// Gives the attributes of the current connection (WlanQueryInterface).
+    /// @param[out] pAttributes the service's record; null is a fatal caller error
+    /// @return 0; -1 client handle not opened, -4 connection query refused
     int GetCurrentConnection(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// The same on the first interface; also -2 enumeration failed, -3 no interface.
+    /// Gives the attributes of the first adapter's connection (WlanEnumInterfaces, WlanQueryInterface). Other adapters
+    /// are not asked, even when one of them is connected.
+    /// @param[out] pAttributes the service's record; null is a fatal caller error
+    /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 connection query refused
     int GetCurrentConnection(WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// SSID of the current connection of the first interface, as GetSSID writes it. 0; -1 client handle not opened,
-    /// -2 enumeration failed, -3 no interface, -4 not connected.
+    /// Gives the SSID that the first adapter is connected to (WlanEnumInterfaces, WlanQueryInterface).
+    /// @param[out] ssid narrow text, as by GetSSID
+    /// @param[in] capacity bytes at ssid
+    /// @return 0, also when the SSID could not be converted, which leaves the text alone; -1 client handle not opened,
+    /// -2 enumeration failed, -3 no adapter, -4 connection query refused
     int GetCurrentSSID(char* ssid, int capacity);
 
-    /// The same, and the whole record into `pAttributes` [out]; a null one is a fatal caller error.
+    /// Gives the SSID that the first adapter is connected to, and the attributes of the connection.
+    /// @param[out] ssid narrow text, as by GetSSID
+    /// @param[in] capacity bytes at ssid
+    /// @param[out] pAttributes the service's record; null is a fatal caller error, after the text was written
+    /// @return as GetCurrentSSID without the record
     int GetCurrentSSID(char* ssid, int capacity, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// State (WLAN_INTERFACE_STATE), SSID, BSSID (6 bytes) and BSS type (DOT11_BSS_TYPE) of the current connection;
-    /// `state` and `bssType` may be null, a null `bssid` is a fatal caller error. 0, or the platform's error number.
+    /// Gives state, BSS type, SSID and BSSID of the current connection (WlanQueryInterface).
+    /// @param[out] state a WLAN_INTERFACE_STATE; may be null
+    /// @param[out] bssType a DOT11_BSS_TYPE; may be null
+    /// @param[out] ssid narrow text, as by GetSSID
+    /// @param[in] ssidCapacity bytes at ssid
+    /// @param[out] bssid six bytes, no text; null is a fatal caller error, after state and SSID were written
+    /// @return 0, also when the SSID could not be converted, which leaves the text alone; otherwise the platform's
+    /// error number
     int
     GetCurrentLinkInfo(const GUID* pInterfaceGuid, int* state, int* bssType, char* ssid, int ssidCapacity, char* bssid);
 
-    /// Number of access points in view that belong to the network of `pAttributes` [in] (WlanGetNetworkBssList);
-    /// -1 client handle not opened, -4 list failed.
+    /// Counts the access points in view that belong to the network of a connection (WlanGetNetworkBssList). What is
+    /// current is what the caller says.
+    /// @param[in] pAttributes SSID, BSS type and security flag are read
+    /// @return the number, 0 included; -1 client handle not opened, -4 BSS list failed, -14 null input
     long GetCurrentWiFi(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// 1 when the interface is connected; 0 otherwise and on every failure.
+    /// Tells whether an adapter is connected (WlanEnumInterfaces).
+    /// @return 1 when it is; 0 otherwise and on every failure
     int WiFiIsConnected(const GUID* pInterfaceGuid);
 
-    /// 1 when the interface is disconnected; 0 otherwise (also while it connects) and on every failure.
+    /// Tells whether an adapter is disconnected (WlanEnumInterfaces). While a connection is made or taken down, it is
+    /// neither connected nor disconnected.
+    /// @return 1 when it is; 0 otherwise and on every failure
     int WiFiIsDisconnected(const GUID* pInterfaceGuid);
 
-    /// Unicast frame counters (WlanQueryInterface) into `pCount` [out], whose spare fields stay as they were. 0;
-    /// -1 client handle not opened, -4 query refused.
+    /// Gives the counters of unicast frames (WlanQueryInterface).
+    /// @param[out] pCount frames transmitted and received; its spare fields keep what the caller put in
+    /// @return 0; -1 client handle not opened, -4 statistics query refused, -13 null output
     int GetWlanStatistics(const GUID* pInterfaceGuid, _WIFI_TXRX_COUNT* pCount);
 
     // --- Connecting ---------------------------------------------------------------------------------------------
-    // A request (WlanConnect) is accepted or refused at once; whether the connection is made shows later.
+    // A request (WlanConnect) names a stored profile. The service accepts or refuses it at once; whether the connection
+    // is made shows later, in the notifications and in the current connection.
 
-    /// Connects by a stored profile whose network is in view. 0; -1 client handle not opened, -2 no network in view
-    /// carries the profile; otherwise the platform's error number.
+    /// Connects by a stored profile that the available-network list carries (WlanGetAvailableNetworkList, WlanConnect).
+    /// An empty name means the first network without a profile, which the service refuses.
+    /// @param[in] name the profile's name, narrow text, at most 255 characters; only read
+    /// @return 0 when the request is accepted; -1 client handle not opened, -2 no network with the profile; otherwise
+    /// the platform's error number of the list, the name's conversion or the request
     int LinkProfile(const GUID* pInterfaceGuid, char* name);
 
-    /// Disconnects (WlanDisconnect). 0, or the platform's error number.
+    /// Disconnects (WlanDisconnect).
+    /// @return 0, or the platform's error number, also that of the client handle
     int Disconnect(const GUID* pInterfaceGuid);
 
-    /// Connects to the network of a remembered connection, to the access point that the link qualities of the BSS list
-    /// pick. `unused` has no effect. 0; -1 client handle not opened, -4 BSS list failed, -6 refused or none in view.
+    /// Connects to the network of a remembered connection, to one access point (WlanGetNetworkBssList, WlanConnect):
+    /// the last entry of the BSS list whose link quality is above the first entry's, or the first when none is. This is
+    /// not always the best one.
+    /// @param[in] pAttributes profile name, SSID, BSS type and security flag are read
+    /// @param[in] unused no effect
+    /// @return 0 when the request is accepted; -1 client handle not opened, -4 BSS list failed, -6 no BSS in view or
+    /// request refused, -14 null input
     int Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes, unsigned long unused);
 
-    /// The same from notification data.
+    /// Connects to the network of a connection notification, to the access point of the form above.
+    /// @param[in] pData profile name, SSID, BSS type and security flag are read
+    /// @param[in] unused no effect
+    /// @return as Reconnect from attributes
     int Reconnect(const GUID* pInterfaceGuid, WLAN_CONNECTION_NOTIFICATION_DATA* pData, unsigned long unused);
 
-    /// Connects by the profile of a remembered connection. 0; -1 client handle not opened, -4 refused.
+    /// Connects by the profile of a remembered connection (WlanConnect), whether or not its network is in view.
+    /// @param[in] pAttributes profile name and BSS type are read
+    /// @return 0 when the request is accepted; -1 client handle not opened, -4 request refused, -14 null input
     int RecoverConnection(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// Asks again for the connection that is up. 0; -1 client handle not opened, -4 not connected, -5 refused.
+    /// Asks again for the connection that is up (WlanQueryInterface, WlanConnect), without disconnecting first. The
+    /// service chooses the access point.
+    /// @return 0 when the request is accepted; -1 client handle not opened, -4 connection query refused, -5 request
+    /// refused
     int ResetConnection(const GUID* pInterfaceGuid);
 
-    /// Moves the profile of the first interface's connection to the last place. 0, also with no interface or fewer than
-    /// two profiles; -1 client handle not opened; otherwise the platform's error number.
+    /// Moves the profile of the first adapter's connection to the last place of the order of preference
+    /// (WlanEnumInterfaces, WlanGetProfileList, WlanQueryInterface, WlanSetProfilePosition).
+    /// @return 0, also when there is no adapter or there are fewer than two profiles; -1 client handle not opened;
+    /// otherwise the platform's error number
     int SetCurrentWiFiToLast();
 
     // --- Saved connection ---------------------------------------------------------------------------------------
+    // The object remembers one connection of each kind, attributes and notification data, until the next save or
+    // Delete.
 
-    /// Remembers the current connection and whether its profile connects automatically. 0; -1 client handle not opened,
-    /// -4 not connected, -5 profile not readable (the connection is remembered all the same).
+    /// Remembers the current connection and whether its profile connects automatically (WlanQueryInterface,
+    /// WlanGetProfile).
+    /// @return 0; -1 client handle not opened, -4 connection query refused, -5 profile not read, the connection being
+    /// remembered with the mode from before
     int SaveCurrentConnectionAttributes(const GUID* pInterfaceGuid);
 
-    /// Connects to the remembered connection's network. 0; -99 its profile does not connect automatically, -1 client
-    /// handle not opened, -4 BSS list failed, -5 not in view, -6 refused.
+    /// Connects by the profile of the remembered connection, if its network is in view (WlanGetNetworkBssList,
+    /// WlanConnect). When none was remembered, a network without a name is looked for.
+    /// @return 0 when the request is accepted; -99 profile not automatic, -1 client handle not opened, -4 BSS list
+    /// failed, -5 no BSS of the saved network, -6 request refused
     long RecoverConnetionAttributes(const GUID* pInterfaceGuid);
 
-    /// Remembers notification data, without a profile XML behind it. A null record is a fatal caller error.
+    /// Remembers notification data, without the profile XML that may follow it.
+    /// @param[in] pData a record of a connection notification; null clears what was remembered and is then a fatal
+    /// caller error
     void SaveConnNotificationData(WLAN_CONNECTION_NOTIFICATION_DATA* pData);
 
-    /// Reconnect with the remembered notification data.
+    /// Connects as Reconnect does with the remembered notification data, whether or not its profile connects
+    /// automatically, and whether or not anything was remembered.
+    /// @return 0 when the request is accepted; -1 client handle not opened, -4 BSS list failed, -6 no BSS in view or
+    /// request refused
     long RecoverConnNotificationData(const GUID* pInterfaceGuid);
 
     // --- Access points of stored networks -----------------------------------------------------------------------
+    // An available network matches a stored profile when it carries the profile's name (WlanGetProfileList,
+    // WlanGetAvailableNetworkList); the SSID is not compared. Each method goes through the profiles in their order, and
+    // through the networks of each in list order. Containers are emptied first, before any other failure than a null
+    // container. A success is a number, 0 included.
 
-    /// Every BSS entry of every visible network that has a stored profile, in profile, network and list order, into
-    /// `pList` [out]. Number of entries; -2 client handle not opened, -5 profile list failed, -6 no profile,
-    /// -7 available-network list failed, -8 no network, -13 null list. Failing BSS queries contribute nothing.
+    /// Lists the BSS entries of every network that matches a profile (WlanGetNetworkBssList). Two profiles for one
+    /// network list its entries twice; a network whose BSS list fails is passed over.
+    /// @param[out] pList the entries
+    /// @return the number of entries; -2 client handle not opened, -5 profile list failed, -6 no profile, -7 network
+    /// list failed, -8 no network, -13 null output
     int GetMatchAPList(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pList);
 
-    /// The same for profiles that connect automatically and for the profile `name` [in]; also -14 null name.
+    /// Lists the BSS entries of every network that matches one named profile, or any that connects automatically
+    /// (IsAutoConnMode2), by the rules of GetMatchAPList.
+    /// @param[in] name the profile that always counts, wide text; only read
+    /// @param[out] pList the entries; emptied before the name is looked at
+    /// @return as GetMatchAPList; also -14 null input
     int GetConnectableAPList(const GUID* pInterfaceGuid, wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList);
 
-    /// The same on the first interface; also -3 enumeration failed, -4 no interface.
+    /// Lists on the first adapter (WlanEnumInterfaces) what the form with a GUID lists.
+    /// @param[in] name the profile that always counts, wide text; only read
+    /// @param[out] pList the entries; emptied before the name is looked at
+    /// @return as GetConnectableAPList; also -3 enumeration failed, -4 no adapter
     int GetConnectableAPList(wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList);
 
-    /// The profile name of every visible network that has a stored profile and a BSS in view, into `pNames` [out].
-    /// `mode` 1: only profiles that connect automatically. Codes as GetMatchAPList.
+    /// Lists the profile name of every network that matches a profile and has a BSS in view (WlanGetNetworkBssList),
+    /// once for each network; a network whose BSS list fails is passed over.
+    /// @param[out] pNames the names, wide text
+    /// @param[in] mode 1: only profiles that connect automatically (IsAutoConnMode2); any other: all
+    /// @return as GetMatchAPList, the number being that of the names
     int GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, int mode);
 
-    /// The same; with `mode` 1 the profile `name` [in, may be null] counts whatever its connection mode.
+    /// Lists profile names as the form without a name does, but with one profile that counts in mode 1 whatever its own
+    /// mode.
+    /// @param[out] pNames the names, wide text
+    /// @param[in] name that profile, wide text; may be null
+    /// @param[in] mode 1: only profiles that connect automatically, and that one; any other: all
+    /// @return as GetMatchAPCount without a name
     int GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, const wchar_t* name, int mode);
 
-    /// Diagnostic: traces how the time stamps of the matching access points move over three seconds. -1, or the code
-    /// of the last problem: -2, -5 to -8 as GetMatchAPList, -9 and -10 first BSS list failed or empty, -11 and -12 a
-    /// later one.
+    /// Traces how the time stamps of the BSS entries of each matching network move (WlanGetNetworkBssList). It waits
+    /// three seconds for each such network. The differences are reckoned in 16 bits, and wrap when a clock goes back or
+    /// passes midnight.
+    /// @return never 0; -1 diagnostic run without a problem, or the code of the last problem: -2 client handle not
+    /// opened, -5 profile list failed, -6 no profile, -7 network list failed, -8 no network, -9 first BSS list failed,
+    /// -10 first BSS list empty, -11 later BSS list failed, -12 later BSS list empty
     int GetMatchBSSID(const GUID* pInterfaceGuid);
 
     // --- Best access point --------------------------------------------------------------------------------------
 
-    /// Ranks the visible networks with an automatically connecting profile by signal quality, with a bonus for 5 GHz,
-    /// and asks for a connection (WlanConnect) from the lowest rank upward until one request is accepted. Networks
-    /// whose SSID begins one in `pExcluded` [in] and the profile `excludedName` [in] are left out. 0 request accepted;
-    /// -1 client handle not opened, -4 profile list failed, -5 no profile, -6 available-network list failed, -7 no
-    /// network, -9 no candidate, -10 BSS list failed, -11 BSS list empty, -12 every request refused, -13 null list,
-    /// -14 null name.
-    int ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded, const wchar_t* excludedName);
-
-    /// The same without an excluded profile.
-    int ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded);
-
-    /// The same without excluded networks.
-    int ConnectBestAP(const GUID* pInterfaceGuid, const wchar_t* excludedName);
-
-    /// The same without any exclusion.
+    /// Ranks the networks that match a profile which connects automatically (IsAutoConnMode2), and asks for a
+    /// connection (WlanConnect) from the lowest score upward until one request is accepted: normally the weakest
+    /// candidate is joined. Among equal scores the order of the profiles decides, then that of the networks.
+    ///
+    /// The score is the signal quality, and 10 more, up to 100 in all, for each access point of the 5 GHz band. One BSS
+    /// list is fetched for this, that of the network listed last, candidate or not; an entry counts when GetChannel
+    /// gives it more than 14 and its SSID is the beginning of the candidate's.
+    /// @return 0 when a request is accepted; -1 client handle not opened, -4 profile list failed, -5 no profile, -6
+    /// network list failed, -7 no network, -9 no candidate, -10 BSS list failed, -11 BSS list empty, -12 every request
+    /// refused
     int ConnectBestAP(const GUID* pInterfaceGuid);
 
-    // --- Automatic connection -----------------------------------------------------------------------------------
-    // Networks match a profile by its name. Where every request is refused, the walks report success.
+    /// Ranks and asks as the form without exclusions does, but leaves out some networks.
+    /// @param[in] pExcluded a network is left out when its SSID is the beginning of an entry's SSID: HomeNet5G rules
+    /// out HomeNet. Nothing else of the entries is read
+    /// @return as ConnectBestAP; also -13 null input
+    int ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded);
 
-    /// Requests every matching network in profile order until one is accepted. 0; -1 client handle not opened,
-    /// -4 profile list failed, -5 no profile, -6 available-network list failed, -7 no network, -9 nothing matches.
+    /// Ranks and asks as the form without exclusions does, but leaves out one profile.
+    /// @param[in] excludedName the name of the profile that is left out, wide text
+    /// @return as ConnectBestAP; also -14 null input
+    int ConnectBestAP(const GUID* pInterfaceGuid, const wchar_t* excludedName);
+
+    /// Ranks and asks as the form without exclusions does, but leaves out some networks and one profile.
+    /// @param[in] pExcluded as above
+    /// @param[in] excludedName as above
+    /// @return as ConnectBestAP; also -13 null input, -14 null input
+    int ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded, const wchar_t* excludedName);
+
+    // --- Automatic connection -----------------------------------------------------------------------------------
+    // Networks match a profile as above. When every request is refused, AutoConnect, AutoSwitch and ConnectAutoMode
+    // return 0; the others report the refusal.
+
+    /// Asks for every matching network in profile order until one request is accepted (WlanConnect), whatever the
+    /// profile's connection mode.
+    /// @return 0, also when every request was refused; -1 client handle not opened, -4 profile list failed, -5 no
+    /// profile, -6 network list failed, -7 no network, -9 nothing matches
     int AutoConnect(const GUID* pInterfaceGuid);
 
-    /// ConnectBestAP over all matching networks, whatever their connection mode. Codes as ConnectBestAP.
+    /// Ranks and asks as ConnectBestAP does, with every matching network as a candidate, whatever the profile's
+    /// connection mode.
+    /// @return as ConnectBestAP, but -9 nothing matches
     int AutoConnectEx(const GUID* pInterfaceGuid);
 
-    /// Moves the current profile to the last place, then connects as AutoConnect, by the order from before. 0;
-    /// -1 client handle not opened, -3 not connected, -4 profile list failed, -5 not moved, -6 available-network list
-    /// failed, -7 nothing matches.
+    /// Moves the current profile to the last place (WlanQueryInterface, WlanSetProfilePosition), for good, and then
+    /// asks as AutoConnect does, by the order from before: the current network may be asked for again. A single profile
+    /// is not moved.
+    /// @return 0, also when every request was refused; -1 client handle not opened, -3 connection query refused, -4
+    /// profile list failed, -5 profile not moved, -6 network list failed, -7 nothing matches, also when a list is empty
     int AutoSwitch(const GUID* pInterfaceGuid);
 
-    /// Requests the first matching network with a better signal quality than the current one. 0; -1 client handle not
-    /// opened, -2 nothing better; otherwise the platform's error number.
+    /// Asks for the first matching network whose signal quality is above the current one, by one point or more
+    /// (WlanQueryInterface, WlanConnect). Passes over networks whose profile name is the current SSID, as profiles are
+    /// usually named after their network. A refused request is not followed by another. On Windows the current SSID
+    /// cannot be converted, as it does not take the flags of this conversion: the result is 1004.
+    /// @return 0 when the request is accepted; -1 client handle not opened, -2 nothing better; otherwise the platform's
+    /// error number
     int SmartSwitch(const GUID* pInterfaceGuid);
 
-    /// Requests the first profile's network in view, on the first interface whatever the GUID, and writes its name to
-    /// `profileName` [out, 128 bytes, may be null]. 0, also without an interface; -1 client handle not opened, -2 nothing
-    /// matches; otherwise the platform's error number.
+    /// Asks once, on the first adapter, for the first matching network (WlanEnumInterfaces, WlanConnect).
+    /// @param[in] pInterfaceGuid not looked at
+    /// @param[out] profileName the name of its profile, narrow text of the C locale, cut to 127 bytes and terminated;
+    /// may be null. Written only when the request is accepted
+    /// @return 0 when the request is accepted, and when there is no adapter; -1 client handle not opened, -2 nothing
+    /// matches; otherwise the platform's error number
     int SmartConnecting(const GUID* pInterfaceGuid, char* profileName);
 
-    /// Requests every network of an automatically connecting profile, matched by profile name or by SSID, in profile
-    /// order until one is accepted. Codes as AutoConnect.
+    /// Asks for every network that carries the name of an automatically connecting profile, or whose SSID is that name,
+    /// in profile order until one request is accepted (WlanGetProfile, WlanConnect). A match by SSID is asked for by
+    /// the network's own, empty profile name, which the service refuses. Of each profile's document 1023 characters are
+    /// read. On Windows no SSID can be converted, as it does not take the flags of this conversion, and such networks
+    /// are passed over, so that there is no candidate.
+    /// @return 0, also when every request was refused; -1 client handle not opened, -4 profile list failed, -5 no
+    /// profile, -6 network list failed, -7 no network, -9 no candidate
     int ConnectAutoMode(const GUID* pInterfaceGuid);
 
     // --- Roaming ------------------------------------------------------------------------------------------------
 
-    /// Whether the current network has a better access point: 0; -1 client handle not opened, -4 not connected,
-    /// -5 quality is 80 or more, -6 BSS list failed, -7 none in view, -8 already there.
+    /// Tells whether Roaming would ask for another access point of the current network (WlanQueryInterface,
+    /// WlanGetNetworkBssList). The access point is chosen as by Reconnect.
+    /// @return 0 when it would; -1 client handle not opened, -4 connection query refused, -5 signal quality 80 or more,
+    /// -6 BSS list failed, -7 no BSS in view, -8 already connected to it
     int PreRoaming(const GUID* pInterfaceGuid);
 
-    /// The same decision, then a request for that access point; also -9 refused.
+    /// Decides as PreRoaming does, and asks for that access point by the current profile (WlanConnect), without
+    /// disconnecting first.
+    /// @return 0 when the request is accepted; as PreRoaming; also -9 request refused
     int Roaming(const GUID* pInterfaceGuid);
 
     // --- Privileges, power and sleep ----------------------------------------------------------------------------
 
-    /// Enables the shutdown privilege for the calling process (OpenProcessToken, LookupPrivilegeValueA,
-    /// AdjustTokenPrivileges). 1 when the platform took the request, also where the account does not hold the
-    /// privilege and where there are no tokens; 0 on every other failure.
+    /// Enables the shutdown privilege of the calling process (OpenProcessToken, LookupPrivilegeValueA,
+    /// AdjustTokenPrivileges).
+    /// @return 1 when the platform took the request, also when the account does not hold the privilege, and when the
+    /// platform has no tokens; 0 otherwise
     int GetPrivileges();
 
-    /// The same for a privilege named as the platform names it, "SeShutdownPrivilege". False only when there is such a
-    /// privilege and it was not enabled; true also when `privilegeName` [in] is null or names none, or there is no
-    /// token to open.
+    /// Enables a privilege of the calling process (OpenProcessToken, LookupPrivilegeValueA, AdjustTokenPrivileges).
+    /// @param[in] privilegeName as the platform names it, "SeShutdownPrivilege"; may be null
+    /// @return false only when the platform did not enable it; true also when the name is null or names no privilege,
+    /// and when no token can be opened
     bool EnablePriviledge(const char* privilegeName);
 
-    /// Puts the computer to sleep (SetSuspendState, forced, wake events left on). Takes the shutdown privilege, see
-    /// GetPrivileges. The platform's answer: 1, or 0 when refused.
+    /// Puts the computer to sleep (SetSuspendState, forced, wake events left on), and returns after it has woken. Needs
+    /// the shutdown privilege, see GetPrivileges.
+    /// @return the platform's boolean: 1, or 0 when refused
     int ForceComputerSleep();
 
     /// Remembers the policy of the active legacy power scheme and switches its idle time-outs off, on mains and on
-    /// battery (GetActivePwrScheme, ReadPwrScheme, WritePwrScheme, SetActivePwrScheme). 0; -1 the computer cannot be
-    /// suspended, -2 no active scheme, -3 not readable, -4 not written, -5 not activated.
+    /// battery (IsPwrSuspendAllowed, GetActivePwrScheme, ReadPwrScheme, WritePwrScheme, SetActivePwrScheme). A second
+    /// call remembers the policy that the first one made.
+    /// @return 0; -1 suspend not allowed, -2 no active scheme, -3 scheme not read, -4 scheme not written, -5 scheme not
+    /// activated
     long SetPowerScheme();
 
-    /// Writes the remembered policy, all zero when none was, to whichever scheme is active now, and activates it. 0;
-    /// -1 the computer cannot be suspended, -2 no active scheme, -3 not written, -4 not activated.
+    /// Writes the remembered policy, all zero when none was, to the scheme that is active now, and activates it
+    /// (IsPwrSuspendAllowed, GetActivePwrScheme, WritePwrScheme, SetActivePwrScheme).
+    /// @return 0; -1 suspend not allowed, -2 no active scheme, -3 scheme not written, -4 scheme not activated
     long ResetPowerScheme();
 
-    /// Copies the active power scheme, names the copy "Super energy-saving", in 8-bit characters where the platform
-    /// takes wide ones, makes it sleep after a second on mains, and activates it (PowerDuplicateScheme,
-    /// PowerWriteFriendlyName, PowerWriteACValueIndex, PowerSetActiveScheme). The copy stays in the store. 0; -1 no
-    /// active scheme, -2 not copied, -3 not named, -4 a time-out not written, -5 not activated. Begins by listing the
-    /// first scheme (PowerEnumerate) until that fails: where there is a scheme it does not return.
+    /// Copies the active power scheme, names the copy "Super energy-saving", makes it sleep after a second on mains and
+    /// after two when unattended, and activates it (PowerGetActiveScheme, PowerDuplicateScheme, PowerWriteFriendlyName,
+    /// PowerWriteACValueIndex, PowerSetActiveScheme). The copy stays in the store. Its name is handed over in 8-bit
+    /// characters, which the platform takes for wide ones. First the method lists the first scheme (PowerEnumerate)
+    /// until that fails: where the system lists a power scheme, it does not return.
+    /// @return 0; -1 no active scheme, -2 scheme not copied, -3 copy not named, -4 time-out not written, -5 scheme not
+    /// activated
     long GetPowerScheme();
 
-    /// 1 when the computer sleeps in the "always on, always connected" way, Modern Standby (CallNtPowerInformation);
-    /// else 0, also when it cannot be asked.
+    /// Tells whether the computer sleeps in the "always on, always connected" way, Modern Standby
+    /// (CallNtPowerInformation).
+    /// @return 1 when it does; 0 otherwise and on every failure
     int IsSurpportAoAc();
 
-    /// When the computer last woke, in 100 ns of interrupt time (CallNtPowerInformation); 0 when it cannot be asked.
+    /// Gives the time of the last waking (CallNtPowerInformation).
+    /// @return interrupt time in 100 ns, which counts from the system's start; 0 on every failure
     unsigned long long GetLastWakeTime();
 
-    /// When it last went to sleep, likewise.
+    /// Gives the time of the last falling asleep (CallNtPowerInformation).
+    /// @return interrupt time in 100 ns, which counts from the system's start; 0 on every failure
     unsigned long long GetLastSleepTime();
 
-    /// Asks for the power policies on mains and on battery (CallNtPowerInformation) and drops them. The NTSTATUS of
-    /// the second question, 0 for success.
+    /// Asks for the power policies on mains and on battery (CallNtPowerInformation) and drops them.
+    /// @return 0, or the platform's error number, an NTSTATUS, of the question about the battery
     long GetSystemPowerPolicy();
 
-    /// In spite of the name: whether the computer woke by itself, as the platform's boolean (IsSystemResumeAutomatic).
+    /// Tells, in spite of its name, whether the computer woke by itself (IsSystemResumeAutomatic). What the name
+    /// promises is asked and dropped (IsPwrHibernateAllowed, IsPwrShutdownAllowed, IsPwrSuspendAllowed).
+    /// @return the platform's boolean
     int IsPowerHibernateAllowed();
 
     // --- Processes and the host program -------------------------------------------------------------------------
 
-    /// Whether this is a 32-bit process on a 64-bit system, the platform's boolean (IsWow64Process); 0 when it cannot
-    /// be asked.
+    /// Tells whether this is a 32-bit process on a 64-bit system (IsWow64Process, looked up at run time).
+    /// @return the platform's boolean; 0 also when it cannot be asked
     int IsWow64();
 
-    /// Ends a process at once, with exit code 0 (OpenProcess, TerminateProcess). Reports nothing.
+    /// Ends a process at once, with exit code 0 (OpenProcess, TerminateProcess, CloseHandle). Reports nothing and
+    /// checks no step.
+    /// @param[in] processId the number of the process
     void CloseProcess(unsigned long processId);
 
-    /// Starts `commandLine` [in, the platform may write to it] (CreateProcessA) and waits, without limit, until the
-    /// program has ended. Reports nothing; a null command line starts nothing.
+    /// Starts a program and waits, without limit, until it has ended (CreateProcessA, WaitForSingleObject). Reports
+    /// nothing.
+    /// @param[in,out] commandLine program and arguments, narrow text; the platform may write to it; null starts nothing
     void CreateProcRunCmd(char* commandLine);
 
-    /// The same for the program `fileName` [in] beside the host program; overwrites GetAppPath's text. 1, whatever the
-    /// exit code; 0 when it was not started, as with a null name.
+    /// Starts the program of a name beside the host program and waits, without limit, until it has ended (GetAppPath,
+    /// CreateProcessA, WaitForSingleObject). Overwrites the text of GetAppPath.
+    /// @param[in] fileName narrow text, appended to the folder; null starts nothing
+    /// @return 1 when it was started, whatever its exit code; 0 otherwise
     int CreateProcRunExe(char* fileName);
 
-    /// Folder of the host program, last backslash included (GetModuleFileNameA); empty when it cannot be told. The
-    /// text, at most 511 bytes, belongs to the object.
+    /// Gives the folder of the host program, last backslash included (GetModuleFileNameA).
+    /// @return text inside the object, at most 511 bytes; empty when the folder cannot be told
     char* GetAppPath();
 
-    /// 0 when a connection to https://www.example.com/ can be made (InternetCheckConnectionA), else -1. Opens nothing,
-    /// but sets the whole process's connect time-out to three seconds (InternetSetOptionA).
+    /// Tells whether https://www.example.com/ can be reached (InternetCheckConnectionA). Opens nothing. Sets the
+    /// connect time-out of the whole process to three seconds (InternetSetOptionA), and waits for the answer.
+    /// @return 0 when it can; -1 not reached
     long OpenUrl();
 
 private:
