@@ -9,6 +9,10 @@ namespace calvix::test
 
 constexpr DWORD kSynchronize = 0x00100000;
 
+// DETACHED_PROCESS. Where a process is to have a console, Wine starts a server for it, and that one stays for good when the
+// process is ended while the server still starts.
+constexpr DWORD kWithoutConsole = 0x00000008;
+
 /// Processes made of programs that each kind of computer has: one that ends by itself, and one that has to be ended.
 class ProcessesContract : public PlatformContract
 {
@@ -36,7 +40,7 @@ protected:
         startup.cb = sizeof startup;
         std::string line = commandLine != nullptr ? commandLine : "";
         return Processes().CreateProcessA(application, commandLine != nullptr ? line.data() : nullptr, nullptr, nullptr,
-                                          FALSE, CREATE_NO_WINDOW, nullptr, nullptr, &startup, &started);
+                                          FALSE, kWithoutConsole, nullptr, nullptr, &startup, &started);
     }
 
     DWORD ErrorOfCreating(const char* application, const char* commandLine)
