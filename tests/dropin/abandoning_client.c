@@ -29,6 +29,6 @@ int main(void)
     {
         CHECK_ANSWER(ERROR_SUCCESS, WlanScan(client, &list->InterfaceInfo[0].InterfaceGuid, NULL, NULL, NULL));
     }
-    CHECK(WaitForSingleObject(entered, 60000) == WAIT_OBJECT_0);
+    CHECK(WaitForSingleObject(entered, AGAINST_HANGS) == WAIT_OBJECT_0);
     return CheckedExitCode();
 }

@@ -3,6 +3,9 @@
 
 #include <stdio.h>
 
+/* The longest wait, in milliseconds: a limit against hangs, out of reach on the busiest machine. */
+#define AGAINST_HANGS 600000
+
 /* What these programs expect, one line on standard output for each that did not hold. */
 static int failedChecks;
 

@@ -10,7 +10,7 @@ namespace calvix::test
 namespace
 {
 
-constexpr DWORD longestRun = 120'000;
+constexpr DWORD againstHangs = 600'000;
 constexpr UINT exitCodeOfTheEnded = 0xdead;
 
 /// A handle that is closed at the end of its scope, or before.
@@ -113,7 +113,7 @@ ProgramEnd RunProgram(const std::wstring& path, const Environment& changes, cons
     }
     const OwnedHandle running(process.hProcess);
     const OwnedHandle thread(process.hThread);
-    if (::WaitForSingleObject(running.Get(), longestRun) != WAIT_OBJECT_0)
+    if (::WaitForSingleObject(running.Get(), againstHangs) != WAIT_OBJECT_0)
     {
         ::TerminateProcess(running.Get(), exitCodeOfTheEnded);
     }

@@ -140,7 +140,7 @@ static void CheckConnecting(const struct Wlan* wlan, HANDLE client, const GUID* 
     CHECK_ANSWER(ERROR_SUCCESS, wlan->registerNotification(client, WLAN_NOTIFICATION_SOURCE_ACM, TRUE,
                                                            TellWhenConnected, connected, NULL, NULL));
     CHECK_ANSWER(ERROR_SUCCESS, wlan->connect(client, adapter, &parameters, NULL));
-    CHECK(WaitForSingleObject(connected, 60000) == WAIT_OBJECT_0);
+    CHECK(WaitForSingleObject(connected, AGAINST_HANGS) == WAIT_OBJECT_0);
 }
 
 /* Loaded without a call, the library goes when it is let go. */

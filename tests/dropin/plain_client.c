@@ -17,9 +17,6 @@
 #define WLAN_AVAILABLE_NETWORK_HAS_PROFILE 0x00000002
 #endif
 
-/* The most that anything here may take; nothing takes nearly as long. */
-#define LONGEST_WAIT_MILLISECONDS 60000
-
 static const char networkName[] = "Lindenhof";
 static const wchar_t profileName[] = L"Lindenhof";
 
@@ -89,7 +86,7 @@ static unsigned int CountNews(void)
 
 static int AwaitNews(DWORD code, unsigned int from)
 {
-    const ULONGLONG end = GetTickCount64() + LONGEST_WAIT_MILLISECONDS;
+    const ULONGLONG end = GetTickCount64() + AGAINST_HANGS;
     int found = FindNews(code, from);
     while (found < 0 && GetTickCount64() < end)
     {

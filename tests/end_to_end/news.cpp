@@ -8,6 +8,13 @@
 namespace calvix::test
 {
 
+namespace
+{
+
+constexpr std::chrono::minutes kAgainstHangs(10);
+
+} // namespace
+
 News::News()
 {
     EXPECT_EQ(CWirelessManage::Get()->RegisterNotification(&News::Hear, this), 0);
@@ -28,7 +35,7 @@ std::optional<Event> News::Await(DWORD code, std::size_t from) const
 {
     std::unique_lock lock(m_mutex);
     std::optional<Event> found;
-    m_arrived.wait_for(lock, std::chrono::minutes(1),
+    m_arrived.wait_for(lock, kAgainstHangs,
                        [&]
                        {
                            const auto begin = m_events.begin() + static_cast<std::ptrdiff_t>(from);

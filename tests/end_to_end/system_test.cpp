@@ -74,7 +74,7 @@ public:
         startup.cb = sizeof(startup);
         EXPECT_TRUE(::CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                                      &startup, &m_process));
-        EXPECT_EQ(::WaitForSingleObject(started, longestWait), WAIT_OBJECT_0);
+        EXPECT_EQ(::WaitForSingleObject(started, againstHangs), WAIT_OBJECT_0);
         ::CloseHandle(started);
     }
     ~StayingProgram()
@@ -91,14 +91,14 @@ public:
     /// Its exit code, once it has ended.
     DWORD AwaitEnd() const
     {
-        EXPECT_EQ(::WaitForSingleObject(m_process.hProcess, longestWait), WAIT_OBJECT_0);
+        EXPECT_EQ(::WaitForSingleObject(m_process.hProcess, againstHangs), WAIT_OBJECT_0);
         DWORD exitCode = 0;
         ::GetExitCodeProcess(m_process.hProcess, &exitCode);
         return exitCode;
     }
 
 private:
-    static constexpr DWORD longestWait = 60'000;
+    static constexpr DWORD againstHangs = 600'000;
 
     PROCESS_INFORMATION m_process{};
 };

@@ -17,7 +17,7 @@ foreach(index RANGE ${last})
     endif()
 endforeach()
 
-execute_process(COMMAND ${command} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE exit_code TIMEOUT 100)
+execute_process(COMMAND ${command} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE exit_code)
 string(REPLACE "\r\n" "\n" output "${output}")
 message(NOTICE "${output}")
 if(NOT exit_code STREQUAL EXIT_CODE)

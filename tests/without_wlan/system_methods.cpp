@@ -32,8 +32,8 @@ std::string EndProgram(CWirelessManage& manager)
                           &program))
         return "no program to end";
     manager.CloseProcess(program.dwProcessId);
-    constexpr DWORD kTenSeconds = 10000;
-    const bool ended = ::WaitForSingleObject(program.hProcess, kTenSeconds) == WAIT_OBJECT_0;
+    constexpr DWORD kAgainstHangs = 600'000;
+    const bool ended = ::WaitForSingleObject(program.hProcess, kAgainstHangs) == WAIT_OBJECT_0;
     ::CloseHandle(program.hThread);
     ::CloseHandle(program.hProcess);
     return ended ? "ended" : "still there";
