@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "simulation/computer.h"
+#include "support/result_code.h"
 #include "wrappers/call_log.h"
 #include "wrappers/fault_injection.h"
 #include "wrappers/intercepted_platform.h"
@@ -15,6 +16,7 @@ namespace calvix::test::refusals_test
 namespace
 {
 
+using host::Cause;
 using nlohmann::json;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -98,9 +100,15 @@ struct RefusedCase
 {
     std::vector<std::string> command;
     const char* operation;
-    const char* result; ///< as the second line of the failure says it
+    std::string result; ///< as the second line of the failure says it
     int exitCode;
 };
+
+/// The code that the table has for the cause, in a failure's words.
+std::string Gave(const std::string& method, Cause cause)
+{
+    return method + " gave " + std::to_string(CodeOf(method, cause)) + ".";
+}
 
 void PrintTo(const RefusedCase& refused, std::ostream* out)
 {
@@ -128,26 +136,31 @@ INSTANTIATE_TEST_SUITE_P(
     Commands,
     RefusedOperation,
     ::testing::Values(
-        RefusedCase{{"adapters"}, "WlanOpenHandle", "GetWlanInterface gave -1.", 3},
-        RefusedCase{{"adapters"}, "WlanEnumInterfaces", "GetWlanInterface gave -2.", 3},
-        RefusedCase{{"scan"}, "WlanScan", "Rescan gave -4.", 1},
+        RefusedCase{{"adapters"}, "WlanOpenHandle", Gave("GetWlanInterface", Cause::clientNotOpened), 3},
+        RefusedCase{{"adapters"}, "WlanEnumInterfaces", Gave("GetWlanInterface", Cause::enumerationFailed), 3},
+        RefusedCase{{"scan"}, "WlanScan", Gave("Rescan", Cause::scanRefused), 1},
         RefusedCase{{"scan"}, "WlanGetNetworkBssList", "What to do", 1},
-        RefusedCase{{"networks"}, "WlanGetAvailableNetworkList", "GetAvailableNetworkCount gave -5.", 1},
+        RefusedCase{
+            {"networks"}, "WlanGetAvailableNetworkList", Gave("GetAvailableNetworkCount", Cause::networkListFailed), 1},
         RefusedCase{{"bss"}, "WlanGetNetworkBssList", "What to do", 1},
-        RefusedCase{{"profiles", "list"}, "WlanGetProfileList", "GetProfileCount gave -4.", 1},
-        RefusedCase{{"profiles", "show", "Weak"}, "WlanGetProfile", "GetProfile gave -4.", 1},
-        RefusedCase{{"profiles", "delete", "Weak"}, "WlanDeleteProfile", "DeleteProfile gave -4.", 1},
+        RefusedCase{{"profiles", "list"}, "WlanGetProfileList", Gave("GetProfileCount", Cause::profileListFailed), 1},
+        RefusedCase{{"profiles", "show", "Weak"}, "WlanGetProfile", Gave("GetProfile", Cause::profileNotReadable), 1},
+        RefusedCase{
+            {"profiles", "delete", "Weak"}, "WlanDeleteProfile", Gave("DeleteProfile", Cause::profileNotDeleted), 1},
         RefusedCase{
             {"profiles", "move", "Weak", "--to", "last"}, "WlanSetProfilePosition", "SetProfilePosition gave 31.", 1},
         RefusedCase{{"profiles", "move", "Weak", "--to", "second"},
                     "WlanSetProfilePosition",
                     "ResetProfilePosition gave 31.",
                     1},
-        RefusedCase{{"match"}, "WlanGetProfileList", "GetMatchAPList gave -5.", 1},
-        RefusedCase{{"match", "--auto-only"}, "WlanGetAvailableNetworkList", "GetConnectableAPList gave -7.", 1},
-        RefusedCase{{"best"}, "WlanGetProfileList", "ConnectBestAP gave -4.", 1},
-        RefusedCase{{"best"}, "WlanGetAvailableNetworkList", "ConnectBestAP gave -6.", 1},
-        RefusedCase{{"best"}, "WlanGetNetworkBssList", "ConnectBestAP gave -10.", 1}));
+        RefusedCase{{"match"}, "WlanGetProfileList", Gave("GetMatchAPList", Cause::profileListFailed), 1},
+        RefusedCase{{"match", "--auto-only"},
+                    "WlanGetAvailableNetworkList",
+                    Gave("GetConnectableAPList", Cause::networkListFailed),
+                    1},
+        RefusedCase{{"best"}, "WlanGetProfileList", Gave("ConnectBestAP", Cause::profileListFailed), 1},
+        RefusedCase{{"best"}, "WlanGetAvailableNetworkList", Gave("ConnectBestAP", Cause::networkListFailed), 1},
+        RefusedCase{{"best"}, "WlanGetNetworkBssList", Gave("ConnectBestAP", Cause::bssListFailed), 1}));
 
 TEST_F(Refusals, AServiceThatStopsMeanwhileIsUnavailable)
 {

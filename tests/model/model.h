@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/plain_service.h"
+#include "support/result_code.h"
 
 namespace calvix::test
 {
@@ -10,8 +11,8 @@ namespace calvix::test
 class Model
 {
 public:
-    Model(const World& world, platform::WlanService& service, HANDLE client)
-        : m_world(world), m_service(world, service, client)
+    Model(const World& world, platform::WlanService& service, HANDLE client, std::string method)
+        : m_world(world), m_service(world, service, client), m_method(std::move(method))
     {
     }
 
@@ -37,6 +38,8 @@ public:
     Outcome Reconnect();
 
 private:
+    using Cause = host::Cause;
+
     enum class Filter
     {
         none,
@@ -56,11 +59,13 @@ private:
     DWORD SsidText(const std::string& ssid, std::wstring& text) const;
 
     Outcome Ended(long long code) { return {.code = code, .events = m_service.Events()}; }
+    Outcome Failed(Cause cause) { return Ended(CodeOf(m_method, cause)); }
     /// For the methods that hand the platform's error numbers on.
     Outcome EndedBy(DWORD error) { return Ended(static_cast<long long>(error)); }
 
     const World& m_world;
     PlainService m_service;
+    std::string m_method;
     bool m_bonusChangedTheOrder = false;
 };
 

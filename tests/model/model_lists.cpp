@@ -23,26 +23,26 @@ bool Model::IsAutomatic(int adapter, const std::wstring& profile)
 Outcome Model::Collect(int adapter, Filter filter, bool wantsNames)
 {
     if (m_service.Open() != 0)
-        return Ended(-2);
+        return Failed(Cause::clientNotOpened);
     if (adapter < 0)
     {
         std::vector<int> adapters;
         if (m_service.Adapters(adapters) != 0)
-            return Ended(-3);
+            return Failed(Cause::enumerationFailed);
         if (adapters.empty())
-            return Ended(-4);
+            return Failed(Cause::noAdapter);
         adapter = adapters[0];
     }
     std::vector<std::wstring> profiles;
     if (m_service.Profiles(adapter, profiles) != 0)
-        return Ended(-5);
+        return Failed(Cause::profileListFailed);
     if (profiles.empty())
-        return Ended(-6);
+        return Failed(Cause::noProfile);
     std::vector<Network> networks;
     if (m_service.Networks(adapter, networks) != 0)
-        return Ended(-7);
+        return Failed(Cause::networkListFailed);
     if (networks.empty())
-        return Ended(-8);
+        return Failed(Cause::networkListEmpty);
 
     long long count = 0;
     std::vector<Heard> entries;

@@ -16,23 +16,24 @@ static const Heard& PickOf(const std::vector<Heard>& entries)
 Outcome Model::Roam(bool connects)
 {
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     Link link;
     if (m_service.Connection(m_world.asked, link) != 0)
-        return Ended(-4);
+        return Failed(Cause::notConnected);
     if (link.quality > 79)
-        return Ended(-5);
+        return Failed(Cause::signalGoodEnough);
     std::vector<Heard> entries;
     if (m_service.Entries(m_world.asked, link.ssid, link.bssType, link.secured, entries) != 0)
-        return Ended(-6);
+        return Failed(Cause::bssListFailed);
     if (entries.empty())
-        return Ended(-7);
+        return Failed(Cause::noBssInView);
     const Heard& pick = PickOf(entries);
     if (pick.bssid == link.bssid)
-        return Ended(-8);
+        return Failed(Cause::alreadyThere);
     if (!connects)
         return Ended(0);
-    return Ended(m_service.Connect(m_world.asked, link.profile, link.bssType, pick.bssid) == 0 ? 0 : -9);
+    const DWORD error = m_service.Connect(m_world.asked, link.profile, link.bssType, pick.bssid);
+    return error == 0 ? Ended(0) : Failed(Cause::requestRefused);
 }
 
 Outcome Model::PreRoaming()
@@ -48,16 +49,16 @@ Outcome Model::Roaming()
 Outcome Model::Reconnect()
 {
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     std::vector<Heard> entries;
     if (m_service.Entries(m_world.asked, m_world.rememberedSsid, m_world.rememberedBssType, m_world.rememberedSecured,
                           entries) != 0)
-        return Ended(-4);
+        return Failed(Cause::bssListFailed);
     if (entries.empty())
-        return Ended(-6);
+        return Failed(Cause::accessPointNotJoined);
     const DWORD error =
         m_service.Connect(m_world.asked, m_world.rememberedProfile, m_world.rememberedBssType, PickOf(entries).bssid);
-    return Ended(error == 0 ? 0 : -6);
+    return error == 0 ? Ended(0) : Failed(Cause::accessPointNotJoined);
 }
 
 } // namespace calvix::test

@@ -75,17 +75,17 @@ Outcome Model::Rank(bool byList, bool byName, bool automaticOnly)
 {
     const int adapter = m_world.asked;
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     std::vector<std::wstring> profiles;
     if (m_service.Profiles(adapter, profiles) != 0)
-        return Ended(-4);
+        return Failed(Cause::profileListFailed);
     if (profiles.empty())
-        return Ended(-5);
+        return Failed(Cause::noProfile);
     std::vector<Network> networks;
     if (m_service.Networks(adapter, networks) != 0)
-        return Ended(-6);
+        return Failed(Cause::networkListFailed);
     if (networks.empty())
-        return Ended(-7);
+        return Failed(Cause::networkListEmpty);
 
     std::vector<Network> candidates;
     for (const std::wstring& profile : profiles)
@@ -104,14 +104,14 @@ Outcome Model::Rank(bool byList, bool byName, bool automaticOnly)
         }
     }
     if (candidates.empty())
-        return Ended(-9);
+        return Failed(automaticOnly ? Cause::noCandidate : Cause::nothingMatches);
 
     const Network& last = networks.back();
     std::vector<Heard> entries;
     if (m_service.Entries(adapter, last.ssid, last.bssType, last.secured, entries) != 0)
-        return Ended(-10);
+        return Failed(Cause::bssListFailed);
     if (entries.empty())
-        return Ended(-11);
+        return Failed(Cause::bssListEmpty);
     std::vector<Network> withoutBonus = candidates;
     InsertionSort(withoutBonus);
     AddBonus(candidates, entries);
@@ -120,7 +120,7 @@ Outcome Model::Rank(bool byList, bool byName, bool automaticOnly)
     for (const Network& candidate : candidates)
         if (m_service.Connect(adapter, candidate.profile, candidate.bssType) == 0)
             return Ended(0);
-    return Ended(-12);
+    return Failed(Cause::everyRequestRefused);
 }
 
 Outcome Model::ConnectBestAP(bool byList, bool byName)

@@ -69,42 +69,42 @@ bool Model::Walk(const std::vector<std::wstring>& profiles, const std::vector<Ne
 Outcome Model::AutoConnect()
 {
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     std::vector<std::wstring> profiles;
     if (m_service.Profiles(m_world.asked, profiles) != 0)
-        return Ended(-4);
+        return Failed(Cause::profileListFailed);
     if (profiles.empty())
-        return Ended(-5);
+        return Failed(Cause::noProfile);
     std::vector<Network> networks;
     if (m_service.Networks(m_world.asked, networks) != 0)
-        return Ended(-6);
+        return Failed(Cause::networkListFailed);
     if (networks.empty())
-        return Ended(-7);
-    return Ended(Walk(profiles, networks) ? 0 : -9);
+        return Failed(Cause::networkListEmpty);
+    return Walk(profiles, networks) ? Ended(0) : Failed(Cause::nothingMatches);
 }
 
 Outcome Model::AutoSwitch()
 {
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     Link link;
     if (m_service.Connection(m_world.asked, link) != 0)
-        return Ended(-3);
+        return Failed(Cause::notConnected);
     std::vector<std::wstring> profiles;
     if (m_service.Profiles(m_world.asked, profiles) != 0)
-        return Ended(-4);
+        return Failed(Cause::profileListFailed);
     if (profiles.size() > 1 && m_service.Move(m_world.asked, link.profile, profiles.size() - 1) != 0)
-        return Ended(-5);
+        return Failed(Cause::profileNotMoved);
     std::vector<Network> networks;
     if (m_service.Networks(m_world.asked, networks) != 0)
-        return Ended(-6);
-    return Ended(Walk(profiles, networks) ? 0 : -7);
+        return Failed(Cause::networkListFailed);
+    return Walk(profiles, networks) ? Ended(0) : Failed(Cause::nothingMatches);
 }
 
 Outcome Model::SmartSwitch()
 {
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     Link link;
     if (const DWORD error = m_service.Connection(m_world.asked, link))
         return EndedBy(error);
@@ -121,13 +121,13 @@ Outcome Model::SmartSwitch()
         for (const Network& network : networks)
             if (network.profile == profile && network.profile != currentSsid && link.quality < network.quality)
                 return EndedBy(m_service.Connect(m_world.asked, network.profile, network.bssType));
-    return Ended(-2);
+    return Failed(Cause::nothingBetter);
 }
 
 Outcome Model::SmartConnecting()
 {
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     std::vector<int> adapters;
     if (const DWORD error = m_service.Adapters(adapters))
         return EndedBy(error);
@@ -152,23 +152,23 @@ Outcome Model::SmartConnecting()
                         outcome.text += static_cast<char>(unit);
             return outcome;
         }
-    return Ended(-2);
+    return Failed(Cause::nothingMatches);
 }
 
 Outcome Model::ConnectAutoMode()
 {
     if (m_service.Open() != 0)
-        return Ended(-1);
+        return Failed(Cause::clientNotOpened);
     std::vector<std::wstring> profiles;
     if (m_service.Profiles(m_world.asked, profiles) != 0)
-        return Ended(-4);
+        return Failed(Cause::profileListFailed);
     if (profiles.empty())
-        return Ended(-5);
+        return Failed(Cause::noProfile);
     std::vector<Network> networks;
     if (m_service.Networks(m_world.asked, networks) != 0)
-        return Ended(-6);
+        return Failed(Cause::networkListFailed);
     if (networks.empty())
-        return Ended(-7);
+        return Failed(Cause::networkListEmpty);
     bool attempted = false;
     for (const std::wstring& profile : profiles)
     {
@@ -190,7 +190,7 @@ Outcome Model::ConnectAutoMode()
                 return Ended(0);
         }
     }
-    return Ended(attempted ? 0 : -9);
+    return attempted ? Ended(0) : Failed(Cause::noCandidate);
 }
 
 } // namespace calvix::test

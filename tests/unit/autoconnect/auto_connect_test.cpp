@@ -1,6 +1,7 @@
 #include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "support/result_code.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/inventory/trace_texts.h"
@@ -207,14 +208,15 @@ TEST_F(AutoConnectExTest, ARefusedRequestIsFollowedByTheNext)
 TEST_F(AutoConnectExTest, Failures)
 {
     const char* const name = "AutoConnectEx";
-    CheckFailures(*this, {{name, AutoEx, "WlanOpenHandle", -1, {kOpenFailed}},
-                          {name, AutoEx, "WlanGetProfileList", -4, {kProfilesFailed}},
-                          {name, AutoEx, "WlanGetAvailableNetworkList", -6, {kNetworksFailed}},
-                          {name, AutoEx, "WlanGetNetworkBssList", -10, {kBssFailed}},
-                          {name, AutoEx, "WlanConnect", -12, {kConnectFailed, kConnectFailed}},
-                          {.method = name, .call = AutoEx, .expected = -9, .prepare = [](auto& test) {
-                               test.UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
-                           }}});
+    CheckFailures(*this,
+                  {{name, AutoEx, "WlanOpenHandle", -1, {kOpenFailed}},
+                   {name, AutoEx, "WlanGetProfileList", -4, {kProfilesFailed}},
+                   {name, AutoEx, "WlanGetAvailableNetworkList", -6, {kNetworksFailed}},
+                   {name, AutoEx, "WlanGetNetworkBssList", CodeOf(name, host::Cause::bssListFailed), {kBssFailed}},
+                   {name, AutoEx, "WlanConnect", -12, {kConnectFailed, kConnectFailed}},
+                   {.method = name, .call = AutoEx, .expected = -9, .prepare = [](auto& test) {
+                        test.UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+                    }}});
 }
 
 TEST_F(AutoConnectExTest, AnEmptyBssListEndsItWithoutATrace)
