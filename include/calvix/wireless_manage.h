@@ -39,6 +39,10 @@ struct ManagerInternals; // the library's own tests
 ///   Delete, never freed by the caller.
 /// - Nothing waits, where the method does not say otherwise: an accepted scan or connection request is not a finished
 ///   one.
+/// - The service refuses the query for the current connection when there is none, and when location access is denied.
+///   It refuses scans and lists of networks in the latter case, too.
+/// - Failures are formatted as trace lines, which reach the debugger (OutputDebugStringA) while tracing is on. Nothing
+///   in the library switches it on.
 /// - Narrow text is in the active code page. Wide text is terminated. Capacities count the terminator. Names and SSIDs
 ///   are compared whole and exactly, upper and lower case included.
 /// - Threading: no locks. Callers serialise their calls; every call runs on the caller's thread.
@@ -117,13 +121,14 @@ public:
     // They need no client handle and write no trace.
 
     /// Converts wide to narrow text (WideCharToMultiByte). A character that the code page lacks ends the text. Where
-    /// the active code page is UTF-8, every conversion fails: the platform then refuses to mark such characters.
+    /// the active code page is UTF-8, every conversion fails, as the platform takes no such character for it.
     /// @param[in] source wide text; null cannot be converted
     /// @param[out] destination narrow text; taken to hold 1024 bytes, whatever its size
     /// @return whether the text was converted; false also when it needs more than 1024 bytes
     bool UnicodeToAnsi(const wchar_t* source, char* destination);
 
-    /// Converts wide to narrow text, whole (WideCharToMultiByte). A text that does not fit is a fatal caller error.
+    /// Converts wide to narrow text, whole (WideCharToMultiByte). A text that does not fit, or a null destination, is a
+    /// fatal caller error.
     /// @param[in] source wide text; null cannot be converted
     /// @param[out] destination narrow text; empty when the text cannot be converted
     /// @param[in] capacity bytes at destination
@@ -151,7 +156,7 @@ public:
     /// Turns hexadecimal text into bytes, two characters each from the end of the text; of an odd number the first
     /// makes a byte of its own. A character that is no digit is not refused, but gives some byte. What does not fit is
     /// left out.
-    /// @param[in] text digits of either case
+    /// @param[in] text digits of either case; null has none
     /// @param[in] textLength how many
     /// @param[out] destination the bytes; the rest is zero
     /// @param[in] destinationLength bytes at destination
@@ -161,26 +166,27 @@ public:
     StringToHex(const char* text, int textLength, unsigned char* destination, int destinationLength, bool reversed);
 
     /// Turns bytes into upper-case hexadecimal text, padded with '0' to the capacity.
-    /// @param[in] bytes what to show
+    /// @param[in] bytes what to show; null shows none
     /// @param[in] count how many
-    /// @param[out] destination the text. Left-aligned, all 2 x count digits are written whatever the capacity, and the
-    /// capacity's last place is a terminator unless a digit lies there. Right-aligned, it fills the whole capacity
-    /// without a terminator, the beginning of what does not fit is left out, and only a count of 0 or less ends in one
-    /// @param[in] capacity characters at destination; should be even when right-aligned, as the first place of an odd
-    /// one has room for one digit of a byte only
+    /// @param[out] destination the text. Left-aligned: all 2 x count digits are written, whatever the capacity; the
+    /// last place of the capacity holds a terminator, unless a digit lies there. Right-aligned: the digits end in the
+    /// last place of the capacity, without a terminator (a count of 0 or less leaves one); the first bytes are left out
+    /// when they do not fit
+    /// @param[in] capacity characters at destination; right-aligned an even number, as the first place of an odd one
+    /// has room for one digit of a byte only
     /// @param[in] fromStart true: left-aligned; false: right-aligned
     /// @return destination
     char* HexToString(const unsigned char* bytes, int count, char* destination, int capacity, bool fromStart);
 
     /// Turns text into the hexadecimal text of its characters, whose top bits are dropped.
-    /// @param[in] text ASCII text
+    /// @param[in] text ASCII text; null has no characters
     /// @param[in] textLength characters of it
     /// @param[out] destination upper-case digits, right-aligned as by HexToString
     /// @param[in] capacity characters at destination, an even number
     /// @return destination
     unsigned char* StringToHexString(const char* text, int textLength, unsigned char* destination, int capacity);
 
-    /// Writes an address as "00:1A:2B:3C:4D:5E".
+    /// Writes an address as "00:1A:2B:3C:4D:5E". A null pointer writes nothing.
     /// @param[in] address six bytes
     /// @param[out] destination 17 characters and the terminator; no size is tested
     void FormMAC(const unsigned char* address, char* destination);
@@ -363,10 +369,10 @@ public:
 
     // --- Signal metrics -----------------------------------------------------------------------------------------
 
-    /// Gives the channel number of a centre frequency. In the 2.4 GHz band it is one below the customary number: 2412
-    /// MHz gives 0, 2484 MHz gives 13, and what is no channel up to there gives 14. Above, it is (MHz - 5000) / 5 from
-    /// 5000 MHz on and 200 - (5000 - MHz) / 5 below, as 32 unsigned bits: 5180 MHz gives 36, 4920 MHz gives 184, and up
-    /// to 3995 MHz the number wraps to a huge one. There is no rule for 6 GHz: 5955 MHz gives 191.
+    /// Gives the channel number of a centre frequency. In the 2.4 GHz band it is one below the customary number:
+    /// 2412 MHz gives 0, 2484 MHz gives 13, and what is no channel up to there gives 14. Above, it is (MHz - 5000) /
+    /// 5 from 5000 MHz on and 200 - (5000 - MHz) / 5 below, as 32 unsigned bits: 5180 MHz gives 36, 4920 MHz gives 184,
+    /// and up to 3995 MHz the number wraps to a huge one. There is no rule for 6 GHz: 5955 MHz gives 191.
     /// @param[in] frequency in MHz or a finer decimal unit, as the kHz of WLAN_BSS_ENTRY: divided by ten while above
     /// 10000
     /// @return the channel number
@@ -385,8 +391,8 @@ public:
     /// Gives the received signal strength of the connected access point, as the last scan heard it (WlanQueryInterface,
     /// WlanGetNetworkBssList).
     /// @param[out] rssi dBm
-    /// @return 0; -1 client handle not opened, -4 connection query refused, -5 BSS list failed, -6 no BSS in view, -7
-    /// access point not listed
+    /// @return 0; -1 client handle not opened, -4 connection query refused, -5 BSS list failed, -6 no BSS in view,
+    /// -7 access point not listed
     int GetCurrentRSSI(const GUID* pInterfaceGuid, int& rssi);
 
     /// Estimates the signal strength of the first available network whose SSID begins with the given one
@@ -446,8 +452,8 @@ public:
     int GetWlanProfile(const GUID* pInterfaceGuid, const char* name);
 
     /// Deletes a profile (WlanDeleteProfile).
-    /// @param[in] name narrow text in the C locale, where a byte without a meaning keeps its value; cut to 127
-    /// characters; null is passed on
+    /// @param[in] name narrow text in the current C locale, where a byte without a meaning keeps its value; cut to
+    /// 127 characters; null is passed on
     /// @return 0; -1 client handle not opened, -4 not deleted
     int DeleteProfile(const GUID* pInterfaceGuid, const char* name);
 
@@ -481,8 +487,8 @@ public:
     /// @return 0, also when the document was cut; -1 client handle not opened, -4 profile not read, -13 null output
     int GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, wchar_t* xml, int capacity);
 
-    /// Gives a profile's document as narrow text of the C locale (WlanGetProfile), whole: a document that does not fit,
-    /// or a null xml, is a fatal caller error.
+    /// Gives a profile's document as narrow text of the current C locale (WlanGetProfile), whole: a document that does
+    /// not fit, or a null xml, is a fatal caller error.
     /// @param[in] name wide text, passed on as it is
     /// @param[out] xml the document
     /// @param[in] capacity bytes at xml
@@ -503,14 +509,14 @@ public:
     // --- Profile XML --------------------------------------------------------------------------------------------
     // A search in the text, without an XML parser: entities are not decoded, and blanks count.
 
-    /// Tells whether a profile's document is for an SSID: whether the text before the first "</name>" behind "<SSID>"
-    /// is the SSID. Malformed text is no failure.
+    /// Tells whether a profile's document is for an SSID: whether the text right before the first "</name>" behind
+    /// "<SSID>" is the SSID. Malformed text is no failure.
     /// @param[in] xml the document, wide text
     /// @param[in] ssid the SSID, wide text; only read
     /// @return 1 when it is, else 0
     int IsThisSSID(const wchar_t* xml, wchar_t* ssid);
 
-    /// Tells whether a profile's document says automatic connection: whether the text before its first
+    /// Tells whether a profile's document says automatic connection: whether the text right before its first
     /// "</connectionMode>" is "auto". Malformed text is no failure.
     /// @param[in] xml the document, wide text
     /// @return 1 when it does, else 0
@@ -524,7 +530,6 @@ public:
     int IsAutoConnMode2(const GUID* pInterfaceGuid, const wchar_t* name);
 
     // --- Current connection -------------------------------------------------------------------------------------
-    // The service refuses the query for the current connection when there is none, and when location access is denied.
 
     /// Gives the attributes of the current connection (WlanQueryInterface).
     /// @param[out] pAttributes the service's record; null is a fatal caller error
@@ -664,7 +669,7 @@ public:
 
     /// Lists the BSS entries of every network that matches a profile (WlanGetNetworkBssList). Two profiles for one
     /// network list its entries twice; a network whose BSS list fails is passed over.
-    /// @param[out] pList the entries
+    /// @param[out] pList the entries; emptied first
     /// @return the number of entries; -2 client handle not opened, -5 profile list failed, -6 no profile, -7 network
     /// list failed, -8 no network, -13 null output
     int GetMatchAPList(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pList);
@@ -672,26 +677,26 @@ public:
     /// Lists the BSS entries of every network that matches one named profile, or any that connects automatically
     /// (IsAutoConnMode2), by the rules of GetMatchAPList.
     /// @param[in] name the profile that always counts, wide text; only read
-    /// @param[out] pList the entries; emptied before the name is looked at
+    /// @param[out] pList the entries; emptied first, before the name is looked at
     /// @return as GetMatchAPList; also -14 null input
     int GetConnectableAPList(const GUID* pInterfaceGuid, wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList);
 
     /// Lists on the first adapter (WlanEnumInterfaces) what the form with a GUID lists.
     /// @param[in] name the profile that always counts, wide text; only read
-    /// @param[out] pList the entries; emptied before the name is looked at
+    /// @param[out] pList the entries; emptied first, before the name is looked at
     /// @return as GetConnectableAPList; also -3 enumeration failed, -4 no adapter
     int GetConnectableAPList(wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList);
 
     /// Lists the profile name of every network that matches a profile and has a BSS in view (WlanGetNetworkBssList),
     /// once for each network; a network whose BSS list fails is passed over.
-    /// @param[out] pNames the names, wide text
+    /// @param[out] pNames the names, wide text; emptied first
     /// @param[in] mode 1: only profiles that connect automatically (IsAutoConnMode2); any other: all
     /// @return as GetMatchAPList, the number being that of the names
     int GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, int mode);
 
     /// Lists profile names as the form without a name does, but with one profile that counts in mode 1 whatever its own
     /// mode.
-    /// @param[out] pNames the names, wide text
+    /// @param[out] pNames the names, wide text; emptied first
     /// @param[in] name that profile, wide text; may be null
     /// @param[in] mode 1: only profiles that connect automatically, and that one; any other: all
     /// @return as GetMatchAPCount without a name
@@ -714,9 +719,9 @@ public:
     /// The score is the signal quality, and 10 more, up to 100 in all, for each access point of the 5 GHz band. One BSS
     /// list is fetched for this, that of the network listed last, candidate or not; an entry counts when GetChannel
     /// gives it more than 14 and its SSID is the beginning of the candidate's.
-    /// @return 0 when a request is accepted; -1 client handle not opened, -4 profile list failed, -5 no profile, -6
-    /// network list failed, -7 no network, -9 no candidate, -10 BSS list failed, -11 BSS list empty, -12 every request
-    /// refused
+    /// @return 0 when a request is accepted; -1 client handle not opened, -4 profile list failed, -5 no profile,
+    /// -6 network list failed, -7 no network, -9 no candidate, -10 BSS list failed, -11 BSS list empty, -12 every
+    /// request refused
     int ConnectBestAP(const GUID* pInterfaceGuid);
 
     /// Ranks and asks as the form without exclusions does, but leaves out some networks.
@@ -754,8 +759,9 @@ public:
     /// Moves the current profile to the last place (WlanQueryInterface, WlanSetProfilePosition), for good, and then
     /// asks as AutoConnect does, by the order from before: the current network may be asked for again. A single profile
     /// is not moved.
-    /// @return 0, also when every request was refused; -1 client handle not opened, -3 connection query refused, -4
-    /// profile list failed, -5 profile not moved, -6 network list failed, -7 nothing matches, also when a list is empty
+    /// @return 0, also when every request was refused; -1 client handle not opened, -3 connection query refused,
+    /// -4 profile list failed, -5 profile not moved, -6 network list failed, -7 nothing matches, also when a list is
+    /// empty
     int AutoSwitch(const GUID* pInterfaceGuid);
 
     /// Asks for the first matching network whose signal quality is above the current one, by one point or more
@@ -768,8 +774,8 @@ public:
 
     /// Asks once, on the first adapter, for the first matching network (WlanEnumInterfaces, WlanConnect).
     /// @param[in] pInterfaceGuid not looked at
-    /// @param[out] profileName the name of its profile, narrow text of the C locale, cut to 127 bytes and terminated;
-    /// may be null. Written only when the request is accepted
+    /// @param[out] profileName the name of its profile, narrow text of the current C locale, cut to 127 bytes and
+    /// terminated; may be null. Written only when the request is accepted
     /// @return 0 when the request is accepted, and when there is no adapter; -1 client handle not opened, -2 nothing
     /// matches; otherwise the platform's error number
     int SmartConnecting(const GUID* pInterfaceGuid, char* profileName);
