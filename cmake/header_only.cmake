@@ -25,5 +25,4 @@ endfunction()
 
 calvix_link_headers(nlohmann json.hpp)
 calvix_link_headers(CLI CLI.hpp)
-calvix_link_headers(valijson validator.hpp)
 calvix_link_headers(rapidxml rapidxml.hpp)

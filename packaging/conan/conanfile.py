@@ -33,7 +33,6 @@ class CalvixConan(ConanFile):
         private = {"headers": True, "libs": False, "visible": False}
         self.requires("nlohmann_json/[>=3.11 <4]", **private)
         self.requires("rapidxml/1.13", **private)
-        self.requires("valijson/[>=1.0 <2]", **private)
         if self.options.host:
             self.requires("cli11/[>=2.3 <3]", **private)
 

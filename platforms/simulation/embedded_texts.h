@@ -4,7 +4,6 @@ namespace calvix::simulation
 {
 
 /// Files of the repository that the build compiles in.
-extern const char* const kScenarioSchemaText;  ///< docs/scenario.schema.json
 extern const char* const kBuiltInScenarioText; ///< scenarios/home.json
 
 } // namespace calvix::simulation

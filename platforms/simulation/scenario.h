@@ -144,15 +144,15 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads a scenario, validated against the published schema. `source` is what messages call the text.
+/// Reads a scenario and refuses what is wrong in it. `source` is what messages call the text.
 Scenario ParseScenario(const std::string& json, const std::string& source);
 Scenario LoadScenario(const std::string& path);
 
 /// The scenario as a JSON text that ParseScenario reads back.
 std::string WriteScenario(const Scenario& scenario);
 
-/// The JSON Schema of scenario files.
-const char* ScenarioSchema();
+/// The JSON Schema of scenario files: docs/scenario.schema.json.
+std::string ScenarioSchema();
 
 /// The scenario that is used where none was named: the gallery's home.
 Scenario BuiltInScenario();

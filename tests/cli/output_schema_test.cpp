@@ -3,15 +3,10 @@
 #include "cli_test.h"
 
 #include "command_description.h"
+#include "support/json_schema.h"
 
 #include <nlohmann/json.hpp>
-#include <valijson/adapters/nlohmann_json_adapter.hpp>
-#include <valijson/schema.hpp>
-#include <valijson/schema_parser.hpp>
-#include <valijson/validation_results.hpp>
-#include <valijson/validator.hpp>
 
-#include <map>
 #include <set>
 #include <sstream>
 
@@ -132,35 +127,10 @@ protected:
         return document;
     }
 
-    static const valijson::Schema& SchemaOf(const std::string& definition)
-    {
-        static std::map<std::string, valijson::Schema> schemas;
-        const auto [place, isNew] = schemas.try_emplace(definition);
-        if (isNew)
-        {
-            json document{{"definitions", Document()["definitions"]}, {"allOf", json::array()}};
-            document["allOf"].push_back({{"$ref", "#/definitions/" + definition}});
-            valijson::SchemaParser(valijson::SchemaParser::kDraft7)
-                .populateSchema(valijson::adapters::NlohmannJsonAdapter(document), place->second);
-        }
-        return place->second;
-    }
-
-    /// The problems, empty where there is none.
+    /// Where the value is not what the definition says, empty where it is.
     static std::string ProblemOf(const json& value, const std::string& definition)
     {
-        valijson::ValidationResults results;
-        valijson::Validator validator;
-        if (validator.validate(SchemaOf(definition), valijson::adapters::NlohmannJsonAdapter(value), &results))
-            return "";
-        std::string problems;
-        for (valijson::ValidationResults::Error error; results.popError(error);)
-        {
-            for (const std::string& step : error.context)
-                problems += step;
-            problems += ": " + error.description + "\n";
-        }
-        return "problems:\n" + problems;
+        return SchemaProblem(Document(), Document()["definitions"].at(definition), value);
     }
 
     std::vector<std::string> CommandLine(const Row& row)

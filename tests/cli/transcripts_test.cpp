@@ -112,15 +112,24 @@ INSTANTIATE_TEST_SUITE_P(Transcripts,
                                            "docs/command-line.md",
                                            "docs/troubleshooting.md"));
 
-TEST(ManualPage, IsTheOneThatIsInstalled)
+/// A file of the repository that the program writes.
+void ExpectUpToDate(const std::string& path, const std::string& text)
 {
-    const std::string path = CALVIX_SOURCE_DIR "/docs/calvix.1";
-    const std::string page = host::ManualPage(host::DescribeProgram());
     if (IsUpdate())
-        WriteText(path, page);
+        WriteText(path, text);
     std::ifstream file(path, std::ios::binary);
-    const std::string installed{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    EXPECT_EQ(page, installed) << "a command has changed: run script/update-transcripts";
+    const std::string committed{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    EXPECT_EQ(text, committed) << "run script/update-transcripts, and look at what it changes";
+}
+
+TEST(MadeFile, ManualPage)
+{
+    ExpectUpToDate(CALVIX_SOURCE_DIR "/docs/calvix.1", host::ManualPage(host::DescribeProgram()));
+}
+
+TEST(MadeFile, ScenarioSchema)
+{
+    ExpectUpToDate(CALVIX_SOURCE_DIR "/docs/scenario.schema.json", simulation::ScenarioSchema());
 }
 
 } // namespace
