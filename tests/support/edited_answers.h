@@ -148,7 +148,7 @@ private:
     DWORD BesideAnswer(std::string_view operation, DWORD error) const
     {
         const DWORD beside = errorBesideAnswer ? errorBesideAnswer(operation) : 0;
-        return error != 0 ? error : beside;
+        return beside != 0 ? beside : error;
     }
 
     static void Overwrite(wchar_t* xml, const std::wstring& text)

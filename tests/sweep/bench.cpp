@@ -71,7 +71,7 @@ private:
     /// Whether the failure is about this call of its operation.
     bool Concerns()
     {
-        if (++m_seen < m_failure.fault.fromCall || m_seen - m_failure.fault.fromCall >= m_failure.fault.times)
+        if (!m_failure.Concerns(++m_seen))
             return false;
         ++m_altered;
         return true;
@@ -150,7 +150,12 @@ Reference Record(const simulation::Scenario& world, const MethodCall& method)
     bench.Prepare(method);
     log.Clear();
     Reference reference;
-    reference.first = bench.Call(method);
+    {
+        EditedAnswers answers;
+        answers.service.bssList = [&reference](const WLAN_BSS_LIST& list, unsigned)
+        { reference.bssEntries.push_back(static_cast<unsigned>(list.dwNumberOfItems)); };
+        reference.first = bench.Call(method);
+    }
     reference.operations = log.Operations();
     reference.again = bench.Call(method);
     return reference;

@@ -38,6 +38,7 @@ private:
 struct Reference
 {
     std::vector<std::string> operations; ///< the platform operations that it calls, in order
+    std::vector<unsigned> bssEntries;    ///< the lengths of the BSS lists among their answers, in order
     Outcome first;                       ///< on a fresh computer
     Outcome again;                       ///< called once more
 };
@@ -60,6 +61,8 @@ struct Failure
     Way way = Way::refused;
 
     std::string Text() const;
+    /// Whether the failure is about this call of its operation, counted from 1.
+    bool Concerns(unsigned call) const { return call >= fault.fromCall && call - fault.fromCall < fault.times; }
     /// Whether the operation gives something back, which then stays with the program that wanted to.
     bool IsRelease() const;
 };

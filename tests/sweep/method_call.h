@@ -18,7 +18,7 @@ struct Outcome
 {
     std::optional<long long> code; ///< none where the result is no number
     std::string text{};
-    bool wroteOutput = false; ///< whether anything that the method was given to fill has changed
+    std::vector<std::string> outputs{}; ///< what the method was given to fill, in the order of its arguments
 
     bool operator==(const Outcome&) const = default;
 };
@@ -59,11 +59,10 @@ inline Outcome Nothing()
 template <typename Result, typename... Outputs>
 Outcome Told(Result result, const Outputs&... outputs)
 {
-    const bool wrote = (outputs.Written() || ... || false);
     if constexpr (std::is_arithmetic_v<Result>)
-        return {static_cast<long long>(result), {}, wrote};
+        return {static_cast<long long>(result), {}, {outputs.Text()...}};
     else
-        return {std::nullopt, result == nullptr ? "null" : reinterpret_cast<const char*>(result), wrote};
+        return {std::nullopt, result == nullptr ? "null" : reinterpret_cast<const char*>(result), {outputs.Text()...}};
 }
 
 } // namespace calvix::test::sweep

@@ -10,6 +10,23 @@
 namespace calvix::test::sweep
 {
 
+/// What an output says that nobody has written to.
+inline constexpr char kUntouched[] = "-";
+
+/// Bytes as an outcome tells them.
+inline std::string BytesText(const void* bytes, std::size_t size)
+{
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    std::string text;
+    for (std::size_t index = 0; index < size; ++index)
+    {
+        const unsigned char byte = static_cast<const unsigned char*>(bytes)[index];
+        text += kDigits[byte >> 4];
+        text += kDigits[byte & 0xF];
+    }
+    return text;
+}
+
 /// A record for a method to fill, full of a pattern before.
 template <typename Record>
 class Output
@@ -19,11 +36,13 @@ class Output
 public:
     Output() { std::memset(&value, kPattern, sizeof(value)); }
 
-    bool Written() const
+    std::string Text() const
     {
         std::array<unsigned char, sizeof(Record)> bytes;
         std::memcpy(bytes.data(), &value, sizeof(value));
-        return std::any_of(bytes.begin(), bytes.end(), [](unsigned char byte) { return byte != kPattern; });
+        const bool isWritten =
+            std::any_of(bytes.begin(), bytes.end(), [](unsigned char byte) { return byte != kPattern; });
+        return isWritten ? BytesText(bytes.data(), bytes.size()) : kUntouched;
     }
 
     Record value;
@@ -35,14 +54,33 @@ private:
 template <std::size_t Size>
 using TextOutput = Output<std::array<char, Size>>;
 
-/// A container for a method to fill, with one entry of its own before.
+/// A container for a method to fill, with more entries of its own before than any method finds.
 template <typename Entry>
 class OutputList
 {
 public:
-    bool Written() const { return value.size() != 1; }
+    std::string Text() const
+    {
+        if (value.size() == kEntriesBefore)
+            return kUntouched;
+        std::string text = std::to_string(value.size()) + " entries";
+        for (const Entry& entry : value)
+            text += " " + EntryText(entry);
+        return text;
+    }
 
-    std::vector<Entry> value = std::vector<Entry>(1);
+    std::vector<Entry> value = std::vector<Entry>(kEntriesBefore);
+
+private:
+    static constexpr std::size_t kEntriesBefore = 77;
+
+    static std::string EntryText(const Entry& entry)
+    {
+        if constexpr (std::is_trivially_copyable_v<Entry>)
+            return BytesText(&entry, sizeof(entry));
+        else
+            return BytesText(entry.data(), entry.size() * sizeof(entry[0]));
+    }
 };
 
 } // namespace calvix::test::sweep
