@@ -102,11 +102,14 @@ TEST_F(CompleteCommand, LeavesOutNamesThatFitOnNoLine)
 
 TEST_F(CompleteCommand, HasAScriptForEachShell)
 {
-    for (const char* shell : {"bash", "zsh", "fish", "powershell"})
+    for (const auto& [shell, file] : {std::pair{"bash", "calvix.bash"},
+                                      {"zsh", "_calvix"},
+                                      {"fish", "calvix.fish"},
+                                      {"powershell", "calvix.ps1"}})
     {
         const Outcome outcome = Run({"completion", shell});
         EXPECT_EQ(kSuccess, outcome.exitCode);
-        EXPECT_EQ(host::CompletionScript(shell), outcome.out);
+        EXPECT_EQ(Content(CALVIX_SOURCE_DIR "/cli/completions/" + std::string(file)), outcome.out) << shell;
     }
     EXPECT_EQ(kBadInput, Run({"completion", "cmd"}).exitCode);
     EXPECT_EQ(nullptr, host::CompletionScript("cmd"));

@@ -1,4 +1,5 @@
-// Sessions that calvix.exe recorded, with the Windows provider and the drop-in library behind it, replayed on any system.
+// Sessions that calvix.exe recorded under Wine, of the simulated computer behind the drop-in wlanapi.dll, replayed on any
+// system. None of them is of Windows.
 
 #include "cli/cli_test.h"
 
@@ -10,7 +11,7 @@ namespace calvix::test::recording_sample_test
 namespace
 {
 
-const std::string kSamples = CALVIX_SOURCE_DIR "/tests/data/recordings/";
+const std::string kSamples = CALVIX_SOURCE_DIR "/tests/data/wine-recordings/";
 
 struct Sample
 {
@@ -47,7 +48,7 @@ class RecordingSample : public CliTest
 {
 };
 
-TEST_F(RecordingSample, OfWindowsReplaysEverywhere)
+TEST_F(RecordingSample, MadeUnderWineReplaysEverywhere)
 {
     const std::vector<Sample> samples = Samples();
     EXPECT_GE(samples.size(), 8u);
