@@ -16,6 +16,7 @@
 #include <cwchar>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,11 +38,20 @@ public:
     std::function<void(const WLAN_CONNECTION_PARAMETERS&)> connectRequest;
     /// Sees the reason code as the library hands it in.
     std::function<void(DWORD)> reasonCodeOfSetProfile;
+    /// The version that the service agrees to, whichever it is asked for.
+    std::optional<DWORD> negotiatedVersion;
     /// The error, or 0, of an operation that has handed out its answer all the same.
     std::function<DWORD(std::string_view)> errorBesideAnswer;
 
     /// Puts a text, not longer than the profile's own, in the place of a profile's XML.
     void SetProfileText(const std::wstring& name, const std::wstring& text) { m_profileTexts[name] = text; }
+
+    DWORD WlanOpenHandle(DWORD version, PVOID reserved, DWORD* negotiated, HANDLE* client) override
+    {
+        const DWORD error = InterceptedWlanService::WlanOpenHandle(version, reserved, negotiated, client);
+        *negotiated = negotiatedVersion.value_or(*negotiated);
+        return error;
+    }
 
     DWORD WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list) override
     {

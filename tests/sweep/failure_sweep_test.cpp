@@ -1,5 +1,6 @@
 // Every method, with every one of its platform calls failing in turn.
 
+#include "support/edited_answers.h"
 #include "sweep/bench.h"
 #include "sweep/tolerance.h"
 #include "sweep/worlds.h"
@@ -117,6 +118,31 @@ std::string TestName(const testing::TestParamInfo<MethodCall>& method)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EveryMethod, testing::ValuesIn(sweep::EveryMethod()), TestName);
+
+/// What a method gives where the service agrees to the version before the one that is asked for.
+Outcome CallOfVersionOne(const World& world, const MethodCall& method)
+{
+    wrappers::Interceptor seesNothing;
+    sweep::Bench bench(world.make(), seesNothing);
+    bench.Prepare(method);
+    EditedAnswers answers;
+    answers.service.negotiatedVersion = 1;
+    return bench.Call(method);
+}
+
+TEST(FailureSweep, OneMethodOnlyLooksAtTheNegotiatedVersion)
+{
+    constexpr long long kOtherVersion = 0xFFFFFFFF;
+    for (const World& world : sweep::Worlds())
+        for (const MethodCall& method : sweep::EveryMethod())
+        {
+            SCOPED_TRACE(std::string(world.name) + ": " + method.declaration);
+            Outcome expected = Record(world.make(), method).first;
+            if (method.Name() == "SetIhvSecuritySettings" && expected.code == 0)
+                expected.code = kOtherVersion;
+            EXPECT_EQ(CallOfVersionOne(world, method), expected);
+        }
+}
 
 TEST(FailureSweep, MissesNoMethod)
 {

@@ -124,6 +124,18 @@ TEST_F(TimestampDriftTest, EveryProfileIsNamedAndEveryMatchFollowed)
 }
 
 // Deliberate: 16-bit arithmetic over the time of day, so that a step back or across midnight wraps.
+TEST_F(TimestampDriftTest, LongNamesAreCutToATraceOf128Characters)
+{
+    const std::string name(200, 'n');
+    UseWorld(WorldOf({ProfileFor(name, "Net")}, {Heard("Net", 2412000, -50)}));
+    EXPECT_EQ(-1, Run());
+    const std::vector<std::string> lines = traced();
+    ASSERT_LE(2u, lines.size());
+    EXPECT_EQ(("ProfileName(" + name).substr(0, 127), lines[0]);
+    EXPECT_EQ(("Available Network(" + name).substr(0, 127), lines[1]);
+    EXPECT_TRUE(sharedTraceUntouched());
+}
+
 TEST_F(TimestampDriftTest, OffsetsAreSecondsOfTheDayInSixteenBits)
 {
     const std::string seconds = " sec)";

@@ -111,6 +111,14 @@ TEST(FormatTraceTest, FormatsAllThirtyTwoBitsOfAnErrorNumber)
     EXPECT_STREQ("failed with error: 4294967295", buffer);
 }
 
+/// Taken before any test can have set it.
+const unsigned char kTracingAtTheStart = g_bTraceOn;
+
+TEST(TraceStateTest, AProcessBeginsWithTracingOff)
+{
+    EXPECT_EQ(0, kTracingAtTheStart);
+}
+
 TEST(TraceStateTest, TheSharedBufferHolds256Characters)
 {
     EXPECT_EQ(256u, sizeof g_szTraceBuf);

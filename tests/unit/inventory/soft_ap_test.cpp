@@ -173,6 +173,22 @@ TEST_F(SoftApTest, AnEmptyListEmptiesTheVector)
     EXPECT_THAT(LenientList({}), IsEmpty());
 }
 
+TEST_F(SoftApTest, EmptyingTheVectorKeepsItsRoom)
+{
+    UseWorld(WorldOf({"LC#"}));
+    Names names = kBefore;
+    names.reserve(100);
+    const std::size_t room = names.capacity();
+    EXPECT_EQ(0, manager().GetSoftAPList(&kAdapterA, &names));
+    EXPECT_THAT(names, IsEmpty());
+    EXPECT_EQ(room, names.capacity());
+
+    const LenientPlatform lenient;
+    EXPECT_EQ(0, manager().GetSoftAPList(&kAdapterA, &names));
+    EXPECT_THAT(names, ElementsAre("LC#"));
+    EXPECT_EQ(room, names.capacity());
+}
+
 TEST_F(SoftApTest, TheSsidEndsAtItsFirstZeroByteWhateverItsLength)
 {
     EXPECT_THAT(LenientList({std::string("LC\0#", 4), std::string("LC#\0Net", 7), std::string("\0LC#", 4)}),

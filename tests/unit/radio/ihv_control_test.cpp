@@ -1,7 +1,6 @@
 #include "support/contract_table.h"
-#include "support/forwarding_platform.h"
+#include "support/edited_answers.h"
 #include "unit/inventory/trace_texts.h"
-#include "wrappers/intercepted_wlan_service.h"
 
 #include <cstring>
 
@@ -63,39 +62,6 @@ long long Control(CWirelessManage& manager)
     return static_cast<long long>(code);
 }
 
-/// A service that agrees to another version of the interface than it was asked for.
-class OtherVersion final : public ForwardingPlatform
-{
-public:
-    explicit OtherVersion(DWORD version) : m_service(inner().wlan(), m_point, version) {}
-
-    platform::WlanService& wlan() override { return m_service; }
-
-private:
-    class Service final : public wrappers::InterceptedWlanService
-    {
-    public:
-        Service(platform::WlanService& inner, wrappers::InterceptionPoint& point, DWORD version)
-            : InterceptedWlanService(inner, point), m_version(version)
-        {
-        }
-
-        DWORD WlanOpenHandle(DWORD version, PVOID reserved, DWORD* negotiated, HANDLE* client) override
-        {
-            const DWORD error = InterceptedWlanService::WlanOpenHandle(version, reserved, negotiated, client);
-            *negotiated = m_version;
-            return error;
-        }
-
-    private:
-        DWORD m_version;
-    };
-
-    wrappers::Interceptor m_seesNothing;
-    wrappers::InterceptionPoint m_point{m_seesNothing};
-    Service m_service;
-};
-
 } // namespace
 
 // --- SetIhvSecuritySettings ---
@@ -124,7 +90,8 @@ TEST_F(IhvControlTest, AnotherVersionOfTheServiceIsRefused)
     for (const DWORD version : {DWORD{0}, DWORD{1}, DWORD{3}})
     {
         ForgetClient();
-        const OtherVersion other(version);
+        EditedAnswers edited;
+        edited.service.negotiatedVersion = version;
         EXPECT_EQ(kWrongVersion, manager().SetIhvSecuritySettings());
         EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle")) << "no security call";
         EXPECT_THAT(traced(), IsEmpty());
@@ -163,7 +130,8 @@ TEST_F(IhvControlTest, AHandleThatCannotBeOpenedIsNotAskedForItsVersion)
 {
     ForgetClient();
     FailOn("WlanOpenHandle", 1722);
-    const OtherVersion other(1);
+    EditedAnswers edited;
+    edited.service.negotiatedVersion = 1;
     EXPECT_EQ(1722u, manager().SetIhvSecuritySettings());
 }
 

@@ -173,6 +173,26 @@ TEST_F(RadioSwitchTest, ResetPausesHalfASecondBetweenOffAndOn)
 }
 
 // Deliberate: what becomes of the two switches is only traced.
+TEST_F(RadioSwitchTest, ResetSwitchesOnThroughTheClientHandleAsItThenStands)
+{
+    const HANDLE before = ManagerInternals::Client();
+    HANDLE other = nullptr;
+    DWORD negotiated = 0;
+    ASSERT_EQ(0u, computer().wlan().WlanOpenHandle(2, nullptr, &negotiated, &other));
+    FailWhen(
+        [&](const wrappers::Call& call) -> std::optional<DWORD>
+        {
+            if (call.operation == "Sleep")
+                ManagerInternals::Client() = other;
+            return std::nullopt;
+        });
+    EXPECT_EQ(0, manager().ResetWiFiRadio(&kAdapterA));
+    EXPECT_EQ(2u, callCount("WlanSetInterface"));
+    EXPECT_NE(call("WlanSetInterface", 1)["client"], call("WlanSetInterface", 2)["client"]);
+    EXPECT_EQ(0u, computer().wlan().WlanCloseHandle(other, nullptr));
+    ManagerInternals::Client() = before;
+}
+
 TEST_F(RadioSwitchTest, EveryWayForResetToFail)
 {
     const auto local = TraceBuffer::local;

@@ -124,6 +124,20 @@ TEST_F(LegacyPowerSchemeTest, NothingButTheIdleTimeoutsChanges)
     EXPECT_TRUE(Same(full, Saved()));
 }
 
+// The platform may store a written scheme under another number.
+TEST_F(LegacyPowerSchemeTest, TheSchemeIsActivatedUnderTheNumberThatWritingGaveIt)
+{
+    WatchedComputer watched;
+    watched.watchedPower.numberOnceWritten = kOther;
+    for (const auto change : {Set, Reset})
+    {
+        ClearCalls();
+        EXPECT_EQ(0, change(manager()));
+        EXPECT_EQ(Write(change == Set ? kActive : kOther), call("WritePwrScheme").Line());
+        EXPECT_EQ(Activate(kOther), call("SetActivePwrScheme").Line());
+    }
+}
+
 TEST_F(LegacyPowerSchemeTest, EveryWayForTheSwitchToFail)
 {
     CheckFailures(*this, {

@@ -10,6 +10,7 @@
 #include "wrappers/intercepted_processes.h"
 
 #include <functional>
+#include <optional>
 
 namespace calvix::test
 {
@@ -21,6 +22,8 @@ public:
 
     std::function<void(UINT, const POWER_POLICY&)> written;
     std::function<void(UINT, const POWER_POLICY&)> activated;
+    /// The number that a scheme has once it is written.
+    std::optional<UINT> numberOnceWritten;
     std::function<void(const UCHAR*, DWORD)> named;
     /// Edits what was read.
     std::function<void(POWER_POLICY&)> read;
@@ -42,7 +45,9 @@ public:
     {
         if (written)
             written(*schemeId, *policy);
-        return InterceptedPower::WritePwrScheme(schemeId, name, description, policy);
+        const BOOLEAN done = InterceptedPower::WritePwrScheme(schemeId, name, description, policy);
+        *schemeId = numberOnceWritten.value_or(*schemeId);
+        return done;
     }
 
     BOOLEAN SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY* globalPolicy, POWER_POLICY* policy) override
