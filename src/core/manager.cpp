@@ -11,15 +11,21 @@ using namespace calvix;
 HANDLE CWirelessManage::hClient = nullptr;
 CWirelessManage* CWirelessManage::m_pManage = nullptr;
 
+/// Every byte counts, those between the members, too. They are written here and not before the construction, whose
+/// beginning lets a compiler forget what stood in the room.
 CWirelessManage::CWirelessManage()
-    : m_SavedConnAttr{}, m_SavedConnNotify{}, m_nSavedAutoConnMode(1), m_Text{}, m_bSpare(false),
-      m_pSpare(nullptr), m_SavedPowerPolicy{}, m_szAppPath{}
 {
+    __autoclassinit2(sizeof(*this));
+    m_nSavedAutoConnMode = 1;
 }
 
 CWirelessManage::~CWirelessManage() = default;
 
-CWirelessManage& CWirelessManage::operator=(const CWirelessManage& other) = default;
+CWirelessManage& CWirelessManage::operator=(const CWirelessManage& other)
+{
+    std::memmove(static_cast<void*>(this), &other, sizeof(*this));
+    return *this;
+}
 
 void CWirelessManage::__autoclassinit2(unsigned long long byteCount)
 {

@@ -2,6 +2,8 @@
 
 #include <calvix/wireless_manage.h>
 
+#include <new>
+
 namespace calvix
 {
 
@@ -25,6 +27,9 @@ struct ManagerInternals
     static void*& SparePointer(CWirelessManage& manager) { return manager.m_pSpare; }
     static POWER_POLICY& SavedPowerPolicy(CWirelessManage& manager) { return manager.m_SavedPowerPolicy; }
     static char (&AppPath(CWirelessManage& manager))[512] { return manager.m_szAppPath; }
+
+    /// An object in the caller's room, whatever stood there before. It needs no destruction.
+    static CWirelessManage& MakeIn(void* room) { return *new (room) CWirelessManage(); }
 
     /// Back to the beginning of the process: no instance, no client handle. Calls no platform.
     static void Reset()

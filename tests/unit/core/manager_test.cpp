@@ -117,6 +117,17 @@ TEST_F(ManagerTest, AFreshInstanceIsZeroButForTheSavedMode)
     ExpectInitialMembers(*CWirelessManage::Get());
 }
 
+// The object is compared and copied by hosts as bytes: the places between the members count.
+TEST_F(ManagerTest, AFreshInstanceIsZeroBetweenItsMembersToo)
+{
+    alignas(CWirelessManage) unsigned char room[sizeof(CWirelessManage)];
+    std::memset(room, 0xA5, sizeof room);
+    CWirelessManage& object = ManagerInternals::MakeIn(room);
+    EXPECT_EQ(1, ManagerInternals::SavedAutoConnMode(object));
+    ManagerInternals::SavedAutoConnMode(object) = 0;
+    EXPECT_THAT(BytesOf(object), Each(0));
+}
+
 // --- Delete -----------------------------------------------------------------------------------------------------
 
 TEST_F(ManagerTest, DeleteClosesTheClientAndDestroysTheInstance)
@@ -227,7 +238,9 @@ TEST_F(ManagerTest, AssignmentCopiesEveryMember)
     using Internals = ManagerInternals;
     Fill(*first, 0x5A);
     Internals::Spare(*first) = true;
+    Fill(*second, 0x33);
     EXPECT_EQ(second, &(*second = *first)) << "the object itself is returned";
+    EXPECT_EQ(BytesOf(*first), BytesOf(*second)) << "what lies between the members, too";
     EXPECT_EQ(0x5A5A5A5A, Internals::SavedAutoConnMode(*second));
     EXPECT_EQ(0, std::memcmp(&Internals::SavedConnection(*first), &Internals::SavedConnection(*second),
                              sizeof(WLAN_CONNECTION_ATTRIBUTES)));
