@@ -20,11 +20,11 @@ unsigned char DigitValue(char digit)
     return static_cast<unsigned char>(character - 48);
 }
 
-/// The byte whose low digit stands at `low`; the first character of a text of odd length has no high digit.
-unsigned char ByteEndingAt(const char* text, int low)
+/// The byte whose digits end before `end`; the first character of a text of odd length has no high digit.
+unsigned char ByteBefore(const char* text, int end)
 {
-    const int high = low > 0 ? DigitValue(text[low - 1]) : 0;
-    return static_cast<unsigned char>(16 * high + DigitValue(text[low]));
+    const int high = end > 1 ? DigitValue(text[end - 2]) : 0;
+    return static_cast<unsigned char>(16 * high + DigitValue(text[end - 1]));
 }
 
 /// Fills the capacity with zero digits and terminates it in its last place.
@@ -41,6 +41,8 @@ void FillWithZeroDigits(char* destination, int capacity)
 template <typename ByteAt>
 void WriteDigitsFromEnd(char* destination, int capacity, int count, ByteAt byteAt)
 {
+    if (count <= 0 || capacity <= 0)
+        return;
     const int pairs = (std::min)(count, capacity / 2);
     char* place = destination + capacity;
     for (int index = count - 1; index >= count - pairs; --index)
@@ -64,8 +66,8 @@ unsigned char* CWirelessManage::StringToHex(
     if (text == nullptr)
         return destination;
     int written = 0;
-    for (int low = textLength - 1; low >= 0 && written < destinationLength; low -= 2, ++written)
-        destination[reversed ? written : destinationLength - 1 - written] = ByteEndingAt(text, low);
+    for (int end = textLength; end > 0 && written < destinationLength; end -= 2, ++written)
+        destination[reversed ? written : destinationLength - 1 - written] = ByteBefore(text, end);
     return destination;
 }
 

@@ -1,5 +1,7 @@
 #include "support/library_test.h"
 
+#include <limits>
+
 namespace calvix::test::hex_text_test
 {
 
@@ -118,6 +120,36 @@ TEST_F(HexTextTest, ATextLengthBelowOneGivesZeroBytes)
         EXPECT_EQ(0, room[1]);
         EXPECT_EQ(3, room[2]);
     }
+}
+
+TEST_F(HexTextTest, TheSmallestNumbersAreLengthsBelowOne)
+{
+    constexpr int smallest = std::numeric_limits<int>::min();
+    unsigned char bytes[2] = {1, 2};
+    for (const bool reversed : {kTextOrder, kReversed})
+    {
+        EXPECT_EQ(bytes, manager().StringToHex("AB", smallest, bytes, 1, reversed));
+        EXPECT_EQ(0, bytes[0]);
+        EXPECT_EQ(2, bytes[1]);
+        bytes[0] = 1;
+        EXPECT_EQ(bytes, manager().StringToHex("AB", 2, bytes, smallest, reversed));
+        EXPECT_EQ(1, bytes[0]);
+    }
+    const unsigned char source[] = {0xAB};
+    for (const bool order : {kFromEnd, kFromStart})
+    {
+        char text[] = "####";
+        EXPECT_EQ(text, manager().HexToString(source, smallest, text, 3, order));
+        EXPECT_EQ(std::string("00\0#", 4), std::string(text, 4));
+    }
+    char untouched[] = "####";
+    manager().HexToString(source, 1, untouched, smallest, kFromEnd);
+    unsigned char digits[] = "####";
+    EXPECT_EQ(digits, manager().StringToHexString("A", smallest, digits, 3));
+    EXPECT_EQ(std::string("00\0#", 4), std::string(reinterpret_cast<char*>(digits), 4));
+    manager().StringToHexString("A", 1, digits + 3, smallest);
+    EXPECT_STREQ("####", untouched);
+    EXPECT_EQ('#', digits[3]);
 }
 
 TEST_F(HexTextTest, NoTextGivesZeroBytesAndNoDestinationNothing)
