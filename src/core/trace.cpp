@@ -32,7 +32,7 @@ std::size_t FormatByRuntime(char* buffer, std::size_t capacity, const char* form
 }
 
 /// Formats the whole text. The C runtimes' wide formatters do not cut reliably: where the text does not fit, some report
-/// a failure and some the length it has.
+/// a failure and some the length it has. Nothing, without even a terminator, for a text that cannot be formatted.
 std::vector<wchar_t> FormatWhole(const wchar_t* format, std::va_list values)
 {
     std::vector<wchar_t> text;
@@ -46,7 +46,7 @@ std::vector<wchar_t> FormatWhole(const wchar_t* format, std::va_list values)
         if (length >= 0 && static_cast<std::size_t>(length) < room)
             return text;
     }
-    return {L'\0'};
+    return {};
 }
 
 } // namespace
@@ -88,6 +88,11 @@ std::uint32_t FormatTraceW(wchar_t* buffer, std::size_t capacity, const wchar_t*
     va_start(values, format);
     const std::vector<wchar_t> text = FormatWhole(format, values);
     va_end(values);
+    if (text.empty())
+    {
+        buffer[0] = L'\0';
+        return kFormatTruncated;
+    }
     CopyTruncating(buffer, capacity, text.data());
     return std::wcslen(text.data()) < capacity ? kFormatComplete : kFormatTruncated;
 }

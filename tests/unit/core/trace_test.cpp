@@ -104,6 +104,16 @@ TEST(FormatTraceTest, FormatsWideTextOfAnyLength)
     EXPECT_EQ(L"[\u6771\u6771", std::wstring(room.data()));
 }
 
+// More than a million characters are formatted for nobody.
+TEST(FormatTraceTest, WideTextThatCannotBeFormattedIsReportedAsCut)
+{
+    wchar_t wide[] = L"gone";
+    EXPECT_EQ(kTruncated, FormatTraceW(wide, 5, L"%2000000d", 1));
+    EXPECT_STREQ(L"", wide);
+    char narrow[] = "gone";
+    EXPECT_EQ(kTruncated, FormatTrace(narrow, 5, "%2000000d", 1));
+}
+
 TEST(FormatTraceTest, FormatsAllThirtyTwoBitsOfAnErrorNumber)
 {
     char buffer[64];
