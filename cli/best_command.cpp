@@ -62,10 +62,9 @@ std::vector<ConnectRequest> Rehearse(Host& host, const BestOptions& options)
 }
 
 /// The networks behind the requests, taken out of the list one by one: a profile may stand on several.
-std::vector<Candidate> CandidatesOf(const std::vector<ConnectRequest>& requests,
-                                    const std::vector<WLAN_AVAILABLE_NETWORK>& networks)
+Candidates CandidatesOf(const std::vector<ConnectRequest>& requests, std::vector<WLAN_AVAILABLE_NETWORK>& networks)
 {
-    std::vector<Candidate> candidates;
+    Candidates candidates;
     std::vector<bool> taken(networks.size());
     for (const ConnectRequest& request : requests)
     {
@@ -75,23 +74,20 @@ std::vector<Candidate> CandidatesOf(const std::vector<ConnectRequest>& requests,
                 FixedText(networks[i].strProfileName) != request.profile)
                 continue;
             taken[i] = true;
-            candidates.emplace_back(networks[i]);
+            candidates.push_back(&networks[i]);
             break;
         }
     }
     return candidates;
 }
 
-CandidateFacts DescribeCandidate(const Candidate& candidate, std::size_t order)
+CandidateFacts DescribeCandidate(const WLAN_AVAILABLE_NETWORK& network, std::size_t order)
 {
     CandidateFacts facts;
     facts.order = static_cast<unsigned>(order);
-    facts.profile = Narrow(FixedText(candidate.network->strProfileName));
-    facts.ssid = DescribeSsid(candidate.network->dot11Ssid);
-    facts.quality = candidate.network->wlanSignalQuality;
-    facts.fiveGhz = candidate.bonusEntries;
-    facts.bonus = candidate.score - candidate.network->wlanSignalQuality;
-    facts.score = candidate.score;
+    facts.profile = Narrow(FixedText(network.strProfileName));
+    facts.ssid = DescribeSsid(network.dot11Ssid);
+    facts.quality = network.wlanSignalQuality;
     return facts;
 }
 
@@ -101,16 +97,22 @@ std::vector<CandidateFacts> ScoreCandidates(Host& host, const BestOptions& optio
     const std::vector<ConnectRequest> requests = Rehearse(host, options);
     if (requests.empty())
         return facts;
-    const std::vector<WLAN_AVAILABLE_NETWORK> networks = host.service().Networks(host.adapterGuid());
-    std::vector<Candidate> candidates = CandidatesOf(requests, networks);
+    std::vector<WLAN_AVAILABLE_NETWORK> networks = host.service().Networks(host.adapterGuid());
+    const Candidates candidates = CandidatesOf(requests, networks);
     if (candidates.empty())
         return facts;
+    for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
+        facts.push_back(DescribeCandidate(*candidate, facts.size() + 1));
     // The library takes the bonus from this one network, whichever the candidates are.
     BssList entries;
     host.service().AccessPointsOf(host.adapterGuid(), networks.back(), entries);
     AddBandBonus(candidates, *entries);
-    for (const Candidate& candidate : candidates)
-        facts.push_back(DescribeCandidate(candidate, facts.size() + 1));
+    for (std::size_t i = 0; i < candidates.size(); ++i)
+    {
+        facts[i].fiveGhz = CountBonusEntries(*candidates[i], *entries);
+        facts[i].score = candidates[i]->wlanSignalQuality;
+        facts[i].bonus = facts[i].score - facts[i].quality;
+    }
     return facts;
 }
 

@@ -41,7 +41,7 @@ constexpr CodeRow kGetNetworkBssCount[] = {
     {-2, clientNotOpened}, {-3, enumerationFailed}, {-4, noAdapter}, {-5, bssListFailed}};
 constexpr CodeRow kGetConnectableNetworkCount[] = {
     {-2, clientNotOpened}, {-5, profileListFailed}, {-6, noProfile}, {-7, networkListFailed}, {-8, networkListEmpty}};
-constexpr CodeRow kGetAP[] = {{-1, clientNotOpened}, {-3, networkListFailed}, {-4, ssidNotVisible}};
+constexpr CodeRow kGetAP[] = {{-1, clientNotOpened}, {-3, networkListFailed}, {-4, ssidNotVisible}, {-14, nullInput}};
 constexpr CodeRow kGetNotConnectableReason[] = {
     {-1, clientNotOpened}, {-4, networkListFailed}, {-5, networkListEmpty}, {-6, networkNotListed}, {-14, nullInput}};
 constexpr CodeRow kGetCurrentBSS[] = {{-1, clientNotOpened}, {-2, enumerationFailed}, {-3, noAdapter},
@@ -118,7 +118,7 @@ constexpr CodeRow kListed[] = {
 constexpr CodeRow kNoCandidate[] = {{-9, noCandidate}};
 constexpr CodeRow kNothingMatches[] = {{-9, nothingMatches}};
 constexpr CodeRow kRanked[] = {{-10, bssListFailed}, {-11, bssListEmpty}, {-12, everyRequestRefused}};
-constexpr CodeRow kNullExclusion[] = {{-13, nullInput}, {-14, nullInput}};
+constexpr CodeRow kNullExclusion[] = {{-14, nullInput}};
 constexpr auto kConnectBestAP = Joined(kListed, kNoCandidate, kRanked, kNullExclusion);
 constexpr auto kAutoConnect = Joined(kListed, kNothingMatches);
 constexpr auto kAutoConnectEx = Joined(kListed, kNothingMatches, kRanked);

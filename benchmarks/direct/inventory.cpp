@@ -173,12 +173,12 @@ long HandWritten::GetCurrentBSS()
 
 int HandWritten::GetRssi(const GUID* adapter, int& rssi)
 {
-    DWORD size = sizeof(LONG);
+    DWORD size = sizeof(std::int32_t);
     PVOID data = nullptr;
     if (!Ready() ||
         wlan().WlanQueryInterface(client, adapter, wlan_intf_opcode_rssi, nullptr, &size, &data, nullptr) != 0)
         return -4;
-    rssi = static_cast<int>(*static_cast<LONG*>(data));
+    rssi = *static_cast<std::int32_t*>(data);
     wlan().WlanFreeMemory(data);
     return 0;
 }

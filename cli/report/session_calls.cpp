@@ -98,7 +98,7 @@ void HearAnswer(AnsweredCall& call)
     if (data == nullptr || call.out.Has("bytes"))
         return;
     if (opcode == wlan_intf_opcode_rssi)
-        call.listener.HearSignal(call.adapter, static_cast<int>(*static_cast<const LONG*>(data)));
+        call.listener.HearSignal(call.adapter, *static_cast<const std::int32_t*>(data));
     else
         call.listener.HearConnection(call.adapter, *static_cast<const WLAN_CONNECTION_ATTRIBUTES*>(data));
 }

@@ -31,7 +31,11 @@ struct ManagerInternals; // the library's own tests
 ///   `calvix explain METHOD CODE` says what to do about one. A failure leaves the outputs as they were, where the
 ///   method does not say otherwise.
 /// - Null pointers: a null interface GUID, description or profile name names none. Where a list of codes does not name
-///   null pointers, a null record or container gives -13 when it is an output and -14 when it is an input.
+///   null pointers, a null record or container gives -13 when it is an output and -14 when it is an input, before
+///   anything else is done.
+/// - An answer of the service that is missing, or ends before what the method reads of it, is a failed query. "The
+///   platform's error number" is then 13 or 24, which the platform never gave. A record that is handed on unread is
+///   copied as far as it came.
 /// - A fatal caller error ends the process: what happened and where goes to the debugger and to standard error, then
 ///   the process aborts. The methods name theirs.
 /// - Lists and records of the service are released before a method returns. What a method hands out lies in the
@@ -43,8 +47,9 @@ struct ManagerInternals; // the library's own tests
 ///   It refuses scans and lists of networks in the latter case, too.
 /// - Failures are formatted as trace lines, which reach the debugger (OutputDebugStringA) while tracing is on. Nothing
 ///   in the library switches it on.
-/// - Narrow text is in the active code page. Wide text is terminated. Capacities count the terminator. Names and SSIDs
-///   are compared whole and exactly, upper and lower case included.
+/// - Narrow text is in the active code page. "Narrow text of the C locale", and names in traces, follow the locale that
+///   is current in the call, with '?' for each character that it lacks. Wide text is terminated. Capacities count the
+///   terminator. Names and SSIDs are compared whole and exactly, upper and lower case included.
 /// - Threading: no locks. Callers serialise their calls; every call runs on the caller's thread.
 class CALVIX_API CWirelessManage
 {
@@ -339,8 +344,8 @@ public:
 
     /// Tells whether a network is in view (WlanGetAvailableNetworkList). An empty SSID is never found, although hidden
     /// networks are listed with one.
-    /// @param[in] pSsid the SSID; null is not found
-    /// @return 0 when it is; -1 client handle not opened, -3 network list failed, -4 SSID not found
+    /// @param[in] pSsid the SSID
+    /// @return 0 when it is; -1 client handle not opened, -3 network list failed, -4 SSID not found, -14 null input
     int GetAP(const GUID* pInterfaceGuid, DOT11_SSID* pSsid);
 
     /// Tells why a network cannot be joined (WlanGetAvailableNetworkList), from the first entry that matches. An empty
@@ -727,7 +732,7 @@ public:
     /// Ranks and asks as the form without exclusions does, but leaves out some networks.
     /// @param[in] pExcluded a network is left out when its SSID is the beginning of an entry's SSID: HomeNet5G rules
     /// out HomeNet. Nothing else of the entries is read
-    /// @return as ConnectBestAP; also -13 null input
+    /// @return as ConnectBestAP; also -14 null input
     int ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded);
 
     /// Ranks and asks as the form without exclusions does, but leaves out one profile.
@@ -738,7 +743,7 @@ public:
     /// Ranks and asks as the form without exclusions does, but leaves out some networks and one profile.
     /// @param[in] pExcluded as above
     /// @param[in] excludedName as above
-    /// @return as ConnectBestAP; also -13 null input, -14 null input
+    /// @return as ConnectBestAP; also -14 null input
     int ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded, const wchar_t* excludedName);
 
     // --- Automatic connection -----------------------------------------------------------------------------------

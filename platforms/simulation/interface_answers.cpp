@@ -82,9 +82,10 @@ InterfaceAnswer AnswerChannel(Blocks& blocks, const Adapter& adapter)
     return AnswerNumber(blocks, static_cast<ULONG>(megahertz == 2484 ? 14 : (megahertz - base) / 5));
 }
 
+// The platform's LONG, which has 4 bytes.
 InterfaceAnswer AnswerRssi(Blocks& blocks, const Adapter& adapter)
 {
-    return AnswerNumber(blocks, static_cast<LONG>(adapter.LinkRssi()));
+    return AnswerNumber(blocks, adapter.LinkRssi());
 }
 
 // The record has room for the most PHYs that there can be, and is handed out whole.

@@ -210,7 +210,7 @@ RecordShape QueriedRecord(WLAN_INTF_OPCODE opcode)
     if (name == "interface_state")
         return {"WLAN_INTERFACE_STATE", sizeof(WLAN_INTERFACE_STATE)};
     if (name == "rssi")
-        return {"LONG", sizeof(LONG)};
+        return {"LONG", sizeof(std::int32_t)};
     if (name == "channel_number" || name == "current_operation_mode")
         return {"ULONG", sizeof(ULONG)};
     return SetRecord(opcode);

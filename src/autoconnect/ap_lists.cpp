@@ -18,14 +18,13 @@ constexpr ProfileAndNetworkCodes kApListCodes{
 template <typename Counts, typename Collect>
 int CollectMatches(HANDLE& client, const GUID* interfaceGuid, Trace& trace, Counts counts, Collect collect)
 {
-    ProfileList profiles;
-    NetworkList networks;
-    if (const int code = ListProfilesAndNetworks(client, interfaceGuid, profiles, networks, trace, kApListCodes))
+    ProfilesAndNetworks lists;
+    if (const int code = ListProfilesAndNetworks(client, interfaceGuid, lists, trace, kApListCodes))
         return code;
 
-    NetworksByProfile networksByProfile(*networks);
+    NetworksByProfile networksByProfile(*lists.networks);
     int result = 0;
-    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {

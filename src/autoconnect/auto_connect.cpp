@@ -16,12 +16,11 @@ constexpr ProfileAndNetworkCodes kAutoConnectCodes{
 int CWirelessManage::AutoConnect(const GUID* pInterfaceGuid)
 {
     SharedTrace trace;
-    ProfileList profiles;
-    NetworkList networks;
-    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, profiles, networks, trace, kAutoConnectCodes))
+    ProfilesAndNetworks lists;
+    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kAutoConnectCodes))
         return code;
     // Deliberate: a walk on which every request was refused reports success.
-    return WalkProfiles(hClient, pInterfaceGuid, *profiles, *networks, trace) == WalkEnd::noMatch ? -9 : 0;
+    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, *lists.networks, trace) == WalkEnd::noMatch ? -9 : 0;
 }
 
 int CWirelessManage::AutoConnectEx(const GUID* pInterfaceGuid)

@@ -19,52 +19,50 @@ int CWirelessManage::AutoSwitch(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
     ConnectionAttributes connection;
-    ProfileList profiles;
-    NetworkList networks;
+    ProfilesAndNetworks lists;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToProfileName, trace) != 0)
         return -3;
-    if (ListProfiles(hClient, pInterfaceGuid, profiles, trace) != 0)
+    if (ListProfiles(hClient, pInterfaceGuid, lists.profiles, trace) != 0)
         return -4;
-    if (profiles->dwNumberOfItems > 1)
+    if (lists.profiles->dwNumberOfItems > 1)
     {
-        const DWORD last = profiles->dwNumberOfItems - 1;
+        const DWORD last = lists.profiles->dwNumberOfItems - 1;
         if (trace.Failed(wlan().WlanSetProfilePosition(hClient, pInterfaceGuid,
                                                        TerminatedName(connection->strProfileName), last, nullptr),
                          "WlanSetProfilePosition failed with error: %u"))
             return -5;
     }
-    if (ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace) != 0)
+    if (ListAvailableNetworks(hClient, pInterfaceGuid, lists.networks, trace) != 0)
         return -6;
     // Deliberate: the walk follows the order from before the move, and a refused-only walk reports success.
-    return WalkProfiles(hClient, pInterfaceGuid, *profiles, *networks, trace) == WalkEnd::noMatch ? -7 : 0;
+    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, *lists.networks, trace) == WalkEnd::noMatch ? -7 : 0;
 }
 
 int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
     ConnectionAttributes connection;
-    ProfileList profiles;
-    NetworkList networks;
+    ProfilesAndNetworks lists;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (const ErrorNumber error = QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace))
+    if (const ErrorNumber error = QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToAssociation, trace))
         return static_cast<int>(error);
     const WLAN_ASSOCIATION_ATTRIBUTES& current = connection->wlanAssociationAttributes;
     wchar_t currentSsid[kSsidTextCapacity];
     if (!SsidAsProfileName(current.dot11Ssid, kLongestSwitchedSsid, currentSsid))
     {
         const DWORD error = platform::errors().GetLastError();
-        trace.Failed(error, "Profile Name error: %u");
+        trace.Line("Profile Name error: %u", static_cast<unsigned>(error));
         return static_cast<int>(error);
     }
-    if (const ErrorNumber error = ListProfiles(hClient, pInterfaceGuid, profiles, trace))
+    if (const ErrorNumber error = ListProfiles(hClient, pInterfaceGuid, lists.profiles, trace))
         return static_cast<int>(error);
-    if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace))
+    if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, lists.networks, trace))
         return static_cast<int>(error);
-    NetworksByProfile networksByProfile(*networks);
-    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    NetworksByProfile networksByProfile(*lists.networks);
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {

@@ -46,9 +46,7 @@ int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid,
                                    std::vector<WLAN_BSS_ENTRY>* pExcluded,
                                    const wchar_t* excludedName)
 {
-    if (pExcluded == nullptr)
-        return -13;
-    if (excludedName == nullptr)
+    if (pExcluded == nullptr || excludedName == nullptr)
         return -14;
     return ConnectBest(*this, hClient, pInterfaceGuid, *pExcluded, excludedName);
 }
@@ -56,7 +54,7 @@ int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid,
 int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded)
 {
     if (pExcluded == nullptr)
-        return -13;
+        return -14;
     return ConnectBest(*this, hClient, pInterfaceGuid, *pExcluded, nullptr);
 }
 

@@ -27,21 +27,20 @@ bool IsTarget(const WLAN_AVAILABLE_NETWORK& network, std::wstring_view profileNa
 int CWirelessManage::ConnectAutoMode(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
-    ProfileList profiles;
-    NetworkList networks;
+    ProfilesAndNetworks lists;
     if (const int code = ListProfilesAndNetworks(
-            hClient, pInterfaceGuid, profiles, networks, trace,
+            hClient, pInterfaceGuid, lists, trace,
             {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
         return code;
     // Deliberate: a walk on which every request was refused reports success.
     WalkEnd end = WalkEnd::noMatch;
-    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         wchar_t xml[1024];
         if (GetProfile(pInterfaceGuid, TerminatedName(profile.strProfileName), xml, 1024) != 0 ||
             IsAutoConnMode(xml) == 0)
             continue;
-        for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
+        for (const WLAN_AVAILABLE_NETWORK& network : Items(*lists.networks))
         {
             if (!IsTarget(network, FixedText(profile.strProfileName)))
                 continue;

@@ -2,15 +2,13 @@
 
 #include "autoconnect/connection_walk.h"
 
-#include <span>
-
 namespace calvix
 {
 
 int ConnectCandidates(HANDLE client,
                       const GUID* interfaceGuid,
                       const WLAN_AVAILABLE_NETWORK_LIST& networks,
-                      std::vector<Candidate>& candidates,
+                      Candidates& candidates,
                       Trace& trace)
 {
     if (candidates.empty())
@@ -24,14 +22,12 @@ int ConnectCandidates(HANDLE client,
         return -11;
 
     AddBandBonus(candidates, *entries);
-    // Deliberate: from the weakest upward. The service accepts a request without waiting for the connection, so the
-    // first accepted one stands, which mostly is the first: the others are sorted only where it is not.
-    if (RequestNetwork(client, interfaceGuid, *LowestScored(candidates).network, trace) == 0)
-        return 0;
     SortByScore(candidates);
-    for (const Candidate& candidate : std::span(candidates).subspan(1))
+    // Deliberate: from the weakest upward. The service accepts a request without waiting for the connection, so the
+    // first accepted one stands, which mostly is the first.
+    for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
     {
-        if (RequestNetwork(client, interfaceGuid, *candidate.network, trace) == 0)
+        if (RequestNetwork(client, interfaceGuid, *candidate, trace) == 0)
             return 0;
     }
     return -12;

@@ -12,7 +12,7 @@ namespace calvix
 int ConnectCandidates(HANDLE client,
                       const GUID* interfaceGuid,
                       const WLAN_AVAILABLE_NETWORK_LIST& networks,
-                      std::vector<Candidate>& candidates,
+                      Candidates& candidates,
                       Trace& trace);
 
 /// The same from the start: opens the client handle (-1), lists profiles (-4, none -5) and networks (-6, none -7), and
@@ -21,26 +21,25 @@ int ConnectCandidates(HANDLE client,
 template <typename UsesProfile, typename Accepts>
 int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesProfile usesProfile, Accepts accepts)
 {
-    ProfileList profiles;
-    NetworkList networks;
+    ProfilesAndNetworks lists;
     if (const int code = ListProfilesAndNetworks(
-            client, interfaceGuid, profiles, networks, trace,
+            client, interfaceGuid, lists, trace,
             {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
         return code;
 
-    NetworksByProfile networksByProfile(*networks);
-    std::vector<Candidate> candidates;
-    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    NetworksByProfile networksByProfile(*lists.networks);
+    Candidates candidates;
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         if (!usesProfile(profile))
             continue;
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {
             if (accepts(*network))
-                candidates.emplace_back(*network);
+                candidates.push_back(lists.networks->Network + (network - lists.networks->Network));
         }
     }
-    return ConnectCandidates(client, interfaceGuid, *networks, candidates, trace);
+    return ConnectCandidates(client, interfaceGuid, *lists.networks, candidates, trace);
 }
 
 } // namespace calvix

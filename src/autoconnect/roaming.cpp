@@ -21,7 +21,7 @@ int DecideMove(
 {
     if (OpenClient(client, trace) != 0)
         return -1;
-    if (QueryCurrentConnection(client, interfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(client, interfaceGuid, connection, kUpToSecurityFlag, trace) != 0)
         return -4;
     const WLAN_ASSOCIATION_ATTRIBUTES& association = connection->wlanAssociationAttributes;
     if (association.wlanSignalQuality > kGoodEnough)
@@ -45,6 +45,7 @@ int DecideMove(
 int CWirelessManage::PreRoaming(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
+    // Released in the reverse of this order.
     BssList entries;
     ConnectionAttributes connection;
     return DecideMove(hClient, pInterfaceGuid, connection, entries, trace);
@@ -53,6 +54,7 @@ int CWirelessManage::PreRoaming(const GUID* pInterfaceGuid)
 int CWirelessManage::Roaming(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
+    // Released in the reverse of this order.
     BssList entries;
     ConnectionAttributes connection;
     if (const int code = DecideMove(hClient, pInterfaceGuid, connection, entries, trace))

@@ -1,7 +1,9 @@
 #include <calvix/wireless_manage.h>
 
 #include "autoconnect/connection_walk.h"
+#include "core/bounded_copy.h"
 #include "core/fixed_text.h"
+#include "core/narrow_text.h"
 #include "core/service_steps.h"
 
 using namespace calvix;
@@ -10,8 +12,7 @@ int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
 {
     LocalTrace<128> trace;
     InterfaceList interfaces;
-    ProfileList profiles;
-    NetworkList networks;
+    ProfilesAndNetworks lists;
     if (OpenClient(hClient, trace) != 0)
         return -1;
     if (const ErrorNumber error = EnumerateInterfaces(hClient, interfaces, trace))
@@ -23,21 +24,18 @@ int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
         return 0;
     }
     const GUID* const first = &interfaces->InterfaceInfo[0].InterfaceGuid;
-    if (const ErrorNumber error = ListProfiles(hClient, first, profiles, trace))
+    if (const ErrorNumber error = ListProfiles(hClient, first, lists.profiles, trace))
         return static_cast<int>(error);
-    if (const ErrorNumber error = ListAvailableNetworks(hClient, first, networks, trace))
+    if (const ErrorNumber error = ListAvailableNetworks(hClient, first, lists.networks, trace))
         return static_cast<int>(error);
-    NetworksByProfile networksByProfile(*networks);
-    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    NetworksByProfile networksByProfile(*lists.networks);
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {
             const ErrorNumber error = RequestNetwork(hClient, first, *network, trace);
             if (error == 0 && profileName != nullptr)
-            {
-                const TerminatedName name(network->strProfileName);
-                FormatTrace(profileName, 128, "%ls", static_cast<const wchar_t*>(name));
-            }
+                CopyTruncating(profileName, 128, NarrowInLocale(FixedText(network->strProfileName)).c_str());
             return static_cast<int>(error);
         }
     }

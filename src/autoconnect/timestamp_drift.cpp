@@ -1,6 +1,7 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/narrow_name.h"
+#include "core/fixed_text.h"
+#include "core/narrow_text.h"
 #include "core/profile_network_match.h"
 #include "core/service_steps.h"
 
@@ -100,17 +101,16 @@ void TraceDrift(
 int CWirelessManage::GetMatchBSSID(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
-    ProfileList profiles;
-    NetworkList networks;
-    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, profiles, networks, trace, kDriftCodes))
+    ProfilesAndNetworks lists;
+    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kDriftCodes))
         return code;
 
     // Deliberate: -1 even when all went well; the result is informational, what counts is the trace.
     int result = -1;
-    NetworksByProfile networksByProfile(*networks);
-    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    NetworksByProfile networksByProfile(*lists.networks);
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
-        const std::string name = NarrowName(profile.strProfileName);
+        const std::string name = NarrowInLocale(FixedText(profile.strProfileName));
         trace.Line("ProfileName(%s)", name.c_str());
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {

@@ -115,7 +115,7 @@ int CWirelessManage::ResetConnection(const GUID* pInterfaceGuid)
     ConnectionAttributes connection;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToAssociation, trace) != 0)
         return -4;
     if (RequestConnection(hClient, pInterfaceGuid, TerminatedName(connection->strProfileName),
                           connection->wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)

@@ -19,7 +19,7 @@ int CWirelessManage::GetCurrentConnection(const GUID* pInterfaceGuid, WLAN_CONNE
     DWORD size = 0;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, size, trace) != 0)
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kNothing, size, trace) != 0)
         return -4;
     StrictCopy(pAttributes, sizeof(*pAttributes), connection.get(), size, "GetCurrentConnection");
     return 0;
@@ -41,7 +41,8 @@ int CWirelessManage::GetCurrentSSID(char* ssid, int capacity)
     ConnectionAttributes connection;
     if (const int code = ListInterfaces(hClient, interfaces, trace, kFirstInterface))
         return code;
-    if (QueryCurrentConnection(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, connection, kUpToAssociation,
+                               trace) != 0)
         return -4;
     GetSSID(&connection->wlanAssociationAttributes.dot11Ssid, ssid, capacity);
     return 0;
@@ -55,7 +56,8 @@ int CWirelessManage::GetCurrentSSID(char* ssid, int capacity, WLAN_CONNECTION_AT
     DWORD size = 0;
     if (const int code = ListInterfaces(hClient, interfaces, trace, kFirstInterface))
         return code;
-    if (QueryCurrentConnection(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, connection, size, trace) != 0)
+    if (QueryCurrentConnection(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, connection, kUpToAssociation, size,
+                               trace) != 0)
         return -4;
     GetSSID(&connection->wlanAssociationAttributes.dot11Ssid, ssid, capacity);
     StrictCopy(pAttributes, sizeof(*pAttributes), connection.get(), size, "GetCurrentSSID");
@@ -70,7 +72,7 @@ int CWirelessManage::GetCurrentLinkInfo(
     // Deliberate: the platform's own error numbers, where the other queries give -1 and -4.
     if (const ErrorNumber error = OpenClient(hClient, trace))
         return static_cast<int>(error);
-    if (const ErrorNumber error = QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace))
+    if (const ErrorNumber error = QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToAssociation, trace))
         return static_cast<int>(error);
     const WLAN_ASSOCIATION_ATTRIBUTES& association = connection->wlanAssociationAttributes;
     if (state != nullptr)

@@ -9,6 +9,7 @@ using platform::wlan;
 int CWirelessManage::SetCurrentWiFiToLast()
 {
     LocalTrace<128> trace;
+    // Released in the reverse of this order.
     InterfaceList interfaces;
     ProfileList profiles;
     ConnectionAttributes connection;
@@ -24,7 +25,7 @@ int CWirelessManage::SetCurrentWiFiToLast()
     const GUID* const first = &interfaces->InterfaceInfo[0].InterfaceGuid;
     if (const ErrorNumber error = ListProfiles(hClient, first, profiles, trace))
         return static_cast<int>(error);
-    if (const ErrorNumber error = QueryCurrentConnection(hClient, first, connection, trace))
+    if (const ErrorNumber error = QueryCurrentConnection(hClient, first, connection, kUpToProfileName, trace))
         return static_cast<int>(error);
     if (profiles->dwNumberOfItems < 2)
         return 0;

@@ -11,12 +11,13 @@ using namespace calvix;
 int CWirelessManage::SaveCurrentConnectionAttributes(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
-    ConnectionAttributes connection;
+    // Released in the reverse of this order.
     ProfileText profile;
+    ConnectionAttributes connection;
     DWORD size = 0;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, size, trace) != 0)
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToProfileName, size, trace) != 0)
         return -4;
     StrictCopy(&m_SavedConnAttr, sizeof(m_SavedConnAttr), connection.get(), size, "SaveCurrentConnectionAttributes");
     // Deliberate: from here on the record is the new one, while the mode keeps its former value when the profile cannot

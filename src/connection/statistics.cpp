@@ -15,8 +15,8 @@ int CWirelessManage::GetWlanStatistics(const GUID* pInterfaceGuid, _WIFI_TXRX_CO
     DWORD size = 0;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_statistics, statistics, size, trace,
-                       offsetof(WLAN_STATISTICS, MacMcastCounters)) != 0)
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_statistics, statistics,
+                       offsetof(WLAN_STATISTICS, MacMcastCounters), size, trace) != 0)
         return -4;
     // Deliberate: the two spare counters keep what the caller put in.
     pCount->ullTransmitted = statistics->MacUcastCounters.ullTransmittedFrameCount;

@@ -85,23 +85,22 @@ ErrorNumber ListProfiles(HANDLE client, const GUID* interfaceGuid, ProfileList& 
 
 int ListProfilesAndNetworks(HANDLE& client,
                             const GUID* interfaceGuid,
-                            ProfileList& profiles,
-                            NetworkList& networks,
+                            ProfilesAndNetworks& lists,
                             Trace& trace,
                             const ProfileAndNetworkCodes& codes)
 {
     if (OpenClient(client, trace) != 0)
         return codes.notOpened;
-    if (ListProfiles(client, interfaceGuid, profiles, trace) != 0)
+    if (ListProfiles(client, interfaceGuid, lists.profiles, trace) != 0)
         return codes.profilesFailed;
-    if (profiles->dwNumberOfItems == 0)
+    if (lists.profiles->dwNumberOfItems == 0)
     {
         trace.Line(codes.noProfileText, codes.noProfile);
         return codes.noProfile;
     }
-    if (ListAvailableNetworks(client, interfaceGuid, networks, trace) != 0)
+    if (ListAvailableNetworks(client, interfaceGuid, lists.networks, trace) != 0)
         return codes.networksFailed;
-    if (networks->dwNumberOfItems == 0)
+    if (lists.networks->dwNumberOfItems == 0)
     {
         trace.Line(codes.noNetworkText, codes.noNetwork);
         return codes.noNetwork;

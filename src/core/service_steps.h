@@ -4,6 +4,8 @@
 #include "core/wlan_memory.h"
 #include "platform/records/error_numbers.h"
 
+#include <cstddef>
+
 namespace calvix
 {
 
@@ -13,10 +15,15 @@ inline constexpr DWORD kClientVersion = 2;
 /// Steps that most methods share. Each traces its own failure through the method's trace and returns the platform's
 /// error number, 0 for success, unless said otherwise.
 
-/// What an operation has to be taken for: one that succeeded and handed out nothing has failed.
-inline DWORD ErrorOf(DWORD error, const void* handedOut)
+/// What an operation has to be taken for: one that succeeded and handed out nothing, or a record that ends before what
+/// is read of it, has failed.
+inline DWORD ErrorOf(DWORD error, const void* handedOut, std::size_t size = 0, std::size_t needed = 0)
 {
-    return error == 0 && handedOut == nullptr ? ERROR_INVALID_DATA : error;
+    if (error != 0)
+        return error;
+    if (handedOut == nullptr)
+        return ERROR_INVALID_DATA;
+    return size < needed ? ERROR_BAD_LENGTH : 0;
 }
 
 /// Opens a client handle.
@@ -45,41 +52,48 @@ struct InterfaceListCodes
 /// otherwise it returns the method's code. A null `noneText` keeps the empty list out of the trace.
 int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const InterfaceListCodes& codes);
 
-/// Queries an interface for a record; `size` receives the bytes that the service returned. An answer of fewer than
-/// `needed` bytes is a failed query.
+/// Queries an interface for a record, of which the method reads `needed` bytes; `size` receives the bytes that the
+/// service returned.
 template <typename Record>
 ErrorNumber QueryInterface(HANDLE client,
                            const GUID* interfaceGuid,
                            WLAN_INTF_OPCODE opcode,
                            WlanMemory<Record>& record,
+                           std::size_t needed,
                            DWORD& size,
-                           Trace& trace,
-                           std::size_t needed = 0)
+                           Trace& trace)
 {
     size = sizeof(Record);
     PVOID data = nullptr;
     DWORD error = platform::wlan().WlanQueryInterface(client, interfaceGuid, opcode, nullptr, &size, &data, nullptr);
     record.Take(data);
-    error = ErrorOf(error, data);
-    if (error == 0 && size < needed)
-        error = ERROR_BAD_LENGTH;
+    error = ErrorOf(error, data, size, needed);
     trace.Failed(error, "WlanQueryInterface failed with error: %u");
     return static_cast<ErrorNumber>(error);
 }
 
-/// Attributes of the current connection; fails when there is none. The returned size is not judged: the methods that
-/// hand the record on copy so many bytes, whatever that leaves out.
-inline ErrorNumber QueryCurrentConnection(
-    HANDLE client, const GUID* interfaceGuid, ConnectionAttributes& attributes, DWORD& size, Trace& trace)
+/// How far methods read into the record of a connection. Who only hands it on reads nothing: copied is what came.
+inline constexpr std::size_t kNothing = 0;
+inline constexpr std::size_t kUpToProfileName = offsetof(WLAN_CONNECTION_ATTRIBUTES, wlanAssociationAttributes);
+inline constexpr std::size_t kUpToAssociation = offsetof(WLAN_CONNECTION_ATTRIBUTES, wlanSecurityAttributes);
+inline constexpr std::size_t kUpToSecurityFlag = kUpToAssociation + sizeof(BOOL);
+
+/// Attributes of the current connection; fails when there is none.
+inline ErrorNumber QueryCurrentConnection(HANDLE client,
+                                          const GUID* interfaceGuid,
+                                          ConnectionAttributes& attributes,
+                                          std::size_t needed,
+                                          DWORD& size,
+                                          Trace& trace)
 {
-    return QueryInterface(client, interfaceGuid, wlan_intf_opcode_current_connection, attributes, size, trace);
+    return QueryInterface(client, interfaceGuid, wlan_intf_opcode_current_connection, attributes, needed, size, trace);
 }
 
-inline ErrorNumber
-QueryCurrentConnection(HANDLE client, const GUID* interfaceGuid, ConnectionAttributes& attributes, Trace& trace)
+inline ErrorNumber QueryCurrentConnection(
+    HANDLE client, const GUID* interfaceGuid, ConnectionAttributes& attributes, std::size_t needed, Trace& trace)
 {
     DWORD size = 0;
-    return QueryCurrentConnection(client, interfaceGuid, attributes, size, trace);
+    return QueryCurrentConnection(client, interfaceGuid, attributes, needed, size, trace);
 }
 
 /// BSS entries of the network that `connection` belongs to.
@@ -102,6 +116,13 @@ ErrorNumber ListAvailableNetworks(HANDLE client, const GUID* interfaceGuid, Netw
 /// Stored profiles in preference order.
 ErrorNumber ListProfiles(HANDLE client, const GUID* interfaceGuid, ProfileList& list, Trace& trace);
 
+/// What most automatic methods work on. The last declared is released first: the profiles, then the networks.
+struct ProfilesAndNetworks
+{
+    NetworkList networks;
+    ProfileList profiles;
+};
+
 /// A method's codes for the ways in which it can be left without profiles to match with networks.
 struct ProfileAndNetworkCodes
 {
@@ -119,8 +140,7 @@ struct ProfileAndNetworkCodes
 /// number.
 int ListProfilesAndNetworks(HANDLE& client,
                             const GUID* interfaceGuid,
-                            ProfileList& profiles,
-                            NetworkList& networks,
+                            ProfilesAndNetworks& lists,
                             Trace& trace,
                             const ProfileAndNetworkCodes& codes);
 

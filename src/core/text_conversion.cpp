@@ -1,13 +1,35 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/narrow_text.h"
 #include "core/strict_copy.h"
 #include "platform/platform.h"
 
+#include <climits>
 #include <cstring>
+#include <cwchar>
 #include <string>
 
 using namespace calvix;
 using platform::text;
+
+std::string calvix::NarrowInLocale(std::wstring_view wide)
+{
+    std::string narrow;
+    std::mbstate_t state{};
+    for (const wchar_t character : wide)
+    {
+        char bytes[MB_LEN_MAX];
+        const std::size_t length = std::wcrtomb(bytes, character, &state);
+        if (length != static_cast<std::size_t>(-1))
+        {
+            narrow.append(bytes, length);
+            continue;
+        }
+        narrow += '?';
+        state = {};
+    }
+    return narrow;
+}
 
 bool CWirelessManage::UnicodeToAnsi(const wchar_t* source, char* destination)
 {

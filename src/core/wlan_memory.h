@@ -5,8 +5,8 @@
 namespace calvix
 {
 
-/// Owner of a block that the WLAN service handed out. Released with WlanFreeMemory at the end of its scope; with a
-/// release text, that text is emitted just before.
+/// Owner of a block that the WLAN service handed out. Released with WlanFreeMemory at the end of its scope, the last
+/// declared first; with a release text, that text is emitted just before.
 template <typename Record>
 class WlanMemory
 {

@@ -14,12 +14,13 @@ constexpr const char* kNoBssText = "WlanGetNetworkBssList failed with error: %u"
 int CWirelessManage::IsWiFiDisappear(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
+    // Released in the reverse of this order.
     BssList entries("WlanFreeMemory(pBssList)");
     ConnectionAttributes connection("WlanFreeMemory(pConnectInfo)");
     // Deliberate: a failure answers like a network that is still in view.
     if (OpenClient(hClient, trace) != 0)
         return 0;
-    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToSecurityFlag, trace) != 0)
         return 0;
     if (ListConnectionBss(hClient, pInterfaceGuid, *connection, entries, trace) != 0)
         return 0;
@@ -32,6 +33,7 @@ int CWirelessManage::IsWiFiDisappear(const GUID* pInterfaceGuid)
 long CWirelessManage::GetCurrentBSS()
 {
     LocalTrace<128> trace;
+    // Released in the reverse of this order.
     InterfaceList interfaces("WlanFreeMemory(pIfList)");
     BssList entries("WlanFreeMemory(pBssList)");
     ConnectionAttributes connection("WlanFreeMemory(pConnectInfo)");
@@ -39,7 +41,7 @@ long CWirelessManage::GetCurrentBSS()
                                         {.notOpened = -1, .enumerationFailed = -2, .none = -3, .noneText = nullptr}))
         return code;
     const GUID* const first = &interfaces->InterfaceInfo[0].InterfaceGuid;
-    if (QueryCurrentConnection(hClient, first, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, first, connection, kUpToSecurityFlag, trace) != 0)
         return -4;
     if (ListConnectionBss(hClient, first, *connection, entries, trace) != 0)
         return -5;

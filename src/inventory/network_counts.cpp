@@ -32,16 +32,15 @@ int CWirelessManage::GetNetworkBssCount()
 int CWirelessManage::GetConnectableNetworkCount(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
-    ProfileList profiles;
-    NetworkList networks;
+    ProfilesAndNetworks lists;
     if (const int code = ListProfilesAndNetworks(
-            hClient, pInterfaceGuid, profiles, networks, trace,
+            hClient, pInterfaceGuid, lists, trace,
             {.notOpened = -2, .profilesFailed = -5, .noProfile = -6, .networksFailed = -7, .noNetwork = -8}))
         return code;
 
-    NetworksByProfile networksByProfile(*networks);
+    NetworksByProfile networksByProfile(*lists.networks);
     int pairs = 0;
-    for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
         for ([[maybe_unused]] const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
             ++pairs;
     return pairs;

@@ -4,10 +4,14 @@
 #include "core/ssid.h"
 #include "core/wlan_lists.h"
 
+#include <cstdint>
+
 using namespace calvix;
 
 int CWirelessManage::GetAP(const GUID* pInterfaceGuid, DOT11_SSID* pSsid)
 {
+    if (pSsid == nullptr)
+        return -14;
     LocalTrace<128> trace;
     NetworkList networks("WlanFreeMemory(pAvailableList)");
     if (OpenClient(hClient, trace) != 0)
@@ -15,7 +19,7 @@ int CWirelessManage::GetAP(const GUID* pInterfaceGuid, DOT11_SSID* pSsid)
     if (ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace) != 0)
         return -3;
     // Deliberate: an empty SSID is never found, although hidden networks are listed with one.
-    if (pSsid == nullptr || pSsid->uSSIDLength == 0)
+    if (pSsid->uSSIDLength == 0)
         return -4;
     for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
     {
@@ -40,7 +44,7 @@ long CWirelessManage::GetNotConnectableReason(
         return -5;
     for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
     {
-        if (network.dot11BssType != static_cast<DOT11_BSS_TYPE>(dwBssType))
+        if (static_cast<std::uint32_t>(network.dot11BssType) != dwBssType)
             continue;
         if (!SameSsid(network.dot11Ssid, *pSsid))
             continue;

@@ -7,6 +7,7 @@
 #include "inventory/signal_scale.h"
 
 #include <algorithm>
+#include <cstdint>
 
 using namespace calvix;
 
@@ -23,24 +24,25 @@ int CWirelessManage::GetSignalStrength(int rssi)
 int CWirelessManage::GetRssi(const GUID* pInterfaceGuid, int& rssi)
 {
     LocalTrace<128> trace;
-    WlanMemory<LONG> value("WlanFreeMemory(pRssi)");
+    WlanMemory<std::int32_t> value("WlanFreeMemory(pRssi)");
     if (OpenClient(hClient, trace) != 0)
         return -1;
     DWORD size = 0;
-    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_rssi, value, size, trace, sizeof(LONG)) != 0)
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_rssi, value, sizeof(*value), size, trace) != 0)
         return -4;
-    rssi = static_cast<int>(*value);
+    rssi = *value;
     return 0;
 }
 
 int CWirelessManage::GetCurrentRSSI(const GUID* pInterfaceGuid, int& rssi)
 {
     LocalTrace<128> trace;
+    // Released in the reverse of this order.
     BssList entries("WlanFreeMemory(pBssList)");
     ConnectionAttributes connection("WlanFreeMemory(pConnectInfo)");
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToSecurityFlag, trace) != 0)
         return -4;
     if (ListConnectionBss(hClient, pInterfaceGuid, *connection, entries, trace) != 0)
         return -5;
@@ -84,7 +86,7 @@ int CWirelessManage::GetSignalQuality(const GUID* pInterfaceGuid)
     ConnectionAttributes connection;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToAssociation, trace) != 0)
         return -4;
     return static_cast<int>(connection->wlanAssociationAttributes.wlanSignalQuality);
 }

@@ -56,7 +56,8 @@ bool CWirelessManage::SpecialSoftAP()
     ConnectionAttributes connection;
     if (ListInterfaces(hClient, interfaces, trace, {.notOpened = -1, .enumerationFailed = -1, .none = -1}) != 0)
         return false;
-    if (QueryCurrentConnection(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, connection, trace) != 0)
+    if (QueryCurrentConnection(hClient, &interfaces->InterfaceInfo[0].InterfaceGuid, connection, kUpToProfileName,
+                               trace) != 0)
         return false;
     return FixedText(connection->strProfileName).find(L"LC#") != std::wstring_view::npos;
 }

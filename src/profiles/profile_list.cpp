@@ -1,7 +1,6 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/fixed_text.h"
-#include "core/plain_ascii.h"
 #include "core/service_steps.h"
 #include "core/strict_copy.h"
 #include "core/wlan_lists.h"
@@ -28,11 +27,6 @@ void WidenTruncating(const char* narrow, wchar_t (&wide)[Capacity])
     const std::size_t size = std::strlen(narrow);
     for (std::size_t read = 0; read < size && length + 1 < Capacity; ++length)
     {
-        if (IsPlainAscii(narrow[read]) && std::mbsinit(&state) != 0)
-        {
-            wide[length] = static_cast<wchar_t>(narrow[read++]);
-            continue;
-        }
         std::size_t used = std::mbrtowc(&wide[length], narrow + read, size - read, &state);
         if (used == 0 || used > size - read)
         {

@@ -64,7 +64,7 @@ int CWirelessManage::GetPowerSetting(unsigned long& level)
     DWORD error = wlan().WlanQueryAutoConfigParameter(hClient, wlan_autoconf_opcode_power_setting, nullptr, &size,
                                                       &data, nullptr);
     setting.Take(data);
-    error = ErrorOf(error, data);
+    error = ErrorOf(error, data, size, sizeof(*setting));
     // Deliberate: a failed query shows only in the trace and in the level left alone.
     if (!trace.Failed(error, "WlanQueryAutoConfigParameter failed! err is %u"))
         level = *setting;

@@ -32,8 +32,8 @@ long ReadFirstPhy(HANDLE& client, const GUID* interfaceGuid, FirstPhy& phy, Trac
     if (OpenClient(client, trace) != 0)
         return kNotOpened;
     DWORD size = 0;
-    if (QueryInterface(client, interfaceGuid, wlan_intf_opcode_radio_state, radio, size, trace,
-                       offsetof(WLAN_RADIO_STATE, PhyRadioState)) != 0)
+    if (QueryInterface(client, interfaceGuid, wlan_intf_opcode_radio_state, radio,
+                       offsetof(WLAN_RADIO_STATE, PhyRadioState), size, trace) != 0)
         return kQueryFailed;
     constexpr std::size_t sizeWithPhy = offsetof(WLAN_RADIO_STATE, PhyRadioState) + sizeof(WLAN_PHY_RADIO_STATE);
     if (radio->dwNumberOfPhys == 0 || size < sizeWithPhy)
@@ -109,8 +109,8 @@ int CWirelessManage::SupportedSafeMode(const GUID* pInterfaceGuid)
     if (OpenClient(hClient, trace) != 0)
         return -2;
     DWORD size = 0;
-    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_supported_safe_mode, supported, size, trace,
-                       sizeof(BOOL)) != 0)
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_supported_safe_mode, supported, sizeof(BOOL), size,
+                       trace) != 0)
         return -5;
     return *supported;
 }

@@ -280,12 +280,12 @@ TEST_F(Connected, StaysWhenTheAccessPointIsHeardAgain)
 
 TEST_F(Connected, SignalStrengthIsHeardAllTheTime)
 {
-    EXPECT_EQ(Query<LONG>(wlan_intf_opcode_rssi), -70);
+    EXPECT_EQ(Query<std::int32_t>(wlan_intf_opcode_rssi), -70);
     computer->air()[1].rssi = -55;
-    EXPECT_EQ(Query<LONG>(wlan_intf_opcode_rssi), -55);
+    EXPECT_EQ(Query<std::int32_t>(wlan_intf_opcode_rssi), -55);
     EXPECT_EQ(Connection().value().wlanAssociationAttributes.wlanSignalQuality, 90u);
     computer->air().clear();
-    EXPECT_EQ(Query<LONG>(wlan_intf_opcode_rssi), -70) << "as when it was heard last";
+    EXPECT_EQ(Query<std::int32_t>(wlan_intf_opcode_rssi), -70) << "as when it was heard last";
 }
 
 TEST_F(Connected, StatesInPassingAreReportedAsDriversReportThem)

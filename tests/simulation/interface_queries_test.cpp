@@ -114,7 +114,7 @@ TEST_F(InterfaceQueries, SignalStrengthNeedsNoLocationConsent)
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
     scenario.locationConsent = false;
     Start();
-    EXPECT_EQ(Query<LONG>(wlan_intf_opcode_rssi), -50);
+    EXPECT_EQ(Query<std::int32_t>(wlan_intf_opcode_rssi), -50);
     DWORD error = ERROR_SUCCESS;
     EXPECT_FALSE(Connection(&error).has_value());
     EXPECT_EQ(error, ERROR_ACCESS_DENIED);

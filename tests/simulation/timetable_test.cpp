@@ -100,7 +100,7 @@ TEST_F(Fading, TheConnectionIsHeardAllTheTime)
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
     Start();
     computer->Advance(milliseconds(5000));
-    EXPECT_EQ(Query<LONG>(wlan_intf_opcode_rssi), -60);
+    EXPECT_EQ(Query<std::int32_t>(wlan_intf_opcode_rssi), -60);
     EXPECT_EQ(Connection().value().wlanAssociationAttributes.wlanSignalQuality, 80u);
     const Stations stations = ListStations();
     ASSERT_EQ(stations.size(), 2u);

@@ -194,7 +194,7 @@ void DescribeByOpcode(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD& size, PVOI
     case wlan_intf_opcode_current_operation_mode:
         return DescribeRecord<ULONG>(fields, size, data);
     case wlan_intf_opcode_rssi:
-        return DescribeRecord<LONG>(fields, size, data);
+        return DescribeRecord<std::int32_t>(fields, size, data);
     case wlan_intf_opcode_statistics:
         return DescribeStatistics(fields, size, data);
     default:

@@ -265,6 +265,14 @@ TEST_F(SmartSwitchTest, AnSsidThatIsNotUtf8EndsIt)
     EXPECT_EQ(0u, callCount("WlanGetProfileList"));
 }
 
+TEST_F(SmartSwitchTest, AFailedConversionIsTracedWhateverTheLastError)
+{
+    FailOn("MultiByteToWideChar", 0);
+    EXPECT_EQ(0, Smart(manager())) << "the last error is the result";
+    EXPECT_THAT(traced(), ElementsAre("Profile Name error: 0"));
+    EXPECT_EQ(0u, callCount("WlanGetProfileList"));
+}
+
 TEST_F(SmartSwitchTest, NoMoreThanTheSsidIsRead)
 {
     DOT11_SSID tooLong = MakeSsid(std::string(32, 's'));

@@ -4,6 +4,7 @@
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -221,9 +222,9 @@ TEST_F(BestApTest, NullsAreRefusedBeforeAnything)
     Excluded nobody;
     const wchar_t* const noName = nullptr;
     Excluded* const noList = nullptr;
-    EXPECT_EQ(-13, manager().ConnectBestAP(&kAdapterA, noList));
-    EXPECT_EQ(-13, manager().ConnectBestAP(&kAdapterA, noList, L"Plain"));
-    EXPECT_EQ(-13, manager().ConnectBestAP(&kAdapterA, noList, noName));
+    EXPECT_EQ(-14, manager().ConnectBestAP(&kAdapterA, noList));
+    EXPECT_EQ(-14, manager().ConnectBestAP(&kAdapterA, noList, L"Plain"));
+    EXPECT_EQ(-14, manager().ConnectBestAP(&kAdapterA, noList, noName));
     EXPECT_EQ(-14, manager().ConnectBestAP(&kAdapterA, &nobody, noName));
     EXPECT_EQ(-14, manager().ConnectBestAP(&kAdapterA, noName));
     EXPECT_TRUE(calls().empty());
@@ -346,6 +347,32 @@ TEST_F(BestApTest, TheBonusEndsAtOneHundred)
     heard[0].rssi = -51;
     UseWorld(WorldOf({Profile("Many"), Profile("Full")}, heard));
     EXPECT_THAT(Ranking(), ElementsAre("Full", "Many")) << "98 before 100";
+}
+
+// A candidate is its entry of the network list: what one candidate earns, the other has.
+TEST_F(BestApTest, TwoProfilesOfOneNameShareTheScoreOfTheirNetwork)
+{
+    UseWorld(WorldOf({Profile("Twice"), Profile("Again"), Profile("Once")},
+                     {Heard("Once", 2412000, -62), Heard("Twice", 5180000, -70)}));
+    EditedAnswers edited;
+    edited.service.profileList = [](WLAN_PROFILE_INFO_LIST& list)
+    {
+        WLAN_PROFILE_INFO* const profiles = list.ProfileInfo;
+        std::copy_n(L"Twice", 6, profiles[1].strProfileName);
+    };
+    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        WLAN_AVAILABLE_NETWORK* const networks = list.Network;
+        EXPECT_EQ(60u, networks[1].wlanSignalQuality);
+        networks[0].wlanSignalQuality = 75;
+    };
+    const std::vector<std::string> order = {"Once", "Twice", "Twice"};
+    EXPECT_EQ(order, Ranking()) << "60 and a bonus for each of the two is 80, more than 75";
+
+    ClearCalls();
+    FailOn("WlanConnect");
+    EXPECT_EQ(-12, manager().AutoConnectEx(&kAdapterA));
+    EXPECT_EQ(order, RequestedProfiles(*this));
 }
 
 TEST_F(BestApTest, TheBonusGoesToSsidsThatBeginWithTheLastOnes)

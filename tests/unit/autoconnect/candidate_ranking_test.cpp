@@ -44,29 +44,29 @@ public:
         WLAN_AVAILABLE_NETWORK& network = m_networks.emplace_back();
         network.dot11Ssid = MakeSsid(ssid);
         network.wlanSignalQuality = static_cast<ULONG>(quality);
-        candidates.emplace_back(network);
+        candidates.push_back(&network);
     }
 
     std::vector<unsigned long> Scores() const
     {
         std::vector<unsigned long> scores;
-        for (const auto& candidate : candidates)
-            scores.push_back(candidate.score);
+        for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
+            scores.push_back(candidate->wlanSignalQuality);
         return scores;
     }
 
     std::vector<std::string> Order() const
     {
         std::vector<std::string> ssids;
-        for (const auto& candidate : candidates)
+        for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
         {
-            const DOT11_SSID& ssid = candidate.network->dot11Ssid;
+            const DOT11_SSID& ssid = candidate->dot11Ssid;
             ssids.emplace_back(reinterpret_cast<const char*>(ssid.ucSSID), ssid.uSSIDLength);
         }
         return ssids;
     }
 
-    std::vector<calvix::Candidate> candidates;
+    Candidates candidates;
 
 private:
     std::deque<WLAN_AVAILABLE_NETWORK> m_networks;
@@ -78,14 +78,12 @@ unsigned long ScoreWith(const std::vector<unsigned long>& frequencies)
     WLAN_AVAILABLE_NETWORK network{};
     network.dot11Ssid = MakeSsid("Net");
     network.wlanSignalQuality = 50;
-    std::vector<calvix::Candidate> candidates{calvix::Candidate(network)};
     BssEntries entries;
     for (const unsigned long frequency : frequencies)
         entries.Add("Net", frequency);
-    AddBandBonus(candidates, entries.List());
-    EXPECT_EQ(50u, network.wlanSignalQuality) << "the service's own list stays as it is";
-    EXPECT_EQ(candidates[0].bonusEntries * 10, candidates[0].score - 50);
-    return candidates[0].score;
+    AddBandBonus({&network}, entries.List());
+    EXPECT_EQ(50u + 10 * CountBonusEntries(network, entries.List()), network.wlanSignalQuality);
+    return network.wlanSignalQuality;
 }
 
 bool EarnsBonus(unsigned long frequency)
@@ -166,6 +164,16 @@ TEST_F(CandidateRankingTest, TheScoreEndsAtOneHundred)
     Candidate("Net", 40);
     AddBandBonus(candidates, entries.List());
     EXPECT_THAT(Scores(), ElementsAre(100, 100)) << "ten access points";
+}
+
+TEST_F(CandidateRankingTest, ANetworkThatIsACandidateTwiceEarnsTwice)
+{
+    Candidate("Net", 60);
+    candidates.push_back(candidates.front());
+    BssEntries entries;
+    entries.Add("Net", 5180000);
+    AddBandBonus(candidates, entries.List());
+    EXPECT_THAT(Scores(), ElementsAre(80, 80));
 }
 
 // --- Whose entries ----------------------------------------------------------------------------------------------

@@ -163,7 +163,7 @@ TEST_F(CurrentConnectionTest, GivesTheWholeRecordOfTheFirstInterface)
 
 TEST_F(CurrentConnectionTest, CopiesAsManyBytesAsTheServiceStates)
 {
-    constexpr DWORD stated = offsetof(WLAN_CONNECTION_ATTRIBUTES, wlanAssociationAttributes);
+    constexpr DWORD stated = offsetof(WLAN_CONNECTION_ATTRIBUTES, wlanSecurityAttributes);
     const AlteredAnswers altered(WithSize(stated));
     WLAN_CONNECTION_ATTRIBUTES records[] = {Marked(), Marked(), Marked()};
     char ssid[33] = {};

@@ -285,6 +285,135 @@ TEST_F(HostileRecordsTest, AnAnswerShorterThanItsRecordIsAFailedQuery)
     EXPECT_EQ(0, Result("GetCurrentConnection")) << "of this record so much is copied as the service says";
 }
 
+long long CurrentSsid(CWirelessManage& manager)
+{
+    char ssid[64] = {};
+    return manager.GetCurrentSSID(ssid, sizeof ssid);
+}
+
+long long CurrentSsidAndRecord(CWirelessManage& manager)
+{
+    char ssid[64] = {};
+    WLAN_CONNECTION_ATTRIBUTES record{};
+    return manager.GetCurrentSSID(ssid, sizeof ssid, &record);
+}
+
+long long LinkInfo(CWirelessManage& manager)
+{
+    int state = 0;
+    int bssType = 0;
+    char ssid[64] = {};
+    char bssid[6] = {};
+    return manager.GetCurrentLinkInfo(&kAdapterA, &state, &bssType, ssid, sizeof ssid, bssid);
+}
+
+/// Cuts the record of the current connection.
+AnswerChanges ConnectionOf(std::size_t bytes)
+{
+    return {.query = [bytes](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = static_cast<DWORD>(bytes); }};
+}
+
+// Whoever reads a member that did not come has not been answered; nobody reads past the answer.
+TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
+{
+    using Record = WLAN_CONNECTION_ATTRIBUTES;
+    const std::size_t name = offsetof(Record, wlanAssociationAttributes);
+    const std::size_t association = offsetof(Record, wlanSecurityAttributes);
+    const std::size_t secured = association + sizeof(BOOL);
+    struct Case
+    {
+        const char* method;
+        long long refused;
+        std::size_t needed;
+        long long (*call)(CWirelessManage&) = nullptr; ///< of methods that are not among the readers
+    };
+    const Case cases[] = {{"SpecialSoftAP", 0, name},
+                          {"SetCurrentWiFiToLast", 24, name},
+                          {"SaveCurrentConnectionAttributes", -4, name},
+                          {"AutoSwitch", -3, name},
+                          {"ResetConnection", -4, association},
+                          {"GetSignalQuality", -4, association},
+                          {"GetCurrentSSID", -4, association, CurrentSsid},
+                          {"GetCurrentSSID with the record", -4, association, CurrentSsidAndRecord},
+                          {"GetCurrentLinkInfo", 24, association, LinkInfo},
+                          {"SmartSwitch", 24, association},
+                          {"IsWiFiDisappear", 0, secured},
+                          {"GetCurrentBSS", -4, secured},
+                          {"GetCurrentRSSI", -4, secured},
+                          {"PreRoaming", -4, secured},
+                          {"Roaming", -4, secured}};
+    for (const Case& each : cases)
+    {
+        SCOPED_TRACE(each.method);
+        const std::string refusal = "WlanQueryInterface failed with error: 24";
+        UseWorld(WeakWorld());
+        {
+            const AlteredAnswers altered(ConnectionOf(each.needed - 1));
+            EXPECT_EQ(each.refused, each.call != nullptr ? each.call(manager()) : Result(each.method));
+            EXPECT_THAT(traced(), Contains(refusal));
+        }
+        ClearCalls();
+        const AlteredAnswers altered(ConnectionOf(each.needed));
+        each.call != nullptr ? each.call(manager()) : Result(each.method);
+        EXPECT_THAT(traced(), ::testing::Not(Contains(refusal)));
+    }
+}
+
+TEST_F(HostileRecordsTest, APowerSettingThatDidNotComeWholeIsAFailedQuery)
+{
+    const AlteredAnswers altered({.parameter = [](DWORD& size) { size = sizeof(WLAN_POWER_SETTING) - 1; }});
+    EXPECT_EQ(77, Result("GetPowerSetting")) << "0, and the level untouched";
+    EXPECT_THAT(traced(), ::testing::ElementsAre("WlanQueryAutoConfigParameter failed! err is 24"));
+}
+
+TEST_F(HostileRecordsTest, AnRssiOfFourBytesIsWhole)
+{
+    for (const DWORD bytes : {3UL, 4UL})
+    {
+        const AlteredAnswers altered(ConnectionOf(bytes));
+        EXPECT_EQ(bytes == 4 ? 0 : -4, Result("GetRssi")) << bytes;
+    }
+    EXPECT_EQ("sizeof(LONG)", call("WlanQueryInterface")["dataSize"]) << "which has 4 bytes on the platform";
+}
+
+// --- Null records ---
+
+TEST_F(HostileRecordsTest, NullRecordsAreRefusedBeforeAnythingElse)
+{
+    ForgetClient();
+    CWirelessManage& m = manager();
+    const GUID* const adapter = &kAdapterA;
+    wchar_t name[] = L"HomeNet";
+    wchar_t* const noName = nullptr;
+    int connectable = 0;
+    unsigned long reason = 0;
+    std::vector<WLAN_BSS_ENTRY>* const noEntries = nullptr;
+    std::vector<WLAN_BSS_ENTRY> entries;
+    const long long outputs[] = {m.GetWlanInterface(nullptr),
+                                 m.GetSoftAPList(adapter, nullptr),
+                                 m.GetWlanStatistics(adapter, nullptr),
+                                 m.GetMatchAPList(adapter, nullptr),
+                                 m.GetConnectableAPList(adapter, name, nullptr),
+                                 m.GetConnectableAPList(name, nullptr),
+                                 m.GetMatchAPCount(adapter, nullptr, 1),
+                                 m.GetMatchAPCount(adapter, nullptr, name, 1)};
+    EXPECT_THAT(outputs, ::testing::Each(-13));
+    const long long inputs[] = {m.GetAP(adapter, nullptr),
+                                m.GetNotConnectableReason(adapter, nullptr, 1, connectable, reason),
+                                m.GetCurrentWiFi(adapter, nullptr),
+                                m.Reconnect(adapter, static_cast<WLAN_CONNECTION_ATTRIBUTES*>(nullptr), 0),
+                                m.Reconnect(adapter, static_cast<WLAN_CONNECTION_NOTIFICATION_DATA*>(nullptr), 0),
+                                m.RecoverConnection(adapter, nullptr),
+                                m.GetConnectableAPList(adapter, noName, &entries),
+                                m.GetConnectableAPList(noName, &entries),
+                                m.ConnectBestAP(adapter, noEntries),
+                                m.ConnectBestAP(adapter, noEntries, name),
+                                m.ConnectBestAP(adapter, &entries, noName),
+                                m.ConnectBestAP(adapter, noName)};
+    EXPECT_THAT(inputs, ::testing::Each(-14));
+    EXPECT_TRUE(timeline().empty());
+}
+
 TEST_F(HostileRecordsTest, RadioStateWithoutItsFirstPhyHasNone)
 {
     constexpr DWORD kCountOnly = offsetof(WLAN_RADIO_STATE, PhyRadioState);

@@ -19,6 +19,8 @@ struct AnswerChanges
     std::function<void(WLAN_BSS_LIST&)> bss = {};
     /// A query's record and its size; the opcode tells which record it is.
     std::function<void(WLAN_INTF_OPCODE, PVOID, DWORD&)> query = {};
+    /// The size of a WlanQueryAutoConfigParameter's answer.
+    std::function<void(DWORD&)> parameter = {};
     /// Sees what WlanSetInterface is given.
     std::function<void(WLAN_INTF_OPCODE, DWORD, const void*)> set = {};
 };
@@ -90,7 +92,10 @@ public:
                                        PVOID* data,
                                        WLAN_OPCODE_VALUE_TYPE* type) override
     {
-        return m_inner.WlanQueryAutoConfigParameter(client, opcode, reserved, size, data, type);
+        const DWORD error = m_inner.WlanQueryAutoConfigParameter(client, opcode, reserved, size, data, type);
+        if (error == 0 && m_changes.parameter)
+            m_changes.parameter(*size);
+        return error;
     }
     DWORD
     WlanGetProfileList(HANDLE client, const GUID* guid, PVOID reserved, WLAN_PROFILE_INFO_LIST** list) override

@@ -23,12 +23,6 @@ TEST_F(NetworkListingTest, EveryNetworkTypeHasItsText)
     }
 }
 
-TEST_F(NetworkListingTest, ACharacterOfAProfileNameIsAByteOrAQuestionMark)
-{
-    EXPECT_THAT(Network([](auto& network) { std::wmemcpy(network.strProfileName, L"\u00FF\u0100\u6771", 4); }),
-                Contains("  Profile Name[0]:  \xFF??"));
-}
-
 TEST_F(NetworkListingTest, WhyANetworkCannotBeJoined)
 {
     const Lines lines = Network(

@@ -3,6 +3,8 @@
 #include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
+#include <cstring>
+
 namespace calvix::test::network_lookup_test
 {
 
@@ -116,9 +118,11 @@ TEST_F(NetworkLookupTest, AnEmptySsidIsNeverFound)
     EXPECT_THAT(calls(), ElementsAre("WlanGetAvailableNetworkList", "WlanFreeMemory"));
 }
 
-TEST_F(NetworkLookupTest, ANullSsidIsNeverFound)
+TEST_F(NetworkLookupTest, ANullSsidToFindIsRefusedBeforeTheServiceIsAsked)
 {
-    EXPECT_EQ(-4, manager().GetAP(&kAdapterA, nullptr));
+    EXPECT_EQ(-14, manager().GetAP(&kAdapterA, nullptr));
+    EXPECT_TRUE(calls().empty());
+    EXPECT_TRUE(traced().empty());
 }
 
 TEST_F(NetworkLookupTest, AnSsidOf32BytesIsFoundAndALongerOneIsNot)
@@ -170,6 +174,20 @@ TEST_F(NetworkLookupTest, AnotherBssTypeIsAnotherNetwork)
     EXPECT_TRUE(OutputsUntouched());
     EXPECT_EQ(0, Explain("AdHocNet", kIndependent));
     EXPECT_EQ(1, m_connectable);
+}
+
+TEST_F(NetworkLookupTest, TheBssTypeIsComparedAsANumber)
+{
+    constexpr unsigned long long sameInThirtyTwoBits = 0x100000000 + kInfrastructure;
+    if constexpr (sizeof(unsigned long) > 4)
+    {
+        EXPECT_EQ(-6, Explain("HomeNet", static_cast<unsigned long>(sameInThirtyTwoBits)));
+        EXPECT_TRUE(OutputsUntouched());
+    }
+
+    const AlteredAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+                                  { std::memset(&list.Network[0].dot11BssType, 0xFF, sizeof(DOT11_BSS_TYPE)); }});
+    EXPECT_EQ(0, Explain("HomeNet", 0xFFFFFFFFUL));
 }
 
 TEST_F(NetworkLookupTest, AnotherSsidIsAnotherNetwork)
