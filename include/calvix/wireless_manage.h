@@ -38,6 +38,9 @@ struct ManagerInternals; // the library's own tests
 ///   copied as far as it came.
 /// - A fatal caller error ends the process: what happened and where goes to the debugger and to standard error, then
 ///   the process aborts. The methods name theirs.
+/// - Nothing throws. Where memory runs out, a method ends as it does when the list that it works on cannot be obtained:
+///   with that code (8, the platform's number for it, where a platform error number is the result), false, 0 or null,
+///   and with its outputs as they are then.
 /// - Lists and records of the service are released before a method returns. What a method hands out lies in the
 ///   caller's own buffers and containers, or is text inside the object: valid until the same method is called again or
 ///   Delete, never freed by the caller.

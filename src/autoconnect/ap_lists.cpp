@@ -1,6 +1,7 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/fixed_text.h"
+#include "core/out_of_memory.h"
 #include "core/profile_network_match.h"
 #include "core/service_steps.h"
 
@@ -12,52 +13,54 @@ namespace
 constexpr ProfileAndNetworkCodes kApListCodes{
     .notOpened = -2, .profilesFailed = -5, .noProfile = -6, .networksFailed = -7, .noNetwork = -8};
 
+void Append(std::vector<WLAN_BSS_ENTRY>& list, const WLAN_PROFILE_INFO&, const WLAN_BSS_LIST& entries, Trace&)
+{
+    const auto items = Items(entries);
+    list.insert(list.end(), items.begin(), items.end());
+}
+
+void Append(std::vector<std::wstring>& names,
+            const WLAN_PROFILE_INFO& profile,
+            const WLAN_BSS_LIST& entries,
+            Trace& trace)
+{
+    if (entries.dwNumberOfItems == 0)
+        trace.Line("No BSS: %d", -10);
+    else
+        names.emplace_back(FixedText(profile.strProfileName));
+}
+
 /// Walks every pair of a stored profile and a network that carries its name, in profile order, then network order. For
-/// the pairs that `counts(profile)` lets through, hands the network's BSS entries to `collect(profile, entries)`, which
-/// returns how much they add to the result. A network whose BSS query fails is passed over. The sum, or a code.
-template <typename Counts, typename Collect>
-int CollectMatches(HANDLE& client, const GUID* interfaceGuid, Trace& trace, Counts counts, Collect collect)
+/// the pairs that `counts(profile)` lets through, appends the network's BSS entries, or the name, to `list`, which is
+/// empty before. A network whose BSS query fails is passed over. The length of the list, or a code: it is empty then.
+template <typename List, typename Counts>
+int CollectMatches(HANDLE& client, const GUID* interfaceGuid, List& list, Trace& trace, Counts counts)
 {
     ProfilesAndNetworks lists;
     if (const int code = ListProfilesAndNetworks(client, interfaceGuid, lists, trace, kApListCodes))
         return code;
 
-    NetworksByProfile networksByProfile(*lists.networks);
-    int result = 0;
-    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
+    NetworksByProfile networksByProfile;
+    if (networksByProfile.Take(*lists.networks) != 0)
+        return kApListCodes.networksFailed;
+    const auto collect = [&]
     {
-        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
         {
-            BssList entries;
-            if (counts(profile) && ListNetworkBss(client, interfaceGuid, *network, entries, trace) == 0)
-                result += collect(profile, *entries);
+            for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+            {
+                BssList entries;
+                if (counts(profile) && ListNetworkBss(client, interfaceGuid, *network, entries, trace) == 0)
+                    Append(list, profile, *entries, trace);
+            }
         }
+    };
+    if (OutOfMemoryIn(collect))
+    {
+        list.clear();
+        return kApListCodes.networksFailed;
     }
-    return result;
-}
-
-auto AppendEntriesTo(std::vector<WLAN_BSS_ENTRY>& list)
-{
-    return [&list](const WLAN_PROFILE_INFO&, const WLAN_BSS_LIST& entries)
-    {
-        const auto items = Items(entries);
-        list.insert(list.end(), items.begin(), items.end());
-        return static_cast<int>(items.size());
-    };
-}
-
-auto AppendNameTo(std::vector<std::wstring>& names, Trace& trace)
-{
-    return [&names, &trace](const WLAN_PROFILE_INFO& profile, const WLAN_BSS_LIST& entries)
-    {
-        if (entries.dwNumberOfItems == 0)
-        {
-            trace.Line("No BSS: %d", -10);
-            return 0;
-        }
-        names.emplace_back(FixedText(profile.strProfileName));
-        return 1;
-    };
+    return static_cast<int>(list.size());
 }
 
 const auto everyProfile = [](const WLAN_PROFILE_INFO&) { return true; };
@@ -70,7 +73,7 @@ int CWirelessManage::GetMatchAPList(const GUID* pInterfaceGuid, std::vector<WLAN
         return -13;
     LocalTrace<128> trace;
     pList->clear();
-    return CollectMatches(hClient, pInterfaceGuid, trace, everyProfile, AppendEntriesTo(*pList));
+    return CollectMatches(hClient, pInterfaceGuid, *pList, trace, everyProfile);
 }
 
 int CWirelessManage::GetConnectableAPList(const GUID* pInterfaceGuid, wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList)
@@ -86,7 +89,7 @@ int CWirelessManage::GetConnectableAPList(const GUID* pInterfaceGuid, wchar_t* n
         return FixedText(profile.strProfileName) == name ||
                IsAutoConnMode2(pInterfaceGuid, TerminatedName(profile.strProfileName)) == 1;
     };
-    return CollectMatches(hClient, pInterfaceGuid, trace, namedOrAutomatic, AppendEntriesTo(*pList));
+    return CollectMatches(hClient, pInterfaceGuid, *pList, trace, namedOrAutomatic);
 }
 
 int CWirelessManage::GetConnectableAPList(wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList)
@@ -128,5 +131,5 @@ int CWirelessManage::GetMatchAPCount(const GUID* pInterfaceGuid,
             return true;
         return IsAutoConnMode2(pInterfaceGuid, TerminatedName(profile.strProfileName)) == 1;
     };
-    return CollectMatches(hClient, pInterfaceGuid, trace, counts, AppendNameTo(*pNames, trace));
+    return CollectMatches(hClient, pInterfaceGuid, *pNames, trace, counts);
 }

@@ -36,8 +36,11 @@ int CWirelessManage::AutoSwitch(const GUID* pInterfaceGuid)
     }
     if (ListAvailableNetworks(hClient, pInterfaceGuid, lists.networks, trace) != 0)
         return -6;
+    NetworksByProfile networksByProfile;
+    if (networksByProfile.Take(*lists.networks) != 0)
+        return -6;
     // Deliberate: the walk follows the order from before the move, and a refused-only walk reports success.
-    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, *lists.networks, trace) == WalkEnd::noMatch ? -7 : 0;
+    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, networksByProfile, trace) == WalkEnd::noMatch ? -7 : 0;
 }
 
 int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
@@ -61,7 +64,9 @@ int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
         return static_cast<int>(error);
     if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, lists.networks, trace))
         return static_cast<int>(error);
-    NetworksByProfile networksByProfile(*lists.networks);
+    NetworksByProfile networksByProfile;
+    if (const ErrorNumber error = networksByProfile.Take(*lists.networks))
+        return static_cast<int>(error);
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))

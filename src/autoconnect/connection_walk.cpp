@@ -16,14 +16,13 @@ RequestNetwork(HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NE
 WalkEnd WalkProfiles(HANDLE client,
                      const GUID* interfaceGuid,
                      const WLAN_PROFILE_INFO_LIST& profiles,
-                     const WLAN_AVAILABLE_NETWORK_LIST& networks,
+                     NetworksByProfile& networks,
                      Trace& trace)
 {
-    NetworksByProfile networksByProfile(networks);
     WalkEnd end = WalkEnd::noMatch;
     for (const WLAN_PROFILE_INFO& profile : Items(profiles))
     {
-        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        for (const WLAN_AVAILABLE_NETWORK* network : networks.Of(profile))
         {
             if (RequestNetwork(client, interfaceGuid, *network, trace) == 0)
                 return WalkEnd::accepted;

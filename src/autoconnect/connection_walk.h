@@ -19,7 +19,7 @@ enum class WalkEnd
 WalkEnd WalkProfiles(HANDLE client,
                      const GUID* interfaceGuid,
                      const WLAN_PROFILE_INFO_LIST& profiles,
-                     const WLAN_AVAILABLE_NETWORK_LIST& networks,
+                     NetworksByProfile& networks,
                      Trace& trace);
 
 /// The standard request: by the profile that the network is tagged with.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "autoconnect/candidate_ranking.h"
+#include "core/out_of_memory.h"
 #include "core/profile_network_match.h"
 #include "core/service_steps.h"
 
@@ -27,18 +28,25 @@ int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesP
             {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
         return code;
 
-    NetworksByProfile networksByProfile(*lists.networks);
+    NetworksByProfile networksByProfile;
+    if (networksByProfile.Take(*lists.networks) != 0)
+        return -6;
     Candidates candidates;
-    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
+    const auto gather = [&]
     {
-        if (!usesProfile(profile))
-            continue;
-        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
         {
-            if (accepts(*network))
-                candidates.push_back(lists.networks->Network + (network - lists.networks->Network));
+            if (!usesProfile(profile))
+                continue;
+            for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+            {
+                if (accepts(*network))
+                    candidates.push_back(lists.networks->Network + (network - lists.networks->Network));
+            }
         }
-    }
+    };
+    if (OutOfMemoryIn(gather))
+        return -6;
     return ConnectCandidates(client, interfaceGuid, *lists.networks, candidates, trace);
 }
 

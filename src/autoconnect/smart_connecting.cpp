@@ -1,7 +1,6 @@
 #include <calvix/wireless_manage.h>
 
 #include "autoconnect/connection_walk.h"
-#include "core/bounded_copy.h"
 #include "core/fixed_text.h"
 #include "core/narrow_text.h"
 #include "core/service_steps.h"
@@ -28,14 +27,16 @@ int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
         return static_cast<int>(error);
     if (const ErrorNumber error = ListAvailableNetworks(hClient, first, lists.networks, trace))
         return static_cast<int>(error);
-    NetworksByProfile networksByProfile(*lists.networks);
+    NetworksByProfile networksByProfile;
+    if (const ErrorNumber error = networksByProfile.Take(*lists.networks))
+        return static_cast<int>(error);
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {
             const ErrorNumber error = RequestNetwork(hClient, first, *network, trace);
             if (error == 0 && profileName != nullptr)
-                CopyTruncating(profileName, 128, NarrowInLocale(FixedText(network->strProfileName)).c_str());
+                NarrowInLocale(FixedText(network->strProfileName), profileName, 128);
             return static_cast<int>(error);
         }
     }

@@ -107,10 +107,12 @@ int CWirelessManage::GetMatchBSSID(const GUID* pInterfaceGuid)
 
     // Deliberate: -1 even when all went well; the result is informational, what counts is the trace.
     int result = -1;
-    NetworksByProfile networksByProfile(*lists.networks);
+    NetworksByProfile networksByProfile;
+    if (networksByProfile.Take(*lists.networks) != 0)
+        return kDriftCodes.networksFailed;
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
-        const std::string name = NarrowInLocale(FixedText(profile.strProfileName));
+        const NarrowText name(FixedText(profile.strProfileName));
         trace.Line("ProfileName(%s)", name.c_str());
         for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
         {

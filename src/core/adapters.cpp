@@ -3,6 +3,7 @@
 #include "core/bounded_copy.h"
 #include "core/fixed_text.h"
 #include "core/interface_list.h"
+#include "core/out_of_memory.h"
 #include "core/service_steps.h"
 
 #include <iterator>
@@ -92,6 +93,8 @@ long CWirelessManage::GetWlanInterface(std::vector<WLAN_INTERFACE_INFO>* pList)
             ListInterfaces(hClient, interfaces, trace, {.notOpened = -1, .enumerationFailed = -2, .none = -3}))
         return code;
     const auto items = Items(*interfaces);
+    if (OutOfMemoryIn([&] { pList->reserve(items.size()); }))
+        return -2;
     pList->assign(items.begin(), items.end());
     return 0;
 }

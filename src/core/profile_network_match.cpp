@@ -1,10 +1,12 @@
 #include "core/profile_network_match.h"
 
 #include "core/fixed_text.h"
+#include "platform/records/error_numbers.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <new>
 
 namespace calvix
 {
@@ -40,21 +42,23 @@ std::uint32_t HashOf(std::wstring_view name)
 
 } // namespace
 
-// The usual arrays stay as they are until they are used.
-// cppcheck-suppress uninitMemberVar
-NetworksByProfile::NetworksByProfile(const WLAN_AVAILABLE_NETWORK_LIST& networks)
-    : m_items(Items(networks)), m_indexed(m_usualIndexed)
+ErrorNumber NetworksByProfile::Take(const WLAN_AVAILABLE_NETWORK_LIST& networks)
 {
+    m_items = Items(networks);
+    m_indexed = m_usualIndexed;
     const std::size_t slots = (std::max)(std::size_t{2}, std::bit_ceil(2 * m_items.size()));
     m_slots = {m_usualSlots, slots};
     if (m_items.size() > kUsualCount)
     {
-        m_manyIndexed.reset(new Indexed[m_items.size()]);
-        m_manySlots.reset(new std::uint32_t[slots]);
+        m_manyIndexed.reset(new (std::nothrow) Indexed[m_items.size()]);
+        m_manySlots.reset(new (std::nothrow) std::uint32_t[slots]);
+        if (m_manyIndexed == nullptr || m_manySlots == nullptr)
+            return ERROR_NOT_ENOUGH_MEMORY;
         m_indexed = m_manyIndexed.get();
         m_slots = {m_manySlots.get(), slots};
     }
     std::fill(m_slots.begin(), m_slots.end(), kNone);
+    return 0;
 }
 
 NetworksByProfile::Matches NetworksByProfile::Of(const WLAN_PROFILE_INFO& profile)

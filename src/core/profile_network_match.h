@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/trace.h"
 #include "core/wlan_lists.h"
 
 #include <cstddef>
@@ -19,10 +20,12 @@ namespace calvix
 class NetworksByProfile
 {
 public:
-    /// The list outlives this object.
-    explicit NetworksByProfile(const WLAN_AVAILABLE_NETWORK_LIST& networks);
+    NetworksByProfile() = default;
     NetworksByProfile(const NetworksByProfile&) = delete;
     NetworksByProfile& operator=(const NetworksByProfile&) = delete;
+
+    /// Takes the networks of a list that outlives this object. 0, or the platform's error number for want of memory.
+    ErrorNumber Take(const WLAN_AVAILABLE_NETWORK_LIST& networks);
 
     class Iterator
     {
@@ -75,7 +78,7 @@ private:
 
     std::span<const WLAN_AVAILABLE_NETWORK> m_items;
     std::size_t m_count = 0;          ///< networks indexed so far
-    Indexed* m_indexed;               ///< what is known of them
+    Indexed* m_indexed = nullptr;     ///< what is known of them
     std::span<std::uint32_t> m_slots; ///< a hash table of the chains' first networks; its size is a power of two
 
     // As many networks as are in view in most places take no memory from the heap.

@@ -1,11 +1,11 @@
 #include "core/strict_copy.h"
 
+#include "core/trace.h"
 #include "platform/platform.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <string>
 
 namespace calvix
 {
@@ -27,8 +27,9 @@ StrictCopyHandler g_handler = ReportAndAbort;
 
 void FatalCallerError(const char* where, const char* what)
 {
-    const std::string message = std::string("calvix: fatal caller error in ") + where + ": " + what + "\n";
-    g_handler(message.c_str());
+    char message[256];
+    FormatTrace(message, sizeof(message), "calvix: fatal caller error in %s: %s\n", where, what);
+    g_handler(message);
     std::abort();
 }
 
@@ -39,16 +40,21 @@ StrictCopyHandler SetStrictCopyHandler(StrictCopyHandler handler)
     return previous;
 }
 
+void RequireRoom(const void* destination, std::size_t capacity, std::size_t count, const char* where)
+{
+    if (destination == nullptr)
+        FatalCallerError(where, "null destination");
+    if (count > capacity)
+        FatalCallerError(where, "the destination is too small");
+}
+
 void StrictCopy(void* destination, std::size_t capacity, const void* source, std::size_t count, const char* where)
 {
     if (count == 0)
         return;
-    if (destination == nullptr)
-        FatalCallerError(where, "null destination");
+    RequireRoom(destination, capacity, count, where);
     if (source == nullptr)
         FatalCallerError(where, "null source");
-    if (count > capacity)
-        FatalCallerError(where, "the destination is too small");
     std::memcpy(destination, source, count);
 }
 

@@ -16,6 +16,9 @@ StrictCopyHandler SetStrictCopyHandler(StrictCopyHandler handler);
 /// Ends the process through the handler: the caller of the method `where` broke its contract.
 [[noreturn]] void FatalCallerError(const char* where, const char* what);
 
+/// Too small a destination for `count` bytes, or none, is a fatal caller error of the method `where`.
+void RequireRoom(const void* destination, std::size_t capacity, std::size_t count, const char* where);
+
 /// Copies `count` bytes, never fewer: too small a destination, or a null pointer where there is something to copy, is
 /// a fatal caller error of the method `where`. The C runtimes differ in what their own checked copies do then (some
 /// return quietly), hence this one.

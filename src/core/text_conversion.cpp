@@ -1,34 +1,41 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/narrow_text.h"
+#include "core/out_of_memory.h"
 #include "core/strict_copy.h"
 #include "platform/platform.h"
 
+#include <algorithm>
 #include <climits>
-#include <cstring>
 #include <cwchar>
 #include <string>
 
 using namespace calvix;
 using platform::text;
 
-std::string calvix::NarrowInLocale(std::wstring_view wide)
+std::size_t calvix::NarrowInLocale(std::wstring_view wide, char* narrow, std::size_t capacity)
 {
-    std::string narrow;
+    std::size_t whole = 0;
     std::mbstate_t state{};
     for (const wchar_t character : wide)
     {
         char bytes[MB_LEN_MAX];
-        const std::size_t length = std::wcrtomb(bytes, character, &state);
-        if (length != static_cast<std::size_t>(-1))
+        std::size_t length = std::wcrtomb(bytes, character, &state);
+        if (length == static_cast<std::size_t>(-1))
         {
-            narrow.append(bytes, length);
-            continue;
+            bytes[0] = '?';
+            length = 1;
+            state = {};
         }
-        narrow += '?';
-        state = {};
+        for (std::size_t index = 0; index < length; ++index, ++whole)
+        {
+            if (whole + 1 < capacity)
+                narrow[whole] = bytes[index];
+        }
     }
-    return narrow;
+    if (capacity != 0)
+        narrow[(std::min)(whole, capacity - 1)] = '\0';
+    return whole;
 }
 
 bool CWirelessManage::UnicodeToAnsi(const wchar_t* source, char* destination)
@@ -43,17 +50,10 @@ bool CWirelessManage::UnicodeToAnsi(const wchar_t* source, char* destination)
 int CWirelessManage::WideCharToChar(const wchar_t* source, char* destination, int capacity)
 {
     const int size = text().WideCharToMultiByte(CP_ACP, 0, source, -1, nullptr, 0, nullptr, nullptr);
-    char usual[256];
-    std::string longer;
-    char* narrow = usual;
-    if (size >= static_cast<int>(sizeof(usual)))
-    {
-        longer.resize(static_cast<std::size_t>(size));
-        narrow = longer.data();
-    }
-    std::memset(narrow, 0, static_cast<std::size_t>(size) + 1);
-    const int converted =
-        size == 0 ? 0 : text().WideCharToMultiByte(CP_ACP, 0, source, -1, narrow, size, nullptr, nullptr);
-    StrictCopyText(destination, capacity, narrow, "WideCharToChar");
+    std::string narrow;
+    int converted = 0;
+    if (size > 0 && !OutOfMemoryIn([&] { narrow.resize(static_cast<std::size_t>(size)); }))
+        converted = text().WideCharToMultiByte(CP_ACP, 0, source, -1, narrow.data(), size, nullptr, nullptr);
+    StrictCopyText(destination, capacity, narrow.c_str(), "WideCharToChar");
     return converted;
 }

@@ -1,6 +1,7 @@
 #include "core/trace.h"
 
 #include "core/bounded_copy.h"
+#include "core/out_of_memory.h"
 #include "core/simple_format.h"
 
 #include <algorithm>
@@ -84,11 +85,12 @@ std::uint32_t FormatTraceW(wchar_t* buffer, std::size_t capacity, const wchar_t*
         buffer[0] = L'\0';
         return kFormatBadCapacity;
     }
+    std::vector<wchar_t> text;
     std::va_list values;
     va_start(values, format);
-    const std::vector<wchar_t> text = FormatWhole(format, values);
+    const bool outOfMemory = OutOfMemoryIn([&] { text = FormatWhole(format, values); });
     va_end(values);
-    if (text.empty())
+    if (outOfMemory || text.empty())
     {
         buffer[0] = L'\0';
         return kFormatTruncated;

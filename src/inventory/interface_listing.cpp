@@ -30,7 +30,7 @@ void ListGuid(Trace& trace, unsigned index, const GUID& guid)
     if (platform::text().StringFromGUID2(guid, text, kGuidTextSize) == 0)
         trace.Message("StringFromGUID2 failed");
     else
-        trace.Line("  InterfaceGUID[%u]: %s", index, NarrowInLocale(text).c_str());
+        trace.Line("  InterfaceGUID[%u]: %s", index, NarrowText(text).c_str());
 }
 
 /// Deliberate: of the two listings one ends the line behind the label, the other goes on in it; an unknown state has a
@@ -55,7 +55,7 @@ void ListInterface(Trace& trace, unsigned index, const WLAN_INTERFACE_INFO& info
     trace.Line("  Interface Index[%u]:\t %u", index, index);
     ListGuid(trace, index, info.InterfaceGuid);
     trace.Line("  Interface Description[%u]: %s", index,
-               NarrowInLocale(FixedText(info.strInterfaceDescription)).c_str());
+               NarrowText(FixedText(info.strInterfaceDescription)).c_str());
     ListState(trace, index, info.isState, stateOnItsOwnLine);
 }
 

@@ -38,7 +38,9 @@ int CWirelessManage::GetConnectableNetworkCount(const GUID* pInterfaceGuid)
             {.notOpened = -2, .profilesFailed = -5, .noProfile = -6, .networksFailed = -7, .noNetwork = -8}))
         return code;
 
-    NetworksByProfile networksByProfile(*lists.networks);
+    NetworksByProfile networksByProfile;
+    if (networksByProfile.Take(*lists.networks) != 0)
+        return -7;
     int pairs = 0;
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
         for ([[maybe_unused]] const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))

@@ -43,7 +43,7 @@ void ListValue(Trace& trace, std::span<const ValueText> table, std::uint32_t val
 
 void ListIdentity(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& network)
 {
-    trace.Line("  Profile Name[%u]:  %s", index, NarrowInLocale(FixedText(network.strProfileName)).c_str());
+    trace.Line("  Profile Name[%u]:  %s", index, NarrowText(FixedText(network.strProfileName)).c_str());
     char label[32] = {};
     FormatTrace(label, sizeof(label), "  SSID[%u]:\t ", index);
     ListSsid(trace, label, network.dot11Ssid);

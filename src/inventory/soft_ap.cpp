@@ -1,10 +1,12 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/fixed_text.h"
+#include "core/out_of_memory.h"
 #include "core/service_steps.h"
 #include "core/wlan_lists.h"
 
 #include <cstring>
+#include <iterator>
 
 using namespace calvix;
 using platform::text;
@@ -39,13 +41,21 @@ int CWirelessManage::GetSoftAPList(const GUID* pInterfaceGuid, std::vector<std::
     // Deliberate: the platform's own error number, beside -1 for the client handle.
     if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, networks, trace))
         return static_cast<int>(error);
-    pList->clear();
-    for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
+    std::vector<std::string> names;
+    const auto collect = [&]
     {
-        char name[128];
-        if (NarrowSsid(network.dot11Ssid, name) && std::strstr(name, "LC#") != nullptr)
-            pList->emplace_back(name);
-    }
+        for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
+        {
+            char name[128];
+            if (NarrowSsid(network.dot11Ssid, name) && std::strstr(name, "LC#") != nullptr)
+                names.emplace_back(name);
+        }
+        pList->reserve(names.size());
+    };
+    if (OutOfMemoryIn(collect))
+        return static_cast<int>(ERROR_NOT_ENOUGH_MEMORY);
+    // Not exchanged for the new one: the caller's vector keeps its capacity.
+    pList->assign(std::make_move_iterator(names.begin()), std::make_move_iterator(names.end()));
     return 0;
 }
 

@@ -32,7 +32,9 @@ int CWirelessManage::GetProfile(const GUID* pInterfaceGuid, const wchar_t* name,
     if (ReadProfile(hClient, pInterfaceGuid, name, profile, trace) != 0)
         return -4;
     // Deliberate: unlike the wide form this one never cuts.
-    StrictCopyText(xml, capacity, NarrowInLocale(profile.get()).c_str(), "GetProfile");
+    const std::size_t room = capacity > 0 ? static_cast<std::size_t>(capacity) : 0;
+    RequireRoom(xml, room, NarrowInLocale(profile.get(), nullptr, 0) + 1, "GetProfile");
+    NarrowInLocale(profile.get(), xml, room);
     return 0;
 }
 

@@ -1,5 +1,6 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/out_of_memory.h"
 #include "system/object_handle.h"
 
 #include <string>
@@ -46,6 +47,8 @@ int CWirelessManage::CreateProcRunExe(char* fileName)
 {
     if (fileName == nullptr)
         return 0;
-    const std::string path = GetAppPath() + std::string(fileName);
+    std::string path;
+    if (OutOfMemoryIn([&] { path.append(GetAppPath()).append(fileName); }))
+        return 0;
     return RunToItsEnd(path.c_str(), nullptr) ? 1 : 0;
 }

@@ -1,5 +1,6 @@
 #include "support/allocation_counter.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <new>
 #ifdef _WIN32
@@ -11,27 +12,42 @@ namespace
 
 thread_local std::size_t t_allocations = 0;
 thread_local int t_pauses = 0;
+thread_local calvix::test::AllocationFailure* t_failure = nullptr;
+std::atomic<std::ptrdiff_t> g_heldBlocks = 0;
 
-void* Counted(void* memory) noexcept
+/// Counts an allocation. Whether it is one that is to fail.
+bool IsRefused() noexcept
 {
-    if (memory != nullptr && t_pauses == 0)
-        ++t_allocations;
+    if (t_pauses != 0)
+        return false;
+    ++t_allocations;
+    return t_failure != nullptr && t_failure->Refuses();
+}
+
+void* Held(void* memory) noexcept
+{
+    if (memory != nullptr)
+        ++g_heldBlocks;
     return memory;
 }
 
 void* Allocate(std::size_t size) noexcept
 {
-    return Counted(std::malloc(size != 0 ? size : 1));
+    if (IsRefused())
+        return nullptr;
+    return Held(std::malloc(size != 0 ? size : 1));
 }
 
 void* Allocate(std::size_t size, std::align_val_t alignment) noexcept
 {
+    if (IsRefused())
+        return nullptr;
     const auto boundary = static_cast<std::size_t>(alignment);
 #ifdef _WIN32
-    return Counted(_aligned_malloc(size != 0 ? size : 1, boundary));
+    return Held(_aligned_malloc(size != 0 ? size : 1, boundary));
 #else
     const std::size_t rounded = (size + boundary - 1) / boundary * boundary;
-    return Counted(std::aligned_alloc(boundary, rounded != 0 ? rounded : boundary));
+    return Held(std::aligned_alloc(boundary, rounded != 0 ? rounded : boundary));
 #endif
 }
 
@@ -42,8 +58,17 @@ void* OrThrow(void* memory)
     return memory;
 }
 
+void Release(void* memory) noexcept
+{
+    if (memory != nullptr)
+        --g_heldBlocks;
+    std::free(memory);
+}
+
 void ReleaseAligned(void* memory) noexcept
 {
+    if (memory != nullptr)
+        --g_heldBlocks;
 #ifdef _WIN32
     _aligned_free(memory);
 #else
@@ -89,27 +114,27 @@ void* operator new[](std::size_t size, std::align_val_t alignment, const std::no
 
 void operator delete(void* memory) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 void operator delete[](void* memory) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 void operator delete(void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 void operator delete[](void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 void operator delete(void* memory, const std::nothrow_t&) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 void operator delete[](void* memory, const std::nothrow_t&) noexcept
 {
-    std::free(memory);
+    Release(memory);
 }
 void operator delete(void* memory, std::align_val_t) noexcept
 {
@@ -144,6 +169,30 @@ AllocationCounter::AllocationCounter() : m_start(t_allocations) {}
 std::size_t AllocationCounter::Count() const
 {
     return t_allocations - m_start;
+}
+
+std::ptrdiff_t HeldHeapBlocks()
+{
+    return g_heldBlocks;
+}
+
+AllocationFailure::AllocationFailure(std::size_t from, std::size_t times) : m_from(from), m_times(times)
+{
+    t_failure = this;
+}
+
+AllocationFailure::~AllocationFailure()
+{
+    t_failure = nullptr;
+}
+
+bool AllocationFailure::Refuses()
+{
+    ++m_seen;
+    const bool refused = m_seen >= m_from && m_seen - m_from < m_times;
+    if (refused)
+        ++m_refused;
+    return refused;
 }
 
 AllocationPause::AllocationPause()

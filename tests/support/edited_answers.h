@@ -133,7 +133,7 @@ public:
     {
         const DWORD error =
             InterceptedWlanService::WlanGetProfile(client, interfaceGuid, name, reserved, xml, flags, grantedAccess);
-        const auto edited = m_profileTexts.find(name != nullptr ? name : L"");
+        const auto edited = m_profileTexts.find(std::wstring_view(name != nullptr ? name : L""));
         if (error == 0 && edited != m_profileTexts.end())
             Overwrite(*xml, edited->second);
         return BesideAnswer("WlanGetProfile", error);
@@ -167,7 +167,7 @@ private:
         std::wmemcpy(xml, text.c_str(), text.size() + 1);
     }
 
-    std::map<std::wstring, std::wstring> m_profileTexts;
+    std::map<std::wstring, std::wstring, std::less<>> m_profileTexts;
     unsigned m_bssLists = 0;
 };
 
@@ -179,6 +179,8 @@ public:
 
     /// Whether UTF-8 is converted whatever the flags for narrow code pages say.
     bool takesAllFlagsForUtf8 = false;
+    /// The same for narrow code pages and the flags that belong to the other direction.
+    bool takesAllFlagsForNarrow = false;
 
     int MultiByteToWideChar(UINT codePage,
                             DWORD flags,
@@ -201,8 +203,8 @@ public:
                             const char* defaultCharacter,
                             BOOL* usedDefaultCharacter) override
     {
-        return m_inner.WideCharToMultiByte(codePage, flags, source, sourceLength, destination, destinationLength,
-                                           defaultCharacter, usedDefaultCharacter);
+        return m_inner.WideCharToMultiByte(codePage, takesAllFlagsForNarrow ? 0 : flags, source, sourceLength,
+                                           destination, destinationLength, defaultCharacter, usedDefaultCharacter);
     }
 
     int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity) override

@@ -110,6 +110,7 @@ Bench::~Bench()
 
 CWirelessManage& Bench::Manager()
 {
+    const AllocationPause notTheMethods;
     CWirelessManage* const instance = ManagerInternals::Instance();
     return instance != nullptr ? *instance : *CWirelessManage::Get();
 }
@@ -117,6 +118,7 @@ CWirelessManage& Bench::Manager()
 /// Delete leaves the closed handle where it was.
 void Bench::ForgetClosedClient()
 {
+    const AllocationPause notTheMethods;
     if (m_computer.Audit().openClients == 0)
         ManagerInternals::Client() = nullptr;
 }

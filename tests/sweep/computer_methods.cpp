@@ -1,6 +1,9 @@
 #include "support/test_worlds.h"
 #include "sweep/method_call.h"
 
+#include <algorithm>
+#include <cstdio>
+
 namespace calvix::test::sweep
 {
 
@@ -18,10 +21,22 @@ Outcome ToAnsi(Manager& manager)
     return Told(manager.UnicodeToAnsi(L"Home", text.value.data()), text);
 }
 
+/// Longer than what conversions keep on the stack.
+const wchar_t* LongText()
+{
+    static const auto text = []
+    {
+        std::array<wchar_t, 301> filled{};
+        std::fill_n(filled.begin(), filled.size() - 1, L'x');
+        return filled;
+    }();
+    return text.data();
+}
+
 Outcome ToNarrow(Manager& manager)
 {
-    TextOutput<8> text;
-    return Told(manager.WideCharToChar(L"Home", text.value.data(), sizeof(text.value)), text);
+    TextOutput<512> text;
+    return Told(manager.WideCharToChar(LongText(), text.value.data(), sizeof(text.value)), text);
 }
 
 Outcome SsidText(Manager& manager)
@@ -76,14 +91,15 @@ Outcome EndProcess(Manager& manager)
 
 Outcome RunCommand(Manager& manager)
 {
-    std::string commandLine = std::string("\"C:\\Tools\\") + kProgram + "\" now";
+    std::array<char, 64> commandLine{};
+    std::snprintf(commandLine.data(), commandLine.size(), "\"C:\\Tools\\%s\" now", kProgram);
     manager.CreateProcRunCmd(commandLine.data());
     return Nothing();
 }
 
 Outcome RunProgram(Manager& manager)
 {
-    std::string program = kProgram;
+    auto program = std::to_array(kProgram);
     return Told(manager.CreateProcRunExe(program.data()));
 }
 

@@ -55,8 +55,8 @@ Outcome WithAttributes(const Method& method)
 template <typename Method>
 Outcome WithExcluded(const Method& method)
 {
-    std::vector<WLAN_BSS_ENTRY> excluded(1);
-    return Told(method(&excluded));
+    OutputList<WLAN_BSS_ENTRY> excluded;
+    return Told(method(&excluded.value), excluded);
 }
 
 Outcome ReadSsid(Manager& manager)

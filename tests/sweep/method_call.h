@@ -59,10 +59,14 @@ inline Outcome Nothing()
 template <typename Result, typename... Outputs>
 Outcome Told(Result result, const Outputs&... outputs)
 {
+    const AllocationPause notTheMethods;
+    Outcome outcome;
+    outcome.outputs = {outputs.Text()...};
     if constexpr (std::is_arithmetic_v<Result>)
-        return {static_cast<long long>(result), {}, {outputs.Text()...}};
+        outcome.code = static_cast<long long>(result);
     else
-        return {std::nullopt, result == nullptr ? "null" : reinterpret_cast<const char*>(result), {outputs.Text()...}};
+        outcome.text = result == nullptr ? "null" : reinterpret_cast<const char*>(result);
+    return outcome;
 }
 
 } // namespace calvix::test::sweep

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/allocation_counter.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -69,10 +71,16 @@ public:
         return text;
     }
 
-    std::vector<Entry> value = std::vector<Entry>(kEntriesBefore);
+    std::vector<Entry> value = WithEntries();
 
 private:
     static constexpr std::size_t kEntriesBefore = 77;
+
+    static std::vector<Entry> WithEntries()
+    {
+        const AllocationPause notTheMethods;
+        return std::vector<Entry>(kEntriesBefore);
+    }
 
     static std::string EntryText(const Entry& entry)
     {

@@ -12,10 +12,12 @@ namespace
 constexpr int kCapacity = 4096;
 
 /// A profile document that the service takes.
-std::wstring Document()
+const std::wstring& Document()
 {
-    const std::string xml = MakeProfile("NewNet").xml;
-    return {xml.begin(), xml.end()};
+    const AllocationPause notTheMethods;
+    static const std::string narrow = MakeProfile("NewNet").xml;
+    static const std::wstring xml(narrow.begin(), narrow.end());
+    return xml;
 }
 
 Outcome ReadWide(Manager& manager)

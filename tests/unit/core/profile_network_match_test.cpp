@@ -44,7 +44,8 @@ public:
     /// Places in the list of the networks that match.
     std::vector<std::ptrdiff_t> PlacesOf(const std::wstring& profile) const
     {
-        NetworksByProfile networks(List());
+        NetworksByProfile networks;
+        EXPECT_EQ(0u, networks.Take(List()));
         std::vector<std::ptrdiff_t> places;
         for (const WLAN_AVAILABLE_NETWORK* network : networks.Of(Profile(profile)))
             places.push_back(network - List().Network);
@@ -90,7 +91,8 @@ TEST(NetworksByProfileTest, ANameThatFillsItsRecordNeedsNoTerminator)
 TEST(NetworksByProfileTest, ProfilesMayBeAskedForInAnyOrderAndWalksMayBeLeft)
 {
     const Networks networks({L"A", L"B", L"A", L"C", L"B", L"A"});
-    NetworksByProfile byProfile(networks.List());
+    NetworksByProfile byProfile;
+    ASSERT_EQ(0u, byProfile.Take(networks.List()));
     const auto placesOf = [&](const std::wstring& name, std::size_t most)
     {
         std::vector<std::ptrdiff_t> places;
@@ -116,7 +118,8 @@ TEST(NetworksByProfileTest, ManyNamesAreToldApart)
     for (int index = 0; index < 3000; ++index)
         names.push_back(L"Network " + std::to_wstring(index % 1500));
     const Networks networks(names);
-    NetworksByProfile byProfile(networks.List());
+    NetworksByProfile byProfile;
+    ASSERT_EQ(0u, byProfile.Take(networks.List()));
     for (int index = 1499; index >= 0; --index)
     {
         std::vector<std::ptrdiff_t> places;

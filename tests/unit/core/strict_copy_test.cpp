@@ -1,5 +1,6 @@
 #include "core/strict_copy.h"
 
+#include "support/allocation_counter.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
 
@@ -53,6 +54,26 @@ TEST(StrictCopyTest, TheMessageNamesTheMethodAndTheMistake)
 {
     ExpectFatal([] { FatalCallerError("GetBSSID", "null source"); },
                 "calvix: fatal caller error in GetBSSID: null source\n");
+}
+
+TEST(StrictCopyTest, TheMessageNeedsNoMemory)
+{
+    struct Reported
+    {
+    };
+    static char seen[64];
+    const StrictCopyHandler before = SetStrictCopyHandler(
+        [](const char* message)
+        {
+            std::strncpy(seen, message, sizeof(seen) - 1);
+            throw Reported{};
+        });
+    {
+        const AllocationFailure failure(1);
+        EXPECT_THROW(FatalCallerError("GetBSSID", "null source"), Reported);
+    }
+    SetStrictCopyHandler(before);
+    EXPECT_STREQ("calvix: fatal caller error in GetBSSID: null source\n", seen);
 }
 
 TEST(StrictCopyTest, TheHandlerBeforeComesBack)

@@ -1,5 +1,6 @@
 #include "core/trace.h"
 
+#include "support/allocation_counter.h"
 #include "support/library_test.h"
 
 namespace calvix::test::trace_test
@@ -112,6 +113,15 @@ TEST(FormatTraceTest, WideTextThatCannotBeFormattedIsReportedAsCut)
     EXPECT_STREQ(L"", wide);
     char narrow[] = "gone";
     EXPECT_EQ(kTruncated, FormatTrace(narrow, 5, "%2000000d", 1));
+}
+
+TEST(FormatTraceTest, CutsWideTextToNothingWithoutMemory)
+{
+    wchar_t room[] = L"gone";
+    const AllocationFailure failure(1);
+    EXPECT_EQ(kTruncated, FormatTraceW(room, 5, L"%d", 1));
+    EXPECT_EQ(1u, failure.Refused());
+    EXPECT_EQ(L'\0', room[0]);
 }
 
 TEST(FormatTraceTest, FormatsAllThirtyTwoBitsOfAnErrorNumber)
