@@ -1,7 +1,6 @@
 #include "support/library_test.h"
 
 #include "core/trace.h"
-#include "support/allocation_counter.h"
 
 #include <algorithm>
 #include <cstring>
@@ -174,18 +173,6 @@ void LibraryTest::FailOn(std::string operation, DWORD error, unsigned from, unsi
 void LibraryTest::SetTracing(bool on)
 {
     g_bTraceOn = on ? 1 : 0;
-}
-
-std::size_t LibraryTest::CountLibraryAllocations(const std::function<void()>& body)
-{
-    PlatformCallsUncounted uncounted;
-    wrappers::InterceptedPlatform outermost(m_machine->platform, uncounted);
-    platform::Platform* const before = platform::ReplacePlatform(&outermost);
-    const AllocationCounter counter;
-    body();
-    const std::size_t count = counter.Count();
-    platform::ReplacePlatform(before);
-    return count;
 }
 
 void LibraryTest::ExpectNothingHeld()

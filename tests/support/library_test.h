@@ -92,9 +92,6 @@ public:
 
     void SetTracing(bool on);
 
-    /// How often the library itself allocates in `body`, platform calls aside.
-    std::size_t CountLibraryAllocations(const std::function<void()>& body);
-
     /// Fails the test when a block or a handle is held, a defect was noticed that was not announced, or more clients
     /// are open than the manager's.
     void ExpectNothingHeld();

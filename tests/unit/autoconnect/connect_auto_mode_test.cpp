@@ -227,9 +227,4 @@ TEST_F(ConnectAutoModeTest, Failures)
                     }}});
 }
 
-TEST_F(ConnectAutoModeTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(-9, manager().ConnectAutoMode(&kAdapterA)); }));
-}
-
 } // namespace calvix::test::connect_auto_mode_test

@@ -256,10 +256,4 @@ TEST_F(RoamingTest, ANullInterfaceIsTheServicesToRefuse)
     EXPECT_EQ(-4, manager().Roaming(nullptr));
 }
 
-TEST_F(RoamingTest, NeedsNoMemoryOfItsOwn)
-{
-    for (const auto& [name, method] : kMethods)
-        EXPECT_EQ(0u, CountLibraryAllocations([&, call = method] { EXPECT_EQ(0, call(manager())); })) << name;
-}
-
 } // namespace calvix::test::roaming_test

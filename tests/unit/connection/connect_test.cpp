@@ -518,18 +518,4 @@ TEST_F(ConnectTest, ANullInterfaceIsTheServicesToRefuse)
                                       "WlanConnect failed with error: 87", "WlanQueryInterface failed with error: 87"));
 }
 
-TEST_F(ConnectTest, NeedsNoMemoryOfItsOwn)
-{
-    const auto expectNone = [this](const char* name, long long (*method)(CWirelessManage&))
-    { EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, method(manager())); })) << name; };
-    auto record = kHome.Attributes();
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, manager().Reconnect(&kAdapterA, &record, 20)); }));
-    UseWorld(RichWorld());
-    expectNone("LinkProfile", LinkHomeNet);
-    UseWorld(RichWorld());
-    expectNone("ResetConnection", ResetA);
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, manager().RecoverConnection(&kAdapterA, &record)); }));
-    expectNone("Disconnect", DisconnectA);
-}
-
 } // namespace calvix::test::connect_test

@@ -346,14 +346,4 @@ TEST_F(CurrentConnectionTest, OpensTheClientWhenItIsNotOpen)
     EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
 }
 
-TEST_F(CurrentConnectionTest, NeedsNoMemoryOfItsOwn)
-{
-    WLAN_CONNECTION_ATTRIBUTES record{};
-    char ssid[33] = {};
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetCurrentConnection(&kAdapterA, &record); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetCurrentConnection(&record); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetCurrentSSID(ssid, sizeof ssid); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetCurrentSSID(ssid, sizeof ssid, &record); }));
-}
-
 } // namespace calvix::test::current_connection_test

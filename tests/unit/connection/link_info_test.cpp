@@ -196,12 +196,6 @@ TEST_F(LinkInfoTest, ANullInterfaceIsTheServicesToRefuse)
     EXPECT_EQ(77, info.state);
 }
 
-TEST_F(LinkInfoTest, NeedsNoMemoryOfItsOwn)
-{
-    LinkInfo info;
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { info.Ask(manager()); }));
-}
-
 // --- GetCurrentWiFi ---
 
 TEST_F(CurrentWiFiTest, CountsTheAccessPointsOfTheNetwork)
@@ -261,11 +255,6 @@ TEST_F(CurrentWiFiTest, NullArguments)
     WLAN_CONNECTION_ATTRIBUTES record = KeptAttributes();
     EXPECT_EQ(-4, manager().GetCurrentWiFi(nullptr, &record));
     EXPECT_EQ("WlanGetNetworkBssList failed with error: 87", sharedTrace());
-}
-
-TEST_F(CurrentWiFiTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { CountHomeNet(manager()); }));
 }
 
 } // namespace calvix::test::link_info_test

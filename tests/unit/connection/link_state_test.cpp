@@ -172,10 +172,4 @@ TEST_F(LinkStateTest, OpensTheClientWhenItIsNotOpen)
     }
 }
 
-TEST_F(LinkStateTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { Connected(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { Disconnected(manager()); }));
-}
-
 } // namespace calvix::test::link_state_test

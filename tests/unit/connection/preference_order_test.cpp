@@ -148,9 +148,4 @@ TEST_F(PreferenceOrderTest, AFailedMoveMovesNothing)
     EXPECT_EQ(L"HomeNet", Order().front());
 }
 
-TEST_F(PreferenceOrderTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, manager().SetCurrentWiFiToLast()); }));
-}
-
 } // namespace calvix::test::preference_order_test

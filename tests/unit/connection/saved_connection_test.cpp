@@ -420,15 +420,6 @@ TEST_F(SavedConnectionTest, ReconnectingFailures)
                           row("WlanConnect", -6, kConnectFailed)});
 }
 
-TEST_F(SavedConnectionTest, NeedsNoMemoryOfItsOwn)
-{
-    auto data = HomeNetNotification();
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, Save(manager())); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, Recover(manager())); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().SaveConnNotificationData(&data); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { EXPECT_EQ(0, RecoverNotification(manager())); }));
-}
-
 TEST_F(SavedConnectionTest, TheMemoryIsTheInstances)
 {
     EXPECT_EQ(0, Save(manager()));

@@ -118,10 +118,4 @@ TEST_F(StatisticsTest, OpensTheClientWhenItIsNotOpen)
     EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanQueryInterface", "WlanFreeMemory"));
 }
 
-TEST_F(StatisticsTest, NeedsNoMemoryOfItsOwn)
-{
-    _WIFI_TXRX_COUNT count{};
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetWlanStatistics(&kAdapterA, &count); }));
-}
-
 } // namespace calvix::test::statistics_test

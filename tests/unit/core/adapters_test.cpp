@@ -396,18 +396,4 @@ TEST_F(AdaptersTest, ErrorNumbersAreTracedWhole)
     EXPECT_EQ("WlanEnumInterfaces failed with error: 2150899714", sharedTrace());
 }
 
-TEST_F(AdaptersTest, NothingIsAllocated)
-{
-    GUID guid{};
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [&]
-                      {
-                          manager().GetWlanStatus(&kAdapterA);
-                          manager().GetWlanIsLink(&kAdapterA);
-                          manager().GetWlanInterfaceGuid(kAdapterBDescription, guid);
-                          manager().GetWlanInterfaceDesc(&kAdapterA);
-                          manager().GetWiFiAdapterCount();
-                      }));
-}
-
 } // namespace calvix::test::adapters_test

@@ -100,9 +100,4 @@ TEST_F(AutoConfigServiceTest, IgnoresAServiceThatDoesNotStart)
     ExpectSilence();
 }
 
-TEST_F(AutoConfigServiceTest, NothingIsAllocated)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().CheckAutoConfig(); }));
-}
-
 } // namespace calvix::test::auto_config_service_test

@@ -236,17 +236,4 @@ TEST_F(HexTextTest, ATextOfNoLengthGivesTerminatedZeroDigits)
     EXPECT_EQ(nullptr, manager().StringToHexString("A", 1, nullptr, 3));
 }
 
-TEST_F(HexTextTest, NothingIsAllocated)
-{
-    unsigned char bytes[8];
-    char text[17];
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [&]
-                      {
-                          manager().StringToHex("0A1B", 4, bytes, 8, kReversed);
-                          manager().HexToString(bytes, 8, text, 16, kFromEnd);
-                          manager().StringToHexString("Home", 4, bytes, 8);
-                      }));
-}
-
 } // namespace calvix::test::hex_text_test

@@ -71,15 +71,4 @@ TEST_F(InterfaceTextTest, TheTwoTextsDoNotDisturbEachOther)
     EXPECT_STREQ(kAdapterBText, guid);
 }
 
-TEST_F(InterfaceTextTest, NothingIsAllocated)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [this]
-                      {
-                          manager().GetWlanInterfaceState(1);
-                          manager().GetWlanInterfaceState(99);
-                          manager().GUID2String(kAdapterA);
-                      }));
-}
-
 } // namespace calvix::test::interface_text_test

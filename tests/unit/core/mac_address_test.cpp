@@ -65,15 +65,4 @@ TEST_F(MacAddressTest, GetBssidWithoutAnAddressIsAFatalCallerError)
     EXPECT_STREQ("kept", text);
 }
 
-TEST_F(MacAddressTest, NothingIsAllocated)
-{
-    char text[24];
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [&]
-                      {
-                          manager().FormMAC(kAddress, text);
-                          manager().GetBSSID(kAddress, text, 24);
-                      }));
-}
-
 } // namespace calvix::test::mac_address_test

@@ -178,12 +178,6 @@ TEST_F(NotificationsTest, ANullCallbackIsTheServicesToRefuse)
     EXPECT_EQ(0, manager().UnRegisterNotification(nullptr, nullptr));
 }
 
-TEST_F(NotificationsTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { Register(m_first); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { Unregister(manager()); }));
-}
-
 // --- What clients hear ---
 
 TEST_F(NotificationsTest, TheClientHearsOfAScanOnAThreadOfTheService)

@@ -215,15 +215,4 @@ TEST_F(SsidTextTest, WithoutADestinationNothingIsWritten)
     EXPECT_EQ(1, manager().GetSSID(&ssid, static_cast<wchar_t*>(nullptr), 8));
 }
 
-TEST_F(SsidTextTest, NothingIsAllocated)
-{
-    const DOT11_SSID ssid = MakeSsid("HomeNet");
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [&]
-                      {
-                          manager().GetSSID(&ssid, m_narrow, 128);
-                          manager().GetSSID(&ssid, m_wide, 128);
-                      }));
-}
-
 } // namespace calvix::test::ssid_text_test

@@ -119,11 +119,6 @@ TEST_F(TextConversionTest, UnicodeToAnsiWithoutATextOrADestinationFails)
     EXPECT_FALSE(manager().UnicodeToAnsi(L"HomeNet", nullptr));
 }
 
-TEST_F(TextConversionTest, UnicodeToAnsiAllocatesNothing)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().UnicodeToAnsi(L"HomeNet", m_room.bytes); }));
-}
-
 // --- WideCharToChar ---------------------------------------------------------------------------------------------
 
 TEST_F(TextConversionTest, WideCharToCharAsksForTheSizeAndConverts)

@@ -192,10 +192,4 @@ TEST_F(ConnectedNetworkTest, TheSecondAdapterIsNeverAsked)
 
 // --- Both ---
 
-TEST_F(ConnectedNetworkTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { IsGone(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { CurrentBss(manager()); }));
-}
-
 } // namespace calvix::test::connected_network_test

@@ -261,14 +261,4 @@ TEST_F(NetworkLookupTest, ANullInterfaceIsTheServicesToRefuse)
                                       "WlanGetAvailableNetworkList failed with error: 87"));
 }
 
-TEST_F(NetworkLookupTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { FindHomeNet(manager()); }));
-    DOT11_SSID wanted = MakeSsid("HomeNet");
-    EXPECT_EQ(
-        0u,
-        CountLibraryAllocations(
-            [&] { manager().GetNotConnectableReason(&kAdapterA, &wanted, kInfrastructure, m_connectable, m_reason); }));
-}
-
 } // namespace calvix::test::network_lookup_test

@@ -118,10 +118,4 @@ TEST_F(ReasonTextTest, ANullTextOrANegativeSizeIsThePlatformsToRefuse)
     EXPECT_TRUE(RoomUntouchedFrom(0));
 }
 
-TEST_F(ReasonTextTest, NeedsNoMemoryOfItsOwn)
-{
-    std::array<char, 300> room;
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().ReasonCode2String(kNotVisible, room.data(), 300); }));
-}
-
 } // namespace calvix::test::reason_text_test

@@ -125,11 +125,4 @@ TEST_F(ScanTest, DoesNotGoOnToTheSecondAdapterWhenTheFirstRefuses)
     EXPECT_EQ(kAdapterAText, call("WlanScan")["interface"]);
 }
 
-TEST_F(ScanTest, NeedsNoMemoryOfItsOwn)
-{
-    unsigned long error = 0;
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().Rescan(&kAdapterA, error); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().Rescan(); }));
-}
-
 } // namespace calvix::test::scan_test

@@ -424,14 +424,4 @@ TEST_F(SignalTest, ANullInterfaceIsTheServicesToRefuse)
     EXPECT_EQ(77, rssi);
 }
 
-TEST_F(SignalTest, NeedsNoMemoryOfItsOwn)
-{
-    int rssi = 0;
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetRssi(&kAdapterA, rssi); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetCurrentRSSI(&kAdapterA, rssi); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { HomeNetRssi(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { Quality(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetChannel(2437000); }));
-}
-
 } // namespace calvix::test::signal_test

@@ -335,9 +335,4 @@ TEST_F(SoftApTest, EveryFailureIsNo)
                   });
 }
 
-TEST_F(SoftApTest, SpecialSoftApNeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { Special(manager()); }));
-}
-
 } // namespace calvix::test::soft_ap_test

@@ -1,4 +1,3 @@
-#include "support/allocation_counter.h"
 #include "support/contract_table.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
@@ -410,20 +409,6 @@ TEST_F(ProfileListTest, TheClientIsOpenedFirstWhenNeeded)
             << i;
         EXPECT_TRUE(traced().empty());
     }
-}
-
-TEST_F(ProfileListTest, NothingIsAllocated)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [this]
-                      {
-                          manager().GetWlanProfile(&kAdapterA, "HomeNet");
-                          manager().GetProfileCount(&kAdapterA);
-                          manager().ResetProfilePosition(&kAdapterA, "HomeNet");
-                          manager().SetProfilePosition(&kAdapterA, L"HomeNet");
-                          manager().DeleteProfile(&kAdapterA, "OfficeNet");
-                          manager().DeleteProfile(&kAdapterA, L"no such name");
-                      }));
 }
 
 } // namespace calvix::test::profile_list_test

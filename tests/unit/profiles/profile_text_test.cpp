@@ -261,16 +261,4 @@ TEST_F(ProfileTextTest, TheClientIsOpenedFirstWhenNeeded)
     EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanSetProfile"));
 }
 
-TEST_F(ProfileTextTest, OnlyNarrowTextIsAllocatedFor)
-{
-    wchar_t wide[1024];
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [&]
-                      {
-                          manager().GetProfile(&kAdapterA, L"HomeNet", wide, 1024);
-                          manager().GetProfile(&kAdapterA, L"HomeNet");
-                          manager().SetProfile(&kAdapterA, L"<WLANProfile/>");
-                      }));
-}
-
 } // namespace calvix::test::profile_text_test

@@ -245,17 +245,4 @@ TEST_F(ProfileXmlTest, ModeOfAStoredProfileFailures)
                    {"IsAutoConnMode2(no interface)", noInterface, "", -4, {readFailed}, TraceBuffer::local, 87}});
 }
 
-TEST_F(ProfileXmlTest, NothingIsAllocated)
-{
-    const std::wstring xml = InSsid(L"<name>HomeNet</name>");
-    std::wstring ssid = L"HomeNet";
-    EXPECT_EQ(0u, CountLibraryAllocations(
-                      [&]
-                      {
-                          manager().IsThisSSID(xml.c_str(), ssid.data());
-                          manager().IsAutoConnMode(xml.c_str());
-                          manager().IsAutoConnMode2(&kAdapterA, L"HomeNet");
-                      }));
-}
-
 } // namespace calvix::test::profile_xml_test

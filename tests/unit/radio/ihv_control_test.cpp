@@ -201,12 +201,4 @@ TEST_F(IhvControlTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
     EXPECT_EQ(kUnseen, returned);
 }
 
-TEST_F(IhvControlTest, NeedsNoMemoryOfItsOwn)
-{
-    unsigned char buffer[4] = {1, 2, 3, 4};
-    unsigned long returned = 0;
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().IhvControl(&kAdapterA, buffer, 4, returned); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().SetIhvSecuritySettings(); }));
-}
-
 } // namespace calvix::test::ihv_control_test

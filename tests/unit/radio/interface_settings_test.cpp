@@ -203,13 +203,4 @@ TEST_F(InterfaceSettingsTest, PowerLevelsHaveThePlatformsNames)
     EXPECT_THAT(timeline(), IsEmpty());
 }
 
-TEST_F(InterfaceSettingsTest, NeedsNoMemoryOfItsOwn)
-{
-    unsigned long level = 0;
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { AutoCfg(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { BackgroundScan(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetPowerSetting(level); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().GetPowerSettingStr(1); }));
-}
-
 } // namespace calvix::test::interface_settings_test

@@ -233,18 +233,4 @@ TEST_F(RadioStateTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
     }
 }
 
-TEST_F(RadioStateTest, NeedsNoMemoryOfItsOwn)
-{
-    for (const RadioMethod& method : kMethods)
-    {
-        // Its checks of the outputs are this file's own.
-        if (method.call == IsOn2Outputs)
-            continue;
-        EXPECT_EQ(0u, CountLibraryAllocations([&] { method.call(manager()); })) << method.name;
-    }
-    Switches seen;
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().PhyRadioIsOn2(&kAdapterA, seen.software, seen.hardware); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { SafeMode(manager()); }));
-}
-
 } // namespace calvix::test::radio_state_test

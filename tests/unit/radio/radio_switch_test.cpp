@@ -243,13 +243,4 @@ TEST_F(RadioSwitchTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
     }
 }
 
-TEST_F(RadioSwitchTest, NeedsNoMemoryOfItsOwn)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { On(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { OnByItsOtherName(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { Off(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { Reset(manager()); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().RestartWiFiRadio(&kAdapterA); }));
-}
-
 } // namespace calvix::test::radio_switch_test

@@ -100,12 +100,6 @@ TEST_F(LibraryTestTest, SurvivesATestThatDeletesTheManager)
     CWirelessManage::Delete();
 }
 
-TEST_F(LibraryTestTest, CountsTheLibrarysOwnAllocationsOnly)
-{
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().Rescan(); }));
-    EXPECT_EQ(1u, CountLibraryAllocations([] { ::operator delete(::operator new(1)); }));
-}
-
 TEST_F(LibraryTestTest, AcceptsRowsThatHold)
 {
     const auto rescan = [](CWirelessManage& m) { return m.Rescan(); };

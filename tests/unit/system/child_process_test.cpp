@@ -240,15 +240,5 @@ TEST_F(ChildProcessTest, TheProcessHandleIsClosedBeforeTheThreads)
     EXPECT_NE(call("WaitForSingleObject")["handle"], call("CloseHandle", 2)["handle"]);
 }
 
-TEST_F(ChildProcessTest, NeedNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().CloseProcess(kRunning); });
-    ExpectNoClientNeeded([this] { RunCommand("C:\\Windows\\elsewhere.exe"); });
-    ExpectNoClientNeeded([this] { RunProgram("worker.exe"); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().CloseProcess(kOther); }));
-    char commandLine[] = "C:\\Windows\\elsewhere.exe";
-    EXPECT_EQ(0u, CountLibraryAllocations([&] { manager().CreateProcRunCmd(commandLine); }));
-}
-
 } // namespace
 } // namespace calvix::test::child_process_test

@@ -41,11 +41,5 @@ TEST_F(ComputerSleepTest, ARefusalIsPassedOn)
     ExpectSilence();
 }
 
-TEST_F(ComputerSleepTest, NeedsNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().ForceComputerSleep(); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().ForceComputerSleep(); }));
-}
-
 } // namespace
 } // namespace calvix::test::computer_sleep_test

@@ -106,11 +106,5 @@ TEST_F(HostProgramTest, EveryCallOverwritesTheText)
     EXPECT_STREQ("C:\\Tools\\", first);
 }
 
-TEST_F(HostProgramTest, NeedsNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().GetAppPath(); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().GetAppPath(); }));
-}
-
 } // namespace
 } // namespace calvix::test::host_program_test

@@ -51,11 +51,5 @@ TEST_F(InternetProbeTest, ProbesWithoutTheTimeOutWhenItIsRefused)
     ExpectSilence();
 }
 
-TEST_F(InternetProbeTest, NeedsNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().OpenUrl(); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().OpenUrl(); }));
-}
-
 } // namespace
 } // namespace calvix::test::internet_probe_test

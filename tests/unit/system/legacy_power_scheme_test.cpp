@@ -287,15 +287,5 @@ TEST_F(LegacyPowerSchemeTest, ThePolicyGoesToWhicheverSchemeIsActive)
     ExpectIdleTimeouts(kActive, 0, 0);
 }
 
-// --- both ---
-
-TEST_F(LegacyPowerSchemeTest, NeedNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().SetPowerScheme(); });
-    ExpectNoClientNeeded([this] { manager().ResetPowerScheme(); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().SetPowerScheme(); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().ResetPowerScheme(); }));
-}
-
 } // namespace
 } // namespace calvix::test::legacy_power_scheme_test

@@ -238,25 +238,5 @@ TEST_F(PowerFactsTest, OnlyTheLastOfItsQuestionsMatters)
     }
 }
 
-// --- all of them ---
-
-TEST_F(PowerFactsTest, NeedNeitherAClientNorMemory)
-{
-    std::vector<Question> all = Questions();
-    all.push_back(
-        {"GetSystemPowerPolicy", [](CWirelessManage& m) -> long long { return m.GetSystemPowerPolicy(); }, {}, {}, {}});
-    all.push_back({"IsPowerHibernateAllowed",
-                   [](CWirelessManage& m) -> long long { return m.IsPowerHibernateAllowed(); },
-                   {},
-                   {},
-                   {}});
-    for (const Question& question : all)
-    {
-        SCOPED_TRACE(question.method);
-        ExpectNoClientNeeded([&] { question.ask(manager()); });
-        EXPECT_EQ(0u, CountLibraryAllocations([&] { question.ask(manager()); }));
-    }
-}
-
 } // namespace
 } // namespace calvix::test::power_facts_test

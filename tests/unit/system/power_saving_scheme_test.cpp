@@ -229,11 +229,5 @@ TEST_F(PowerSavingSchemeTest, AnyErrorEndsTheListing)
     }
 }
 
-TEST_F(PowerSavingSchemeTest, NeedsNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().GetPowerScheme(); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().GetPowerScheme(); }));
-}
-
 } // namespace
 } // namespace calvix::test::power_saving_scheme_test

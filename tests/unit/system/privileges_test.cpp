@@ -195,15 +195,5 @@ TEST_F(PrivilegesTest, TheLastErrorAloneDecides)
     ExpectSilence();
 }
 
-// --- both ---
-
-TEST_F(PrivilegesTest, NeedNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().GetPrivileges(); });
-    ExpectNoClientNeeded([this] { manager().EnablePriviledge(kTimeZone); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().GetPrivileges(); }));
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().EnablePriviledge(kTimeZone); }));
-}
-
 } // namespace
 } // namespace calvix::test::privileges_test

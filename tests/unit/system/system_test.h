@@ -18,16 +18,6 @@ public:
         EXPECT_TRUE(sharedTraceUntouched());
         ExpectNothingHeld();
     }
-
-    /// Runs a method without the client handle, which it has to leave unopened.
-    template <typename Method>
-    void ExpectNoClientNeeded(Method method)
-    {
-        ForgetClient();
-        method();
-        EXPECT_EQ(0u, callCount("WlanOpenHandle"));
-        EXPECT_EQ(nullptr, ManagerInternals::Client());
-    }
 };
 
 } // namespace calvix::test

@@ -99,11 +99,5 @@ TEST_F(Wow64Test, TheFlagComesOutAsItIs)
     EXPECT_EQ(7, manager().IsWow64());
 }
 
-TEST_F(Wow64Test, NeedsNeitherAClientNorMemory)
-{
-    ExpectNoClientNeeded([this] { manager().IsWow64(); });
-    EXPECT_EQ(0u, CountLibraryAllocations([this] { manager().IsWow64(); }));
-}
-
 } // namespace
 } // namespace calvix::test::wow64_test
