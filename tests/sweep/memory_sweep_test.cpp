@@ -97,6 +97,18 @@ simulation::Scenario Crowded()
     return world;
 }
 
+/// More adapters than an output list has entries before.
+simulation::Scenario ManyAdapters()
+{
+    simulation::Scenario world = sweep::Worlds().front().make();
+    for (int number = 100; number < 200; ++number)
+    {
+        world.adapters.push_back(world.adapters[0]);
+        world.adapters.back().guid.replace(1, 3, std::to_string(number));
+    }
+    return world;
+}
+
 /// Where the methods are called.
 struct Setting
 {
@@ -110,6 +122,7 @@ std::vector<Setting> Settings()
     std::vector<Setting> settings;
     for (const sweep::World& world : sweep::Worlds())
         settings.push_back({world.name, world.make()});
+    settings.push_back({"many adapters", ManyAdapters()});
     settings.push_back({"crowded", Crowded()});
     settings.push_back({"crowded and refusing", Crowded(), true});
     return settings;
