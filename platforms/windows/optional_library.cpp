@@ -5,7 +5,8 @@
 namespace calvix::windows
 {
 
-OptionalLibrary::OptionalLibrary(const wchar_t* fileName) : module_(::LoadLibraryW(fileName))
+OptionalLibrary::OptionalLibrary(const wchar_t* fileName, DWORD alsoSearched)
+    : module_(::LoadLibraryExW(fileName, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32 | alsoSearched))
 {
     if (module_ == nullptr)
         error_ = ::GetLastError();

@@ -7,12 +7,14 @@
 namespace calvix::windows
 {
 
-/// A DLL that a computer may lack. It is looked for by its plain name when the object is made, so that an application
-/// can put its own beside itself. It stays loaded as long as the process lives: its threads may be inside it.
+/// A DLL that a computer may lack. It is looked for in the system's folder when the object is made, never in the current
+/// folder or along PATH, where anybody may have put another. It stays loaded as long as the process lives: its threads may
+/// be inside it.
 class OptionalLibrary
 {
 public:
-    explicit OptionalLibrary(const wchar_t* fileName);
+    /// `alsoSearched` adds folders, LOAD_LIBRARY_SEARCH_APPLICATION_DIR say, which comes before the system's.
+    explicit OptionalLibrary(const wchar_t* fileName, DWORD alsoSearched = 0);
 
     /// The export's address, or null with the reason in `error` [out]: ERROR_PROC_NOT_FOUND, what kept the library from
     /// being loaded (ERROR_MOD_NOT_FOUND when there is none), or ERROR_CALL_NOT_IMPLEMENTED for what Wine exports

@@ -11,7 +11,8 @@ namespace
 /// What wlanapi.dll exports, absent on a Windows Server without the wireless feature.
 struct WlanExports
 {
-    OptionalLibrary library{L"wlanapi.dll"};
+    /// Beside the program first: a simulation may stand in for the service there.
+    OptionalLibrary library{L"wlanapi.dll", LOAD_LIBRARY_SEARCH_APPLICATION_DIR};
     OptionalExport<decltype(&::WlanOpenHandle)> WlanOpenHandle{library, "WlanOpenHandle"};
     OptionalExport<decltype(&::WlanCloseHandle)> WlanCloseHandle{library, "WlanCloseHandle"};
     OptionalExport<decltype(&::WlanEnumInterfaces)> WlanEnumInterfaces{library, "WlanEnumInterfaces"};

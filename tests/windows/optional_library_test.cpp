@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace
 {
 
@@ -39,6 +41,55 @@ TEST(OptionalLibrary, FindsAnExportAndClearsTheError)
     EXPECT_EQ(library.Find("GetTickCount", error),
               ::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "GetTickCount"));
     EXPECT_EQ(error, static_cast<DWORD>(ERROR_SUCCESS));
+}
+
+/// The current folder, with a DLL in it, and back to the former one.
+class FolderWithALibrary
+{
+public:
+    FolderWithALibrary()
+    {
+        wchar_t program[MAX_PATH] = {};
+        ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+        const std::wstring beside = std::wstring(program).substr(0, std::wstring(program).find_last_of(L'\\') + 1);
+        wchar_t temporary[MAX_PATH] = {};
+        ::GetTempPathW(MAX_PATH, temporary);
+        ::GetCurrentDirectoryW(MAX_PATH, former_);
+        folder_ = std::wstring(temporary) + L"calvix-planted-" + std::to_wstring(::GetCurrentProcessId());
+        EXPECT_TRUE(::CreateDirectoryW(folder_.c_str(), nullptr));
+        EXPECT_TRUE(::CopyFileW((beside + L"calvix.dll").c_str(), (folder_ + L"\\calvix-planted.dll").c_str(), FALSE));
+        EXPECT_TRUE(::SetCurrentDirectoryW(folder_.c_str()));
+    }
+    FolderWithALibrary(const FolderWithALibrary&) = delete;
+    FolderWithALibrary& operator=(const FolderWithALibrary&) = delete;
+    ~FolderWithALibrary()
+    {
+        ::SetCurrentDirectoryW(former_);
+        ::DeleteFileW((folder_ + L"\\calvix-planted.dll").c_str());
+        ::RemoveDirectoryW(folder_.c_str());
+    }
+
+private:
+    std::wstring folder_;
+    wchar_t former_[MAX_PATH] = {};
+};
+
+TEST(OptionalLibrary, IsNotTakenFromTheCurrentFolder)
+{
+    const FolderWithALibrary current;
+    DWORD error = ERROR_SUCCESS;
+    EXPECT_EQ(OptionalLibrary(L"calvix-planted.dll").Find("Anything", error), nullptr);
+    EXPECT_EQ(error, static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+    EXPECT_EQ(::GetModuleHandleW(L"calvix-planted.dll"), nullptr);
+}
+
+TEST(OptionalLibrary, IsTakenFromTheProgramsFolderOnlyWhereThatIsSaid)
+{
+    DWORD error = ERROR_SUCCESS;
+    OptionalLibrary(L"calvix.dll").Find("Anything", error);
+    EXPECT_EQ(error, static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+    OptionalLibrary(L"calvix.dll", LOAD_LIBRARY_SEARCH_APPLICATION_DIR).Find("Anything", error);
+    EXPECT_EQ(error, static_cast<DWORD>(ERROR_PROC_NOT_FOUND)) << "found, without this export";
 }
 
 TEST(OptionalExport, MissingErrorNumberOperationAnswersWithTheReason)
