@@ -102,9 +102,15 @@ void AppendEscape(std::string& text, char byte)
     ((text += "\\x") += kDigits[value >> 4]) += kDigits[value & 0xFU];
 }
 
+/// Marks that turn the direction of the text behind them.
+bool IsDirectionMark(char32_t c)
+{
+    return c == 0x061C || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069);
+}
+
 bool IsControl(char32_t c)
 {
-    return c < 0x20 || (c >= 0x7F && c < 0xA0);
+    return c < 0x20 || (c >= 0x7F && c < 0xA0) || IsDirectionMark(c);
 }
 
 std::optional<unsigned> DigitValue(char c)

@@ -32,6 +32,21 @@ TEST(VisibleText, EscapesWhatWouldMoveTheCursor)
     EXPECT_EQ("\\xC2\\x9B", VisibleText("\xC2\x9B"));
 }
 
+// A name could otherwise show what stands behind it in another order than it has.
+TEST(VisibleText, EscapesWhatWouldTurnTheDirection)
+{
+    EXPECT_EQ("a\\xE2\\x80\\xAEb", VisibleText("a\u202Eb"));
+    for (const char* mark : {"\u061C", "\u200E", "\u200F", "\u202A", "\u202B", "\u202C", "\u202D", "\u202E", "\u2066",
+                             "\u2067", "\u2068", "\u2069"})
+    {
+        EXPECT_NE(mark, VisibleText(mark));
+        EXPECT_EQ(mark, BytesOfVisibleText(VisibleText(mark)));
+    }
+    for (const char* letter :
+         {"\u061B", "\u061D", "\u200D", "\u2010", "\u202F", "\u2065", "\u206A", "\u05E9", "\u0634"})
+        EXPECT_EQ(letter, VisibleText(letter)) << "no mark of direction";
+}
+
 TEST(VisibleText, CanBeTurnedBack)
 {
     for (const std::string& bytes : {std::string("Caf\xE9"), std::string("\\xE9"), std::string("a\\b"),
