@@ -68,13 +68,11 @@ void SaveAfterFailure(Host& host)
     }
 }
 
-} // namespace
-
-int Run(const std::vector<std::string>& arguments,
-        std::istream& in,
-        std::ostream& out,
-        std::ostream& err,
-        TerminalTraits terminal)
+int CarryOutArguments(const std::vector<std::string>& arguments,
+                      std::istream& in,
+                      std::ostream& out,
+                      std::ostream& err,
+                      TerminalTraits terminal)
 {
     ExitCode parsed = ExitCode::success;
     const std::optional<Request> request = ParseArguments(arguments, out, err, parsed);
@@ -93,6 +91,24 @@ int Run(const std::vector<std::string>& arguments,
     if (failure->exitCode != ExitCode::badInput)
         SaveAfterFailure(host);
     return EndRecording(host, exitCode);
+}
+
+} // namespace
+
+int Run(const std::vector<std::string>& arguments,
+        std::istream& in,
+        std::ostream& out,
+        std::ostream& err,
+        TerminalTraits terminal)
+{
+    const int exitCode = CarryOutArguments(arguments, in, out, err, terminal);
+    if (out.flush())
+        return exitCode;
+    const Failure unwritten =
+        OperationFailure("the output could not be written", "check where it goes: a full disk, or "
+                                                            "a program that has ended");
+    PrintFailure(err, unwritten.report(), terminal);
+    return exitCode != static_cast<int>(ExitCode::success) ? exitCode : static_cast<int>(ExitCode::failed);
 }
 
 } // namespace calvix::host

@@ -362,5 +362,29 @@ TEST_F(HostProgram, RunsAsAProcess)
     EXPECT_EQ(kBadInput, RunProgram("frobnicate 2> \"" + output + "\""));
 }
 
+/// A destination that takes nothing.
+class FullDisk : public std::streambuf
+{
+};
+
+TEST_F(HostProgram, AnOutputThatCannotBeWrittenIsAFailure)
+{
+    for (const char* argument : {"networks", "--help", "--version"})
+    {
+        FullDisk full;
+        std::istringstream in;
+        std::ostream out(&full);
+        std::ostringstream err;
+        EXPECT_EQ(kFailed, host::Run({argument}, in, out, err, {})) << argument;
+        EXPECT_THAT(err.str(), HasSubstr("calvix: the output could not be written")) << argument;
+    }
+    FullDisk full;
+    std::istringstream in;
+    std::ostream out(&full);
+    std::ostringstream err;
+    EXPECT_EQ(kBadInput, host::Run({"explain", "ConnectBestAP", "nonsense", "--json"}, in, out, err, {}))
+        << "a failure keeps its own code";
+}
+
 } // namespace
 } // namespace calvix::test::usage_test
