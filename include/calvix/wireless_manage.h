@@ -50,9 +50,9 @@ struct ManagerInternals; // the library's own tests
 ///   It refuses scans and lists of networks in the latter case, too.
 /// - Failures are formatted as trace lines, which reach the debugger (OutputDebugStringA) while tracing is on. Nothing
 ///   in the library switches it on.
-/// - Narrow text is in the active code page. "Narrow text of the C locale", and names in traces, follow the locale that
-///   is current in the call, with '?' for each character that it lacks. Wide text is terminated. Capacities count the
-///   terminator. Names and SSIDs are compared whole and exactly, upper and lower case included.
+/// - Narrow text is in the active code page. What a method gives in the current C locale, and names in traces, have '?'
+///   for each character that the locale lacks. Wide text is terminated. Capacities count the terminator. Names and
+///   SSIDs are compared whole and exactly, upper and lower case included.
 /// - Threading: no locks. Callers serialise their calls; every call runs on the caller's thread.
 class CALVIX_API CWirelessManage
 {

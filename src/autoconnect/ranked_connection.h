@@ -9,16 +9,16 @@ namespace calvix
 {
 
 /// Ranks the candidates and asks for a connection to one after the other, from the lowest score upward, until a request
-/// is accepted: 0. Otherwise -9 no candidate, -10 BSS list failed, -11 BSS list empty, -12 every request refused.
+/// is accepted: 0. Otherwise the code of ConnectBestAP.
 int ConnectCandidates(HANDLE client,
                       const GUID* interfaceGuid,
                       const WLAN_AVAILABLE_NETWORK_LIST& networks,
                       Candidates& candidates,
                       Trace& trace);
 
-/// The same from the start: opens the client handle (-1), lists profiles (-4, none -5) and networks (-6, none -7), and
-/// takes as candidates the networks of the profiles that `usesProfile(profile)` lets through, in profile order, then
-/// network order, as far as `accepts(network)` does.
+/// The same from the start: opens the client handle, lists profiles and networks, and takes as candidates the networks
+/// of the profiles that `usesProfile(profile)` lets through, in profile order, then network order, as far as
+/// `accepts(network)` does.
 template <typename UsesProfile, typename Accepts>
 int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesProfile usesProfile, Accepts accepts)
 {
