@@ -8,14 +8,6 @@
 namespace calvix::test::every_method
 {
 
-Answer OneOf(std::initializer_list<int> codes)
-{
-    std::vector<std::string> answers;
-    for (const int code : codes)
-        answers.push_back(std::to_string(code));
-    return testing::AnyOfArray(answers);
-}
-
 Answer AnErrorNumber()
 {
     return testing::Truly(

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 
 #include <cstring>
-#include <initializer_list>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -44,8 +43,6 @@ inline Answer Is(long long code)
 {
     return testing::StrEq(std::to_string(code));
 }
-
-Answer OneOf(std::initializer_list<int> codes);
 
 /// A positive number, whichever the system chose.
 Answer AnErrorNumber();
