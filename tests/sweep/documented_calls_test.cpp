@@ -2,6 +2,7 @@
 
 #include "sweep/bench.h"
 #include "sweep/worlds.h"
+#include "wrappers/call_log.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -103,6 +104,35 @@ TEST(DocumentedCalls, AreThoseOfEveryMethod)
             everMade.insert(made.begin(), made.end());
         }
         EXPECT_EQ(everMade, documented.always);
+    }
+}
+
+/// The calls of the WLAN service, with their arguments, where the client handle is not open.
+std::vector<std::string> ServiceCalls(sweep::Bench& bench, wrappers::CallLog& log, const sweep::MethodCall& method)
+{
+    bench.Prepare(method);
+    log.Clear();
+    bench.Call(method);
+    std::vector<std::string> lines = log.Lines();
+    std::erase_if(lines, [](const std::string& line)
+                  { return !line.starts_with("Wlan") || line.starts_with("WlanReasonCodeToString"); });
+    return lines;
+}
+
+TEST(DocumentedCalls, BeginWithOpeningTheClientWhichStaysOpen)
+{
+    for (const sweep::MethodCall& method : sweep::EveryMethod())
+    {
+        SCOPED_TRACE(method.declaration);
+        wrappers::CallLog log;
+        sweep::Bench bench(sweep::Worlds().front().make(), log);
+        const std::vector<std::string> calls = ServiceCalls(bench, log, method);
+        if (calls.empty() || !method.opensClient)
+            continue;
+        EXPECT_EQ(calls.front(),
+                  "WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)");
+        EXPECT_EQ(log.Count("WlanOpenHandle"), 1U);
+        EXPECT_EQ(bench.Audit().openClients, 1U);
     }
 }
 

@@ -422,8 +422,14 @@ TEST_F(HostileRecordsTest, NullRecordsAreRefusedBeforeAnythingElse)
 TEST_F(HostileRecordsTest, RadioStateWithoutItsFirstPhyHasNone)
 {
     constexpr DWORD kCountOnly = offsetof(WLAN_RADIO_STATE, PhyRadioState);
-    const AlteredAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = kCountOnly; }});
-    EXPECT_EQ(-5, Result("PhyRadioIsOn2"));
+    constexpr DWORD kWithPhy = kCountOnly + sizeof(WLAN_PHY_RADIO_STATE);
+    for (const DWORD told : {kCountOnly, kWithPhy - 1})
+    {
+        const AlteredAnswers altered({.query = [told](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = told; }});
+        EXPECT_EQ(-5, Result("PhyRadioIsOn2")) << told;
+    }
+    const AlteredAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = kWithPhy; }});
+    EXPECT_EQ(1, Result("PhyRadioIsOn2"));
 }
 
 // --- Names that fill their array ---
