@@ -56,14 +56,14 @@ private:
 template <std::size_t Size>
 using TextOutput = Output<std::array<char, Size>>;
 
-/// A container for a method to fill, with more entries of its own before than any method finds.
+/// A container for a method to fill, with one empty entry of its own before, and room for no more.
 template <typename Entry>
 class OutputList
 {
 public:
     std::string Text() const
     {
-        if (value.size() == kEntriesBefore)
+        if (value.size() == 1 && EntryText(value.front()) == EntryText(Entry())) // zero to the last byte
             return kUntouched;
         std::string text = std::to_string(value.size()) + " entries";
         for (const Entry& entry : value)
@@ -71,15 +71,13 @@ public:
         return text;
     }
 
-    std::vector<Entry> value = WithEntries();
+    std::vector<Entry> value = WithOneEntry();
 
 private:
-    static constexpr std::size_t kEntriesBefore = 77;
-
-    static std::vector<Entry> WithEntries()
+    static std::vector<Entry> WithOneEntry()
     {
         const AllocationPause notTheMethods;
-        return std::vector<Entry>(kEntriesBefore);
+        return std::vector<Entry>(1);
     }
 
     static std::string EntryText(const Entry& entry)

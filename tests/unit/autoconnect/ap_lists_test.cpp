@@ -240,15 +240,6 @@ TEST_F(ApListsTest, ANullNameIsRefusedOnceTheContainerIsEmptied)
     EXPECT_TRUE(traced().empty());
 }
 
-TEST_F(ApListsTest, TheClientIsOpenedFirstWhenNeeded)
-{
-    ForgetClient();
-    MatchingEntries();
-    EXPECT_EQ("WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)",
-              callLines().front());
-    EXPECT_EQ(1u, callCount("WlanOpenHandle"));
-}
-
 // --- GetMatchAPList ---------------------------------------------------------------------------------------------
 
 TEST_F(ApListsTest, EveryMatchingNetworkIsAskedForInProfileOrder)

@@ -110,17 +110,6 @@ TEST_F(BestApTest, AllOverloadsWalkAlike)
     }
 }
 
-TEST_F(BestApTest, TheClientIsOpenedFirstWhenNeeded)
-{
-    for (const Overload& overload : Overloads())
-    {
-        ForgetClient();
-        EXPECT_EQ(0, overload.call(manager())) << overload.name;
-        EXPECT_EQ("WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)",
-                  callLines().front());
-    }
-}
-
 TEST_F(BestApTest, ARefusedRequestIsFollowedByTheNext)
 {
     FailOn("WlanConnect", 5, 1, 1);

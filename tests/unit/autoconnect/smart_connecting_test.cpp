@@ -129,13 +129,6 @@ TEST_F(SmartConnectingTest, NothingToConnectTo)
     expectNothing();
 }
 
-TEST_F(SmartConnectingTest, OpensTheClientWhenItIsNotOpen)
-{
-    ForgetClient();
-    EXPECT_EQ(0, manager().SmartConnecting(nullptr, nullptr));
-    EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
-}
-
 TEST_F(SmartConnectingTest, Failures)
 {
     const char* const name = "SmartConnecting";

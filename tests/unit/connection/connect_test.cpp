@@ -483,19 +483,6 @@ TEST_F(ConnectTest, LargeErrorNumbersComeThroughInAllTheirBits)
                             "WlanConnect failed with error: 2150899714"));
 }
 
-TEST_F(ConnectTest, TheClientIsOpenedWhenItIsNotOpen)
-{
-    const auto reconnect = [](CWirelessManage& m) -> long long { return kReconnectForms[1].call(m, kHome, 20); };
-    for (const std::function<long long(CWirelessManage&)>& method :
-         std::vector<std::function<long long(CWirelessManage&)>>{LinkHomeNet, reconnect, RecoverHomeNet, DisconnectA})
-    {
-        ForgetClient();
-        EXPECT_EQ(0, method(manager()));
-        EXPECT_EQ("WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)",
-                  callLines().front());
-    }
-}
-
 TEST_F(ConnectTest, ANullRecordIsRefusedBeforeAnything)
 {
     ForgetClient();

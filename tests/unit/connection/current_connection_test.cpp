@@ -337,13 +337,4 @@ TEST_F(CurrentConnectionTest, ANullSsidBufferIsLeftAlone)
 
 // --- All ---
 
-TEST_F(CurrentConnectionTest, OpensTheClientWhenItIsNotOpen)
-{
-    ForgetClient();
-    WLAN_CONNECTION_ATTRIBUTES record = Marked();
-    EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &record));
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanQueryInterface", "WlanFreeMemory"));
-    EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
-}
-
 } // namespace calvix::test::current_connection_test

@@ -162,14 +162,4 @@ TEST_F(LinkStateTest, EveryFailureReadsAsNo)
           .prepare = UseNoAdapter}});
 }
 
-TEST_F(LinkStateTest, OpensTheClientWhenItIsNotOpen)
-{
-    for (const auto ask : {Connected, Disconnected})
-    {
-        ForgetClient();
-        ask(manager());
-        EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanEnumInterfaces", "WlanFreeMemory"));
-    }
-}
-
 } // namespace calvix::test::link_state_test

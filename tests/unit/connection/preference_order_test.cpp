@@ -107,13 +107,6 @@ TEST_F(PreferenceOrderTest, OnlyTheFirstInterfaceIsLookedAt)
     EXPECT_EQ(kAdapterAText, call("WlanQueryInterface")["interface"]);
 }
 
-TEST_F(PreferenceOrderTest, OpensTheClientWhenItIsNotOpen)
-{
-    ForgetClient();
-    EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
-    EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
-}
-
 TEST_F(PreferenceOrderTest, Failures)
 {
     const char* const name = "SetCurrentWiFiToLast";

@@ -110,12 +110,4 @@ TEST_F(StatisticsTest, NullArguments)
     EXPECT_EQ("WlanQueryInterface failed with error: 87", sharedTrace());
 }
 
-TEST_F(StatisticsTest, OpensTheClientWhenItIsNotOpen)
-{
-    ForgetClient();
-    _WIFI_TXRX_COUNT count{};
-    EXPECT_EQ(0, manager().GetWlanStatistics(&kAdapterA, &count));
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanQueryInterface", "WlanFreeMemory"));
-}
-
 } // namespace calvix::test::statistics_test

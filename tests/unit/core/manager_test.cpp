@@ -102,15 +102,6 @@ TEST_F(ManagerTest, TheNextCallTriesToOpenTheClientAgain)
     EXPECT_NE(nullptr, ManagerInternals::Client());
 }
 
-TEST_F(ManagerTest, AMethodOpensTheClientInTheSameWay)
-{
-    ForgetClient();
-    EXPECT_EQ(2, manager().GetWiFiAdapterCount());
-    EXPECT_EQ("WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)",
-              callLines().front());
-    EXPECT_NE(nullptr, ManagerInternals::Client());
-}
-
 TEST_F(ManagerTest, AFreshInstanceIsZeroButForTheSavedMode)
 {
     ForgetManager();

@@ -63,20 +63,6 @@ TEST_F(ScanTest, ReturnsBeforeTheScanIsDone)
     EXPECT_EQ(0, manager().GetNetworkBssCount());
 }
 
-TEST_F(ScanTest, OpensTheClientWhenItIsNotOpen)
-{
-    ForgetClient();
-    unsigned long error = 77;
-    EXPECT_EQ(0, manager().Rescan(&kAdapterA, error));
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanScan"));
-    EXPECT_EQ("2", call("WlanOpenHandle")["clientVersion"]);
-
-    ForgetClient();
-    EXPECT_EQ(0, manager().Rescan());
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanEnumInterfaces", "WlanScan", "WlanFreeMemory"));
-    EXPECT_NE(nullptr, ManagerInternals::Client()) << "the handle stays open";
-}
-
 TEST_F(ScanTest, EveryWayToFail)
 {
     constexpr unsigned kPowerState = 2150899714;

@@ -390,25 +390,4 @@ TEST_F(ProfileListTest, DeleteProfileOfAnUnknownOrNullNameIsRefused)
 
 // --- The client handle and cost ---------------------------------------------------------------------------------
 
-TEST_F(ProfileListTest, TheClientIsOpenedFirstWhenNeeded)
-{
-    const std::vector<std::function<void(CWirelessManage&)>> methods = {
-        [](auto& m) { m.GetWlanProfile(&kAdapterA, "HomeNet"); },
-        [](auto& m) { m.GetProfileCount(&kAdapterA); },
-        [](auto& m) { m.ResetProfilePosition(&kAdapterA, "HomeNet"); },
-        [](auto& m) { m.SetProfilePosition(&kAdapterA, L"HomeNet"); },
-        [](auto& m) { m.DeleteProfile(&kAdapterA, "OfficeNet"); },
-        [](auto& m) { m.DeleteProfile(&kAdapterA, L"GoneNet"); },
-    };
-    for (std::size_t i = 0; i < methods.size(); ++i)
-    {
-        ForgetClient();
-        methods[i](manager());
-        EXPECT_EQ("WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)",
-                  callLines().front())
-            << i;
-        EXPECT_TRUE(traced().empty());
-    }
-}
-
 } // namespace calvix::test::profile_list_test

@@ -240,25 +240,4 @@ TEST_F(ProfileTextTest, SetProfileFailures)
 
 // --- The client handle and cost ---------------------------------------------------------------------------------
 
-TEST_F(ProfileTextTest, TheClientIsOpenedFirstWhenNeeded)
-{
-    static wchar_t wide[1024];
-    static char narrow[2048];
-    const std::vector<std::function<int(CWirelessManage&)>> methods = {
-        [](auto& m) { return m.GetProfile(&kAdapterA, L"HomeNet", wide, 1024); },
-        [](auto& m) { return m.GetProfile(&kAdapterA, L"HomeNet", narrow, 2048); },
-        [](auto& m) { return m.GetProfile(&kAdapterA, L"HomeNet"); },
-        [](auto& m) { return m.IsAutoConnMode2(&kAdapterA, L"OfficeNet"); },
-    };
-    for (std::size_t i = 0; i < methods.size(); ++i)
-    {
-        ForgetClient();
-        EXPECT_EQ(0, methods[i](manager())) << i;
-        EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanGetProfile", "WlanFreeMemory")) << i;
-    }
-    ForgetClient();
-    EXPECT_EQ(-4, manager().SetProfile(&kAdapterA, L""));
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanSetProfile"));
-}
-
 } // namespace calvix::test::profile_text_test
