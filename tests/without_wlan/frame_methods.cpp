@@ -64,9 +64,11 @@ std::vector<MethodCase> FrameMethods()
         {"GetWiFiAdapterCount()", [](Manager& m) { return Said(m.GetWiFiAdapterCount()); }, Is(-2), Is(0)},
         {"GetWlanInterface(std::vector<WLAN_INTERFACE_INFO>*)", GetInterfaceList, Is(-1), Is(-3)},
         {"RegisterNotification(WLAN_NOTIFICATION_CALLBACK, void*)",
-         [](Manager& m) { return Said(m.RegisterNotification(IgnoreNotification, nullptr)); }, Is(kNoLibrary), Is(0)},
+         [](Manager& m) { return Said(m.RegisterNotification(IgnoreNotification, nullptr)); }, Is(kNoLibrary),
+         Is(kUnwritten)},
         {"UnRegisterNotification(WLAN_NOTIFICATION_CALLBACK, void*)",
-         [](Manager& m) { return Said(m.UnRegisterNotification(IgnoreNotification, nullptr)); }, Is(kNoLibrary), Is(0)},
+         [](Manager& m) { return Said(m.UnRegisterNotification(IgnoreNotification, nullptr)); }, Is(kNoLibrary),
+         Is(kUnwritten)},
         {"Delete()",
          [](Manager&)
          {

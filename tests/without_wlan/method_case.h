@@ -30,6 +30,9 @@ inline constexpr char kReturned[] = "returned";
 /// The error number that stands for the missing wlanapi.dll.
 inline constexpr int kNoLibrary = ERROR_MOD_NOT_FOUND;
 
+/// The error number of an operation that Wine exports without having written it.
+inline constexpr int kUnwritten = ERROR_CALL_NOT_IMPLEMENTED;
+
 template <typename Result>
 std::string Said(const Result& result)
 {
