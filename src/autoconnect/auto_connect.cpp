@@ -23,7 +23,8 @@ int CWirelessManage::AutoConnect(const GUID* pInterfaceGuid)
     if (networksByProfile.Take(*lists.networks) != 0)
         return kAutoConnectCodes.networksFailed;
     // Deliberate: a walk on which every request was refused reports success.
-    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, networksByProfile, trace) == WalkEnd::noMatch ? -9 : 0;
+    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, networksByProfile, trace) == WalkEnd::noMatch ? -9
+                                                                                                                : 0;
 }
 
 int CWirelessManage::AutoConnectEx(const GUID* pInterfaceGuid)

@@ -40,7 +40,8 @@ int CWirelessManage::AutoSwitch(const GUID* pInterfaceGuid)
     if (networksByProfile.Take(*lists.networks) != 0)
         return -6;
     // Deliberate: the walk follows the order from before the move, and a refused-only walk reports success.
-    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, networksByProfile, trace) == WalkEnd::noMatch ? -7 : 0;
+    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, networksByProfile, trace) == WalkEnd::noMatch ? -7
+                                                                                                                : 0;
 }
 
 int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)

@@ -54,8 +54,7 @@ void ListInterface(Trace& trace, unsigned index, const WLAN_INTERFACE_INFO& info
 {
     trace.Line("  Interface Index[%u]:\t %u", index, index);
     ListGuid(trace, index, info.InterfaceGuid);
-    trace.Line("  Interface Description[%u]: %s", index,
-               NarrowText(FixedText(info.strInterfaceDescription)).c_str());
+    trace.Line("  Interface Description[%u]: %s", index, NarrowText(FixedText(info.strInterfaceDescription)).c_str());
     ListState(trace, index, info.isState, stateOnItsOwnLine);
 }
 
