@@ -8,6 +8,8 @@
 #include "report/spectrum_picture.h"
 #include "text_forms.h"
 
+#include <functional>
+
 namespace calvix::host
 {
 
@@ -39,17 +41,24 @@ std::string SignalSection(const ReportFacts& report)
            "</section>\n";
 }
 
+/// What the page's policy knows its style and its script by. It follows from everything that was heard, so whoever chooses
+/// one network's name cannot foretell it, and the same report is the same page.
+std::string Nonce(const std::string& data)
+{
+    return std::to_string(std::hash<std::string>()(data));
+}
+
 } // namespace
 
 std::string ReportPage(const ReportFacts& report)
 {
+    const std::string data = ReportJson(report, true);
     return FillTemplate(kPageTemplate, {{"title", EscapeHtml(report.title)},
                                         {"subtitle", SubtitleText(report)},
                                         {"style", kPageStyle},
-                                        {"style-hash", kPageStyleHash},
+                                        {"nonce", Nonce(data)},
                                         {"script", kPageScript},
-                                        {"script-hash", kPageScriptHash},
-                                        {"data", ReportJson(report, true)},
+                                        {"data", data},
                                         {"missing", MissingParts(report) + UntoldParts(report)},
                                         {"keys", KeyFacts(report)},
                                         {"spectrum", SpectrumPicture(report)},

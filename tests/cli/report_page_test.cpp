@@ -124,7 +124,11 @@ TEST_F(ReportPage, NeedsNothingBesideItself)
     EXPECT_EQ(0u, Count(page, "@import"));
     EXPECT_EQ(0u, Count(page, " style=\"")) << "the policy forbids it";
     EXPECT_THAT(page, HasSubstr("default-src 'none'"));
-    EXPECT_THAT(page, HasSubstr("script-src 'sha256-"));
+    const std::string nonce = Between(page, "style-src 'nonce-", "'");
+    EXPECT_GE(nonce.size(), 10u);
+    EXPECT_EQ(nonce, Between(page, "script-src 'nonce-", "'"));
+    EXPECT_EQ(nonce, Between(page, "<style nonce=\"", "\""));
+    EXPECT_EQ(nonce, Between(page, "<script nonce=\"", "\""));
     EXPECT_THAT(page, Not(HasSubstr("unsafe-inline")));
 }
 

@@ -134,7 +134,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world, unsigned)
+std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world)
 {
     return std::make_unique<SimulatedSurroundings>(world);
 }

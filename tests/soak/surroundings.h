@@ -44,8 +44,7 @@ public:
     virtual Holdings Measure() = 0;
 };
 
-/// The surroundings of this build, in a world given as a scenario file's text. `speed` is how many times as fast as real
-/// time simulated time passes, where that matters.
-std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world, unsigned speed);
+/// The surroundings of this build, in a world given as a scenario file's text.
+std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world);
 
 } // namespace calvix::test::soak

@@ -20,15 +20,17 @@ namespace calvix::test::soak
 namespace
 {
 
+constexpr unsigned kSpeed = 10'000; ///< how many times as fast as real time simulated time passes
+
 /// The drop-in reads its settings at the first call, hence before anything else.
-void ChooseWorld(const std::string& world, unsigned speed)
+void ChooseWorld(const std::string& world)
 {
     char folder[MAX_PATH] = "";
     ::GetTempPathA(sizeof(folder), folder);
     const std::string file = folder + ("calvix-soak-" + std::to_string(::GetCurrentProcessId()) + ".json");
     std::ofstream(file, std::ios::binary) << world;
     ::SetEnvironmentVariableA("CALVIX_SCENARIO", file.c_str());
-    ::SetEnvironmentVariableA("CALVIX_SPEED", std::to_string(speed).c_str());
+    ::SetEnvironmentVariableA("CALVIX_SPEED", std::to_string(kSpeed).c_str());
     if (CWirelessManage::Get()->GetWiFiAdapterCount() != 2)
         throw std::runtime_error("no world in " + file);
     ::DeleteFileA(file.c_str());
@@ -86,16 +88,16 @@ std::uint64_t Handles()
 class WindowsSurroundings final : public Surroundings
 {
 public:
-    WindowsSurroundings(const std::string& world, unsigned speed) : m_speed(speed) { ChooseWorld(world, speed); }
+    explicit WindowsSurroundings(const std::string& world) { ChooseWorld(world); }
 
     Duration Now() const override
     {
         const auto passed = std::chrono::steady_clock::now() - m_start;
-        return std::chrono::duration_cast<Duration>(passed * m_speed);
+        return std::chrono::duration_cast<Duration>(passed * kSpeed);
     }
     void Pass(Duration duration) override
     {
-        const auto milliseconds = duration.count() / m_speed;
+        const auto milliseconds = duration.count() / kSpeed;
         ::Sleep(milliseconds > 1 ? static_cast<DWORD>(milliseconds) : 1);
     }
     bool SimulateEverything() const override { return false; }
@@ -116,15 +118,14 @@ public:
     }
 
 private:
-    const unsigned m_speed;
     const std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
 };
 
 } // namespace
 
-std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world, unsigned speed)
+std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world)
 {
-    return std::make_unique<WindowsSurroundings>(world, speed);
+    return std::make_unique<WindowsSurroundings>(world);
 }
 
 } // namespace calvix::test::soak

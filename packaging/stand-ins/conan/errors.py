@@ -1,2 +1,0 @@
-class ConanInvalidConfiguration(Exception):
-    pass

@@ -1,2 +1,0 @@
-def check_min_cppstd(recipe, standard):
-    assert standard == 20
