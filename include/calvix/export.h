@@ -1,10 +1,8 @@
 #pragma once
 
 #if defined(_WIN32)
-#if defined(CALVIX_BUILDING) && defined(_MSC_VER)
+#if defined(CALVIX_BUILDING)
 #define CALVIX_API __declspec(dllexport)
-#elif defined(CALVIX_BUILDING) // src/calvix.def names what the DLL exports: without the private members
-#define CALVIX_API
 #elif defined(CALVIX_STATIC)
 #define CALVIX_API
 #else

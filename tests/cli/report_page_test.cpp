@@ -134,8 +134,7 @@ TEST_F(ReportPage, NeedsNothingBesideItself)
 
 TEST_F(ReportPage, IsTheSameEachTime)
 {
-    const std::vector<std::string> command = {"report",     "-o", "-",      "--scenario", kWalk,
-                                              "--for", "90", "--roam", "1"};
+    const std::vector<std::string> command = {"report", "-o", "-", "--scenario", kWalk, "--for", "90", "--roam", "1"};
     const std::string page = Run(command).out;
     EXPECT_EQ(page, Run(command).out);
     EXPECT_THAT(page, HasSubstr("heard until 2026-01-01 00:0")) << "by the computer's clock";

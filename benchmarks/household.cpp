@@ -1,8 +1,19 @@
-#include "service/household_scenario.h"
+#include "household.h"
 
-#include "platform/records/error_numbers.h"
+#include <calvix/wireless_manage.h>
 
 #include <string>
+
+namespace calvix
+{
+
+struct ManagerInternals
+{
+    /// Delete leaves the closed handle where it was.
+    static void Forget() { CWirelessManage::hClient = nullptr; }
+};
+
+} // namespace calvix
 
 namespace calvix::benchmarks
 {
@@ -65,11 +76,17 @@ simulation::Scenario HouseholdScenario(std::size_t profiles, std::size_t network
         adapter.profiles.push_back(Profile(index, index < matches ? "network-" + std::to_string(index * distance)
                                                                   : "away-" + std::to_string(index)));
     adapter.connection = simulation::Connection{"Wireless network 0", AddressOf(0, 0)};
-    adapter.ihv[{1, 2, 3, 4}] = {{1, 2, 3, 4}, 0};
     scenario.adapters.push_back(adapter);
-    scenario.power.enumerationError = ERROR_ACCESS_DENIED; // see GetPowerScheme, which does not return otherwise
-    scenario.programs.push_back({"C:\\Program Files\\Calvix\\tool.exe", 1, 0});
     return scenario;
+}
+
+OnComputer::OnComputer(platform::Platform& platform) : m_previous(platform::ReplacePlatform(&platform)) {}
+
+OnComputer::~OnComputer()
+{
+    CWirelessManage::Delete();
+    ManagerInternals::Forget();
+    platform::ReplacePlatform(m_previous);
 }
 
 } // namespace calvix::benchmarks

@@ -1,7 +1,5 @@
-#include "simulator/simulator_benchmarks.h"
-
-#include "service/household_scenario.h"
-#include "service/service_content.h"
+#include "benchmarks.h"
+#include "household.h"
 #include "simulation/computer.h"
 
 #include <benchmark/benchmark.h>
@@ -25,7 +23,12 @@ struct Client
         constexpr char name[] = "network-0";
         for (ssid.uSSIDLength = 0; ssid.uSSIDLength < sizeof(name) - 1; ++ssid.uSSIDLength)
             ssid.ucSSID[ssid.uSSIDLength] = static_cast<UCHAR>(name[ssid.uSSIDLength]);
-        xml = ProfileXml();
+        DWORD flags = WLAN_PROFILE_GET_PLAINTEXT_KEY;
+        DWORD access = 0;
+        wchar_t* stored = nullptr;
+        wlan.WlanGetProfile(handle, &kHouseholdAdapter, kHouseholdProfile, nullptr, &stored, &flags, &access);
+        xml = stored;
+        wlan.WlanFreeMemory(stored);
     }
 
     simulation::Computer computer;
@@ -112,7 +115,7 @@ DWORD ReadProfile(Client& client)
     DWORD access = 0;
     wchar_t* xml = nullptr;
     const DWORD error =
-        client.wlan.WlanGetProfile(client.handle, kAdapter, L"Wireless network 0", nullptr, &xml, &flags, &access);
+        client.wlan.WlanGetProfile(client.handle, kAdapter, kHouseholdProfile, nullptr, &xml, &flags, &access);
     client.wlan.WlanFreeMemory(xml);
     return error;
 }
@@ -131,7 +134,7 @@ DWORD Scan(Client& client)
 DWORD Connect(Client& client)
 {
     WLAN_CONNECTION_PARAMETERS parameters{};
-    parameters.strProfile = L"Wireless network 0";
+    parameters.strProfile = kHouseholdProfile;
     parameters.dot11BssType = dot11_BSS_type_infrastructure;
     return client.wlan.WlanConnect(client.handle, kAdapter, &parameters, nullptr);
 }
@@ -164,7 +167,7 @@ void MeasureOperation(benchmark::State& state, Operation operation, std::size_t 
 
 } // namespace
 
-void RegisterSimulatorBenchmarks()
+void RegisterSimulator()
 {
     for (const Simulated& simulated : kOperations)
         for (const std::size_t networks : {std::size_t{20}, std::size_t{200}})
