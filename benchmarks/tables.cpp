@@ -91,7 +91,7 @@ std::vector<std::string> Tables::NamesIn(const std::string& group) const
 
 void Tables::PrintMethods() const
 {
-    std::printf("| Method | library | direct calls | more |\n|---|--:|--:|--:|\n");
+    std::printf("### Beside direct calls\n\n| Method | library | direct calls | more |\n|---|--:|--:|--:|\n");
     for (const std::string& name : NamesIn("method/"))
     {
         const double library = m_figures.at(name).at("library");
@@ -104,7 +104,8 @@ void Tables::PrintMethods() const
 
 void Tables::PrintGrowth() const
 {
-    std::printf("| Method | profiles and networks | in the platform | library beside it | nested loops beside it |\n"
+    std::printf("### As the lists grow\n\n| Method | profiles and networks | in the platform | library beside it | "
+                "nested loops beside it |\n"
                 "|---|--:|--:|--:|--:|\n");
     for (const std::string& name : NamesIn("growth/"))
     {
@@ -122,7 +123,8 @@ void Tables::PrintGrowth() const
 
 void Tables::PrintSimulator() const
 {
-    std::printf("| Operation | visible networks | time | calls a second |\n|---|--:|--:|--:|\n");
+    std::printf(
+        "### The simulated computer\n\n| Operation | visible networks | time | calls a second |\n|---|--:|--:|--:|\n");
     for (const std::string& name : NamesIn("simulator/"))
     {
         const double time = m_figures.at(name).at("time");
