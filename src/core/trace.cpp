@@ -2,7 +2,6 @@
 
 #include "core/bounded_copy.h"
 #include "core/out_of_memory.h"
-#include "core/simple_format.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -21,16 +20,6 @@ namespace
 
 constexpr std::size_t kLargestCapacity = 0x7FFFFFFF;
 constexpr std::size_t kLargestWideText = 0x100000;
-
-/// The length that the whole text has; more than there can be room for when the runtime reports a failure.
-std::size_t FormatByRuntime(char* buffer, std::size_t capacity, const char* format, std::va_list values)
-{
-    const int length = std::vsnprintf(buffer, capacity, format, values);
-    if (length >= 0)
-        return static_cast<std::size_t>(length);
-    buffer[0] = '\0';
-    return kLargestCapacity + 1;
-}
 
 /// Formats the whole text. The C runtimes' wide formatters do not cut reliably: where the text does not fit, some report
 /// a failure and some the length it has. Nothing, without even a terminator, for a text that cannot be formatted.
@@ -61,10 +50,13 @@ std::uint32_t FormatTraceV(char* buffer, std::size_t capacity, const char* forma
         buffer[0] = '\0';
         return kFormatBadCapacity;
     }
-    std::size_t length = 0;
-    if (!FormatSimply(buffer, capacity, format, values, length))
-        length = FormatByRuntime(buffer, capacity, format, values);
-    return length < capacity ? kFormatComplete : kFormatTruncated;
+    const int length = std::vsnprintf(buffer, capacity, format, values);
+    if (length < 0)
+    {
+        buffer[0] = '\0';
+        return kFormatTruncated;
+    }
+    return static_cast<std::size_t>(length) < capacity ? kFormatComplete : kFormatTruncated;
 }
 
 std::uint32_t FormatTrace(char* buffer, std::size_t capacity, const char* format, ...)
