@@ -133,3 +133,20 @@ int CWirelessManage::GetMatchAPCount(const GUID* pInterfaceGuid,
     };
     return CollectMatches(hClient, pInterfaceGuid, *pNames, trace, counts);
 }
+
+int CWirelessManage::GetConnectableNetworkCount(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    ProfilesAndNetworks lists;
+    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kApListCodes))
+        return code;
+
+    NetworksByProfile networksByProfile;
+    if (networksByProfile.Take(*lists.networks) != 0)
+        return kApListCodes.networksFailed;
+    int pairs = 0;
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
+        for ([[maybe_unused]] const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+            ++pairs;
+    return pairs;
+}

@@ -1,7 +1,11 @@
 #include <calvix/wireless_manage.h>
 
-#include "autoconnect/ranked_connection.h"
+#include "autoconnect/candidate_ranking.h"
+#include "connection/connect_request.h"
 #include "core/fixed_text.h"
+#include "core/out_of_memory.h"
+#include "core/profile_network_match.h"
+#include "core/service_steps.h"
 #include "core/ssid.h"
 
 #include <algorithm>
@@ -20,6 +24,70 @@ bool Excludes(const ExcludedEntries& excluded, const WLAN_AVAILABLE_NETWORK& net
     const auto begins = [&network](const WLAN_BSS_ENTRY& entry)
     { return SameSsidBytes(entry.dot11Ssid, network.dot11Ssid, SsidLength(network.dot11Ssid)); };
     return std::any_of(excluded.begin(), excluded.end(), begins);
+}
+
+/// Ranks the candidates and asks for a connection to one after the other, from the lowest score upward, until a request
+/// is accepted: 0. Otherwise the code of ConnectBestAP.
+int ConnectCandidates(HANDLE client,
+                      const GUID* interfaceGuid,
+                      const WLAN_AVAILABLE_NETWORK_LIST& networks,
+                      Candidates& candidates,
+                      Trace& trace)
+{
+    if (candidates.empty())
+        return -9;
+
+    // Deliberate: only the BSS entries of the last listed network, candidate or not, take part in the band bonus.
+    BssList entries;
+    if (ListNetworkBss(client, interfaceGuid, Items(networks).back(), entries, trace) != 0)
+        return -10;
+    if (entries->dwNumberOfItems == 0)
+        return -11;
+
+    AddBandBonus(candidates, *entries);
+    SortByScore(candidates);
+    // Deliberate: from the weakest upward. The service accepts a request without waiting for the connection, so the
+    // first accepted one stands, which mostly is the first.
+    for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
+    {
+        if (RequestNetwork(client, interfaceGuid, *candidate, trace) == 0)
+            return 0;
+    }
+    return -12;
+}
+
+/// The same from the start: opens the client handle, lists profiles and networks, and takes as candidates the networks
+/// of the profiles that `usesProfile(profile)` lets through, in profile order, then network order, as far as
+/// `accepts(network)` does.
+template <typename UsesProfile, typename Accepts>
+int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesProfile usesProfile, Accepts accepts)
+{
+    ProfilesAndNetworks lists;
+    if (const int code = ListProfilesAndNetworks(
+            client, interfaceGuid, lists, trace,
+            {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
+        return code;
+
+    NetworksByProfile networksByProfile;
+    if (networksByProfile.Take(*lists.networks) != 0)
+        return -6;
+    Candidates candidates;
+    const auto gather = [&]
+    {
+        for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
+        {
+            if (!usesProfile(profile))
+                continue;
+            for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+            {
+                if (accepts(*network))
+                    candidates.push_back(lists.networks->Network + (network - lists.networks->Network));
+            }
+        }
+    };
+    if (OutOfMemoryIn(gather))
+        return -6;
+    return ConnectCandidates(client, interfaceGuid, *lists.networks, candidates, trace);
 }
 
 /// The one connection behind all overloads; a null name excludes no profile.
@@ -68,4 +136,12 @@ int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid, const wchar_t* ex
 int CWirelessManage::ConnectBestAP(const GUID* pInterfaceGuid)
 {
     return ConnectBest(*this, hClient, pInterfaceGuid, {}, nullptr);
+}
+
+int CWirelessManage::AutoConnectEx(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    return ConnectRanked(
+        hClient, pInterfaceGuid, trace, [](const WLAN_PROFILE_INFO&) { return true; },
+        [](const WLAN_AVAILABLE_NETWORK&) { return true; });
 }

@@ -1,7 +1,6 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/access_point_pick.h"
-#include "core/connect_request.h"
+#include "connection/connect_request.h"
 #include "core/fixed_text.h"
 #include "core/service_steps.h"
 

@@ -1,9 +1,9 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/access_point_pick.h"
-#include "core/connect_request.h"
+#include "connection/connect_request.h"
 #include "core/fixed_text.h"
 #include "core/service_steps.h"
+#include "core/strict_copy.h"
 #include "core/wlan_lists.h"
 #include "profiles/profile_name.h"
 
@@ -30,9 +30,7 @@ int ReconnectTo(HANDLE& client, const GUID* interfaceGuid, const RememberedNetwo
     BssList entries;
     if (OpenClient(client, trace) != 0)
         return -1;
-    const DWORD error = wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.ssid, network.bssType,
-                                                     network.securityEnabled, nullptr, entries.Receive());
-    if (trace.Failed(ErrorOf(error, entries.get()), "WlanGetNetworkBssList failed with error: %u"))
+    if (ListBss(client, interfaceGuid, &network.ssid, network.bssType, network.securityEnabled, entries, trace) != 0)
         return -4;
     if (entries->dwNumberOfItems == 0)
         return -6;
@@ -121,4 +119,56 @@ int CWirelessManage::ResetConnection(const GUID* pInterfaceGuid)
                           connection->wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)
         return -5;
     return 0;
+}
+
+int CWirelessManage::SaveCurrentConnectionAttributes(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    // Released in the reverse of this order.
+    ProfileText profile;
+    ConnectionAttributes connection;
+    DWORD size = 0;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToProfileName, size, trace) != 0)
+        return -4;
+    StrictCopy(&m_SavedConnAttr, sizeof(m_SavedConnAttr), connection.get(), size, "SaveCurrentConnectionAttributes");
+    // Deliberate: from here on the record is the new one, while the mode keeps its former value when the profile cannot
+    // be read.
+    if (ReadProfile(hClient, pInterfaceGuid, TerminatedName(connection->strProfileName), profile, trace) != 0)
+        return -5;
+    m_nSavedAutoConnMode = IsAutoConnMode(profile.get());
+    return 0;
+}
+
+long CWirelessManage::RecoverConnetionAttributes(const GUID* pInterfaceGuid)
+{
+    if (m_nSavedAutoConnMode == 0)
+        return -99;
+    LocalTrace<128> trace;
+    BssList entries;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (ListConnectionBss(hClient, pInterfaceGuid, m_SavedConnAttr, entries, trace) != 0)
+        return -4;
+    if (entries->dwNumberOfItems == 0)
+        return -5;
+    if (RequestConnection(hClient, pInterfaceGuid, TerminatedName(m_SavedConnAttr.strProfileName),
+                          m_SavedConnAttr.wlanAssociationAttributes.dot11BssType, nullptr, trace) != 0)
+        return -6;
+    return 0;
+}
+
+void CWirelessManage::SaveConnNotificationData(WLAN_CONNECTION_NOTIFICATION_DATA* pData)
+{
+    // A null record first empties the memory, and is then a fatal caller error.
+    if (pData == nullptr)
+        m_SavedConnNotify = {};
+    StrictCopy(&m_SavedConnNotify, sizeof(m_SavedConnNotify), pData, sizeof(m_SavedConnNotify),
+               "SaveConnNotificationData");
+}
+
+long CWirelessManage::RecoverConnNotificationData(const GUID* pInterfaceGuid)
+{
+    return Reconnect(pInterfaceGuid, &m_SavedConnNotify, 20);
 }

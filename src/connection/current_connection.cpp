@@ -3,6 +3,8 @@
 #include "core/service_steps.h"
 #include "core/strict_copy.h"
 
+#include <cstddef>
+
 using namespace calvix;
 
 namespace
@@ -96,4 +98,22 @@ long CWirelessManage::GetCurrentWiFi(const GUID* pInterfaceGuid, WLAN_CONNECTION
     if (ListConnectionBss(hClient, pInterfaceGuid, *pAttributes, entries, trace) != 0)
         return -4;
     return static_cast<long>(entries->dwNumberOfItems);
+}
+
+int CWirelessManage::GetWlanStatistics(const GUID* pInterfaceGuid, _WIFI_TXRX_COUNT* pCount)
+{
+    if (pCount == nullptr)
+        return -13;
+    SharedTrace trace;
+    WlanMemory<WLAN_STATISTICS> statistics;
+    DWORD size = 0;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (QueryInterface(hClient, pInterfaceGuid, wlan_intf_opcode_statistics, statistics,
+                       offsetof(WLAN_STATISTICS, MacMcastCounters), size, trace) != 0)
+        return -4;
+    // Deliberate: the two spare counters keep what the caller put in.
+    pCount->ullTransmitted = statistics->MacUcastCounters.ullTransmittedFrameCount;
+    pCount->ullReceived = statistics->MacUcastCounters.ullReceivedFrameCount;
+    return 0;
 }

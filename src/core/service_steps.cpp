@@ -45,29 +45,56 @@ int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const Inte
     return 0;
 }
 
+bool HasInterface(HANDLE& client, InterfaceList& list, Trace& trace)
+{
+    const GUID* first = nullptr;
+    return FindFirstInterface(client, list, first, trace) == 0 && first != nullptr;
+}
+
+int FindFirstInterface(HANDLE& client, InterfaceList& list, const GUID*& first, Trace& trace)
+{
+    if (OpenClient(client, trace) != 0)
+        return -1;
+    if (const ErrorNumber error = EnumerateInterfaces(client, list, trace))
+        return static_cast<int>(error);
+    if (list->dwNumberOfItems == 0)
+        trace.Message(kNoInterface);
+    else
+        first = &list->InterfaceInfo[0].InterfaceGuid;
+    return 0;
+}
+
+ErrorNumber ListBss(HANDLE client,
+                    const GUID* interfaceGuid,
+                    const DOT11_SSID* ssid,
+                    DOT11_BSS_TYPE bssType,
+                    BOOL securityEnabled,
+                    BssList& list,
+                    Trace& trace)
+{
+    const DWORD error =
+        wlan().WlanGetNetworkBssList(client, interfaceGuid, ssid, bssType, securityEnabled, nullptr, list.Receive());
+    return Traced(trace, ErrorOf(error, list.get()), "WlanGetNetworkBssList failed with error: %u");
+}
+
 ErrorNumber ListConnectionBss(
     HANDLE client, const GUID* interfaceGuid, const WLAN_CONNECTION_ATTRIBUTES& connection, BssList& list, Trace& trace)
 {
     const WLAN_ASSOCIATION_ATTRIBUTES& association = connection.wlanAssociationAttributes;
-    const DWORD error =
-        wlan().WlanGetNetworkBssList(client, interfaceGuid, &association.dot11Ssid, association.dot11BssType,
-                                     connection.wlanSecurityAttributes.bSecurityEnabled, nullptr, list.Receive());
-    return Traced(trace, ErrorOf(error, list.get()), "WlanGetNetworkBssList failed with error: %u");
+    return ListBss(client, interfaceGuid, &association.dot11Ssid, association.dot11BssType,
+                   connection.wlanSecurityAttributes.bSecurityEnabled, list, trace);
 }
 
 ErrorNumber ListNetworkBss(
     HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, BssList& list, Trace& trace)
 {
-    const DWORD error = wlan().WlanGetNetworkBssList(client, interfaceGuid, &network.dot11Ssid, network.dot11BssType,
-                                                     network.bSecurityEnabled, nullptr, list.Receive());
-    return Traced(trace, ErrorOf(error, list.get()), "WlanGetNetworkBssList failed with error: %u");
+    return ListBss(client, interfaceGuid, &network.dot11Ssid, network.dot11BssType, network.bSecurityEnabled, list,
+                   trace);
 }
 
 ErrorNumber ListAllBss(HANDLE client, const GUID* interfaceGuid, BssList& list, Trace& trace)
 {
-    const DWORD error = wlan().WlanGetNetworkBssList(client, interfaceGuid, nullptr, dot11_BSS_type_any, FALSE, nullptr,
-                                                     list.Receive());
-    return Traced(trace, ErrorOf(error, list.get()), "WlanGetNetworkBssList failed with error: %u");
+    return ListBss(client, interfaceGuid, nullptr, dot11_BSS_type_any, FALSE, list, trace);
 }
 
 ErrorNumber ListAvailableNetworks(HANDLE client, const GUID* interfaceGuid, NetworkList& list, Trace& trace)
@@ -81,6 +108,20 @@ ErrorNumber ListProfiles(HANDLE client, const GUID* interfaceGuid, ProfileList& 
 {
     const DWORD error = wlan().WlanGetProfileList(client, interfaceGuid, nullptr, list.Receive());
     return Traced(trace, ErrorOf(error, list.get()), "WlanGetProfileList failed with error: %u");
+}
+
+ErrorNumber ReadProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, ProfileText& xml, Trace& trace)
+{
+    DWORD flags = WLAN_PROFILE_GET_PLAINTEXT_KEY;
+    DWORD access = WLAN_READ_ACCESS;
+    const DWORD error = wlan().WlanGetProfile(client, interfaceGuid, name, nullptr, xml.Receive(), &flags, &access);
+    return Traced(trace, ErrorOf(error, xml.get()), "WlanGetProfile failed with error: %u");
+}
+
+ErrorNumber MoveProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD place, Trace& trace)
+{
+    return Traced(trace, wlan().WlanSetProfilePosition(client, interfaceGuid, name, place, nullptr),
+                  "WlanSetProfilePosition failed with error: %u");
 }
 
 int ListProfilesAndNetworks(HANDLE& client,

@@ -39,18 +39,28 @@ OpenClient(HANDLE& client, Trace& trace, const char* failureText = "WlanOpenHand
 /// All interfaces, none included.
 ErrorNumber EnumerateInterfaces(HANDLE client, InterfaceList& list, Trace& trace);
 
+inline constexpr const char* kNoInterface = "No valid WLAN adapter";
+
 /// A method's codes for the ways in which it can be left without an interface.
 struct InterfaceListCodes
 {
     int notOpened;
     int enumerationFailed;
     int none;
-    const char* noneText = "No valid WLAN adapter";
+    const char* noneText = kNoInterface;
 };
 
 /// Opens the client handle when needed and lists the interfaces; `list` holds at least one when this returns 0,
 /// otherwise it returns the method's code. A null `noneText` keeps the empty list out of the trace.
 int ListInterfaces(HANDLE& client, InterfaceList& list, Trace& trace, const InterfaceListCodes& codes);
+
+/// The same for a method that only asks whether there is an interface. Every failure reads as no.
+bool HasInterface(HANDLE& client, InterfaceList& list, Trace& trace);
+
+/// The first interface, for a method that passes the platform's error numbers on: 0 with `first`, -1 when the client
+/// handle cannot be opened, or the enumeration's error number. Deliberate: no interface reads as success; `first` stays
+/// null then.
+int FindFirstInterface(HANDLE& client, InterfaceList& list, const GUID*& first, Trace& trace);
 
 /// Queries an interface for a record, of which the method reads `needed` bytes; `size` receives the bytes that the
 /// service returned.
@@ -96,6 +106,15 @@ inline ErrorNumber QueryCurrentConnection(
     return QueryCurrentConnection(client, interfaceGuid, attributes, needed, size, trace);
 }
 
+/// BSS entries of a network, or of every one for a null SSID.
+ErrorNumber ListBss(HANDLE client,
+                    const GUID* interfaceGuid,
+                    const DOT11_SSID* ssid,
+                    DOT11_BSS_TYPE bssType,
+                    BOOL securityEnabled,
+                    BssList& list,
+                    Trace& trace);
+
 /// BSS entries of the network that `connection` belongs to.
 ErrorNumber ListConnectionBss(HANDLE client,
                               const GUID* interfaceGuid,
@@ -115,6 +134,12 @@ ErrorNumber ListAvailableNetworks(HANDLE client, const GUID* interfaceGuid, Netw
 
 /// Stored profiles in preference order.
 ErrorNumber ListProfiles(HANDLE client, const GUID* interfaceGuid, ProfileList& list, Trace& trace);
+
+/// Reads a stored profile's XML, with its key in plain text where the caller may see it.
+ErrorNumber ReadProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, ProfileText& xml, Trace& trace);
+
+/// Moves a stored profile to another place of the preference order; the first is 0.
+ErrorNumber MoveProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD place, Trace& trace);
 
 /// What most automatic methods work on. The last declared is released first: the profiles, then the networks.
 struct ProfilesAndNetworks

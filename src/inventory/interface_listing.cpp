@@ -3,7 +3,6 @@
 #include "core/fixed_text.h"
 #include "core/narrow_text.h"
 #include "core/wlan_lists.h"
-#include "inventory/value_text.h"
 
 namespace calvix
 {

@@ -4,6 +4,7 @@
 #include "core/ssid.h"
 
 #include <cstdint>
+#include <span>
 
 namespace calvix
 {
@@ -31,6 +32,24 @@ constexpr unsigned In32Bits(Number number)
 
 /// Traces a label and, behind it, an SSID's bytes; nothing for an SSID without any.
 void ListSsid(Trace& trace, const char* label, const DOT11_SSID& ssid);
+
+/// What a listing calls one value of an enumeration.
+struct ValueText
+{
+    std::uint32_t value;
+    const char* text;
+};
+
+/// The text of a value, or `otherwise` for one that the table does not know.
+inline const char* TextOf(std::span<const ValueText> table, std::uint32_t value, const char* otherwise)
+{
+    for (const ValueText& row : table)
+    {
+        if (row.value == value)
+            return row.text;
+    }
+    return otherwise;
+}
 
 /// Sets the entries of a listing apart.
 void ListEnd(Trace& trace);

@@ -11,6 +11,19 @@
 
 using namespace calvix;
 
+namespace
+{
+
+/// Whether the connection's network is in view. Deliberate: where it is not, the trace tells of a failure 0.
+bool IsInView(const WLAN_BSS_LIST& entries, Trace& trace)
+{
+    if (entries.dwNumberOfItems == 0)
+        trace.Line("WlanGetNetworkBssList failed with error: %u", 0U);
+    return entries.dwNumberOfItems != 0;
+}
+
+} // namespace
+
 unsigned long CWirelessManage::GetChannel(unsigned long frequency)
 {
     return ChannelOfFrequency(frequency);
@@ -46,11 +59,8 @@ int CWirelessManage::GetCurrentRSSI(const GUID* pInterfaceGuid, int& rssi)
         return -4;
     if (ListConnectionBss(hClient, pInterfaceGuid, *connection, entries, trace) != 0)
         return -5;
-    if (entries->dwNumberOfItems == 0)
-    {
-        trace.Line("WlanGetNetworkBssList failed with error: %u", 0U);
+    if (!IsInView(*entries, trace))
         return -6;
-    }
     const DOT11_MAC_ADDRESS& current = connection->wlanAssociationAttributes.dot11Bssid;
     for (const WLAN_BSS_ENTRY& entry : Items(*entries))
     {
@@ -89,4 +99,38 @@ int CWirelessManage::GetSignalQuality(const GUID* pInterfaceGuid)
     if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToAssociation, trace) != 0)
         return -4;
     return static_cast<int>(connection->wlanAssociationAttributes.wlanSignalQuality);
+}
+
+int CWirelessManage::IsWiFiDisappear(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    // Released in the reverse of this order.
+    BssList entries("WlanFreeMemory(pBssList)");
+    ConnectionAttributes connection("WlanFreeMemory(pConnectInfo)");
+    // Deliberate: a failure answers like a network that is still in view.
+    if (OpenClient(hClient, trace) != 0)
+        return 0;
+    if (QueryCurrentConnection(hClient, pInterfaceGuid, connection, kUpToSecurityFlag, trace) != 0)
+        return 0;
+    if (ListConnectionBss(hClient, pInterfaceGuid, *connection, entries, trace) != 0)
+        return 0;
+    return IsInView(*entries, trace) ? 0 : 1;
+}
+
+long CWirelessManage::GetCurrentBSS()
+{
+    LocalTrace<128> trace;
+    // Released in the reverse of this order.
+    InterfaceList interfaces("WlanFreeMemory(pIfList)");
+    BssList entries("WlanFreeMemory(pBssList)");
+    ConnectionAttributes connection("WlanFreeMemory(pConnectInfo)");
+    if (const int code = ListInterfaces(hClient, interfaces, trace,
+                                        {.notOpened = -1, .enumerationFailed = -2, .none = -3, .noneText = nullptr}))
+        return code;
+    const GUID* const first = &interfaces->InterfaceInfo[0].InterfaceGuid;
+    if (QueryCurrentConnection(hClient, first, connection, kUpToSecurityFlag, trace) != 0)
+        return -4;
+    if (ListConnectionBss(hClient, first, *connection, entries, trace) != 0)
+        return -5;
+    return IsInView(*entries, trace) ? 0 : -6;
 }

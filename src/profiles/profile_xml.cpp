@@ -1,7 +1,6 @@
 #include <calvix/wireless_manage.h>
 
 #include "core/service_steps.h"
-#include "profiles/profile_read.h"
 
 #include <cwchar>
 #include <string_view>

@@ -10,6 +10,21 @@
 
 using namespace calvix;
 
+namespace
+{
+
+/// Whether the interface is in this state; every failure reads as no.
+int InterfaceIsInState(HANDLE& client, const GUID* interfaceGuid, WLAN_INTERFACE_STATE state, Trace& trace)
+{
+    InterfaceList interfaces;
+    if (!HasInterface(client, interfaces, trace))
+        return 0;
+    const WLAN_INTERFACE_INFO* const found = LastInterface(*interfaces, interfaceGuid);
+    return found != nullptr && found->isState == state ? 1 : 0;
+}
+
+} // namespace
+
 int CWirelessManage::GetWlanStatus(const GUID* pInterfaceGuid)
 {
     SharedTrace trace;
@@ -53,7 +68,7 @@ char* CWirelessManage::GetWlanInterfaceDesc(const GUID* pInterfaceGuid)
 
     LocalTrace<512> trace;
     InterfaceList interfaces;
-    if (ListInterfaces(hClient, interfaces, trace, {.notOpened = -1, .enumerationFailed = -1, .none = -1}) != 0)
+    if (!HasInterface(hClient, interfaces, trace))
         return m_szInterfaceDesc;
     for (const WLAN_INTERFACE_INFO& info : Items(*interfaces))
     {
@@ -97,4 +112,16 @@ long CWirelessManage::GetWlanInterface(std::vector<WLAN_INTERFACE_INFO>* pList)
         return -2;
     pList->assign(items.begin(), items.end());
     return 0;
+}
+
+int CWirelessManage::WiFiIsConnected(const GUID* pInterfaceGuid)
+{
+    LocalTrace<128> trace;
+    return InterfaceIsInState(hClient, pInterfaceGuid, wlan_interface_state_connected, trace);
+}
+
+int CWirelessManage::WiFiIsDisconnected(const GUID* pInterfaceGuid)
+{
+    SharedTrace trace;
+    return InterfaceIsInState(hClient, pInterfaceGuid, wlan_interface_state_disconnected, trace);
 }

@@ -1,4 +1,4 @@
-#include "core/connect_request.h"
+#include "connection/connect_request.h"
 #include "support/library_test.h"
 
 #include <string>

@@ -1,6 +1,8 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/bounded_copy.h"
 #include "core/fixed_text.h"
+#include "core/narrow_text.h"
 #include "core/service_steps.h"
 #include "core/strict_copy.h"
 #include "core/wlan_lists.h"
@@ -14,8 +16,6 @@ using platform::wlan;
 
 namespace
 {
-
-constexpr const char* kPositionFailed = "WlanSetProfilePosition failed with error: %u";
 
 /// A narrow name in wide characters as the C runtime widens it in its current locale, where bytes without a meaning
 /// keep their value; cut to the room there is.
@@ -88,9 +88,7 @@ int CWirelessManage::ResetProfilePosition(const GUID* pInterfaceGuid, const char
     if (const ErrorNumber error = WidenProfileName(name, wide, trace))
         return static_cast<int>(error);
     // Deliberate: the second place, never the first.
-    const DWORD error = wlan().WlanSetProfilePosition(hClient, pInterfaceGuid, wide, 1, nullptr);
-    trace.Failed(error, kPositionFailed);
-    return static_cast<int>(error);
+    return static_cast<int>(MoveProfile(hClient, pInterfaceGuid, wide, 1, trace));
 }
 
 int CWirelessManage::SetProfilePosition(const GUID* pInterfaceGuid, const wchar_t* name)
@@ -104,9 +102,7 @@ int CWirelessManage::SetProfilePosition(const GUID* pInterfaceGuid, const wchar_
     if (profiles->dwNumberOfItems < 2)
         return 0;
     const DWORD last = profiles->dwNumberOfItems - 1;
-    const DWORD error = wlan().WlanSetProfilePosition(hClient, pInterfaceGuid, name, last, nullptr);
-    trace.Failed(error, kPositionFailed);
-    return static_cast<int>(error);
+    return static_cast<int>(MoveProfile(hClient, pInterfaceGuid, name, last, trace));
 }
 
 int CWirelessManage::DeleteProfile(const GUID* pInterfaceGuid, const char* name)
@@ -126,4 +122,76 @@ int CWirelessManage::DeleteProfile(const GUID* pInterfaceGuid, const wchar_t* na
                      "WlanDeleteProfile failed with error: %u"))
         return -4;
     return 0;
+}
+
+int CWirelessManage::GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, wchar_t* xml, int capacity)
+{
+    if (xml == nullptr && capacity != 0)
+        return -13;
+    LocalTrace<128> trace;
+    ProfileText profile;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (ReadProfile(hClient, pInterfaceGuid, name, profile, trace) != 0)
+        return -4;
+    CopyTruncatingToCaller(xml, capacity, profile.get());
+    return 0;
+}
+
+int CWirelessManage::GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, char* xml, int capacity)
+{
+    LocalTrace<128> trace;
+    ProfileText profile;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (ReadProfile(hClient, pInterfaceGuid, name, profile, trace) != 0)
+        return -4;
+    // Deliberate: unlike the wide form this one never cuts.
+    const std::size_t room = capacity > 0 ? static_cast<std::size_t>(capacity) : 0;
+    RequireRoom(xml, room, NarrowInLocale(profile.get(), nullptr, 0) + 1, "GetProfile");
+    NarrowInLocale(profile.get(), xml, room);
+    return 0;
+}
+
+int CWirelessManage::GetProfile(const GUID* pInterfaceGuid, const wchar_t* name)
+{
+    SharedTrace trace;
+    ProfileText profile;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    if (ReadProfile(hClient, pInterfaceGuid, name, profile, trace) != 0)
+        return -4;
+    return 0;
+}
+
+int CWirelessManage::SetProfile(const GUID* pInterfaceGuid, const wchar_t* xml)
+{
+    LocalTrace<128> trace;
+    if (OpenClient(hClient, trace) != 0)
+        return -1;
+    DWORD reason = 0;
+    if (trace.Failed(wlan().WlanSetProfile(hClient, pInterfaceGuid, 0, xml, nullptr, TRUE, nullptr, &reason),
+                     "WlanSetProfile failed with error: %u"))
+        return -4;
+    return 0;
+}
+
+int CWirelessManage::SetCurrentWiFiToLast()
+{
+    LocalTrace<128> trace;
+    // Released in the reverse of this order.
+    InterfaceList interfaces;
+    ProfileList profiles;
+    ConnectionAttributes connection;
+    const GUID* first = nullptr;
+    if (const int code = FindFirstInterface(hClient, interfaces, first, trace); code != 0 || first == nullptr)
+        return code;
+    if (const ErrorNumber error = ListProfiles(hClient, first, profiles, trace))
+        return static_cast<int>(error);
+    if (const ErrorNumber error = QueryCurrentConnection(hClient, first, connection, kUpToProfileName, trace))
+        return static_cast<int>(error);
+    if (profiles->dwNumberOfItems < 2)
+        return 0;
+    const DWORD last = profiles->dwNumberOfItems - 1;
+    return static_cast<int>(MoveProfile(hClient, first, TerminatedName(connection->strProfileName), last, trace));
 }
