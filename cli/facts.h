@@ -166,6 +166,24 @@ struct NoticeFacts
     std::string reason; ///< empty with reason code 0
 };
 
+/// What a scenario holds, in numbers.
+struct ScenarioCounts
+{
+    std::size_t adapters = 0;
+    std::size_t accessPoints = 0;
+    std::size_t networks = 0; ///< as the first adapter lists them
+    std::size_t hidden = 0;   ///< access points that keep their name to themselves
+    std::size_t profiles = 0;
+};
+
+/// What importing came to.
+struct ImportFacts
+{
+    ScenarioCounts counts;
+    std::vector<std::string> warnings;
+    std::string output; ///< the file written
+};
+
 /// What roaming came to.
 struct RoamFacts
 {

@@ -416,6 +416,17 @@ void PrintTextJson(std::ostream& out, const char* name, const std::string& text)
     Print(out, {{name, text}});
 }
 
+void PrintJson(std::ostream& out, const ImportFacts& import)
+{
+    Print(out, {{"adapters", import.counts.adapters},
+                {"accessPoints", import.counts.accessPoints},
+                {"networks", import.counts.networks},
+                {"hidden", import.counts.hidden},
+                {"profiles", import.counts.profiles},
+                {"warnings", import.warnings},
+                {"output", import.output}});
+}
+
 void PrintJson(std::ostream& out, const FailureReport& failure)
 {
     Json error;

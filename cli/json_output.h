@@ -27,6 +27,7 @@ void PrintJson(std::ostream& out, const PowerFacts& power);
 void PrintJson(std::ostream& out, const SoftApFacts& softAps);
 /// A decision and what it led to.
 void PrintJson(std::ostream& out, const RoamFacts& roam, const StatusFacts& status);
+void PrintJson(std::ostream& out, const ImportFacts& import);
 
 /// What happened at a moment, in one line; the moment in milliseconds since the beginning.
 void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const SignalFacts& signal);

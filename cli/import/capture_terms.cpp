@@ -18,16 +18,34 @@ namespace
 template <typename Value>
 using Terms = std::initializer_list<std::pair<std::string_view, Value>>;
 
+/// Addresses and GUIDs are often made unreadable before a capture is shown to others.
+bool IsMasked(std::string_view text)
+{
+    return text.find_first_of("xX*") != std::string_view::npos && text.find_first_of(":-") != std::string_view::npos &&
+           text.find_first_not_of("0123456789abcdefABCDEFxX*:-{}") == std::string_view::npos;
+}
+
 LineError Unusable(const CaptureField& field, const std::string& expected)
 {
+    if (IsMasked(field.value))
+        return LineError(field.line, "\"" + field.name + "\" is masked (\"" + field.value +
+                                         "\"): write other digits in its place, the same for the same device");
     return LineError(field.line, "\"" + field.name + "\" is \"" + field.value + "\", which is not " + expected);
 }
 
+std::string WithoutBlanks(std::string text)
+{
+    text.erase(std::remove(text.begin(), text.end(), ' '), text.end());
+    return text;
+}
+
+/// Some languages have "802.11 ax".
 template <typename Value>
 Value Meaning(const CaptureField& field, const Terms<Value>& terms, const std::string& expected)
 {
+    const std::string word = WithoutBlanks(field.value);
     const auto found =
-        std::find_if(terms.begin(), terms.end(), [&](const auto& term) { return SameWord(term.first, field.value); });
+        std::find_if(terms.begin(), terms.end(), [&](const auto& term) { return SameWord(term.first, word); });
     if (found == terms.end())
         throw Unusable(field, expected);
     return found->second;
@@ -78,8 +96,6 @@ std::uint32_t Frequency(const CaptureRecord& record)
     return *frequency;
 }
 
-const std::string kKnownAuthentications = "a known authentication (Open, WPA2-Personal, WPA3-Enterprise, OWE ...)";
-
 /// "WPA2-Personal" is a standard, the same everywhere, and a word for how keys are had.
 std::string WpaAuthentication(std::string_view text)
 {
@@ -101,27 +117,17 @@ std::string WpaAuthentication(std::string_view text)
     return version != "3" ? standard : bits == std::string_view::npos ? "WPA3ENT" : "WPA3ENT192";
 }
 
-/// Empty for a word of another language that says nothing of WPA.
+/// Empty for a word that nothing here knows. What stands in brackets after it, as in "WPA3-Personal (H2E)", is how keys
+/// are exchanged.
 std::string Authentication(const CaptureField& field, const Vocabulary& vocabulary)
 {
+    const std::string_view word = Trim(std::string_view(field.value).substr(0, field.value.find('(')));
     if (const std::optional<std::string> explained = Explained(vocabulary, field.value))
         return *explained;
-    const bool isWpa = field.value.starts_with("WPA");
-    if (isWpa)
-    {
-        if (std::string name = WpaAuthentication(field.value); !name.empty())
-            return name;
-    }
-    else if (const auto meaning = MeaningOf(WordKind::authentication, field.value);
-             meaning && meaning != "personal" && meaning != "enterprise")
-    {
-        return std::string(*meaning);
-    }
-    if (!vocabulary.foreign)
-        throw Unusable(field, kKnownAuthentications);
-    if (isWpa || field.value.empty())
-        throw UnknownWord(field.line, Unusable(field, kKnownAuthentications).what());
-    return {};
+    if (word.starts_with("WPA"))
+        return WpaAuthentication(word);
+    const auto meaning = MeaningOf(WordKind::authentication, word);
+    return meaning && meaning != "personal" && meaning != "enterprise" ? std::string(*meaning) : std::string();
 }
 
 /// Whether a text could be the name of a cipher: capitals, digits and hyphens.
@@ -151,17 +157,23 @@ std::string Encryption(const CaptureField& field, const Vocabulary& vocabulary)
         return found->second;
     if (MeaningOf(WordKind::encryption, field.value) || (vocabulary.foreign && !IsAcronym(field.value)))
         return "none";
-    constexpr const char* known = "a known encryption (None, WEP, TKIP, CCMP, GCMP ...)";
-    if (vocabulary.foreign)
-        throw UnknownWord(field.line, Unusable(field, known).what());
-    throw Unusable(field, known);
+    throw Unusable(field, "a known encryption (None, WEP, TKIP, CCMP, GCMP ...)");
 }
 
 } // namespace
 
+/// The number of a percentage, -1 for any other text. Turkish writes the sign first.
+int Percentage(std::string_view text)
+{
+    const bool isFirst = text.starts_with('%');
+    if (!isFirst && !text.ends_with('%'))
+        return -1;
+    return WholeNumber(Trim(text.substr(isFirst ? 1 : 0, text.size() - 1)));
+}
+
 bool IsPercentage(std::string_view text)
 {
-    return text.ends_with('%') && WholeNumber(Trim(text.substr(0, text.size() - 1))) >= 0;
+    return Percentage(text) >= 0;
 }
 
 bool IsRadioType(std::string_view text)
@@ -192,12 +204,8 @@ bool IsGuid(std::string_view text)
 
 std::int32_t SignalStrength(const CaptureField& field)
 {
-    std::string_view text = field.value;
-    const bool hasSign = text.ends_with('%');
-    if (hasSign)
-        text.remove_suffix(1);
-    const int quality = WholeNumber(Trim(text));
-    if (!hasSign || quality < 0 || quality > 100)
+    const int quality = Percentage(field.value);
+    if (quality < 0 || quality > 100)
         throw Unusable(field, "a percentage from 0% to 100%");
     return quality / 2 - 100;
 }
@@ -218,15 +226,12 @@ std::uint32_t PhyType(const CaptureField& field)
 
 std::uint32_t BssType(const CaptureField& field, const Vocabulary& vocabulary)
 {
-    const std::string expected = "a known network type (Infrastructure or Adhoc)";
     const std::optional<std::string> explained = Explained(vocabulary, field.value);
     const std::optional<std::string_view> meaning =
         explained ? std::optional<std::string_view>(*explained) : MeaningOf(WordKind::networkType, field.value);
     if (meaning)
         return *meaning == "infrastructure" ? 1 : 2;
-    if (vocabulary.foreign)
-        throw UnknownWord(field.line, Unusable(field, expected).what());
-    throw Unusable(field, expected);
+    throw Unusable(field, "a known network type (Infrastructure or Adhoc)");
 }
 
 NetworkSecurity
@@ -236,12 +241,10 @@ Security(const CaptureField& authentication, const CaptureField& encryption, con
     const std::string cipher = Encryption(encryption, vocabulary);
     if (!how.empty())
         return {how, cipher};
-    // Without WPA there are open networks, those that share a WEP key, and open ones that encrypt all the same.
-    if (cipher == "none")
+    if (cipher == "none" && vocabulary.foreign && !authentication.value.empty() &&
+        !authentication.value.starts_with("WPA"))
         return {"open", cipher};
-    if (cipher == "AES" || cipher == "GCMP256")
-        return {"OWE", cipher};
-    throw UnknownWord(authentication.line, Unusable(authentication, kKnownAuthentications).what());
+    throw Unusable(authentication, "a known authentication (Open, WPA2-Personal, WPA3-Enterprise, OWE ...)");
 }
 
 simulation::MacAddress Address(const CaptureField& field)
@@ -273,6 +276,10 @@ simulation::Bytes Ssid(const CaptureField& field)
 void Hear(const CaptureRecord& record, simulation::AccessPoint& accessPoint)
 {
     accessPoint.rssi = SignalStrength(record.Need("Signal"));
+    const CaptureField* exact = record.Find("Rssi");
+    const int below = exact != nullptr && exact->value.starts_with('-') ? WholeNumber(exact->value.substr(1)) : -1;
+    if (below >= 0)
+        accessPoint.rssi = std::max(-below, -120);
     accessPoint.phyType = PhyType(record.Need("Radio type"));
     accessPoint.frequencyKhz = Frequency(record);
 }

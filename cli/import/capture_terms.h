@@ -10,13 +10,6 @@
 namespace calvix::host
 {
 
-/// A word of another language than English that nothing here knows.
-class UnknownWord : public LineError
-{
-public:
-    using LineError::LineError;
-};
-
 /// What the words and numbers of a capture mean. Every function throws LineError, with the field's line, for a value that
 /// it does not know.
 
@@ -29,13 +22,13 @@ bool IsNumberList(std::string_view text);
 bool IsAddress(std::string_view text);
 bool IsGuid(std::string_view text);
 
-/// "70%" as dBm, by the service's rule: 0 to 100 % are -100 to -50 dBm.
+/// "70%", or "%70", as dBm, by the service's rule: 0 to 100 % are -100 to -50 dBm.
 std::int32_t SignalStrength(const CaptureField& field);
 
 /// "802.11ax" as DOT11_PHY_TYPE.
 std::uint32_t PhyType(const CaptureField& field);
 
-/// "Infrastructure" or "Adhoc" as DOT11_BSS_TYPE. Throws UnknownWord where the vocabulary is foreign.
+/// "Infrastructure" or "Adhoc" as DOT11_BSS_TYPE.
 std::uint32_t BssType(const CaptureField& field, const Vocabulary& vocabulary);
 
 /// How a network authenticates and encrypts, as a profile writes it.
@@ -46,8 +39,8 @@ struct NetworkSecurity
 };
 
 /// Ciphers have their names in every language, but for "None"; so have the standards that authentications begin with. Where
-/// the vocabulary is foreign, an unknown word in a cipher's place therefore means that there is none, and one in the
-/// authentication's place is told by the cipher, if it can be; otherwise this throws UnknownWord.
+/// the vocabulary is foreign, an unknown word in a cipher's place therefore means that there is none; and a network
+/// without a cipher is open, whatever the word for it.
 NetworkSecurity
 Security(const CaptureField& authentication, const CaptureField& encryption, const Vocabulary& vocabulary);
 
@@ -60,7 +53,8 @@ std::string GuidText(const CaptureField& field);
 /// An SSID, whose 32 bytes at most are those of its UTF-8 text; empty for a network that hides its name.
 simulation::Bytes Ssid(const CaptureField& field);
 
-/// Sets what the record says of how an access point is heard: its strength, PHY type and frequency.
+/// Sets what the record says of how an access point is heard: its strength, PHY type and frequency. "Rssi" is exact;
+/// newer systems tell it beside the percentage.
 void Hear(const CaptureRecord& record, simulation::AccessPoint& accessPoint);
 
 } // namespace calvix::host

@@ -121,6 +121,16 @@ bool IsNumbered(std::string_view name, std::string_view keyword)
     return !number.empty() && name[keyword.size()] == ' ' && std::all_of(number.begin(), number.end(), IsDigit);
 }
 
+bool BeginsNetwork(const CaptureField& field)
+{
+    return IsNumbered(field.name, "SSID");
+}
+
+bool BeginsAccessPoint(const CaptureField& field)
+{
+    return IsNumbered(field.name, "BSSID") || IsNumbered(field.name, "BSSIDD");
+}
+
 int WholeNumber(std::string_view text)
 {
     int number = -1;

@@ -50,6 +50,7 @@ struct CaptureField
     bool hasColon = false;
     std::string key;             ///< what the field is, by its English name; empty: as `name` says
     bool understood = false;     ///< whether something knows what the field is
+    bool passedOver = false;     ///< belongs to the line above it, or to nothing: not to the record
     std::size_t indent = 0;      ///< blanks before it
     bool beginsParagraph = true; ///< nothing but blank lines before it
 
@@ -69,7 +70,7 @@ public:
     /// `title` is what messages call the thing; `line` is where it begins.
     CaptureRecord(std::string title, std::size_t line) : m_title(std::move(title)), m_line(line) {}
 
-    /// Throws LineError for a field that the record has already: a line between them was lost.
+    /// Throws LineError, and leaves the field out, where the record has it already: a line between them was lost.
     void Add(const CaptureField& field);
     /// Null when the record has no field of that name.
     const CaptureField* Find(std::string_view name) const;
@@ -97,6 +98,10 @@ int FirstNumber(std::string_view text);
 
 /// For "SSID 12" and the keyword "SSID": true.
 bool IsNumbered(std::string_view name, std::string_view keyword);
+
+/// "SSID n" and "BSSID n", which are never translated. German systems print "BSSIDD n" as well.
+bool BeginsNetwork(const CaptureField& field);
+bool BeginsAccessPoint(const CaptureField& field);
 
 /// -1 unless the whole text is a decimal number.
 int WholeNumber(std::string_view text);

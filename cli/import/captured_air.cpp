@@ -1,5 +1,7 @@
 #include "import/captured_air.h"
 
+#include "simulation/scenario_names.h"
+
 #include <algorithm>
 
 namespace calvix::host
@@ -9,6 +11,14 @@ namespace
 {
 
 using simulation::AccessPoint;
+
+/// Whether one access point is listed twice, by two adapters or with and without its name.
+bool IsSame(const AccessPoint& known, const AccessPoint& again)
+{
+    const bool isNamedOtherwise = !known.ssid.empty() && !again.ssid.empty() && known.ssid != again.ssid;
+    return !isNamedOtherwise && known.frequencyKhz == again.frequencyKhz &&
+           known.authentication == again.authentication && known.encryption == again.encryption;
+}
 
 void Merge(AccessPoint& known, const AccessPoint& again)
 {
@@ -20,6 +30,15 @@ void Merge(AccessPoint& known, const AccessPoint& again)
     known.hidden = hidden;
 }
 
+/// A locally administered address that no access point of the air has.
+simulation::MacAddress FreeAddress(std::vector<AccessPoint>& air, simulation::MacAddress address)
+{
+    address[0] |= 0x02;
+    while (FindAccessPoint(air, address) != nullptr)
+        address[4] = static_cast<std::uint8_t>(address[4] + (++address[5] == 0 ? 1 : 0));
+    return address;
+}
+
 } // namespace
 
 AccessPoint* FindAccessPoint(std::vector<AccessPoint>& air, const simulation::MacAddress& address)
@@ -29,16 +48,29 @@ AccessPoint* FindAccessPoint(std::vector<AccessPoint>& air, const simulation::Ma
     return found == air.end() ? nullptr : &*found;
 }
 
-std::vector<AccessPoint> AirOf(const NetworksCapture& capture)
+std::vector<AccessPoint> AirOf(const NetworksCapture& capture, std::vector<std::string>& warnings)
 {
     std::vector<AccessPoint> air;
     for (const CapturedNetwork& network : capture.networks)
-        for (const AccessPoint& heard : network.accessPoints)
+        for (AccessPoint heard : network.accessPoints)
         {
-            if (AccessPoint* known = FindAccessPoint(air, heard.bssid))
+            AccessPoint* const known = FindAccessPoint(air, heard.bssid);
+            const std::string address = "the access point " + simulation::AddressText(heard.bssid);
+            if (known != nullptr && IsSame(*known, heard))
+            {
                 Merge(*known, heard);
-            else
-                air.push_back(heard);
+                warnings.push_back(address + " is listed more than once: it is as strong as it was heard best");
+                continue;
+            }
+            if (known != nullptr)
+            {
+                heard.bssid = FreeAddress(air, heard.bssid);
+                warnings.push_back(
+                    address +
+                    " is listed again with another name, channel or security: that one has the made-up address " +
+                    simulation::AddressText(heard.bssid));
+            }
+            air.push_back(heard);
         }
     return air;
 }

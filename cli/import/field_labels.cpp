@@ -13,13 +13,16 @@ namespace calvix::host
 namespace
 {
 
-constexpr std::array<std::string_view, 42> kEnglishLabels{
+constexpr std::array<std::string_view, 45> kEnglishLabels{
     "Interface name",
     "Name",
     "Description",
     "GUID",
     "Physical address",
     "Interface type",
+    "Primary interface",
+    "MLD AP BSSID",
+    "LinkID",
     "State",
     "SSID",
     "BSSID",

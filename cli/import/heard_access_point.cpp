@@ -30,6 +30,9 @@ std::uint32_t OldPhyType(std::uint32_t frequencyKhz, double highestRate)
     constexpr std::uint32_t kDsssAtHighRate = 5;
     constexpr std::uint32_t kOfdm = 4;
     constexpr std::uint32_t kErp = 6;
+    constexpr std::uint32_t kDmg = 9;
+    if (frequencyKhz >= 45000000)
+        return kDmg;
     if (frequencyKhz >= 3000000)
         return kOfdm;
     return highestRate > 11 ? kErp : kDsssAtHighRate;

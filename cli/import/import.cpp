@@ -3,12 +3,12 @@
 #include "import/captured_air.h"
 #include "import/file_path.h"
 #include "import/made_profile.h"
+#include "simulation/computer.h"
+#include "simulation/guid_text.h"
 #include "text_forms.h"
 
 #include <algorithm>
 #include <array>
-#include <set>
-#include <tuple>
 
 namespace calvix::host
 {
@@ -18,7 +18,6 @@ namespace
 
 using simulation::AccessPoint;
 using simulation::AdapterDescription;
-using simulation::Bytes;
 using simulation::StoredProfile;
 
 /// The PHY types in the order of their standards; an adapter knows those before its newest.
@@ -28,6 +27,9 @@ std::size_t Generation(std::uint32_t phyType)
 {
     return static_cast<std::size_t>(std::find(kPhyTypes.begin(), kPhyTypes.end(), phyType) - kPhyTypes.begin());
 }
+
+/// As many as a scenario holds.
+constexpr std::size_t kMostAdapters = 64;
 
 struct NamedProfile
 {
@@ -39,13 +41,16 @@ std::vector<CapturedInterface> AdaptersOf(const Captures& captures)
 {
     if (captures.interfaces)
         return captures.interfaces->adapters;
-    CapturedInterface madeUp;
-    madeUp.description = "Wireless adapter";
-    madeUp.guid = "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E01}";
-    madeUp.address = {0x02, 0x00, 0x5E, 0x10, 0x00, 0x01};
+    std::vector<CapturedInterface> madeUp;
+    if (captures.networks)
+        for (const std::string& name : captures.networks->adapterNames)
+            if (madeUp.size() < kMostAdapters)
+                madeUp.push_back(MadeUpInterface(name, madeUp.size()));
+    if (madeUp.empty())
+        madeUp.push_back(MadeUpInterface("", 0));
     if (captures.networks && !captures.networks->connections.empty())
-        madeUp.connection = captures.networks->connections.front();
-    return {madeUp};
+        madeUp.front().connection = captures.networks->connections.front();
+    return madeUp;
 }
 
 /// Index into `adapters`, or their number where the file's name tells nothing.
@@ -74,8 +79,8 @@ public:
     {
         if (captures.networks)
         {
-            m_result.scenario.accessPoints = AirOf(*captures.networks);
             m_result.warnings = captures.networks->warnings;
+            m_result.scenario.accessPoints = AirOf(*captures.networks, m_result.warnings);
         }
         if (captures.interfaces)
             m_result.warnings.insert(m_result.warnings.end(), captures.interfaces->warnings.begin(),
@@ -242,6 +247,24 @@ private:
     ImportedScenario m_result;
 };
 
+/// What `calvix networks` will list.
+std::size_t ListedNetworks(const simulation::Scenario& scenario)
+{
+    if (scenario.adapters.empty())
+        return 0;
+    simulation::Computer computer(scenario);
+    const GUID adapter = *simulation::GuidFromText(scenario.adapters.front().guid);
+    DWORD version = 0;
+    HANDLE client = nullptr;
+    WLAN_AVAILABLE_NETWORK_LIST* list = nullptr;
+    computer.wlan().WlanOpenHandle(2, nullptr, &version, &client);
+    computer.wlan().WlanGetAvailableNetworkList(client, &adapter, 0, nullptr, &list);
+    const std::size_t count = list != nullptr ? list->dwNumberOfItems : 0;
+    computer.wlan().WlanFreeMemory(list);
+    computer.wlan().WlanCloseHandle(client, nullptr);
+    return count;
+}
+
 } // namespace
 
 ImportedScenario AssembleScenario(const Captures& captures, bool makeProfiles)
@@ -252,18 +275,13 @@ ImportedScenario AssembleScenario(const Captures& captures, bool makeProfiles)
 ScenarioCounts CountScenario(const simulation::Scenario& scenario)
 {
     ScenarioCounts counts;
-    std::set<std::tuple<Bytes, bool, std::uint32_t, std::string, std::string>> networks;
-    for (const AccessPoint& accessPoint : scenario.accessPoints)
-    {
-        counts.hidden += accessPoint.hidden ? 1 : 0;
-        networks.emplace(accessPoint.ssid, accessPoint.hidden, accessPoint.bssType, accessPoint.authentication,
-                         accessPoint.encryption);
-    }
     for (const AdapterDescription& adapter : scenario.adapters)
         counts.profiles += adapter.profiles.size();
     counts.adapters = scenario.adapters.size();
     counts.accessPoints = scenario.accessPoints.size();
-    counts.networks = networks.size();
+    counts.networks = ListedNetworks(scenario);
+    counts.hidden = static_cast<std::size_t>(std::count_if(scenario.accessPoints.begin(), scenario.accessPoints.end(),
+                                                           [](const AccessPoint& each) { return each.hidden; }));
     return counts;
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "facts.h"
 #include "import/netsh_interfaces.h"
 #include "import/netsh_networks.h"
 #include "import/profile_folder.h"
 #include "simulation/scenario.h"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,24 +30,14 @@ struct ImportedScenario
 /// Puts captures together.
 ///
 /// - The air is what the networks capture lists; without one, the access points that adapters are connected to.
-/// - The adapters are those of the interfaces capture; without one, a single adapter is made up, connected as the list of
-///   networks shows it. Their PHYs are guessed from the newest radio type seen.
+/// - The adapters are those of the interfaces capture; without one, an adapter is made up for each that the list of
+///   networks names, the first connected as the list shows it. Their PHYs are guessed from the newest radio type seen.
 /// - An exported profile goes to the adapter whose name its file name begins with ("Wi-Fi-Home.xml"), else to all.
 /// - A connected adapter whose profile was not exported gets one from what the capture tells about the network, with a
 ///   made-up key. Its connection is kept if the air holds its access point.
 ///
 /// `makeProfiles`: every visible network with a name and without a profile gets an automatic one, with a made-up key.
 ImportedScenario AssembleScenario(const Captures& captures, bool makeProfiles);
-
-/// What a scenario holds, in numbers.
-struct ScenarioCounts
-{
-    std::size_t adapters = 0;
-    std::size_t accessPoints = 0;
-    std::size_t networks = 0; ///< told apart as the service does: by name, type and security
-    std::size_t hidden = 0;   ///< access points that keep their name to themselves
-    std::size_t profiles = 0;
-};
 
 ScenarioCounts CountScenario(const simulation::Scenario& scenario);
 

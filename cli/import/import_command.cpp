@@ -1,17 +1,16 @@
 #include "command.h"
+#include "files.h"
 #include "host.h"
 #include "import/capture_encoding.h"
 #include "import/capture_text.h"
 #include "import/file_path.h"
 #include "import/import.h"
 #include "import/read_capture.h"
+#include "json_output.h"
 #include "simulation/security_suite.h"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <array>
-#include <fstream>
 
 namespace calvix::host
 {
@@ -183,49 +182,12 @@ std::string CheckedText(const simulation::Scenario& scenario)
     return text;
 }
 
-/// Writes beside the file first: what stood there stays until the new text is complete.
-void WriteFile(const std::string& path, const std::string& text)
-{
-    const files::path unfinished = PathOf(path + ".unfinished");
-    std::ofstream file(unfinished, std::ios::binary);
-    file << text;
-    file.close();
-    std::error_code error;
-    if (file)
-        files::rename(unfinished, PathOf(path), error);
-    if (!file || error)
-    {
-        files::remove(unfinished, error);
-        throw BadInput(path + ": cannot be written", "Name a file in a folder that exists and is yours to write to.");
-    }
-}
-
-std::string Plural(std::size_t count, const std::string& noun)
-{
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
-
 void PrintCounts(std::ostream& out, const ScenarioCounts& counts)
 {
     out << "Adapters       " << counts.adapters << "\n"
-        << "Access points  " << counts.accessPoints << " on " << Plural(counts.networks, "network") << " ("
-        << counts.hidden << " hidden)\n"
+        << "Access points  " << counts.accessPoints << " (" << counts.hidden << " hidden)\n"
+        << "Networks       " << counts.networks << "\n"
         << "Profiles       " << counts.profiles << "\n";
-}
-
-void PrintJson(std::ostream& out,
-               const ScenarioCounts& counts,
-               const ImportedScenario& imported,
-               const std::string& output)
-{
-    const nlohmann::ordered_json summary{{"adapters", counts.adapters},
-                                         {"accessPoints", counts.accessPoints},
-                                         {"networks", counts.networks},
-                                         {"hidden", counts.hidden},
-                                         {"profiles", counts.profiles},
-                                         {"warnings", imported.warnings},
-                                         {"output", output}};
-    out << summary.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
 }
 
 void Report(Host& host, const ImportedScenario& imported, const std::string& output)
@@ -236,7 +198,7 @@ void Report(Host& host, const ImportedScenario& imported, const std::string& out
     std::ostream& out = output == kStandardOutput ? host.err() : host.out();
     const ScenarioCounts counts = CountScenario(imported.scenario);
     if (host.json())
-        return PrintJson(out, counts, imported, output);
+        return PrintJson(out, ImportFacts{counts, imported.warnings, output});
     PrintCounts(out, counts);
     if (output != kStandardOutput)
         out << "Written to     " << output << "\n";
@@ -251,7 +213,7 @@ void Import(Host& host, const ImportOptions& options)
         if (options.output == kStandardOutput)
             host.out() << text;
         else
-            WriteFile(options.output, text);
+            WriteWholeFile(options.output, text);
         Report(host, imported, options.output);
     }
     catch (const CaptureError& error)

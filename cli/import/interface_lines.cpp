@@ -29,7 +29,7 @@ public:
     bool Recognise()
     {
         for (std::size_t i = m_begin; i < m_end; ++i)
-            m_fields[i].understood = HasEnglishLabel(m_fields[i]);
+            Nested(m_fields[i], m_fields[m_begin].indent);
         Set(m_begin, "Name");
         Set(m_begin + 1, "Description");
         Set(m_begin + 2, "GUID");
@@ -44,6 +44,14 @@ public:
     }
 
 private:
+    /// Access points beside the one of the connection stand further in. Those of a connection over several links tell what
+    /// others tell in lines of their own.
+    static void Nested(CaptureField& field, std::size_t indent)
+    {
+        field.passedOver = field.hasColon && field.indent > indent && !SameWord(field.name, "LinkID");
+        field.understood = field.passedOver || HasEnglishLabel(field);
+    }
+
     template <typename Test>
     std::size_t Find(std::size_t from, Test test) const
     {
@@ -196,7 +204,7 @@ bool RecogniseInterfaceLines(std::vector<CaptureField>& fields)
     const std::vector<std::size_t> starts = AdapterStarts(fields);
     bool foreign = false;
     for (std::size_t i = 0; i < fields.size() && (starts.empty() || i < starts.front()); ++i)
-        fields[i].understood = HasEnglishLabel(fields[i]) || FirstNumber(FieldText(fields[i])) >= 0;
+        fields[i].understood = HasEnglishLabel(fields[i]) || (!starts.empty() && i + 1 == starts.front());
     for (std::size_t i = 0; i < starts.size(); ++i)
         foreign |= AdapterLines(fields, starts[i], i + 1 < starts.size() ? starts[i + 1] : fields.size()).Recognise();
     return foreign;

@@ -85,6 +85,18 @@ double HighestRate(std::string_view text)
     return highest;
 }
 
+/// Older versions print the numbers of the suites that came after them.
+std::string NamedSuites(std::string text)
+{
+    constexpr std::pair<std::string_view, std::string_view> kSuites[] = {
+        {"00-0f-ac:8", "SAE"}, {"00-0f-ac:9", "FT/SAE"}, {"00-0f-ac:12", "SUITE-B-192"}, {"00-0f-ac:18", "OWE"}};
+    for (const auto& [number, name] : kSuites)
+        for (std::size_t at = 0; (at = text.find(number, at)) != std::string::npos; ++at)
+            if (at + number.size() == text.size() || text[at + number.size()] == ' ')
+                text.replace(at, number.size(), name);
+    return text;
+}
+
 std::uint32_t PhyTypeOf(std::string_view element)
 {
     constexpr std::pair<std::string_view, std::uint32_t> kElements[] = {
@@ -103,17 +115,14 @@ public:
 
     void Read(std::string_view line, std::size_t number)
     {
-        if (const std::optional<simulation::MacAddress> address = StartOf(line))
-            return Begin(line, number, *address);
-        if (Trim(line).empty())
-            return;
-        if (m_found.empty() || line.find_first_not_of(" \t") == 0)
-            return Report(number, "\"" + std::string(Trim(line)) + "\" is not understood and left out");
-        const bool isTopLevel = line.starts_with('\t') && !line.starts_with("\t\t") && !line.starts_with("\t ");
-        if (isTopLevel)
-            TopLevel(line.substr(1), number);
-        else
-            Nested(Trim(line));
+        try
+        {
+            ReadLine(line, number);
+        }
+        catch (const LineError& error)
+        {
+            Report(error.line(), std::string(error.what()) + "; it is left out");
+        }
     }
 
     void Finish()
@@ -123,6 +132,31 @@ public:
     }
 
 private:
+    void ReadLine(std::string_view line, std::size_t number)
+    {
+        if (const std::optional<simulation::MacAddress> address = StartOf(line))
+            return Begin(line, number, *address);
+        if (Trim(line).empty())
+            return;
+        const std::size_t indent = IndentOf(line);
+        if (m_found.empty() || indent == 0)
+            return Report(number, "\"" + std::string(Trim(line)) + "\" is not understood and left out");
+        m_topLevel = m_topLevel == 0 ? indent : m_topLevel;
+        if (indent <= m_topLevel)
+            TopLevel(line.substr(line.find_first_not_of(" \t")), number);
+        else
+            Nested(Trim(line));
+    }
+
+    /// iw indents with tabs, which pages and terminals turn into blanks.
+    static std::size_t IndentOf(std::string_view line)
+    {
+        std::size_t indent = 0;
+        for (std::size_t i = 0; i < line.size() && (line[i] == ' ' || line[i] == '\t'); ++i)
+            indent += line[i] == '\t' ? 8u : 1u;
+        return indent;
+    }
+
     void Report(std::size_t line, const std::string& what)
     {
         m_capture.warnings.push_back(m_capture.source + ":" + std::to_string(line) + ": " + what);
@@ -229,7 +263,7 @@ private:
         if (name == "Pairwise ciphers")
             m_element->ciphers = value;
         else if (name == "Authentication suites")
-            m_element->suites = value;
+            m_element->suites = NamedSuites(std::string(value));
     }
 
     std::string CipherOf(const HeardBss& bss, const SecurityElement& element)
@@ -285,7 +319,8 @@ private:
     {
         simulation::AccessPoint& accessPoint = bss.accessPoint;
         if (accessPoint.frequencyKhz == 0 || !bss.hasSignal)
-            throw LineError(bss.line, MacOf(bss) + " has no \"" + (bss.hasSignal ? "freq" : "signal") + "\"");
+            return Report(bss.line,
+                          MacOf(bss) + " has no \"" + (bss.hasSignal ? "freq" : "signal") + "\" and is left out");
         if (accessPoint.phyType == 0)
             accessPoint.phyType = OldPhyType(accessPoint.frequencyKhz, bss.highestRate);
         try
@@ -303,6 +338,7 @@ private:
 
     NetworksCapture& m_capture;
     std::vector<HeardBss> m_found;
+    std::size_t m_topLevel = 0;           ///< the indentation of an access point's own lines, 0: not seen yet
     SecurityElement* m_element = nullptr; ///< the element that lines further in belong to
 };
 
@@ -328,6 +364,7 @@ NetworksCapture ParseIwScan(std::string_view text, const std::string& source)
                            for (std::size_t i = 0; i < lines.size(); ++i)
                                reader.Read(lines[i], i + 1);
                            reader.Finish();
+                           RefuseUseless(capture);
                            return capture;
                        });
 }

@@ -4,9 +4,11 @@
 #include "import/capture_text.h"
 #include "import/field_roles.h"
 #include "import/misread_text.h"
+#include "simulation/scenario_names.h"
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 
 namespace calvix::host
 {
@@ -22,34 +24,53 @@ struct InterfaceRecord
 {
     CaptureRecord fields;
     CaptureField radioStatus; ///< its value over all its lines: "Hardware On Software On"
+    bool hasLink = false;     ///< the first of a connection over several links
 };
 
+/// "LinkID: 0, Local: 02:..., AP: 02:..., RSSI: -53, Channel: 48, Band: 5 GHz, BW: 80", of a connection over several
+/// links: what others tell in lines of their own.
+std::vector<CaptureField> FieldsOfLink(const CaptureField& link)
+{
+    constexpr std::array<std::pair<std::string_view, const char*>, 5> kNames{
+        {{"AP", "AP BSSID"}, {"RSSI", "Rssi"}, {"Channel", "Channel"}, {"Band", "Band"}, {"BW", "Channel Width"}}};
+    std::vector<CaptureField> fields;
+    for (std::string_view rest = link.value; !rest.empty();)
+    {
+        const std::string_view part = rest.substr(0, rest.find(','));
+        const std::size_t colon = std::min(part.find(':'), part.size());
+        for (const auto& [name, key] : kNames)
+            if (Trim(part.substr(0, colon)) == name)
+            {
+                CaptureField field = link;
+                field.name = field.key = key;
+                field.value = Trim(part.substr(std::min(colon + 1, part.size())));
+                fields.push_back(std::move(field));
+            }
+        rest.remove_prefix(std::min(part.size() + 1, rest.size()));
+    }
+    return fields;
+}
+
 /// Sorts the lines by adapter. Each begins with its "Name"; the radio's two switches stand in two lines, the second of
-/// them without a name of its own.
+/// them without a name of its own. A line that cannot be used costs itself.
 class InterfacesReader
 {
 public:
-    explicit InterfacesReader(bool foreign) : m_foreign(foreign) {}
+    explicit InterfacesReader(CaptureReport report) : m_report(std::move(report)) {}
 
-    void Read(const CaptureField& field)
+    void Read(CaptureField& field)
     {
-        const bool continuesRadio = m_inRadioStatus && !field.hasColon;
-        m_inRadioStatus = continuesRadio || SameWord(field.Key(), "Radio status");
+        const bool continuesRadio = m_inRadioStatus && !field.hasColon && !field.beginsParagraph;
+        m_inRadioStatus = !adapters.empty() && SameWord(field.Key(), "Radio status");
         if (SameWord(field.Key(), "Name"))
             Begin(field);
         else if (continuesRadio)
-            adapters.back().radioStatus.value += "\n" + field.name;
-        else if (adapters.empty() && field.name == kNoAdapter)
-            return;
-        else if (!field.hasColon && adapters.empty() && FirstNumber(field.name) >= 0)
-            ReadHeader(field);
-        else if (!field.hasColon && m_foreign)
-            return;
-        else if (!field.hasColon)
-            throw LineError(field.line, "\"" + field.name + "\" is no line of a list of interfaces");
+            AddSwitch(field);
         else if (adapters.empty())
             ReadHeader(field);
-        else
+        else if (SameWord(field.name, "LinkID"))
+            AddLink(field);
+        else if (field.hasColon)
             AddField(field);
     }
 
@@ -59,28 +80,55 @@ public:
 private:
     void Begin(const CaptureField& field)
     {
-        adapters.push_back({CaptureRecord("the interface \"" + field.value + "\"", field.line), {}});
+        adapters.push_back({CaptureRecord("the interface \"" + field.value + "\"", field.line), {}, false});
         adapters.back().fields.Add(field);
+        m_isLost = false;
     }
 
-    void ReadHeader(const CaptureField& field)
+    void ReadHeader(CaptureField& field)
     {
-        if (!announcement && FirstNumber(FieldText(field)) >= 0)
+        if (FirstNumber(FieldText(field)) >= 0 && !SameWord(field.name, "GUID"))
             announcement = field;
         else if (SameWord(field.name, "GUID") || SameWord(field.name, "State"))
-            throw LineError(field.line, "\"" + field.name + "\" before the \"Name\" of any interface");
-        m_inRadioStatus = false;
+            m_report(field.line, "\"" + field.name + "\" before the \"Name\" of any interface; it is left out");
+        field.understood |= field.name == kNoAdapter;
+    }
+
+    void AddSwitch(CaptureField& field)
+    {
+        adapters.back().radioStatus.value += "\n" + field.name;
+        field.understood = true;
     }
 
     void AddField(const CaptureField& field)
     {
-        adapters.back().fields.Add(field);
-        if (m_inRadioStatus)
-            adapters.back().radioStatus = field;
+        if (m_isLost)
+            return;
+        try
+        {
+            adapters.back().fields.Add(field);
+            if (m_inRadioStatus)
+                adapters.back().radioStatus = field;
+        }
+        catch (const LineError& error)
+        {
+            m_report(error.line(), std::string(error.what()) + "; it is left out, and what follows of it");
+            m_isLost = true;
+        }
     }
 
-    bool m_foreign;
+    void AddLink(const CaptureField& link)
+    {
+        if (adapters.back().hasLink)
+            return m_report(link.line, "\"" + FieldText(link) + "\" is a second link of the connection and left out");
+        adapters.back().hasLink = true;
+        for (const CaptureField& field : FieldsOfLink(link))
+            AddField(field);
+    }
+
+    CaptureReport m_report;
     bool m_inRadioStatus = false;
+    bool m_isLost = false; ///< whether the lines are those of an adapter whose name was lost
 };
 
 /// The line of a radio status, "Hardware On" and "Software Off", for one of its switches. In other languages than English
@@ -108,22 +156,14 @@ RadioSwitch SwitchState(const CaptureField& status,
     const std::optional<std::string_view> meaning = SwitchOf(line);
     if (meaning)
         return *meaning == "on" ? RadioSwitch::on : RadioSwitch::off;
-    if (!vocabulary.foreign)
-        throw LineError(status.line, "\"" + status.name + "\" does not tell whether \"" + std::string(switchName) +
-                                         "\" is On or Off");
-    report(status.line, "\"" + std::string(line) + "\" is not understood; that switch of the radio is taken to be on");
+    report(status.line, "\"" + (line.empty() ? std::string(switchName) : std::string(line)) +
+                            "\" is not understood; that switch of the radio is taken to be on");
     return RadioSwitch::on;
 }
 
-bool IsConnected(const CaptureField& state)
+bool IsOneOf(const std::string& word, std::initializer_list<std::string_view> words)
 {
-    constexpr std::array<std::string_view, 7> kOthers{"disconnected",   "associating", "disconnecting", "discovering",
-                                                      "authenticating", "not ready",   "unknown"};
-    if (SameWord(state.value, "connected") || SameWord(state.value, "ad hoc network formed"))
-        return true;
-    if (std::none_of(kOthers.begin(), kOthers.end(), [&](auto other) { return SameWord(state.value, other); }))
-        throw LineError(state.line, "\"" + state.value + "\" is no known state of an interface");
-    return false;
+    return std::any_of(words.begin(), words.end(), [&](std::string_view each) { return SameWord(word, each); });
 }
 
 const std::string& NeedText(const CaptureRecord& record, std::string_view name)
@@ -166,60 +206,91 @@ InterpretConnection(const CaptureRecord& record, const Vocabulary& vocabulary, c
     accessPoint.authentication = security.authentication;
     accessPoint.encryption = security.encryption;
     Hear(record, accessPoint);
+    // Only a connection over several links tells it.
+    if (const CaptureField* width = record.Find("Channel Width");
+        width && IsOneOf(width->value, {"20", "40", "80", "160", "320"}))
+        accessPoint.channelWidth = static_cast<std::uint32_t>(WholeNumber(width->value));
     return connection;
 }
 
-/// In a foreign capture it is the access point that shows the connection.
-bool HasConnection(const CaptureRecord& record, bool foreign)
+/// Where the language's word for the state is not known, an access point shows the connection.
+bool HasConnection(const CaptureRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
 {
+    const CaptureField* state = record.Find("State");
+    if (state != nullptr && IsOneOf(state->value, {"connected", "ad hoc network formed"}))
+        return true;
+    if (state != nullptr && IsOneOf(state->value, {"disconnected", "associating", "disconnecting", "discovering",
+                                                   "authenticating", "not ready", "unknown"}))
+        return false;
+    if (state != nullptr && !vocabulary.foreign)
+        report(state->line, "\"" + state->value + "\" is no known state of an interface");
     const bool isHeard = record.Find("BSSID") != nullptr || record.Find("AP BSSID") != nullptr;
-    return foreign ? isHeard && record.Find("SSID") != nullptr : IsConnected(record.Need("State"));
+    return isHeard && record.Find("SSID") != nullptr;
 }
 
-CapturedInterface Interpret(const InterfaceRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
+/// What identifies the adapter, made up where the capture does not tell it.
+CapturedInterface Identify(const CaptureRecord& record, std::size_t index, const CaptureReport& report)
 {
-    CapturedInterface adapter;
-    adapter.name = record.fields.Need("Name").value;
-    adapter.description = record.fields.Need("Description").value;
-    adapter.guid = GuidText(record.fields.Need("GUID"));
-    adapter.address = Address(record.fields.Need("Physical address"));
+    CapturedInterface adapter = MadeUpInterface(record.Need("Name").value, index);
+    const auto read = [&](const char* name, auto& member, auto meaning)
+    {
+        try
+        {
+            member = meaning(record.Need(name));
+        }
+        catch (const LineError& error)
+        {
+            report(error.line(), std::string(error.what()) + "; the adapter has a made-up one");
+        }
+    };
+    read("Description", adapter.description, [](const CaptureField& field) { return field.value; });
+    read("GUID", adapter.guid, GuidText);
+    read("Physical address", adapter.address, Address);
+    return adapter;
+}
+
+CapturedInterface
+Interpret(const InterfaceRecord& record, std::size_t index, const Vocabulary& vocabulary, const CaptureReport& report)
+{
+    CapturedInterface adapter = Identify(record.fields, index, report);
     adapter.hardware = SwitchState(record.radioStatus, "Hardware", vocabulary, report);
     adapter.software = SwitchState(record.radioStatus, "Software", vocabulary, report);
-    if (!HasConnection(record.fields, vocabulary.foreign))
+    if (!HasConnection(record.fields, vocabulary, report))
         return adapter;
     try
     {
         adapter.connection = InterpretConnection(record.fields, vocabulary, report);
         ReportMisread(adapter.connection->ssid, record.fields.Need("SSID").line, report);
     }
-    catch (const UnknownWord& unknown)
+    catch (const LineError& error)
     {
-        report(unknown.line(),
-               std::string(unknown.what()) + "; the connection of \"" + adapter.name + "\" is left out");
+        report(error.line(), std::string(error.what()) + "; the connection of \"" + adapter.name + "\" is left out");
     }
     return adapter;
 }
 
 /// A list that is shorter than it says was cut off.
-void CheckCount(const InterfacesReader& reader)
+void CheckCount(const InterfacesReader& reader, const CaptureReport& report)
 {
     const int announced = reader.announcement ? FirstNumber(FieldText(*reader.announcement)) : 0;
     if (reader.adapters.size() < static_cast<std::size_t>(announced))
-        throw LineError(reader.announcement->line,
-                        "this announces " + std::to_string(announced) + " interfaces, but only " +
-                            std::to_string(reader.adapters.size()) + " follow: the capture is cut off");
+        report(reader.announcement->line, "this announces " + std::to_string(announced) + " interfaces, but only " +
+                                              std::to_string(reader.adapters.size()) +
+                                              " follow: the capture is cut off");
 }
 
-/// Two captures in one file, as likely as not.
-void CheckGuids(const InterfacesReader& reader, const std::vector<CapturedInterface>& adapters)
+/// Two captures in one file, as likely as not: the first tells.
+void AddAdapter(InterfacesCapture& capture,
+                const InterfaceRecord& record,
+                CapturedInterface adapter,
+                const CaptureReport& report)
 {
-    for (std::size_t i = 1; i < adapters.size(); ++i)
-    {
-        const auto end = adapters.begin() + static_cast<std::ptrdiff_t>(i);
-        if (std::any_of(adapters.begin(), end,
-                        [&](const CapturedInterface& earlier) { return earlier.guid == adapters[i].guid; }))
-            throw LineError(reader.adapters[i].fields.Need("GUID").line, "a second interface with this GUID");
-    }
+    const bool isKnown = std::any_of(capture.adapters.begin(), capture.adapters.end(),
+                                     [&](const CapturedInterface& earlier) { return earlier.guid == adapter.guid; });
+    if (isKnown)
+        report(record.fields.Need("GUID").line, "a second interface with this GUID; it is left out");
+    else
+        capture.adapters.push_back(std::move(adapter));
 }
 
 bool HasField(const std::vector<CaptureField>& fields, std::string_view name)
@@ -238,10 +309,22 @@ bool HasAdapter(const std::vector<CaptureField>& fields)
 
 } // namespace
 
+CapturedInterface MadeUpInterface(const std::string& name, std::size_t index)
+{
+    CapturedInterface madeUp;
+    madeUp.name = name;
+    madeUp.description = "Wireless adapter";
+    madeUp.guid =
+        "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E" + simulation::HexText({static_cast<std::uint8_t>(index + 1)}) + "}";
+    madeUp.address = {0x02, 0x00, 0x5E, 0x10, 0x00, static_cast<std::uint8_t>(index + 1)};
+    return madeUp;
+}
+
 bool LooksLikeInterfaces(std::string_view text)
 {
     const std::vector<CaptureField> fields = ReadFields(text);
-    const bool hasNone = fields.size() == 1 && fields.front().name == kNoAdapter;
+    const bool hasNone =
+        std::any_of(fields.begin(), fields.end(), [](const CaptureField& field) { return field.name == kNoAdapter; });
     return hasNone || HasField(fields, "GUID") || HasField(fields, "Physical address") || HasAdapter(fields);
 }
 
@@ -254,19 +337,21 @@ InterfacesCapture ParseInterfaces(std::string_view text, const std::string& sour
                                throw LineError(1, "this is no output of \"netsh wlan show interfaces\"");
                            std::vector<CaptureField> fields = ReadFields(text);
                            const Vocabulary vocabulary{RecogniseInterfaceLines(fields), explained};
-                           InterfacesReader reader(vocabulary.foreign);
-                           for (const CaptureField& field : fields)
-                               reader.Read(field);
                            InterfacesCapture capture;
                            capture.source = source;
-                           const CaptureReport report = [&capture](std::size_t line, const std::string& what)
-                           { capture.warnings.push_back(capture.source + ":" + std::to_string(line) + ": " + what); };
+                           const CaptureReport report = ReportTo(capture);
+                           InterfacesReader reader(report);
+                           for (CaptureField& field : fields)
+                               if (!field.passedOver)
+                                   reader.Read(field);
                            for (const InterfaceRecord& record : reader.adapters)
-                               capture.adapters.push_back(Interpret(record, vocabulary, report));
-                           CheckCount(reader);
-                           CheckGuids(reader, capture.adapters);
+                               AddAdapter(capture, record,
+                                          Interpret(record, capture.adapters.size(), vocabulary, report), report);
+                           CheckCount(reader, report);
                            const std::vector<std::string> others = NotUnderstood(fields, source);
                            capture.warnings.insert(capture.warnings.end(), others.begin(), others.end());
+                           if (capture.adapters.empty() && !capture.warnings.empty())
+                               throw CaptureError(capture.warnings.front());
                            return capture;
                        });
 }

@@ -31,6 +31,9 @@ struct CapturedInterface
     std::optional<CapturedConnection> connection;
 };
 
+/// An adapter of which only the name is known; `index` tells it from others.
+CapturedInterface MadeUpInterface(const std::string& name, std::size_t index);
+
 /// What `netsh wlan show interfaces` printed.
 struct InterfacesCapture
 {
@@ -43,8 +46,8 @@ struct InterfacesCapture
 bool LooksLikeInterfaces(std::string_view text);
 
 /// Reads a capture of any language of the system. `text` is UTF-8; `source` is what messages call it; `explained` are words
-/// that the user knows better. Throws CaptureError for any other text and for a capture that is damaged. Connections are
-/// left out, with a warning, for words of a language other than English that nothing explains.
+/// that the user knows better. Throws CaptureError for any other text, and where nothing could be used. What is not
+/// understood, or damaged, costs its line, and the connection that cannot be read without it, with a warning.
 InterfacesCapture
 ParseInterfaces(std::string_view text, const std::string& source, const ExplainedWords& explained = {});
 

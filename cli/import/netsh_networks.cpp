@@ -35,24 +35,32 @@ std::string NetworkTitle(const std::string& ssid)
 }
 
 /// Sorts the lines by what they belong to. Only "SSID n" and "BSSID n" give the capture its structure, and those are the
-/// same in every language of the system.
+/// same in every language of the system. A line that cannot be used costs itself, and what it begins.
 class NetworksReader
 {
 public:
-    explicit NetworksReader(bool foreign) : m_foreign(foreign) {}
+    explicit NetworksReader(CaptureReport report) : m_report(std::move(report)) {}
 
     void Read(CaptureField& field)
     {
-        if (IsNumbered(field.name, "SSID"))
-            BeginNetwork(field);
-        else if (IsNumbered(field.name, "BSSID"))
-            BeginAccessPoint(field);
-        else if (!field.hasColon)
-            ReadSentence(field);
-        else if (SameWord(field.Key(), "Interface name"))
-            BeginAdapter(field);
-        else if (m_current != nullptr)
-            m_current->Add(field);
+        try
+        {
+            if (BeginsNetwork(field))
+                BeginNetwork(field);
+            else if (BeginsAccessPoint(field))
+                BeginAccessPoint(field);
+            else if (!field.hasColon)
+                ReadSentence(field);
+            else if (SameWord(field.Key(), "Interface name"))
+                BeginAdapter(field);
+            else if (m_current != nullptr)
+                m_current->Add(field);
+        }
+        catch (const LineError& error)
+        {
+            m_report(error.line(), std::string(error.what()) + "; it is left out, and what follows of it");
+            m_current = nullptr;
+        }
     }
 
     std::vector<std::string> adapterNames;
@@ -61,8 +69,10 @@ public:
 private:
     void BeginAdapter(const CaptureField& field)
     {
-        adapterNames.push_back(field.value);
+        if (std::find(adapterNames.begin(), adapterNames.end(), field.value) == adapterNames.end())
+            adapterNames.push_back(field.value);
         listings.emplace_back();
+        m_network = nullptr;
         m_current = nullptr;
     }
 
@@ -73,52 +83,46 @@ private:
         return listings.back();
     }
 
-    /// What an English capture says between its fields is damage; nobody knows what other languages say there.
     void ReadSentence(CaptureField& field)
     {
-        field.understood = m_current == nullptr;
-        if (m_current != nullptr && m_foreign)
-            return;
-        if (m_current != nullptr)
-            throw LineError(field.line, "\"" + field.name + "\" has no value");
-        if (FirstNumber(field.name) < 0)
-            throw LineError(field.line, "\"" + field.name + "\" is no line of a list of networks");
-        CurrentListing().announcement = field;
+        field.understood = CurrentListing().networks.empty() && FirstNumber(field.name) >= 0;
+        if (field.understood)
+            CurrentListing().announcement = field;
     }
 
     void BeginNetwork(const CaptureField& field)
     {
+        m_network = nullptr;
         if (!field.hasColon)
             throw LineError(field.line, "\"" + field.name + "\" has no value");
-        std::vector<NetworkRecord>& networks = CurrentListing().networks;
-        networks.push_back({field, Ssid(field), CaptureRecord(NetworkTitle(field.value), field.line), {}});
-        m_current = &networks.back().fields;
+        NetworkRecord record{field, Ssid(field), CaptureRecord(NetworkTitle(field.value), field.line), {}};
+        m_network = &CurrentListing().networks.emplace_back(std::move(record));
+        m_current = &m_network->fields;
     }
 
     void BeginAccessPoint(const CaptureField& field)
     {
-        if (m_current == nullptr)
+        if (m_network == nullptr)
             throw LineError(field.line, "a BSSID before any SSID");
-        auto& accessPoints = listings.back().networks.back().accessPoints;
         const simulation::MacAddress address = Address(field);
-        accessPoints.emplace_back(address, CaptureRecord("the access point " + field.value, field.line));
-        m_current = &accessPoints.back().second;
+        CaptureRecord record("the access point " + field.value, field.line);
+        m_current = &m_network->accessPoints.emplace_back(address, std::move(record)).second;
     }
 
-    bool m_foreign;
+    CaptureReport m_report;
+    NetworkRecord* m_network = nullptr; ///< what the next access point belongs to; null: something left out
     CaptureRecord* m_current = nullptr; ///< what the next field belongs to
 };
 
 std::uint32_t BssTypeOf(const NetworkRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
 {
-    const CaptureField& field = record.fields.Need("Network type");
     try
     {
-        return BssType(field, vocabulary);
+        return BssType(record.fields.Need("Network type"), vocabulary);
     }
-    catch (const UnknownWord& unknown)
+    catch (const LineError& error)
     {
-        report(field.line, std::string(unknown.what()) + "; it is taken for infrastructure");
+        report(error.line(), std::string(error.what()) + "; it is taken for infrastructure");
         return 1;
     }
 }
@@ -136,43 +140,49 @@ CapturedNetwork Interpret(const NetworkRecord& record, const Vocabulary& vocabul
     CapturedNetwork network{record.start.value, {}};
     for (const auto& [address, fields] : record.accessPoints)
     {
-        network.accessPoints.push_back(common);
-        network.accessPoints.back().bssid = address;
-        Hear(fields, network.accessPoints.back());
+        simulation::AccessPoint heard = common;
+        heard.bssid = address;
+        try
+        {
+            Hear(fields, heard);
+            network.accessPoints.push_back(heard);
+        }
+        catch (const LineError& error)
+        {
+            report(error.line(), std::string(error.what()) + "; the access point is left out");
+        }
     }
     return network;
 }
 
 /// A list that is shorter than it says was cut off.
-void CheckCount(const Listing& listing)
+void CheckCount(const Listing& listing, const CaptureReport& report)
 {
     const int announced = listing.announcement ? FirstNumber(listing.announcement->name) : 0;
     if (listing.networks.size() < static_cast<std::size_t>(announced))
-        throw LineError(listing.announcement->line,
-                        "this announces " + std::to_string(announced) + " networks, but only " +
-                            std::to_string(listing.networks.size()) + " follow: the capture is cut off");
+        report(listing.announcement->line, "this announces " + std::to_string(announced) + " networks, but only " +
+                                               std::to_string(listing.networks.size()) +
+                                               " follow: the capture is cut off");
 }
 
-void Append(NetworksCapture& capture, const Listing& listing, const Vocabulary& vocabulary)
+void Append(NetworksCapture& capture, const Listing& listing, const Vocabulary& vocabulary, const CaptureReport& report)
 {
-    const CaptureReport report = [&capture](std::size_t line, const std::string& what)
-    { capture.warnings.push_back(capture.source + ":" + std::to_string(line) + ": " + what); };
     for (const NetworkRecord& record : listing.networks)
     {
         const std::string title = NetworkTitle(record.start.value);
+        if (record.accessPoints.empty())
+            report(record.start.line, title + " is listed without access points and left out");
         try
         {
             capture.networks.push_back(Interpret(record, vocabulary, report));
             ReportMisread(record.start.value, record.start.line, report);
         }
-        catch (const UnknownWord& unknown)
+        catch (const LineError& error)
         {
-            report(unknown.line(), std::string(unknown.what()) + "; " + title + " is left out");
+            report(error.line(), std::string(error.what()) + "; " + title + " is left out");
         }
-        if (record.accessPoints.empty())
-            report(record.start.line, title + " is listed without access points and left out");
     }
-    CheckCount(listing);
+    CheckCount(listing, report);
 }
 
 /// Without "mode=bssid" the same command lists no access points at all.
@@ -193,15 +203,22 @@ void CheckAccessPoints(const NetworksReader& reader)
 
 } // namespace
 
+void RefuseUseless(const NetworksCapture& capture)
+{
+    const bool any = std::any_of(capture.networks.begin(), capture.networks.end(),
+                                 [](const CapturedNetwork& network) { return !network.accessPoints.empty(); });
+    if (!any && !capture.warnings.empty())
+        throw CaptureError(capture.warnings.front());
+}
+
 bool LooksLikeNetworks(std::string_view text)
 {
     const std::vector<CaptureField> fields = ReadFields(text);
     const bool hasNone = fields.size() == 2 && fields[0].hasColon && !fields[0].value.empty() &&
                          FirstNumber(FieldText(fields[1])) == 0 && fields[1].value.size() <= 2;
     return hasNone || std::any_of(fields.begin(), fields.end(),
-                                  [](const CaptureField& field)
-                                  {
-                                      return IsNumbered(field.name, "SSID") || IsNumbered(field.name, "BSSID") ||
+                                  [](const CaptureField& field) {
+                                      return BeginsNetwork(field) || BeginsAccessPoint(field) ||
                                              field.name.ends_with("networks currently visible.");
                                   });
 }
@@ -215,17 +232,20 @@ NetworksCapture ParseNetworks(std::string_view text, const std::string& source, 
                                throw LineError(1, "this is no output of \"netsh wlan show networks mode=bssid\"");
                            std::vector<CaptureField> fields = ReadFields(text);
                            const Vocabulary vocabulary{RecogniseNetworkLines(fields), explained};
-                           NetworksReader reader(vocabulary.foreign);
-                           for (CaptureField& field : fields)
-                               reader.Read(field);
                            NetworksCapture capture;
                            capture.source = source;
+                           const CaptureReport report = ReportTo(capture);
+                           NetworksReader reader(report);
+                           for (CaptureField& field : fields)
+                               if (!field.passedOver)
+                                   reader.Read(field);
                            capture.adapterNames = std::move(reader.adapterNames);
                            for (const Listing& listing : reader.listings)
-                               Append(capture, listing, vocabulary);
+                               Append(capture, listing, vocabulary, report);
                            CheckAccessPoints(reader);
                            const std::vector<std::string> others = NotUnderstood(fields, source);
                            capture.warnings.insert(capture.warnings.end(), others.begin(), others.end());
+                           RefuseUseless(capture);
                            return capture;
                        });
 }

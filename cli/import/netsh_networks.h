@@ -29,12 +29,15 @@ struct NetworksCapture
     std::vector<std::string> warnings;           ///< what was not understood, and what became of it
 };
 
+/// Throws CaptureError, with the first warning, where nothing in the capture could be used.
+void RefuseUseless(const NetworksCapture& capture);
+
 /// Whether a text looks like this kind of capture.
 bool LooksLikeNetworks(std::string_view text);
 
 /// Reads a capture of any language of the system. `text` is UTF-8; `source` is what messages call it; `explained` are words
-/// that the user knows better. Throws CaptureError for any other text and for a capture that is damaged. Networks are left
-/// out, with a warning, for words of a language other than English that nothing explains.
+/// that the user knows better. Throws CaptureError for any other text, and where nothing could be used. What is not
+/// understood, or damaged, costs its line, and what cannot be read without it, with a warning.
 NetworksCapture ParseNetworks(std::string_view text, const std::string& source, const ExplainedWords& explained = {});
 
 } // namespace calvix::host

@@ -19,14 +19,17 @@ public:
 
     bool Recognise()
     {
-        for (std::size_t i = 0; i < m_fields.size();)
+        const std::size_t begin = FirstHeader();
+        for (std::size_t i = 0; i < begin; ++i)
+            m_fields[i].passedOver = true;
+        for (std::size_t i = begin; i < m_fields.size();)
         {
             CaptureField& field = m_fields[i];
             const std::size_t end = SectionEnd(i + 1);
             field.understood = true;
-            if (IsNumbered(field.name, "SSID"))
+            if (BeginsNetwork(field))
                 Network(i + 1, end);
-            else if (IsNumbered(field.name, "BSSID"))
+            else if (BeginsAccessPoint(field))
                 AccessPoint(i + 1, end);
             else
                 Header(field);
@@ -36,6 +39,19 @@ public:
     }
 
 private:
+    /// The adapter's name and the number of its networks stand above the first network. Above them is what the terminal
+    /// showed: a prompt, a command line, a code page.
+    std::size_t FirstHeader()
+    {
+        std::size_t first = 0;
+        while (first < m_fields.size() && !BeginsNetwork(m_fields[first]) && !BeginsAccessPoint(m_fields[first]))
+            ++first;
+        if (first < 2 || !m_fields[first - 2].hasColon || FirstNumber(FieldText(m_fields[first - 1])) < 0)
+            return 0;
+        m_headerLabel = m_fields[first - 2].name;
+        return first - 2;
+    }
+
     bool IsHeader(const CaptureField& field) const
     {
         return field.hasColon && (SameWord(field.name, "Interface name") || field.name == m_headerLabel);
@@ -44,10 +60,9 @@ private:
     /// What begins a section; before the first one of all, every line is for itself.
     std::size_t SectionEnd(std::size_t from) const
     {
-        const bool inHeader =
-            !IsNumbered(m_fields[from - 1].name, "SSID") && !IsNumbered(m_fields[from - 1].name, "BSSID");
-        while (!inHeader && from < m_fields.size() && !IsNumbered(m_fields[from].name, "SSID") &&
-               !IsNumbered(m_fields[from].name, "BSSID") && !IsHeader(m_fields[from]))
+        const bool inHeader = !BeginsNetwork(m_fields[from - 1]) && !BeginsAccessPoint(m_fields[from - 1]);
+        while (!inHeader && from < m_fields.size() && !BeginsNetwork(m_fields[from]) &&
+               !BeginsAccessPoint(m_fields[from]) && !IsHeader(m_fields[from]))
             ++from;
         return from;
     }
@@ -98,20 +113,23 @@ private:
         {
             CaptureField& field = m_fields[i];
             field.understood = HasEnglishLabel(field);
-            if (field.hasColon && field.value.empty())
+            if (field.hasColon && (field.value.empty() || field.value.starts_with(':')))
                 i = Nested(i, end) - 1;
             else if (field.hasColon)
                 Line(field);
         }
     }
 
-    /// How busy the access point is, in lines of their own below a title.
+    /// How busy the access point is, and which others stand at the same place, in lines of their own below a title.
     std::size_t Nested(std::size_t title, std::size_t end)
     {
         std::size_t i = title + 1;
         while (i < end && m_fields[i].indent > m_fields[title].indent)
+        {
+            m_fields[i].passedOver = true;
             m_fields[i++].understood = true;
-        m_fields[title].understood |= i > title + 1;
+        }
+        m_fields[title].understood |= i > title + 1 || m_fields[title].value.starts_with(':');
         return i;
     }
 
@@ -137,9 +155,9 @@ private:
             m_place = Place::details;
             Set(field, "Channel");
         }
-        else if (m_place == Place::details && (IsNumberList(field.value) || field.value.starts_with(':')))
+        else if (m_place == Place::details && IsNumberList(field.value))
         {
-            field.understood = true; // rates, and what the access point supports
+            field.understood = true; // rates
         }
     }
 

@@ -23,8 +23,6 @@ std::optional<ValueTable> TableOf(std::string_view text)
 {
     if (std::optional<ValueTable> table = AlignedTable(text))
         return table;
-    if (std::optional<ValueTable> table = MultilineTable(text))
-        return table;
     return ColonTable(text);
 }
 
@@ -68,6 +66,9 @@ private:
     void CheckColumns()
     {
         const std::size_t line = m_table.rows.front().line;
+        if (m_columns.empty())
+            throw LineError(line, "the columns of this list are not known: name them with --columns, or " +
+                                      std::string(kRemedy));
         const std::pair<bool, const char*> needed[] = {
             {Has(ListColumn::bssid), "addresses"},
             {Has(ListColumn::ssid) || Has(ListColumn::ssidHex), "names"},
@@ -83,8 +84,11 @@ private:
                 Report(line, "column " + std::to_string(i + 1) +
                                  (i < m_table.labels.size() ? ", \"" + m_table.labels[i] + "\"," : "") +
                                  " is not understood and left out");
-        Report(line, "nmcli does not tell PHY types, which are guessed from bands and rates, nor ciphers, which are "
-                     "taken to be AES, and TKIP for WPA1 alone");
+        const bool hasFlags = Has(ListColumn::rsnFlags);
+        Report(line, std::string("nmcli does not tell PHY types, which are guessed from bands and rates") +
+                         (hasFlags ? "" : ", nor ciphers, which are taken to be AES, and TKIP for WPA1 alone"));
+        if (!Has(ListColumn::frequency))
+            Report(line, "channels are taken for those of 2.4 and 5 GHz: only frequencies tell those of 6 GHz");
     }
 
     /// Empty where there is no such column.
@@ -161,9 +165,9 @@ private:
     std::uint32_t PhyTypeOf(const ValueRow& row, std::uint32_t frequencyKhz) const
     {
         const int rate = FirstNumber(Cell(row, ListColumn::rate));
-        if (frequencyKhz > 5900000)
+        if (frequencyKhz > 5900000 && frequencyKhz < 7200000)
             return 10;
-        if (rate >= 0 && rate <= 54)
+        if ((rate >= 0 && rate <= 54) || frequencyKhz >= 7200000)
             return OldPhyType(frequencyKhz, rate);
         return frequencyKhz >= 3000000 && rate > 300 ? 8 : 7;
     }
@@ -197,9 +201,20 @@ private:
             accessPoint.authentication = "OWE";
         else
             SetOldSecurity(row.line, cell, enterprise, accessPoint);
+        SetCipher(Cell(row, ListColumn::rsnFlags) + " " + Cell(row, ListColumn::wpaFlags), accessPoint);
         if (wpa3 && wpa2)
             Report(row.line, "the access point " + simulation::AddressText(accessPoint.bssid) +
                                  " takes both WPA2 and WPA3; the scenario has WPA3");
+    }
+
+    /// "pair_tkip pair_ccmp group_tkip psk"
+    static void SetCipher(const std::string& flags, simulation::AccessPoint& accessPoint)
+    {
+        constexpr std::pair<std::string_view, const char*> kCiphers[] = {
+            {"pair_ccmp", "AES"}, {"pair_tkip", "TKIP"}, {"pair_wep104", "WEP"}, {"pair_wep40", "WEP"}};
+        for (const auto& [flag, cipher] : kCiphers)
+            if (HasToken(flags, flag))
+                return void(accessPoint.encryption = cipher);
     }
 
     static void

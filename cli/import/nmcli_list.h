@@ -9,12 +9,11 @@
 namespace calvix::host
 {
 
-/// Whether a text looks like what `nmcli dev wifi list` prints: a table, a table with colons (-t), or a line for each value
-/// (-m multiline).
+/// Whether a text looks like what `nmcli dev wifi list` prints: a table, or a table with colons (-t).
 bool LooksLikeNmcliList(std::string_view text);
 
-/// Reads such a text; `source` is what messages call it. Labels may be of any language: columns are told by what stands in
-/// them, unless `columns` names them in English, as they were given to -f. Signal strengths are percentages of nmcli's own,
+/// Reads such a text; `source` is what messages call it. `columns` names the columns in English, as they were given to -f;
+/// otherwise they are those of the labels, of nmcli's own order, or of the order that the manual advises. Signal strengths are percentages of nmcli's own,
 /// and PHY types are guessed from bands and rates, with a warning. Rows that do not fit are left out with a warning; throws
 /// CaptureError where a column is missing that a scenario needs.
 NetworksCapture

@@ -97,12 +97,6 @@ ValueRow SplitAtColumns(std::string_view line, const std::vector<ColumnStart>& c
     return row;
 }
 
-/// Only lines with a colon, of which the first is not escaped.
-bool IsLabelled(const CaptureField& field)
-{
-    return field.hasColon && !field.name.empty() && !field.name.ends_with('\\');
-}
-
 } // namespace
 
 std::optional<ValueTable> ColonTable(std::string_view text)
@@ -145,29 +139,6 @@ std::optional<ValueTable> AlignedTable(std::string_view text)
     for (const ColumnStart& column : columns)
         table.labels.push_back(column.label);
     return AnyRowHasAddress(table.rows) ? std::optional(std::move(table)) : std::nullopt;
-}
-
-std::optional<ValueTable> MultilineTable(std::string_view text)
-{
-    ValueTable table;
-    for (const CaptureField& field : ReadFields(text))
-    {
-        if (!IsLabelled(field))
-            return std::nullopt;
-        const bool starts = table.labels.empty() || field.name == table.labels.front();
-        const bool isFirst = table.rows.size() < 2;
-        if (starts)
-            table.rows.push_back({field.line, {}});
-        if (table.rows.size() == 1)
-            table.labels.push_back(field.name);
-        const std::size_t place = table.rows.back().cells.size();
-        if (!isFirst && (place >= table.labels.size() || table.labels[place] != field.name))
-            table.rows.back().cells.clear(); // does not fit, and is told to be so
-        else
-            table.rows.back().cells.push_back(field.value);
-    }
-    const bool isTable = table.labels.size() >= 3 && table.labels.size() <= kMostColumns;
-    return isTable && AnyRowHasAddress(table.rows) ? std::optional(std::move(table)) : std::nullopt;
 }
 
 } // namespace calvix::host

@@ -26,6 +26,5 @@ struct ValueTable
 /// The lists that nmcli prints, by what they look like. None for a text that is no such list.
 std::optional<ValueTable> ColonTable(std::string_view text);
 std::optional<ValueTable> AlignedTable(std::string_view text);
-std::optional<ValueTable> MultilineTable(std::string_view text);
 
 } // namespace calvix::host

@@ -154,7 +154,7 @@ TEST(ImportIw, WhatCannotBeUsedIsTold)
 
 TEST(ImportNmcli, EveryLayoutHoldsTheSame)
 {
-    for (const char* file : {"nmcli-terse.txt", "nmcli-multiline-german.txt", "nmcli-table.txt"})
+    for (const char* file : {"nmcli-terse.txt", "nmcli-table.txt"})
     {
         SCOPED_TRACE(file);
         const NetworksCapture capture = Read(Sample(file));
@@ -165,27 +165,48 @@ TEST(ImportNmcli, EveryLayoutHoldsTheSame)
     }
 }
 
-TEST(ImportNmcli, ColumnsAreToldByWhatStandsInThem)
+TEST(ImportNmcli, AListWithoutNamesIsTheAdvisedOneOrNmclisOwn)
 {
-    // Without a band, a channel of 6 GHz looks like one of 2.4 GHz: the rows compared have none.
-    const std::vector<std::vector<std::size_t>> kept{
-        {1, 2, 4, 5, 7, 9}, {2, 1, 9, 7, 5}, {9, 7, 5, 4, 3, 2, 1, 0}, {0, 1, 2, 3, 5, 6, 7, 8, 9}, {5, 7, 1, 2, 9}};
-    for (const std::vector<std::size_t>& columns : kept)
+    const NetworksCapture advised = Read(Columns({0, 1, 2, 3, 4, 5, 6, 7, 9}));
+    Expect(advised, kListed);
+    EXPECT_EQ(advised.connections.size(), 1u);
+
+    // Without frequencies, channel 1 of 6 GHz looks like that of 2.4 GHz.
+    std::vector<Heard> expected = kListed;
+    expected[2].frequencyKhz = 2412000;
+    expected[2].phyType = 7;
+    const NetworksCapture own = Read(Columns({0, 1, 2, 3, 4, 6, 7, 8, 9}));
+    Expect(own, expected);
+    EXPECT_TRUE(Tells(own, "file:1: channels are taken for those of 2.4 and 5 GHz"));
+}
+
+TEST(ImportNmcli, ATableInAnotherLanguageHasItsOwnOrder)
+{
+    const NetworksCapture capture =
+        Read("IN-BENUTZUNG  BSSID              SSID   MODUS  KANAL  RATE        SIGNAL  BALKEN  SICHERHEIT\n"
+             "              02:61:00:00:00:01  Hafen  Infra  11     130 Mbit/s  50      ____    WPA2\n");
+    ASSERT_EQ(capture.networks.size(), 1u);
+    EXPECT_EQ(capture.networks[0].ssid, "Hafen");
+    EXPECT_EQ(capture.networks[0].accessPoints[0].frequencyKhz, 2462000u);
+    EXPECT_EQ(capture.networks[0].accessPoints[0].rssi, -70);
+    EXPECT_EQ(capture.networks[0].accessPoints[0].authentication, "WPA2PSK");
+}
+
+TEST(ImportNmcli, FlagsTellTheCipher)
+{
+    CaptureHints hints;
+    hints.columns = {"BSSID", "SSID", "FREQ", "SIGNAL", "SECURITY", "WPA-FLAGS", "RSN-FLAGS"};
+    const std::string head = "02\\:61\\:00\\:00\\:00\\:01:A:2412 MHz:50:";
+    const std::pair<const char*, const char*> cases[] = {
+        {"WPA2:(none):pair_tkip group_tkip psk\n", "TKIP"},
+        {"WPA1:pair_ccmp group_ccmp psk:(none)\n", "AES"},
+        {"WPA1 WPA2:pair_tkip pair_ccmp group_tkip psk:pair_tkip pair_ccmp group_tkip psk\n", "AES"}};
+    for (const auto& [rest, cipher] : cases)
     {
-        SCOPED_TRACE(Columns(columns));
-        const NetworksCapture capture = Read(Columns(columns));
-        std::size_t checked = 0;
-        for (const CapturedNetwork& network : capture.networks)
-            for (const AccessPoint& heard : network.accessPoints)
-            {
-                const Heard& each = kListed.at(heard.bssid[5] - 1u);
-                EXPECT_EQ(network.ssid, each.ssid);
-                EXPECT_EQ(heard.rssi, each.rssi);
-                EXPECT_EQ(heard.frequencyKhz, each.frequencyKhz);
-                EXPECT_EQ(heard.authentication, each.authentication);
-                ++checked;
-            }
-        EXPECT_EQ(checked, 6u);
+        const NetworksCapture capture = Read(head + rest, hints);
+        ASSERT_EQ(capture.networks.size(), 1u) << rest;
+        EXPECT_EQ(capture.networks[0].accessPoints[0].encryption, cipher) << rest;
+        EXPECT_FALSE(Tells(capture, "nor ciphers"));
     }
 }
 
@@ -202,9 +223,10 @@ TEST(ImportNmcli, TheUserCanNameColumns)
 
 TEST(ImportNmcli, BytesInHexadecimalAreBetterThanTheName)
 {
+    CaptureHints hints;
+    hints.columns = {"SSID", "SSID-HEX", "BSSID", "FREQ", "SIGNAL", "SECURITY"};
     const NetworksCapture capture =
-        Read("SSID:     caf\xEF\xBF\xBD\nSSID-HEX: 636166E9\nBSSID:    02:61:00:00:00:01\nFREQ:     2412 MHz\n"
-             "SIGNAL:   50\nSECURITY: --\n");
+        Read("caf\xEF\xBF\xBD:636166E9:02\\:61\\:00\\:00\\:00\\:01:2412 MHz:50:--\n", hints);
     ASSERT_EQ(capture.networks.size(), 1u);
     EXPECT_EQ(capture.networks[0].ssid, "caf\xE9");
 }
@@ -213,9 +235,11 @@ TEST(ImportNmcli, WhatCannotBeUsedIsTold)
 {
     const std::string terse = Sample("nmcli-terse.txt");
     const std::pair<std::string, const char*> cases[] = {
-        {Columns({1, 2, 5, 7}), "file:1: no column is known to hold the security: capture with \"nmcli -t -f"},
-        {Columns({1, 2, 5, 9}), "file:1: no column is known to hold the signal strengths"},
-        {Columns({1, 2, 7, 9}), "file:1: no column is known to hold the"},
+        {Columns({1, 2, 5, 7}), "file:1: the columns of this list are not known: name them with --columns, or capture"},
+        {"BSSID              SSID     CHAN  SIGNAL\n02:61:00:00:00:01  Juniper  6     82\n",
+         "file:2: no column is known to hold the security: capture with \"nmcli -t -f"},
+        {"BSSID              SSID     CHAN  SECURITY\n02:61:00:00:00:01  Juniper  6     WPA2\n",
+         "file:2: no column is known to hold the signal strengths"},
         {terse + " :02\\:61", "file:7: this row has 2 values in place of 10 and is left out"},
         {Replaced(terse, "WEP", "ROT13"), "\"ROT13\" is no known security; the access point is left out"},
         {Replaced(terse, "82", "820"), "file:1: \"820\" is no percentage from 0 to 100; the access point is left out"},

@@ -204,11 +204,17 @@ class DamagedNetworks : public testing::TestWithParam<Damage>
 {
 };
 
-TEST_P(DamagedNetworks, AreRefusedWithTheLine)
+TEST_P(DamagedNetworks, CostWhatIsDamagedAndAWarning)
 {
     const std::string text = Replaced(kNetworks, GetParam().from, GetParam().to);
-    EXPECT_EQ(Complaint([&] { ParseNetworks(text, "file"); }), GetParam().complaint);
-    EXPECT_EQ(Complaint([&] { ParseNetworks(WithCarriageReturns(text), "file"); }), GetParam().complaint);
+    for (const std::string& each : {text, WithCarriageReturns(text)})
+    {
+        const NetworksCapture capture = ParseNetworks(each, "file");
+        EXPECT_TRUE(Warns(capture.warnings, GetParam().complaint)) << testing::PrintToString(capture.warnings);
+        ASSERT_FALSE(capture.networks.empty());
+        EXPECT_EQ(capture.networks.back().ssid, "Open: all day");
+        EXPECT_EQ(capture.networks.back().accessPoints.size(), 1u);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -267,11 +273,12 @@ INSTANTIATE_TEST_SUITE_P(
                "file:15: \"BSSID 2\" is \"\", which is not an address of six bytes"},
         Damage{"    BSSID 2                 : 02:00:00:00:00:02\n", "",
                "file:15: \"Signal\" is given twice for the access point 02:00:00:00:00:01, first in line 10"},
-        Damage{"Other rates (Mbps) : 9", "Other ra", "file:14: \"Other ra 18 36 48 54\" has no value"},
+        Damage{"Other rates (Mbps) : 9", "Other ra",
+               "file:14: \"Other ra 18 36 48 54\" is not understood and left out"},
         Damage{"There are 2", "There are 3",
                "file:3: this announces 3 networks, but only 2 follow: the capture is cut off"},
         Damage{"There are 2 networks currently visible.", "The service is not running.",
-               "file:3: \"The service is not running.\" is no line of a list of networks"}));
+               "file:3: \"The service is not running.\" is not understood and left out"}));
 
 TEST(ImportNetworks, AnythingElseIsRefused)
 {

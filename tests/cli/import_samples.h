@@ -5,12 +5,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 namespace calvix::host::test
 {
@@ -49,6 +51,13 @@ std::string Complaint(Read read)
         return error.what();
     }
     return {};
+}
+
+/// Whether one of the warnings begins like this.
+inline bool Warns(const std::vector<std::string>& warnings, const std::string& beginning)
+{
+    return std::any_of(warnings.begin(), warnings.end(),
+                       [&](const std::string& warning) { return warning.starts_with(beginning); });
 }
 
 /// A folder that is gone after the test.
