@@ -189,7 +189,7 @@ TEST_F(SignalTest, RssiHasNoBounds)
     for (const int value : {-113, 0, 12})
     {
         const AlteredAnswers altered(
-            {.query = [value](WLAN_INTF_OPCODE, PVOID data, DWORD&) { *static_cast<LONG*>(data) = value; }});
+            {.query = [value](WLAN_INTF_OPCODE, PVOID data, DWORD&) { *static_cast<std::int32_t*>(data) = value; }});
         int rssi = 77;
         EXPECT_EQ(0, manager().GetRssi(&kAdapterA, rssi));
         EXPECT_EQ(value, rssi);
