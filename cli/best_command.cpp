@@ -2,7 +2,7 @@
 #include "best.h"
 #include "command.h"
 #include "connection_wait.h"
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 #include "describe.h"
 #include "host.h"
 #include "json_output.h"

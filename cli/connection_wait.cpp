@@ -1,6 +1,6 @@
 #include "connection_wait.h"
 
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 #include "describe.h"
 #include "failure_words.h"
 #include "interrupt.h"

@@ -1,10 +1,10 @@
 #include "describe.h"
 
-#include "core/fixed_text.h"
-#include "core/interface_state_text.h"
+#include "core/wlan_records.h"
 #include "platform/records/wlan_constants.h"
 #include "simulation/guid_text.h"
 #include "table.h"
+#include "text/value_text.h"
 #include "text_forms.h"
 #include "words.h"
 

@@ -9,7 +9,7 @@
 #include "service_view.h"
 #include "text_forms.h"
 
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 
 #include <sstream>
 

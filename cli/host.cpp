@@ -1,8 +1,8 @@
 #include "host.h"
 
 #include "adapter_choice.h"
-#include "core/fixed_text.h"
 #include "core/trace.h"
+#include "core/wlan_records.h"
 #include "failure_words.h"
 #include "files.h"
 #include "platform/platform.h"

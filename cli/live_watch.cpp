@@ -1,6 +1,6 @@
 #include "live_watch.h"
 
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 #include "describe.h"
 #include "interrupt.h"
 #include "live_view.h"

@@ -1,6 +1,6 @@
 #include "notifications.h"
 
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 
 #include <cstring>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "code_page.h"
 #include "command.h"
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 #include "describe.h"
 #include "files.h"
 #include "host.h"

@@ -1,6 +1,6 @@
 #include "service_view.h"
 
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
 #include "failure_words.h"
 #include "platform/platform.h"
 

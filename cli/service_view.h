@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/wlan_memory.h"
+#include "core/memory.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 #include "describe.h"
 #include "table.h"
 #include "text_forms.h"

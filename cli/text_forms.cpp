@@ -1,6 +1,6 @@
 #include "text_forms.h"
 
-#include "core/ssid.h"
+#include "core/wlan_records.h"
 
 #include <cstdint>
 #include <optional>

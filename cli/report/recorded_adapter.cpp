@@ -1,6 +1,6 @@
 #include "report/recorded_adapter.h"
 
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 #include "describe.h"
 #include "platform/records/wlan_constants.h"
 #include "report/take_picture.h"

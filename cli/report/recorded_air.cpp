@@ -1,7 +1,7 @@
 #include "report/recorded_air.h"
 
 #include "adapter_choice.h"
-#include "core/fixed_text.h"
+#include "core/wlan_records.h"
 #include "describe.h"
 #include "failure_words.h"
 #include "import/file_path.h"

@@ -1,6 +1,6 @@
 #include "report/session_calls.h"
 
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
 #include "platform/records/error_numbers.h"
 #include "platform/records/wlan_constants.h"
 #include "text_forms.h"

@@ -906,12 +906,6 @@ public:
 private:
     friend struct calvix::ManagerInternals;
 
-    struct TextRecord
-    {
-        char szLong[256];
-        char szShort[128];
-    };
-
     CWirelessManage();
     ~CWirelessManage();
     CWirelessManage(const CWirelessManage&) = delete;
@@ -922,7 +916,10 @@ private:
     WLAN_CONNECTION_ATTRIBUTES m_SavedConnAttr;
     WLAN_CONNECTION_NOTIFICATION_DATA m_SavedConnNotify;
     int m_nSavedAutoConnMode;
-    TextRecord m_Text[2]; ///< interface state and GUID; interface description and power setting
+    char m_szInterfaceState[256];
+    char m_szGuid[128];
+    char m_szInterfaceDesc[256];
+    char m_szPowerSetting[128];
     bool m_bSpare;
     void* m_pSpare;
     POWER_POLICY m_SavedPowerPolicy;

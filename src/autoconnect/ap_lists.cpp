@@ -1,9 +1,9 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/fixed_text.h"
-#include "core/out_of_memory.h"
-#include "core/profile_network_match.h"
+#include "autoconnect/profile_network_match.h"
+#include "core/memory.h"
 #include "core/service_steps.h"
+#include "core/wlan_records.h"
 
 using namespace calvix;
 
@@ -37,17 +37,13 @@ template <typename List, typename Counts>
 int CollectMatches(HANDLE& client, const GUID* interfaceGuid, List& list, Trace& trace, Counts counts)
 {
     ProfilesAndNetworks lists;
-    if (const int code = ListProfilesAndNetworks(client, interfaceGuid, lists, trace, kApListCodes))
+    if (const int code = MatchProfilesAndNetworks(client, interfaceGuid, lists, trace, kApListCodes))
         return code;
-
-    NetworksByProfile networksByProfile;
-    if (networksByProfile.Take(*lists.networks) != 0)
-        return kApListCodes.networksFailed;
     const auto collect = [&]
     {
         for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
         {
-            for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+            for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
             {
                 BssList entries;
                 if (counts(profile) && ListNetworkBss(client, interfaceGuid, *network, entries, trace) == 0)
@@ -138,15 +134,11 @@ int CWirelessManage::GetConnectableNetworkCount(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
     ProfilesAndNetworks lists;
-    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kApListCodes))
+    if (const int code = MatchProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kApListCodes))
         return code;
-
-    NetworksByProfile networksByProfile;
-    if (networksByProfile.Take(*lists.networks) != 0)
-        return kApListCodes.networksFailed;
     int pairs = 0;
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
-        for ([[maybe_unused]] const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        for ([[maybe_unused]] const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
             ++pairs;
     return pairs;
 }

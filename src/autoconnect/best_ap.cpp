@@ -1,12 +1,11 @@
 #include <calvix/wireless_manage.h>
 
 #include "autoconnect/candidate_ranking.h"
+#include "autoconnect/profile_network_match.h"
 #include "connection/connect_request.h"
-#include "core/fixed_text.h"
-#include "core/out_of_memory.h"
-#include "core/profile_network_match.h"
+#include "core/memory.h"
 #include "core/service_steps.h"
-#include "core/ssid.h"
+#include "core/wlan_records.h"
 
 #include <algorithm>
 
@@ -63,14 +62,10 @@ template <typename UsesProfile, typename Accepts>
 int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesProfile usesProfile, Accepts accepts)
 {
     ProfilesAndNetworks lists;
-    if (const int code = ListProfilesAndNetworks(
+    if (const int code = MatchProfilesAndNetworks(
             client, interfaceGuid, lists, trace,
             {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
         return code;
-
-    NetworksByProfile networksByProfile;
-    if (networksByProfile.Take(*lists.networks) != 0)
-        return -6;
     Candidates candidates;
     const auto gather = [&]
     {
@@ -78,7 +73,7 @@ int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesP
         {
             if (!usesProfile(profile))
                 continue;
-            for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+            for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
             {
                 if (accepts(*network))
                     candidates.push_back(lists.networks->Network + (network - lists.networks->Network));

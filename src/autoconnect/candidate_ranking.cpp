@@ -1,8 +1,7 @@
 #include "autoconnect/candidate_ranking.h"
 
-#include "core/channel.h"
-#include "core/ssid.h"
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
+#include "inventory/signal.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include <calvix/wireless_manage.h>
 
 #include "connection/connect_request.h"
-#include "core/fixed_text.h"
 #include "core/service_steps.h"
+#include "core/wlan_records.h"
 
 #include <cstring>
 

@@ -1,13 +1,12 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/fixed_text.h"
-#include "core/narrow_text.h"
-#include "core/profile_network_match.h"
+#include "autoconnect/profile_network_match.h"
 #include "core/service_steps.h"
+#include "core/wlan_records.h"
+#include "text/conversion.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <string>
 
 using namespace calvix;
 
@@ -102,19 +101,16 @@ int CWirelessManage::GetMatchBSSID(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
     ProfilesAndNetworks lists;
-    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kDriftCodes))
+    if (const int code = MatchProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kDriftCodes))
         return code;
 
     // Deliberate: -1 even when all went well; the result is informational, what counts is the trace.
     int result = -1;
-    NetworksByProfile networksByProfile;
-    if (networksByProfile.Take(*lists.networks) != 0)
-        return kDriftCodes.networksFailed;
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
         const NarrowText name(FixedText(profile.strProfileName));
         trace.Line("ProfileName(%s)", name.c_str());
-        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
         {
             trace.Line("Available Network(%s)", name.c_str());
             TraceDrift(hClient, pInterfaceGuid, *network, trace, result);

@@ -1,18 +1,17 @@
 #include <calvix/wireless_manage.h>
 
-#include "autoconnect/ssid_as_profile_name.h"
+#include "autoconnect/profile_network_match.h"
 #include "connection/connect_request.h"
-#include "core/fixed_text.h"
-#include "core/narrow_text.h"
-#include "core/profile_network_match.h"
 #include "core/service_steps.h"
+#include "core/wlan_records.h"
+#include "text/conversion.h"
 
 using namespace calvix;
 
 namespace
 {
 
-constexpr ProfileAndNetworkCodes kAutoConnectCodes{
+constexpr ProfileAndNetworkCodes kWalkCodes{
     .notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7};
 
 /// How a walk over profiles and networks ended.
@@ -25,16 +24,12 @@ enum class WalkEnd
 
 /// Asks for a connection to every network that carries a profile's name, in profile order, then network order, until a
 /// request is accepted.
-WalkEnd WalkProfiles(HANDLE client,
-                     const GUID* interfaceGuid,
-                     const WLAN_PROFILE_INFO_LIST& profiles,
-                     NetworksByProfile& networks,
-                     Trace& trace)
+WalkEnd WalkProfiles(HANDLE client, const GUID* interfaceGuid, const ProfilesAndNetworks& lists, Trace& trace)
 {
     WalkEnd end = WalkEnd::noMatch;
-    for (const WLAN_PROFILE_INFO& profile : Items(profiles))
+    for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
-        for (const WLAN_AVAILABLE_NETWORK* network : networks.Of(profile))
+        for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
         {
             if (RequestNetwork(client, interfaceGuid, *network, trace) == 0)
                 return WalkEnd::accepted;
@@ -42,6 +37,16 @@ WalkEnd WalkProfiles(HANDLE client,
         }
     }
     return end;
+}
+
+/// The lists for a method that passes the platform's error numbers on; they may be empty.
+ErrorNumber ListAndMatch(HANDLE client, const GUID* interfaceGuid, ProfilesAndNetworks& lists, Trace& trace)
+{
+    if (const ErrorNumber error = ListProfiles(client, interfaceGuid, lists.profiles, trace))
+        return error;
+    if (const ErrorNumber error = ListAvailableNetworks(client, interfaceGuid, lists.networks, trace))
+        return error;
+    return lists.networksByProfile.Take(*lists.networks);
 }
 
 constexpr unsigned long kLongestListedSsid = 64;
@@ -64,23 +69,17 @@ int CWirelessManage::AutoConnect(const GUID* pInterfaceGuid)
 {
     SharedTrace trace;
     ProfilesAndNetworks lists;
-    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kAutoConnectCodes))
+    if (const int code = MatchProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kWalkCodes))
         return code;
-    NetworksByProfile networksByProfile;
-    if (networksByProfile.Take(*lists.networks) != 0)
-        return kAutoConnectCodes.networksFailed;
     // Deliberate: a walk on which every request was refused reports success.
-    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, networksByProfile, trace) == WalkEnd::noMatch ? -9
-                                                                                                                : 0;
+    return WalkProfiles(hClient, pInterfaceGuid, lists, trace) == WalkEnd::noMatch ? -9 : 0;
 }
 
 int CWirelessManage::ConnectAutoMode(const GUID* pInterfaceGuid)
 {
     LocalTrace<128> trace;
     ProfilesAndNetworks lists;
-    if (const int code = ListProfilesAndNetworks(
-            hClient, pInterfaceGuid, lists, trace,
-            {.notOpened = -1, .profilesFailed = -4, .noProfile = -5, .networksFailed = -6, .noNetwork = -7}))
+    if (const int code = ListProfilesAndNetworks(hClient, pInterfaceGuid, lists, trace, kWalkCodes))
         return code;
     // Deliberate: a walk on which every request was refused reports success.
     WalkEnd end = WalkEnd::noMatch;
@@ -122,12 +121,10 @@ int CWirelessManage::AutoSwitch(const GUID* pInterfaceGuid)
     }
     if (ListAvailableNetworks(hClient, pInterfaceGuid, lists.networks, trace) != 0)
         return -6;
-    NetworksByProfile networksByProfile;
-    if (networksByProfile.Take(*lists.networks) != 0)
+    if (lists.networksByProfile.Take(*lists.networks) != 0)
         return -6;
     // Deliberate: the walk follows the order from before the move, and a refused-only walk reports success.
-    return WalkProfiles(hClient, pInterfaceGuid, *lists.profiles, networksByProfile, trace) == WalkEnd::noMatch ? -7
-                                                                                                                : 0;
+    return WalkProfiles(hClient, pInterfaceGuid, lists, trace) == WalkEnd::noMatch ? -7 : 0;
 }
 
 int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
@@ -147,16 +144,11 @@ int CWirelessManage::SmartSwitch(const GUID* pInterfaceGuid)
         trace.Line("Profile Name error: %u", static_cast<unsigned>(error));
         return static_cast<int>(error);
     }
-    if (const ErrorNumber error = ListProfiles(hClient, pInterfaceGuid, lists.profiles, trace))
-        return static_cast<int>(error);
-    if (const ErrorNumber error = ListAvailableNetworks(hClient, pInterfaceGuid, lists.networks, trace))
-        return static_cast<int>(error);
-    NetworksByProfile networksByProfile;
-    if (const ErrorNumber error = networksByProfile.Take(*lists.networks))
+    if (const ErrorNumber error = ListAndMatch(hClient, pInterfaceGuid, lists, trace))
         return static_cast<int>(error);
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
-        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
         {
             // Deliberate: the profile's name is compared with the SSID, as profiles are named after their network.
             if (FixedText(network->strProfileName) != currentSsid &&
@@ -175,16 +167,11 @@ int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
     const GUID* first = nullptr;
     if (const int code = FindFirstInterface(hClient, interfaces, first, trace); code != 0 || first == nullptr)
         return code;
-    if (const ErrorNumber error = ListProfiles(hClient, first, lists.profiles, trace))
-        return static_cast<int>(error);
-    if (const ErrorNumber error = ListAvailableNetworks(hClient, first, lists.networks, trace))
-        return static_cast<int>(error);
-    NetworksByProfile networksByProfile;
-    if (const ErrorNumber error = networksByProfile.Take(*lists.networks))
+    if (const ErrorNumber error = ListAndMatch(hClient, first, lists, trace))
         return static_cast<int>(error);
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
-        for (const WLAN_AVAILABLE_NETWORK* network : networksByProfile.Of(profile))
+        for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
         {
             const ErrorNumber error = RequestNetwork(hClient, first, *network, trace);
             if (error == 0 && profileName != nullptr)

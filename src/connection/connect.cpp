@@ -1,11 +1,10 @@
 #include <calvix/wireless_manage.h>
 
 #include "connection/connect_request.h"
-#include "core/fixed_text.h"
+#include "core/copies.h"
 #include "core/service_steps.h"
-#include "core/strict_copy.h"
-#include "core/wlan_lists.h"
-#include "profiles/profile_name.h"
+#include "core/wlan_records.h"
+#include "text/conversion.h"
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 #include "connection/connect_request.h"
 
-#include "core/fixed_text.h"
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
 
 #include <cstring>
 

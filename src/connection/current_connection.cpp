@@ -1,7 +1,7 @@
 #include <calvix/wireless_manage.h>
 
+#include "core/copies.h"
 #include "core/service_steps.h"
-#include "core/strict_copy.h"
 
 #include <cstddef>
 

@@ -124,29 +124,4 @@ ErrorNumber MoveProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t*
                   "WlanSetProfilePosition failed with error: %u");
 }
 
-int ListProfilesAndNetworks(HANDLE& client,
-                            const GUID* interfaceGuid,
-                            ProfilesAndNetworks& lists,
-                            Trace& trace,
-                            const ProfileAndNetworkCodes& codes)
-{
-    if (OpenClient(client, trace) != 0)
-        return codes.notOpened;
-    if (ListProfiles(client, interfaceGuid, lists.profiles, trace) != 0)
-        return codes.profilesFailed;
-    if (lists.profiles->dwNumberOfItems == 0)
-    {
-        trace.Line(codes.noProfileText, codes.noProfile);
-        return codes.noProfile;
-    }
-    if (ListAvailableNetworks(client, interfaceGuid, lists.networks, trace) != 0)
-        return codes.networksFailed;
-    if (lists.networks->dwNumberOfItems == 0)
-    {
-        trace.Line(codes.noNetworkText, codes.noNetwork);
-        return codes.noNetwork;
-    }
-    return 0;
-}
-
 } // namespace calvix

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/memory.h"
 #include "core/trace.h"
-#include "core/wlan_memory.h"
 #include "platform/records/error_numbers.h"
 
 #include <cstddef>
@@ -140,33 +140,5 @@ ErrorNumber ReadProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t*
 
 /// Moves a stored profile to another place of the preference order; the first is 0.
 ErrorNumber MoveProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD place, Trace& trace);
-
-/// What most automatic methods work on. The last declared is released first: the profiles, then the networks.
-struct ProfilesAndNetworks
-{
-    NetworkList networks;
-    ProfileList profiles;
-};
-
-/// A method's codes for the ways in which it can be left without profiles to match with networks.
-struct ProfileAndNetworkCodes
-{
-    int notOpened;
-    int profilesFailed;
-    int noProfile;
-    int networksFailed;
-    int noNetwork;
-    const char* noProfileText = "No network profile: %u";
-    const char* noNetworkText = "No available network: %u";
-};
-
-/// Opens the client handle when needed and lists the stored profiles, then the available networks; both hold at least
-/// one when this returns 0, otherwise it returns the method's code. An empty list is traced with that code as its
-/// number.
-int ListProfilesAndNetworks(HANDLE& client,
-                            const GUID* interfaceGuid,
-                            ProfilesAndNetworks& lists,
-                            Trace& trace,
-                            const ProfileAndNetworkCodes& codes);
 
 } // namespace calvix

@@ -1,7 +1,7 @@
 #include "core/trace.h"
 
-#include "core/bounded_copy.h"
-#include "core/out_of_memory.h"
+#include "core/copies.h"
+#include "core/memory.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -20,6 +20,15 @@ namespace
 
 constexpr std::size_t kLargestCapacity = 0x7FFFFFFF;
 constexpr std::size_t kLargestWideText = 0x100000;
+
+/// Leaves the text empty where there is room.
+template <typename Character>
+bool IsBadCapacity(Character* buffer, std::size_t capacity)
+{
+    if (capacity > kLargestCapacity)
+        buffer[0] = 0;
+    return capacity == 0 || capacity > kLargestCapacity;
+}
 
 /// Formats the whole text. The C runtimes' wide formatters do not cut reliably: where the text does not fit, some report
 /// a failure and some the length it has. Nothing, without even a terminator, for a text that cannot be formatted.
@@ -43,13 +52,8 @@ std::vector<wchar_t> FormatWhole(const wchar_t* format, std::va_list values)
 
 std::uint32_t FormatTraceV(char* buffer, std::size_t capacity, const char* format, std::va_list values)
 {
-    if (capacity == 0)
+    if (IsBadCapacity(buffer, capacity))
         return kFormatBadCapacity;
-    if (capacity > kLargestCapacity)
-    {
-        buffer[0] = '\0';
-        return kFormatBadCapacity;
-    }
     const int length = std::vsnprintf(buffer, capacity, format, values);
     if (length < 0)
     {
@@ -70,13 +74,8 @@ std::uint32_t FormatTrace(char* buffer, std::size_t capacity, const char* format
 
 std::uint32_t FormatTraceW(wchar_t* buffer, std::size_t capacity, const wchar_t* format, ...)
 {
-    if (capacity == 0)
+    if (IsBadCapacity(buffer, capacity))
         return kFormatBadCapacity;
-    if (capacity > kLargestCapacity)
-    {
-        buffer[0] = L'\0';
-        return kFormatBadCapacity;
-    }
     std::vector<wchar_t> text;
     std::va_list values;
     va_start(values, format);

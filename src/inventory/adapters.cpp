@@ -1,10 +1,9 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/bounded_copy.h"
-#include "core/fixed_text.h"
-#include "core/interface_list.h"
-#include "core/out_of_memory.h"
+#include "core/copies.h"
+#include "core/memory.h"
 #include "core/service_steps.h"
+#include "core/wlan_records.h"
 
 #include <iterator>
 
@@ -61,7 +60,6 @@ long CWirelessManage::GetWlanInterfaceGuid(const wchar_t* description, GUID& gui
 
 char* CWirelessManage::GetWlanInterfaceDesc(const GUID* pInterfaceGuid)
 {
-    auto& m_szInterfaceDesc = m_Text[1].szLong;
     // Deliberate: the first description found is kept for good, and later calls get it whatever their GUID.
     if (m_szInterfaceDesc[0] != '\0')
         return m_szInterfaceDesc;

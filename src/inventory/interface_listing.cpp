@@ -1,8 +1,7 @@
 #include "inventory/interface_listing.h"
 
-#include "core/fixed_text.h"
-#include "core/narrow_text.h"
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
+#include "text/conversion.h"
 
 namespace calvix
 {

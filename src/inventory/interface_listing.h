@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/service_steps.h"
-#include "core/ssid.h"
 
 #include <cstdint>
 #include <span>

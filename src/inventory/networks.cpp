@@ -1,10 +1,8 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/fixed_text.h"
-#include "core/out_of_memory.h"
+#include "core/memory.h"
 #include "core/service_steps.h"
-#include "core/ssid.h"
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
 
 #include <cstdint>
 #include <cstring>

@@ -1,10 +1,9 @@
+#include "inventory/signal.h"
+
 #include <calvix/wireless_manage.h>
 
-#include "core/channel.h"
 #include "core/service_steps.h"
-#include "core/ssid.h"
-#include "core/wlan_lists.h"
-#include "inventory/signal_scale.h"
+#include "core/wlan_records.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -13,6 +12,19 @@ using namespace calvix;
 
 namespace
 {
+
+constexpr std::uint32_t kFirstTwoPointFour = 2412;
+constexpr std::uint32_t kThirteenthTwoPointFour = 2472;
+constexpr std::uint32_t kLastTwoPointFour = 2484;
+constexpr std::uint32_t kFiveGigahertz = 5000;
+constexpr std::uint32_t kNoChannel = 14;
+
+std::uint32_t InMegahertz(unsigned long frequency)
+{
+    while (frequency > 10000)
+        frequency /= 10;
+    return static_cast<std::uint32_t>(frequency);
+}
 
 /// Whether the connection's network is in view. Deliberate: where it is not, the trace tells of a failure 0.
 bool IsInView(const WLAN_BSS_LIST& entries, Trace& trace)
@@ -23,6 +35,23 @@ bool IsInView(const WLAN_BSS_LIST& entries, Trace& trace)
 }
 
 } // namespace
+
+std::uint32_t calvix::ChannelOfFrequency(unsigned long frequency)
+{
+    const std::uint32_t megahertz = InMegahertz(frequency);
+    // Deliberate: frequencies far below 5 GHz wrap to a huge channel, which the ranking of candidates counts as 5 GHz.
+    if (megahertz > kLastTwoPointFour && megahertz < kFiveGigahertz)
+        return 200 - (kFiveGigahertz - megahertz) / 5;
+    if (megahertz > kLastTwoPointFour)
+        return (megahertz - kFiveGigahertz) / 5;
+
+    // Deliberate: one below the customary channel number; hosts and the ranking have always seen it so.
+    if (megahertz == kLastTwoPointFour)
+        return 13;
+    const bool isChannel = megahertz >= kFirstTwoPointFour && megahertz <= kThirteenthTwoPointFour &&
+                           (megahertz - kFirstTwoPointFour) % 5 == 0;
+    return isChannel ? (megahertz - kFirstTwoPointFour) / 5 : kNoChannel;
+}
 
 unsigned long CWirelessManage::GetChannel(unsigned long frequency)
 {

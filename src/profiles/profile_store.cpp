@@ -1,12 +1,9 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/bounded_copy.h"
-#include "core/fixed_text.h"
-#include "core/narrow_text.h"
+#include "core/copies.h"
 #include "core/service_steps.h"
-#include "core/strict_copy.h"
-#include "core/wlan_lists.h"
-#include "profiles/profile_name.h"
+#include "core/wlan_records.h"
+#include "text/conversion.h"
 
 #include <cstring>
 #include <cwchar>

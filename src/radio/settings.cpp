@@ -1,10 +1,8 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/bounded_copy.h"
 #include "core/service_steps.h"
 
 #include <cstdint>
-#include <string_view>
 
 using namespace calvix;
 using platform::wlan;
@@ -30,23 +28,6 @@ constexpr unsigned long kWrongVersion = 0xFFFFFFFF;
 /// purpose, so that it meets only those whom none of the others has served.
 constexpr wchar_t kIhvAccess[] = L"O:SYG:SYD:(A;;CCRC;;;BU)(A;;CCDCWPSDRCWD;;;BU)(A;;CCRC;;;NO)(A;;CCDCWPSDRCWD;;;NO)"
                                  L"(A;;CCRC;;;BA)(A;;CCDCWPSDRCWD;;;BA)(D;;FA;;;WD)";
-
-std::string_view PowerSettingText(unsigned long level)
-{
-    switch (level)
-    {
-    case wlan_power_setting_no_saving:
-        return "wlan_power_setting_no_saving";
-    case wlan_power_setting_low_saving:
-        return "wlan_power_setting_low_saving";
-    case wlan_power_setting_medium_saving:
-        return "wlan_power_setting_medium_saving";
-    case wlan_power_setting_maximum_saving:
-        return "wlan_power_setting_maximum_saving";
-    default:
-        return "wlan_power_setting_invalid";
-    }
-}
 
 } // namespace
 
@@ -83,13 +64,6 @@ int CWirelessManage::SetPowerSetting(unsigned long)
 {
     // Deliberate: part of the interface, without effect.
     return 0;
-}
-
-char* CWirelessManage::GetPowerSettingStr(unsigned long level)
-{
-    auto& m_szPowerSetting = m_Text[1].szShort;
-    CopyTruncating(m_szPowerSetting, PowerSettingText(level));
-    return m_szPowerSetting;
 }
 
 unsigned long CWirelessManage::SetIhvSecuritySettings()

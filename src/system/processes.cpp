@@ -1,6 +1,6 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/out_of_memory.h"
+#include "core/memory.h"
 #include "platform/platform.h"
 
 #include <cstring>

@@ -19,10 +19,10 @@ struct ManagerInternals
         return manager.m_SavedConnNotify;
     }
     static int& SavedAutoConnMode(CWirelessManage& manager) { return manager.m_nSavedAutoConnMode; }
-    static char (&InterfaceState(CWirelessManage& manager))[256] { return manager.m_Text[0].szLong; }
-    static char (&GuidText(CWirelessManage& manager))[128] { return manager.m_Text[0].szShort; }
-    static char (&InterfaceDesc(CWirelessManage& manager))[256] { return manager.m_Text[1].szLong; }
-    static char (&PowerSetting(CWirelessManage& manager))[128] { return manager.m_Text[1].szShort; }
+    static char (&InterfaceState(CWirelessManage& manager))[256] { return manager.m_szInterfaceState; }
+    static char (&GuidText(CWirelessManage& manager))[128] { return manager.m_szGuid; }
+    static char (&InterfaceDesc(CWirelessManage& manager))[256] { return manager.m_szInterfaceDesc; }
+    static char (&PowerSetting(CWirelessManage& manager))[128] { return manager.m_szPowerSetting; }
     static bool& Spare(CWirelessManage& manager) { return manager.m_bSpare; }
     static void*& SparePointer(CWirelessManage& manager) { return manager.m_pSpare; }
     static POWER_POLICY& SavedPowerPolicy(CWirelessManage& manager) { return manager.m_SavedPowerPolicy; }

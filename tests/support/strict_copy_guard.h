@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/strict_copy.h"
+#include "core/copies.h"
 
 #include <gtest/gtest.h>
 

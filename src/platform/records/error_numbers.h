@@ -6,12 +6,6 @@
 #ifdef _WIN32
 
 // Not every SDK lists the numbers that come from the network driver interface.
-#ifndef ERROR_NDIS_DOT11_AUTO_CONFIG_ENABLED
-#define ERROR_NDIS_DOT11_AUTO_CONFIG_ENABLED 0x80342000L
-#endif
-#ifndef ERROR_NDIS_DOT11_MEDIA_IN_USE
-#define ERROR_NDIS_DOT11_MEDIA_IN_USE 0x80342001L
-#endif
 #ifndef ERROR_NDIS_DOT11_POWER_STATE_INVALID
 #define ERROR_NDIS_DOT11_POWER_STATE_INVALID 0x80342002L
 #endif
@@ -20,12 +14,10 @@
 
 inline constexpr DWORD ERROR_SUCCESS = 0;
 inline constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
-inline constexpr DWORD ERROR_PATH_NOT_FOUND = 3;
 inline constexpr DWORD ERROR_ACCESS_DENIED = 5;
 inline constexpr DWORD ERROR_INVALID_HANDLE = 6;
 inline constexpr DWORD ERROR_NOT_ENOUGH_MEMORY = 8;
 inline constexpr DWORD ERROR_INVALID_DATA = 13;
-inline constexpr DWORD ERROR_NOT_READY = 21;
 inline constexpr DWORD ERROR_BAD_LENGTH = 24;
 inline constexpr DWORD ERROR_GEN_FAILURE = 31;
 inline constexpr DWORD ERROR_NOT_SUPPORTED = 50;
@@ -36,18 +28,14 @@ inline constexpr DWORD ERROR_MOD_NOT_FOUND = 126;
 inline constexpr DWORD ERROR_PROC_NOT_FOUND = 127;
 inline constexpr DWORD ERROR_BUSY = 170;
 inline constexpr DWORD ERROR_ALREADY_EXISTS = 183;
-inline constexpr DWORD ERROR_BAD_EXE_FORMAT = 193;
 inline constexpr DWORD ERROR_MORE_DATA = 234;
 inline constexpr DWORD ERROR_NO_MORE_ITEMS = 259;
 inline constexpr DWORD ERROR_INVALID_FLAGS = 1004;
-inline constexpr DWORD ERROR_NO_TOKEN = 1008;
-inline constexpr DWORD ERROR_SERVICE_REQUEST_TIMEOUT = 1053;
 inline constexpr DWORD ERROR_SERVICE_ALREADY_RUNNING = 1056;
 inline constexpr DWORD ERROR_SERVICE_DISABLED = 1058;
 inline constexpr DWORD ERROR_SERVICE_DOES_NOT_EXIST = 1060;
 inline constexpr DWORD ERROR_SERVICE_NOT_ACTIVE = 1062;
 inline constexpr DWORD ERROR_NO_UNICODE_TRANSLATION = 1113;
-inline constexpr DWORD ERROR_DEVICE_NOT_CONNECTED = 1167;
 inline constexpr DWORD ERROR_NOT_FOUND = 1168;
 inline constexpr DWORD ERROR_NO_MATCH = 1169;
 inline constexpr DWORD ERROR_BAD_PROFILE = 1206;
@@ -56,12 +44,8 @@ inline constexpr DWORD ERROR_CANCELLED = 1223;
 inline constexpr DWORD ERROR_NOT_ALL_ASSIGNED = 1300;
 inline constexpr DWORD ERROR_NO_SUCH_PRIVILEGE = 1313;
 inline constexpr DWORD ERROR_PRIVILEGE_NOT_HELD = 1314;
-inline constexpr DWORD ERROR_TIMEOUT = 1460;
-inline constexpr DWORD ERROR_UNSUPPORTED_TYPE = 1630;
 inline constexpr DWORD ERROR_INVALID_STATE = 5023;
 
-inline constexpr DWORD ERROR_NDIS_DOT11_AUTO_CONFIG_ENABLED = 0x80342000;
-inline constexpr DWORD ERROR_NDIS_DOT11_MEDIA_IN_USE = 0x80342001;
 inline constexpr DWORD ERROR_NDIS_DOT11_POWER_STATE_INVALID = 0x80342002;
 
 #endif

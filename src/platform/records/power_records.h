@@ -30,17 +30,14 @@ enum POWER_DATA_ACCESSOR : unsigned int
     ACCESS_ACTIVE_SCHEME = 19,
     ACCESS_CREATE_SCHEME = 20
 };
-using PPOWER_DATA_ACCESSOR = POWER_DATA_ACCESSOR*;
 
 using HKEY = struct HKEY__*;
-using PHKEY = HKEY*;
 
 struct BATTERY_REPORTING_SCALE
 {
     DWORD Granularity;
     DWORD Capacity;
 };
-using PBATTERY_REPORTING_SCALE = BATTERY_REPORTING_SCALE*;
 
 struct SYSTEM_POWER_CAPABILITIES
 {
@@ -78,7 +75,6 @@ struct SYSTEM_POWER_CAPABILITIES
     SYSTEM_POWER_STATE MinDeviceWakeState;
     SYSTEM_POWER_STATE DefaultLowLatencyWake;
 };
-using PSYSTEM_POWER_CAPABILITIES = SYSTEM_POWER_CAPABILITIES*;
 
 inline constexpr DWORD NUM_DISCHARGE_POLICIES = 4;
 
@@ -113,7 +109,6 @@ struct SYSTEM_POWER_POLICY
     BYTE MinThrottle;
     POWER_ACTION_POLICY OverThrottled;
 };
-using PSYSTEM_POWER_POLICY = SYSTEM_POWER_POLICY*;
 
 #else
 
@@ -131,19 +126,11 @@ namespace calvix
 // definition to a library that not every toolchain links.
 namespace power_guid
 {
-inline constexpr GUID max_power_savings = {
-    0xa1841308, 0x3541, 0x4fab, {0xbc, 0x81, 0xf7, 0x15, 0x56, 0xf2, 0x0b, 0x4a}};
-inline constexpr GUID min_power_savings = {
-    0x8c5e7fda, 0xe8bf, 0x4a96, {0x9a, 0x85, 0xa6, 0xe2, 0x3a, 0x8c, 0x63, 0x5c}};
-inline constexpr GUID typical_power_savings = {
-    0x381b4222, 0xf694, 0x41f0, {0x96, 0x85, 0xff, 0x5b, 0xb2, 0x60, 0xdf, 0x2e}};
 inline constexpr GUID no_subgroup = {0xfea3413e, 0x7e05, 0x4911, {0x9a, 0x71, 0x70, 0x03, 0x31, 0xf1, 0xc2, 0x94}};
 inline constexpr GUID sleep_subgroup = {0x238c9fa8, 0x0aad, 0x41ed, {0x83, 0xf4, 0x97, 0xbe, 0x24, 0x2c, 0x8f, 0x20}};
 inline constexpr GUID standby_timeout = {0x29f6c1db, 0x86da, 0x48c5, {0x9f, 0xdb, 0xf2, 0xb6, 0x7b, 0x1f, 0x44, 0xda}};
 inline constexpr GUID unattend_sleep_timeout = {
     0x7bc4a2f9, 0xd8fc, 0x4469, {0xb0, 0x7b, 0x33, 0xeb, 0x78, 0x5a, 0xac, 0xa0}};
-inline constexpr GUID hibernate_timeout = {
-    0x9d7815a6, 0x7ee4, 0x497e, {0x88, 0x88, 0x51, 0x5a, 0x05, 0xf0, 0x23, 0x64}};
 } // namespace power_guid
 
 // Older SDKs declare the byte for "always on, always connected" as a spare one, without its name; it has

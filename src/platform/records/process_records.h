@@ -11,7 +11,6 @@ struct SECURITY_ATTRIBUTES
     LPVOID lpSecurityDescriptor;
     BOOL bInheritHandle;
 };
-using PSECURITY_ATTRIBUTES = SECURITY_ATTRIBUTES*;
 using LPSECURITY_ATTRIBUTES = SECURITY_ATTRIBUTES*;
 
 struct STARTUPINFOA
@@ -44,23 +43,14 @@ struct PROCESS_INFORMATION
     DWORD dwProcessId;
     DWORD dwThreadId;
 };
-using PPROCESS_INFORMATION = PROCESS_INFORMATION*;
 using LPPROCESS_INFORMATION = PROCESS_INFORMATION*;
 
 inline constexpr DWORD PROCESS_TERMINATE = 0x0001;
 inline constexpr DWORD PROCESS_QUERY_INFORMATION = 0x0400;
 
-inline constexpr DWORD STARTF_USESHOWWINDOW = 0x00000001;
-inline constexpr DWORD NORMAL_PRIORITY_CLASS = 0x00000020;
-inline constexpr DWORD CREATE_NEW_CONSOLE = 0x00000010;
-inline constexpr DWORD CREATE_NO_WINDOW = 0x08000000;
-inline constexpr WORD SW_HIDE = 0;
-inline constexpr WORD SW_SHOW = 5;
-
 // Thirty-two bits wide on the platform, whatever DWORD is here.
 inline constexpr DWORD INFINITE = 0xFFFFFFFF;
 inline constexpr DWORD WAIT_OBJECT_0 = 0;
-inline constexpr DWORD WAIT_ABANDONED = 0x00000080;
 inline constexpr DWORD WAIT_TIMEOUT = 258;
 inline constexpr DWORD WAIT_FAILED = 0xFFFFFFFF;
 

@@ -31,11 +31,6 @@ inline constexpr DWORD SERVICE_WIN32_OWN_PROCESS = 0x00000010;
 inline constexpr DWORD SERVICE_WIN32_SHARE_PROCESS = 0x00000020;
 
 inline constexpr DWORD SERVICE_STOPPED = 1;
-inline constexpr DWORD SERVICE_START_PENDING = 2;
-inline constexpr DWORD SERVICE_STOP_PENDING = 3;
 inline constexpr DWORD SERVICE_RUNNING = 4;
-inline constexpr DWORD SERVICE_CONTINUE_PENDING = 5;
-inline constexpr DWORD SERVICE_PAUSE_PENDING = 6;
-inline constexpr DWORD SERVICE_PAUSED = 7;
 
 #endif

@@ -11,7 +11,6 @@ struct FILETIME
     DWORD dwLowDateTime;
     DWORD dwHighDateTime;
 };
-using PFILETIME = FILETIME*;
 using LPFILETIME = FILETIME*;
 
 struct SYSTEMTIME
@@ -25,7 +24,6 @@ struct SYSTEMTIME
     WORD wSecond;
     WORD wMilliseconds;
 };
-using PSYSTEMTIME = SYSTEMTIME*;
 using LPSYSTEMTIME = SYSTEMTIME*;
 
 #endif

@@ -75,10 +75,7 @@ inline constexpr auto wpa3_enterprise = static_cast<DOT11_AUTH_ALGORITHM>(11);
 
 namespace calvix::cipher
 {
-inline constexpr auto bip = static_cast<DOT11_CIPHER_ALGORITHM>(6);
-inline constexpr auto gcmp = static_cast<DOT11_CIPHER_ALGORITHM>(8);
 inline constexpr auto gcmp_256 = static_cast<DOT11_CIPHER_ALGORITHM>(9);
-inline constexpr auto ccmp_256 = static_cast<DOT11_CIPHER_ALGORITHM>(10);
 } // namespace calvix::cipher
 
 // Notification codes of the media-specific module; the auto-configuration module's early ones are in
@@ -95,19 +92,5 @@ inline constexpr DWORD radio_state_change = 7;
 inline constexpr DWORD signal_quality_change = 8;
 inline constexpr DWORD disassociating = 9;
 inline constexpr DWORD disconnected = 10;
-inline constexpr DWORD peer_join = 11;
 inline constexpr DWORD peer_leave = 12;
-inline constexpr DWORD adapter_removal = 13;
-inline constexpr DWORD adapter_operation_mode_change = 14;
-inline constexpr DWORD link_degraded = 15;
-inline constexpr DWORD link_improved = 16;
 } // namespace calvix::msm
-
-namespace calvix::acm
-{
-inline constexpr DWORD profile_unblocked = 23;
-inline constexpr DWORD screen_power_change = 24;
-inline constexpr DWORD profile_blocked = 25;
-inline constexpr DWORD scan_list_refresh = 26;
-inline constexpr DWORD operational_state_change = 27;
-} // namespace calvix::acm

@@ -1,4 +1,4 @@
-#include "core/bounded_copy.h"
+#include "core/copies.h"
 
 #include <gtest/gtest.h>
 

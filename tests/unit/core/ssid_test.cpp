@@ -1,6 +1,5 @@
-#include "core/ssid.h"
+#include "core/wlan_records.h"
 
-#include "core/fixed_text.h"
 #include "support/test_worlds.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "core/strict_copy.h"
+#include "core/copies.h"
 
 #include "support/allocation_counter.h"
 #include "support/library_test.h"

@@ -1,4 +1,4 @@
-#include "core/wlan_memory.h"
+#include "core/memory.h"
 
 #include "support/library_test.h"
 

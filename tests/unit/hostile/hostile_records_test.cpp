@@ -9,7 +9,7 @@
 #include "unit/hostile/every_reader.h"
 #include "unit/inventory/altered_answers.h"
 
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
 
 #include <cstddef>
 #include <optional>

@@ -25,4 +25,7 @@ inline int StrengthOfRssi(int rssi)
     return std::clamp<int>(strength, 0, 100);
 }
 
+/// Channel number of a centre frequency, by the library's own rule (see CWirelessManage::GetChannel).
+std::uint32_t ChannelOfFrequency(unsigned long frequency);
+
 } // namespace calvix

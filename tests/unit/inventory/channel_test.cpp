@@ -1,4 +1,4 @@
-#include "core/channel.h"
+#include "inventory/signal.h"
 
 #include <gtest/gtest.h>
 

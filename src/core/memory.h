@@ -2,6 +2,8 @@
 
 #include "core/trace.h"
 
+#include <new>
+
 namespace calvix
 {
 
@@ -56,5 +58,21 @@ using ProfileList = WlanMemory<WLAN_PROFILE_INFO_LIST>;
 using BssList = WlanMemory<WLAN_BSS_LIST>;
 using ConnectionAttributes = WlanMemory<WLAN_CONNECTION_ATTRIBUTES>;
 using ProfileText = WlanMemory<wchar_t>;
+
+/// Takes a step that needs memory from the heap. Whether memory ran out, which no method lets its caller know by an
+/// exception: it ends as it does when the list that the step is about cannot be obtained.
+template <typename Step>
+bool OutOfMemoryIn(Step step)
+{
+    try
+    {
+        step();
+    }
+    catch (const std::bad_alloc&)
+    {
+        return true;
+    }
+    return false;
+}
 
 } // namespace calvix

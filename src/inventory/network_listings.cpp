@@ -1,12 +1,10 @@
 #include <calvix/wireless_manage.h>
 
-#include "core/channel.h"
-#include "core/fixed_text.h"
-#include "core/mac_address.h"
-#include "core/narrow_text.h"
-#include "core/wlan_lists.h"
+#include "core/wlan_records.h"
 #include "inventory/interface_listing.h"
-#include "inventory/signal_scale.h"
+#include "inventory/signal.h"
+#include "text/conversion.h"
+#include "text/value_text.h"
 
 using namespace calvix;
 

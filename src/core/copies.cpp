@@ -1,4 +1,4 @@
-#include "core/strict_copy.h"
+#include "core/copies.h"
 
 #include "core/trace.h"
 #include "platform/platform.h"

@@ -1,4 +1,4 @@
-#include "core/profile_network_match.h"
+#include "autoconnect/profile_network_match.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
