@@ -10,7 +10,7 @@ namespace calvix::host
 
 /// A clock that waits in small steps, the library's own waits included, so that something can be shown meanwhile and
 /// Ctrl-C is noticed. What is left of a wait after Ctrl-C is left out.
-class SteppingClock final : public platform::Clock
+class SteppingClock final
 {
 public:
     explicit SteppingClock(platform::Clock& inner) : m_inner(inner) {}
@@ -18,11 +18,7 @@ public:
     /// Called after each step, with its milliseconds.
     void AfterEachStep(std::function<void(unsigned)> action) { m_afterStep = std::move(action); }
 
-    void Sleep(DWORD milliseconds) override;
-    BOOL FileTimeToSystemTime(const FILETIME* fileTime, SYSTEMTIME* systemTime) override
-    {
-        return m_inner.FileTimeToSystemTime(fileTime, systemTime);
-    }
+    void Sleep(DWORD milliseconds);
 
 private:
     platform::Clock& m_inner;

@@ -4,6 +4,7 @@
 #include "stepping_clock.h"
 #include "watched_system.h"
 #include "watched_wlan.h"
+#include "wrappers/intercepted_platform.h"
 
 #include <ostream>
 
@@ -11,7 +12,7 @@ namespace calvix::host
 {
 
 /// Forwards to the debugger and shows the same lines on a stream.
-class ShownDebuggerOutput final : public platform::DebuggerOutput
+class ShownDebuggerOutput final
 {
 public:
     /// A null stream shows nothing.
@@ -20,7 +21,7 @@ public:
     /// While not null, what is written goes here, as it is, instead of being shown.
     void CaptureIn(std::string* captured) { m_captured = captured; }
 
-    void OutputDebugStringA(const char* text) override;
+    void OutputDebugStringA(const char* text);
 
 private:
     platform::DebuggerOutput& m_inner;
@@ -34,32 +35,21 @@ class WatchedPlatform final : public platform::Platform
 {
 public:
     /// Trace lines are shown on `shown` unless it is null. Both must live as long as this object.
-    WatchedPlatform(platform::Platform& inner, std::ostream* shown)
-        : m_inner(inner), m_wlan(inner.wlan()), m_system(inner), m_clock(inner.clock()),
-          m_debugger(inner.debugger(), shown)
-    {
-    }
+    WatchedPlatform(platform::Platform& inner, std::ostream* shown);
+    WatchedPlatform(const WatchedPlatform&) = delete;
+    WatchedPlatform& operator=(const WatchedPlatform&) = delete;
 
     WatchedWlan& watched() { return m_wlan; }
-    SystemRefusals& systemRefusals() { return m_system.refusals(); }
+    SystemRefusals& systemRefusals() { return m_system; }
     SteppingClock& steps() { return m_clock; }
     ShownDebuggerOutput& shownDebugger() { return m_debugger; }
 
-    platform::WlanService& wlan() override { return m_wlan; }
-    platform::ServiceControl& services() override { return m_inner.services(); }
-    platform::Power& power() override { return m_system.power(); }
-    platform::Security& security() override { return m_system.security(); }
-    platform::Processes& processes() override { return m_system.processes(); }
-    platform::Internet& internet() override { return m_system.internet(); }
-    platform::Text& text() override { return m_inner.text(); }
-    platform::Clock& clock() override { return m_clock; }
-    platform::DebuggerOutput& debugger() override { return m_debugger; }
-    platform::LastError& errors() override { return m_inner.errors(); }
-
 private:
-    platform::Platform& m_inner;
+    RefusalNotes m_notes;
+    SystemRefusals m_system;
+    wrappers::InterceptorChain m_refusals{{&m_notes, &m_system}};
+    wrappers::InterceptedPlatform m_calls;
     WatchedWlan m_wlan;
-    WatchedSystem m_system;
     SteppingClock m_clock;
     ShownDebuggerOutput m_debugger;
 };

@@ -1,7 +1,5 @@
 #include "watched_system.h"
 
-#include "platform/records/error_numbers.h"
-
 #include <algorithm>
 
 namespace calvix::host
@@ -10,36 +8,28 @@ namespace calvix::host
 namespace
 {
 
-bool BeginsWith(std::string_view text, std::string_view beginning)
+bool IsWatched(operations::Facility facility)
 {
-    return text.substr(0, beginning.size()) == beginning;
+    using operations::Facility;
+    return facility == Facility::power || facility == Facility::security || facility == Facility::processes ||
+           facility == Facility::internet;
 }
 
 /// The operations whose result is their error.
-bool GivesItsError(std::string_view operation)
+bool GivesItsError(operations::Fails fails)
 {
-    return BeginsWith(operation, "Power") || operation == "CallNtPowerInformation";
-}
-
-/// The operations whose zero is an answer, or that have nothing to say.
-bool CannotBeRefused(std::string_view operation)
-{
-    return BeginsWith(operation, "Is") || operation == "LocalFree" || operation == "GetCurrentProcess";
+    return fails == operations::Fails::withErrorNumber || fails == operations::Fails::withStatus;
 }
 
 } // namespace
 
 void SystemRefusals::After(const wrappers::Call& call, long long result)
 {
-    if (CannotBeRefused(call.operation))
+    const operations::Facts& operation = *call.facts;
+    if (!IsWatched(operation.facility) || !operations::HasFailed(operation.fails, result))
         return;
-    const bool isWait = call.operation == "WaitForSingleObject";
-    const bool givesError = GivesItsError(call.operation);
-    const auto number = static_cast<std::uint32_t>(result);
-    const bool refused = isWait ? number == static_cast<std::uint32_t>(WAIT_FAILED) : (number != 0) == givesError;
-    if (!refused)
-        return;
-    const std::uint32_t error = givesError ? number : static_cast<std::uint32_t>(m_errors.GetLastError());
+    const bool givesError = GivesItsError(operation.fails);
+    const auto error = static_cast<std::uint32_t>(givesError ? static_cast<DWORD>(result) : m_errors.GetLastError());
     m_refusals.push_back({std::string(call.operation), error, 0, true});
 }
 

@@ -2,9 +2,6 @@
 
 #include "platform/platform.h"
 #include "watched_wlan.h"
-#include "wrappers/intercepted_power.h"
-#include "wrappers/intercepted_processes.h"
-#include "wrappers/intercepted_utilities.h"
 
 #include <vector>
 
@@ -29,32 +26,6 @@ public:
 private:
     platform::LastError& m_errors;
     std::vector<Refusal> m_refusals;
-};
-
-/// The facilities that are watched so.
-class WatchedSystem
-{
-public:
-    /// `inner` outlives this object.
-    explicit WatchedSystem(platform::Platform& inner)
-        : m_refusals(inner.errors()), m_power(inner.power(), m_point), m_security(inner.security(), m_point),
-          m_processes(inner.processes(), m_point), m_internet(inner.internet(), m_point)
-    {
-    }
-
-    SystemRefusals& refusals() { return m_refusals; }
-    platform::Power& power() { return m_power; }
-    platform::Security& security() { return m_security; }
-    platform::Processes& processes() { return m_processes; }
-    platform::Internet& internet() { return m_internet; }
-
-private:
-    SystemRefusals m_refusals;
-    wrappers::InterceptionPoint m_point{m_refusals};
-    wrappers::InterceptedPower m_power;
-    wrappers::InterceptedSecurity m_security;
-    wrappers::InterceptedProcesses m_processes;
-    wrappers::InterceptedInternet m_internet;
 };
 
 } // namespace calvix::host

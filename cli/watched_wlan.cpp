@@ -28,13 +28,13 @@ ConnectRequest Describe(const GUID* interfaceGuid, const WLAN_CONNECTION_PARAMET
 
 void RefusalNotes::After(const wrappers::Call& call, long long result)
 {
-    if (result != 0)
+    if (call.facts->facility == operations::Facility::wlan && operations::HasFailed(call.facts->fails, result))
         last = {std::string(call.operation), static_cast<std::uint32_t>(result), 0};
 }
 
 void WatchedWlan::StartWatching()
 {
-    notes.last = {};
+    m_notes.last = {};
     m_requests.clear();
 }
 
@@ -47,10 +47,10 @@ DWORD WatchedWlan::WlanSetProfile(HANDLE client,
                                   PVOID reserved,
                                   DWORD* reasonCode)
 {
-    const DWORD error = InterceptedWlanService::WlanSetProfile(client, interfaceGuid, flags, xml,
-                                                               allUserProfileSecurity, overwrite, reserved, reasonCode);
+    const DWORD error = m_inner.WlanSetProfile(client, interfaceGuid, flags, xml, allUserProfileSecurity, overwrite,
+                                               reserved, reasonCode);
     if (error != 0 && reasonCode != nullptr)
-        notes.last.reasonCode = *reasonCode;
+        m_notes.last.reasonCode = *reasonCode;
     return error;
 }
 
@@ -59,7 +59,7 @@ DWORD WatchedWlan::WlanSetProfilePosition(
 {
     if (m_rehearsing)
         return ERROR_SUCCESS;
-    return InterceptedWlanService::WlanSetProfilePosition(client, interfaceGuid, profileName, position, reserved);
+    return m_inner.WlanSetProfilePosition(client, interfaceGuid, profileName, position, reserved);
 }
 
 DWORD WatchedWlan::WlanConnect(HANDLE client,
@@ -68,8 +68,8 @@ DWORD WatchedWlan::WlanConnect(HANDLE client,
                                PVOID reserved)
 {
     ConnectRequest request = Describe(interfaceGuid, parameters);
-    const DWORD error = m_rehearsing ? ERROR_CANCELLED
-                                     : InterceptedWlanService::WlanConnect(client, interfaceGuid, parameters, reserved);
+    const DWORD error =
+        m_rehearsing ? ERROR_CANCELLED : m_inner.WlanConnect(client, interfaceGuid, parameters, reserved);
     request.error = static_cast<std::uint32_t>(error);
     m_requests.push_back(request);
     return error;

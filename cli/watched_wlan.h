@@ -1,6 +1,6 @@
 #pragma once
 
-#include "wrappers/intercepted_wlan_service.h"
+#include "platform/platform.h"
 #include "wrappers/interceptor.h"
 
 #include <cstdint>
@@ -29,7 +29,7 @@ struct ConnectRequest
     std::uint32_t error = 0; ///< 0: accepted
 };
 
-/// Notes which operation was refused last.
+/// Notes which operation of the WLAN service was refused last.
 class RefusalNotes final : public wrappers::Interceptor
 {
 public:
@@ -38,21 +38,15 @@ public:
     Refusal last;
 };
 
-/// What a watched service stands on; a base, so that it is there before the service.
-struct WatchedCalls
-{
-    RefusalNotes notes;
-    wrappers::InterceptionPoint point{notes};
-};
-
-/// Forwards every operation and remembers what was refused and what was asked to be connected: the library's own codes
-/// say which step failed, not what the service answered.
-class WatchedWlan final : private WatchedCalls, public wrappers::InterceptedWlanService
+/// Remembers what was refused and what was asked to be connected: the library's own codes say which step failed, not what
+/// the service answered.
+class WatchedWlan final
 {
 public:
-    explicit WatchedWlan(platform::WlanService& inner) : InterceptedWlanService(inner, point) {}
+    /// `notes` sees the calls of the service. Both outlive this object.
+    WatchedWlan(platform::WlanService& inner, RefusalNotes& notes) : m_inner(inner), m_notes(notes) {}
 
-    const Refusal& LastRefusal() const { return notes.last; }
+    const Refusal& LastRefusal() const { return m_notes.last; }
     const std::vector<ConnectRequest>& ConnectRequests() const { return m_requests; }
     /// Forgets what was refused and asked for so far.
     void StartWatching();
@@ -68,15 +62,15 @@ public:
                          const wchar_t* allUserProfileSecurity,
                          BOOL overwrite,
                          PVOID reserved,
-                         DWORD* reasonCode) override;
+                         DWORD* reasonCode);
     DWORD WlanSetProfilePosition(
-        HANDLE client, const GUID* interfaceGuid, const wchar_t* profileName, DWORD position, PVOID reserved) override;
-    DWORD WlanConnect(HANDLE client,
-                      const GUID* interfaceGuid,
-                      const WLAN_CONNECTION_PARAMETERS* parameters,
-                      PVOID reserved) override;
+        HANDLE client, const GUID* interfaceGuid, const wchar_t* profileName, DWORD position, PVOID reserved);
+    DWORD
+    WlanConnect(HANDLE client, const GUID* interfaceGuid, const WLAN_CONNECTION_PARAMETERS* parameters, PVOID reserved);
 
 private:
+    platform::WlanService& m_inner;
+    RefusalNotes& m_notes;
     bool m_rehearsing = false;
     std::vector<ConnectRequest> m_requests;
 };

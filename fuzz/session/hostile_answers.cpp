@@ -96,66 +96,42 @@ void SpoilSome(Input& input, List& list, Item* items)
 
 } // namespace
 
-DWORD HostileWlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list)
+HostileAnswers::HostileAnswers(Input& input)
 {
-    const DWORD error = InterceptedWlanService::WlanEnumInterfaces(client, reserved, list);
-    if (error == 0)
-    {
-        SpoilSome(m_input, **list, (*list)->InterfaceInfo);
-        (*list)->dwIndex = Extreme(m_input);
-    }
-    return error;
-}
-
-DWORD HostileWlanService::WlanGetProfileList(HANDLE client,
-                                             const GUID* interfaceGuid,
-                                             PVOID reserved,
-                                             WLAN_PROFILE_INFO_LIST** list)
-{
-    const DWORD error = InterceptedWlanService::WlanGetProfileList(client, interfaceGuid, reserved, list);
-    if (error == 0)
-        SpoilSome(m_input, **list, (*list)->ProfileInfo);
-    return error;
-}
-
-DWORD HostileWlanService::WlanGetAvailableNetworkList(
-    HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list)
-{
-    const DWORD error =
-        InterceptedWlanService::WlanGetAvailableNetworkList(client, interfaceGuid, flags, reserved, list);
-    if (error == 0)
-        SpoilSome(m_input, **list, (*list)->Network);
-    return error;
-}
-
-DWORD HostileWlanService::WlanGetNetworkBssList(HANDLE client,
-                                                const GUID* interfaceGuid,
-                                                const DOT11_SSID* ssid,
-                                                DOT11_BSS_TYPE bssType,
-                                                BOOL securityEnabled,
-                                                PVOID reserved,
-                                                WLAN_BSS_LIST** list)
-{
-    const DWORD error = InterceptedWlanService::WlanGetNetworkBssList(client, interfaceGuid, ssid, bssType,
-                                                                      securityEnabled, reserved, list);
-    if (error == 0)
-        SpoilSome(m_input, **list, (*list)->wlanBssEntries);
-    return error;
-}
-
-DWORD HostileWlanService::WlanQueryInterface(HANDLE client,
-                                             const GUID* interfaceGuid,
-                                             WLAN_INTF_OPCODE opcode,
-                                             PVOID reserved,
-                                             DWORD* dataSize,
-                                             PVOID* data,
-                                             WLAN_OPCODE_VALUE_TYPE* valueType)
-{
-    const DWORD error =
-        InterceptedWlanService::WlanQueryInterface(client, interfaceGuid, opcode, reserved, dataSize, data, valueType);
-    if (error == 0 && opcode == wlan_intf_opcode_current_connection)
-        Spoil(m_input, *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(*data));
-    return error;
+    using platform::WlanService;
+    After<&WlanService::WlanEnumInterfaces>(
+        [&input](DWORD error, HANDLE, PVOID, WLAN_INTERFACE_INFO_LIST** list)
+        {
+            if (error != 0)
+                return;
+            SpoilSome(input, **list, (*list)->InterfaceInfo);
+            (*list)->dwIndex = Extreme(input);
+        });
+    After<&WlanService::WlanGetProfileList>(
+        [&input](DWORD error, HANDLE, const GUID*, PVOID, WLAN_PROFILE_INFO_LIST** list)
+        {
+            if (error == 0)
+                SpoilSome(input, **list, (*list)->ProfileInfo);
+        });
+    After<&WlanService::WlanGetAvailableNetworkList>(
+        [&input](DWORD error, HANDLE, const GUID*, DWORD, PVOID, WLAN_AVAILABLE_NETWORK_LIST** list)
+        {
+            if (error == 0)
+                SpoilSome(input, **list, (*list)->Network);
+        });
+    After<&WlanService::WlanGetNetworkBssList>(
+        [&input](DWORD error, HANDLE, const GUID*, const DOT11_SSID*, DOT11_BSS_TYPE, BOOL, PVOID, WLAN_BSS_LIST** list)
+        {
+            if (error == 0)
+                SpoilSome(input, **list, (*list)->wlanBssEntries);
+        });
+    After<&WlanService::WlanQueryInterface>(
+        [&input](DWORD error, HANDLE, const GUID*, WLAN_INTF_OPCODE opcode, PVOID, DWORD*, PVOID* data,
+                 WLAN_OPCODE_VALUE_TYPE*)
+        {
+            if (error == 0 && opcode == wlan_intf_opcode_current_connection)
+                Spoil(input, *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(*data));
+        });
 }
 
 } // namespace calvix::fuzz::session

@@ -35,8 +35,8 @@ DWORD Answer(const Operation& operation) noexcept
     }
 }
 
-template <typename... Parameters, typename... Arguments>
-DWORD Ask(DWORD (WlanService::*operation)(Parameters...), Arguments... arguments) noexcept
+template <typename Operation, typename... Arguments>
+DWORD Ask(Operation WlanService::*operation, Arguments... arguments) noexcept
 {
     return Answer([&](WlanService& service) { return (service.*operation)(arguments...); });
 }

@@ -1,92 +1,19 @@
 #include "simulation/computer.h"
 
-#include "simulation/internet.h"
-#include "simulation/last_error.h"
-#include "simulation/locked_facilities.h"
-#include "simulation/machine.h"
-#include "simulation/power.h"
-#include "simulation/processes.h"
-#include "simulation/security.h"
-#include "simulation/text.h"
+#include "simulation/facilities.h"
 #include "simulation/timetable.h"
-#include "simulation/wlan_service.h"
 
 namespace calvix::simulation
 {
 
-struct Computer::Parts
-{
-    explicit Parts(const Scenario& scenario) : machine(scenario) {}
+Computer::Computer(const Scenario& scenario) : Computer(std::make_unique<Facilities>(scenario)) {}
 
-    Machine machine;
-    SimulatedWlanService wlan{machine};
-    LockedServiceControl services{machine};
-    SimulatedPower power{machine};
-    SimulatedSecurity security{machine};
-    SimulatedProcesses processes{machine};
-    SimulatedInternet internet{machine};
-    SimulatedText text{machine.lastError, machine.codePage};
-    LockedClock clock{machine};
-    LockedDebuggerOutput debugger{machine};
-    SimulatedLastError errors{machine.lastError};
-};
-
-Computer::Computer(const Scenario& scenario) : m_parts(std::make_unique<Parts>(scenario)) {}
+Computer::Computer(std::unique_ptr<Facilities> parts) : Platform(parts->Operations()), m_parts(std::move(parts)) {}
 
 // The service's thread ends first: a callback that is running may be using anything.
 Computer::~Computer()
 {
     m_parts->machine.notifier.Stop();
-}
-
-platform::WlanService& Computer::wlan()
-{
-    return m_parts->wlan;
-}
-
-platform::ServiceControl& Computer::services()
-{
-    return m_parts->services;
-}
-
-platform::Power& Computer::power()
-{
-    return m_parts->power;
-}
-
-platform::Security& Computer::security()
-{
-    return m_parts->security;
-}
-
-platform::Processes& Computer::processes()
-{
-    return m_parts->processes;
-}
-
-platform::Internet& Computer::internet()
-{
-    return m_parts->internet;
-}
-
-platform::Text& Computer::text()
-{
-    return m_parts->text;
-}
-
-platform::Clock& Computer::clock()
-{
-    return m_parts->clock;
-}
-
-platform::DebuggerOutput& Computer::debugger()
-{
-    return m_parts->debugger;
-}
-
-platform::LastError& Computer::errors()
-{
-    return m_parts->errors;
 }
 
 void Computer::Advance(std::chrono::milliseconds duration)

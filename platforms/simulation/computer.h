@@ -12,6 +12,8 @@
 namespace calvix::simulation
 {
 
+struct Facilities;
+
 /// What the computer noticed that a correct program does not do, or keeps while it should not.
 struct Accounts
 {
@@ -28,20 +30,9 @@ class Computer final : public platform::Platform
 {
 public:
     explicit Computer(const Scenario& scenario);
-    ~Computer() override;
+    ~Computer();
     Computer(const Computer&) = delete;
     Computer& operator=(const Computer&) = delete;
-
-    platform::WlanService& wlan() override;
-    platform::ServiceControl& services() override;
-    platform::Power& power() override;
-    platform::Security& security() override;
-    platform::Processes& processes() override;
-    platform::Internet& internet() override;
-    platform::Text& text() override;
-    platform::Clock& clock() override;
-    platform::DebuggerOutput& debugger() override;
-    platform::LastError& errors() override;
 
     /// Lets simulated time pass: scans finish, connections are made. Nothing else moves it but Sleep, which also waits
     /// until what happened meanwhile is delivered to the clients.
@@ -87,8 +78,9 @@ public:
     Scenario Snapshot() const;
 
 private:
-    struct Parts;
-    std::unique_ptr<Parts> m_parts;
+    explicit Computer(std::unique_ptr<Facilities> parts);
+
+    std::unique_ptr<Facilities> m_parts;
 };
 
 } // namespace calvix::simulation

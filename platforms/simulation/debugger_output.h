@@ -9,14 +9,14 @@ namespace calvix::simulation
 {
 
 /// A debugger that keeps what it is told, one element a call.
-class SimulatedDebuggerOutput final : public platform::DebuggerOutput
+class SimulatedDebuggerOutput final
 {
 public:
     /// `lines` receives the texts; it outlives this object.
     explicit SimulatedDebuggerOutput(std::vector<std::string>& lines) : m_lines(lines) {}
 
     /// A null text says nothing and is not kept.
-    void OutputDebugStringA(const char* text) override
+    void OutputDebugStringA(const char* text)
     {
         if (text != nullptr)
             m_lines.emplace_back(text);

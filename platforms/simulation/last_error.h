@@ -7,13 +7,13 @@ namespace calvix::simulation
 {
 
 /// Answers with the cell that the computer's other facilities leave their errors in.
-class SimulatedLastError final : public platform::LastError
+class SimulatedLastError final
 {
 public:
     /// `lastError` outlives this object.
     explicit SimulatedLastError(const LastErrorCell& lastError) : m_lastError(lastError) {}
 
-    DWORD GetLastError() override { return m_lastError; }
+    DWORD GetLastError() { return m_lastError; }
 
 private:
     const LastErrorCell& m_lastError;

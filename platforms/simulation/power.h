@@ -8,50 +8,41 @@ namespace calvix::simulation
 
 /// Power management: the two kinds of power schemes, what the computer can do, and sleeping. Everybody has every right to
 /// the schemes; putting the computer to sleep takes the shutdown privilege.
-class SimulatedPower final : public platform::Power
+class SimulatedPower final
 {
 public:
     /// `machine` outlives this object.
     explicit SimulatedPower(Machine& machine) : m_machine(machine) {}
 
-    NTSTATUS CallNtPowerInformation(
-        POWER_INFORMATION_LEVEL level, PVOID input, ULONG inputSize, PVOID output, ULONG outputSize) override;
-    BOOLEAN GetActivePwrScheme(UINT* schemeId) override;
-    BOOLEAN ReadPwrScheme(UINT schemeId, POWER_POLICY* policy) override;
+    NTSTATUS
+    CallNtPowerInformation(POWER_INFORMATION_LEVEL level, PVOID input, ULONG inputSize, PVOID output, ULONG outputSize);
+    BOOLEAN GetActivePwrScheme(UINT* schemeId);
+    BOOLEAN ReadPwrScheme(UINT schemeId, POWER_POLICY* policy);
     BOOLEAN
-    WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t* description, POWER_POLICY* policy) override;
+    WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t* description, POWER_POLICY* policy);
     BOOLEAN
-    SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY* globalPolicy, POWER_POLICY* policy) override;
+    SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY* globalPolicy, POWER_POLICY* policy);
     DWORD PowerEnumerate(HKEY root,
                          const GUID* scheme,
                          const GUID* subgroup,
                          POWER_DATA_ACCESSOR access,
                          ULONG index,
                          UCHAR* buffer,
-                         DWORD* bufferSize) override;
-    DWORD PowerReadFriendlyName(HKEY root,
-                                const GUID* scheme,
-                                const GUID* subgroup,
-                                const GUID* setting,
-                                UCHAR* buffer,
-                                DWORD* bufferSize) override;
-    DWORD PowerGetActiveScheme(HKEY root, GUID** scheme) override;
-    DWORD PowerDuplicateScheme(HKEY root, const GUID* source, GUID** duplicate) override;
-    DWORD PowerWriteFriendlyName(HKEY root,
-                                 const GUID* scheme,
-                                 const GUID* subgroup,
-                                 const GUID* setting,
-                                 UCHAR* buffer,
-                                 DWORD bufferSize) override;
-    DWORD PowerWriteACValueIndex(
-        HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, DWORD value) override;
-    DWORD PowerSetActiveScheme(HKEY root, const GUID* scheme) override;
-    BOOLEAN IsPwrSuspendAllowed() override;
-    BOOLEAN IsPwrHibernateAllowed() override;
-    BOOLEAN IsPwrShutdownAllowed() override;
-    BOOLEAN SetSuspendState(BOOLEAN hibernate, BOOLEAN force, BOOLEAN wakeupEventsDisabled) override;
-    BOOL IsSystemResumeAutomatic() override;
-    void LocalFree(PVOID memory) override;
+                         DWORD* bufferSize);
+    DWORD PowerReadFriendlyName(
+        HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD* bufferSize);
+    DWORD PowerGetActiveScheme(HKEY root, GUID** scheme);
+    DWORD PowerDuplicateScheme(HKEY root, const GUID* source, GUID** duplicate);
+    DWORD PowerWriteFriendlyName(
+        HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD bufferSize);
+    DWORD PowerWriteACValueIndex(HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, DWORD value);
+    DWORD PowerSetActiveScheme(HKEY root, const GUID* scheme);
+    BOOLEAN IsPwrSuspendAllowed();
+    BOOLEAN IsPwrHibernateAllowed();
+    BOOLEAN IsPwrShutdownAllowed();
+    BOOLEAN SetSuspendState(BOOLEAN hibernate, BOOLEAN force, BOOLEAN wakeupEventsDisabled);
+    BOOL IsSystemResumeAutomatic();
+    void LocalFree(PVOID memory);
 
 private:
     BOOLEAN Fail(DWORD error);

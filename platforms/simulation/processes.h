@@ -10,13 +10,13 @@ namespace calvix::simulation
 {
 
 /// Processes and modules. A process is a span of simulated time and an exit code; waiting for one lets that time pass.
-class SimulatedProcesses final : public platform::Processes
+class SimulatedProcesses final
 {
 public:
     /// `machine` outlives this object.
     explicit SimulatedProcesses(Machine& machine) : m_machine(machine) {}
 
-    HANDLE GetCurrentProcess() override;
+    HANDLE GetCurrentProcess();
     BOOL CreateProcessA(const char* application,
                         char* commandLine,
                         SECURITY_ATTRIBUTES* processAttributes,
@@ -26,14 +26,14 @@ public:
                         PVOID environment,
                         const char* currentDirectory,
                         STARTUPINFOA* startup,
-                        PROCESS_INFORMATION* information) override;
-    DWORD WaitForSingleObject(HANDLE handle, DWORD milliseconds) override;
-    HANDLE OpenProcess(DWORD access, BOOL inheritHandle, DWORD processId) override;
-    BOOL TerminateProcess(HANDLE process, UINT exitCode) override;
-    BOOL CloseHandle(HANDLE handle) override;
-    DWORD GetModuleFileNameA(HMODULE module, char* fileName, DWORD size) override;
-    HMODULE GetModuleHandleA(const char* moduleName) override;
-    FARPROC GetProcAddress(HMODULE module, const char* name) override;
+                        PROCESS_INFORMATION* information);
+    DWORD WaitForSingleObject(HANDLE handle, DWORD milliseconds);
+    HANDLE OpenProcess(DWORD access, BOOL inheritHandle, DWORD processId);
+    BOOL TerminateProcess(HANDLE process, UINT exitCode);
+    BOOL CloseHandle(HANDLE handle);
+    DWORD GetModuleFileNameA(HMODULE module, char* fileName, DWORD size);
+    HMODULE GetModuleHandleA(const char* moduleName);
+    FARPROC GetProcAddress(HMODULE module, const char* name);
 
 private:
     /// How long a wait takes and how it ends.

@@ -63,7 +63,7 @@ const Element& Child(const Element& parent,
     return *child;
 }
 
-std::string_view Text(const Element& element)
+std::string_view ElementText(const Element& element)
 {
     return {element.value(), element.value_size()};
 }
@@ -75,16 +75,16 @@ bool ReadFlag(const Element& parent, const char* name, bool otherwise)
     {
         return otherwise;
     }
-    if (Text(*child) != "true" && Text(*child) != "false")
+    if (ElementText(*child) != "true" && ElementText(*child) != "false")
     {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
     }
-    return Text(*child) == "true";
+    return ElementText(*child) == "true";
 }
 
 std::wstring ReadName(const Element& root)
 {
-    std::wstring name = WideFromUtf8(Text(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
+    std::wstring name = WideFromUtf8(ElementText(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
     if (name.empty() || name.size() > longestName)
     {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_NAME);
@@ -120,8 +120,8 @@ Bytes ReadSsid(const Element& config)
 {
     const Element& ssid = Child(config, "SSID");
     const Element* const hex = ssid.first_node("hex");
-    const std::string_view name = hex == nullptr ? Text(Child(ssid, "name")) : std::string_view();
-    const auto bytes = hex != nullptr ? FromHex(Text(*hex)) : std::optional(Bytes(name.begin(), name.end()));
+    const std::string_view name = hex == nullptr ? ElementText(Child(ssid, "name")) : std::string_view();
+    const auto bytes = hex != nullptr ? FromHex(ElementText(*hex)) : std::optional(Bytes(name.begin(), name.end()));
     if (!bytes || bytes->empty() || bytes->size() > DOT11_SSID_MAX_LENGTH)
     {
         Refuse(WLAN_REASON_CODE_PROFILE_SSID_INVALID);
@@ -131,7 +131,7 @@ Bytes ReadSsid(const Element& config)
 
 DOT11_BSS_TYPE ReadBssType(const Element& root)
 {
-    const std::string_view type = Text(Child(root, "connectionType"));
+    const std::string_view type = ElementText(Child(root, "connectionType"));
     if (type != "ESS" && type != "IBSS")
     {
         Refuse(WLAN_REASON_CODE_INVALID_BSS_TYPE);
@@ -148,15 +148,15 @@ bool ReadMode(const Element& root, DOT11_BSS_TYPE bssType)
     {
         return !isAdHoc;
     }
-    if (Text(*mode) != "auto" && Text(*mode) != "manual")
+    if (ElementText(*mode) != "auto" && ElementText(*mode) != "manual")
     {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
     }
-    if (Text(*mode) == "auto" && isAdHoc)
+    if (ElementText(*mode) == "auto" && isAdHoc)
     {
         Refuse(WLAN_REASON_CODE_INVALID_ADHOC_CONNECTION_MODE);
     }
-    return Text(*mode) == "auto";
+    return ElementText(*mode) == "auto";
 }
 
 // A profile without a key is taken: the service would ask the user for it.
@@ -167,10 +167,10 @@ std::string ReadKey(const Element& security, SecuritySuite suite)
     {
         return {};
     }
-    const std::string_view type = Text(Child(*sharedKey, "keyType"));
+    const std::string_view type = ElementText(Child(*sharedKey, "keyType"));
     Child(*sharedKey, "protected");
     const bool isProtected = ReadFlag(*sharedKey, "protected", false);
-    const std::string_view key = Text(Child(*sharedKey, "keyMaterial"));
+    const std::string_view key = ElementText(Child(*sharedKey, "keyMaterial"));
     if (type != "passPhrase" && type != "networkKey")
     {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
@@ -188,8 +188,8 @@ void ReadSecurity(const Element& root, ProfileDocument& profile)
     const Element& msm = Child(root, "MSM", WLAN_REASON_CODE_MSM_SECURITY_MISSING);
     const Element& security = Child(msm, "security", WLAN_REASON_CODE_MSM_SECURITY_MISSING);
     const Element& method = Child(security, "authEncryption", WLAN_REASON_CODE_MSMSEC_PROFILE_NO_AUTH_CIPHER_SPECIFIED);
-    const std::string_view authentication = Text(Child(method, "authentication"));
-    const std::string_view encryption = Text(Child(method, "encryption"));
+    const std::string_view authentication = ElementText(Child(method, "authentication"));
+    const std::string_view encryption = ElementText(Child(method, "encryption"));
     if (!IsAuthenticationName(authentication) || !IsEncryptionName(encryption))
     {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);

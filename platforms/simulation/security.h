@@ -10,20 +10,20 @@ namespace calvix::simulation
 {
 
 /// The token of the programs that use the computer, and its privileges. All handles to it are handles to the same token.
-class SimulatedSecurity final : public platform::Security
+class SimulatedSecurity final
 {
 public:
     /// `machine` outlives this object.
     explicit SimulatedSecurity(Machine& machine) : m_machine(machine) {}
 
-    BOOL OpenProcessToken(HANDLE process, DWORD access, HANDLE* token) override;
-    BOOL LookupPrivilegeValueA(const char* system, const char* name, LUID* luid) override;
+    BOOL OpenProcessToken(HANDLE process, DWORD access, HANDLE* token);
+    BOOL LookupPrivilegeValueA(const char* system, const char* name, LUID* luid);
     BOOL AdjustTokenPrivileges(HANDLE token,
                                BOOL disableAll,
                                TOKEN_PRIVILEGES* newState,
                                DWORD previousSize,
                                TOKEN_PRIVILEGES* previous,
-                               DWORD* returnLength) override;
+                               DWORD* returnLength);
 
 private:
     /// What becomes of the privileges: their switches as they are to stand, and whether one was named that is not held.

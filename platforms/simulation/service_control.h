@@ -11,7 +11,7 @@ namespace calvix::simulation
 
 /// A service manager that knows one service, WlanSvc. Everybody gets every right to it that is asked for by its own name;
 /// generic rights stand for none here.
-class SimulatedServiceControl final : public platform::ServiceControl
+class SimulatedServiceControl final
 {
 public:
     /// `lastError` receives the reason of a failure, `handles` the handles that are given out, `serviceRunning` says
@@ -21,11 +21,11 @@ public:
     {
     }
 
-    SC_HANDLE OpenSCManagerA(const char* machine, const char* database, DWORD access) override;
-    SC_HANDLE OpenServiceA(SC_HANDLE manager, const char* name, DWORD access) override;
-    BOOL QueryServiceStatus(SC_HANDLE service, SERVICE_STATUS* status) override;
-    BOOL StartServiceA(SC_HANDLE service, DWORD argumentCount, const char** arguments) override;
-    BOOL CloseServiceHandle(SC_HANDLE handle) override;
+    SC_HANDLE OpenSCManagerA(const char* machine, const char* database, DWORD access);
+    SC_HANDLE OpenServiceA(SC_HANDLE manager, const char* name, DWORD access);
+    BOOL QueryServiceStatus(SC_HANDLE service, SERVICE_STATUS* status);
+    BOOL StartServiceA(SC_HANDLE service, DWORD argumentCount, const char** arguments);
+    BOOL CloseServiceHandle(SC_HANDLE handle);
 
 private:
     BOOL Fail(DWORD error);

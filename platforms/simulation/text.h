@@ -12,18 +12,17 @@ namespace calvix::simulation
 ///
 /// Composing and decomposing (MB_COMPOSITE, WC_COMPOSITECHECK and what goes with it) is not furnished: those flags are
 /// refused as invalid ones are.
-class SimulatedText final : public platform::Text
+class SimulatedText final
 {
 public:
     /// `lastError` receives the reason of a failure, `codePage` is the active code page; both outlive this object.
-    SimulatedText(LastErrorCell& lastError, const std::uint32_t& codePage) : m_lastError(lastError), m_codePage(codePage) {}
+    SimulatedText(LastErrorCell& lastError, const std::uint32_t& codePage)
+        : m_lastError(lastError), m_codePage(codePage)
+    {
+    }
 
-    int MultiByteToWideChar(UINT codePage,
-                            DWORD flags,
-                            const char* source,
-                            int sourceLength,
-                            wchar_t* destination,
-                            int destinationLength) override;
+    int MultiByteToWideChar(
+        UINT codePage, DWORD flags, const char* source, int sourceLength, wchar_t* destination, int destinationLength);
     int WideCharToMultiByte(UINT codePage,
                             DWORD flags,
                             const wchar_t* source,
@@ -31,8 +30,8 @@ public:
                             char* destination,
                             int destinationLength,
                             const char* defaultCharacter,
-                            BOOL* usedDefaultCharacter) override;
-    int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity) override;
+                            BOOL* usedDefaultCharacter);
+    int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity);
 
 private:
     int Fail(DWORD error);

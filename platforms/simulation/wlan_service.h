@@ -10,62 +10,53 @@ namespace calvix::simulation
 
 /// The WLAN client service of a simulated computer. Every caller has every right but for what needs an administrator.
 /// Any thread may call any operation, notification callbacks included; each is done under the machine's mutex.
-class SimulatedWlanService final : public platform::WlanService
+class SimulatedWlanService final
 {
 public:
     /// `machine` outlives this object.
     explicit SimulatedWlanService(Machine& machine) : m_machine(machine) {}
 
-    DWORD WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client) override;
-    DWORD WlanCloseHandle(HANDLE client, PVOID reserved) override;
-    DWORD WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list) override;
-    DWORD WlanScan(HANDLE client,
-                   const GUID* interfaceGuid,
-                   const DOT11_SSID* ssid,
-                   const WLAN_RAW_DATA* ieData,
-                   PVOID reserved) override;
-    DWORD WlanGetAvailableNetworkList(HANDLE client,
-                                      const GUID* interfaceGuid,
-                                      DWORD flags,
-                                      PVOID reserved,
-                                      WLAN_AVAILABLE_NETWORK_LIST** list) override;
+    DWORD WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client);
+    DWORD WlanCloseHandle(HANDLE client, PVOID reserved);
+    DWORD WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list);
+    DWORD WlanScan(
+        HANDLE client, const GUID* interfaceGuid, const DOT11_SSID* ssid, const WLAN_RAW_DATA* ieData, PVOID reserved);
+    DWORD WlanGetAvailableNetworkList(
+        HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list);
     DWORD WlanGetNetworkBssList(HANDLE client,
                                 const GUID* interfaceGuid,
                                 const DOT11_SSID* ssid,
                                 DOT11_BSS_TYPE bssType,
                                 BOOL securityEnabled,
                                 PVOID reserved,
-                                WLAN_BSS_LIST** list) override;
+                                WLAN_BSS_LIST** list);
     DWORD WlanQueryInterface(HANDLE client,
                              const GUID* interfaceGuid,
                              WLAN_INTF_OPCODE opcode,
                              PVOID reserved,
                              DWORD* dataSize,
                              PVOID* data,
-                             WLAN_OPCODE_VALUE_TYPE* valueType) override;
+                             WLAN_OPCODE_VALUE_TYPE* valueType);
     DWORD WlanSetInterface(HANDLE client,
                            const GUID* interfaceGuid,
                            WLAN_INTF_OPCODE opcode,
                            DWORD dataSize,
                            const void* data,
-                           PVOID reserved) override;
+                           PVOID reserved);
     DWORD WlanQueryAutoConfigParameter(HANDLE client,
                                        WLAN_AUTOCONF_OPCODE opcode,
                                        PVOID reserved,
                                        DWORD* dataSize,
                                        PVOID* data,
-                                       WLAN_OPCODE_VALUE_TYPE* valueType) override;
-    DWORD WlanGetProfileList(HANDLE client,
-                             const GUID* interfaceGuid,
-                             PVOID reserved,
-                             WLAN_PROFILE_INFO_LIST** list) override;
+                                       WLAN_OPCODE_VALUE_TYPE* valueType);
+    DWORD WlanGetProfileList(HANDLE client, const GUID* interfaceGuid, PVOID reserved, WLAN_PROFILE_INFO_LIST** list);
     DWORD WlanGetProfile(HANDLE client,
                          const GUID* interfaceGuid,
                          const wchar_t* name,
                          PVOID reserved,
                          wchar_t** xml,
                          DWORD* flags,
-                         DWORD* grantedAccess) override;
+                         DWORD* grantedAccess);
     DWORD WlanSetProfile(HANDLE client,
                          const GUID* interfaceGuid,
                          DWORD flags,
@@ -73,22 +64,20 @@ public:
                          const wchar_t* allUserProfileSecurity,
                          BOOL overwrite,
                          PVOID reserved,
-                         DWORD* reasonCode) override;
-    DWORD WlanDeleteProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved) override;
+                         DWORD* reasonCode);
+    DWORD WlanDeleteProfile(HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved);
     DWORD WlanSetProfilePosition(
-        HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD position, PVOID reserved) override;
-    DWORD WlanConnect(HANDLE client,
-                      const GUID* interfaceGuid,
-                      const WLAN_CONNECTION_PARAMETERS* parameters,
-                      PVOID reserved) override;
-    DWORD WlanDisconnect(HANDLE client, const GUID* interfaceGuid, PVOID reserved) override;
+        HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD position, PVOID reserved);
+    DWORD
+    WlanConnect(HANDLE client, const GUID* interfaceGuid, const WLAN_CONNECTION_PARAMETERS* parameters, PVOID reserved);
+    DWORD WlanDisconnect(HANDLE client, const GUID* interfaceGuid, PVOID reserved);
     DWORD WlanRegisterNotification(HANDLE client,
                                    DWORD source,
                                    BOOL ignoreDuplicate,
                                    WLAN_NOTIFICATION_CALLBACK callback,
                                    PVOID context,
                                    PVOID reserved,
-                                   DWORD* previousSource) override;
+                                   DWORD* previousSource);
     DWORD WlanIhvControl(HANDLE client,
                          const GUID* interfaceGuid,
                          WLAN_IHV_CONTROL_TYPE type,
@@ -96,10 +85,10 @@ public:
                          PVOID input,
                          DWORD outputSize,
                          PVOID output,
-                         DWORD* bytesReturned) override;
-    DWORD WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl) override;
-    DWORD WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, wchar_t* buffer, PVOID reserved) override;
-    void WlanFreeMemory(PVOID memory) override;
+                         DWORD* bytesReturned);
+    DWORD WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl);
+    DWORD WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, wchar_t* buffer, PVOID reserved);
+    void WlanFreeMemory(PVOID memory);
 
 private:
     /// What every operation looks at first, in this order: arguments that must not be null, the reserved one that

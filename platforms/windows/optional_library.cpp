@@ -5,21 +5,26 @@
 namespace calvix::windows
 {
 
-OptionalLibrary::OptionalLibrary(const wchar_t* fileName, DWORD alsoSearched)
-    : module_(::LoadLibraryExW(fileName, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32 | alsoSearched))
+HMODULE OptionalLibrary::Module(DWORD& error) const
 {
-    if (module_ == nullptr)
-        error_ = ::GetLastError();
+    HMODULE module = m_module.load(std::memory_order_acquire);
+    error = m_error.load(std::memory_order_acquire);
+    if (module != nullptr || error != ERROR_SUCCESS)
+        return module;
+    module = ::LoadLibraryExW(m_fileName, nullptr, m_folders);
+    if (module == nullptr)
+        error = ::GetLastError();
+    m_error.store(error, std::memory_order_release);
+    m_module.store(module, std::memory_order_release);
+    return module;
 }
 
 FARPROC OptionalLibrary::Find(const char* exportName, DWORD& error) const
 {
-    if (module_ == nullptr)
-    {
-        error = error_;
+    const HMODULE module = Module(error);
+    if (module == nullptr)
         return nullptr;
-    }
-    const FARPROC address = ::GetProcAddress(module_, exportName);
+    const FARPROC address = ::GetProcAddress(module, exportName);
     error = address == nullptr ? ::GetLastError() : ERROR_SUCCESS;
     if (address != nullptr && IsWineStub(address, exportName))
     {

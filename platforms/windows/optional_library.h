@@ -2,19 +2,23 @@
 
 #include <calvix/platform_records.h>
 
+#include <atomic>
 #include <type_traits>
 
 namespace calvix::windows
 {
 
-/// A DLL that a computer may lack. It is looked for in the system's folder when the object is made, never in the current
+/// A DLL that a computer may lack. It is looked for once, at the first use, in the system's folder, never in the current
 /// folder or along PATH, where anybody may have put another. It stays loaded as long as the process lives: its threads may
 /// be inside it.
 class OptionalLibrary
 {
 public:
     /// `alsoSearched` adds folders, LOAD_LIBRARY_SEARCH_APPLICATION_DIR say, which comes before the system's.
-    explicit OptionalLibrary(const wchar_t* fileName, DWORD alsoSearched = 0);
+    constexpr explicit OptionalLibrary(const wchar_t* fileName, DWORD alsoSearched = 0)
+        : m_fileName(fileName), m_folders(LOAD_LIBRARY_SEARCH_SYSTEM32 | alsoSearched)
+    {
+    }
 
     /// The export's address, or null with the reason in `error` [out]: ERROR_PROC_NOT_FOUND, what kept the library from
     /// being loaded (ERROR_MOD_NOT_FOUND when there is none), or ERROR_CALL_NOT_IMPLEMENTED for what Wine exports
@@ -22,8 +26,13 @@ public:
     FARPROC Find(const char* exportName, DWORD& error) const;
 
 private:
-    HMODULE module_ = nullptr;
-    DWORD error_ = ERROR_SUCCESS;
+    HMODULE Module(DWORD& error) const;
+
+    // Two threads may both be the first; they find the same.
+    const wchar_t* m_fileName;
+    DWORD m_folders;
+    mutable std::atomic<HMODULE> m_module{nullptr};
+    mutable std::atomic<DWORD> m_error{ERROR_SUCCESS};
 };
 
 /// The outcome of a call that could not be made, in the way in which operations of this result type fail.
@@ -64,28 +73,53 @@ inline void FailedCall<void>(DWORD)
 {
 }
 
+/// For inputs whose const the SDK's prototypes lose: "const PDOT11_SSID" is a constant pointer, not a pointer to something
+/// constant. The system only reads them.
+template <typename Parameter, typename Argument>
+Parameter AsSdkParameter(Argument& argument)
+{
+    if constexpr (std::is_convertible_v<Argument, Parameter>)
+        return argument;
+    else
+        return const_cast<Parameter>(argument);
+}
+
 /// One export of an optional library, of the function pointer type `Function`; calling a missing one is a failed call.
 template <typename Function>
-class OptionalExport
+class OptionalExport;
+
+template <typename Result, typename... Parameters>
+class OptionalExport<Result(WINAPI*)(Parameters...)>
 {
 public:
-    OptionalExport(const OptionalLibrary& library, const char* name)
-        // A detour through void(*)() tells the compiler that the change of the function's type is meant.
-        : function_(reinterpret_cast<Function>(reinterpret_cast<void (*)()>(library.Find(name, error_))))
-    {
-    }
+    constexpr OptionalExport(const OptionalLibrary& library, const char* name) : m_library(library), m_name(name) {}
 
     template <typename... Arguments>
-    auto operator()(Arguments... arguments) const -> std::invoke_result_t<Function, Arguments...>
+    Result operator()(Arguments... arguments) const
     {
-        if (function_ == nullptr)
-            return FailedCall<std::invoke_result_t<Function, Arguments...>>(error_);
-        return function_(arguments...);
+        DWORD error = ERROR_SUCCESS;
+        const Function function = Find(error);
+        return function != nullptr ? function(AsSdkParameter<Parameters>(arguments)...) : FailedCall<Result>(error);
     }
 
 private:
-    DWORD error_ = ERROR_SUCCESS;
-    Function function_;
+    using Function = Result(WINAPI*)(Parameters...);
+
+    Function Find(DWORD& error) const
+    {
+        FARPROC address = m_address.load(std::memory_order_acquire);
+        if (address == nullptr)
+        {
+            address = m_library.Find(m_name, error);
+            m_address.store(address, std::memory_order_release);
+        }
+        // A detour through void(*)() tells the compiler that the change of the function's type is meant.
+        return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(address));
+    }
+
+    const OptionalLibrary& m_library;
+    const char* m_name;
+    mutable std::atomic<FARPROC> m_address{nullptr};
 };
 
 } // namespace calvix::windows

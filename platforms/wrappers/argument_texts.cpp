@@ -1,30 +1,18 @@
 #include "wrappers/argument_texts.h"
 
-#include "wrappers/number_names.h"
-
+#include <concepts>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <cwchar>
 
-namespace calvix::wrappers::argument
+namespace calvix::wrappers
 {
 
 namespace
 {
 
 constexpr const char* kNull = "null";
-
-std::string NumberText(long long value)
-{
-    return std::to_string(value);
-}
-
-/// The name, or the number where there is none.
-std::string NameText(std::string_view name, long long value)
-{
-    return name.empty() ? NumberText(value) : std::string(name);
-}
 
 template <typename... Values>
 std::string Formatted(const char* format, Values... values)
@@ -35,7 +23,7 @@ std::string Formatted(const char* format, Values... values)
 }
 
 /// Quotes one character after the other; what is not printable ASCII is written as its number.
-class QuotedText
+class Quotation
 {
 public:
     void Append(unsigned long character, const char* escape)
@@ -56,7 +44,7 @@ private:
 
 std::string QuotedBytes(const unsigned char* bytes, std::size_t count)
 {
-    QuotedText quoted;
+    Quotation quoted;
     for (std::size_t i = 0; i < count; ++i)
         quoted.Append(bytes[i], "\\x%02lX");
     return quoted.Finished();
@@ -64,19 +52,10 @@ std::string QuotedBytes(const unsigned char* bytes, std::size_t count)
 
 std::string QuotedWide(const wchar_t* text, std::size_t length)
 {
-    QuotedText quoted;
+    Quotation quoted;
     for (std::size_t i = 0; i < length; ++i)
         quoted.Append(static_cast<unsigned long>(text[i]), "\\u%04lX");
     return quoted.Finished();
-}
-
-std::string SsidText(const DOT11_SSID* ssid)
-{
-    if (ssid == nullptr)
-        return kNull;
-    const std::size_t length = ssid->uSSIDLength;
-    const std::size_t shown = length <= sizeof ssid->ucSSID ? length : sizeof ssid->ucSSID;
-    return QuotedBytes(ssid->ucSSID, shown) + "/" + std::to_string(length);
 }
 
 std::string BssidListText(const DOT11_BSSID_LIST* list)
@@ -96,47 +75,120 @@ std::string BssidListText(const DOT11_BSSID_LIST* list)
     return "[" + text + "]";
 }
 
-std::string SizeText(DWORD value, const RecordShape& record)
+using operations::RecordType;
+
+constexpr const char* NameOf(RecordType<BOOL>)
 {
-    if (record.size != 0 && value == record.size)
-        return "sizeof(" + std::string(record.name) + ")";
-    return NumberText(static_cast<long long>(value));
+    return "BOOL";
+}
+constexpr const char* NameOf(RecordType<operations::Long>)
+{
+    return "LONG";
+}
+constexpr const char* NameOf(RecordType<ULONG>)
+{
+    return "ULONG";
+}
+constexpr const char* NameOf(RecordType<ULONGLONG>)
+{
+    return "ULONGLONG";
+}
+constexpr const char* NameOf(RecordType<DOT11_BSS_TYPE>)
+{
+    return "DOT11_BSS_TYPE";
+}
+constexpr const char* NameOf(RecordType<WLAN_RADIO_STATE>)
+{
+    return "WLAN_RADIO_STATE";
+}
+constexpr const char* NameOf(RecordType<WLAN_PHY_RADIO_STATE>)
+{
+    return "WLAN_PHY_RADIO_STATE";
+}
+constexpr const char* NameOf(RecordType<WLAN_INTERFACE_STATE>)
+{
+    return "WLAN_INTERFACE_STATE";
+}
+constexpr const char* NameOf(RecordType<WLAN_CONNECTION_ATTRIBUTES>)
+{
+    return "WLAN_CONNECTION_ATTRIBUTES";
+}
+constexpr const char* NameOf(RecordType<WLAN_STATISTICS>)
+{
+    return "WLAN_STATISTICS";
+}
+constexpr const char* NameOf(RecordType<WLAN_POWER_SETTING>)
+{
+    return "WLAN_POWER_SETTING";
+}
+constexpr const char* NameOf(RecordType<SYSTEM_POWER_CAPABILITIES>)
+{
+    return "SYSTEM_POWER_CAPABILITIES";
+}
+constexpr const char* NameOf(RecordType<SYSTEM_POWER_POLICY>)
+{
+    return "SYSTEM_POWER_POLICY";
+}
+
+std::string SizeText(DWORD size, std::size_t recordSize, const char* recordName)
+{
+    return size == recordSize ? "sizeof(" + std::string(recordName) + ")" : NumberText(static_cast<long long>(size));
+}
+
+/// The size of a record of known type, if that is what it is.
+template <typename Record>
+std::string SizeText(DWORD size, RecordType<Record> record)
+{
+    if constexpr (std::is_void_v<Record>)
+        return NumberText(static_cast<long long>(size));
+    else
+        return SizeText(size, sizeof(Record), NameOf(record));
+}
+
+template <typename Opcode>
+std::string SizeOfAnswer(Opcode opcode, DWORD size)
+{
+    std::string text;
+    operations::VisitAnswer(opcode, [&](auto record) { text = SizeText(size, record); });
+    return text;
+}
+
+std::string SettingText(const WLAN_PHY_RADIO_STATE& phy)
+{
+    // The hardware state is the adapter's to tell; whoever switches a radio leaves it unset.
+    return Formatted("{phyIndex=%u, software=%u}", static_cast<unsigned>(phy.dwPhyIndex),
+                     static_cast<unsigned>(phy.dot11SoftwareRadioState));
+}
+
+std::string SettingText(DOT11_BSS_TYPE type)
+{
+    return NameText(operations::NameOf(type), type);
+}
+
+template <std::integral Integer>
+std::string SettingText(Integer number)
+{
+    return NumberText(static_cast<long long>(number));
 }
 
 } // namespace
 
-std::string Pointer::Text(HandleNumbers&) const
+std::string NumberText(long long value)
+{
+    return std::to_string(value);
+}
+
+std::string NameText(std::string_view name, long long value)
+{
+    return name.empty() ? NumberText(value) : std::string(name);
+}
+
+std::string PointerText(const void* value)
 {
     return value == nullptr ? kNull : "non-null";
 }
 
-std::string Function::Text(HandleNumbers&) const
-{
-    return given ? "non-null" : kNull;
-}
-
-std::string Number::Text(HandleNumbers&) const
-{
-    return NumberText(value);
-}
-
-std::string Flag::Text(HandleNumbers&) const
-{
-    return value != 0 ? "true" : "false";
-}
-
-std::string NumberAt::Text(HandleNumbers&) const
-{
-    return value == nullptr ? kNull : NumberText(static_cast<long long>(*value));
-}
-
-std::string SchemeAt::Text(HandleNumbers&) const
-{
-    // Scheme -1 asks for a new one.
-    return value == nullptr ? kNull : NumberText(static_cast<std::int32_t>(*value));
-}
-
-std::string Handle::Text(HandleNumbers& numbers) const
+std::string HandleText(HandleNumbers& numbers, HandleFamily family, const void* value)
 {
     if (value == nullptr)
         return kNull;
@@ -146,7 +198,7 @@ std::string Handle::Text(HandleNumbers& numbers) const
     return NumberText(numbers.NumberOf(family, value));
 }
 
-std::string Guid::Text(HandleNumbers&) const
+std::string GuidText(const GUID* value)
 {
     if (value == nullptr)
         return kNull;
@@ -158,162 +210,97 @@ std::string Guid::Text(HandleNumbers&) const
                      static_cast<unsigned>(end[6]), static_cast<unsigned>(end[7]));
 }
 
-std::string Ssid::Text(HandleNumbers&) const
+std::string SsidText(const DOT11_SSID* ssid)
 {
-    return SsidText(value);
-}
-
-std::string Narrow::Text(HandleNumbers&) const
-{
-    if (value == nullptr)
+    if (ssid == nullptr)
         return kNull;
-    const std::size_t count = length < 0 ? std::strlen(value) : static_cast<std::size_t>(length);
-    return QuotedBytes(reinterpret_cast<const unsigned char*>(value), count);
+    const std::size_t length = ssid->uSSIDLength;
+    const std::size_t shown = length <= sizeof ssid->ucSSID ? length : sizeof ssid->ucSSID;
+    return QuotedBytes(ssid->ucSSID, shown) + "/" + std::to_string(length);
 }
 
-std::string Wide::Text(HandleNumbers&) const
+std::string QuotedText(const char* text, int length)
 {
-    if (value == nullptr)
+    if (text == nullptr)
         return kNull;
-    return QuotedWide(value, length < 0 ? std::wcslen(value) : static_cast<std::size_t>(length));
+    const std::size_t count = length < 0 ? std::strlen(text) : static_cast<std::size_t>(length);
+    return QuotedBytes(reinterpret_cast<const unsigned char*>(text), count);
 }
 
-std::string BssType::Text(HandleNumbers&) const
+std::string QuotedText(const wchar_t* text, int length)
 {
-    return NameText(NameOf(value), value);
-}
-
-std::string Opcode::Text(HandleNumbers&) const
-{
-    return NameText(NameOf(value), value);
-}
-
-std::string AutoConfigOpcode::Text(HandleNumbers&) const
-{
-    return NameText(NameOf(value), value);
-}
-
-std::string PowerLevel::Text(HandleNumbers&) const
-{
-    return NameText(NameOf(value), value);
-}
-
-RecordShape QueriedRecord(WLAN_INTF_OPCODE opcode)
-{
-    const std::string_view name = NameOf(opcode);
-    if (name == "radio_state")
-        return {"WLAN_RADIO_STATE", sizeof(WLAN_RADIO_STATE)};
-    if (name == "current_connection")
-        return {"WLAN_CONNECTION_ATTRIBUTES", sizeof(WLAN_CONNECTION_ATTRIBUTES)};
-    if (name == "statistics")
-        return {"WLAN_STATISTICS", sizeof(WLAN_STATISTICS)};
-    if (name == "interface_state")
-        return {"WLAN_INTERFACE_STATE", sizeof(WLAN_INTERFACE_STATE)};
-    if (name == "rssi")
-        return {"LONG", sizeof(std::int32_t)};
-    if (name == "channel_number" || name == "current_operation_mode")
-        return {"ULONG", sizeof(ULONG)};
-    return SetRecord(opcode);
-}
-
-RecordShape SetRecord(WLAN_INTF_OPCODE opcode)
-{
-    const std::string_view name = NameOf(opcode);
-    if (name == "radio_state")
-        return {"WLAN_PHY_RADIO_STATE", sizeof(WLAN_PHY_RADIO_STATE)};
-    if (name == "bss_type")
-        return {"DOT11_BSS_TYPE", sizeof(DOT11_BSS_TYPE)};
-    if (name == "current_operation_mode")
-        return {"ULONG", sizeof(ULONG)};
-    if (name == "autoconf_enabled" || name == "background_scan_enabled" || name == "media_streaming_mode")
-        return {"BOOL", sizeof(BOOL)};
-    return {};
-}
-
-RecordShape QueriedRecord(WLAN_AUTOCONF_OPCODE opcode)
-{
-    if (NameOf(opcode) == "power_setting")
-        return {"WLAN_POWER_SETTING", sizeof(WLAN_POWER_SETTING)};
-    return {};
-}
-
-RecordShape QueriedRecord(POWER_INFORMATION_LEVEL level)
-{
-    const std::string_view name = NameOf(level);
-    if (name == "SystemPowerCapabilities")
-        return {"SYSTEM_POWER_CAPABILITIES", sizeof(SYSTEM_POWER_CAPABILITIES)};
-    if (name.starts_with("SystemPowerPolicy"))
-        return {"SYSTEM_POWER_POLICY", sizeof(SYSTEM_POWER_POLICY)};
-    if (name.starts_with("Last"))
-        return {"ULONGLONG", sizeof(ULONGLONG)};
-    return {};
-}
-
-std::string Size::Text(HandleNumbers&) const
-{
-    return SizeText(value, record);
-}
-
-std::string SizeAt::Text(HandleNumbers&) const
-{
-    return value == nullptr ? kNull : SizeText(*value, record);
-}
-
-std::string InterfaceData::Text(HandleNumbers&) const
-{
-    if (value == nullptr)
+    if (text == nullptr)
         return kNull;
-    const RecordShape shape = SetRecord(opcode);
-    if (shape.size == 0 || size < shape.size)
-        return "non-null";
-    if (shape.name == "WLAN_PHY_RADIO_STATE")
-    {
-        // The hardware state is the adapter's to tell; whoever switches a radio leaves it unset.
-        const auto& phy = *static_cast<const WLAN_PHY_RADIO_STATE*>(value);
-        return Formatted("{phyIndex=%u, software=%u}", static_cast<unsigned>(phy.dwPhyIndex),
-                         static_cast<unsigned>(phy.dot11SoftwareRadioState));
-    }
-    if (shape.name == "ULONG")
-        return NumberText(static_cast<long long>(*static_cast<const ULONG*>(value)));
-    std::uint32_t number = 0;
-    std::memcpy(&number, value, sizeof number);
-    return shape.name == "BOOL" ? NumberText(number) : NameText(NameOf(static_cast<DOT11_BSS_TYPE>(number)), number);
+    return QuotedWide(text, length < 0 ? std::wcslen(text) : static_cast<std::size_t>(length));
 }
 
-std::string ConnectionParameters::Text(HandleNumbers& numbers) const
+std::string RecordText(const WLAN_CONNECTION_PARAMETERS& parameters)
 {
-    if (value == nullptr)
-        return kNull;
-    return "{mode=" + NameText(NameOf(value->wlanConnectionMode), value->wlanConnectionMode) +
-           ", profile=" + Wide{"", value->strProfile}.Text(numbers) + ", ssid=" + SsidText(value->pDot11Ssid) +
-           ", bssids=" + BssidListText(value->pDesiredBssidList) +
-           ", bssType=" + NameText(NameOf(value->dot11BssType), value->dot11BssType) +
-           ", flags=" + NumberText(static_cast<long long>(value->dwFlags)) + "}";
+    using operations::NameOf;
+    return "{mode=" + NameText(NameOf(parameters.wlanConnectionMode), parameters.wlanConnectionMode) +
+           ", profile=" + QuotedText(parameters.strProfile) + ", ssid=" + SsidText(parameters.pDot11Ssid) +
+           ", bssids=" + BssidListText(parameters.pDesiredBssidList) +
+           ", bssType=" + NameText(NameOf(parameters.dot11BssType), parameters.dot11BssType) +
+           ", flags=" + NumberText(static_cast<long long>(parameters.dwFlags)) + "}";
 }
 
-std::string Startup::Text(HandleNumbers&) const
+std::string RecordText(const STARTUPINFOA& startup)
 {
-    if (value == nullptr)
-        return kNull;
-    const std::string size = SizeText(value->cb, {"STARTUPINFOA", sizeof(STARTUPINFOA)});
-    return "{size=" + size + ", flags=" + NumberText(static_cast<long long>(value->dwFlags)) +
-           ", showWindow=" + NumberText(value->wShowWindow) + "}";
+    return "{size=" + SizeText(startup.cb, sizeof startup, "STARTUPINFOA") +
+           ", flags=" + NumberText(static_cast<long long>(startup.dwFlags)) +
+           ", showWindow=" + NumberText(startup.wShowWindow) + "}";
 }
 
-std::string Privileges::Text(HandleNumbers&) const
+std::string RecordText(const TOKEN_PRIVILEGES& privileges)
 {
-    if (value == nullptr)
-        return kNull;
-    return Formatted("{count=%u, attributes=%u}", static_cast<unsigned>(value->PrivilegeCount),
-                     static_cast<unsigned>(value->PrivilegeCount > 0 ? value->Privileges[0].Attributes : 0));
+    return Formatted("{count=%u, attributes=%u}", static_cast<unsigned>(privileges.PrivilegeCount),
+                     static_cast<unsigned>(privileges.PrivilegeCount > 0 ? privileges.Privileges[0].Attributes : 0));
 }
 
-std::string FileTime::Text(HandleNumbers&) const
+std::string RecordText(const FILETIME& time)
 {
-    if (value == nullptr)
-        return kNull;
-    const auto high = static_cast<std::uint64_t>(value->dwHighDateTime);
-    return std::to_string((high << 32) | static_cast<std::uint32_t>(value->dwLowDateTime));
+    const auto high = static_cast<std::uint64_t>(time.dwHighDateTime);
+    return std::to_string((high << 32) | static_cast<std::uint32_t>(time.dwLowDateTime));
 }
 
-} // namespace calvix::wrappers::argument
+std::string AnswerSizeText(WLAN_INTF_OPCODE opcode, DWORD size)
+{
+    return SizeOfAnswer(opcode, size);
+}
+
+std::string AnswerSizeText(WLAN_AUTOCONF_OPCODE opcode, DWORD size)
+{
+    return SizeOfAnswer(opcode, size);
+}
+
+std::string AnswerSizeText(POWER_INFORMATION_LEVEL level, DWORD size)
+{
+    return SizeOfAnswer(level, size);
+}
+
+std::string SettingSizeText(WLAN_INTF_OPCODE opcode, DWORD size)
+{
+    std::string text;
+    operations::VisitSetting(opcode, [&](auto record) { text = SizeText(size, record); });
+    return text;
+}
+
+std::string SettingText(WLAN_INTF_OPCODE opcode, DWORD size, const void* value)
+{
+    std::string text = PointerText(value);
+    operations::VisitSetting(opcode,
+                             [&]<typename Record>(RecordType<Record>)
+                             {
+                                 if constexpr (!std::is_void_v<Record>)
+                                     if (value != nullptr && size >= sizeof(Record))
+                                         text = SettingText(*static_cast<const Record*>(value));
+                             });
+    return text;
+}
+
+std::string OptionSizeText(DWORD size)
+{
+    return SizeText(size, sizeof(DWORD), "DWORD");
+}
+
+} // namespace calvix::wrappers

@@ -1,199 +1,160 @@
 #pragma once
 
-#include "platform/platform.h"
+#include "operations/description.h"
+#include "operations/records.h"
 #include "wrappers/handle_numbers.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace calvix::wrappers
 {
 
-/// How the arguments of platform operations are described: each type names an argument and tells its text when asked.
-/// What an operation only writes to is a Pointer; what it reads is told by its content.
-namespace argument
-{
+// How arguments are told in a call log. What an operation only writes to is told by whether it is there; what it reads,
+// by its content.
 
-struct Pointer
-{
-    std::string_view name;
-    const void* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct Function
-{
-    std::string_view name;
-    bool given;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct Number
-{
-    template <typename Integer>
-    Number(std::string_view itsName, Integer itsValue) : name(itsName), value(static_cast<long long>(itsValue))
-    {
-    }
-    std::string_view name;
-    long long value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct Flag
-{
-    std::string_view name;
-    int value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-/// A number that the operation both reads and writes.
-struct NumberAt
-{
-    std::string_view name;
-    const DWORD* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct SchemeAt
-{
-    std::string_view name;
-    const UINT* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct Handle
-{
-    std::string_view name;
-    HandleFamily family;
-    const void* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct Guid
-{
-    std::string_view name;
-    const GUID* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct Ssid
-{
-    std::string_view name;
-    const DOT11_SSID* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
+std::string NumberText(long long value);
+/// The name, or the number where there is none.
+std::string NameText(std::string_view name, long long value);
+std::string PointerText(const void* value);
+std::string HandleText(HandleNumbers& numbers, HandleFamily family, const void* value);
+std::string GuidText(const GUID* value);
+std::string SsidText(const DOT11_SSID* value);
 /// Text; a negative length means that it is terminated.
-struct Narrow
-{
-    std::string_view name;
-    const char* value;
-    int length = -1;
-    std::string Text(HandleNumbers& numbers) const;
-};
+std::string QuotedText(const char* text, int length = -1);
+std::string QuotedText(const wchar_t* text, int length = -1);
 
-struct Wide
-{
-    std::string_view name;
-    const wchar_t* value;
-    int length = -1;
-    std::string Text(HandleNumbers& numbers) const;
-};
+std::string RecordText(const WLAN_CONNECTION_PARAMETERS& parameters);
+std::string RecordText(const STARTUPINFOA& startup);
+std::string RecordText(const TOKEN_PRIVILEGES& privileges);
+std::string RecordText(const FILETIME& time);
 
-struct BssType
-{
-    std::string_view name;
-    DOT11_BSS_TYPE value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct Opcode
-{
-    std::string_view name;
-    WLAN_INTF_OPCODE value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct AutoConfigOpcode
-{
-    std::string_view name;
-    WLAN_AUTOCONF_OPCODE value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct PowerLevel
-{
-    std::string_view name;
-    POWER_INFORMATION_LEVEL value;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-/// A record that belongs to an opcode or an information level; no name where none is known.
-struct RecordShape
-{
-    std::string_view name;
-    std::size_t size = 0;
-};
-RecordShape QueriedRecord(WLAN_INTF_OPCODE opcode);
-RecordShape SetRecord(WLAN_INTF_OPCODE opcode);
-RecordShape QueriedRecord(WLAN_AUTOCONF_OPCODE opcode);
-RecordShape QueriedRecord(POWER_INFORMATION_LEVEL level);
-
-/// A size, told as that of the record when it is that: sizes differ between Windows and other systems.
-struct Size
-{
-    std::string_view name;
-    DWORD value;
-    RecordShape record;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
-struct SizeAt
-{
-    std::string_view name;
-    const DWORD* value;
-    RecordShape record;
-    std::string Text(HandleNumbers& numbers) const;
-};
-
+/// Sizes are told as those of records where they are: they differ between Windows and other systems.
+std::string AnswerSizeText(WLAN_INTF_OPCODE opcode, DWORD size);
+std::string AnswerSizeText(WLAN_AUTOCONF_OPCODE opcode, DWORD size);
+std::string AnswerSizeText(POWER_INFORMATION_LEVEL level, DWORD size);
+std::string SettingSizeText(WLAN_INTF_OPCODE opcode, DWORD size);
 /// What WlanSetInterface is given.
-struct InterfaceData
-{
-    std::string_view name;
-    WLAN_INTF_OPCODE opcode;
-    DWORD size;
-    const void* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
+std::string SettingText(WLAN_INTF_OPCODE opcode, DWORD size, const void* value);
+std::string OptionSizeText(DWORD size);
 
-struct ConnectionParameters
-{
-    std::string_view name;
-    const WLAN_CONNECTION_PARAMETERS* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
+// One overload for each role, or for what it derives from.
 
-struct Startup
+std::string ArgumentText(const operations::Pointer&, auto pointer, const auto&, HandleNumbers&)
 {
-    std::string_view name;
-    const STARTUPINFOA* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
+    if constexpr (std::is_function_v<std::remove_pointer_t<decltype(pointer)>>)
+        return PointerText(reinterpret_cast<const void*>(pointer));
+    else
+        return PointerText(pointer);
+}
 
-struct Privileges
+std::string ArgumentText(const operations::HandedOut&, const void* target, const auto&, HandleNumbers&)
 {
-    std::string_view name;
-    const TOKEN_PRIVILEGES* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
+    return PointerText(target);
+}
 
-struct FileTime
+template <typename Value>
+std::string ArgumentText(const operations::Number&, const Value& value, const auto&, HandleNumbers&)
 {
-    std::string_view name;
-    const FILETIME* value;
-    std::string Text(HandleNumbers& numbers) const;
-};
+    if constexpr (operations::ListedNumber<Value>)
+        return NameText(operations::NameOf(value), static_cast<long long>(value));
+    else
+        return NumberText(static_cast<long long>(value));
+}
 
-} // namespace argument
+std::string ArgumentText(const operations::Flag&, auto flag, const auto&, HandleNumbers&)
+{
+    return flag != 0 ? "true" : "false";
+}
+
+template <HandleFamily family>
+std::string ArgumentText(const operations::Handle<family>&, const void* handle, const auto&, HandleNumbers& numbers)
+{
+    return HandleText(numbers, family, handle);
+}
+
+std::string ArgumentText(const operations::Guid&, const GUID* guid, const auto&, HandleNumbers&)
+{
+    return GuidText(guid);
+}
+
+std::string ArgumentText(const operations::Guid&, const GUID& guid, const auto&, HandleNumbers&)
+{
+    return GuidText(&guid);
+}
+
+std::string ArgumentText(const operations::Adapter&, const GUID* guid, const auto&, HandleNumbers&)
+{
+    return GuidText(guid);
+}
+
+std::string ArgumentText(const operations::Text&, const auto* text, const auto&, HandleNumbers&)
+{
+    return QuotedText(text);
+}
+
+std::string ArgumentText(const operations::Source&, const auto* text, const auto& place, HandleNumbers&)
+{
+    return QuotedText(text, place.template Neighbour<operations::after>());
+}
+
+std::string ArgumentText(const operations::FriendlyName&, const UCHAR* bytes, const auto& place, HandleNumbers&)
+{
+    const int length = static_cast<int>(place.template Neighbour<operations::after>() / sizeof(wchar_t));
+    return QuotedText(reinterpret_cast<const wchar_t*>(bytes), length > 0 ? length - 1 : 0);
+}
+
+std::string ArgumentText(const operations::Ssid&, const DOT11_SSID* ssid, const auto&, HandleNumbers&)
+{
+    return SsidText(ssid);
+}
+
+std::string ArgumentText(const operations::Record&, const auto* record, const auto&, HandleNumbers&)
+{
+    return record != nullptr ? RecordText(*record) : PointerText(nullptr);
+}
+
+std::string ArgumentText(const operations::OptionValue&, const void* value, const auto& place, HandleNumbers&)
+{
+    const bool isNumber = value != nullptr && place.template Neighbour<operations::after>() == sizeof(DWORD);
+    return isNumber ? NumberText(static_cast<long long>(*static_cast<const DWORD*>(value))) : PointerText(nullptr);
+}
+
+std::string ArgumentText(const operations::OptionSize&, DWORD size, const auto&, HandleNumbers&)
+{
+    return OptionSizeText(size);
+}
+
+std::string ArgumentText(const operations::SettingSize&, DWORD size, const auto& place, HandleNumbers&)
+{
+    return SettingSizeText(place.template Of<operations::Opcode>(), size);
+}
+
+std::string ArgumentText(const operations::Setting&, const void* value, const auto& place, HandleNumbers&)
+{
+    return SettingText(place.template Of<operations::Opcode>(), place.template Neighbour<operations::before>(), value);
+}
+
+std::string ArgumentText(const operations::AnswerSize&, const DWORD* size, const auto& place, HandleNumbers&)
+{
+    return size != nullptr ? AnswerSizeText(place.template Of<operations::Opcode>(), *size) : PointerText(nullptr);
+}
+
+std::string ArgumentText(const operations::InformationRoom&, ULONG size, const auto& place, HandleNumbers&)
+{
+    return AnswerSizeText(place.template Of<operations::Opcode>(), size);
+}
+
+std::string ArgumentText(const operations::NumberExchanged&, const DWORD* number, const auto&, HandleNumbers&)
+{
+    return number != nullptr ? NumberText(static_cast<long long>(*number)) : PointerText(nullptr);
+}
+
+std::string ArgumentText(const operations::SchemeExchanged&, const UINT* scheme, const auto&, HandleNumbers&)
+{
+    return scheme != nullptr ? NumberText(static_cast<std::int32_t>(*scheme)) : PointerText(nullptr);
+}
 
 } // namespace calvix::wrappers

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "operations/roles.h"
+
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -7,14 +9,7 @@
 namespace calvix::wrappers
 {
 
-/// The families of handles, numbered apart from each other.
-enum class HandleFamily
-{
-    client,  ///< of the WLAN service
-    service, ///< of the service control manager
-    object,  ///< processes, threads and tokens
-    module
-};
+using operations::HandleFamily;
 
 /// Small numbers in place of handle values, in the order in which a family's handles are first passed to an
 /// operation, so that descriptions do not differ from run to run.

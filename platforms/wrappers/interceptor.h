@@ -1,6 +1,6 @@
 #pragma once
 
-#include <calvix/platform_records.h>
+#include "operations/description.h"
 
 #include <optional>
 #include <string>
@@ -20,7 +20,8 @@ struct Argument
 struct Call
 {
     std::string_view operation;
-    std::vector<Argument> arguments; ///< empty unless some interceptor wants them
+    std::vector<Argument> arguments;          ///< empty unless some interceptor wants them
+    const operations::Facts* facts = nullptr; ///< what is known about the operation
 
     /// "WlanScan(client=1, interface={...}, ssid=null, ieData=null, reserved=null)"
     std::string Line() const;

@@ -1,18 +1,16 @@
 #pragma once
 
+#include "platform/operation.h"
 #include "platform/records/time_records.h"
 
 namespace calvix::platform
 {
 
 /// Waiting, and the calendar form of the service's time stamps.
-class Clock
+struct Clock
 {
-public:
-    virtual ~Clock() = default;
-
-    virtual void Sleep(DWORD milliseconds) = 0;
-    virtual BOOL FileTimeToSystemTime(const FILETIME* fileTime, SYSTEMTIME* systemTime) = 0;
+    Operation<void(DWORD milliseconds)> Sleep;
+    Operation<BOOL(const FILETIME* fileTime, SYSTEMTIME* systemTime)> FileTimeToSystemTime;
 };
 
 } // namespace calvix::platform

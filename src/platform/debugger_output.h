@@ -1,15 +1,14 @@
 #pragma once
 
+#include "platform/operation.h"
+
 namespace calvix::platform
 {
 
 /// The debugger's output window, where trace lines go.
-class DebuggerOutput
+struct DebuggerOutput
 {
-public:
-    virtual ~DebuggerOutput() = default;
-
-    virtual void OutputDebugStringA(const char* text) = 0;
+    Operation<void(const char* text)> OutputDebugStringA;
 };
 
 } // namespace calvix::platform

@@ -1,18 +1,16 @@
 #pragma once
 
+#include "platform/operation.h"
 #include "platform/records/internet_records.h"
 
 namespace calvix::platform
 {
 
 /// The internet reachability probe.
-class Internet
+struct Internet
 {
-public:
-    virtual ~Internet() = default;
-
-    virtual BOOL InternetSetOptionA(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize) = 0;
-    virtual BOOL InternetCheckConnectionA(const char* url, DWORD flags, DWORD reserved) = 0;
+    Operation<BOOL(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize)> InternetSetOptionA;
+    Operation<BOOL(const char* url, DWORD flags, DWORD reserved)> InternetCheckConnectionA;
 };
 
 } // namespace calvix::platform

@@ -2,16 +2,15 @@
 
 #include <calvix/platform_records.h>
 
+#include "platform/operation.h"
+
 namespace calvix::platform
 {
 
 /// The calling thread's last error, for the operations that report failure without naming it.
-class LastError
+struct LastError
 {
-public:
-    virtual ~LastError() = default;
-
-    virtual DWORD GetLastError() = 0;
+    Operation<DWORD()> GetLastError;
 };
 
 } // namespace calvix::platform

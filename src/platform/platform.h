@@ -16,22 +16,29 @@
 namespace calvix::platform
 {
 
-/// The operating system as the library sees it: one provider, asked for its facilities.
-class Platform
+/// The operating system as the library sees it: its operations, facility by facility. A platform is a value: whoever
+/// changes some of the operations begins with a copy of the others.
+struct Platform : WlanService,
+                  ServiceControl,
+                  Power,
+                  Security,
+                  Processes,
+                  Internet,
+                  Text,
+                  Clock,
+                  DebuggerOutput,
+                  LastError
 {
-public:
-    virtual ~Platform() = default;
-
-    virtual WlanService& wlan() = 0;
-    virtual ServiceControl& services() = 0;
-    virtual Power& power() = 0;
-    virtual Security& security() = 0;
-    virtual Processes& processes() = 0;
-    virtual Internet& internet() = 0;
-    virtual Text& text() = 0;
-    virtual Clock& clock() = 0;
-    virtual DebuggerOutput& debugger() = 0;
-    virtual LastError& errors() = 0;
+    WlanService& wlan() { return *this; }
+    ServiceControl& services() { return *this; }
+    Power& power() { return *this; }
+    Security& security() { return *this; }
+    Processes& processes() { return *this; }
+    Internet& internet() { return *this; }
+    Text& text() { return *this; }
+    Clock& clock() { return *this; }
+    DebuggerOutput& debugger() { return *this; }
+    LastError& errors() { return *this; }
 };
 
 /// The provider that a binary is linked with: the operating system, or a simulated computer.

@@ -1,24 +1,23 @@
 #pragma once
 
+#include "platform/operation.h"
 #include "platform/records/security_records.h"
 
 namespace calvix::platform
 {
 
 /// Process tokens and their privileges. Tokens are closed with Processes::CloseHandle.
-class Security
+struct Security
 {
-public:
-    virtual ~Security() = default;
-
-    virtual BOOL OpenProcessToken(HANDLE process, DWORD access, HANDLE* token) = 0;
-    virtual BOOL LookupPrivilegeValueA(const char* system, const char* name, LUID* luid) = 0;
-    virtual BOOL AdjustTokenPrivileges(HANDLE token,
-                                       BOOL disableAll,
-                                       TOKEN_PRIVILEGES* newState,
-                                       DWORD previousSize,
-                                       TOKEN_PRIVILEGES* previous,
-                                       DWORD* returnLength) = 0;
+    Operation<BOOL(HANDLE process, DWORD access, HANDLE* token)> OpenProcessToken;
+    Operation<BOOL(const char* system, const char* name, LUID* luid)> LookupPrivilegeValueA;
+    Operation<BOOL(HANDLE token,
+                   BOOL disableAll,
+                   TOKEN_PRIVILEGES* newState,
+                   DWORD previousSize,
+                   TOKEN_PRIVILEGES* previous,
+                   DWORD* returnLength)>
+        AdjustTokenPrivileges;
 };
 
 } // namespace calvix::platform

@@ -1,21 +1,19 @@
 #pragma once
 
+#include "platform/operation.h"
 #include "platform/records/service_records.h"
 
 namespace calvix::platform
 {
 
 /// The service control manager. A failing operation gives null or FALSE and leaves its reason in GetLastError.
-class ServiceControl
+struct ServiceControl
 {
-public:
-    virtual ~ServiceControl() = default;
-
-    virtual SC_HANDLE OpenSCManagerA(const char* machine, const char* database, DWORD access) = 0;
-    virtual SC_HANDLE OpenServiceA(SC_HANDLE manager, const char* name, DWORD access) = 0;
-    virtual BOOL QueryServiceStatus(SC_HANDLE service, SERVICE_STATUS* status) = 0;
-    virtual BOOL StartServiceA(SC_HANDLE service, DWORD argumentCount, const char** arguments) = 0;
-    virtual BOOL CloseServiceHandle(SC_HANDLE handle) = 0;
+    Operation<SC_HANDLE(const char* machine, const char* database, DWORD access)> OpenSCManagerA;
+    Operation<SC_HANDLE(SC_HANDLE manager, const char* name, DWORD access)> OpenServiceA;
+    Operation<BOOL(SC_HANDLE service, SERVICE_STATUS* status)> QueryServiceStatus;
+    Operation<BOOL(SC_HANDLE service, DWORD argumentCount, const char** arguments)> StartServiceA;
+    Operation<BOOL(SC_HANDLE handle)> CloseServiceHandle;
 };
 
 } // namespace calvix::platform

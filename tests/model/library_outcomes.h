@@ -11,7 +11,7 @@ namespace calvix::test
 class Library
 {
 public:
-    Library(const World& world, JournalService& journal) : m_world(world), m_journal(journal) {}
+    Library(const World& world, Journal& journal) : m_world(world), m_journal(journal) {}
 
     Outcome GetMatchAPList();
     Outcome GetConnectableAPList();
@@ -42,7 +42,7 @@ private:
     Outcome EndedWith(long long code, const std::vector<std::wstring>& names);
 
     const World& m_world;
-    JournalService& m_journal;
+    Journal& m_journal;
 };
 
 } // namespace calvix::test

@@ -124,8 +124,8 @@ public:
             m_computer.wlan().WlanCloseHandle(client, nullptr);
             client = nullptr;
         }
-        JournalPlatform platform(m_world);
-        Library library(m_world, platform.journal());
+        Journal journal(m_world);
+        Library library(m_world, journal);
         return method.actual(library);
     }
 

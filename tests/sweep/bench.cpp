@@ -1,6 +1,7 @@
 #include "sweep/bench.h"
 
 #include "core/trace.h"
+#include "operations/operations.h"
 #include "support/edited_answers.h"
 #include "support/manager_internals.h"
 #include "wrappers/call_log.h"
@@ -24,8 +25,6 @@ constexpr std::array<DWORD, 3> kErrors = {5, 1062, 1168};
 /// Of the one operation that returns an NTSTATUS.
 constexpr std::array<DWORD, 3> kStatuses = {0xC0000022, 0xC000000D, 0xC00000BB};
 
-constexpr std::array<std::string_view, 5> kNeverFail = {"WlanFreeMemory", "LocalFree", "Sleep", "GetCurrentProcess",
-                                                        "OutputDebugStringA"};
 constexpr std::array<std::string_view, 3> kReleases = {"WlanCloseHandle", "CloseServiceHandle", "CloseHandle"};
 
 constexpr std::array<std::string_view, 4> kLists = {"WlanEnumInterfaces", "WlanGetProfileList",
@@ -190,10 +189,11 @@ std::vector<Failure> FailuresOf(const Reference& reference)
     std::map<std::string, unsigned> seen;
     for (const std::string& operation : reference.operations)
     {
-        if (Contains(kNeverFail, operation))
+        const operations::Fails fails = operations::FactsOf(operation)->fails;
+        if (fails == operations::Fails::never)
             continue;
         const unsigned number = ++seen[operation];
-        const auto& errors = operation == "CallNtPowerInformation" ? kStatuses : kErrors;
+        const auto& errors = fails == operations::Fails::withStatus ? kStatuses : kErrors;
         for (const DWORD error : std::span(errors).first<CALVIX_SWEEP_ERRORS>())
             for (const unsigned times : {1U, Fault::kUnlimited})
                 failures.push_back({operation, {error, number, times}});

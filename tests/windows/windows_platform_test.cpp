@@ -1,4 +1,4 @@
-#include "windows/windows_platform.h"
+#include "platform/platform.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +9,10 @@ namespace
 {
 
 namespace platform = calvix::platform;
-using calvix::windows::WindowsPlatform;
 
 TEST(WindowsPlatform, IsTheDefault)
 {
-    EXPECT_NE(dynamic_cast<WindowsPlatform*>(&platform::DefaultPlatform()), nullptr);
+    EXPECT_EQ(platform::processes().GetCurrentProcess(), ::GetCurrentProcess());
     EXPECT_EQ(&platform::CurrentPlatform(), &platform::DefaultPlatform());
 }
 
@@ -31,11 +30,12 @@ TEST(WindowsPlatform, IsOneObjectForAllThreads)
 
 TEST(WindowsPlatform, StepsAsideForAReplacement)
 {
-    WindowsPlatform replacement;
+    platform::Platform replacement = platform::DefaultPlatform();
     EXPECT_EQ(platform::ReplacePlatform(&replacement), nullptr);
     EXPECT_EQ(&platform::text(), &replacement.text());
     EXPECT_EQ(platform::ReplacePlatform(nullptr), &replacement);
     EXPECT_NE(&platform::text(), &replacement.text());
+    EXPECT_EQ(&platform::text(), &platform::DefaultPlatform().text());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "wrappers/recording/anonymiser.h"
 
+#include "operations/operations.h"
 #include "simulation/utf8.h"
 #include "wrappers/recording/recorded_text.h"
 
@@ -88,16 +89,11 @@ bool StandsAlone(std::string_view text, std::size_t begin, std::size_t size)
     return !joinedBefore && !joinedAfter;
 }
 
-bool IsConversion(std::string_view call)
-{
-    return call == "MultiByteToWideChar" || call == "WideCharToMultiByte";
-}
-
 /// Calls in which names come up. In others a word that happens to be a name means something else.
-bool MayTellNames(std::string_view call)
+bool MayTellNames(const std::string& call)
 {
-    return (call.starts_with("Wlan") && call != "WlanSetSecuritySettings") || IsConversion(call) ||
-           call == "StringFromGUID2" || call == "CreateProcessA";
+    const operations::Facts* const operation = operations::FactsOf(call);
+    return operation != nullptr && operation->tellsNames;
 }
 
 /// The document with `convert` applied to what follows each tag that ends so.
@@ -200,8 +196,8 @@ void Anonymiser::LearnAlias(ordered_json& line)
 {
     std::string source;
     std::string result;
-    if (!IsConversion(line.value("call", "")) || !ReadText(line["in"]["source"], source) ||
-        !line["out"].contains("text") || !ReadText(line["out"]["text"], result))
+    const bool isConversion = line.contains("in") && line["in"].contains("source") && line["out"].contains("text");
+    if (!isConversion || !ReadText(line["in"]["source"], source) || !ReadText(line["out"]["text"], result))
         return;
     if (const auto known = m_pseudonyms.find(source); known != m_pseudonyms.end())
         Replace(result, known->second);

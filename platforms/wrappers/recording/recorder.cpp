@@ -112,7 +112,7 @@ struct Recorder::Parts final : Tape
     {
     }
 
-    bool Call(const TapedCall& call) override
+    bool Pass(const TapedCall& call) override
     {
         ordered_json line = Begin(call);
         call.forward();

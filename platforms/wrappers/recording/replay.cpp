@@ -41,7 +41,7 @@ struct Replay::Parts final : Tape
     {
     }
 
-    bool Call(const TapedCall& call) override
+    bool Pass(const TapedCall& call) override
     {
         while (const RecordedLine* const news = TakeNews(true))
             Tell(*news);

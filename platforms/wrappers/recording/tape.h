@@ -3,7 +3,6 @@
 #include "wrappers/recording/fields.h"
 
 #include <functional>
-#include <type_traits>
 
 namespace calvix::recording
 {
@@ -26,39 +25,8 @@ public:
 
     Holdings& holdings() { return m_holdings; }
 
-    /// An operation with a result. `failed` is the answer where there is none to give. `results` names what the
-    /// operation hands out beside its result; it is given the result, of which a number is told already and a handle not.
-    template <typename Result, typename Forward, typename Arguments, typename Results>
-    Result Pass(const char* operation, Result failed, Forward forward, Arguments arguments, Results results)
-    {
-        Result result = failed;
-        const std::function<void(Fields&)> writeArguments = arguments;
-        const std::function<void()> makeCall = [&] { result = forward(); };
-        const std::function<void(Fields&)> describeResults = [&](Fields& fields)
-        {
-            if constexpr (!std::is_pointer_v<Result>)
-                fields.Number("result", result);
-            results(fields, result);
-        };
-        return Call({operation, writeArguments, makeCall, describeResults}) ? result : failed;
-    }
-
-    /// An operation that hands out nothing beside its result, a number.
-    template <typename Result, typename Forward, typename Arguments>
-    Result Pass(const char* operation, Result failed, Forward forward, Arguments arguments)
-    {
-        return Pass(operation, failed, forward, arguments, [](Fields&, Result&) {});
-    }
-
-    /// An operation without a result.
-    template <typename Forward, typename Arguments>
-    void Tell(const char* operation, Forward forward, Arguments arguments)
-    {
-        const std::function<void(Fields&)> writeArguments = arguments;
-        const std::function<void()> makeCall = forward;
-        const std::function<void(Fields&)> nothing = [](Fields&) {};
-        Call({operation, writeArguments, makeCall, nothing});
-    }
+    /// False where the call has no answer.
+    virtual bool Pass(const TapedCall& call) = 0;
 
     /// A registration for notifications, through which they pass.
     struct Listener
@@ -77,14 +45,8 @@ public:
 protected:
     explicit Tape(Holdings::Source source) : m_holdings(source) {}
 
-    /// False where the call has no answer.
-    virtual bool Call(const TapedCall& call) = 0;
-
 private:
     Holdings m_holdings;
 };
-
-/// What calls answer that a replay cannot answer any more: ERROR_CANCELLED.
-inline constexpr DWORD kNoAnswer = 1223;
 
 } // namespace calvix::recording

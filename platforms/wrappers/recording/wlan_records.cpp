@@ -84,6 +84,11 @@ void Describe(Fields& fields, DOT11_SSID& ssid)
     fields.Ssid("ssid", ssid);
 }
 
+void Describe(Fields& fields, operations::Long& number)
+{
+    fields.Number("value", number.value);
+}
+
 void Describe(Fields& fields, WLAN_INTERFACE_INFO& info)
 {
     fields.AdapterGuid("InterfaceGuid", info.InterfaceGuid);

@@ -1,5 +1,6 @@
 #include "wrappers/recording/wlan_results.h"
 
+#include "operations/records.h"
 #include "wrappers/recording/wlan_records.h"
 
 #include <algorithm>
@@ -172,34 +173,20 @@ void DescribeStatistics(Fields& fields, DWORD& size, PVOID& data)
     record.Number("dwNumberOfPhys", statistics.dwNumberOfPhys);
 }
 
-void DescribeByOpcode(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD& size, PVOID& data)
+template <typename Opcode>
+void DescribeByOpcode(Fields& fields, Opcode opcode, DWORD& size, PVOID& data)
 {
-    switch (opcode)
+    const auto describe = [&]<typename Record>(operations::RecordType<Record>)
     {
-    case wlan_intf_opcode_autoconf_enabled:
-    case wlan_intf_opcode_background_scan_enabled:
-    case wlan_intf_opcode_media_streaming_mode:
-    case wlan_intf_opcode_supported_safe_mode:
-    case wlan_intf_opcode_certified_safe_mode:
-        return DescribeRecord<BOOL>(fields, size, data);
-    case wlan_intf_opcode_radio_state:
-        return DescribeRecord<WLAN_RADIO_STATE>(fields, size, data);
-    case wlan_intf_opcode_bss_type:
-        return DescribeRecord<DOT11_BSS_TYPE>(fields, size, data);
-    case wlan_intf_opcode_interface_state:
-        return DescribeRecord<WLAN_INTERFACE_STATE>(fields, size, data);
-    case wlan_intf_opcode_current_connection:
-        return DescribeRecord<WLAN_CONNECTION_ATTRIBUTES>(fields, size, data);
-    case wlan_intf_opcode_channel_number:
-    case wlan_intf_opcode_current_operation_mode:
-        return DescribeRecord<ULONG>(fields, size, data);
-    case wlan_intf_opcode_rssi:
-        return DescribeRecord<std::int32_t>(fields, size, data);
-    case wlan_intf_opcode_statistics:
-        return DescribeStatistics(fields, size, data);
-    default:
-        return DescribeRaw(fields, "bytes", size, data);
-    }
+        if constexpr (std::is_void_v<Record>)
+            DescribeRaw(fields, "bytes", size, data);
+        else if constexpr (std::is_same_v<Record, WLAN_STATISTICS>)
+            DescribeStatistics(fields, size, data);
+        else
+            DescribeRecord<Record>(fields, size, data);
+    };
+    operations::VisitAnswer(opcode, describe);
+    NumberBlock(fields, data);
 }
 
 template <typename Record>
@@ -258,20 +245,6 @@ void DescribeMsmData(Fields& fields, DWORD code, DWORD& size, PVOID& data)
     DescribeRaw(fields, "bytes", size, data);
 }
 
-void GiveBssids(Fields& fields, const DOT11_BSSID_LIST* list)
-{
-    if (list == nullptr)
-        return;
-    const auto* const first = reinterpret_cast<const UCHAR*>(list->BSSIDs);
-    const std::size_t count = fields.Count("bssids", list->uNumOfEntries);
-    for (std::size_t i = 0; i < count; ++i)
-    {
-        UCHAR address[6];
-        std::memcpy(address, first + i * sizeof address, sizeof address);
-        fields.Element("bssids", i).Address("address", address);
-    }
-}
-
 } // namespace
 
 void DescribeList(Fields& fields, WLAN_INTERFACE_INFO_LIST** list)
@@ -321,51 +294,23 @@ void DescribeText(Fields& fields, wchar_t** xml)
 void DescribeAnswer(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD* size, PVOID* data)
 {
     DescribeByOpcode(fields, opcode, *size, *data);
-    NumberBlock(fields, *data);
 }
 
 void DescribeAnswer(Fields& fields, WLAN_AUTOCONF_OPCODE opcode, DWORD* size, PVOID* data)
 {
-    if (opcode == wlan_autoconf_opcode_power_setting)
-        DescribeRecord<WLAN_POWER_SETTING>(fields, *size, *data);
-    else
-        DescribeRaw(fields, "bytes", *size, *data);
-    NumberBlock(fields, *data);
+    DescribeByOpcode(fields, opcode, *size, *data);
 }
 
 void GiveInterfaceData(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD size, const void* data)
 {
-    switch (opcode)
+    const auto give = [&]<typename Record>(operations::RecordType<Record>)
     {
-    case wlan_intf_opcode_radio_state:
-        return GiveRecord<WLAN_PHY_RADIO_STATE>(fields, size, data);
-    case wlan_intf_opcode_autoconf_enabled:
-    case wlan_intf_opcode_background_scan_enabled:
-    case wlan_intf_opcode_media_streaming_mode:
-        return GiveRecord<BOOL>(fields, size, data);
-    case wlan_intf_opcode_bss_type:
-        return GiveRecord<DOT11_BSS_TYPE>(fields, size, data);
-    case wlan_intf_opcode_current_operation_mode:
-        return GiveRecord<ULONG>(fields, size, data);
-    default:
-        return fields.GivenBytes("data", data, size);
-    }
-}
-
-void GiveParameters(Fields& fields, const WLAN_CONNECTION_PARAMETERS* parameters)
-{
-    if (parameters == nullptr)
-        return;
-    fields.Given("mode", parameters->wlanConnectionMode);
-    // A temporary profile comes as its text.
-    if (parameters->wlanConnectionMode == wlan_connection_mode_profile)
-        fields.GivenName("profile", parameters->strProfile);
-    else
-        fields.GivenText("profile", parameters->strProfile);
-    fields.GivenRecord("ssid", static_cast<const DOT11_SSID*>(parameters->pDot11Ssid));
-    GiveBssids(fields, parameters->pDesiredBssidList);
-    fields.Given("bssType", parameters->dot11BssType);
-    fields.Given("flags", parameters->dwFlags);
+        if constexpr (std::is_void_v<Record>)
+            fields.GivenBytes("data", data, size);
+        else
+            GiveRecord<Record>(fields, size, data);
+    };
+    operations::VisitSetting(opcode, give);
 }
 
 void DescribeNews(Fields& fields, WLAN_NOTIFICATION_DATA& news)

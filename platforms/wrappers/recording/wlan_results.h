@@ -22,8 +22,6 @@ void DescribeAnswer(Fields& fields, WLAN_AUTOCONF_OPCODE opcode, DWORD* size, PV
 
 /// The argument of WlanSetInterface.
 void GiveInterfaceData(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD size, const void* data);
-/// The argument of WlanConnect.
-void GiveParameters(Fields& fields, const WLAN_CONNECTION_PARAMETERS* parameters);
 
 /// A notification. Reading, its data is a block that the caller releases.
 void DescribeNews(Fields& fields, WLAN_NOTIFICATION_DATA& news);

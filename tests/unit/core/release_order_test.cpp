@@ -1,12 +1,12 @@
 // The order in which blocks of the service are released: what was taken for the last step goes first.
 
-#include "support/forwarding_platform.h"
+#include "support/changed_platform.h"
 #include "unit/autoconnect/small_worlds.h"
 
 #include "support/library_test.h"
-#include "wrappers/intercepted_wlan_service.h"
 
 #include <map>
+#include <tuple>
 
 namespace calvix::test::release_order_test
 {
@@ -17,91 +17,32 @@ namespace
 {
 
 /// The WLAN service in use; it notes which block is released when.
-class NotedReleases final : public wrappers::InterceptedWlanService
+class NotedReleases final : public ChangedPlatform
 {
 public:
-    using InterceptedWlanService::InterceptedWlanService;
+    NotedReleases()
+    {
+        Note<&WlanService::WlanEnumInterfaces, 2>("interfaces");
+        Note<&WlanService::WlanGetProfileList, 3>("profiles");
+        Note<&WlanService::WlanGetAvailableNetworkList, 4>("networks");
+        Note<&WlanService::WlanGetNetworkBssList, 6>("BSS entries");
+        Note<&WlanService::WlanQueryInterface, 5>("attributes");
+        Note<&WlanService::WlanGetProfile, 4>("XML");
+        Before<&WlanService::WlanFreeMemory>([this](PVOID memory) { released.push_back(m_names[memory]); });
+    }
 
     std::vector<std::string> released;
 
-    DWORD WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list) override
-    {
-        return Noted("interfaces", InterceptedWlanService::WlanEnumInterfaces(client, reserved, list), *list);
-    }
-    DWORD
-    WlanGetProfileList(HANDLE client, const GUID* guid, PVOID reserved, WLAN_PROFILE_INFO_LIST** list) override
-    {
-        return Noted("profiles", InterceptedWlanService::WlanGetProfileList(client, guid, reserved, list), *list);
-    }
-    DWORD WlanGetAvailableNetworkList(
-        HANDLE client, const GUID* guid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list) override
-    {
-        const DWORD error = InterceptedWlanService::WlanGetAvailableNetworkList(client, guid, flags, reserved, list);
-        return Noted("networks", error, *list);
-    }
-    DWORD WlanGetNetworkBssList(HANDLE client,
-                                const GUID* guid,
-                                const DOT11_SSID* ssid,
-                                DOT11_BSS_TYPE type,
-                                BOOL secured,
-                                PVOID reserved,
-                                WLAN_BSS_LIST** list) override
-    {
-        const DWORD error =
-            InterceptedWlanService::WlanGetNetworkBssList(client, guid, ssid, type, secured, reserved, list);
-        return Noted("BSS entries", error, *list);
-    }
-    DWORD WlanQueryInterface(HANDLE client,
-                             const GUID* guid,
-                             WLAN_INTF_OPCODE opcode,
-                             PVOID reserved,
-                             DWORD* size,
-                             PVOID* data,
-                             WLAN_OPCODE_VALUE_TYPE* type) override
-    {
-        const DWORD error =
-            InterceptedWlanService::WlanQueryInterface(client, guid, opcode, reserved, size, data, type);
-        return Noted("attributes", error, *data);
-    }
-    DWORD WlanGetProfile(HANDLE client,
-                         const GUID* guid,
-                         const wchar_t* name,
-                         PVOID reserved,
-                         wchar_t** xml,
-                         DWORD* flags,
-                         DWORD* access) override
-    {
-        const DWORD error = InterceptedWlanService::WlanGetProfile(client, guid, name, reserved, xml, flags, access);
-        return Noted("XML", error, *xml);
-    }
-    void WlanFreeMemory(PVOID memory) override
-    {
-        released.push_back(m_names[memory]);
-        InterceptedWlanService::WlanFreeMemory(memory);
-    }
-
 private:
-    template <typename Block>
-    DWORD Noted(const char* name, DWORD error, Block*& block)
+    /// `block` is the parameter in which the operation hands out a block.
+    template <auto operation, std::size_t block>
+    void Note(const char* name)
     {
-        m_names[block] = name;
-        return error;
+        After<operation>([this, name](DWORD, auto... arguments)
+                         { m_names[*std::get<block>(std::tuple(arguments...))] = name; });
     }
 
     std::map<void*, std::string> m_names;
-};
-
-class NotedPlatform final : public ForwardingPlatform
-{
-public:
-    platform::WlanService& wlan() override { return service; }
-
-private:
-    wrappers::Interceptor m_seesNothing;
-    wrappers::InterceptionPoint m_point{m_seesNothing};
-
-public:
-    NotedReleases service{inner().wlan(), m_point};
 };
 
 class ReleaseOrderTest : public LibraryTest
@@ -110,9 +51,9 @@ public:
     /// What a call released, in order.
     std::vector<std::string> ReleasesOf(const std::function<void(CWirelessManage&)>& call)
     {
-        NotedPlatform noted;
+        NotedReleases noted;
         call(manager());
-        return noted.service.released;
+        return noted.released;
     }
 
     /// One network of a profile, to which adapter A is connected.

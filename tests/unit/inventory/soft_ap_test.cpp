@@ -1,5 +1,5 @@
+#include "support/changed_platform.h"
 #include "support/contract_table.h"
-#include "support/forwarding_platform.h"
 #include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
@@ -22,60 +22,35 @@ const std::string kA = kAdapterAText;
 const Names kBefore = {"from", "before"};
 
 /// A platform whose conversions take the flags that Windows refuses beside UTF-8.
-class LenientText final : public platform::Text
+class LenientPlatform final : public ChangedPlatform
 {
 public:
-    explicit LenientText(platform::Text& inner) : m_inner(inner) {}
-
-    int MultiByteToWideChar(UINT codePage,
-                            DWORD flags,
-                            const char* source,
-                            int sourceLength,
-                            wchar_t* destination,
-                            int destinationLength) override
+    LenientPlatform()
     {
-        EXPECT_EQ(65001u, codePage);
-        EXPECT_EQ(9u, flags);
-        EXPECT_EQ(256, destinationLength);
-        return m_inner.MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, source, sourceLength, destination,
-                                           destinationLength);
+        using platform::Text;
+        Instead<&Text::MultiByteToWideChar>(
+            [convert = Now<&Text::MultiByteToWideChar>()](UINT codePage, DWORD flags, const char* source,
+                                                          int sourceLength, wchar_t* destination, int room)
+            {
+                EXPECT_EQ(65001u, codePage);
+                EXPECT_EQ(9u, flags);
+                EXPECT_EQ(256, room);
+                return convert(codePage, MB_ERR_INVALID_CHARS, source, sourceLength, destination, room);
+            });
+        Instead<&Text::WideCharToMultiByte>(
+            [convert = Now<&Text::WideCharToMultiByte>()](UINT codePage, DWORD flags, const wchar_t* source,
+                                                          int sourceLength, char* destination, int room,
+                                                          const char* defaultCharacter, BOOL* usedDefaultCharacter)
+            {
+                EXPECT_EQ(0u, codePage);
+                EXPECT_EQ(9u, flags);
+                EXPECT_EQ(-1, sourceLength);
+                EXPECT_EQ(128, room);
+                EXPECT_EQ(nullptr, defaultCharacter);
+                EXPECT_EQ(nullptr, usedDefaultCharacter);
+                return convert(codePage, 0, source, sourceLength, destination, room, nullptr, nullptr);
+            });
     }
-
-    int WideCharToMultiByte(UINT codePage,
-                            DWORD flags,
-                            const wchar_t* source,
-                            int sourceLength,
-                            char* destination,
-                            int destinationLength,
-                            const char* defaultCharacter,
-                            BOOL* usedDefaultCharacter) override
-    {
-        EXPECT_EQ(0u, codePage);
-        EXPECT_EQ(9u, flags);
-        EXPECT_EQ(-1, sourceLength);
-        EXPECT_EQ(128, destinationLength);
-        EXPECT_EQ(nullptr, defaultCharacter);
-        EXPECT_EQ(nullptr, usedDefaultCharacter);
-        return m_inner.WideCharToMultiByte(codePage, 0, source, sourceLength, destination, destinationLength,
-                                           defaultCharacter, usedDefaultCharacter);
-    }
-
-    int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity) override
-    {
-        return m_inner.StringFromGUID2(guid, text, capacity);
-    }
-
-private:
-    platform::Text& m_inner;
-};
-
-class LenientPlatform final : public ForwardingPlatform
-{
-public:
-    platform::Text& text() override { return m_text; }
-
-private:
-    LenientText m_text{inner().text()};
 };
 
 /// An airspace of these SSIDs, the strongest first, without any profile.

@@ -202,7 +202,7 @@ TEST_F(RadioStateTest, SafeModeIsThePlatformsBoolean)
         ClearCalls();
         EXPECT_EQ(supported, SafeMode(manager()));
         EXPECT_THAT(callLines(), ElementsAre(std::string("WlanQueryInterface(client=1, interface=") + kAdapterAText +
-                                                 ", opcode=supported_safe_mode, reserved=null, dataSize=4, "
+                                                 ", opcode=supported_safe_mode, reserved=null, dataSize=sizeof(BOOL), "
                                                  "data=non-null, valueType=null)",
                                              kRelease));
         EXPECT_THAT(traced(), IsEmpty());

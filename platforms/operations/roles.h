@@ -1,0 +1,411 @@
+#pragma once
+
+#include "platform/platform.h"
+
+#include <type_traits>
+
+namespace calvix::operations
+{
+
+/// How an operation fails: what it returns then.
+enum class Fails
+{
+    withErrorNumber, ///< the result is the reason
+    withStatus,      ///< the same as an NTSTATUS
+    withNothing,     ///< FALSE, null, no characters; the reason is in GetLastError
+    withAllBits,     ///< WAIT_FAILED, and GetLastError
+    withNo,          ///< FALSE is an answer too
+    never
+};
+
+/// Whether a call failed, by its result as a number; "no" is an answer.
+constexpr bool HasFailed(Fails fails, long long result)
+{
+    switch (fails)
+    {
+    case Fails::withErrorNumber:
+    case Fails::withStatus:
+        return result != 0;
+    case Fails::withNothing:
+        return result == 0;
+    case Fails::withAllBits:
+        return static_cast<unsigned long>(result & 0xFFFFFFFF) == WAIT_FAILED;
+    case Fails::withNo:
+    case Fails::never:
+        break;
+    }
+    return false;
+}
+
+/// What an operation returns that fails without saying why.
+template <typename Result>
+constexpr Result FailedResult(Fails fails)
+{
+    if constexpr (std::is_integral_v<Result>)
+        return static_cast<Result>(fails == Fails::withAllBits ? WAIT_FAILED : 0);
+    else
+        return Result{};
+}
+
+enum class Facility
+{
+    wlan,
+    services,
+    power,
+    security,
+    processes,
+    internet,
+    text,
+    clock,
+    debugger,
+    errors
+};
+
+/// The families of handles, numbered apart from each other.
+enum class HandleFamily
+{
+    client,  ///< of the WLAN service
+    service, ///< of the service control manager
+    object,  ///< processes, threads and tokens
+    module
+};
+
+/// What parameters are for. Each role says what its parameter is called, and by its type how it is shown, recorded and
+/// replayed: wrappers/argument_texts.h and wrappers/recording/role_fields.h have overloads for roles or what they derive
+/// from.
+struct Role
+{
+    constexpr explicit Role(const char* itsName) : name(itsName) {}
+    /// Whether names of networks and adapters may come up in it, which an anonymised recording hides.
+    static constexpr bool tellsNames = false;
+    const char* name;
+};
+
+/// Read by the operation.
+struct Given : Role
+{
+    using Role::Role;
+};
+
+/// Only written by it; where it is put is all that can be told before.
+struct HandedOut : Role
+{
+    using Role::Role;
+};
+
+/// Read and written.
+struct Exchanged : Role
+{
+    using Role::Role;
+};
+
+struct NameTelling : Given
+{
+    using Given::Given;
+    static constexpr bool tellsNames = true;
+};
+
+struct NameTellingOut : HandedOut
+{
+    using HandedOut::HandedOut;
+    static constexpr bool tellsNames = true;
+};
+
+// --- Given
+
+/// Whether it is there is all that is told; what is Unrecorded has no place in recordings at all.
+struct Pointer : Given
+{
+    using Given::Given;
+};
+/// Null in every correct call.
+struct Reserved : Pointer
+{
+    constexpr Reserved() : Pointer("reserved") {}
+};
+struct UnrecordedPointer : Pointer
+{
+    using Pointer::Pointer;
+};
+
+/// An integer or an enumeration, told by its name where it has one.
+struct Number : Given
+{
+    using Given::Given;
+};
+struct UnrecordedNumber : Number
+{
+    using Number::Number;
+};
+/// The number that says which record comes with it (operations/records.h).
+struct Opcode : Number
+{
+    using Number::Number;
+};
+struct Flag : Given
+{
+    using Given::Given;
+};
+
+template <HandleFamily handleFamily>
+struct Handle : Given
+{
+    using Given::Given;
+    static constexpr HandleFamily family = handleFamily;
+};
+using Service = Handle<HandleFamily::service>;
+using Object = Handle<HandleFamily::object>;
+using Module = Handle<HandleFamily::module>;
+struct Client : Handle<HandleFamily::client>
+{
+    constexpr Client() : Handle("client") {}
+};
+
+struct Guid : Given
+{
+    using Given::Given;
+};
+struct Adapter : NameTelling
+{
+    constexpr Adapter() : NameTelling("interface") {}
+};
+
+/// Terminated text.
+struct Text : Given
+{
+    using Given::Given;
+};
+struct ProfileName : Text
+{
+    using Text::Text;
+    static constexpr bool tellsNames = true;
+};
+struct ProfileText : Text
+{
+    using Text::Text;
+    static constexpr bool tellsNames = true;
+};
+struct CommandLine : Text
+{
+    using Text::Text;
+    static constexpr bool tellsNames = true;
+};
+/// What goes to the debugger.
+struct TraceText : Text
+{
+    using Text::Text;
+};
+struct Ssid : NameTelling
+{
+    using NameTelling::NameTelling;
+};
+
+/// A record that is told field by field.
+struct Record : NameTelling
+{
+    using NameTelling::NameTelling;
+};
+/// The same for those whose fields only recordings tell, as an object of their own.
+struct WholeRecord : Pointer
+{
+    using Pointer::Pointer;
+};
+
+/// A parameter's place, seen from another's.
+inline constexpr int before = -1;
+inline constexpr int after = 1;
+
+/// Bytes, as many as the parameter `sizeAt` says.
+template <int sizeAt>
+struct Bytes : Pointer
+{
+    using Pointer::Pointer;
+};
+
+/// Wide text in bytes, terminator included: the name of a power scheme.
+struct FriendlyName : Given
+{
+    using Given::Given;
+};
+
+/// The size of a record, which differs between Windows and other systems.
+struct RecordSize : Given
+{
+    using Given::Given;
+};
+
+/// Options of an internet session; most are one number.
+struct OptionValue : Given
+{
+    using Given::Given;
+};
+struct OptionSize : RecordSize
+{
+    using RecordSize::RecordSize;
+};
+
+/// What an interface is set to, by the opcode.
+struct SettingSize : RecordSize
+{
+    using RecordSize::RecordSize;
+};
+struct Setting : Given
+{
+    using Given::Given;
+};
+
+/// Text to be converted, and the number of its characters, negative if it is terminated.
+struct Source : NameTelling
+{
+    using NameTelling::NameTelling;
+};
+struct SourceLength : Number
+{
+    using Number::Number;
+};
+
+/// For how many converted characters there is room; 0 asks for their number.
+struct DestinationRoom : Number
+{
+    using Number::Number;
+};
+
+/// Where notifications go, and what they bring along.
+struct Callback : Pointer
+{
+    using Pointer::Pointer;
+};
+struct Context : Pointer
+{
+    using Pointer::Pointer;
+};
+
+/// A block that goes back to who handed it out.
+struct Block : Pointer
+{
+    using Pointer::Pointer;
+};
+
+// --- Handed out, if the operation does not fail
+
+struct NumberOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+/// Handed out by a failing operation, too.
+struct ReasonOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+template <HandleFamily handleFamily>
+struct HandleOut : HandedOut
+{
+    using HandedOut::HandedOut;
+    static constexpr HandleFamily family = handleFamily;
+};
+
+/// A block of the WLAN service's, which goes back to it.
+struct BlockOut : NameTellingOut
+{
+    using NameTellingOut::NameTellingOut;
+};
+struct ListOut : BlockOut
+{
+    using BlockOut::BlockOut;
+};
+struct ProfileTextOut : BlockOut
+{
+    using BlockOut::BlockOut;
+};
+/// The answer to a question, by its opcode; its size is the parameter before.
+struct AnswerOut : BlockOut
+{
+    using BlockOut::BlockOut;
+};
+/// The GUID of a power scheme in a block of its own.
+struct SchemeOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+
+/// A record in a place of the caller's, told field by field, or as an object of its own.
+struct RecordOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+struct WholeRecordOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+
+/// Bytes in a place of the caller's: the room is the parameter before, what became of it the one behind.
+struct BytesOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+struct BytesCountOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+
+/// Terminated wide text; the parameter `roomAt` says for how many characters there is room.
+template <int roomAt>
+struct TextOut : NameTellingOut
+{
+    using NameTellingOut::NameTellingOut;
+};
+
+/// Converted text.
+struct DestinationOut : NameTellingOut
+{
+    using NameTellingOut::NameTellingOut;
+};
+
+/// The path of a module, as many characters as the result says.
+struct ModulePathOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+
+/// What is known about power, by its level; the room is the parameter behind.
+struct InformationOut : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+struct InformationRoom : RecordSize
+{
+    using RecordSize::RecordSize;
+};
+
+// --- Exchanged
+
+struct NumberExchanged : Exchanged
+{
+    using Exchanged::Exchanged;
+};
+/// A number that is read, but means nothing until it is written.
+struct NumberOverwritten : NumberExchanged
+{
+    using NumberExchanged::NumberExchanged;
+};
+/// A legacy power scheme; -1 asks for a new one.
+struct SchemeExchanged : Exchanged
+{
+    using Exchanged::Exchanged;
+};
+/// The size of an answer, set before by careful callers.
+struct AnswerSize : Exchanged
+{
+    using Exchanged::Exchanged;
+};
+/// A buffer of bytes, and how many there is room for, then how many there are.
+struct Buffer : HandedOut
+{
+    using HandedOut::HandedOut;
+};
+struct BufferSize : NumberExchanged
+{
+    using NumberExchanged::NumberExchanged;
+};
+
+} // namespace calvix::operations
