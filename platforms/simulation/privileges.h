@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/records/security_records.h"
+#include "platform/records/system_records.h"
 
 #include <optional>
 #include <string>

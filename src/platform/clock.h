@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/operation.h"
-#include "platform/records/time_records.h"
+#include "platform/records/system_records.h"
 
 namespace calvix::platform
 {

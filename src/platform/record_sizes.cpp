@@ -4,7 +4,7 @@
 #include <calvix/platform_records.h>
 
 #include "platform/records/power_records.h"
-#include "platform/records/process_records.h"
+#include "platform/records/system_records.h"
 
 static_assert(sizeof(GUID) == 16);
 
