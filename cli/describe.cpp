@@ -1,8 +1,9 @@
 #include "describe.h"
 
 #include "core/wlan_records.h"
+#include "forms/channel.h"
+#include "forms/guid_text.h"
 #include "platform/records/wlan_constants.h"
-#include "simulation/guid_text.h"
 #include "table.h"
 #include "text/value_text.h"
 #include "text_forms.h"
@@ -26,7 +27,7 @@ AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number)
 {
     AdapterFacts facts;
     facts.number = number;
-    facts.guid = simulation::GuidText(info.InterfaceGuid);
+    facts.guid = forms::GuidText(info.InterfaceGuid);
     facts.description = Narrow(FixedText(info.strInterfaceDescription));
     facts.state = static_cast<unsigned>(info.isState);
     facts.stateText = StateText(facts.state);
@@ -59,7 +60,7 @@ AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry)
     facts.rssi = entry.lRssi;
     facts.quality = static_cast<unsigned>(entry.uLinkQuality);
     facts.frequencyKhz = entry.ulChCenterFrequency;
-    facts.channel = CustomaryChannel(entry.ulChCenterFrequency);
+    facts.channel = forms::ChannelNumber(static_cast<std::uint32_t>(entry.ulChCenterFrequency));
     facts.band = BandText(entry.ulChCenterFrequency);
     facts.phy = PhyText(entry.dot11BssPhyType);
     facts.bssType = BssTypeText(entry.dot11BssType);

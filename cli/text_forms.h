@@ -1,5 +1,8 @@
 #pragma once
 
+#include "forms/address_text.h"
+#include "forms/hex_text.h"
+
 #include <calvix/platform_records.h>
 
 #include <cstddef>
@@ -34,10 +37,12 @@ std::optional<std::string> BytesOfHexText(std::string_view text);
 /// An SSID as an argument names it: as VisibleText shows it, or behind "hex:" its bytes. None for bad digits.
 std::optional<std::string> BytesOfSsidArgument(std::string_view text);
 
-/// "486F6D65"
-std::string HexText(std::string_view bytes);
+using forms::HexText;
 /// "00:1A:2B:3C:4D:5E"
-std::string MacText(const DOT11_MAC_ADDRESS& address);
+inline std::string MacText(const DOT11_MAC_ADDRESS& address)
+{
+    return forms::AddressText(address);
+}
 
 /// Columns that UTF-8 text takes on a terminal.
 std::size_t DisplayWidth(std::string_view utf8);

@@ -152,22 +152,6 @@ std::string ReasonText(DWORD reasonCode)
     return Narrow(text);
 }
 
-unsigned CustomaryChannel(unsigned long frequencyKhz)
-{
-    const auto mhz = static_cast<unsigned>(frequencyKhz / 1000);
-    if (mhz == 2484)
-        return 14;
-    if (mhz >= 2412 && mhz <= 2472)
-        return (mhz - 2407) / 5;
-    if (mhz >= 4900 && mhz < 5000)
-        return (mhz - 4000) / 5;
-    if (mhz == 5935)
-        return 2;
-    if (mhz > 5950 && mhz <= 7125)
-        return (mhz - 5950) / 5;
-    return mhz > 5000 && mhz < 5935 ? (mhz - 5000) / 5 : 0;
-}
-
 std::string BandText(unsigned long frequencyKhz)
 {
     const auto mhz = static_cast<unsigned>(frequencyKhz / 1000);

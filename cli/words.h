@@ -20,9 +20,6 @@ std::string ConnectionModeText(WLAN_CONNECTION_MODE mode);
 /// What the service says about a reason code.
 std::string ReasonText(DWORD reasonCode);
 
-/// The channel number that people use, 0 for a frequency that is no channel. The library's GetChannel differs from it in
-/// the 2.4 GHz band, deliberately, and knows no 6 GHz channels.
-unsigned CustomaryChannel(unsigned long frequencyKhz);
 /// "2.4 GHz", "5 GHz", "6 GHz"
 std::string BandText(unsigned long frequencyKhz);
 

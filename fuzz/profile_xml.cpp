@@ -1,14 +1,14 @@
 // Profile documents: what the service reads out of one, what the methods that search the text find in it, and what
 // becomes of it between being stored and being read again.
 
+#include "forms/guid_text.h"
+#include "forms/utf8.h"
 #include "input.h"
 #include "program.h"
 #include "promise.h"
 #include "targets.h"
 
-#include "simulation/guid_text.h"
 #include "simulation/profile_document.h"
-#include "simulation/utf8.h"
 
 #include <vector>
 
@@ -47,7 +47,7 @@ bool IsSame(const ProfileDocument& one, const ProfileDocument& other)
 void CheckWrittenAnew(const ProfileDocument& document)
 {
     simulation::ProfileSettings settings;
-    settings.name = simulation::Utf8FromWide(document.name);
+    settings.name = forms::Utf8FromWide(document.name);
     settings.ssid = document.ssid;
     settings.mode = document.automatic ? "auto" : "manual";
     settings.hidden = document.hidden;
@@ -66,9 +66,9 @@ void CheckProtectedKey(const std::wstring& xml, const ProfileDocument& document)
     if (hidden == xml)
         return;
     ProfileRefusal refusal{};
-    const auto withoutKey = simulation::ParseProfile(simulation::Utf8FromWide(hidden), refusal);
+    const auto withoutKey = simulation::ParseProfile(forms::Utf8FromWide(hidden), refusal);
     Promise(withoutKey.has_value(), "a profile with its key protected is still one");
-    const auto plain = simulation::ParseProfile(simulation::Utf8FromWide(simulation::WithPlainKey(hidden)), refusal);
+    const auto plain = simulation::ParseProfile(forms::Utf8FromWide(simulation::WithPlainKey(hidden)), refusal);
     Promise(plain && IsSame(*plain, document), "a protected key comes back as it was");
 }
 
@@ -97,7 +97,7 @@ void CheckTextSearch(CWirelessManage& manager, const std::wstring& xml, std::wst
 /// Stored, read and deleted again through the library.
 void CheckStored(CWirelessManage& manager, const std::wstring& xml, const ProfileDocument* document)
 {
-    const GUID adapter = *simulation::GuidFromText(kAdapterText);
+    const GUID adapter = *forms::GuidFromText(kAdapterText);
     Promise((manager.SetProfile(&adapter, xml.c_str()) == 0) == (document != nullptr),
             "the service stores what it can read, and nothing else");
     if (document == nullptr)
@@ -119,15 +119,15 @@ void CheckStored(CWirelessManage& manager, const std::wstring& xml, const Profil
 void RunProfileXml(const std::uint8_t* data, std::size_t size)
 {
     Input input(data, size);
-    const std::wstring ssid = simulation::WideFromUtf8(input.Until("\n"));
+    const std::wstring ssid = forms::WideFromUtf8(input.Until("\n"));
     // As text arrives at the library: up to its first zero character.
-    const std::wstring xml = simulation::WideFromUtf8(input.Rest()).c_str();
+    const std::wstring xml = forms::WideFromUtf8(input.Rest()).c_str();
 
     simulation::Computer& computer = ComputerWithoutProfiles();
     {
         Program program(computer);
         ProfileRefusal refusal{};
-        const auto document = simulation::ParseProfile(simulation::Utf8FromWide(xml), refusal);
+        const auto document = simulation::ParseProfile(forms::Utf8FromWide(xml), refusal);
         Promise(document || (refusal.error != 0 && refusal.reason != 0), "a refusal has a reason");
         if (document)
         {

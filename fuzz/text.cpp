@@ -2,14 +2,14 @@
 // back comes back. Every buffer is of the size that is stated, on the heap, where the sanitizers see a byte too many.
 
 #include "fatal_errors.h"
+#include "forms/address_text.h"
+#include "forms/guid_text.h"
+#include "forms/hex_text.h"
+#include "forms/utf8.h"
 #include "input.h"
 #include "program.h"
 #include "promise.h"
 #include "targets.h"
-
-#include "simulation/guid_text.h"
-#include "simulation/scenario_names.h"
-#include "simulation/utf8.h"
 
 #include <cstring>
 #include <memory>
@@ -61,7 +61,7 @@ void CheckHexRoundTrip(Manager& manager, Input& input)
     manager.StringToHex(fromStart.data(), digits, reversed.data(), count, true);
     Promise(straight == bytes, "bytes come back from their digits");
     Promise(std::equal(bytes.rbegin(), bytes.rend(), reversed.begin()), "and the other way round in reverse");
-    const auto read = simulation::BytesFromHex({fromStart.data(), fromStart.size()});
+    const auto read = forms::BytesFromHex({fromStart.data(), fromStart.size()});
     Promise(read && *read == bytes, "the digits are hexadecimal");
 }
 
@@ -90,7 +90,7 @@ void CheckTextAsHex(Manager& manager, Input& input)
     manager.StringToHexString(text.data(), static_cast<int>(text.size()), digits.data(), capacity);
     for (char& character : text)
         character = static_cast<char>(character & 0x7F);
-    const auto read = simulation::BytesFromHex({reinterpret_cast<const char*>(digits.data()), digits.size()});
+    const auto read = forms::BytesFromHex({reinterpret_cast<const char*>(digits.data()), digits.size()});
     Promise(read && *read == AsBytes(text), "text comes back from its digits, without the top bits");
 }
 
@@ -138,7 +138,7 @@ void CheckSsidInUtf8(Manager& manager, Input& input)
     std::memcpy(ssid.ucSSID, text.data(), text.size());
     std::vector<char> narrow(64);
     const int result = manager.GetSSID(&ssid, narrow.data(), static_cast<int>(narrow.size()));
-    if (simulation::IsUtf8(text))
+    if (forms::IsUtf8(text))
         Promise(result == 1 && std::strcmp(narrow.data(), text.c_str()) == 0, "an SSID is its own UTF-8 text");
 }
 
@@ -164,7 +164,7 @@ void CheckAddresses(Manager& manager, Input& input)
         byte = input.Byte();
     std::vector<char> whole(18, '#');
     manager.FormMAC(address, whole.data());
-    const auto read = simulation::AddressFromText(whole.data());
+    const auto read = forms::AddressFromText(whole.data());
     Promise(read && std::equal(read->begin(), read->end(), address), "an address comes back from its text");
     const int capacity = static_cast<int>(input.Below(30)) - 2;
     std::vector<char> cut = RoomFor<char>(capacity);
@@ -197,11 +197,11 @@ void CheckGuids(Manager& manager, Input& input)
     auto* const bytes = reinterpret_cast<unsigned char*>(&guid);
     for (std::size_t i = 0; i < sizeof(guid); ++i)
         bytes[i] = input.Byte();
-    const auto read = simulation::GuidFromText(manager.GUID2String(guid));
+    const auto read = forms::GuidFromText(manager.GUID2String(guid));
     Promise(read && std::memcmp(&*read, &guid, sizeof(guid)) == 0, "a GUID comes back from its text");
     const std::string text(input.Bytes(60));
-    const auto other = simulation::GuidFromText(text);
-    Promise(!other || simulation::GuidText(*other).size() == text.size(), "a GUID's text has one length");
+    const auto other = forms::GuidFromText(text);
+    Promise(!other || forms::GuidText(*other).size() == text.size(), "a GUID's text has one length");
 }
 
 void CheckReasons(Manager& manager, Input& input)
@@ -217,13 +217,13 @@ void CheckUtf8(Input& input)
 {
     const std::string text(input.Bytes(200));
     bool illFormed = false;
-    const std::wstring wide = simulation::WideFromUtf8(text, &illFormed);
-    Promise(illFormed == !simulation::IsUtf8(text), "what is no UTF-8 is noticed");
-    const std::string back = simulation::Utf8FromWide(wide);
+    const std::wstring wide = forms::WideFromUtf8(text, &illFormed);
+    Promise(illFormed == !forms::IsUtf8(text), "what is no UTF-8 is noticed");
+    const std::string back = forms::Utf8FromWide(wide);
     Promise(illFormed || back == text, "UTF-8 comes back from wide text");
-    Promise(simulation::IsUtf8(back) && simulation::WideFromUtf8(back) == wide, "what comes out is UTF-8");
-    const auto hex = simulation::BytesFromHex(text);
-    Promise(!hex || simulation::HexText(*hex).size() == text.size(), "hexadecimal digits come in pairs");
+    Promise(forms::IsUtf8(back) && forms::WideFromUtf8(back) == wide, "what comes out is UTF-8");
+    const auto hex = forms::BytesFromHex(text);
+    Promise(!hex || forms::HexText(*hex).size() == text.size(), "hexadecimal digits come in pairs");
     const std::vector<std::uint8_t> name = simulation::FriendlyName(back);
     const auto friendly = simulation::TextOfFriendlyName(name);
     Promise(back.find('\0') != std::string::npos || (friendly && *friendly == back), "a scheme's name comes back");

@@ -1,9 +1,9 @@
 #include "import/capture_encoding.h"
 
+#include "forms/utf8.h"
 #include "import/capture_text.h"
 #include "import/code_page_guess.h"
 #include "simulation/narrow_encoding.h"
-#include "simulation/utf8.h"
 
 namespace calvix::host
 {
@@ -65,7 +65,7 @@ DecodedCapture DecodeCapture(std::string_view bytes, const std::string& source, 
     if (utf16 != 0)
         return Decoded(bytes, source, utf16);
     const bool isNamed = codePage && *codePage != kUtf8CodePage;
-    if (HasMark(bytes) || codePage == kUtf8CodePage || (!isNamed && simulation::IsUtf8(bytes)))
+    if (HasMark(bytes) || codePage == kUtf8CodePage || (!isNamed && forms::IsUtf8(bytes)))
         return {ReadingFrom(source, [&] { return ToUtf8(bytes); }), {}};
     if (isNamed)
         return Decoded(bytes, source, *codePage);

@@ -1,8 +1,8 @@
 #include "import/capture_terms.h"
 
+#include "forms/address_text.h"
+#include "forms/guid_text.h"
 #include "import/channel_frequency.h"
-#include "simulation/guid_text.h"
-#include "simulation/scenario_names.h"
 
 #include <algorithm>
 #include <array>
@@ -55,7 +55,7 @@ std::optional<simulation::MacAddress> AddressIn(std::string_view value)
 {
     std::string text(value);
     std::replace(text.begin(), text.end(), '-', ':');
-    return simulation::AddressFromText(text);
+    return forms::AddressFromText(text);
 }
 
 /// "5 GHz", with a point or a comma in "2.4" and the unit in either alphabet; empty for anything else.
@@ -198,8 +198,7 @@ bool IsAddress(std::string_view text)
 
 bool IsGuid(std::string_view text)
 {
-    return simulation::GuidFromText(text.starts_with('{') ? std::string(text) : "{" + std::string(text) + "}")
-        .has_value();
+    return forms::GuidFromText(text.starts_with('{') ? std::string(text) : "{" + std::string(text) + "}").has_value();
 }
 
 std::int32_t SignalStrength(const CaptureField& field)
@@ -258,7 +257,7 @@ simulation::MacAddress Address(const CaptureField& field)
 std::string GuidText(const CaptureField& field)
 {
     std::string text = field.value.starts_with('{') ? field.value : "{" + field.value + "}";
-    if (!simulation::GuidFromText(text))
+    if (!forms::GuidFromText(text))
         throw Unusable(field, "a GUID");
     std::transform(text.begin(), text.end(), text.begin(),
                    [](char letter)

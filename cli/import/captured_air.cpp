@@ -1,6 +1,6 @@
 #include "import/captured_air.h"
 
-#include "simulation/scenario_names.h"
+#include "forms/address_text.h"
 
 #include <algorithm>
 
@@ -55,7 +55,7 @@ std::vector<AccessPoint> AirOf(const NetworksCapture& capture, std::vector<std::
         for (AccessPoint heard : network.accessPoints)
         {
             AccessPoint* const known = FindAccessPoint(air, heard.bssid);
-            const std::string address = "the access point " + simulation::AddressText(heard.bssid);
+            const std::string address = "the access point " + forms::AddressText(heard.bssid);
             if (known != nullptr && IsSame(*known, heard))
             {
                 Merge(*known, heard);
@@ -68,7 +68,7 @@ std::vector<AccessPoint> AirOf(const NetworksCapture& capture, std::vector<std::
                 warnings.push_back(
                     address +
                     " is listed again with another name, channel or security: that one has the made-up address " +
-                    simulation::AddressText(heard.bssid));
+                    forms::AddressText(heard.bssid));
             }
             air.push_back(heard);
         }

@@ -1,6 +1,6 @@
 #include "import/channel_frequency.h"
 
-#include "simulation/scenario_names.h"
+#include "forms/channel.h"
 
 namespace calvix::host
 {
@@ -27,7 +27,7 @@ std::optional<std::uint32_t> CapturedFrequency(std::string_view band, std::uint3
 {
     if (band == "5" && !IsListedAs5GHz(channel))
         return std::nullopt;
-    return simulation::ChannelFrequency(band, channel);
+    return forms::ChannelFrequency(band, channel);
 }
 
 } // namespace calvix::host

@@ -4,7 +4,7 @@
 #include "import/file_path.h"
 #include "import/made_profile.h"
 #include "simulation/computer.h"
-#include "simulation/guid_text.h"
+#include "forms/guid_text.h"
 #include "text_forms.h"
 
 #include <algorithm>
@@ -253,7 +253,7 @@ std::size_t ListedNetworks(const simulation::Scenario& scenario)
     if (scenario.adapters.empty())
         return 0;
     simulation::Computer computer(scenario);
-    const GUID adapter = *simulation::GuidFromText(scenario.adapters.front().guid);
+    const GUID adapter = *forms::GuidFromText(scenario.adapters.front().guid);
     DWORD version = 0;
     HANDLE client = nullptr;
     WLAN_AVAILABLE_NETWORK_LIST* list = nullptr;

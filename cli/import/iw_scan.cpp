@@ -2,7 +2,6 @@
 
 #include "import/capture_text.h"
 #include "import/heard_access_point.h"
-#include "simulation/scenario_names.h"
 #include "text_forms.h"
 
 #include <algorithm>
@@ -42,15 +41,7 @@ std::optional<simulation::MacAddress> StartOf(std::string_view line)
 {
     if (!line.starts_with(kBssStart))
         return std::nullopt;
-    return simulation::AddressFromText(std::string(line.substr(kBssStart.size(), kAddressSize)));
-}
-
-int HexDigit(char letter)
-{
-    if (letter >= '0' && letter <= '9')
-        return letter - '0';
-    const char low = static_cast<char>(letter | 0x20);
-    return low >= 'a' && low <= 'f' ? low - 'a' + 10 : -1;
+    return forms::AddressFromText(std::string(line.substr(kBssStart.size(), kAddressSize)));
 }
 
 /// iw prints control characters, blanks at the ends, backslashes and, in most versions, all that is not ASCII as \xNN.
@@ -59,10 +50,10 @@ std::string Unescape(std::string_view text)
     std::string bytes;
     for (std::size_t i = 0; i < text.size(); ++i)
     {
-        const bool escaped = text[i] == '\\' && i + 3 < text.size() && text[i + 1] == 'x' &&
-                             HexDigit(text[i + 2]) >= 0 && HexDigit(text[i + 3]) >= 0;
-        bytes += escaped ? static_cast<char>(HexDigit(text[i + 2]) * 16 + HexDigit(text[i + 3])) : text[i];
-        i += escaped ? 3 : 0;
+        const bool mark = text.substr(i, 2) == "\\x" && i + 3 < text.size();
+        const auto byte = mark ? forms::BytesFromHex(text.substr(i + 2, 2)) : std::nullopt;
+        bytes += byte ? static_cast<char>(byte->front()) : text[i];
+        i += byte ? 3U : 0U;
     }
     return bytes;
 }
@@ -312,7 +303,7 @@ private:
 
     static std::string MacOf(const HeardBss& bss)
     {
-        return "the access point " + simulation::AddressText(bss.accessPoint.bssid);
+        return "the access point " + forms::AddressText(bss.accessPoint.bssid);
     }
 
     void Add(HeardBss& bss)

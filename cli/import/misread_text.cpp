@@ -1,7 +1,7 @@
 #include "import/misread_text.h"
 
+#include "forms/utf8.h"
 #include "simulation/narrow_encoding.h"
-#include "simulation/utf8.h"
 #include "text_forms.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ std::optional<std::string> MisreadUtf8(std::string_view text)
             continue;
         bool replaced = false;
         std::string bytes = simulation::EncodeNarrow(codePage, Widen(text), '?', true, replaced);
-        if (!replaced && !HasOnlyAscii(bytes) && simulation::IsUtf8(bytes))
+        if (!replaced && !HasOnlyAscii(bytes) && forms::IsUtf8(bytes))
             return bytes;
     }
     return std::nullopt;

@@ -4,7 +4,7 @@
 #include "import/capture_text.h"
 #include "import/field_roles.h"
 #include "import/misread_text.h"
-#include "simulation/scenario_names.h"
+#include "forms/address_text.h"
 
 #include <algorithm>
 #include <array>
@@ -315,7 +315,7 @@ CapturedInterface MadeUpInterface(const std::string& name, std::size_t index)
     madeUp.name = name;
     madeUp.description = "Wireless adapter";
     madeUp.guid =
-        "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E" + simulation::HexText({static_cast<std::uint8_t>(index + 1)}) + "}";
+        "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E" + forms::HexText(std::vector{static_cast<std::uint8_t>(index + 1)}, forms::Letters::lower) + "}";
     madeUp.address = {0x02, 0x00, 0x5E, 0x10, 0x00, static_cast<std::uint8_t>(index + 1)};
     return madeUp;
 }

@@ -1,12 +1,13 @@
 #include "import/nmcli_list.h"
 
+#include "forms/address_text.h"
+#include "forms/hex_text.h"
 #include "import/capture_text.h"
 #include "import/channel_frequency.h"
 #include "import/column_roles.h"
 #include "import/heard_access_point.h"
 #include "import/misread_text.h"
 #include "import/value_table.h"
-#include "simulation/scenario_names.h"
 
 #include <algorithm>
 
@@ -126,7 +127,7 @@ private:
     simulation::AccessPoint Interpret(const ValueRow& row)
     {
         simulation::AccessPoint accessPoint;
-        const auto address = simulation::AddressFromText(Cell(row, ListColumn::bssid));
+        const auto address = forms::AddressFromText(Cell(row, ListColumn::bssid));
         const int signal = WholeNumber(Cell(row, ListColumn::signal));
         if (!address)
             throw LineError(row.line, "\"" + Cell(row, ListColumn::bssid) + "\" is no address of six bytes");
@@ -177,7 +178,7 @@ private:
     {
         const std::string hex = Cell(row, ListColumn::ssidHex);
         std::string name = Cell(row, ListColumn::ssid);
-        if (std::optional<simulation::Bytes> bytes = simulation::BytesFromHex(hex); bytes && !bytes->empty())
+        if (std::optional<simulation::Bytes> bytes = forms::BytesFromHex(hex); bytes && !bytes->empty())
             return bytes->size() <= 32 ? *bytes : throw LineError(row.line, "this SSID is longer than 32 bytes");
         name = name == "--" ? "" : name;
         if (name.size() > 32)
@@ -203,7 +204,7 @@ private:
             SetOldSecurity(row.line, cell, enterprise, accessPoint);
         SetCipher(Cell(row, ListColumn::rsnFlags) + " " + Cell(row, ListColumn::wpaFlags), accessPoint);
         if (wpa3 && wpa2)
-            Report(row.line, "the access point " + simulation::AddressText(accessPoint.bssid) +
+            Report(row.line, "the access point " + forms::AddressText(accessPoint.bssid) +
                                  " takes both WPA2 and WPA3; the scenario has WPA3");
     }
 

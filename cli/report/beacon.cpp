@@ -1,5 +1,6 @@
 #include "report/beacon.h"
 
+#include "forms/channel.h"
 #include "report/beacon_elements.h"
 
 #include <algorithm>
@@ -18,12 +19,6 @@ struct WideChannel
     unsigned widthMhz = 20;
     unsigned long centreMhz = 0;
 };
-
-/// Channel numbers count steps of 5 MHz from here.
-unsigned long BandBaseMhz(unsigned long mhz)
-{
-    return mhz < 3000 ? 2407 : mhz < 5930 ? 5000 : 5950;
-}
 
 /// The 40 MHz channel of HT operation, which names the side on which the second half lies.
 std::optional<WideChannel> HtChannel(const BeaconElements& elements, unsigned long primaryMhz)
@@ -89,7 +84,7 @@ std::optional<WideChannel> EhtChannel(const BeaconElements& elements, unsigned l
 /// The newest element that tells of the channel has the last word: older ones name the part that old adapters can use.
 std::optional<WideChannel> ChannelOf(const BeaconElements& elements, unsigned long primaryMhz)
 {
-    const unsigned long base = BandBaseMhz(primaryMhz);
+    const unsigned long base = forms::ChannelBaseMhz(static_cast<std::uint32_t>(primaryMhz));
     if (const auto eht = EhtChannel(elements, base))
         return eht;
     if (const auto he = HeChannel(elements, base))

@@ -2,6 +2,7 @@
 
 #include "core/wlan_records.h"
 #include "describe.h"
+#include "forms/xml_text.h"
 #include "platform/records/wlan_constants.h"
 #include "report/take_picture.h"
 #include "text_forms.h"
@@ -54,18 +55,6 @@ std::string TextOfElement(const std::string& xml, const std::string& element)
     return xml.substr(begin + opening.size(), end - begin - opening.size());
 }
 
-std::string WithoutEntities(std::string text)
-{
-    static constexpr std::pair<const char*, char> entities[] = {
-        {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}, {"&amp;", '&'}};
-    for (const auto& [entity, character] : entities)
-    {
-        for (std::size_t at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1))
-            text.replace(at, std::char_traits<char>::length(entity), 1, character);
-    }
-    return text;
-}
-
 } // namespace
 
 void RecordedAdapter::Hear(const AirQuestion& asked, const std::vector<HeardAccessPoint>& accessPoints, unsigned second)
@@ -102,7 +91,7 @@ void RecordedAdapter::HearProfile(const std::wstring& xml)
     const std::string document = Narrow(xml);
     const std::string mode = TextOfElement(document, "connectionMode");
     if (mode == "auto" || mode == "manual")
-        m_modes[WithoutEntities(TextOfElement(document, "name"))] = mode;
+        m_modes[forms::UnescapedXml(TextOfElement(document, "name"))] = mode;
 }
 
 void RecordedAdapter::HearConnection(const WLAN_CONNECTION_ATTRIBUTES& attributes, unsigned second)

@@ -4,10 +4,10 @@
 #include "core/wlan_records.h"
 #include "describe.h"
 #include "failure_words.h"
+#include "forms/guid_text.h"
 #include "import/file_path.h"
 #include "report/recorded_adapter.h"
 #include "report/take_picture.h"
-#include "simulation/guid_text.h"
 #include "text_forms.h"
 #include "wrappers/recording/replay.h"
 
@@ -19,7 +19,7 @@ namespace calvix::host
 namespace
 {
 
-using simulation::GuidText;
+using forms::GuidText;
 
 /// Keeps what a session learns apart for each adapter.
 class SessionAir final : public SessionListener

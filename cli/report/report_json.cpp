@@ -1,5 +1,6 @@
 #include "report/report_json.h"
 
+#include "forms/hex_text.h"
 #include "json_forms.h"
 
 #include <nlohmann/json.hpp>
@@ -118,10 +119,7 @@ std::string WithoutMarkup(const std::string& json)
     {
         if (c == '<' || c == '>' || c == '&')
         {
-            constexpr const char* digits = "0123456789abcdef";
-            safe += "\\u00";
-            safe += digits[static_cast<unsigned char>(c) >> 4U];
-            safe += digits[static_cast<unsigned char>(c) & 0x0fU];
+            safe += "\\u00" + forms::HexText(std::string_view(&c, 1), forms::Letters::lower);
         }
         else
         {

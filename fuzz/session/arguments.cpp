@@ -1,5 +1,6 @@
 #include "session/arguments.h"
 
+#include "forms/utf8.h"
 #include "session/world.h"
 
 #include "support/test_worlds.h"
@@ -42,9 +43,9 @@ const wchar_t* Arguments::WideText()
     case 1:
         return Text(std::wstring(m_input.Byte() * 4U, L'n'));
     case 2:
-        return Text(simulation::WideFromUtf8(m_input.Bytes(40)));
+        return Text(forms::WideFromUtf8(m_input.Bytes(40)));
     default:
-        return Text(simulation::WideFromUtf8(NetworkName(m_input)));
+        return Text(forms::WideFromUtf8(NetworkName(m_input)));
     }
 }
 
@@ -70,7 +71,7 @@ const wchar_t* Arguments::Document()
     std::string xml = ProfileDocument(m_input);
     if (m_input.OneIn(4))
         xml.resize(xml.size() * m_input.Byte() / 256);
-    return Text(simulation::WideFromUtf8(xml));
+    return Text(forms::WideFromUtf8(xml));
 }
 
 DOT11_SSID* Arguments::Ssid()
@@ -84,7 +85,7 @@ DOT11_SSID* Arguments::Ssid()
 WLAN_CONNECTION_ATTRIBUTES* Arguments::Connection()
 {
     WLAN_CONNECTION_ATTRIBUTES connection{};
-    const std::wstring name = simulation::WideFromUtf8(NetworkName(m_input));
+    const std::wstring name = forms::WideFromUtf8(NetworkName(m_input));
     name.copy(connection.strProfileName, WLAN_MAX_NAME_LENGTH - 1);
     connection.wlanAssociationAttributes.dot11Ssid = *Ssid();
     connection.wlanAssociationAttributes.dot11BssType = static_cast<DOT11_BSS_TYPE>(m_input.Below(4));
@@ -95,7 +96,7 @@ WLAN_CONNECTION_ATTRIBUTES* Arguments::Connection()
 WLAN_CONNECTION_NOTIFICATION_DATA* Arguments::Notification()
 {
     WLAN_CONNECTION_NOTIFICATION_DATA data{};
-    const std::wstring name = simulation::WideFromUtf8(NetworkName(m_input));
+    const std::wstring name = forms::WideFromUtf8(NetworkName(m_input));
     name.copy(data.strProfileName, WLAN_MAX_NAME_LENGTH - 1);
     data.dot11Ssid = *Ssid();
     data.dot11BssType = static_cast<DOT11_BSS_TYPE>(m_input.Below(4));

@@ -3,7 +3,6 @@
 #include "input.h"
 
 #include "simulation/scenario.h"
-#include "simulation/utf8.h"
 
 #include <string>
 

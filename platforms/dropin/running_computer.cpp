@@ -2,9 +2,9 @@
 
 #include "dropin/module.h"
 #include "dropin/settings.h"
+#include "forms/utf8.h"
 #include "simulation/computer.h"
 #include "simulation/real_time.h"
-#include "simulation/utf8.h"
 
 #include <windows.h>
 
@@ -32,7 +32,7 @@ void Report(const char* problem)
     const std::string line = "wlanapi.dll of Calvix: " + std::string(problem) + "\n";
     std::fputs(line.c_str(), stderr);
     std::fflush(stderr);
-    ::OutputDebugStringW(simulation::WideFromUtf8(line).c_str());
+    ::OutputDebugStringW(forms::WideFromUtf8(line).c_str());
 }
 
 // Nobody destroys it: its threads run until the process ends, and end with it wherever they are.

@@ -1,7 +1,7 @@
 #include "dropin/settings.h"
 
+#include "forms/utf8.h"
 #include "simulation/real_time.h"
-#include "simulation/utf8.h"
 
 #include <windows.h>
 
@@ -30,7 +30,7 @@ bool Exists(const std::wstring& path)
 // The simulation's own reader takes a narrow path, which cannot name every file.
 simulation::Scenario LoadScenario(const std::wstring& path)
 {
-    const std::string name = simulation::Utf8FromWide(path);
+    const std::string name = forms::Utf8FromWide(path);
     std::ifstream file(path.c_str(), std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
     if (!file.is_open() || file.bad())
@@ -52,7 +52,7 @@ simulation::Scenario ChosenScenario(const std::wstring& folder)
 
 unsigned int ChosenSpeed()
 {
-    return simulation::ReadSpeed(simulation::Utf8FromWide(EnvironmentVariable(L"CALVIX_SPEED")), "CALVIX_SPEED");
+    return simulation::ReadSpeed(forms::Utf8FromWide(EnvironmentVariable(L"CALVIX_SPEED")), "CALVIX_SPEED");
 }
 
 } // namespace

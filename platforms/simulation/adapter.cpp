@@ -1,10 +1,10 @@
 #include "simulation/adapter.h"
 
+#include "forms/guid_text.h"
+#include "forms/utf8.h"
 #include "platform/records/error_numbers.h"
 #include "platform/records/wlan_constants.h"
-#include "simulation/guid_text.h"
 #include "simulation/notification_records.h"
-#include "simulation/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -22,7 +22,7 @@ constexpr std::size_t longestDescription = WLAN_MAX_NAME_LENGTH - 1;
 
 GUID ReadGuid(const std::string& text)
 {
-    const auto guid = GuidFromText(text);
+    const auto guid = forms::GuidFromText(text);
     if (!guid)
     {
         throw ScenarioError("adapter " + text + ": this is not a GUID");
@@ -48,7 +48,7 @@ WLAN_PHY_RADIO_STATE RadioRecord(DWORD index, const PhyDescription& phy)
 
 Adapter::Adapter(const AdapterDescription& description, const Surroundings& surroundings)
     : m_description(description), m_guid(ReadGuid(description.guid)),
-      m_descriptionText(WideFromUtf8(description.description)), m_around(surroundings)
+      m_descriptionText(forms::WideFromUtf8(description.description)), m_around(surroundings)
 {
     if (m_descriptionText.size() > longestDescription || m_description.phys.size() > WLAN_MAX_PHY_INDEX)
     {
@@ -81,9 +81,10 @@ void Adapter::LoadProfiles()
                                 std::to_string(refusal.reason) + ": " + stored.xml);
         }
         const std::wstring name = document->name;
-        if (!m_profiles.Append({WideFromUtf8(stored.xml), std::move(*document)}))
+        if (!m_profiles.Append({forms::WideFromUtf8(stored.xml), std::move(*document)}))
         {
-            throw ScenarioError("adapter " + m_description.guid + ": two profiles are called " + Utf8FromWide(name));
+            throw ScenarioError("adapter " + m_description.guid + ": two profiles are called " +
+                                forms::Utf8FromWide(name));
         }
     }
     m_description.profiles.clear();
@@ -92,7 +93,7 @@ void Adapter::LoadProfiles()
 void Adapter::Restore(const Connection& connection)
 {
     ConnectionRequest request;
-    request.profile = m_profiles.Find(WideFromUtf8(connection.profile));
+    request.profile = m_profiles.Find(forms::WideFromUtf8(connection.profile));
     if (request.profile == nullptr)
     {
         throw ScenarioError("adapter " + m_description.guid + ": connected by a profile that it does not have, " +
@@ -117,12 +118,12 @@ AdapterDescription Adapter::Describe() const
     AdapterDescription now = m_description;
     for (const auto& profile : m_profiles.InOrder())
     {
-        now.profiles.push_back({Utf8FromWide(profile->xml)});
+        now.profiles.push_back({forms::Utf8FromWide(profile->xml)});
     }
     now.connection.reset();
     if (m_link)
     {
-        now.connection = Connection{Utf8FromWide(m_link->Profile().name), m_link->accessPoint.bssid};
+        now.connection = Connection{forms::Utf8FromWide(m_link->Profile().name), m_link->accessPoint.bssid};
     }
     return now;
 }

@@ -1,5 +1,6 @@
 #include "simulation/channel_elements.h"
 
+#include "forms/channel.h"
 #include "platform/records/wlan_constants.h"
 
 #include <algorithm>
@@ -27,27 +28,26 @@ enum ExtensionId : std::uint8_t
     ehtCapabilities = 108
 };
 
-/// Channel numbers count steps of 5 MHz from here.
-std::uint32_t BaseMhz(std::uint32_t mhz)
-{
-    return mhz < 3000 ? 2407 : mhz < 5940 ? 5000 : 5950;
-}
-
 /// The primary channel among the 20 MHz channels of its band.
 struct Primary
 {
-    explicit Primary(const AccessPoint& accessPoint) : mhz(accessPoint.frequencyKhz / 1000), base(BaseMhz(mhz)) {}
+    explicit Primary(const AccessPoint& accessPoint)
+        : mhz(accessPoint.frequencyKhz / 1000), base(forms::ChannelBaseMhz(mhz))
+    {
+    }
 
     bool IsIn24GhzBand() const { return mhz < 3000; }
-    bool IsIn6GhzBand() const { return mhz >= 5940; }
-    std::uint8_t Number() const { return static_cast<std::uint8_t>((mhz - base) / 5); }
+    bool IsIn6GhzBand() const { return mhz >= 5925; }
+    std::uint8_t Number() const { return static_cast<std::uint8_t>(forms::ChannelNumber(mhz * 1000)); }
 
     /// Number of the middle of the channel of this width that the primary one is a part of. Wide channels begin at 5180,
     /// 5745 and 5955 MHz, each as far from the next as it is wide.
     std::uint8_t Centre(std::uint32_t width) const
     {
+        if (width <= 20)
+            return Number();
         if (IsIn24GhzBand())
-            return static_cast<std::uint8_t>(Number() + (width > 20 ? (Number() <= 7 ? 2 : -2) : 0));
+            return static_cast<std::uint8_t>(Number() + (Number() <= 7 ? 2 : -2));
         const std::uint32_t first = IsIn6GhzBand() ? 5955 : mhz < 5735 ? 5180 : 5745;
         const std::uint32_t begin = first + (mhz < first ? 0 : (mhz - first) / width * width);
         return static_cast<std::uint8_t>((begin + width / 2 - 10 - base) / 5);

@@ -1,5 +1,6 @@
 #include "simulation/information_elements.h"
 
+#include "forms/channel.h"
 #include "platform/records/wlan_constants.h"
 #include "simulation/channel_elements.h"
 
@@ -45,13 +46,6 @@ void AppendRates(Bytes& elements, const Bytes& rates)
     {
         Append(elements, extendedRatesElement, Bytes(split, rates.end()));
     }
-}
-
-std::uint8_t Channel24Ghz(std::uint32_t frequencyKhz)
-{
-    constexpr std::uint32_t channel14 = 2'484'000;
-    constexpr std::uint32_t channel0 = 2'407'000;
-    return static_cast<std::uint8_t>(frequencyKhz >= channel14 ? 14 : (frequencyKhz - channel0) / 5'000);
 }
 
 // The numbers of 802.11's RSN element, behind its OUI.
@@ -148,7 +142,8 @@ Bytes InformationElements(const HeardBss& bss)
     AppendRates(elements, SupportedRates(bss.accessPoint));
     if (IsIn24GhzBand(bss.accessPoint))
     {
-        Append(elements, channelElement, {Channel24Ghz(bss.accessPoint.frequencyKhz)});
+        Append(elements, channelElement,
+               {static_cast<std::uint8_t>(forms::ChannelNumber(bss.accessPoint.frequencyKhz))});
     }
     AppendSecurity(elements, bss.security);
     const Bytes channel = ChannelElements(bss.accessPoint);

@@ -1,5 +1,6 @@
 #include "simulation/interface_answers.h"
 
+#include "forms/channel.h"
 #include "simulation/service_records.h"
 
 #include <algorithm>
@@ -77,9 +78,8 @@ InterfaceAnswer AnswerConnection(Blocks& blocks, const Adapter& adapter)
 // The customary channel number of the connection's frequency.
 InterfaceAnswer AnswerChannel(Blocks& blocks, const Adapter& adapter)
 {
-    const std::uint32_t megahertz = adapter.CurrentLink()->accessPoint.frequencyKhz / 1000;
-    const std::uint32_t base = megahertz < 3000 ? 2407 : megahertz < 5950 ? 5000 : 5950;
-    return AnswerNumber(blocks, static_cast<ULONG>(megahertz == 2484 ? 14 : (megahertz - base) / 5));
+    const std::uint32_t frequencyKhz = adapter.CurrentLink()->accessPoint.frequencyKhz;
+    return AnswerNumber(blocks, static_cast<ULONG>(forms::ChannelNumber(frequencyKhz)));
 }
 
 // The platform's LONG, which has 4 bytes.

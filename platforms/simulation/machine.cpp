@@ -1,8 +1,8 @@
 #include "simulation/machine.h"
 
+#include "forms/utf8.h"
 #include "simulation/narrow_encoding.h"
 #include "simulation/notification_records.h"
-#include "simulation/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -71,13 +71,13 @@ std::string Machine::NarrowFromUtf8(std::string_view text) const
 {
     bool replaced = false;
     return codePage == kUtf8CodePage ? std::string(text)
-                                     : EncodeNarrow(codePage, WideFromUtf8(text), '?', false, replaced);
+                                     : EncodeNarrow(codePage, forms::WideFromUtf8(text), '?', false, replaced);
 }
 
 std::string Machine::Utf8FromNarrow(std::string_view text) const
 {
     bool illFormed = false;
-    return codePage == kUtf8CodePage ? std::string(text) : Utf8FromWide(DecodeNarrow(codePage, text, illFormed));
+    return codePage == kUtf8CodePage ? std::string(text) : forms::Utf8FromWide(DecodeNarrow(codePage, text, illFormed));
 }
 
 void Machine::SetPowerSetting(WLAN_POWER_SETTING setting)

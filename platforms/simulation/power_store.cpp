@@ -1,9 +1,9 @@
 #include "simulation/power_store.h"
 
+#include "forms/guid_text.h"
+#include "forms/utf8.h"
 #include "platform/records/power_records.h"
-#include "simulation/guid_text.h"
 #include "simulation/scenario.h"
-#include "simulation/utf8.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ namespace
 
 GUID SchemeGuid(const std::string& text)
 {
-    const std::optional<GUID> guid = GuidFromText(text);
+    const std::optional<GUID> guid = forms::GuidFromText(text);
     if (!guid)
         throw ScenarioError("power scheme " + text + ": not a GUID with braces");
     return *guid;
@@ -44,7 +44,7 @@ LegacyPowerScheme DescribeLegacy(UINT id, const PowerStore::LegacyScheme& scheme
 {
     const USER_POWER_POLICY& user = scheme.policy.user;
     return {id,
-            Utf8FromWide(scheme.name),
+            forms::Utf8FromWide(scheme.name),
             static_cast<std::uint32_t>(user.IdleTimeoutAc),
             static_cast<std::uint32_t>(user.IdleTimeoutDc),
             static_cast<std::uint32_t>(user.VideoTimeoutAc),
@@ -80,7 +80,7 @@ void PowerStore::ReadSchemes(const PowerDescription& description)
 void PowerStore::ReadLegacySchemes(const PowerDescription& description)
 {
     for (const LegacyPowerScheme& each : description.legacySchemes)
-        if (!m_legacy.emplace(each.id, LegacyScheme{WideFromUtf8(each.name), PolicyOf(each)}).second)
+        if (!m_legacy.emplace(each.id, LegacyScheme{forms::WideFromUtf8(each.name), PolicyOf(each)}).second)
             throw ScenarioError("legacy power scheme " + std::to_string(each.id) + ": there is another one");
     if (!description.activeLegacyScheme)
         return;
@@ -95,16 +95,16 @@ void PowerStore::Describe(PowerDescription& description) const
     description.schemes.clear();
     for (const Scheme& scheme : m_schemes)
     {
-        PowerScheme described{GuidText(scheme.guid), scheme.name, {}};
+        PowerScheme described{forms::GuidText(scheme.guid), scheme.name, {}};
         for (const auto& [place, value] : scheme.values)
-            described.values.push_back({GuidText(place.first), GuidText(place.second),
+            described.values.push_back({forms::GuidText(place.first), forms::GuidText(place.second),
                                         static_cast<std::uint32_t>(value.first),
                                         static_cast<std::uint32_t>(value.second)});
         description.schemes.push_back(std::move(described));
     }
     description.activeScheme.reset();
     if (m_active)
-        description.activeScheme = GuidText(*m_active);
+        description.activeScheme = forms::GuidText(*m_active);
     description.legacySchemes.clear();
     for (const auto& [id, scheme] : m_legacy)
         description.legacySchemes.push_back(DescribeLegacy(id, scheme));

@@ -1,8 +1,9 @@
 #include "simulation/profile_document.h"
 
+#include "forms/hex_text.h"
+#include "forms/utf8.h"
 #include "platform/records/error_numbers.h"
 #include "platform/records/wlan_constants.h"
-#include "simulation/utf8.h"
 
 #include <rapidxml/rapidxml.hpp>
 
@@ -84,35 +85,12 @@ bool ReadFlag(const Element& parent, const char* name, bool otherwise)
 
 std::wstring ReadName(const Element& root)
 {
-    std::wstring name = WideFromUtf8(ElementText(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
+    std::wstring name = forms::WideFromUtf8(ElementText(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
     if (name.empty() || name.size() > longestName)
     {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_NAME);
     }
     return name;
-}
-
-int HexDigit(char digit)
-{
-    constexpr std::string_view digits = "0123456789ABCDEFabcdef";
-    const std::size_t value = digits.find(digit);
-    return value == std::string_view::npos ? -1 : static_cast<int>(value < 16 ? value : value - 6);
-}
-
-std::optional<Bytes> FromHex(std::string_view hex)
-{
-    Bytes bytes;
-    for (std::size_t at = 0; at + 1 < hex.size(); at += 2)
-    {
-        const int high = HexDigit(hex[at]);
-        const int low = HexDigit(hex[at + 1]);
-        if (high < 0 || low < 0)
-        {
-            return std::nullopt;
-        }
-        bytes.push_back(static_cast<std::uint8_t>(high * 16 + low));
-    }
-    return hex.size() % 2 == 0 ? std::optional(bytes) : std::nullopt;
 }
 
 // Where both are given the hexadecimal form counts; the name is for people.
@@ -121,7 +99,8 @@ Bytes ReadSsid(const Element& config)
     const Element& ssid = Child(config, "SSID");
     const Element* const hex = ssid.first_node("hex");
     const std::string_view name = hex == nullptr ? ElementText(Child(ssid, "name")) : std::string_view();
-    const auto bytes = hex != nullptr ? FromHex(ElementText(*hex)) : std::optional(Bytes(name.begin(), name.end()));
+    const auto bytes =
+        hex != nullptr ? forms::BytesFromHex(ElementText(*hex)) : std::optional(Bytes(name.begin(), name.end()));
     if (!bytes || bytes->empty() || bytes->size() > DOT11_SSID_MAX_LENGTH)
     {
         Refuse(WLAN_REASON_CODE_PROFILE_SSID_INVALID);
@@ -293,13 +272,8 @@ std::wstring WithProtectedKey(const std::wstring& xml)
     {
         return xml;
     }
-    std::wstring hidden(protectedMark);
-    for (const char byte : Utf8FromWide(*key))
-    {
-        constexpr std::wstring_view digits = L"0123456789ABCDEF";
-        hidden += digits[static_cast<unsigned char>(byte) / 16];
-        hidden += digits[static_cast<unsigned char>(byte) % 16];
-    }
+    const std::wstring hidden =
+        std::wstring(protectedMark) + forms::WideFromUtf8(forms::HexText(forms::Utf8FromWide(*key)));
     std::wstring result = xml;
     ReplaceText(result, L"protected", L"true");
     ReplaceText(result, L"keyMaterial", hidden);
@@ -313,14 +287,14 @@ std::wstring WithPlainKey(const std::wstring& xml)
     {
         return xml;
     }
-    const auto bytes = FromHex(Utf8FromWide(std::wstring_view(*key).substr(protectedMark.size())));
+    const auto bytes = forms::BytesFromHex(forms::Utf8FromWide(std::wstring_view(*key).substr(protectedMark.size())));
     if (!bytes)
     {
         return xml;
     }
     std::wstring result = xml;
     ReplaceText(result, L"protected", L"false");
-    ReplaceText(result, L"keyMaterial", WideFromUtf8(std::string(bytes->begin(), bytes->end())));
+    ReplaceText(result, L"keyMaterial", forms::WideFromUtf8(std::string(bytes->begin(), bytes->end())));
     return result;
 }
 

@@ -1,7 +1,8 @@
+#include "forms/hex_text.h"
+#include "forms/utf8.h"
+#include "forms/xml_text.h"
 #include "simulation/scenario.h"
-#include "simulation/scenario_names.h"
 #include "simulation/security_suite.h"
-#include "simulation/utf8.h"
 
 #include <algorithm>
 
@@ -10,35 +11,6 @@ namespace calvix::simulation
 
 namespace
 {
-
-std::string Escaped(const std::string& text)
-{
-    std::string result;
-    for (const char character : text)
-    {
-        switch (character)
-        {
-        case '&':
-            result += "&amp;";
-            break;
-        case '<':
-            result += "&lt;";
-            break;
-        case '>':
-            result += "&gt;";
-            break;
-        case '"':
-            result += "&quot;";
-            break;
-        case '\'':
-            result += "&apos;";
-            break;
-        default:
-            result += character;
-        }
-    }
-    return result;
-}
 
 /// Writes elements as the service does: one a line, indented by tabs.
 class XmlWriter
@@ -57,7 +29,7 @@ public:
     }
     void Element(const std::string& name, const std::string& text)
     {
-        Line("<" + name + ">" + Escaped(text) + "</" + name + ">");
+        Line("<" + name + ">" + forms::EscapedXml(text) + "</" + name + ">");
     }
     const std::string& Finish()
     {
@@ -76,23 +48,16 @@ private:
 /// Whether XML can hold the text: it has no way to write most control characters.
 bool IsXmlText(const std::string& text)
 {
-    return IsUtf8(text) && std::all_of(text.begin(), text.end(),
-                                       [](char character) { return static_cast<unsigned char>(character) >= 0x20; });
-}
-
-std::string UpperCaseHex(const Bytes& bytes)
-{
-    std::string text = HexText(bytes);
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char digit) { return digit >= 'a' ? static_cast<char>(digit - 32) : digit; });
-    return text;
+    return forms::IsUtf8(text) &&
+           std::all_of(text.begin(), text.end(),
+                       [](char character) { return static_cast<unsigned char>(character) >= 0x20; });
 }
 
 void WriteNetwork(XmlWriter& xml, const ProfileSettings& settings)
 {
     xml.Open("SSIDConfig");
     xml.Open("SSID");
-    xml.Element("hex", UpperCaseHex(settings.ssid));
+    xml.Element("hex", forms::HexText(settings.ssid));
     const std::string name(settings.ssid.begin(), settings.ssid.end());
     if (!name.empty() && IsXmlText(name))
         xml.Element("name", name);
@@ -105,7 +70,7 @@ void WriteNetwork(XmlWriter& xml, const ProfileSettings& settings)
 /// WEP keys and keys of 64 hexadecimal digits are keys already; from a passphrase the key is still to be made.
 const char* KeyType(const ProfileSettings& settings)
 {
-    const bool isKey = settings.encryption == "WEP" || (settings.key.size() == 64 && BytesFromHex(settings.key));
+    const bool isKey = settings.encryption == "WEP" || (settings.key.size() == 64 && forms::BytesFromHex(settings.key));
     return isKey ? "networkKey" : "passPhrase";
 }
 

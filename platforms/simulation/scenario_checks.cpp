@@ -1,10 +1,11 @@
 #include "simulation/scenario_checks.h"
 
+#include "forms/channel.h"
+#include "forms/utf8.h"
 #include "simulation/ascii_case.h"
 #include "simulation/privileges.h"
 #include "simulation/profile_document.h"
 #include "simulation/scenario_forms.h"
-#include "simulation/utf8.h"
 
 #include <algorithm>
 #include <set>
@@ -23,7 +24,7 @@ std::string NameInProfile(const Value& place, const std::string& xml)
         (place.Has("xml") ? place.Member("xml") : place)
             .Refuse("the WLAN service does not take this profile: error " + std::to_string(refusal.error) +
                     ", reason code " + std::to_string(refusal.reason));
-    return Utf8FromWide(document->name);
+    return forms::Utf8FromWide(document->name);
 }
 
 bool IsSame(const std::string& one, const std::string& other)
@@ -59,7 +60,7 @@ void CompleteAccessPoint(const Value& place, const std::string& band, std::uint3
 {
     if (place.Has("channel"))
     {
-        const std::optional<std::uint32_t> frequency = ChannelFrequency(band, channel);
+        const std::optional<std::uint32_t> frequency = forms::ChannelFrequency(band, channel);
         if (!frequency)
             place.Member("channel").Refuse("the " + band + " GHz band has no channel " + std::to_string(channel));
         point.frequencyKhz = *frequency;

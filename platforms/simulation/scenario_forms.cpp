@@ -1,7 +1,9 @@
 #include "simulation/scenario_forms.h"
 
-#include "simulation/guid_text.h"
-#include "simulation/utf8.h"
+#include "forms/address_text.h"
+#include "forms/guid_text.h"
+#include "forms/hex_text.h"
+#include "forms/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,7 +71,7 @@ Json Text::Schema() const
 
 void Guid::Read(const Value& value, std::string& guid) const
 {
-    if (!GuidFromText(value.Text()))
+    if (!forms::GuidFromText(value.Text()))
         value.Refuse(kOtherForm);
     guid = value.Text();
 }
@@ -81,7 +83,7 @@ Json Guid::Schema() const
 
 void Address::Read(const Value& value, MacAddress& address) const
 {
-    const std::optional<MacAddress> read = AddressFromText(value.Text());
+    const std::optional<MacAddress> read = forms::AddressFromText(value.Text());
     if (!read)
         value.Refuse(kOtherForm);
     address = *read;
@@ -94,7 +96,7 @@ Json Address::Schema() const
 
 void Hex::Read(const Value& value, Bytes& bytes) const
 {
-    const std::optional<Bytes> read = BytesFromHex(value.Text());
+    const std::optional<Bytes> read = forms::BytesFromHex(value.Text());
     if (!read)
         value.Refuse("not pairs of hexadecimal digits");
     if (read->size() > most)
@@ -118,7 +120,7 @@ void SsidText::Read(const Value& value, Bytes& ssid) const
 Json SsidText::Write(const Bytes& bytes) const
 {
     const std::string text(bytes.begin(), bytes.end());
-    return IsUtf8(text) ? Json(text) : Discarded();
+    return forms::IsUtf8(text) ? Json(text) : Discarded();
 }
 
 void SchemeName::Read(const Value& value, Bytes& name) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/address_text.h"
+#include "forms/hex_text.h"
 #include "simulation/scenario_names.h"
 #include "simulation/scenario_value.h"
 
@@ -85,7 +87,7 @@ struct Guid
 struct Address
 {
     void Read(const Value& value, MacAddress& address) const;
-    Json Write(const MacAddress& address) const { return AddressText(address); }
+    Json Write(const MacAddress& address) const { return forms::AddressText(address, forms::Letters::lower); }
     Json Schema() const;
 };
 
@@ -95,7 +97,7 @@ struct Hex
     std::size_t most;
 
     void Read(const Value& value, Bytes& bytes) const;
-    Json Write(const Bytes& bytes) const { return HexText(bytes); }
+    Json Write(const Bytes& bytes) const { return forms::HexText(bytes, forms::Letters::lower); }
     Json Schema() const;
 };
 

@@ -3,9 +3,6 @@
 #include "simulation/scenario.h"
 
 #include <cstdint>
-#include <optional>
-#include <string>
-#include <string_view>
 
 namespace calvix::simulation
 {
@@ -30,16 +27,5 @@ inline constexpr Named<RadioSwitch> kSwitchNames[] = {{RadioSwitch::on, "on"}, {
 inline constexpr Named<InternetAccess> kInternetNames[] = {{InternetAccess::reachable, "reachable"},
                                                            {InternetAccess::unresolved, "unresolved"},
                                                            {InternetAccess::unreachable, "unreachable"}};
-
-/// Bytes as pairs of lower-case hexadecimal digits, and back from digits of either case; nothing for other text.
-std::string HexText(const Bytes& bytes);
-std::optional<Bytes> BytesFromHex(std::string_view text);
-
-/// "02:ca:1f:00:00:01"; the reverse takes either case and gives nothing for other text.
-std::string AddressText(const MacAddress& address);
-std::optional<MacAddress> AddressFromText(std::string_view text);
-
-/// The frequency of a channel in kHz; nothing for a channel that the band ("2.4", "5" or "6") does not have.
-std::optional<std::uint32_t> ChannelFrequency(std::string_view band, std::uint32_t channel);
 
 } // namespace calvix::simulation

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/address_text.h"
+#include "forms/hex_text.h"
 #include "simulation/scenario_checks.h"
 #include "simulation/scenario_forms.h"
 
@@ -173,7 +175,8 @@ void Describe(Fields& fields, AdapterDescription& adapter)
     fields.Optional("ihv", requests,
                     ListOf<IhvRequest>{.most = 1024,
                                        .key = "request",
-                                       .identity = [](const IhvRequest& each) { return HexText(each.request); }},
+                                       .identity = [](const IhvRequest& each)
+                                       { return forms::HexText(each.request, forms::Letters::lower); }},
                     "What the adapter's driver answers to the requests of its maker's programs; a request that is not "
                     "listed is not supported.");
     fields.AfterReading([&](const Value& place) { CompleteAdapter(place, requests, adapter); });
@@ -346,7 +349,8 @@ void Describe(Fields& fields, Scenario& scenario)
     fields.Shown("accessPoints", scenario.accessPoints,
                  ListOf<AccessPoint>{.most = 4096,
                                      .key = "bssid",
-                                     .identity = [](const AccessPoint& each) { return AddressText(each.bssid); }},
+                                     .identity = [](const AccessPoint& each)
+                                     { return forms::AddressText(each.bssid, forms::Letters::lower); }},
                  "What is in the air; nothing if left out.");
 }
 

@@ -1,6 +1,6 @@
 #include "simulation/scenario_system.h"
 
-#include "simulation/utf8.h"
+#include "forms/utf8.h"
 
 namespace calvix::simulation
 {
@@ -52,7 +52,7 @@ void AppendUtf16Unit(std::wstring& text, std::uint32_t unit)
 std::vector<std::uint8_t> FriendlyName(const std::string& text)
 {
     std::vector<std::uint8_t> bytes;
-    for (const wchar_t character : WideFromUtf8(text))
+    for (const wchar_t character : forms::WideFromUtf8(text))
     {
         const std::uint32_t value = static_cast<char32_t>(character);
         if (value < kFirstAfterBasicPlane)
@@ -75,7 +75,7 @@ std::optional<std::string> TextOfFriendlyName(const std::vector<std::uint8_t>& b
     if (wide.empty() || wide.back() != L'\0')
         return std::nullopt;
     wide.pop_back();
-    std::string text = Utf8FromWide(wide);
+    std::string text = forms::Utf8FromWide(wide);
     // What is not terminated once, at its end, or not well-formed does not come out as it went in.
     return wide.find(L'\0') == std::wstring::npos && FriendlyName(text) == bytes ? std::optional(text) : std::nullopt;
 }

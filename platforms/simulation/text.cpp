@@ -1,8 +1,9 @@
 #include "simulation/text.h"
 
+#include "forms/guid_text.h"
+#include "forms/utf8.h"
 #include "platform/records/error_numbers.h"
 #include "simulation/narrow_encoding.h"
-#include "simulation/utf8.h"
 
 #include <algorithm>
 #include <string>
@@ -143,7 +144,7 @@ int SimulatedText::MultiByteToWideChar(
     const std::string_view bytes = SourceText(source, sourceLength);
     bool illFormed = false;
     const std::wstring text =
-        actual == CP_UTF8 ? WideFromUtf8(bytes, &illFormed) : DecodeNarrow(actual, bytes, illFormed);
+        actual == CP_UTF8 ? forms::WideFromUtf8(bytes, &illFormed) : DecodeNarrow(actual, bytes, illFormed);
     if (illFormed && (flags & MB_ERR_INVALID_CHARS) != 0)
         return Fail(ERROR_NO_UNICODE_TRANSLATION);
     int size = 0;
@@ -175,7 +176,7 @@ int SimulatedText::WideCharToMultiByte(UINT codePage,
     const char replacement = defaultCharacter != nullptr ? *defaultCharacter : '?';
     bool replaced = false;
     const std::string bytes =
-        utf8 ? Utf8FromWide(text, &replaced)
+        utf8 ? forms::Utf8FromWide(text, &replaced)
              : EncodeNarrow(actual, text, replacement, (flags & WC_NO_BEST_FIT_CHARS) != 0, replaced);
     if (utf8 && replaced && (flags & WC_ERR_INVALID_CHARS) != 0)
         return Fail(ERROR_NO_UNICODE_TRANSLATION);
@@ -188,25 +189,7 @@ int SimulatedText::WideCharToMultiByte(UINT codePage,
 
 int SimulatedText::StringFromGUID2(const GUID& guid, wchar_t* text, int capacity)
 {
-    static constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
-    std::wstring result = L"{";
-    const auto append = [&result](std::uint32_t value, int digits)
-    {
-        while (digits-- > 0)
-            result += kDigits[(value >> (4 * digits)) & 0xF];
-    };
-    append(static_cast<std::uint32_t>(guid.Data1), 8);
-    result += L'-';
-    append(guid.Data2, 4);
-    result += L'-';
-    append(guid.Data3, 4);
-    for (int index = 0; index < 8; ++index)
-    {
-        if (index == 0 || index == 2)
-            result += L'-';
-        append(guid.Data4[index], 2);
-    }
-    result += L'}';
+    const std::wstring result = forms::WideFromUtf8(forms::GuidText(guid));
     const int needed = static_cast<int>(result.size()) + 1;
     if (text == nullptr || capacity < needed)
         return 0;

@@ -1,5 +1,5 @@
+#include "forms/utf8.h"
 #include "simulation/service_records.h"
-#include "simulation/utf8.h"
 #include "simulation/wlan_service.h"
 
 #include <cwchar>
@@ -26,7 +26,7 @@ std::optional<Profile> ReadProfile(const wchar_t* xml, DWORD flags, ProfileRefus
 {
     bool isIllFormed = false;
     std::wstring text = WithPlainKey(xml);
-    const std::string utf8 = Utf8FromWide(text, &isIllFormed);
+    const std::string utf8 = forms::Utf8FromWide(text, &isIllFormed);
     auto document = ParseProfile(isIllFormed ? std::string() : utf8, refusal);
     if (!document)
     {

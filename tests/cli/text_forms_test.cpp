@@ -1,3 +1,4 @@
+#include "forms/channel.h"
 #include "text_forms.h"
 
 #include "table.h"
@@ -89,15 +90,15 @@ TEST(DisplayWidth, CountsColumns)
 
 TEST(Channels, AreNumberedAsPeopleDo)
 {
-    EXPECT_EQ(1u, CustomaryChannel(2412000));
-    EXPECT_EQ(13u, CustomaryChannel(2472000));
-    EXPECT_EQ(14u, CustomaryChannel(2484000));
-    EXPECT_EQ(36u, CustomaryChannel(5180000));
-    EXPECT_EQ(184u, CustomaryChannel(4920000));
-    EXPECT_EQ(1u, CustomaryChannel(5955000));
-    EXPECT_EQ(2u, CustomaryChannel(5935000));
-    EXPECT_EQ(233u, CustomaryChannel(7115000));
-    EXPECT_EQ(0u, CustomaryChannel(2400000));
+    EXPECT_EQ(1u, forms::ChannelNumber(2412000));
+    EXPECT_EQ(13u, forms::ChannelNumber(2472000));
+    EXPECT_EQ(14u, forms::ChannelNumber(2484000));
+    EXPECT_EQ(36u, forms::ChannelNumber(5180000));
+    EXPECT_EQ(184u, forms::ChannelNumber(4920000));
+    EXPECT_EQ(1u, forms::ChannelNumber(5955000));
+    EXPECT_EQ(2u, forms::ChannelNumber(5935000));
+    EXPECT_EQ(233u, forms::ChannelNumber(7115000));
+    EXPECT_EQ(0u, forms::ChannelNumber(2400000));
     EXPECT_EQ("2.4 GHz", BandText(2484000));
     EXPECT_EQ("5 GHz", BandText(5885000));
     EXPECT_EQ("6 GHz", BandText(5955000));

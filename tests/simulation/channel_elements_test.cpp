@@ -32,6 +32,23 @@ TEST(ChannelElements, AreLeftOutWhereNothingIsKnown)
     EXPECT_EQ(Bytes(), ChannelElements(PointOf(6, 2412, 20))) << "an old PHY has none";
 }
 
+TEST(ChannelElements, Channel14IsNotCountedInSteps)
+{
+    const Bytes elements = ChannelElements(PointOf(7, 2484, 20));
+    ASSERT_EQ(52u, elements.size()) << "HT capabilities and HT operation";
+    EXPECT_EQ(61, elements[28]);
+    EXPECT_EQ(14, elements[30]);
+}
+
+TEST(ChannelElements, Channel2Of6GhzBelongsToItsBand)
+{
+    const Bytes elements = ChannelElements(PointOf(10, 5935, 20));
+    ASSERT_EQ(38u, elements.size()) << "HE capabilities and HE operation, but nothing of older PHYs";
+    EXPECT_EQ(36, elements[26]) << "HE operation";
+    EXPECT_EQ(2, elements[33]) << "the primary channel";
+    EXPECT_EQ(2, elements[35]) << "the middle of the channel";
+}
+
 TEST(ChannelElements, TheScenarioKeepsTheWidth)
 {
     Scenario scenario;

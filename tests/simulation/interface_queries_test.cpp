@@ -146,6 +146,8 @@ INSTANTIATE_TEST_SUITE_P(InterfaceQueries,
                                            ChannelCase{2484000, 14},
                                            ChannelCase{5180000, 36},
                                            ChannelCase{5825000, 165},
+                                           ChannelCase{4920000, 184},
+                                           ChannelCase{5935000, 2},
                                            ChannelCase{5955000, 1},
                                            ChannelCase{6415000, 93}));
 

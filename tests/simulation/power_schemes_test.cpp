@@ -1,7 +1,6 @@
 // The power schemes that have a GUID.
+#include "forms/guid_text.h"
 #include "system_fixture.h"
-
-#include "simulation/guid_text.h"
 
 #include <cstring>
 
@@ -17,7 +16,7 @@ const char kPowerSaver[] = "{A1841308-3541-4FAB-BC81-F71556F20B4A}";
 
 GUID GuidOf(const char* text)
 {
-    return GuidFromText(text).value();
+    return forms::GuidFromText(text).value();
 }
 
 class PowerSchemes : public SystemTest
@@ -123,7 +122,7 @@ TEST_F(PowerSchemes, ACopyHasEverythingButTheGuid)
     const GUID copy = Duplicate(GuidOf(kPowerSaver));
     const PowerDescription power = Machine().Snapshot().power;
     ASSERT_EQ(power.schemes.size(), 4u);
-    EXPECT_EQ(power.schemes[3].guid, GuidText(copy));
+    EXPECT_EQ(power.schemes[3].guid, forms::GuidText(copy));
     EXPECT_EQ(power.schemes[3].name, power.schemes[2].name);
     EXPECT_EQ(power.schemes[3].values, power.schemes[2].values);
     EXPECT_EQ(power.activeScheme, kBalanced);
@@ -161,7 +160,7 @@ TEST_F(PowerSchemes, WritingAnAcValueLeavesTheDcValue)
     const GUID scheme = GuidOf(kBalanced);
     EXPECT_EQ(WriteAc(scheme, power_guid::standby_timeout, 1), ERROR_SUCCESS);
     const PowerValue value = Machine().Snapshot().power.schemes[0].values[0];
-    EXPECT_EQ(value.setting, GuidText(power_guid::standby_timeout));
+    EXPECT_EQ(value.setting, forms::GuidText(power_guid::standby_timeout));
     EXPECT_EQ(value.ac, 1u);
     EXPECT_EQ(value.dc, 900u);
 }

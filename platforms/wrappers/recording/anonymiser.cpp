@@ -1,7 +1,7 @@
 #include "wrappers/recording/anonymiser.h"
 
+#include "forms/utf8.h"
 #include "operations/operations.h"
-#include "simulation/utf8.h"
 #include "wrappers/recording/recorded_text.h"
 
 #include <nlohmann/json.hpp>
@@ -23,7 +23,7 @@ constexpr std::size_t kLongEnoughToStandOut = 4;
 
 std::size_t CharactersOf(std::string_view bytes)
 {
-    if (!simulation::IsUtf8(bytes))
+    if (!forms::IsUtf8(bytes))
         return bytes.size();
     return static_cast<std::size_t>(std::count_if(
         bytes.begin(), bytes.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));

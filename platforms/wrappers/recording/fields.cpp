@@ -1,7 +1,7 @@
 #include "wrappers/recording/fields.h"
 
-#include "simulation/guid_text.h"
-#include "simulation/utf8.h"
+#include "forms/guid_text.h"
+#include "forms/utf8.h"
 #include "wrappers/recording/anonymiser.h"
 #include "wrappers/recording/key_mask.h"
 #include "wrappers/recording/recorded_text.h"
@@ -32,7 +32,7 @@ std::basic_string_view<Character> GivenView(const Character* text, int length)
 /// Without a key, whatever that costs: a text with a key in it need not come back whole.
 ordered_json WithoutKeys(KeyMask& keys, std::wstring_view text)
 {
-    const std::string utf8 = simulation::Utf8FromWide(text);
+    const std::string utf8 = forms::Utf8FromWide(text);
     std::string masked = keys.InText(utf8);
     return masked != utf8 ? ordered_json(std::move(masked)) : RecordedWide(text);
 }
@@ -132,7 +132,7 @@ void Fields::GivenName(const char* name, const wchar_t* profile)
         return PutNull(name);
     m_object[name] = RecordedWide(profile);
     if (m_surroundings.names != nullptr)
-        m_surroundings.names->LearnNetwork(simulation::Utf8FromWide(profile));
+        m_surroundings.names->LearnNetwork(forms::Utf8FromWide(profile));
 }
 
 void Fields::GivenGuid(const char* name, const GUID* guid)
@@ -231,9 +231,9 @@ void Fields::Array(const char* name, wchar_t* text, std::size_t size, Meaning me
     if (m_surroundings.names == nullptr)
         return;
     if (meaning == Meaning::name)
-        m_surroundings.names->LearnNetwork(simulation::Utf8FromWide(told));
+        m_surroundings.names->LearnNetwork(forms::Utf8FromWide(told));
     else
-        m_surroundings.names->LearnAdapter(simulation::Utf8FromWide(told));
+        m_surroundings.names->LearnAdapter(forms::Utf8FromWide(told));
 }
 
 /// A length that no SSID can have is told beside the bytes.
@@ -284,10 +284,10 @@ void Fields::Guid(const char* name, GUID& guid)
 {
     if (!isReading())
     {
-        m_object[name] = simulation::GuidText(guid);
+        m_object[name] = forms::GuidText(guid);
         return;
     }
-    const std::optional<GUID> read = simulation::GuidFromText(BytesFrom(At(name), name));
+    const std::optional<GUID> read = forms::GuidFromText(BytesFrom(At(name), name));
     if (!read)
         throw Damage(name, "is no GUID");
     guid = *read;
@@ -297,7 +297,7 @@ void Fields::AdapterGuid(const char* name, GUID& guid)
 {
     Guid(name, guid);
     if (m_surroundings.names != nullptr)
-        m_surroundings.names->LearnGuid(simulation::GuidText(guid));
+        m_surroundings.names->LearnGuid(forms::GuidText(guid));
 }
 
 Fields Fields::Object(const char* name)

@@ -1,6 +1,6 @@
 #include "wrappers/recording/recorded_text.h"
 
-#include "simulation/utf8.h"
+#include "forms/utf8.h"
 #include "wrappers/recording/damage.h"
 
 #include <nlohmann/json.hpp>
@@ -100,7 +100,7 @@ bool ReadHex(std::string_view text, std::string& bytes)
 
 ordered_json RecordedBytes(std::string_view bytes)
 {
-    if (simulation::IsUtf8(bytes))
+    if (forms::IsUtf8(bytes))
         return std::string(bytes);
     return {{"bytes", HexText(bytes)}};
 }
@@ -108,7 +108,7 @@ ordered_json RecordedBytes(std::string_view bytes)
 ordered_json RecordedWide(std::wstring_view text)
 {
     bool illFormed = false;
-    std::string utf8 = simulation::Utf8FromWide(text, &illFormed);
+    std::string utf8 = forms::Utf8FromWide(text, &illFormed);
     if (!illFormed)
         return utf8;
     return {{"units", UnitsText(text)}};
@@ -128,7 +128,7 @@ std::string BytesFrom(const ordered_json& value, const char* name)
 std::wstring WideFrom(const ordered_json& value, const char* name)
 {
     if (value.is_string())
-        return simulation::WideFromUtf8(value.get<std::string>());
+        return forms::WideFromUtf8(value.get<std::string>());
     if (const std::string* const units = OnlyMember(value, "units"))
         return WideFromUnits(*units, name);
     throw Damage(name, "is no text");

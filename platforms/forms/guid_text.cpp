@@ -1,9 +1,12 @@
-#include "simulation/guid_text.h"
+#include "forms/guid_text.h"
 
+#include "forms/hex_text.h"
+
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 
-namespace calvix::simulation
+namespace calvix::forms
 {
 
 namespace
@@ -11,36 +14,20 @@ namespace
 
 constexpr std::string_view shape = "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}";
 
-std::optional<std::uint32_t> HexNumber(std::string_view text)
+/// From digits of which there are enough.
+std::uint32_t HexNumber(std::string_view text)
 {
     std::uint32_t number = 0;
     for (const char character : text)
-    {
-        const std::size_t digit = std::string_view("0123456789ABCDEFabcdef").find(character);
-        if (digit == std::string_view::npos)
-        {
-            return std::nullopt;
-        }
-        number = number * 16 + static_cast<std::uint32_t>(digit < 16 ? digit : digit - 6);
-    }
+        number = number * 16 + HexDigit(character).value_or(0);
     return number;
 }
 
 bool HasShape(std::string_view text)
 {
-    if (text.size() != shape.size())
-    {
-        return false;
-    }
-    for (std::size_t at = 0; at < shape.size(); ++at)
-    {
-        const bool asShaped = shape[at] == 'X' ? HexNumber(text.substr(at, 1)).has_value() : text[at] == shape[at];
-        if (!asShaped)
-        {
-            return false;
-        }
-    }
-    return true;
+    return std::equal(text.begin(), text.end(), shape.begin(), shape.end(),
+                      [](char character, char expected)
+                      { return expected == 'X' ? HexDigit(character).has_value() : character == expected; });
 }
 
 } // namespace
@@ -48,19 +35,15 @@ bool HasShape(std::string_view text)
 std::optional<GUID> GuidFromText(std::string_view text)
 {
     if (!HasShape(text))
-    {
         return std::nullopt;
-    }
-    const auto number = [text](std::size_t at, std::size_t digits) { return *HexNumber(text.substr(at, digits)); };
+    const auto number = [text](std::size_t at, std::size_t digits) { return HexNumber(text.substr(at, digits)); };
     GUID guid{};
     guid.Data1 = number(1, 8);
     guid.Data2 = static_cast<std::uint16_t>(number(10, 4));
     guid.Data3 = static_cast<std::uint16_t>(number(15, 4));
     constexpr std::size_t byteAt[] = {20, 22, 25, 27, 29, 31, 33, 35};
     for (std::size_t index = 0; index < 8; ++index)
-    {
         guid.Data4[index] = static_cast<std::uint8_t>(number(byteAt[index], 2));
-    }
     return guid;
 }
 
@@ -73,4 +56,4 @@ std::string GuidText(const GUID& guid)
     return text;
 }
 
-} // namespace calvix::simulation
+} // namespace calvix::forms

@@ -1,16 +1,12 @@
-#include "simulation/utf8.h"
+#include "forms/utf8.h"
 
-#include <cstddef>
 #include <cstdint>
 
-namespace calvix::simulation
+namespace calvix::forms
 {
 
 namespace
 {
-
-constexpr char32_t kReplacement = 0xFFFD;
-constexpr char32_t kIllFormed = 0xFFFFFFFF;
 
 bool IsSurrogate(char32_t character)
 {
@@ -39,39 +35,25 @@ Sequence SequenceOf(std::uint8_t lead)
     return {3, std::uint8_t(lead == 0xF0 ? 0x90 : 0x80), std::uint8_t(lead == 0xF4 ? 0x8F : 0xBF)};
 }
 
-/// The character at `position`, which moves past it; kIllFormed for a part that is none.
-char32_t NextOfUtf8(std::string_view text, std::size_t& position)
+} // namespace
+
+std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& position)
 {
     const auto lead = static_cast<std::uint8_t>(text[position++]);
     Sequence sequence = SequenceOf(lead);
     if (sequence.following <= 0)
-        return sequence.following == 0 ? lead : kIllFormed;
+        return sequence.following == 0 ? std::optional<char32_t>(lead) : std::nullopt;
     char32_t character = lead & (0x3Fu >> sequence.following);
     for (; sequence.following > 0; --sequence.following)
     {
         const std::uint8_t byte = position < text.size() ? static_cast<std::uint8_t>(text[position]) : 0;
         if (byte < sequence.lowest || byte > sequence.highest)
-            return kIllFormed;
+            return std::nullopt;
         character = (character << 6) | (byte & 0x3Fu);
         sequence = {sequence.following, 0x80, 0xBF};
         ++position;
     }
     return character;
-}
-
-char32_t NextOfWide(std::wstring_view text, std::size_t& position)
-{
-    const auto unit = static_cast<char32_t>(text[position++]);
-    if (sizeof(wchar_t) == 2 && unit >= 0xD800 && unit < 0xDC00 && position < text.size())
-    {
-        const auto second = static_cast<char32_t>(text[position]);
-        if (second >= 0xDC00 && second <= 0xDFFF)
-        {
-            ++position;
-            return 0x10000 + ((unit - 0xD800) << 10) + (second - 0xDC00);
-        }
-    }
-    return IsSurrogate(unit) || unit > 0x10FFFF ? kIllFormed : unit;
 }
 
 void AppendWide(std::wstring& text, char32_t character)
@@ -101,6 +83,24 @@ void AppendUtf8(std::string& text, char32_t character)
         text += static_cast<char>(0x80 | ((character >> (6 * left)) & 0x3F));
 }
 
+namespace
+{
+
+std::optional<char32_t> NextOfWide(std::wstring_view text, std::size_t& position)
+{
+    const auto unit = static_cast<char32_t>(text[position++]);
+    if (sizeof(wchar_t) == 2 && unit >= 0xD800 && unit < 0xDC00 && position < text.size())
+    {
+        const auto second = static_cast<char32_t>(text[position]);
+        if (second >= 0xDC00 && second <= 0xDFFF)
+        {
+            ++position;
+            return 0x10000 + ((unit - 0xD800) << 10) + (second - 0xDC00);
+        }
+    }
+    return IsSurrogate(unit) || unit > 0x10FFFF ? std::nullopt : std::optional(unit);
+}
+
 /// Takes `source` apart with `next` and puts it together again with `append`.
 template <typename Result, typename Source, typename Next, typename Append>
 Result Convert(Source source, bool* illFormed, Next next, Append append)
@@ -110,9 +110,9 @@ Result Convert(Source source, bool* illFormed, Next next, Append append)
     bool anyIllFormed = false;
     for (std::size_t position = 0; position < source.size();)
     {
-        const char32_t character = next(source, position);
-        anyIllFormed |= character == kIllFormed;
-        append(result, character == kIllFormed ? kReplacement : character);
+        const std::optional<char32_t> character = next(source, position);
+        anyIllFormed |= !character;
+        append(result, character.value_or(kReplacementCharacter));
     }
     if (illFormed != nullptr)
         *illFormed = anyIllFormed;
@@ -123,7 +123,7 @@ Result Convert(Source source, bool* illFormed, Next next, Append append)
 
 std::wstring WideFromUtf8(std::string_view text, bool* illFormed)
 {
-    return Convert<std::wstring>(text, illFormed, NextOfUtf8, AppendWide);
+    return Convert<std::wstring>(text, illFormed, NextCharacter, AppendWide);
 }
 
 std::string Utf8FromWide(std::wstring_view text, bool* illFormed)
@@ -134,9 +134,9 @@ std::string Utf8FromWide(std::wstring_view text, bool* illFormed)
 bool IsUtf8(std::string_view text)
 {
     for (std::size_t position = 0; position < text.size();)
-        if (NextOfUtf8(text, position) == kIllFormed)
+        if (!NextCharacter(text, position))
             return false;
     return true;
 }
 
-} // namespace calvix::simulation
+} // namespace calvix::forms

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace calvix::simulation
+namespace calvix::forms
 {
 
 /// The GUID that "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" stands for; nothing for any other text.
@@ -15,4 +15,4 @@ std::optional<GUID> GuidFromText(std::string_view text);
 /// The reverse, in capitals.
 std::string GuidText(const GUID& guid);
 
-} // namespace calvix::simulation
+} // namespace calvix::forms

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace calvix::forms
+{
+
+/// Text as it stands in an element or an attribute, with the five entities that XML has by itself.
+std::string EscapedXml(std::string_view text);
+std::string UnescapedXml(std::string text);
+
+} // namespace calvix::forms
