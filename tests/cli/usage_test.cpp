@@ -369,14 +369,16 @@ class FullDisk : public std::streambuf
 
 TEST_F(HostProgram, AnOutputThatCannotBeWrittenIsAFailure)
 {
-    for (const char* argument : {"networks", "--help", "--version"})
+    const std::string scenario = CALVIX_SOURCE_DIR "/scenarios/home.json";
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"networks", "--scenario", scenario}, {"--help"}, {"--version"}})
     {
         FullDisk full;
         std::istringstream in;
         std::ostream out(&full);
         std::ostringstream err;
-        EXPECT_EQ(kFailed, host::Run({argument}, in, out, err, {})) << argument;
-        EXPECT_THAT(err.str(), HasSubstr("calvix: the output could not be written")) << argument;
+        EXPECT_EQ(kFailed, host::Run(words, in, out, err, {})) << words.front();
+        EXPECT_THAT(err.str(), HasSubstr("calvix: the output could not be written")) << words.front();
     }
     FullDisk full;
     std::istringstream in;
