@@ -50,8 +50,8 @@ void CheckImported(const host::ImportedScenario& imported)
     Promise(simulation::ParseScenario(written, "the imported scenario") == imported.scenario,
             "an imported scenario loads as it was written");
     const host::ScenarioCounts counts = host::CountScenario(imported.scenario);
-    Promise(counts.accessPoints == imported.scenario.accessPoints.size() && counts.networks <= counts.accessPoints + counts.profiles &&
-                counts.hidden <= counts.accessPoints,
+    Promise(counts.accessPoints == imported.scenario.accessPoints.size() &&
+                counts.networks <= counts.accessPoints + counts.profiles && counts.hidden <= counts.accessPoints,
             "the counts are those of the scenario");
 }
 

@@ -1,10 +1,10 @@
 #include "import/import.h"
 
+#include "forms/guid_text.h"
 #include "import/captured_air.h"
 #include "import/file_path.h"
 #include "import/made_profile.h"
 #include "simulation/computer.h"
-#include "forms/guid_text.h"
 #include "text_forms.h"
 
 #include <algorithm>

@@ -44,7 +44,8 @@ std::u32string CodePoints(std::string_view utf8)
     std::u32string points;
     for (const wchar_t unit : Widen(utf8))
     {
-        const char32_t value = static_cast<char32_t>(unit) & (sizeof(wchar_t) == 2 ? char32_t{0xFFFF} : char32_t{0x1FFFFF});
+        const char32_t value =
+            static_cast<char32_t>(unit) & (sizeof(wchar_t) == 2 ? char32_t{0xFFFF} : char32_t{0x1FFFFF});
         const bool low = (value & 0xFFFFFC00u) == 0xDC00u;
         if (low && !points.empty() && (points.back() & 0xFFFFFC00u) == 0xD800u)
             points.back() = 0x10000 + ((points.back() - 0xD800) << 10) + (value - 0xDC00);

@@ -1,10 +1,10 @@
 #include "import/netsh_interfaces.h"
 
+#include "forms/address_text.h"
 #include "import/capture_terms.h"
 #include "import/capture_text.h"
 #include "import/field_roles.h"
 #include "import/misread_text.h"
-#include "forms/address_text.h"
 
 #include <algorithm>
 #include <array>
@@ -314,8 +314,8 @@ CapturedInterface MadeUpInterface(const std::string& name, std::size_t index)
     CapturedInterface madeUp;
     madeUp.name = name;
     madeUp.description = "Wireless adapter";
-    madeUp.guid =
-        "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E" + forms::HexText(std::vector{static_cast<std::uint8_t>(index + 1)}, forms::Letters::lower) + "}";
+    madeUp.guid = "{0D5C7C4E-6B0B-4F43-9C0E-3D1F5A2B7E" +
+                  forms::HexText(std::vector{static_cast<std::uint8_t>(index + 1)}, forms::Letters::lower) + "}";
     madeUp.address = {0x02, 0x00, 0x5E, 0x10, 0x00, static_cast<std::uint8_t>(index + 1)};
     return madeUp;
 }

@@ -102,10 +102,8 @@ TEST_F(CompleteCommand, LeavesOutNamesThatFitOnNoLine)
 
 TEST_F(CompleteCommand, HasAScriptForEachShell)
 {
-    for (const auto& [shell, file] : {std::pair{"bash", "calvix.bash"},
-                                      {"zsh", "_calvix"},
-                                      {"fish", "calvix.fish"},
-                                      {"powershell", "calvix.ps1"}})
+    for (const auto& [shell, file] :
+         {std::pair{"bash", "calvix.bash"}, {"zsh", "_calvix"}, {"fish", "calvix.fish"}, {"powershell", "calvix.ps1"}})
     {
         const Outcome outcome = Run({"completion", shell});
         EXPECT_EQ(kSuccess, outcome.exitCode);

@@ -115,8 +115,11 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
          "Linden Guests",
          "Caf\xEF\xBF\xBD",
          {"file:22: characters of the SSID \"Caf\xEF\xBF\xBD\" are lost; it is kept as it is"}},
-        {"polish/networks.txt", "92%", "92", {"file:9: the access point 02:51:00:00:00:01 has no \"Signal\"; the access point is "
-                                               "left out"}},
+        {"polish/networks.txt",
+         "92%",
+         "92",
+         {"file:9: the access point 02:51:00:00:00:01 has no \"Signal\"; the access point is "
+          "left out"}},
         {"polish/networks.txt",
          ": 5.",
          ": 6.",
