@@ -74,10 +74,8 @@ struct Lists
         {
             const wchar_t* const name = profiles->ProfileInfo[profile].strProfileName;
             for (DWORD network = 0; network < networks->dwNumberOfItems; ++network)
-            {
                 if (std::wcscmp(name, networks->Network[network].strProfileName) == 0)
                     visit(name, networks->Network[network]);
-            }
         }
     }
 

@@ -82,10 +82,8 @@ std::vector<std::string> Tables::NamesIn(const std::string& group) const
 {
     std::vector<std::string> names;
     for (const auto& [index, name] : m_names)
-    {
         if (name.compare(0, group.size(), group) == 0)
             names.push_back(name);
-    }
     return names;
 }
 

@@ -12,10 +12,8 @@ bool SameGuidText(std::string_view left, std::string_view right)
     {
         std::string kept;
         for (const char c : text)
-        {
             if (c != '{' && c != '}')
                 kept += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-        }
         return kept;
     };
     return letters(left) == letters(right);

@@ -194,10 +194,8 @@ void Best(Host& host, const BestOptions& options)
         Fail(host, failure, candidates);
     }
     for (CandidateFacts& candidate : candidates)
-    {
         if (candidate.outcome == Outcome::accepted)
             candidate.outcome = Outcome::joined;
-    }
     const StatusFacts status = ReadStatus(host);
     if (host.json())
         return PrintJson(host.out(), BestFacts{candidates, status});

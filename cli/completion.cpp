@@ -16,15 +16,11 @@ std::vector<CompletionWord> CommandWords(const ProgramDescription& program, cons
 {
     std::vector<CompletionWord> words;
     for (const CommandDescription& command : program.commands)
-    {
         if (!command.hidden && command.family() == family)
             words.push_back({command.lastWord(), command.summary});
-    }
     if (family.empty())
-    {
         for (const FamilyDescription& one : program.families)
             words.push_back({one.name, one.summary});
-    }
     return words;
 }
 
@@ -76,10 +72,8 @@ public:
     {
         Completion completion;
         for (const ArgumentDescription* option : m_reader.Options())
-        {
             if (option->repeated || !m_reader.isGiven(*option))
                 completion.words.push_back({option->longName(), option->help});
-        }
         completion.words.push_back({"--help", "Tell the arguments"});
         if (m_reader.command() == nullptr && m_reader.family() == nullptr)
             completion.words.push_back({"--version", "Tell the version"});

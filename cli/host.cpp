@@ -207,11 +207,9 @@ WLAN_INTERFACE_INFO Host::FindAdapter()
     GUID guid{};
     const bool described = manager().GetWlanInterfaceGuid(Widen(wanted).c_str(), guid) == 0;
     for (const WLAN_INTERFACE_INFO& info : list)
-    {
         if (described ? IsEqualGUID(info.InterfaceGuid, guid)
                       : SameGuidText(wanted, manager().GUID2String(info.InterfaceGuid)))
             return info;
-    }
     throw BadInput("there is no adapter \"" + wanted + "\"",
                    "list the adapters with: calvix adapters. Give the number, the GUID or the whole description");
 }

@@ -99,10 +99,8 @@ NoticeFacts DescribeNotice(Host& host, const Notice& notice)
 void ShowNotices(Host& host, Notifications& notifications, LiveView& view)
 {
     for (const Notice& notice : notifications.Take())
-    {
         if (IsEqualGUID(notice.adapter, *host.adapterGuid()))
             view.Show(DescribeNotice(host, notice));
-    }
 }
 
 unsigned long long LastMoment(Host& host, unsigned seconds)

@@ -16,7 +16,6 @@ std::string Escaped(const std::string& text)
 {
     std::string escaped;
     for (const char c : text)
-    {
         if (c == '\\')
             escaped += "\\e";
         else if (c == '-')
@@ -25,7 +24,6 @@ std::string Escaped(const std::string& text)
             escaped += "\\(dq";
         else
             escaped += c;
-    }
     return !escaped.empty() && (escaped[0] == '.' || escaped[0] == '\'') ? "\\&" + escaped : escaped;
 }
 
@@ -123,10 +121,8 @@ std::string ManualPage(const ProgramDescription& program)
         WriteArgument(out, option);
     out << ".TP\n\\fB\\-\\-help\\fR\nTell the arguments of the command.\n.SH COMMANDS\n";
     for (const CommandDescription& command : program.commands)
-    {
         if (!command.hidden)
             WriteCommand(out, command);
-    }
     WriteEnd(out);
     return out.str();
 }

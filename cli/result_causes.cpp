@@ -162,10 +162,8 @@ constexpr CauseText kCauses[] = {
 constexpr bool IsInOrder()
 {
     for (std::size_t i = 0; i < std::size(kCauses); ++i)
-    {
         if (kCauses[i].cause != static_cast<Cause>(i))
             return false;
-    }
     return true;
 }
 static_assert(IsInOrder());

@@ -43,10 +43,8 @@ bool IsPlatformError(long long code)
 const MethodResults* FindMethod(std::string_view method)
 {
     for (const MethodResults& results : AllMethodResults())
-    {
         if (SameLetters(results.method, method))
             return &results;
-    }
     return nullptr;
 }
 

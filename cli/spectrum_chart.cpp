@@ -151,10 +151,8 @@ void PrintSpectrum(Host& host, const std::vector<AirAccessPoint>& accessPoints)
     {
         std::vector<const AirAccessPoint*> points;
         for (const AirAccessPoint& point : accessPoints)
-        {
             if (point.facts.band == band.name)
                 points.push_back(&point);
-        }
         if (!points.empty())
             PrintBand(host, band, points);
         else

@@ -107,10 +107,8 @@ void PrintStatus(Host& host, const StatusFacts& status)
         {"Adapter", status.adapter.description},
         {"State", Toned(status.adapter.stateText, status.connection ? Tone::good : Tone::plain, host.terminal())}};
     if (status.connection)
-    {
         for (const auto& pair : PairsOf(*status.connection, host.terminal()))
             pairs.push_back(pair);
-    }
     PrintPairs(host.out(), pairs);
 }
 

@@ -78,10 +78,8 @@ std::vector<std::size_t> Table::Widths() const
     for (const Column& column : m_columns)
         widths.push_back(DisplayWidth(column.title));
     for (const std::vector<Cell>& row : m_rows)
-    {
         for (std::size_t i = 0; i < row.size(); ++i)
             widths[i] = (std::max)(widths[i], DisplayWidth(row[i].text));
-    }
     return widths;
 }
 

@@ -48,10 +48,8 @@ bool IsWide(char32_t c)
                                 {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},   {0xFF00, 0xFF60},   {0xFFE0, 0xFFE6},
                                 {0x1F300, 0x1F64F}, {0x1F680, 0x1F6FF}, {0x1F900, 0x1F9FF}, {0x20000, 0x3FFFD}};
     for (const Range& range : ranges)
-    {
         if (c >= range.first && c <= range.last)
             return true;
-    }
     return false;
 }
 

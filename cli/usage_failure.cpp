@@ -13,15 +13,11 @@ std::vector<std::string> CommandNames(const ProgramDescription& program, const s
 {
     std::vector<std::string> names;
     for (const CommandDescription& command : program.commands)
-    {
         if (!command.hidden && command.family() == family)
             names.push_back(command.lastWord());
-    }
     if (family.empty())
-    {
         for (const FamilyDescription& one : program.families)
             names.push_back(one.name);
-    }
     return names;
 }
 

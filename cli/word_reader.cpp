@@ -100,10 +100,8 @@ std::vector<const ArgumentDescription*> WordReader::Options() const
     if (m_command != nullptr)
     {
         for (const ArgumentDescription& argument : m_command->arguments)
-        {
             if (argument.isOption())
                 options.push_back(&argument);
-        }
     }
     for (const ArgumentDescription& option : m_program.options)
         options.push_back(&option);

@@ -44,13 +44,11 @@ public:
     {
         CheckColumns();
         for (const ValueRow& row : m_table.rows)
-        {
             if (row.cells.size() != m_columns.size())
                 Report(row.line, "this row has " + std::to_string(row.cells.size()) + " values in place of " +
                                      std::to_string(m_columns.size()) + " and is left out");
             else
                 ReadRow(row);
-        }
     }
 
 private:

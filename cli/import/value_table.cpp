@@ -20,14 +20,12 @@ std::vector<std::string> SplitAtColons(std::string_view line)
 {
     std::vector<std::string> cells(1);
     for (std::size_t i = 0; i < line.size(); ++i)
-    {
         if (line[i] == '\\' && i + 1 < line.size())
             cells.back() += line[++i];
         else if (line[i] == ':')
             cells.emplace_back();
         else
             cells.back() += line[i];
-    }
     for (std::string& cell : cells)
         cell = std::string(Trim(cell));
     return cells;

@@ -123,10 +123,8 @@ Modulation EhtModulation(ElementBytes capabilities)
     static constexpr unsigned long bits[] = {6667, 8333, 10000};
     Modulation best;
     for (std::size_t i = 0; i < 3; ++i)
-    {
         if (const unsigned streams = capabilities[11 + i] & 0x0fU)
             best = {streams, bits[i], true};
-    }
     return best;
 }
 
@@ -142,10 +140,8 @@ Modulation ModulationOf(const BeaconElements& elements)
         return FromMap((*vht)[4] | static_cast<unsigned>((*vht)[5]) << 8U, vhtBits, false);
     Modulation ht;
     if (const auto capabilities = elements.Find(element::ht_capabilities, 7))
-    {
         for (std::size_t i = 3; i < 7 && (*capabilities)[i] != 0; ++i)
             ht = {static_cast<unsigned>(i - 2), 5000, false};
-    }
     return ht;
 }
 

@@ -120,10 +120,8 @@ BeaconElements::BeaconElements(ElementBytes bytes)
 std::optional<ElementBytes> BeaconElements::Find(unsigned number, std::size_t least) const
 {
     for (const Element& candidate : m_elements)
-    {
         if (candidate.number == number)
             return candidate.content.size() >= least ? std::optional(candidate.content) : std::nullopt;
-    }
     return std::nullopt;
 }
 

@@ -244,10 +244,8 @@ std::string RecordedAdapter::NamedNetworks() const
 {
     std::set<std::string> names;
     for (const WLAN_AVAILABLE_NETWORK& network : m_networks)
-    {
         if (network.dot11Ssid.uSSIDLength > 0)
             names.insert(SsidText(network.dot11Ssid));
-    }
     return names.empty() ? "" : " Its list of networks names " + InRow(names) + ".";
 }
 

@@ -31,10 +31,8 @@ public:
         m_list = adapters;
         m_refusals.erase("WlanEnumInterfaces");
         for (const WLAN_INTERFACE_INFO& info : adapters)
-        {
             if (!StandsConnected(info.isState))
                 Of(info.InterfaceGuid).Disconnect(Second());
-        }
     }
     void Hear(const GUID& adapter, const AirQuestion& asked, const std::vector<HeardAccessPoint>& accessPoints) override
     {
@@ -93,10 +91,8 @@ std::string SessionAir::Usual() const
     if (!m_lastHeard.empty())
         return m_lastHeard;
     for (const auto& [guid, adapter] : m_adapters)
-    {
         if (adapter.HasLink())
             return guid;
-    }
     if (!m_list.empty())
         return GuidText(m_list.front().InterfaceGuid);
     return m_adapters.empty() ? std::string() : m_adapters.begin()->first;
@@ -109,15 +105,11 @@ std::string SessionAir::Chosen(const std::string& wanted) const
     if (const auto place = PlaceOf(wanted, m_list.size()))
         return GuidText(m_list[*place].InterfaceGuid);
     for (const WLAN_INTERFACE_INFO& info : m_list)
-    {
         if (wanted == Narrow(FixedText(info.strInterfaceDescription)))
             return GuidText(info.InterfaceGuid);
-    }
     for (const auto& [guid, adapter] : m_adapters)
-    {
         if (SameGuidText(wanted, guid))
             return guid;
-    }
     throw BadInput("the recording has no adapter \"" + wanted + "\"", "leave --interface out to see which it has");
 }
 
@@ -126,10 +118,8 @@ AdapterFacts SessionAir::FactsOf(const std::string& guid) const
 {
     AdapterFacts facts;
     for (std::size_t i = 0; i < m_list.size(); ++i)
-    {
         if (GuidText(m_list[i].InterfaceGuid) == guid)
             return DescribeAdapter(m_list[i], static_cast<unsigned>(i + 1));
-    }
     facts.guid = guid;
     facts.number = static_cast<unsigned>(m_list.size() + 1);
     return facts;
@@ -164,10 +154,8 @@ void SessionAir::Tell(ReportFacts& report, const std::string& wanted) const
     const auto known = m_adapters.find(guid);
     (known == m_adapters.end() ? RecordedAdapter() : known->second).Tell(report, FactsOf(guid));
     for (AdapterFacts& listed : report.adapters)
-    {
         if (report.status && listed.guid == guid)
             listed = report.status->adapter;
-    }
     ArrangePicture(report);
 }
 

@@ -116,16 +116,10 @@ std::string WithoutMarkup(const std::string& json)
 {
     std::string safe;
     for (const char c : json)
-    {
         if (c == '<' || c == '>' || c == '&')
-        {
             safe += "\\u00" + forms::HexText(std::string_view(&c, 1), forms::Letters::lower);
-        }
         else
-        {
             safe += c;
-        }
-    }
     return safe;
 }
 

@@ -40,10 +40,8 @@ struct TimeScale
     unsigned Step() const
     {
         for (const unsigned step : {1U, 2U, 5U, 10U, 20U, 30U, 60U, 120U, 300U, 600U, 1800U})
-        {
             if (last / step <= 14)
                 return step;
-        }
         return 3600;
     }
 };
@@ -94,10 +92,8 @@ std::string Axes(const TimeScale& scale)
 const AirAccessPoint* AccessPointOf(const ReportFacts& report, const std::string& bssid)
 {
     for (const AirAccessPoint& point : report.accessPoints)
-    {
         if (point.facts.bssid == bssid)
             return &point;
-    }
     return nullptr;
 }
 
@@ -106,10 +102,8 @@ std::vector<std::string> UsedAccessPoints(const HistoryFacts& history)
 {
     std::vector<std::string> used;
     for (const SignalSample& sample : history.samples)
-    {
         if (sample.link.connected && std::find(used.begin(), used.end(), sample.link.bssid) == used.end())
             used.push_back(sample.link.bssid);
-    }
     return used;
 }
 
@@ -160,12 +154,10 @@ std::string LinkLines(const HistoryFacts& history, const std::vector<std::string
     {
         BrokenLine line;
         for (const SignalSample& sample : history.samples)
-        {
             if (sample.link.connected && sample.link.bssid == used[place] && sample.link.rssi)
                 line.Add(scale.X(sample.second), TimeScale::Y(*sample.link.rssi));
             else
                 line.Break();
-        }
         svg += line.Draw("link c" + std::to_string(place % 10));
     }
     return svg;

@@ -137,10 +137,8 @@ std::vector<const AirAccessPoint*> InBand(const ReportFacts& report, const Spect
 {
     std::vector<const AirAccessPoint*> points;
     for (const AirAccessPoint& point : report.accessPoints)
-    {
         if (point.facts.band == band.name)
             points.push_back(&point);
-    }
     return points;
 }
 
@@ -158,10 +156,8 @@ std::string PanelId(const SpectrumBand& band)
 {
     std::string id = "band-";
     for (const char c : std::string(band.name))
-    {
         if (c >= '0' && c <= '9')
             id += c;
-    }
     return id;
 }
 

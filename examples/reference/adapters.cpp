@@ -81,10 +81,8 @@ void List(CWirelessManage& manager)
     //! [GetWlanInterface]
     std::vector<WLAN_INTERFACE_INFO> adapters;
     if (manager.GetWlanInterface(&adapters) == 0)
-    {
         for (const WLAN_INTERFACE_INFO& adapter : adapters)
             std::printf("%s\n", manager.GUID2String(adapter.InterfaceGuid));
-    }
     //! [GetWlanInterface]
 }
 

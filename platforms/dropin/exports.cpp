@@ -17,9 +17,7 @@ template <typename Operation>
 DWORD Answer(const Operation& operation) noexcept
 {
     if (calvix::dropin::ProcessIsEnding())
-    {
         return ERROR_SHUTDOWN_IN_PROGRESS;
-    }
     try
     {
         WlanService* const service = calvix::dropin::CurrentService();

@@ -57,9 +57,7 @@ platform::WlanService* CurrentService()
 {
     static RunningComputer* const running = Start();
     if (running == nullptr)
-    {
         return nullptr;
-    }
     running->time.CatchUp();
     return &running->computer.wlan();
 }

@@ -34,18 +34,14 @@ simulation::Scenario LoadScenario(const std::wstring& path)
     std::ifstream file(path.c_str(), std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
     if (!file.is_open() || file.bad())
-    {
         throw simulation::ScenarioError(name + ": cannot be read");
-    }
     return simulation::ParseScenario(text, name);
 }
 
 simulation::Scenario ChosenScenario(const std::wstring& folder)
 {
     if (const std::wstring named = EnvironmentVariable(L"CALVIX_SCENARIO"); !named.empty())
-    {
         return LoadScenario(named);
-    }
     const std::wstring beside = folder + L"wlanapi.scenario.json";
     return Exists(beside) ? LoadScenario(beside) : simulation::BuiltInScenario();
 }

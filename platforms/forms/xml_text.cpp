@@ -39,10 +39,8 @@ std::string EscapedXml(std::string_view text)
 std::string UnescapedXml(std::string text)
 {
     for (const Entity& entity : kEntities)
-    {
         for (std::size_t at = text.find(entity.text); at != std::string::npos; at = text.find(entity.text, at + 1))
             text.replace(at, entity.text.size(), 1, entity.character);
-    }
     return text;
 }
 

@@ -24,9 +24,7 @@ GUID ReadGuid(const std::string& text)
 {
     const auto guid = forms::GuidFromText(text);
     if (!guid)
-    {
         throw ScenarioError("adapter " + text + ": this is not a GUID");
-    }
     return *guid;
 }
 
@@ -57,14 +55,10 @@ Adapter::Adapter(const AdapterDescription& description, const Surroundings& surr
     }
     LoadProfiles();
     if (IsRadioOn())
-    {
         m_heard = Listen(m_around.air, std::nullopt, m_around.time.Now());
-    }
     m_networksKnown = !m_heard.empty();
     if (m_description.connection)
-    {
         Restore(*m_description.connection);
-    }
     m_around.time.Schedule(ownScanInterval, [this] { ScanByItself(); });
     StartLinkWatch();
 }
@@ -100,9 +94,7 @@ void Adapter::Restore(const Connection& connection)
                             connection.profile);
     }
     if (connection.bssid)
-    {
         request.desiredBssids.push_back(*connection.bssid);
-    }
     const AccessPoint* const accessPoint = FindAccessPoint(request, {});
     if (accessPoint != nullptr && IsRadioOn())
     {
@@ -117,14 +109,10 @@ AdapterDescription Adapter::Describe() const
 {
     AdapterDescription now = m_description;
     for (const auto& profile : m_profiles.InOrder())
-    {
         now.profiles.push_back({forms::Utf8FromWide(profile->xml)});
-    }
     now.connection.reset();
     if (m_link)
-    {
         now.connection = Connection{forms::Utf8FromWide(m_link->Profile().name), m_link->accessPoint.bssid};
-    }
     return now;
 }
 
@@ -164,13 +152,9 @@ void Adapter::SetRadio(std::size_t phy, RadioSwitch software, RadioSwitch hardwa
 void Adapter::StartScan(const std::optional<Bytes>& ssid)
 {
     if (ssid)
-    {
         m_askedSsid = ssid;
-    }
     if (m_scanning)
-    {
         return;
-    }
     m_scanning = true;
     m_scanEvent =
         m_around.time.Schedule(std::chrono::milliseconds(m_description.scanMilliseconds), [this] { FinishScan(); });
@@ -217,9 +201,7 @@ void Adapter::ScanByItself()
 {
     const bool isWanted = HasAutoConfiguration() && (HasBackgroundScan() || !m_link);
     if (isWanted && m_around.serviceRunning && IsRadioOn())
-    {
         StartScan();
-    }
     m_around.time.Schedule(ownScanInterval, [this] { ScanByItself(); });
 }
 
@@ -251,9 +233,7 @@ DWORD Adapter::StoreProfile(Profile profile, bool overwrite)
 {
     const DWORD error = m_profiles.Store(std::move(profile), overwrite);
     if (error == ERROR_SUCCESS)
-    {
         Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
-    }
     return error;
 }
 
@@ -261,9 +241,7 @@ DWORD Adapter::MoveProfile(const std::wstring& name, DWORD position)
 {
     const DWORD error = m_profiles.Move(name, position);
     if (error == ERROR_SUCCESS)
-    {
         Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
-    }
     return error;
 }
 
@@ -273,14 +251,10 @@ DWORD Adapter::DeleteProfile(const std::wstring& name)
         (m_link && m_link->Profile().name == name) || (m_attempt && m_attempt->request.profile->document.name == name);
     const DWORD error = m_profiles.Delete(name);
     if (error != ERROR_SUCCESS)
-    {
         return error;
-    }
     Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
     if (isInUse)
-    {
         TakeDown(WLAN_REASON_CODE_PROFILE_CHANGED_OR_DELETED);
-    }
     return error;
 }
 
@@ -288,9 +262,7 @@ DWORD Adapter::DeleteProfile(const std::wstring& name)
 void Adapter::Notify(DWORD source, DWORD code, Bytes data) const
 {
     if (m_around.serviceRunning)
-    {
         m_around.notifier.Post({source, code, m_guid, std::move(data)});
-    }
 }
 
 } // namespace calvix::simulation

@@ -68,9 +68,7 @@ const AccessPoint* Adapter::FindTarget() const
 {
     ConnectionRequest request = m_attempt->request;
     if (m_attempt->target)
-    {
         request.desiredBssids = {*m_attempt->target};
-    }
     return FindAccessPoint(request, m_attempt->failed);
 }
 
@@ -93,9 +91,7 @@ void Adapter::StartAttempt()
     m_attempt->target = accessPoint != nullptr ? std::optional(accessPoint->bssid) : std::nullopt;
     m_state = wlan_interface_state_associating;
     if (accessPoint != nullptr)
-    {
         NotifyMedia(msm::associating, m_attempt->request, accessPoint->bssid);
-    }
     m_connectEvent = m_around.time.Schedule(std::chrono::milliseconds(m_description.connectMilliseconds / 2),
                                             [this] { Authenticate(); });
 }
@@ -121,17 +117,11 @@ void Adapter::Authenticate()
 DWORD Adapter::Outcome(const AccessPoint* target) const
 {
     if (target == nullptr)
-    {
         return m_attempt->target ? WLAN_REASON_CODE_NO_VISIBLE_AP : WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE;
-    }
     if (SignalAt(*target, m_around.time.Now()) < faintest)
-    {
         return WLAN_REASON_CODE_NO_VISIBLE_AP;
-    }
     if (!target->answers)
-    {
         return WLAN_REASON_CODE_ASSOCIATION_TIMEOUT;
-    }
     const bool isWrongKey = IsWrongKey(m_attempt->request.profile->document, *target);
     return isWrongKey ? WLAN_REASON_CODE_MSMSEC_PSK_MISMATCH_SUSPECTED : WLAN_REASON_CODE_SUCCESS;
 }
@@ -201,9 +191,7 @@ void Adapter::Disconnect()
 void Adapter::TakeDown(DWORD reason)
 {
     if (m_attempt)
-    {
         GiveUp(reason);
-    }
     if (m_link)
     {
         const Link link = std::move(*m_link);
@@ -232,9 +220,7 @@ void Adapter::NotifyMedia(DWORD code, const ConnectionRequest& request, const Ma
 void Adapter::ConnectByItself()
 {
     if (!m_wantsConnection || m_link || m_attempt || !HasAutoConfiguration() || !m_around.serviceRunning)
-    {
         return;
-    }
     for (const auto& profile : m_profiles.InOrder())
     {
         ConnectionRequest request{profile, {}, false, wlan_connection_mode_auto};
@@ -247,9 +233,7 @@ void Adapter::ConnectByItself()
         }
     }
     if (!m_triedInVain.empty())
-    {
         Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profiles_exhausted);
-    }
 }
 
 // Only an access point that answers, and takes the profile's key, is worth moving to.
@@ -260,9 +244,7 @@ bool Adapter::Roam()
     {
         const AccessPoint* const next = FindAccessPoint(m_link->request, except);
         if (next == nullptr || SignalAt(*next, m_around.time.Now()) < faintest)
-        {
             return false;
-        }
         if (!next->answers || IsWrongKey(m_link->Profile(), *next))
         {
             except.push_back(next->bssid);

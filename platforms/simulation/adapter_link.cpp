@@ -42,9 +42,7 @@ void Adapter::WatchLink()
 {
     const auto found = m_link ? FindBssid(m_around.air, m_link->accessPoint.bssid) : m_around.air.end();
     if (found == m_around.air.end())
-    {
         return;
-    }
     if (const auto rssi = SignalAt(*found, m_around.time.Now()))
     {
         MeasureLink(*rssi);
@@ -53,9 +51,7 @@ void Adapter::WatchLink()
     {
         LoseLink();
         if (HasAutoConfiguration() && m_around.serviceRunning)
-        {
             StartScan();
-        }
     }
 }
 
@@ -64,9 +60,7 @@ void Adapter::MeasureLink(std::int32_t rssi)
     m_link->accessPoint.rssi = rssi;
     const ULONG quality = SignalQuality(rssi);
     if (std::exchange(m_link->reportedQuality, quality) != quality)
-    {
         Notify(WLAN_NOTIFICATION_SOURCE_MSM, msm::signal_quality_change, RecordBytes(quality));
-    }
 }
 
 // There is nobody left to take leave of.
@@ -104,9 +98,7 @@ const std::vector<HeardBss>& Adapter::Heard()
 void Adapter::HearLink()
 {
     if (!m_link || m_link->missedByLastScan)
-    {
         return;
-    }
     const AccessPoint& accessPoint = m_link->accessPoint;
     const auto known =
         std::find_if(m_heard.begin(), m_heard.end(),
@@ -126,9 +118,7 @@ void Adapter::HearLink()
 void Adapter::NoticeLostLink()
 {
     if (!m_link)
-    {
         return;
-    }
     const auto found = FindBssid(m_around.air, m_link->accessPoint.bssid);
     const auto signal = found != m_around.air.end() ? SignalAt(*found, m_around.time.Now()) : std::nullopt;
     if (signal)
@@ -138,9 +128,7 @@ void Adapter::NoticeLostLink()
     else if (m_link->missedByLastScan)
     {
         if (!Roam())
-        {
             LoseLink();
-        }
         return;
     }
     m_link->missedByLastScan = !signal;

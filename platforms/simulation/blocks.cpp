@@ -55,13 +55,9 @@ Blocks::Blocks(std::vector<std::string>& defects) : m_defects(defects) {}
 Blocks::~Blocks()
 {
     while (!m_freed.empty())
-    {
         ReleaseOldest();
-    }
     for (const auto& live : m_live)
-    {
         std::free(live.first);
-    }
 }
 
 void* Blocks::Allocate(std::size_t size, const char* what)
@@ -69,9 +65,7 @@ void* Blocks::Allocate(std::size_t size, const char* what)
     const std::size_t atLeastOne = std::max<std::size_t>(size, 1);
     void* const memory = std::calloc(1, atLeastOne);
     if (memory == nullptr)
-    {
         throw std::bad_alloc();
-    }
     m_live.emplace(memory, Block{atLeastOne, what});
     return memory;
 }
@@ -79,9 +73,7 @@ void* Blocks::Allocate(std::size_t size, const char* what)
 void Blocks::Free(void* block)
 {
     if (block == nullptr)
-    {
         return;
-    }
     const auto found = m_live.find(block);
     if (found == m_live.end())
     {
@@ -97,17 +89,13 @@ void Blocks::Free(void* block)
     m_freedNames.emplace(block, found->second.what);
     m_live.erase(found);
     while (m_freed.size() > 1 && (m_freed.size() > mostFreedBlocks || m_freedBytes > mostFreedBytes))
-    {
         ReleaseOldest();
-    }
 }
 
 void Blocks::CheckFreed()
 {
     for (const FreedBlock& freed : m_freed)
-    {
         CheckFreed(freed);
-    }
 }
 
 void Blocks::CheckFreed(const FreedBlock& freed)

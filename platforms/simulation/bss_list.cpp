@@ -91,9 +91,7 @@ MakeBssList(Blocks& blocks, const std::vector<const HeardBss*>& chosen, const st
         entry.ulIeSize = static_cast<ULONG>(elements[index].size());
         std::memcpy(bytes + entryAt, &entry, sizeof(entry));
         if (!elements[index].empty())
-        {
             std::memcpy(bytes + elementsAt, elements[index].data(), elements[index].size());
-        }
         elementsAt += elements[index].size();
     }
     return list;

@@ -41,13 +41,9 @@ Date DateOf(std::uint64_t daysSince1601)
     Date date{1601 + daysSince1601 / daysPerCycle * 400, 1, 1};
     std::uint64_t left = daysSince1601 % daysPerCycle;
     for (; left >= (IsLeap(date.year) ? 366u : 365u); ++date.year)
-    {
         left -= IsLeap(date.year) ? 366u : 365u;
-    }
     for (; left >= DaysIn(date.month, date.year); ++date.month)
-    {
         left -= DaysIn(date.month, date.year);
-    }
     date.day += left;
     return date;
 }

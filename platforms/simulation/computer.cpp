@@ -152,13 +152,9 @@ Scenario Computer::Snapshot() const
     machine.DescribeSystem(scenario);
     scenario.accessPoints = machine.air;
     for (AccessPoint& accessPoint : scenario.accessPoints)
-    {
         accessPoint.timetable = RestOfTimetable(accessPoint, machine.time.Now());
-    }
     for (const auto& adapter : machine.adapters)
-    {
         scenario.adapters.push_back(adapter->Describe());
-    }
     return scenario;
 }
 

@@ -53,9 +53,7 @@ bool Handles::IsOpen(HANDLE handle, HandleKind kind) const
 bool Handles::Use(HANDLE handle, HandleKind kind, const char* operation)
 {
     if (IsOpen(handle, kind))
-    {
         return true;
-    }
     NoteMisuse(handle, kind, operation);
     return false;
 }
@@ -63,9 +61,7 @@ bool Handles::Use(HANDLE handle, HandleKind kind, const char* operation)
 bool Handles::Close(HANDLE handle, HandleKind kind, const char* operation)
 {
     if (!Use(handle, kind, operation))
-    {
         return false;
-    }
     m_open.erase(handle);
     return true;
 }
@@ -84,9 +80,7 @@ std::size_t Handles::CountOpen() const
 void Handles::NoteMisuse(HANDLE handle, HandleKind kind, const char* operation)
 {
     if (handle == nullptr)
-    {
         return;
-    }
     const auto value = reinterpret_cast<UINT_PTR>(handle);
     const bool wasOurs = value >= firstValue && value < m_nextValue && value % valueStep == 0;
     const bool isOther = m_open.count(handle) != 0;

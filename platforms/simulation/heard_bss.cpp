@@ -35,9 +35,7 @@ Listen(const std::vector<AccessPoint>& air, const std::optional<Bytes>& asked, s
     {
         auto audible = AsHeard(accessPoint, now);
         if (!audible)
-        {
             continue;
-        }
         const bool ssidHeard = !accessPoint.hidden || asked == accessPoint.ssid;
         const SecuritySuite security = SuiteFromNames(accessPoint.authentication, accessPoint.encryption);
         heard.push_back({std::move(*audible), security, ssidHeard, now});

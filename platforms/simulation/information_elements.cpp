@@ -43,38 +43,24 @@ void AppendRates(Bytes& elements, const Bytes& rates)
     const auto split = rates.begin() + static_cast<std::ptrdiff_t>(first);
     Append(elements, ratesElement, Bytes(rates.begin(), split));
     if (split != rates.end())
-    {
         Append(elements, extendedRatesElement, Bytes(split, rates.end()));
-    }
 }
 
 // The numbers of 802.11's RSN element, behind its OUI.
 std::optional<std::uint8_t> KeyManagement(DOT11_AUTH_ALGORITHM authentication)
 {
     if (authentication == DOT11_AUTH_ALGO_RSNA || authentication == DOT11_AUTH_ALGO_WPA)
-    {
         return std::uint8_t{1};
-    }
     if (authentication == DOT11_AUTH_ALGO_RSNA_PSK || authentication == DOT11_AUTH_ALGO_WPA_PSK)
-    {
         return std::uint8_t{2};
-    }
     if (authentication == auth::wpa3_enterprise)
-    {
         return std::uint8_t{5};
-    }
     if (authentication == auth::wpa3_sae)
-    {
         return std::uint8_t{8};
-    }
     if (authentication == auth::wpa3_enterprise_192)
-    {
         return std::uint8_t{12};
-    }
     if (authentication == auth::owe)
-    {
         return std::uint8_t{18};
-    }
     return std::nullopt;
 }
 
@@ -104,9 +90,7 @@ void AppendSecurity(Bytes& elements, SecuritySuite security)
 {
     const auto keyManagement = KeyManagement(security.authentication);
     if (!keyManagement)
-    {
         return;
-    }
     const std::uint8_t cipherSuite = CipherSuite(security.encryption);
     const bool isFirstWpa =
         security.authentication == DOT11_AUTH_ALGO_WPA || security.authentication == DOT11_AUTH_ALGO_WPA_PSK;
@@ -134,9 +118,7 @@ Bytes SupportedRates(const AccessPoint& accessPoint)
 Bytes InformationElements(const HeardBss& bss)
 {
     if (!bss.accessPoint.informationElements.empty())
-    {
         return bss.accessPoint.informationElements;
-    }
     Bytes elements;
     Append(elements, ssidElement, bss.Ssid());
     AppendRates(elements, SupportedRates(bss.accessPoint));

@@ -29,9 +29,7 @@ Machine::Machine(const Scenario& scenario)
     {
         adapters.push_back(std::make_unique<Adapter>(adapter, Surroundings{time, air, serviceRunning, notifier}));
         if (FindAdapter(adapters.back()->Guid()) != adapters.back().get())
-        {
             throw ScenarioError("adapter " + adapter.guid + ": another adapter has this GUID");
-        }
     }
 }
 

@@ -21,9 +21,7 @@ std::string NetworkKey(const Bytes& ssid, std::uint32_t bssType, SecuritySuite s
     std::string key(ssid.begin(), ssid.end());
     for (const std::uint32_t number : {static_cast<std::uint32_t>(security.authentication),
                                        static_cast<std::uint32_t>(security.encryption), bssType})
-    {
         key.append(reinterpret_cast<const char*>(&number), sizeof(number));
-    }
     return key;
 }
 
@@ -55,21 +53,15 @@ public:
     explicit Listing(const NetworkListInput& input) : m_input(input)
     {
         for (const auto& profile : input.profiles.InOrder())
-        {
             m_profilesOf[NetworkKey(profile->document)].push_back(profile.get());
-        }
     }
 
     WLAN_AVAILABLE_NETWORK_LIST* Make(Blocks& blocks)
     {
         for (const HeardBss& bss : m_input.heard)
-        {
             m_networks[NetworkOf(bss)].stations.push_back(&bss);
-        }
         for (std::size_t network = 0, count = m_networks.size(); network < count; ++network)
-        {
             AddEntries(network);
-        }
         AddUnheardProfiles();
         const std::size_t size =
             offsetof(WLAN_AVAILABLE_NETWORK_LIST, Network) + m_entries.size() * sizeof(WLAN_AVAILABLE_NETWORK);
@@ -77,9 +69,7 @@ public:
         list->dwNumberOfItems = static_cast<DWORD>(m_entries.size());
         WLAN_AVAILABLE_NETWORK* record = list->Network;
         for (const Entry& entry : m_entries)
-        {
             Fill(m_networks[entry.network], entry.profile, *record++);
-        }
         return list;
     }
 
@@ -93,9 +83,7 @@ private:
     bool IsToldByProfile(const HeardBss& bss) const
     {
         if (!m_input.allHiddenProfiles || bss.ssidHeard)
-        {
             return false;
-        }
         const auto& point = bss.accessPoint;
         const auto found = m_profilesOf.find(NetworkKey(point.ssid, point.bssType, bss.security));
         return found != m_profilesOf.end() &&
@@ -109,9 +97,7 @@ private:
         const auto [found, isNew] =
             m_networkIndex.emplace(NetworkKey(ssid, bss.accessPoint.bssType, bss.security), m_networks.size());
         if (isNew)
-        {
             m_networks.push_back({ssid, static_cast<DOT11_BSS_TYPE>(bss.accessPoint.bssType), bss.security, {}});
-        }
         return found->second;
     }
 
@@ -166,22 +152,16 @@ private:
             entry.dwFlags |= WLAN_AVAILABLE_NETWORK_HAS_PROFILE;
         }
         if (IsConnected(network, profile))
-        {
             entry.dwFlags |= WLAN_AVAILABLE_NETWORK_CONNECTED;
-        }
     }
 
     // Chosen: an ad hoc network can be joined, and so formed, when nobody is heard in it; any other has to be heard.
     static void SetConnectable(const Network& network, WLAN_AVAILABLE_NETWORK& entry)
     {
         if (!IsSupported(network.security))
-        {
             entry.wlanNotConnectableReason = WLAN_REASON_CODE_UNSUPPORTED_SECURITY_SET;
-        }
         else if (network.stations.empty() && network.bssType == dot11_BSS_type_infrastructure)
-        {
             entry.wlanNotConnectableReason = WLAN_REASON_CODE_NOT_VISIBLE;
-        }
         entry.bNetworkConnectable = entry.wlanNotConnectableReason == WLAN_REASON_CODE_SUCCESS ? TRUE : FALSE;
     }
 
@@ -199,9 +179,7 @@ private:
         const DOT11_PHY_TYPE* const begin = entry.dot11PhyTypes;
         const DOT11_PHY_TYPE* const end = begin + entry.uNumberOfPhyTypes;
         if (std::find(begin, end, type) != end)
-        {
             return;
-        }
         if (entry.uNumberOfPhyTypes == WLAN_MAX_PHY_TYPE_NUMBER)
         {
             entry.bMorePhyTypes = TRUE;
@@ -214,9 +192,7 @@ private:
     bool IsConnected(const Network& network, const Profile* profile) const
     {
         if (m_input.link == nullptr)
-        {
             return false;
-        }
         const ProfileDocument& used = m_input.link->Profile();
         const bool isSameProfile = profile != nullptr && profile->document.name == used.name;
         return isSameProfile && network.ssid == used.ssid && network.security == used.security &&

@@ -36,9 +36,7 @@ Notifier::Replaced Notifier::Register(HANDLE client, const Registration& registr
     }
     m_clients.insert_or_assign(client, Client{registration, {}});
     if (!m_thread.joinable() && !m_stopping)
-    {
         m_thread = std::thread([this] { Run(); });
-    }
     return replaced;
 }
 
@@ -75,9 +73,7 @@ void Notifier::WaitUntilIdle(std::chrono::milliseconds limit)
 {
     std::unique_lock lock(m_mutex);
     if (m_thread.get_id() == std::this_thread::get_id())
-    {
         return; // it would wait for itself
-    }
     m_delivered.wait_for(lock, limit, [this] { return (m_queue.empty() && m_running == nullptr) || m_stopping; });
 }
 
@@ -96,9 +92,7 @@ void Notifier::Stop()
     std::thread thread = std::move(m_thread);
     lock.unlock();
     if (thread.joinable())
-    {
         thread.join();
-    }
 }
 
 void Notifier::Run()
@@ -108,9 +102,7 @@ void Notifier::Run()
     {
         m_news.wait(lock, [this] { return m_stopping || !m_queue.empty(); });
         if (m_stopping)
-        {
             return;
-        }
         Queued next = std::move(m_queue.front());
         m_queue.pop_front();
         Deliver(std::move(next), lock);

@@ -41,13 +41,9 @@ bool IsNestedTooDeep(std::string_view xml)
     {
         const std::string_view mark = xml.substr(at, 2);
         if (mark == "</" || mark == "/>")
-        {
             --depth;
-        }
         else if (xml[at] == '<' && xml[at + 1] != '!' && xml[at + 1] != '?')
-        {
             ++depth;
-        }
     }
     return depth > deepestNesting;
 }
@@ -58,9 +54,7 @@ const Element& Child(const Element& parent,
 {
     const Element* const child = parent.first_node(name);
     if (child == nullptr)
-    {
         Refuse(reasonIfMissing);
-    }
     return *child;
 }
 
@@ -73,13 +67,9 @@ bool ReadFlag(const Element& parent, const char* name, bool otherwise)
 {
     const Element* const child = parent.first_node(name);
     if (child == nullptr)
-    {
         return otherwise;
-    }
     if (ElementText(*child) != "true" && ElementText(*child) != "false")
-    {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
-    }
     return ElementText(*child) == "true";
 }
 
@@ -87,9 +77,7 @@ std::wstring ReadName(const Element& root)
 {
     std::wstring name = forms::WideFromUtf8(ElementText(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
     if (name.empty() || name.size() > longestName)
-    {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_NAME);
-    }
     return name;
 }
 
@@ -102,9 +90,7 @@ Bytes ReadSsid(const Element& config)
     const auto bytes =
         hex != nullptr ? forms::BytesFromHex(ElementText(*hex)) : std::optional(Bytes(name.begin(), name.end()));
     if (!bytes || bytes->empty() || bytes->size() > DOT11_SSID_MAX_LENGTH)
-    {
         Refuse(WLAN_REASON_CODE_PROFILE_SSID_INVALID);
-    }
     return *bytes;
 }
 
@@ -112,9 +98,7 @@ DOT11_BSS_TYPE ReadBssType(const Element& root)
 {
     const std::string_view type = ElementText(Child(root, "connectionType"));
     if (type != "ESS" && type != "IBSS")
-    {
         Refuse(WLAN_REASON_CODE_INVALID_BSS_TYPE);
-    }
     return type == "ESS" ? dot11_BSS_type_infrastructure : dot11_BSS_type_independent;
 }
 
@@ -124,17 +108,11 @@ bool ReadMode(const Element& root, DOT11_BSS_TYPE bssType)
     const bool isAdHoc = bssType == dot11_BSS_type_independent;
     const Element* const mode = root.first_node("connectionMode");
     if (mode == nullptr)
-    {
         return !isAdHoc;
-    }
     if (ElementText(*mode) != "auto" && ElementText(*mode) != "manual")
-    {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
-    }
     if (ElementText(*mode) == "auto" && isAdHoc)
-    {
         Refuse(WLAN_REASON_CODE_INVALID_ADHOC_CONNECTION_MODE);
-    }
     return ElementText(*mode) == "auto";
 }
 
@@ -143,22 +121,16 @@ std::string ReadKey(const Element& security, SecuritySuite suite)
 {
     const Element* const sharedKey = security.first_node("sharedKey");
     if (sharedKey == nullptr)
-    {
         return {};
-    }
     const std::string_view type = ElementText(Child(*sharedKey, "keyType"));
     Child(*sharedKey, "protected");
     const bool isProtected = ReadFlag(*sharedKey, "protected", false);
     const std::string_view key = ElementText(Child(*sharedKey, "keyMaterial"));
     if (type != "passPhrase" && type != "networkKey")
-    {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
-    }
     const bool isPassphrase = type == "passPhrase" && UsesPassphrase(suite) && !isProtected;
     if (isPassphrase && (key.size() < 8 || key.size() > 63))
-    {
         Refuse(WLAN_REASON_CODE_MSMSEC_PROFILE_PSK_LENGTH);
-    }
     return isProtected ? std::string() : std::string(key);
 }
 
@@ -170,14 +142,10 @@ void ReadSecurity(const Element& root, ProfileDocument& profile)
     const std::string_view authentication = ElementText(Child(method, "authentication"));
     const std::string_view encryption = ElementText(Child(method, "encryption"));
     if (!IsAuthenticationName(authentication) || !IsEncryptionName(encryption))
-    {
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
-    }
     const SecuritySuite suite = SuiteFromNames(authentication, encryption);
     if (!IsSupported(suite))
-    {
         Refuse(WLAN_REASON_CODE_MSMSEC_PROFILE_INVALID_AUTH_CIPHER, ERROR_NO_MATCH);
-    }
     profile.security = suite;
     profile.key = ReadKey(security, suite);
 }
@@ -191,9 +159,7 @@ ProfileDocument ReadProfile(const Element& root)
     profile.hidden = ReadFlag(config, "nonBroadcast", false);
     profile.bssType = ReadBssType(root);
     if (profile.hidden && profile.bssType == dot11_BSS_type_independent)
-    {
         Refuse(WLAN_REASON_CODE_NON_BROADCAST_SET_FOR_ADHOC);
-    }
     profile.automatic = ReadMode(root, profile.bssType);
     ReadSecurity(root, profile);
     return profile;
@@ -222,9 +188,7 @@ std::optional<Span> FindText(const std::wstring& xml, const std::wstring& elemen
 void ReplaceText(std::wstring& xml, const std::wstring& element, const std::wstring& text)
 {
     if (const auto span = FindText(xml, element))
-    {
         xml.replace(span->begin, span->length, text);
-    }
 }
 
 std::optional<std::wstring> KeyOf(const std::wstring& xml, std::wstring_view isProtected)
@@ -232,9 +196,7 @@ std::optional<std::wstring> KeyOf(const std::wstring& xml, std::wstring_view isP
     const auto flag = FindText(xml, L"protected");
     const auto key = FindText(xml, L"keyMaterial");
     if (!flag || !key || xml.compare(flag->begin, flag->length, isProtected) != 0)
-    {
         return std::nullopt;
-    }
     return xml.substr(key->begin, key->length);
 }
 
@@ -245,9 +207,7 @@ std::optional<ProfileDocument> ParseProfile(const std::string& xml, ProfileRefus
     try
     {
         if (IsNestedTooDeep(xml))
-        {
             Refuse(WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA);
-        }
         std::vector<char> text(xml.begin(), xml.end());
         text.push_back('\0');
         rapidxml::xml_document<char> document;
@@ -269,9 +229,7 @@ std::wstring WithProtectedKey(const std::wstring& xml)
 {
     const auto key = KeyOf(xml, L"false");
     if (!key)
-    {
         return xml;
-    }
     const std::wstring hidden =
         std::wstring(protectedMark) + forms::WideFromUtf8(forms::HexText(forms::Utf8FromWide(*key)));
     std::wstring result = xml;
@@ -284,14 +242,10 @@ std::wstring WithPlainKey(const std::wstring& xml)
 {
     const auto key = KeyOf(xml, L"true");
     if (!key || key->compare(0, protectedMark.size(), protectedMark) != 0)
-    {
         return xml;
-    }
     const auto bytes = forms::BytesFromHex(forms::Utf8FromWide(std::wstring_view(*key).substr(protectedMark.size())));
     if (!bytes)
-    {
         return xml;
-    }
     std::wstring result = xml;
     ReplaceText(result, L"protected", L"false");
     ReplaceText(result, L"keyMaterial", forms::WideFromUtf8(std::string(bytes->begin(), bytes->end())));

@@ -28,9 +28,7 @@ bool ProfileStore::Append(Profile profile)
 {
     auto stored = std::make_shared<const Profile>(std::move(profile));
     if (!m_byName.emplace(stored->document.name, stored).second)
-    {
         return false;
-    }
     m_order.push_back(std::move(stored));
     return true;
 }
@@ -42,9 +40,7 @@ DWORD ProfileStore::Store(Profile profile, bool overwrite)
     if (known != m_order.end())
     {
         if (!overwrite)
-        {
             return ERROR_ALREADY_EXISTS;
-        }
         *known = stored;
     }
     else
@@ -61,9 +57,7 @@ DWORD ProfileStore::Delete(const std::wstring& name)
 {
     const auto known = FindInOrder(name);
     if (known == m_order.end())
-    {
         return ERROR_NOT_FOUND;
-    }
     m_order.erase(known);
     m_byName.erase(name);
     return ERROR_SUCCESS;
@@ -73,18 +67,12 @@ DWORD ProfileStore::Move(const std::wstring& name, DWORD position)
 {
     const auto known = FindInOrder(name);
     if (known == m_order.end() || position >= m_order.size())
-    {
         return ERROR_NOT_FOUND;
-    }
     const auto target = m_order.begin() + static_cast<List::difference_type>(position);
     if (target < known)
-    {
         std::rotate(target, known, known + 1);
-    }
     else
-    {
         std::rotate(known, known + 1, target + 1);
-    }
     return ERROR_SUCCESS;
 }
 

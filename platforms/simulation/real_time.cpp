@@ -37,9 +37,7 @@ RealTime::~RealTime()
 {
     m_ending = true;
     if (m_thread.joinable())
-    {
         m_thread.join();
-    }
 }
 
 void RealTime::CatchUp()

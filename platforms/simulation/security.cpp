@@ -80,10 +80,8 @@ SimulatedSecurity::Change SimulatedSecurity::PlanChange(const TOKEN_PRIVILEGES* 
     Change change;
     const std::vector<Privilege>& held = m_machine.privileges;
     if (newState == nullptr)
-    {
         for (std::size_t index = 0; index < held.size(); ++index)
             change.enabled[index] = false;
-    }
     for (DWORD entry = 0; newState != nullptr && entry < newState->PrivilegeCount; ++entry)
     {
         const LUID_AND_ATTRIBUTES& wanted = newState->Privileges[entry];

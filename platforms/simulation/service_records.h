@@ -35,9 +35,7 @@ inline DOT11_SSID MakeSsid(const Bytes& bytes)
     const std::size_t length = bytes.size() < DOT11_SSID_MAX_LENGTH ? bytes.size() : DOT11_SSID_MAX_LENGTH;
     ssid.uSSIDLength = static_cast<ULONG>(length);
     if (length != 0)
-    {
         std::memcpy(ssid.ucSSID, bytes.data(), length);
-    }
     return ssid;
 }
 

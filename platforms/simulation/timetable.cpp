@@ -33,14 +33,10 @@ std::optional<std::int32_t> SignalAt(const AccessPoint& accessPoint, std::chrono
 {
     const auto& timetable = accessPoint.timetable;
     if (timetable.empty())
-    {
         return accessPoint.rssi;
-    }
     const auto next = NextPoint(accessPoint, now);
     if (next == timetable.begin())
-    {
         return next->rssi;
-    }
     const SignalPoint& last = *(next - 1);
     const bool isChanging = next != timetable.end() && last.rssi && next->rssi;
     return isChanging ? Between(last, *next, now) : last.rssi;
@@ -50,9 +46,7 @@ std::optional<AccessPoint> AsHeard(const AccessPoint& accessPoint, std::chrono::
 {
     const auto rssi = SignalAt(accessPoint, now);
     if (!rssi)
-    {
         return std::nullopt;
-    }
     AccessPoint heard = accessPoint;
     heard.rssi = *rssi;
     heard.timetable.clear();
@@ -64,13 +58,9 @@ std::vector<SignalPoint> RestOfTimetable(const AccessPoint& accessPoint, std::ch
     std::vector<SignalPoint> rest;
     const auto next = NextPoint(accessPoint, now);
     if (next != accessPoint.timetable.begin())
-    {
         rest.push_back({0, SignalAt(accessPoint, now)});
-    }
     for (auto point = next; point != accessPoint.timetable.end(); ++point)
-    {
         rest.push_back({static_cast<std::uint32_t>((TimeOf(*point) - now).count()), point->rssi});
-    }
     return rest;
 }
 

@@ -28,13 +28,9 @@ DWORD SimulatedWlanService::Check(const char* operation,
 {
     const bool anyMissing = std::find(required.begin(), required.end(), nullptr) != required.end();
     if (client == nullptr || anyMissing || reserved != nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     if (!m_machine.handles.Use(client, HandleKind::wlanClient, operation))
-    {
         return ERROR_INVALID_HANDLE;
-    }
     return m_machine.serviceRunning ? ERROR_SUCCESS : ERROR_SERVICE_NOT_ACTIVE;
 }
 
@@ -44,23 +40,15 @@ DWORD SimulatedWlanService::WlanOpenHandle(DWORD clientVersion,
                                            HANDLE* client)
 {
     if (reserved != nullptr || negotiatedVersion == nullptr || client == nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     const std::lock_guard lock(m_machine.mutex);
     // A stopped service is reported before the version is looked at.
     if (!m_machine.serviceRunning)
-    {
         return ERROR_SERVICE_NOT_ACTIVE;
-    }
     if (clientVersion < oldestVersion || clientVersion > newestVersion)
-    {
         return ERROR_NOT_SUPPORTED;
-    }
     if (m_machine.handles.CountOpen(HandleKind::wlanClient) >= mostClients)
-    {
         return ERROR_REMOTE_SESSION_LIMIT_EXCEEDED;
-    }
     *negotiatedVersion = clientVersion;
     *client = m_machine.handles.Open(HandleKind::wlanClient);
     return ERROR_SUCCESS;
@@ -70,9 +58,7 @@ DWORD SimulatedWlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WL
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanEnumInterfaces", client, {list}, reserved))
-    {
         return error;
-    }
     const auto& adapters = m_machine.adapters;
     const std::size_t size =
         offsetof(WLAN_INTERFACE_INFO_LIST, InterfaceInfo) + adapters.size() * sizeof(WLAN_INTERFACE_INFO);
@@ -94,24 +80,16 @@ DWORD SimulatedWlanService::WlanScan(
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanScan", client, {interfaceGuid}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     const bool isSsidTooLong = ssid != nullptr && ssid->uSSIDLength > DOT11_SSID_MAX_LENGTH;
     const bool isDataTooLong = ieData != nullptr && ieData->dwDataSize > mostIeData;
     if (adapter == nullptr || isSsidTooLong || isDataTooLong)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     if (!m_machine.locationConsent)
-    {
         return ERROR_ACCESS_DENIED;
-    }
     if (!adapter->IsRadioOn())
-    {
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
-    }
     adapter->StartScan(ssid != nullptr ? std::optional(SsidBytes(*ssid)) : std::nullopt);
     return ERROR_SUCCESS;
 }

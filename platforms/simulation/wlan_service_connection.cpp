@@ -43,36 +43,22 @@ DWORD SimulatedWlanService::WlanConnect(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanConnect", client, {interfaceGuid, parameters}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     const WLAN_CONNECTION_MODE mode = parameters->wlanConnectionMode;
     if (adapter == nullptr || mode >= wlan_connection_mode_auto)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     if (mode != wlan_connection_mode_profile)
-    {
         return ERROR_CALL_NOT_IMPLEMENTED; // temporary profiles and discovery cannot be used yet
-    }
     if (!IsProfileName(parameters->strProfile))
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     const auto profile = adapter->Profiles().Find(parameters->strProfile);
     if (profile == nullptr)
-    {
         return ERROR_NOT_FOUND; // chosen
-    }
     if (profile->document.bssType != parameters->dot11BssType || !IsSsidOf(profile->document, parameters->pDot11Ssid))
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     if (!adapter->IsRadioOn())
-    {
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID; // chosen, as for the lists
-    }
     adapter->Connect({profile, DesiredBssids(parameters->pDesiredBssidList),
                       (parameters->dwFlags & WLAN_CONNECTION_HIDDEN_NETWORK) != 0, mode});
     return ERROR_SUCCESS;
@@ -83,14 +69,10 @@ DWORD SimulatedWlanService::WlanDisconnect(HANDLE client, const GUID* interfaceG
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanDisconnect", client, {interfaceGuid}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     adapter->Disconnect();
     return ERROR_SUCCESS;
 }

@@ -50,20 +50,14 @@ DWORD SimulatedWlanService::WlanQueryAutoConfigParameter(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanQueryAutoConfigParameter", client, {dataSize, data}, reserved))
-    {
         return error;
-    }
     const auto answer = Answer(m_machine, m_machine.wlanBlocks, opcode);
     if (!answer)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     *data = answer->data;
     *dataSize = static_cast<DWORD>(answer->size);
     if (valueType != nullptr)
-    {
         *valueType = wlan_opcode_value_type_set_by_user;
-    }
     return ERROR_SUCCESS;
 }
 
@@ -81,33 +75,21 @@ DWORD SimulatedWlanService::WlanIhvControl(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanIhvControl", client, {interfaceGuid, bytesReturned}))
-    {
         return error;
-    }
     const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     const bool isMissing = (input == nullptr && inputSize != 0) || (output == nullptr && outputSize != 0);
     if (adapter == nullptr || isMissing || type > wlan_ihv_control_type_driver)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     const bool isForDriver = type == wlan_ihv_control_type_driver;
     const IhvAnswer* const answer = isForDriver ? adapter->AnswerIhv(RequestBytes(input, inputSize)) : nullptr;
     if (answer == nullptr)
-    {
         return ERROR_NOT_SUPPORTED;
-    }
     if (answer->error != 0)
-    {
         return answer->error;
-    }
     if (answer->data.size() > outputSize)
-    {
         return ERROR_INSUFFICIENT_BUFFER;
-    }
     if (!answer->data.empty())
-    {
         std::memcpy(output, answer->data.data(), answer->data.size());
-    }
     *bytesReturned = static_cast<DWORD>(answer->data.size());
     return ERROR_SUCCESS;
 }
@@ -117,17 +99,11 @@ DWORD SimulatedWlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABL
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanSetSecuritySettings", client, {sddl}))
-    {
         return error;
-    }
     if (object > wlan_secure_hosted_network_elevated_access || sddl[0] == L'\0')
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     if (!m_machine.administrator)
-    {
         return ERROR_ACCESS_DENIED;
-    }
     m_machine.securitySettings[object] = sddl;
     return ERROR_SUCCESS;
 }
@@ -137,9 +113,7 @@ DWORD SimulatedWlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABL
 DWORD SimulatedWlanService::WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, wchar_t* buffer, PVOID reserved)
 {
     if (bufferSize == 0 || buffer == nullptr || reserved != nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     const std::wstring_view text = ReasonText(reasonCode);
     const std::size_t length = std::min<std::size_t>(text.size(), bufferSize - 1);
     buffer[text.copy(buffer, length)] = L'\0';

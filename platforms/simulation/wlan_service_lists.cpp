@@ -23,9 +23,7 @@ struct BssFilter
 bool Passes(const HeardBss& bss, const BssFilter& filter)
 {
     if (filter.ssid == nullptr)
-    {
         return true;
-    }
     return bss.Ssid() == SsidBytes(*filter.ssid) &&
            bss.accessPoint.bssType == static_cast<std::uint32_t>(filter.bssType) &&
            IsSecured(bss.security) == filter.secured && filter.bssType != dot11_BSS_type_any;
@@ -35,12 +33,8 @@ std::vector<const HeardBss*> Choose(const std::vector<HeardBss>& heard, const Bs
 {
     std::vector<const HeardBss*> chosen;
     for (const HeardBss& bss : heard)
-    {
         if (Passes(bss, filter))
-        {
             chosen.push_back(&bss);
-        }
-    }
     return chosen;
 }
 
@@ -51,22 +45,14 @@ DWORD SimulatedWlanService::WlanGetAvailableNetworkList(
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetAvailableNetworkList", client, {interfaceGuid, list}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     if (!m_machine.locationConsent)
-    {
         return ERROR_ACCESS_DENIED;
-    }
     if (!adapter->IsRadioOn())
-    {
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
-    }
     const NetworkListInput input{adapter->Heard(), adapter->Profiles(), adapter->CurrentLink(),
                                  (flags & WLAN_AVAILABLE_NETWORK_INCLUDE_ALL_ADHOC_PROFILES) != 0,
                                  (flags & WLAN_AVAILABLE_NETWORK_INCLUDE_ALL_MANUAL_HIDDEN_PROFILES) != 0};
@@ -84,27 +70,17 @@ DWORD SimulatedWlanService::WlanGetNetworkBssList(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetNetworkBssList", client, {interfaceGuid, list}, reserved))
-    {
         return error;
-    }
     if (ssid != nullptr && ssid->uSSIDLength > DOT11_SSID_MAX_LENGTH)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     // Alone among the operations this one says "not found" when there is no such interface.
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
-    {
         return ERROR_NOT_FOUND;
-    }
     if (!m_machine.locationConsent)
-    {
         return ERROR_ACCESS_DENIED;
-    }
     if (!adapter->IsRadioOn())
-    {
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
-    }
     const auto chosen = Choose(adapter->Heard(), {ssid, bssType, securityEnabled != FALSE});
     *list = MakeBssList(m_machine.wlanBlocks, chosen, adapter->Phys());
     return ERROR_SUCCESS;

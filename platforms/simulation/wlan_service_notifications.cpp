@@ -20,18 +20,12 @@ DWORD SimulatedWlanService::WlanRegisterNotification(HANDLE client,
     {
         const std::lock_guard lock(m_machine.mutex);
         if (const DWORD error = Check("WlanRegisterNotification", client, {}, reserved))
-        {
             return error;
-        }
         if (source != WLAN_NOTIFICATION_SOURCE_NONE && callback == nullptr)
-        {
             return ERROR_INVALID_PARAMETER;
-        }
         replaced = m_machine.notifier.Register(client, {source, ignoreDuplicate != FALSE, callback, context});
         if (previousSource != nullptr)
-        {
             *previousSource = replaced.sources;
-        }
     }
     WaitForCallback(replaced, "WlanRegisterNotification");
     return ERROR_SUCCESS;
@@ -41,16 +35,12 @@ DWORD SimulatedWlanService::WlanRegisterNotification(HANDLE client,
 DWORD SimulatedWlanService::WlanCloseHandle(HANDLE client, PVOID reserved)
 {
     if (client == nullptr || reserved != nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     Notifier::Replaced replaced;
     {
         const std::lock_guard lock(m_machine.mutex);
         if (!m_machine.handles.Close(client, HandleKind::wlanClient, "WlanCloseHandle"))
-        {
             return ERROR_INVALID_HANDLE;
-        }
         replaced = m_machine.notifier.Register(client, {});
     }
     WaitForCallback(replaced, "WlanCloseHandle");

@@ -29,9 +29,7 @@ std::optional<Profile> ReadProfile(const wchar_t* xml, DWORD flags, ProfileRefus
     const std::string utf8 = forms::Utf8FromWide(text, &isIllFormed);
     auto document = ParseProfile(isIllFormed ? std::string() : utf8, refusal);
     if (!document)
-    {
         return std::nullopt;
-    }
     return Profile{std::move(text), std::move(*document), flags};
 }
 
@@ -44,14 +42,10 @@ DWORD SimulatedWlanService::WlanGetProfileList(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetProfileList", client, {interfaceGuid, list}, reserved))
-    {
         return error;
-    }
     const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     const auto& profiles = adapter->Profiles().InOrder();
     const std::size_t size =
         offsetof(WLAN_PROFILE_INFO_LIST, ProfileInfo) + profiles.size() * sizeof(WLAN_PROFILE_INFO);
@@ -79,29 +73,19 @@ DWORD SimulatedWlanService::WlanGetProfile(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanGetProfile", client, {interfaceGuid, name, xml}, reserved))
-    {
         return error;
-    }
     const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     const auto profile = adapter->Profiles().Find(name);
     if (profile == nullptr)
-    {
         return ERROR_NOT_FOUND;
-    }
     const DWORD plainKey = flags != nullptr ? *flags & WLAN_PROFILE_GET_PLAINTEXT_KEY : 0;
     *xml = NewText(m_machine.wlanBlocks, plainKey != 0 ? profile->xml : WithProtectedKey(profile->xml));
     if (flags != nullptr)
-    {
         *flags = profile->flags | plainKey;
-    }
     if (grantedAccess != nullptr)
-    {
         *grantedAccess = WLAN_WRITE_ACCESS;
-    }
     return ERROR_SUCCESS;
 }
 
@@ -117,14 +101,10 @@ DWORD SimulatedWlanService::WlanSetProfile(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanSetProfile", client, {interfaceGuid, xml, reasonCode}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr || (flags & ~knownProfileFlags) != 0)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     ProfileRefusal refusal{};
     auto profile = ReadProfile(xml, flags, refusal);
     if (!profile)
@@ -143,9 +123,7 @@ DWORD SimulatedWlanService::WlanDeleteProfile(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanDeleteProfile", client, {interfaceGuid, name}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     return adapter != nullptr ? adapter->DeleteProfile(name) : ERROR_INVALID_PARAMETER;
 }
@@ -155,9 +133,7 @@ DWORD SimulatedWlanService::WlanSetProfilePosition(
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanSetProfilePosition", client, {interfaceGuid, name}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     return adapter != nullptr ? adapter->MoveProfile(name, position) : ERROR_INVALID_PARAMETER;
 }

@@ -86,9 +86,7 @@ std::optional<bool> ReadBoolean(DWORD size, const void* data)
 {
     BOOL value = FALSE;
     if (size != sizeof(value))
-    {
         return std::nullopt;
-    }
     std::memcpy(&value, data, sizeof(value));
     return value != FALSE;
 }
@@ -97,9 +95,7 @@ DWORD SetAutoConfiguration(Adapter& adapter, DWORD size, const void* data)
 {
     const auto value = ReadBoolean(size, data);
     if (!value)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     adapter.SetAutoConfiguration(*value);
     return ERROR_SUCCESS;
 }
@@ -109,13 +105,9 @@ DWORD SetBackgroundScan(Adapter& adapter, DWORD size, const void* data)
 {
     const auto value = ReadBoolean(size, data);
     if (!value)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     if (!IsConnected(adapter))
-    {
         return ERROR_INVALID_STATE;
-    }
     adapter.SetBackgroundScan(*value);
     return ERROR_SUCCESS;
 }
@@ -125,16 +117,12 @@ DWORD SetRadio(Adapter& adapter, DWORD size, const void* data)
 {
     WLAN_PHY_RADIO_STATE state{};
     if (size != sizeof(state))
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     std::memcpy(&state, data, sizeof(state));
     const bool isOn = state.dot11SoftwareRadioState == dot11_radio_state_on;
     const bool isOff = state.dot11SoftwareRadioState == dot11_radio_state_off;
     if (state.dwPhyIndex >= adapter.Phys().size() || (!isOn && !isOff))
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     const RadioSwitch hardware = adapter.Phys()[state.dwPhyIndex].hardware;
     adapter.SetRadio(state.dwPhyIndex, isOn ? RadioSwitch::on : RadioSwitch::off, hardware);
     return ERROR_SUCCESS;
@@ -152,34 +140,22 @@ DWORD SimulatedWlanService::WlanQueryInterface(HANDLE client,
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanQueryInterface", client, {interfaceGuid, dataSize, data}, reserved))
-    {
         return error;
-    }
     const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     // Of the queries only this one would tell where the computer is.
     if (opcode == wlan_intf_opcode_current_connection && !m_machine.locationConsent)
-    {
         return ERROR_ACCESS_DENIED;
-    }
     if (NeedsConnection(opcode) && !IsConnected(*adapter))
-    {
         return ERROR_INVALID_STATE;
-    }
     const auto answer = Answer(m_machine.wlanBlocks, *adapter, opcode);
     if (!answer)
-    {
         return ERROR_NOT_SUPPORTED;
-    }
     *data = answer->data;
     *dataSize = static_cast<DWORD>(answer->size);
     if (valueType != nullptr)
-    {
         *valueType = CanBeSet(opcode) ? wlan_opcode_value_type_set_by_user : wlan_opcode_value_type_query_only;
-    }
     return ERROR_SUCCESS;
 }
 
@@ -188,14 +164,10 @@ DWORD SimulatedWlanService::WlanSetInterface(
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = Check("WlanSetInterface", client, {interfaceGuid, data}, reserved))
-    {
         return error;
-    }
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr || !CanBeSet(opcode))
-    {
         return ERROR_INVALID_PARAMETER;
-    }
     switch (static_cast<unsigned int>(opcode))
     {
     case wlan_intf_opcode_autoconf_enabled:

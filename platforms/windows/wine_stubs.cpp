@@ -33,9 +33,7 @@ bool IsWineStub(FARPROC function, const char* name)
     const auto* const code = reinterpret_cast<const unsigned char*>(function);
     if (std::memcmp(code, kReserveStackAndLoadLibraryName, sizeof(kReserveStackAndLoadLibraryName)) != 0 ||
         std::memcmp(code + kLoadOwnNameAt, kLoadOwnName, sizeof(kLoadOwnName)) != 0 || code[kCallAt] != kCall)
-    {
         return false;
-    }
     std::int32_t distance = 0;
     std::memcpy(&distance, code + kOwnNameDistanceAt, sizeof(distance));
     return std::strcmp(reinterpret_cast<const char*>(code + kCallAt) + distance, name) == 0;

@@ -48,10 +48,8 @@ int ConnectCandidates(HANDLE client,
     // Deliberate: from the weakest upward. The service accepts a request without waiting for the connection, so the
     // first accepted one stands, which mostly is the first.
     for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
-    {
         if (RequestNetwork(client, interfaceGuid, *candidate, trace) == 0)
             return 0;
-    }
     return -12;
 }
 
@@ -74,10 +72,8 @@ int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesP
             if (!usesProfile(profile))
                 continue;
             for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
-            {
                 if (accepts(*network))
                     candidates.push_back(lists.networks->Network + (network - lists.networks->Network));
-            }
         }
     };
     if (OutOfMemoryIn(gather))

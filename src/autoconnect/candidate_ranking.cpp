@@ -32,10 +32,8 @@ unsigned CountBonusEntries(const WLAN_AVAILABLE_NETWORK& network, const WLAN_BSS
 void AddBandBonus(const Candidates& candidates, const WLAN_BSS_LIST& entries)
 {
     for (WLAN_AVAILABLE_NETWORK* candidate : candidates)
-    {
         if (const unsigned count = CountBonusEntries(*candidate, entries))
             candidate->wlanSignalQuality = (std::min)(candidate->wlanSignalQuality + count * kBonus, kBestScore);
-    }
 }
 
 void SortByScore(Candidates& candidates)

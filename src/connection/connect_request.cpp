@@ -36,10 +36,8 @@ const WLAN_BSS_ENTRY& PickAccessPoint(const WLAN_BSS_LIST& entries)
     const auto items = Items(entries);
     const WLAN_BSS_ENTRY* pick = &items.front();
     for (const WLAN_BSS_ENTRY& entry : items)
-    {
         if (entry.uLinkQuality > items.front().uLinkQuality)
             pick = &entry;
-    }
     return *pick;
 }
 

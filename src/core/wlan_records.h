@@ -46,10 +46,8 @@ inline const WLAN_INTERFACE_INFO* LastInterface(const WLAN_INTERFACE_INFO_LIST& 
 {
     const WLAN_INTERFACE_INFO* last = nullptr;
     for (const WLAN_INTERFACE_INFO& info : Items(list))
-    {
         if (SameInterface(info.InterfaceGuid, interfaceGuid))
             last = &info;
-    }
     return last;
 }
 

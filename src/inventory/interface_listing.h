@@ -43,10 +43,8 @@ struct ValueText
 inline const char* TextOf(std::span<const ValueText> table, std::uint32_t value, const char* otherwise)
 {
     for (const ValueText& row : table)
-    {
         if (row.value == value)
             return row.text;
-    }
     return otherwise;
 }
 

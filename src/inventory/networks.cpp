@@ -99,10 +99,8 @@ int CWirelessManage::GetAP(const GUID* pInterfaceGuid, DOT11_SSID* pSsid)
     if (pSsid->uSSIDLength == 0)
         return -4;
     for (const WLAN_AVAILABLE_NETWORK& network : Items(*networks))
-    {
         if (SameSsid(network.dot11Ssid, *pSsid))
             return 0;
-    }
     return -4;
 }
 

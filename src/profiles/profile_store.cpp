@@ -53,10 +53,8 @@ int CWirelessManage::GetWlanProfile(const GUID* pInterfaceGuid, const char* name
     if (const ErrorNumber error = ListProfiles(hClient, pInterfaceGuid, profiles, trace))
         return static_cast<int>(error);
     for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
-    {
         if (FixedText(profile.strProfileName) == wide)
             return 0;
-    }
     return -1;
 }
 

@@ -51,10 +51,8 @@ std::size_t calvix::NarrowInLocale(std::wstring_view wide, char* narrow, std::si
             state = {};
         }
         for (std::size_t index = 0; index < length; ++index, ++whole)
-        {
             if (whole + 1 < capacity)
                 narrow[whole] = bytes[index];
-        }
     }
     if (capacity != 0)
         narrow[(std::min)(whole, capacity - 1)] = '\0';

@@ -36,10 +36,8 @@ protected:
     static simulation::AccessPoint& AccessPointOf(simulation::Scenario& world, const simulation::MacAddress& bssid)
     {
         for (simulation::AccessPoint& accessPoint : world.accessPoints)
-        {
             if (accessPoint.bssid == bssid)
                 return accessPoint;
-        }
         ADD_FAILURE() << "no such access point";
         return world.accessPoints.front();
     }

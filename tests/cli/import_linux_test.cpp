@@ -74,12 +74,10 @@ std::string Columns(const std::vector<std::size_t>& kept)
     {
         std::vector<std::string> cells(1);
         for (std::size_t i = 0; i < line.size(); ++i)
-        {
             if (line[i] == ':' && line[i - 1] != '\\')
                 cells.emplace_back();
             else
                 cells.back() += line[i];
-        }
         for (const std::size_t column : kept)
             text += (column == kept.front() ? "" : ":") + cells.at(column);
         text += "\n";

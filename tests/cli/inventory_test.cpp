@@ -92,10 +92,8 @@ TEST_F(NetworksCommand, SpeaksJson)
     const json networks = json::parse(RunOn(RichWorld(), {"networks", "--json"}).out)["networks"];
     json home;
     for (const json& network : networks)
-    {
         if (network["ssid"] == "HomeNet")
             home = network;
-    }
     EXPECT_EQ("486F6D654E6574", home["ssidHex"]);
     EXPECT_EQ("HomeNet", home["profile"]);
     EXPECT_EQ(100, home["quality"]);

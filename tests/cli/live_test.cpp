@@ -36,10 +36,8 @@ std::vector<json> EventsNamed(const std::string& text, const std::string& event)
 {
     std::vector<json> found;
     for (const json& object : Objects(text))
-    {
         if (object["event"] == event)
             found.push_back(object);
-    }
     return found;
 }
 

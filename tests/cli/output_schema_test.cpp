@@ -106,10 +106,8 @@ void ForbidUnknownMembers(json& schema)
     if (schema.is_object() && schema.contains("properties") && !schema.contains("additionalProperties"))
         schema["additionalProperties"] = false;
     if (schema.is_structured())
-    {
         for (json& part : schema)
             ForbidUnknownMembers(part);
-    }
 }
 
 class OutputSchema : public CliTest
@@ -140,7 +138,6 @@ protected:
         for (std::string word; path >> word;)
             words.push_back(word);
         for (const std::string& argument : row.arguments)
-        {
             if (argument == "OUTPUT")
                 words.push_back(PathFor("output"));
             else if (argument == "FILE")
@@ -149,7 +146,6 @@ protected:
                 words.push_back(CALVIX_SOURCE_DIR "/tests/data/captures/home/networks.txt");
             else
                 words.push_back(argument);
-        }
         words.insert(words.end(),
                      {"--json", "--scenario", CALVIX_SOURCE_DIR "/scenarios/" + std::string(row.scenario) + ".json"});
         return words;

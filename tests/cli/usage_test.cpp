@@ -34,12 +34,10 @@ std::string WithoutSequences(const std::string& text)
 {
     std::string plain;
     for (std::size_t i = 0; i < text.size(); ++i)
-    {
         if (text[i] == '\x1b')
             i = text.find('m', i);
         else
             plain += text[i];
-    }
     return plain;
 }
 
@@ -210,12 +208,8 @@ TEST_F(Usage, TakesTheExamplesOfEveryCommand)
     {
         std::istringstream lines(command.examples);
         for (std::string line; std::getline(lines, line);)
-        {
             if (line.starts_with("  calvix ") && !line.starts_with("  calvix help"))
-            {
                 EXPECT_EQ("", Refusal(WordsOf(line))) << line;
-            }
-        }
     }
 }
 

@@ -28,9 +28,7 @@ public:
     void Close()
     {
         if (m_handle != nullptr)
-        {
             ::CloseHandle(m_handle);
-        }
         m_handle = nullptr;
     }
 
@@ -56,9 +54,7 @@ struct Pipe
         char part[4096];
         DWORD count = 0;
         while (::ReadFile(read.Get(), part, sizeof(part), &count, nullptr) != FALSE && count > 0)
-        {
             text.append(part, count);
-        }
         return text;
     }
 
@@ -74,9 +70,7 @@ public:
         wchar_t before[1024];
         const DWORD length = ::GetEnvironmentVariableW(name.c_str(), before, 1024);
         if (length > 0 && length < 1024)
-        {
             m_before = std::wstring(before, length);
-        }
         ::SetEnvironmentVariableW(name.c_str(), value.empty() ? nullptr : value.c_str());
     }
     ~ChangedVariable() { ::SetEnvironmentVariableW(m_name.c_str(), m_before ? m_before->c_str() : nullptr); }
@@ -95,9 +89,7 @@ ProgramEnd RunProgram(const std::wstring& path, const Environment& changes, cons
     std::wstring commandLine = L"\"" + path + L"\" " + arguments;
     std::map<std::wstring, ChangedVariable> changed;
     for (const auto& [name, value] : changes)
-    {
         changed.try_emplace(name, name, value);
-    }
     Pipe output;
     Pipe errors;
     STARTUPINFOW startup{};
@@ -108,15 +100,11 @@ ProgramEnd RunProgram(const std::wstring& path, const Environment& changes, cons
     PROCESS_INFORMATION process{};
     if (!::CreateProcessW(path.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
                           &process))
-    {
         return {::GetLastError(), "", "not started"};
-    }
     const OwnedHandle running(process.hProcess);
     const OwnedHandle thread(process.hThread);
     if (::WaitForSingleObject(running.Get(), againstHangs) != WAIT_OBJECT_0)
-    {
         ::TerminateProcess(running.Get(), exitCodeOfTheEnded);
-    }
     ProgramEnd end;
     ::GetExitCodeProcess(running.Get(), &end.exitCode);
     end.output = output.ReadAll();

@@ -68,9 +68,7 @@ TEST(DropinExports, AreTheOperationsAndNothingElse)
         image.At<IMAGE_EXPORT_DIRECTORY>(image.Directory(IMAGE_DIRECTORY_ENTRY_EXPORT).VirtualAddress);
     std::set<std::string> names;
     for (DWORD index = 0; index < table->NumberOfNames; ++index)
-    {
         names.insert(image.At<char>(image.At<DWORD>(table->AddressOfNames)[index]));
-    }
     EXPECT_EQ(names, operations);
     EXPECT_EQ(table->NumberOfFunctions, operations.size()) << "there are nameless ones";
     EXPECT_STREQ(image.At<char>(table->Name), "wlanapi.dll");
@@ -85,9 +83,7 @@ TEST(DropinExports, NeedOnlyWhatEveryWindowsHas)
     const LoadedImage image(module);
     const auto* entry = image.At<IMAGE_IMPORT_DESCRIPTOR>(image.Directory(IMAGE_DIRECTORY_ENTRY_IMPORT).VirtualAddress);
     for (; entry->Name != 0; ++entry)
-    {
         EXPECT_EQ(expected.count(image.At<char>(entry->Name)), 1u) << image.At<char>(entry->Name);
-    }
 }
 
 } // namespace

@@ -25,9 +25,7 @@ Place WhereConnected(const GUID& adapter)
 {
     WLAN_CONNECTION_ATTRIBUTES attributes{};
     if (Manager().GetCurrentConnection(&adapter, &attributes) != 0)
-    {
         return {};
-    }
     const WLAN_ASSOCIATION_ATTRIBUTES& association = attributes.wlanAssociationAttributes;
     char bssid[18] = "";
     Manager().FormMAC(association.dot11Bssid, bssid);

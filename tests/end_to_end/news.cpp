@@ -52,9 +52,7 @@ std::vector<DWORD> News::Codes(std::size_t from) const
     const std::lock_guard lock(m_mutex);
     std::vector<DWORD> codes;
     for (std::size_t index = from; index < m_events.size(); ++index)
-    {
         codes.push_back(m_events[index].code);
-    }
     return codes;
 }
 

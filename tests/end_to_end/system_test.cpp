@@ -41,9 +41,7 @@ bool HoldsPrivilege(const char* name, DWORD attribute)
     BOOL isHeld = FALSE;
     if (::LookupPrivilegeValueA(nullptr, name, &luid) == FALSE ||
         ::OpenProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &token) == FALSE)
-    {
         return false;
-    }
     DWORD size = 0;
     ::GetTokenInformation(token, TokenPrivileges, nullptr, 0, &size);
     std::vector<char> memory(size);

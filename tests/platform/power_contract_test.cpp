@@ -187,15 +187,11 @@ TEST_P(PowerContract, UnknownSchemesAreMissed)
     EXPECT_EQ(read, Error(ERROR_FILE_NOT_FOUND));
     const DWORD activated = Power().PowerSetActiveScheme(nullptr, &kNobodysScheme);
     if (!IsUnwritten(activated))
-    {
         EXPECT_EQ(activated, Error(ERROR_FILE_NOT_FOUND));
-    }
     GUID* duplicate = nullptr;
     const DWORD duplicated = Power().PowerDuplicateScheme(nullptr, &kNobodysScheme, &duplicate);
     if (!IsUnwritten(duplicated))
-    {
         EXPECT_EQ(duplicated, Error(ERROR_FILE_NOT_FOUND));
-    }
     EXPECT_EQ(duplicate, nullptr);
 }
 

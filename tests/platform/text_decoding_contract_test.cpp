@@ -164,10 +164,8 @@ TEST_P(TextDecodingContract, SourceAndDestinationMustNotBeOne)
 TEST_P(TextDecodingContract, FlagsThatNobodyKnowsAreRefused)
 {
     for (const UINT codePage : {UINT{CP_ACP}, kWestern, kJapanese, UINT{CP_UTF8}})
-    {
         for (const DWORD flags : {Error(0x100), Error(0x80000000), Error(MB_ERR_INVALID_CHARS | 0x10)})
             EXPECT_EQ(ErrorOfFlags(codePage, flags), Error(ERROR_INVALID_FLAGS)) << codePage << ' ' << flags;
-    }
 }
 
 TEST_P(TextDecodingContract, ArgumentsAreLookedAtBeforeFlags)
@@ -235,9 +233,7 @@ TEST_P(TextDecodingContract, SequencesThatBeginImpossiblyAreReplacedToo)
         const std::wstring text = Decode(CP_UTF8, bytes);
         const std::size_t length = std::strlen(bytes);
         if (GetParam() != Provider::windows)
-        {
             EXPECT_EQ(text.size(), OrOnWine(length, length - 1)) << testing::PrintToString(bytes);
-        }
         EXPECT_EQ(text, std::wstring(text.size(), L'\uFFFD')) << testing::PrintToString(bytes);
         EXPECT_EQ(ErrorOfDecoding(CP_UTF8, bytes, MB_ERR_INVALID_CHARS), Error(ERROR_NO_UNICODE_TRANSLATION));
     }

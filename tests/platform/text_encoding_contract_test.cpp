@@ -162,10 +162,8 @@ TEST_P(TextEncodingContract, SourceAndDestinationMustNotBeOne)
 TEST_P(TextEncodingContract, FlagsThatNobodyKnowsAreRefused)
 {
     for (const UINT codePage : {UINT{CP_ACP}, kWestern, kJapanese, UINT{CP_UTF8}})
-    {
         for (const DWORD flags : {Error(0x4000), Error(0x80000000), Error(MB_PRECOMPOSED)})
             EXPECT_EQ(ErrorOfFlags(codePage, flags), Error(ERROR_INVALID_FLAGS)) << codePage << ' ' << flags;
-    }
 }
 
 /// Each of the two kinds of code pages has a strictness of its own, and only its own. Wine overlooks the other's.

@@ -26,9 +26,7 @@ protected:
     void TearDown() override
     {
         if (m_client != nullptr)
-        {
             EXPECT_EQ(Wlan().WlanCloseHandle(m_client, nullptr), Error(ERROR_SUCCESS));
-        }
     }
 
     platform::WlanService& Wlan() { return System().wlan(); }
@@ -38,9 +36,7 @@ protected:
         DWORD negotiated = 0;
         const DWORD error = Wlan().WlanOpenHandle(version, nullptr, &negotiated, &client);
         if (error == ERROR_SUCCESS)
-        {
             EXPECT_EQ(negotiated, version);
-        }
         return error;
     }
 
@@ -132,14 +128,10 @@ TEST_P(WlanServiceContract, AListIsWholeAndTheCallersToRelease)
     ASSERT_NE(list, nullptr) << "a computer without adapters has an empty list";
     EXPECT_EQ(list->dwIndex, 0u);
     if (!IsSimulation())
-    {
         for (DWORD index = 0; index < list->dwNumberOfItems; ++index)
             EXPECT_LE(list->InterfaceInfo[index].isState, wlan_interface_state_authenticating);
-    }
     else
-    {
         EXPECT_EQ(list->dwNumberOfItems, 0u);
-    }
     Wlan().WlanFreeMemory(list);
 }
 

@@ -139,9 +139,7 @@ TEST_F(AutoConfiguration, AnotherAccessPointOfTheNetworkTakesOver)
 TEST_F(AutoConfiguration, OnesThatDoNotAdmitTheAdapterDoNotTakeOver)
 {
     for (std::uint8_t number = 9; number < 12; ++number)
-    {
         scenario.accessPoints.push_back(MakeAccessPoint("Train", number, -80));
-    }
     scenario.accessPoints[3].answers = false;
     scenario.accessPoints[4].key = "another horse";
     scenario.accessPoints[5].rssi = -95;

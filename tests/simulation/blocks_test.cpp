@@ -89,9 +89,7 @@ TEST(Blocks, FreedOnesAreKeptWithinBounds)
     void* const oldest = blocks.Allocate(8, "oldest");
     blocks.Free(oldest);
     for (int count = 0; count < 5000; ++count)
-    {
         blocks.Free(blocks.Allocate(8, "list"));
-    }
     // The oldest is forgotten by now, so that its address is a foreign pointer, or was even given out anew.
     void* const youngest = blocks.Allocate(8, "youngest");
     blocks.Free(youngest);

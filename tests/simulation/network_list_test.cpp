@@ -255,9 +255,7 @@ TEST_F(NetworkList, AnySsidIsGoodForANetwork)
 {
     std::string allBytes;
     for (int byte = 0; byte < 32; ++byte)
-    {
         allBytes += static_cast<char>(byte * 8);
-    }
     scenario.accessPoints = {MakeAccessPoint(allBytes, 1, -50), MakeAccessPoint("\xff\xfe", 2, -50)};
     Start();
     const auto networks = ListNetworks();

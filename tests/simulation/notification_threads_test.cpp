@@ -139,9 +139,7 @@ struct Gossip
     void WaitForNews() const
     {
         for (const unsigned before = heard; heard == before;)
-        {
             std::this_thread::yield();
-        }
     }
 
     static void WINAPI Callback(L2_NOTIFICATION_DATA*, PVOID context)
@@ -149,9 +147,7 @@ struct Gossip
         auto& self = *static_cast<Gossip*>(context);
         ++self.heard;
         if (!self.hushed)
-        {
             self.test->Stir();
-        }
     }
 };
 
@@ -166,9 +162,7 @@ TEST_F(NotificationThreads, ReplacingDoesNotWaitForNewsToEnd)
         next.WaitForNews();
     }
     for (Gossip& gossip : gossips)
-    {
         gossip.hushed = true;
-    }
     EXPECT_EQ(Unregister(), ERROR_SUCCESS);
 }
 
@@ -211,9 +205,7 @@ void WINAPI ListProfiles(L2_NOTIFICATION_DATA*, PVOID context)
     auto& calling = *static_cast<CallingBack*>(context);
     WLAN_PROFILE_INFO_LIST* list = nullptr;
     if (calling.wlan->WlanGetProfileList(calling.client, calling.guid, nullptr, &list) == ERROR_SUCCESS)
-    {
         ++calling.succeeded;
-    }
     calling.wlan->WlanFreeMemory(list);
 }
 
@@ -222,9 +214,7 @@ TEST_F(NotificationThreads, ACallbackMayCallOperations)
     CallingBack calling{this, &Wlan(), client, &first};
     ASSERT_EQ(Register(&ListProfiles, &calling), ERROR_SUCCESS);
     for (int round = 0; round < 20; ++round)
-    {
         Stir();
-    }
     computer->WaitForNotifications();
     EXPECT_EQ(calling.succeeded, 20);
     EXPECT_EQ(Unregister(), ERROR_SUCCESS);
@@ -235,9 +225,7 @@ void WINAPI RegisterInside(L2_NOTIFICATION_DATA*, PVOID context)
     auto& calling = *static_cast<CallingBack*>(context);
     if (calling.wlan->WlanRegisterNotification(calling.client, WLAN_NOTIFICATION_SOURCE_NONE, FALSE, nullptr, nullptr,
                                                nullptr, nullptr) == ERROR_SUCCESS)
-    {
         ++calling.succeeded;
-    }
 }
 
 TEST_F(NotificationThreads, RegisteringInsideACallbackIsADefect)

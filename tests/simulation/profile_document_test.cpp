@@ -125,9 +125,7 @@ std::string Nested(int depth)
 {
     std::string xml;
     for (int level = 0; level < depth; ++level)
-    {
         xml += "<a>";
-    }
     return xml;
 }
 

@@ -27,9 +27,7 @@ std::wstring Order(const ProfileStore& store)
 {
     std::wstring order;
     for (const auto& profile : store.InOrder())
-    {
         order += profile->document.name;
-    }
     return order;
 }
 
@@ -37,9 +35,7 @@ ProfileStore StoreOf(const std::wstring& names)
 {
     ProfileStore store;
     for (const wchar_t name : names)
-    {
         EXPECT_TRUE(store.Append(Named(std::wstring(1, name))));
-    }
     return store;
 }
 

@@ -25,9 +25,7 @@ bool ComesTrue(const std::function<bool()>& condition)
     for (const Clock::time_point end = Clock::now() + std::chrono::minutes(10); Clock::now() < end;)
     {
         if (condition())
-        {
             return true;
-        }
         std::this_thread::yield();
     }
     return false;
@@ -39,9 +37,7 @@ TEST(RealTime, SpeedsAreWholeNumbers)
     EXPECT_EQ(ReadSpeed("1", "SPEED"), 1u);
     EXPECT_EQ(ReadSpeed("100000", "SPEED"), kFastest);
     for (const char* const text : {"0", "100001", "-1", "1.5", "10x", " 10", "99999999999", "fast"})
-    {
         EXPECT_THROW(ReadSpeed(text, "SPEED"), std::runtime_error) << text;
-    }
 }
 
 TEST(RealTime, AWrongSpeedIsNamed)

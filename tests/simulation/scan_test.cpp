@@ -19,12 +19,8 @@ protected:
     bool IsListed(const std::string& ssid)
     {
         for (const auto& network : ListNetworks())
-        {
             if (TextOf(network.dot11Ssid) == ssid)
-            {
                 return true;
-            }
-        }
         return false;
     }
 };

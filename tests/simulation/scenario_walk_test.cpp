@@ -55,9 +55,7 @@ TEST_F(ScenarioPlay, TheOfficeWalkNeedsTwoRoams)
     {
         Advance(seconds(1));
         if (manager().Roaming(&guid) == 0)
-        {
             roamedAfter.push_back(second);
-        }
     }
     ASSERT_EQ(roamedAfter.size(), 2u);
     ASSERT_TRUE(Connected().has_value());

@@ -33,13 +33,9 @@ void ServiceTest::Start()
 void ServiceTest::TearDown()
 {
     if (computer == nullptr)
-    {
         return;
-    }
     if (client != nullptr)
-    {
         EXPECT_EQ(Wlan().WlanCloseHandle(client, nullptr), ERROR_SUCCESS);
-    }
     const Accounts accounts = computer->Audit();
     EXPECT_EQ(accounts.liveBlocks, 0u);
     EXPECT_EQ(accounts.openClients, 0u);
@@ -52,9 +48,7 @@ ServiceTest::Networks ServiceTest::ListNetworks(DWORD flags)
     EXPECT_EQ(Wlan().WlanGetAvailableNetworkList(client, &first, flags, nullptr, &list), ERROR_SUCCESS);
     Networks networks;
     if (list != nullptr)
-    {
         networks.assign(list->Network, list->Network + list->dwNumberOfItems);
-    }
     Wlan().WlanFreeMemory(list);
     return networks;
 }
@@ -66,9 +60,7 @@ ServiceTest::Stations ServiceTest::ListStations(const DOT11_SSID* ssid, DOT11_BS
               ERROR_SUCCESS);
     Stations stations;
     if (list != nullptr)
-    {
         stations.assign(list->wlanBssEntries, list->wlanBssEntries + list->dwNumberOfItems);
-    }
     Wlan().WlanFreeMemory(list);
     return stations;
 }
@@ -79,9 +71,7 @@ std::vector<std::wstring> ServiceTest::ProfileNames()
     EXPECT_EQ(Wlan().WlanGetProfileList(client, &first, nullptr, &list), ERROR_SUCCESS);
     std::vector<std::wstring> names;
     for (DWORD index = 0; list != nullptr && index < list->dwNumberOfItems; ++index)
-    {
         names.emplace_back(list->ProfileInfo[index].strProfileName);
-    }
     Wlan().WlanFreeMemory(list);
     return names;
 }

@@ -50,13 +50,9 @@ protected:
         PVOID data = nullptr;
         const DWORD result = Wlan().WlanQueryInterface(client, &first, opcode, nullptr, &size, &data, nullptr);
         if (error != nullptr)
-        {
             *error = result;
-        }
         if (result != ERROR_SUCCESS)
-        {
             return std::nullopt;
-        }
         EXPECT_EQ(size, sizeof(Record));
         const Record record = *static_cast<const Record*>(data);
         Wlan().WlanFreeMemory(data);

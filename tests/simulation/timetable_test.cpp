@@ -129,9 +129,7 @@ TEST_F(Fading, ASnapshotGoesOnWhereItWasTaken)
     again.Advance(seconds(5));
     const std::vector<AccessPoint>& air = again.air();
     for (std::size_t index = 0; index < air.size(); ++index)
-    {
         EXPECT_EQ(SignalAt(air[index], again.Now()), SignalAt(computer->air()[index], computer->Now()));
-    }
 }
 
 } // namespace

@@ -119,9 +119,7 @@ protected:
         DWORD size = 0;
         PVOID data = nullptr;
         if (Wlan().WlanQueryAutoConfigParameter(client, opcode, nullptr, &size, &data, nullptr) != ERROR_SUCCESS)
-        {
             return std::nullopt;
-        }
         EXPECT_EQ(size, sizeof(Value));
         const Value value = *static_cast<const Value*>(data);
         Wlan().WlanFreeMemory(data);

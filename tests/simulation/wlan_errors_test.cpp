@@ -316,14 +316,10 @@ TEST_F(WlanHandles, ThereIsALimitToThem)
     HANDLE handle = nullptr;
     DWORD error = ERROR_SUCCESS;
     while (handles.size() < 10'000 && (error = Wlan().WlanOpenHandle(2, nullptr, &version, &handle)) == ERROR_SUCCESS)
-    {
         handles.push_back(handle);
-    }
     EXPECT_EQ(error, ERROR_REMOTE_SESSION_LIMIT_EXCEEDED);
     for (const HANDLE open : handles)
-    {
         EXPECT_EQ(Wlan().WlanCloseHandle(open, nullptr), ERROR_SUCCESS);
-    }
 }
 
 TEST_F(WlanHandles, ClosingNullAndClosedOnes)

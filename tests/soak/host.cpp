@@ -64,10 +64,8 @@ void TidyUp(Host& host)
             host.Manager().DeleteProfile(&adapter, name);
     }
     for (const wchar_t* name : kOwnNetworks)
-    {
         if (!host.adapters.empty())
             host.Manager().SetProfile(&host.adapters.front(), ProfileText(name, true).c_str());
-    }
 }
 
 } // namespace calvix::test::soak

@@ -15,10 +15,8 @@ int CodeWhere(const std::string& method, IsCause isCause)
 {
     const host::MethodResults* const results = host::FindMethod(method);
     for (const host::CodeRow& row : results != nullptr ? results->codes : std::span<const host::CodeRow>())
-    {
         if (isCause(row.cause))
             return row.code;
-    }
     throw std::logic_error(method + " has no code for this cause");
 }
 

@@ -72,10 +72,8 @@ std::map<std::string, unsigned> CountedCalls(const sweep::MethodCall& method)
 {
     std::map<std::string, unsigned> calls;
     for (const std::string& operation : Record(sweep::Worlds()[0].make(), method).operations)
-    {
         if (std::find(std::begin(kFree), std::end(kFree), operation) == std::end(kFree))
             ++calls[operation];
-    }
     return calls;
 }
 

@@ -68,10 +68,8 @@ Operations Made(const sweep::World& world, const sweep::MethodCall& method)
 {
     Operations made;
     for (const std::string& operation : Record(world.make(), method).operations)
-    {
         if (operation != "OutputDebugStringA")
             AddOnce(made, operation);
-    }
     return made;
 }
 
@@ -80,10 +78,8 @@ Operations InDocumentedOrder(const Documented& documented, const Operations& mad
 {
     Operations ordered;
     for (const std::string& operation : documented.operations)
-    {
         if (std::find(made.begin(), made.end(), operation) != made.end())
             ordered.push_back(operation);
-    }
     return ordered;
 }
 

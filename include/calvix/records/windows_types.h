@@ -106,16 +106,10 @@ using REFGUID = const GUID&;
 constexpr bool operator==(const GUID& left, const GUID& right) noexcept
 {
     if (left.Data1 != right.Data1 || left.Data2 != right.Data2 || left.Data3 != right.Data3)
-    {
         return false;
-    }
     for (int i = 0; i < 8; ++i)
-    {
         if (left.Data4[i] != right.Data4[i])
-        {
             return false;
-        }
-    }
     return true;
 }
 

@@ -260,10 +260,8 @@ void Anonymiser::InValue(ordered_json& value) const
     }
     // Elements have no names any more, but bytes that might look like one.
     for (const auto& member : value.items())
-    {
         if (value.is_structured() && member.key() != "informationElements")
             InValue(member.value());
-    }
 }
 
 void Anonymiser::Apply(std::vector<ordered_json>& lines)

@@ -47,10 +47,8 @@ std::string WithoutEntities(std::string text)
 {
     for (const auto& [entity, character] : {std::pair("&lt;", "<"), std::pair("&gt;", ">"), std::pair("&quot;", "\""),
                                             std::pair("&apos;", "'"), std::pair("&amp;", "&")})
-    {
         for (std::size_t at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1))
             text.replace(at, std::string_view(entity).size(), character);
-    }
     return text;
 }
 
@@ -110,20 +108,16 @@ std::string KeyMask::InText(std::string text)
         lowered.replace(key.begin, size, kMaskedKey);
     }
     for (const std::string& key : m_keys)
-    {
         for (std::size_t at = text.find(key); at != std::string::npos; at = text.find(key, at + kMaskedKey.size()))
             text.replace(at, key.size(), kMaskedKey);
-    }
     return text;
 }
 
 std::string KeyMask::InBytes(std::string bytes) const
 {
     for (const std::string& key : m_keys)
-    {
         for (std::size_t at = bytes.find(key); at != std::string::npos; at = bytes.find(key, at))
             bytes.replace(at, key.size(), key.size(), '*');
-    }
     return bytes;
 }
 

@@ -94,13 +94,9 @@ TEST(InterceptedPlatform, FailsEveryOperationInItsOwnWay)
         const long long result = operation.call(layer);
         spy.error.reset();
         if (operation.fails == Fails::withErrorNumber)
-        {
             EXPECT_EQ(0xC0000022LL, result);
-        }
         if (operation.fails == Fails::withStatus)
-        {
             EXPECT_EQ(-0x3FFFFFDELL, result) << "an NTSTATUS is signed";
-        }
         if (LeavesItsReason(operation))
         {
             EXPECT_TRUE(result == 0 || result == 0xFFFFFFFFLL) << result;
