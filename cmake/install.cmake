@@ -47,11 +47,11 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/calvix.pc"
 # prints them. The page is a copy of what it prints, and the tests compare the two.
 if(TARGET calvix_host AND NOT WIN32)
     install(FILES docs/calvix.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT runtime)
-    install(FILES cli/completions/calvix.bash RENAME calvix
+    install(FILES cli/shell/completions/calvix.bash RENAME calvix
         DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT runtime)
-    install(FILES cli/completions/_calvix
+    install(FILES cli/shell/completions/_calvix
         DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT runtime)
-    install(FILES cli/completions/calvix.fish
+    install(FILES cli/shell/completions/calvix.fish
         DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT runtime)
 endif()
 

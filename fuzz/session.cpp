@@ -11,7 +11,7 @@
 #include "session/world.h"
 
 #include "core/trace.h"
-#include "result_codes.h"
+#include "explain/result_codes.h"
 #include "simulation/computer.h"
 #include "support/manager_internals.h"
 #include "wrappers/fault_injection.h"

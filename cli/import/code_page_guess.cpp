@@ -3,8 +3,8 @@
 #include "import/capture_text.h"
 #include "import/code_page_letters.h"
 #include "import/letter_case.h"
+#include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
-#include "text_forms.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,11 +1,11 @@
 #include "import/import.h"
 
+#include "files/file_path.h"
 #include "forms/guid_text.h"
 #include "import/captured_air.h"
-#include "import/file_path.h"
 #include "import/made_profile.h"
+#include "output/text_forms.h"
 #include "simulation/computer.h"
-#include "text_forms.h"
 
 #include <algorithm>
 #include <array>

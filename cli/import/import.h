@@ -1,9 +1,9 @@
 #pragma once
 
-#include "facts.h"
 #include "import/netsh_interfaces.h"
 #include "import/netsh_networks.h"
 #include "import/profile_folder.h"
+#include "output/facts.h"
 #include "simulation/scenario.h"
 
 #include <optional>

@@ -1,12 +1,13 @@
-#include "command.h"
-#include "files.h"
-#include "host.h"
+#include "import/import_command.h"
+
+#include "files/file_path.h"
+#include "files/files.h"
+#include "host/host.h"
 #include "import/capture_encoding.h"
 #include "import/capture_text.h"
-#include "import/file_path.h"
 #include "import/import.h"
 #include "import/read_capture.h"
-#include "json_output.h"
+#include "output/json_output.h"
 #include "simulation/security_suite.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "import/capture_text.h"
 #include "import/heard_access_point.h"
-#include "text_forms.h"
+#include "output/text_forms.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
 #include "import/letter_case.h"
 
-#include "text_forms.h"
+#include "output/text_forms.h"
 
 namespace calvix::host
 {

@@ -1,8 +1,8 @@
 #include "import/misread_text.h"
 
 #include "forms/utf8.h"
+#include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
-#include "text_forms.h"
 
 #include <algorithm>
 #include <cstdint>

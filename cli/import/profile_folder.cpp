@@ -1,9 +1,9 @@
 #include "import/profile_folder.h"
 
+#include "files/file_path.h"
 #include "import/capture_text.h"
-#include "import/file_path.h"
+#include "output/text_forms.h"
 #include "simulation/profile_document.h"
-#include "text_forms.h"
 
 #include "platform/records/wlan_constants.h"
 

@@ -2,7 +2,7 @@
 
 #include "import/capture_terms.h"
 #include "import/capture_text.h"
-#include "text_forms.h"
+#include "output/text_forms.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "interrupt.h"
-#include "live_watch.h"
+#include "host/interrupt.h"
+#include "live/live_watch.h"
 #include "report/take_picture.h"
-#include "roaming.h"
+#include "view/roaming.h"
 
 #include <algorithm>
 

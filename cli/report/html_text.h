@@ -1,6 +1,6 @@
 #pragma once
 
-#include "facts.h"
+#include "output/facts.h"
 
 #include <map>
 #include <string>

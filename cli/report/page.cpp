@@ -1,12 +1,12 @@
 #include "report/page.h"
 
+#include "output/text_forms.h"
 #include "report/html_text.h"
 #include "report/page_parts.h"
 #include "report/page_texts.h"
 #include "report/report_json.h"
 #include "report/signal_picture.h"
 #include "report/spectrum_picture.h"
-#include "text_forms.h"
 
 #include <functional>
 

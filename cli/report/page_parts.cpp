@@ -1,9 +1,9 @@
 #include "report/page_parts.h"
 
-#include "describe.h"
+#include "output/text_forms.h"
 #include "report/html_text.h"
 #include "report/spectrum_picture.h"
-#include "text_forms.h"
+#include "view/describe.h"
 
 #include <algorithm>
 #include <set>

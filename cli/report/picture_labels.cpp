@@ -1,6 +1,6 @@
 #include "report/picture_labels.h"
 
-#include "text_forms.h"
+#include "output/text_forms.h"
 
 #include <algorithm>
 

@@ -1,12 +1,13 @@
 #include "report/recorded_adapter.h"
 
 #include "core/wlan_records.h"
-#include "describe.h"
 #include "forms/xml_text.h"
+#include "output/text_forms.h"
+#include "output/words.h"
 #include "platform/records/wlan_constants.h"
 #include "report/take_picture.h"
-#include "text_forms.h"
-#include "words.h"
+#include "view/describe.h"
+#include "view/status.h"
 
 #include <algorithm>
 

@@ -1,14 +1,15 @@
 #include "report/recorded_air.h"
 
-#include "adapter_choice.h"
 #include "core/wlan_records.h"
-#include "describe.h"
-#include "failure_words.h"
+#include "explain/failure_words.h"
+#include "files/file_path.h"
 #include "forms/guid_text.h"
-#include "import/file_path.h"
+#include "host/adapter_choice.h"
+#include "output/text_forms.h"
 #include "report/recorded_adapter.h"
 #include "report/take_picture.h"
-#include "text_forms.h"
+#include "view/describe.h"
+#include "view/status.h"
 #include "wrappers/recording/replay.h"
 
 #include <fstream>

@@ -1,9 +1,9 @@
-#include "describe.h"
+#include "explain/result_codes.h"
+#include "host/service_view.h"
+#include "host/watched_wlan.h"
+#include "output/text_forms.h"
 #include "report/take_picture.h"
-#include "result_codes.h"
-#include "service_view.h"
-#include "text_forms.h"
-#include "watched_wlan.h"
+#include "view/describe.h"
 
 namespace calvix::host
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "facts.h"
-#include "failure.h"
+#include "output/facts.h"
+#include "output/failure.h"
 #include "report/beacon.h"
 
 #include <cstdint>

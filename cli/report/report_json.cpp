@@ -1,7 +1,7 @@
 #include "report/report_json.h"
 
 #include "forms/hex_text.h"
-#include "json_forms.h"
+#include "output/json_forms.h"
 
 #include <nlohmann/json.hpp>
 

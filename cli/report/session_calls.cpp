@@ -1,9 +1,9 @@
 #include "report/session_calls.h"
 
 #include "core/wlan_records.h"
+#include "output/text_forms.h"
 #include "platform/records/error_numbers.h"
 #include "platform/records/wlan_constants.h"
-#include "text_forms.h"
 #include "wrappers/recording/damage.h"
 #include "wrappers/recording/lines.h"
 #include "wrappers/recording/recorded_lines.h"

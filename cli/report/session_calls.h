@@ -1,6 +1,6 @@
 #pragma once
 
-#include "service_view.h"
+#include "host/service_view.h"
 
 #include <cstdint>
 #include <istream>

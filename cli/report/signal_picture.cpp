@@ -1,10 +1,10 @@
 #include "report/signal_picture.h"
 
-#include "describe.h"
 #include "report/html_text.h"
 #include "report/picture_labels.h"
+#include "report/spectrum.h"
 #include "report/spectrum_picture.h"
-#include "spectrum.h"
+#include "view/describe.h"
 
 #include <algorithm>
 

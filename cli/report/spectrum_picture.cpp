@@ -1,9 +1,9 @@
 #include "report/spectrum_picture.h"
 
-#include "describe.h"
 #include "report/html_text.h"
 #include "report/picture_labels.h"
-#include "spectrum.h"
+#include "report/spectrum.h"
+#include "view/describe.h"
 
 #include <algorithm>
 

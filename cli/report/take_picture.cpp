@@ -1,8 +1,9 @@
 #include "report/take_picture.h"
 
-#include "best.h"
-#include "describe.h"
-#include "profiles.h"
+#include "view/candidates.h"
+#include "view/describe.h"
+#include "view/profiles.h"
+#include "view/status.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host.h"
+#include "host/host.h"
+#include "host/service_view.h"
 #include "report/report_facts.h"
-#include "service_view.h"
 
 namespace calvix::host
 {

@@ -7,7 +7,7 @@
 
 The parts of a method, and where each is written down, once:
     purpose, arguments, codes   its comment in include/calvix/wireless_manage.h
-    what to do about a code     cli/result_causes.cpp, through `calvix explain`
+    what to do about a code     cli/explain/result_causes.cpp, through `calvix explain`
     platform calls, marks       methods/*.json here
     example                     the region of its name in examples/reference/*.cpp
 """
@@ -114,7 +114,7 @@ def load(items):
                 continue
             methods[key].data, methods[key].family = data, name
     regions = example_regions()
-    results = (ROOT / "cli/result_codes.cpp").read_text(encoding="utf-8")
+    results = (ROOT / "cli/explain/result_codes.cpp").read_text(encoding="utf-8")
     codes = set(re.findall(r'^    \{"([\w=]+)", \w+,', results, re.M))
     for key in sorted(set(exports) ^ set(methods)):
         problems.append(f"{key}: {'exported, but not declared' if key in exports else 'declared, but not exported'}")
@@ -143,7 +143,7 @@ def missing_parts(method, regions, codes):
     if method.example not in regions:
         yield f"no region [{method.example}] in examples/reference"
     if method.name not in codes:
-        yield "no entry in cli/result_codes.cpp"
+        yield "no entry in cli/explain/result_codes.cpp"
 
 
 def example_regions():

@@ -8,7 +8,7 @@
 //         EXPECT_EQ(0, outcome.exitCode);
 //     }
 
-#include "program.h"
+#include "program/program.h"
 #include "simulation/scenario.h"
 #include "support/test_worlds.h"
 

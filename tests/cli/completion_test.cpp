@@ -2,7 +2,7 @@
 
 #include "cli_test.h"
 
-#include "completion.h"
+#include "shell/completion.h"
 
 #include <cstdlib>
 #include <sstream>
@@ -107,7 +107,7 @@ TEST_F(CompleteCommand, HasAScriptForEachShell)
     {
         const Outcome outcome = Run({"completion", shell});
         EXPECT_EQ(kSuccess, outcome.exitCode);
-        EXPECT_EQ(Content(CALVIX_SOURCE_DIR "/cli/completions/" + std::string(file)), outcome.out) << shell;
+        EXPECT_EQ(Content(CALVIX_SOURCE_DIR "/cli/shell/completions/" + std::string(file)), outcome.out) << shell;
     }
     EXPECT_EQ(kBadInput, Run({"completion", "cmd"}).exitCode);
     EXPECT_EQ(nullptr, host::CompletionScript("cmd"));
@@ -132,7 +132,7 @@ protected:
         const std::string output = PathFor("output.txt");
         const std::string command = "cd '" CALVIX_SOURCE_DIR "' && PATH=\"$(dirname '" CALVIX_HOST_PROGRAM
                                     "'):$PATH\" bash '" +
-                                    script + "' cli/completions/calvix.bash > '" + output + "' 2>&1";
+                                    script + "' cli/shell/completions/calvix.bash > '" + output + "' 2>&1";
         EXPECT_EQ(0, std::system(command.c_str()));
         return Content(output);
     }

@@ -1,6 +1,6 @@
 #include "cli_test.h"
 
-#include "result_codes.h"
+#include "explain/result_codes.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,5 +1,5 @@
 #include "import_samples.h"
-#include "program.h"
+#include "program/program.h"
 #include "simulation/scenario.h"
 
 #include <gtest/gtest.h>

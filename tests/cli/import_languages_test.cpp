@@ -2,8 +2,8 @@
 #include "import/import.h"
 #include "import/read_capture.h"
 #include "import_samples.h"
+#include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
-#include "text_forms.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "files/file_path.h"
 #include "import/capture_text.h"
-#include "import/file_path.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "cli_test.h"
 
-#include "dot_canvas.h"
+#include "output/dot_canvas.h"
+#include "output/text_forms.h"
 #include "report/picture_labels.h"
-#include "text_forms.h"
 
 #include <sstream>
 

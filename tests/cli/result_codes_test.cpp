@@ -1,6 +1,6 @@
-#include "result_codes.h"
+#include "explain/result_codes.h"
 
-#include "platform_errors.h"
+#include "explain/platform_errors.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

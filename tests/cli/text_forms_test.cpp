@@ -1,8 +1,8 @@
 #include "forms/channel.h"
-#include "text_forms.h"
+#include "output/text_forms.h"
 
-#include "table.h"
-#include "words.h"
+#include "output/table.h"
+#include "output/words.h"
 
 #include <gtest/gtest.h>
 

@@ -4,9 +4,10 @@
 #include "cli_test.h"
 #include "transcript.h"
 
-#include "command_description.h"
-#include "manual.h"
+#include "commands/commands.h"
 #include "platform/platform.h"
+#include "shell/command_description.h"
+#include "shell/manual.h"
 #include "simulation/computer.h"
 #include "wrappers/fault_injection.h"
 #include "wrappers/intercepted_platform.h"
@@ -116,7 +117,7 @@ void ExpectUpToDate(const std::string& path, const std::string& text)
 
 TEST(MadeFile, ManualPage)
 {
-    ExpectUpToDate("docs/calvix.1", host::ManualPage(host::DescribeProgram()));
+    ExpectUpToDate("docs/calvix.1", host::ManualPage(host::DescribeProgram(host::AddAllCommands)));
 }
 
 TEST(MadeFile, ScenarioSchema)

@@ -1,9 +1,10 @@
 #include "cli_test.h"
 #include "transcript.h"
 
-#include "command_description.h"
-#include "command_line.h"
-#include "exit_codes.h"
+#include "commands/commands.h"
+#include "shell/command_description.h"
+#include "shell/command_line.h"
+#include "shell/exit_codes.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -50,7 +51,7 @@ protected:
         std::ostringstream out;
         std::ostringstream err;
         host::ExitCode exitCode = host::ExitCode::success;
-        host::ParseArguments(words, out, err, exitCode);
+        host::ParseArguments(host::AddAllCommands, words, out, err, exitCode);
         return err.str();
     }
 };
@@ -187,7 +188,7 @@ TEST_F(CommonOptions, ShowTheTraceOnStandardError)
 
 TEST_F(Usage, TellsEveryCommandsOptionsWithAnExample)
 {
-    for (const host::CommandDescription& command : host::DescribeProgram().commands)
+    for (const host::CommandDescription& command : host::DescribeProgram(host::AddAllCommands).commands)
     {
         // Behind "help", help is about the program.
         if (command.hidden || command.path == "help")
@@ -204,7 +205,7 @@ TEST_F(Usage, TellsEveryCommandsOptionsWithAnExample)
 
 TEST_F(Usage, TakesTheExamplesOfEveryCommand)
 {
-    for (const host::CommandDescription& command : host::DescribeProgram().commands)
+    for (const host::CommandDescription& command : host::DescribeProgram(host::AddAllCommands).commands)
     {
         std::istringstream lines(command.examples);
         for (std::string line; std::getline(lines, line);)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "result_codes.h"
+#include "explain/result_codes.h"
 
 #include <stdexcept>
 #include <string>

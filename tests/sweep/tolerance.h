@@ -2,7 +2,7 @@
 
 #include "sweep/bench.h"
 
-#include "result_codes.h"
+#include "explain/result_codes.h"
 
 namespace calvix::test::sweep
 {

@@ -1,0 +1,29 @@
+#include "commands/commands.h"
+
+#include "import/import_command.h"
+
+namespace calvix::host
+{
+
+void AddAllCommands(CommandSet& commands)
+{
+    AddAdapterCommands(commands);
+    AddScanCommands(commands);
+    AddProfileCommands(commands);
+    AddConnectionCommands(commands);
+    AddRoamCommand(commands);
+    AddWatchCommand(commands);
+    AddRadioCommands(commands);
+    AddSettingsCommands(commands);
+    AddPowerCommands(commands);
+    AddProcessCommands(commands);
+    AddListCommands(commands);
+    AddMatchCommands(commands);
+    AddBestCommand(commands);
+    AddExplainCommand(commands);
+    AddImportCommand(commands);
+    AddReportCommand(commands);
+    AddHelpCommands(commands);
+}
+
+} // namespace calvix::host

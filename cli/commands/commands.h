@@ -1,0 +1,29 @@
+#pragma once
+
+#include "shell/command.h"
+
+namespace calvix::host
+{
+
+/// All commands, in the order in which help lists them.
+void AddAllCommands(CommandSet& commands);
+
+/// Those of one family.
+void AddAdapterCommands(CommandSet& commands);
+void AddScanCommands(CommandSet& commands);
+void AddProfileCommands(CommandSet& commands);
+void AddConnectionCommands(CommandSet& commands);
+void AddRoamCommand(CommandSet& commands);
+void AddRadioCommands(CommandSet& commands);
+void AddSettingsCommands(CommandSet& commands);
+void AddPowerCommands(CommandSet& commands);
+void AddProcessCommands(CommandSet& commands);
+void AddWatchCommand(CommandSet& commands);
+void AddListCommands(CommandSet& commands);
+void AddMatchCommands(CommandSet& commands);
+void AddBestCommand(CommandSet& commands);
+void AddExplainCommand(CommandSet& commands);
+void AddReportCommand(CommandSet& commands);
+void AddHelpCommands(CommandSet& commands);
+
+} // namespace calvix::host

@@ -1,0 +1,219 @@
+#include "commands/commands.h"
+#include "core/wlan_records.h"
+#include "host/host.h"
+#include "host/service_view.h"
+#include "live/connection_wait.h"
+#include "live/notifications.h"
+#include "live/progress.h"
+#include "output/code_page.h"
+#include "output/json_output.h"
+#include "output/text_forms.h"
+#include "view/describe.h"
+#include "view/status.h"
+
+#include <algorithm>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct ConnectOptions
+{
+    std::string profile;
+    std::string method;
+    unsigned seconds = 15;
+};
+
+void ShowNow(Host& host)
+{
+    const StatusFacts status = ReadStatus(host);
+    if (host.json())
+        return PrintJson(host.out(), status);
+    PrintStatus(host, status);
+}
+
+/// Has a connection made and shows it.
+void ConnectAndShow(Host& host, const ConnectOptions& options, const std::function<void()>& ask)
+{
+    const ConnectRequest request = ConnectAndWait(host, options.seconds, ask);
+    if (!host.json())
+        host.out() << "Connected by " << Quoted(request.profile) << ".\n\n";
+    ShowNow(host);
+}
+
+void Connect(Host& host, const ConnectOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    std::string name =
+        InActiveCodePage(Widen(options.profile), "connect by the profile's automatic mode instead: calvix auto");
+    ConnectAndShow(host, options,
+                   [&] { host.Require("LinkProfile", host.manager().LinkProfile(adapter, name.data())); });
+}
+
+/// Waits until the service tells that the adapter's connection is down.
+void DisconnectAndWait(Host& host, unsigned seconds)
+{
+    const GUID* const adapter = host.adapterGuid();
+    const bool connected = host.service().Connection(adapter).has_value();
+    Notifications notifications(host);
+    host.Require("Disconnect", host.manager().Disconnect(adapter));
+    if (!connected)
+        return;
+    const Progress progress(host, "Disconnecting");
+    const auto isDown = [&](const Notice& notice)
+    { return notice.code == wlan_notification_acm_disconnected && IsEqualGUID(notice.adapter, *adapter); };
+    WaitUntil(host, seconds,
+              [&]
+              {
+                  const std::vector<Notice> notices = notifications.Take();
+                  return std::any_of(notices.begin(), notices.end(), isDown);
+              });
+}
+
+void Disconnect(Host& host, const ConnectOptions& options)
+{
+    DisconnectAndWait(host, options.seconds);
+    ShowNow(host);
+}
+
+/// Goes back to a remembered connection: to the access point that the library picks, to whichever the service picks, or
+/// by the profile alone.
+void GoBack(Host& host, const std::string& method, WLAN_CONNECTION_ATTRIBUTES& remembered)
+{
+    const GUID* const adapter = host.adapterGuid();
+    CWirelessManage& library = host.manager();
+    if (method == "network")
+        host.Require("RecoverConnetionAttributes", library.RecoverConnetionAttributes(adapter));
+    else if (method == "profile")
+        host.Require("RecoverConnection", library.RecoverConnection(adapter, &remembered));
+    else
+        host.Require("Reconnect", library.Reconnect(adapter, &remembered, 0));
+}
+
+void Reconnect(Host& host, const ConnectOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    WLAN_CONNECTION_ATTRIBUTES remembered{};
+    host.Check("GetCurrentConnection", host.manager().GetCurrentConnection(adapter, &remembered));
+    host.Check("SaveCurrentConnectionAttributes", host.manager().SaveCurrentConnectionAttributes(adapter));
+    DisconnectAndWait(host, options.seconds);
+    ConnectAndShow(host, options, [&] { GoBack(host, options.method, remembered); });
+}
+
+void Reset(Host& host, const ConnectOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    ConnectAndShow(host, options, [&] { host.Require("ResetConnection", host.manager().ResetConnection(adapter)); });
+}
+
+/// One method works on the first adapter, whichever it is given.
+void RequireFirstAdapter(Host& host)
+{
+    if (!IsEqualGUID(host.adapters().front().InterfaceGuid, *host.adapterGuid()))
+        throw BadInput("--method smart works on the first adapter only",
+                       "choose another method, or leave --interface out");
+}
+
+void AskAutomatically(Host& host, const std::string& method)
+{
+    const GUID* const adapter = host.adapterGuid();
+    CWirelessManage& library = host.manager();
+    if (method == "ranked")
+        host.Require("AutoConnectEx", library.AutoConnectEx(adapter));
+    else if (method == "smart")
+        host.Require("SmartConnecting", library.SmartConnecting(adapter, nullptr));
+    else if (method == "mode")
+        host.Require("ConnectAutoMode", library.ConnectAutoMode(adapter));
+    else
+        host.Require("AutoConnect", library.AutoConnect(adapter));
+}
+
+void Switch(Host& host, const std::string& method)
+{
+    const GUID* const adapter = host.adapterGuid();
+    CWirelessManage& library = host.manager();
+    if (method == "smart")
+        host.Require("SmartSwitch", library.SmartSwitch(adapter));
+    else
+        host.Require("AutoSwitch", library.AutoSwitch(adapter));
+}
+
+Arguments& AddWaiting(Arguments& arguments, const std::shared_ptr<ConnectOptions>& options)
+{
+    return arguments.Number("--timeout", options->seconds, "Seconds to wait for the outcome at most");
+}
+
+void AddPlainCommands(CommandSet& commands)
+{
+    const auto options = std::make_shared<ConnectOptions>();
+    commands.Add("status", "Show the adapter's state and connection", ShowNow)
+        .Examples("Of the second adapter:\n"
+                  "  calvix status --interface 2");
+    AddWaiting(commands.Add("connect", "Connect by a stored profile whose network is in view",
+                            [options](Host& host) { Connect(host, *options); }),
+               options)
+        .Text("PROFILE", options->profile, "The profile")
+        .Takes(ValueKind::profile)
+        .Examples("Connect, and wait a minute at most:\n"
+                  "  calvix connect Office --timeout 60");
+    AddWaiting(
+        commands.Add("disconnect", "Take the connection down", [options](Host& host) { Disconnect(host, *options); }),
+        options)
+        .Examples("Until the service or a person connects again:\n"
+                  "  calvix disconnect");
+    AddWaiting(commands.Add("reset", "Ask again for the connection that is up",
+                            [options](Host& host) { Reset(host, *options); }),
+               options)
+        .Examples("The connection is up and does not work:\n"
+                  "  calvix reset");
+}
+
+void AddMethodCommands(CommandSet& commands)
+{
+    const auto reconnect = std::make_shared<ConnectOptions>();
+    AddWaiting(commands.Add("reconnect", "Take the connection down and go back to it",
+                            [reconnect](Host& host) { Reconnect(host, *reconnect); }),
+               reconnect)
+        .OneOf("--method", reconnect->method, {"access-point", "network", "profile"},
+               "Back to the best access point (default), to the network, or by the profile")
+        .Examples("Back by the same profile:\n"
+                  "  calvix reconnect --method profile");
+
+    const auto automatic = std::make_shared<ConnectOptions>();
+    AddWaiting(commands.Add("auto", "Connect to a network in view that has a stored profile",
+                            [automatic](Host& host)
+                            {
+                                if (automatic->method == "smart")
+                                    RequireFirstAdapter(host);
+                                ConnectAndShow(host, *automatic, [&] { AskAutomatically(host, automatic->method); });
+                            }),
+               automatic)
+        .OneOf("--method", automatic->method, {"connect", "ranked", "smart", "mode"},
+               "By the profiles' order (connect, default), by rank, the first profile's only (smart), or only profiles "
+               "that connect automatically (mode)")
+        .Examples("The best-ranked profile in view:\n"
+                  "  calvix auto --method ranked");
+
+    const auto change = std::make_shared<ConnectOptions>();
+    AddWaiting(commands.Add("switch", "Change to another network that has a stored profile",
+                            [change](Host& host)
+                            { ConnectAndShow(host, *change, [&] { Switch(host, change->method); }); }),
+               change)
+        .OneOf("--method", change->method, {"auto", "smart"},
+               "Put the present profile last and take the first in order (auto, default), or the first with a better "
+               "signal (smart)")
+        .Examples("To whatever is stronger:\n"
+                  "  calvix switch --method smart");
+}
+
+} // namespace
+
+void AddConnectionCommands(CommandSet& commands)
+{
+    AddPlainCommands(commands);
+    AddMethodCommands(commands);
+}
+
+} // namespace calvix::host

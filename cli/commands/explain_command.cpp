@@ -1,0 +1,178 @@
+#include "commands/commands.h"
+#include "explain/result_codes.h"
+#include "host/host.h"
+#include "output/json_forms.h"
+#include "output/table.h"
+#include "shell/nearest_word.h"
+
+#include <nlohmann/json.hpp>
+
+#include <charconv>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct ExplainOptions
+{
+    std::string method;
+    std::string code;
+};
+
+const char* KindText(ResultKind kind)
+{
+    switch (kind)
+    {
+    case ResultKind::status:
+        return "0 or a code";
+    case ResultKind::count:
+        return "a number or a code";
+    case ResultKind::value:
+        return "a value";
+    case ResultKind::yesOrNo:
+        return "1 or 0";
+    case ResultKind::text:
+        return "text";
+    case ResultKind::platformError:
+        return "0 or the platform's error number";
+    case ResultKind::nothing:
+        return "nothing";
+    }
+    return "";
+}
+
+using Json = nlohmann::ordered_json;
+
+Json CodesOf(const MethodResults& results)
+{
+    Json codes = Json::array();
+    for (const CodeRow& row : results.codes)
+    {
+        const CauseText& text = Describe(row.cause);
+        codes.push_back({{"code", row.code}, {"meaning", text.meaning}, {"advice", text.advice}});
+    }
+    return codes;
+}
+
+Json ToJson(const MethodResults& results)
+{
+    return {{"method", results.method}, {"success", results.result}, {"codes", CodesOf(results)}};
+}
+
+void PrintMethodsJson(std::ostream& out)
+{
+    Json methods = Json::array();
+    for (const MethodResults& results : AllMethodResults())
+        methods.push_back(ToJson(results));
+    PrintObject(out, {{"methods", methods}});
+}
+
+void PrintMethodJson(std::ostream& out, const MethodResults& results)
+{
+    PrintObject(out, ToJson(results));
+}
+
+void PrintExplanationJson(std::ostream& out,
+                          const MethodResults& results,
+                          long long code,
+                          const Explanation& explanation)
+{
+    PrintObject(out, {{"method", results.method},
+                      {"code", code},
+                      {"failure", explanation.failure},
+                      {"meaning", explanation.meaning},
+                      {"advice", explanation.advice.empty() ? Json(nullptr) : Json(explanation.advice)}});
+}
+
+/// A decimal number, or a hexadecimal one after 0x.
+long long NumberOf(const std::string& text)
+{
+    const bool hexadecimal = text.rfind("0x", 0) == 0 || text.rfind("0X", 0) == 0;
+    const char* const begin = text.data() + (hexadecimal ? 2 : 0);
+    const char* const end = text.data() + text.size();
+    long long number = 0;
+    const auto [stop, error] = std::from_chars(begin, end, number, hexadecimal ? 16 : 10);
+    if (error != std::errc() || stop != end || begin == end)
+        throw BadInput("\"" + text + "\" is no result code", "give a number such as -4, 1062 or 0x80342002");
+    return number;
+}
+
+void ListMethods(Host& host)
+{
+    if (host.json())
+        return PrintMethodsJson(host.out());
+    Table table({{"Method"}, {"Returns"}, {"Codes", Align::right}});
+    for (const MethodResults& results : AllMethodResults())
+        table.AddRow({results.method, KindText(results.kind), std::to_string(results.codes.size())});
+    table.Print(host.out(), host.terminal());
+}
+
+void ExplainMethod(Host& host, const MethodResults& results)
+{
+    if (host.json())
+        return PrintMethodJson(host.out(), results);
+    host.out() << results.method << " returns " << KindText(results.kind) << ": " << results.result << ".\n";
+    if (results.codes.empty())
+        return;
+    Table table({{"Code", Align::right}, {"Meaning"}, {"What to do"}});
+    for (const CodeRow& row : results.codes)
+    {
+        const CauseText& text = Describe(row.cause);
+        table.AddRow({std::to_string(row.code), text.meaning, text.advice});
+    }
+    table.Print(host.out(), host.terminal());
+}
+
+void ExplainCode(Host& host, const MethodResults& results, long long code)
+{
+    const Explanation explanation = Explain(results, code);
+    if (!explanation.known)
+        throw BadInput(std::string(results.method) + " never gives " + std::to_string(code),
+                       std::string("list its codes with: calvix explain ") + results.method);
+    if (host.json())
+        return PrintExplanationJson(host.out(), results, code, explanation);
+    host.out() << results.method << ' ' << code << ": " << explanation.meaning << ".\n";
+    if (!explanation.advice.empty())
+        host.out() << "What to do: " << explanation.advice << ".\n";
+}
+
+Failure UnknownMethod(const std::string& method)
+{
+    std::vector<std::string> names;
+    for (const MethodResults& results : AllMethodResults())
+        names.emplace_back(results.method);
+    const std::string nearest = NearestWord(method, names);
+    return BadInput("the library has no method \"" + method + "\"",
+                    (nearest.empty() ? "" : "did you mean " + nearest + "? ") + "The methods: calvix explain");
+}
+
+void Explain(Host& host, const ExplainOptions& options)
+{
+    if (options.method.empty())
+        return ListMethods(host);
+    const MethodResults* const results = FindMethod(options.method);
+    if (results == nullptr)
+        throw UnknownMethod(options.method);
+    if (options.code.empty())
+        return ExplainMethod(host, *results);
+    ExplainCode(host, *results, NumberOf(options.code));
+}
+
+} // namespace
+
+void AddExplainCommand(CommandSet& commands)
+{
+    const auto options = std::make_shared<ExplainOptions>();
+    commands
+        .Add("explain", "Say what a method's result code means and what to do about it",
+             [options](Host& host) { Explain(host, *options); })
+        .Text("[METHOD]", options->method, "A method of the library; without it all are listed")
+        .Takes(ValueKind::method)
+        .Text("[CODE]", options->code, "Its result; without it all its codes are listed")
+        .Examples("What a number in a log means:\n"
+                  "  calvix explain ConnectBestAP -9");
+}
+
+} // namespace calvix::host

@@ -1,0 +1,189 @@
+#include "commands/commands.h"
+#include "core/wlan_records.h"
+#include "explain/failure_words.h"
+#include "host/host.h"
+#include "host/service_view.h"
+#include "host/watched_wlan.h"
+#include "live/connection_wait.h"
+#include "live/notifications.h"
+#include "live/progress.h"
+#include "output/json_output.h"
+#include "output/table.h"
+#include "view/describe.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct RadioOptions
+{
+    unsigned seconds = 15;
+};
+
+const char* SwitchText(unsigned int state)
+{
+    if (state == dot11_radio_state_on)
+        return "on";
+    return state == dot11_radio_state_off ? "off" : "unknown";
+}
+
+RadioFacts ReadRadio(Host& host)
+{
+    unsigned int software = dot11_radio_state_unknown;
+    unsigned int hardware = dot11_radio_state_unknown;
+    RadioFacts facts;
+    facts.on = host.Check("PhyRadioIsOn2", host.manager().PhyRadioIsOn2(host.adapterGuid(), software, hardware)) == 1;
+    facts.software = SwitchText(software);
+    facts.hardware = SwitchText(hardware);
+    return facts;
+}
+
+void ShowRadio(Host& host, const RadioFacts& radio)
+{
+    if (host.json())
+        return PrintJson(host.out(), radio);
+    PrintPairs(host.out(),
+               {{"Radio", Toned(radio.on ? "on" : "off", radio.on ? Tone::good : Tone::poor, host.terminal())},
+                {"Software switch", radio.software},
+                {"Hardware switch", radio.hardware}});
+}
+
+void ShowRadioNow(Host& host)
+{
+    ShowRadio(host, ReadRadio(host));
+}
+
+/// A radio that is still off after it was to be switched on.
+void RequireOn(const RadioFacts& radio)
+{
+    if (radio.on)
+        return;
+    const bool byHardware = radio.hardware == "off";
+    throw OperationFailure(byHardware ? "the radio is still off: its hardware switch is off" : "the radio is still off",
+                           byHardware ? "use the switch or the key combination on the case"
+                                      : "wait a moment and look again: calvix radio status");
+}
+
+void SwitchOn(Host& host)
+{
+    unsigned long error = 0;
+    host.Require("TurnOnSoftwareRadio", host.manager().TurnOnSoftwareRadio(host.adapterGuid(), error));
+    const RadioFacts radio = ReadRadio(host);
+    RequireOn(radio);
+    ShowRadio(host, radio);
+}
+
+void SwitchOff(Host& host)
+{
+    host.Require("RadioTurnOff", host.manager().RadioTurnOff(host.adapterGuid()));
+    ShowRadioNow(host);
+}
+
+/// The methods that switch off and on again do not tell whether they could; what the service refused does.
+void RequireSwitched(Host& host, const char* method)
+{
+    const Refusal& refusal = host.watched().LastRefusal();
+    if (refusal.operation != "WlanSetInterface")
+        return;
+    FailureReport report = ServiceFailure("WlanSetInterface", refusal.error).report();
+    report.message = "the radio could not be switched: " + report.message;
+    report.method = method;
+    throw Failure(report);
+}
+
+void ResetRadio(Host& host)
+{
+    const GUID* const adapter = host.adapterGuid();
+    {
+        const Progress progress(host, "Switching the radio off and on");
+        host.Require("ResetWiFiRadio", host.manager().ResetWiFiRadio(adapter));
+    }
+    RequireSwitched(host, "ResetWiFiRadio");
+    const RadioFacts radio = ReadRadio(host);
+    RequireOn(radio);
+    ShowRadio(host, radio);
+}
+
+/// The profile that the service will connect by when the radio is back; empty when it will not.
+std::wstring ComingBack(Host& host)
+{
+    const GUID* const adapter = host.adapterGuid();
+    const auto connection = host.service().Connection(adapter);
+    const bool automatic = host.service().IsEnabled(adapter, wlan_intf_opcode_autoconf_enabled).value_or(false);
+    if (!connection || !automatic || host.manager().IsAutoConnMode2(adapter, connection->strProfileName) != 1)
+        return {};
+    return std::wstring(FixedText(connection->strProfileName));
+}
+
+/// Whether the adapter is connected, by whichever profile, before the time is over. What was told while the radio was
+/// still being switched counts. An adapter with several PHYs stays connected through the restart: only the first one is
+/// switched.
+bool WaitForConnection(Host& host, Notifications& notifications, unsigned seconds)
+{
+    const GUID adapter = *host.adapterGuid();
+    bool connected = true;
+    const Progress progress(host, "The radio is on, waiting for the connection");
+    return WaitUntil(host, seconds,
+                     [&]
+                     {
+                         for (const Notice& notice : notifications.Take())
+                         {
+                             if (!IsEqualGUID(notice.adapter, adapter))
+                                 continue;
+                             if (notice.code == wlan_notification_acm_disconnected)
+                                 connected = false;
+                             else if (notice.code == wlan_notification_acm_connection_complete)
+                                 connected = notice.reason == WLAN_REASON_CODE_SUCCESS;
+                         }
+                         return connected && host.service().Connection(&adapter).has_value();
+                     });
+}
+
+void Restart(Host& host, const RadioOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    const std::wstring profile = ComingBack(host);
+    Notifications notifications(host);
+    {
+        const Progress progress(host, "Restarting the radio");
+        host.manager().RestartWiFiRadio(adapter);
+    }
+    RequireSwitched(host, "RestartWiFiRadio");
+    const RadioFacts radio = ReadRadio(host);
+    RequireOn(radio);
+    if (!profile.empty() && !WaitForConnection(host, notifications, options.seconds))
+        throw OperationFailure("the radio is on again, but the connection by " + Quoted(profile) +
+                                   " did not come back within " + Counted(options.seconds, "second"),
+                               "wait longer with --timeout, or connect with: calvix connect");
+    ShowRadio(host, radio);
+}
+
+} // namespace
+
+void AddRadioCommands(CommandSet& commands)
+{
+    const auto options = std::make_shared<RadioOptions>();
+    commands.AddFamily("radio", "The adapter's radio: status, on, off, reset, restart");
+    commands.Add("radio status", "Show the radio and its switches", ShowRadioNow)
+        .Examples("Which switch is off?\n"
+                  "  calvix radio status");
+    commands.Add("radio on", "Switch the software radio on", SwitchOn)
+        .Examples("Of the second adapter:\n"
+                  "  calvix radio on --interface 2");
+    commands.Add("radio off", "Switch the software radio off", SwitchOff)
+        .Examples("Of the first adapter:\n"
+                  "  calvix radio off");
+    commands.Add("radio reset", "Switch the radio off and, half a second later, on", ResetRadio)
+        .Examples("Without waiting for the connection:\n"
+                  "  calvix radio reset");
+    commands
+        .Add("radio restart", "Switch the radio off and on, waiting for both and for the connection to come back",
+             [options](Host& host) { Restart(host, *options); })
+        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
+        .Examples("Have patience with the connection:\n"
+                  "  calvix radio restart --timeout 60");
+}
+
+} // namespace calvix::host

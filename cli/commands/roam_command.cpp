@@ -1,0 +1,74 @@
+#include "commands/commands.h"
+#include "live/connection_wait.h"
+#include "live/live_watch.h"
+#include "output/json_output.h"
+#include "view/roaming.h"
+#include "view/status.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct RoamOptions
+{
+    LiveOptions live;
+    unsigned timeout = 15;
+};
+
+void PrintRoam(Host& host, const RoamFacts& roam, bool dryRun)
+{
+    if (roam.decision == "stay")
+        host.out() << "Stays at " << roam.from << ": " << roam.why << ".\n\n";
+    else
+        host.out() << (dryRun ? "Would move" : "Moved") << " from " << roam.from << " to " << roam.to << ".\n\n";
+}
+
+void RoamOnce(Host& host, const RoamOptions& options)
+{
+    const bool dryRun = options.live.dryRun;
+    ConnectionWait wait(host);
+    const RoamFacts roam = Roam(host, dryRun);
+    if (roam.decision == "none")
+        throw host.MethodFailure(RoamMethod(dryRun), roam.code);
+    if (roam.decision == "roam" && !dryRun)
+        wait.Finish(options.timeout);
+    const StatusFacts status = ReadStatus(host);
+    if (host.json())
+        return PrintJson(host.out(), roam, status);
+    PrintRoam(host, roam, dryRun);
+    PrintStatus(host, status);
+}
+
+void RoamCommand(Host& host, const RoamOptions& options)
+{
+    if (options.live.roamEvery == 0 && options.live.seconds != 0)
+        throw BadInput("--for goes with --every", "say how often to decide: --every SECONDS");
+    if (options.live.roamEvery == 0)
+        RoamOnce(host, options);
+    else
+        WatchLive(host, options.live);
+}
+
+} // namespace
+
+void AddRoamCommand(CommandSet& commands)
+{
+    const auto options = std::make_shared<RoamOptions>();
+    commands
+        .Add("roam", "Move to a better access point of the current network, if there is one",
+             [options](Host& host) { RoamCommand(host, *options); })
+        .Flag("--dry-run", options->live.dryRun, "Decide only, do not move")
+        .Number("--every", options->live.roamEvery, "Go on, deciding every so many seconds; 0: decide once")
+        .Number("--for", options->live.seconds, "Seconds to go on; 0: until Ctrl-C, a minute on a simulated computer")
+        .Number("--speed", options->live.speed,
+                "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
+        .Number("--timeout", options->timeout, "Seconds to wait for the connection at most")
+        .Examples("Would it move, and where to?\n"
+                  "  calvix roam --dry-run\n"
+                  "Look after the connection for an hour:\n"
+                  "  calvix roam --every 10 --for 3600");
+}
+
+} // namespace calvix::host

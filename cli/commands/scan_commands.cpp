@@ -1,0 +1,194 @@
+#include "commands/commands.h"
+#include "explain/failure_words.h"
+#include "host/host.h"
+#include "host/service_view.h"
+#include "live/connection_wait.h"
+#include "live/notifications.h"
+#include "live/progress.h"
+#include "output/json_output.h"
+#include "output/table.h"
+#include "output/text_forms.h"
+#include "report/spectrum_chart.h"
+#include "report/take_picture.h"
+#include "view/describe.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct ScanOptions
+{
+    unsigned seconds = 10;
+    bool chart = false;
+    bool scanFirst = false;
+};
+
+/// What the service has told of the scan.
+enum class ScanEnd
+{
+    notYet,
+    complete,
+    failed
+};
+
+ScanEnd LookForEnd(const std::vector<Notice>& notices, const GUID& adapter, DWORD& reason)
+{
+    for (const Notice& notice : notices)
+    {
+        if (!IsEqualGUID(notice.adapter, adapter))
+            continue;
+        if (notice.code == wlan_notification_acm_scan_complete)
+            return ScanEnd::complete;
+        if (notice.code == wlan_notification_acm_scan_fail)
+        {
+            reason = notice.reason;
+            return ScanEnd::failed;
+        }
+    }
+    return ScanEnd::notYet;
+}
+
+ScanFacts ScanAndWait(Host& host, unsigned seconds)
+{
+    const GUID* const adapter = host.adapterGuid();
+    Notifications notifications(host);
+    unsigned long error = 0;
+    host.Check("Rescan", host.manager().Rescan(adapter, error));
+    ScanFacts scan;
+    ScanEnd end = ScanEnd::notYet;
+    DWORD reason = 0;
+    const Progress progress(host, "Scanning");
+    scan.completed = WaitUntil(
+        host, seconds,
+        [&]
+        {
+            end = LookForEnd(notifications.Take(), *adapter, reason);
+            return end != ScanEnd::notYet;
+        },
+        &scan.milliseconds);
+    if (end == ScanEnd::failed)
+        throw ReasonFailure(host, "the scan failed", reason);
+    if (!scan.completed)
+        throw OperationFailure("the scan was not done within " + Counted(seconds, "second"),
+                               "wait longer with --timeout; the lists still show what was heard before");
+    return scan;
+}
+
+void Scan(Host& host, const ScanOptions& options)
+{
+    ScanFacts scan = ScanAndWait(host, options.seconds);
+    scan.accessPoints = host.service().AccessPoints(host.adapterGuid()).size();
+    if (host.json())
+        return PrintJson(host.out(), scan);
+    host.out() << "Scan done after " << scan.milliseconds / 1000.0
+               << " s: " << Counted(scan.accessPoints, "access point") << " in view.\n";
+}
+
+Cell NameCell(const NetworkFacts& network)
+{
+    if (network.ssid.hex.empty())
+        return {"(hidden)", Tone::faint};
+    return {network.ssid.text, network.connected ? Tone::strong : Tone::plain};
+}
+
+Cell NoteCell(const NetworkFacts& network)
+{
+    if (network.connected)
+        return {"connected", Tone::good};
+    if (!network.connectable)
+        return {"cannot be joined: " + network.reason, Tone::poor};
+    return "";
+}
+
+void PrintNetworks(Host& host, const std::vector<NetworkFacts>& networks)
+{
+    Table table(
+        {{"SSID"}, {"Signal"}, {"Quality", Align::right}, {"Security"}, {"APs", Align::right}, {"Profile"}, {"Note"}});
+    for (const NetworkFacts& network : networks)
+    {
+        table.AddRow({NameCell(network), SignalBars(network.quality, host.terminal()), std::to_string(network.quality),
+                      network.security, std::to_string(network.accessPoints), network.profile, NoteCell(network)});
+    }
+    table.Print(host.out(), host.terminal());
+}
+
+/// The lists hold what was heard up to now, and the service scans once a minute.
+void ScanIfAsked(Host& host, const ScanOptions& options)
+{
+    if (options.scanFirst)
+        ScanAndWait(host, options.seconds);
+}
+
+void ListNetworks(Host& host, const ScanOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    ScanIfAsked(host, options);
+    host.Check("GetAvailableNetworkCount", host.manager().GetAvailableNetworkCount(adapter));
+    std::vector<NetworkFacts> networks;
+    for (const WLAN_AVAILABLE_NETWORK& network : host.service().Networks(adapter))
+        networks.push_back(DescribeNetwork(network));
+    if (host.json())
+        return PrintJson(host.out(), networks);
+    if (networks.empty())
+        host.out() << "No network is in view. Scan with: calvix scan\n";
+    else
+        PrintNetworks(host, networks);
+}
+
+/// The access points in view as a picture.
+void DrawAccessPoints(Host& host)
+{
+    const auto connection = host.service().Connection(host.adapterGuid());
+    const auto accessPoints =
+        ArrangedAir(host, connection ? MacText(connection->wlanAssociationAttributes.dot11Bssid) : std::string());
+    if (accessPoints.empty())
+        host.out() << "No access point is in view. Scan with: calvix scan\n";
+    else
+        PrintSpectrum(host, accessPoints);
+}
+
+void ListAccessPoints(Host& host, const ScanOptions& options)
+{
+    ScanIfAsked(host, options);
+    if (options.chart && !host.json())
+        return DrawAccessPoints(host);
+    const auto accessPoints = DescribeAccessPoints(host.service().AccessPoints(host.adapterGuid()));
+    if (host.json())
+        return PrintJson(host.out(), accessPoints);
+    if (accessPoints.empty())
+        host.out() << "No access point is in view. Scan with: calvix scan\n";
+    else
+        PrintAccessPoints(host, accessPoints);
+}
+
+Arguments& AddScanning(Arguments& arguments, const std::shared_ptr<ScanOptions>& options)
+{
+    return arguments.Flag("--scan", options->scanFirst, "Scan first, and wait until it is done")
+        .Number("--timeout", options->seconds, "Seconds to wait for the scan at most");
+}
+
+} // namespace
+
+void AddScanCommands(CommandSet& commands)
+{
+    const auto options = std::make_shared<ScanOptions>();
+    commands.Add("scan", "Ask for a scan and wait until it is done", [options](Host& host) { Scan(host, *options); })
+        .Number("--timeout", options->seconds, "Seconds to wait at most")
+        .Examples("The driver takes its time:\n"
+                  "  calvix scan --timeout 30");
+    AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
+                             [options](Host& host) { ListNetworks(host, *options); }),
+                options)
+        .Examples("As they are now, and not as they were at the service's last scan:\n"
+                  "  calvix networks --scan");
+    AddScanning(commands.Add("bss", "List the access points in view",
+                             [options](Host& host) { ListAccessPoints(host, *options); }),
+                options)
+        .Flag("--chart", options->chart, "Draw the spectrum, an arch for each access point")
+        .Examples("The spectrum as it is now:\n"
+                  "  calvix bss --scan --chart");
+}
+
+} // namespace calvix::host

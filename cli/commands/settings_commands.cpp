@@ -1,0 +1,127 @@
+#include "commands/commands.h"
+#include "host/host.h"
+#include "host/service_view.h"
+#include "output/failure.h"
+#include "output/json_output.h"
+#include "output/table.h"
+#include "output/text_forms.h"
+
+#include <algorithm>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+struct SettingsOptions
+{
+    bool enableAuto = false;
+    bool enableBackgroundScan = false;
+};
+
+struct IhvOptions
+{
+    std::string request;
+    unsigned size = 0;
+    bool grant = false;
+};
+
+SettingsFacts ReadSettings(Host& host)
+{
+    const GUID* const adapter = host.adapterGuid();
+    SettingsFacts facts;
+    unsigned long level = wlan_power_setting_invalid;
+    host.Require("GetPowerSetting", host.manager().GetPowerSetting(level));
+    facts.powerLevel = static_cast<unsigned>(level);
+    facts.powerSetting = host.manager().GetPowerSettingStr(level);
+    facts.automaticConnection = host.service().IsEnabled(adapter, wlan_intf_opcode_autoconf_enabled);
+    facts.backgroundScan = host.service().IsEnabled(adapter, wlan_intf_opcode_background_scan_enabled);
+    const int safeMode = host.manager().SupportedSafeMode(adapter);
+    if (safeMode >= 0)
+        facts.safeMode = safeMode != 0;
+    return facts;
+}
+
+std::string YesOrNo(const std::optional<bool>& value, const char* yes, const char* no)
+{
+    if (!value)
+        return "unknown";
+    return *value ? yes : no;
+}
+
+void Settings(Host& host, const SettingsOptions& options)
+{
+    const GUID* const adapter = host.adapterGuid();
+    if (options.enableAuto)
+        host.Require("EnableAutoCfg", host.manager().EnableAutoCfg(adapter));
+    if (options.enableBackgroundScan)
+        host.Require("EnableBackgroundScan", host.manager().EnableBackgroundScan(adapter));
+    const SettingsFacts facts = ReadSettings(host);
+    if (host.json())
+        return PrintJson(host.out(), facts);
+    PrintPairs(host.out(), {{"Power saving", facts.powerSetting},
+                            {"Automatic connection", YesOrNo(facts.automaticConnection, "on", "off")},
+                            {"Background scan", YesOrNo(facts.backgroundScan, "on", "off")},
+                            {"Safe mode", YesOrNo(facts.safeMode, "supported", "not supported")}});
+}
+
+std::vector<unsigned char> BytesOfHex(const std::string& text)
+{
+    const auto bytes = BytesOfHexText(text);
+    if (!bytes)
+        throw BadInput("\"" + text + "\" is no request: it takes pairs of hexadecimal digits",
+                       "write it like 00A1F2 or \"00 A1 F2\"");
+    return {bytes->begin(), bytes->end()};
+}
+
+std::string HexOf(const std::vector<unsigned char>& bytes, std::size_t count)
+{
+    return HexText({reinterpret_cast<const char*>(bytes.data()), count});
+}
+
+void AskDriver(Host& host, const IhvOptions& options)
+{
+    constexpr unsigned largest = 1U << 16;
+    if (options.size > largest)
+        throw BadInput("--size takes at most " + std::to_string(largest) + " bytes");
+    std::vector<unsigned char> buffer = BytesOfHex(options.request);
+    buffer.resize((std::max)(buffer.size(), static_cast<std::size_t>(options.size)));
+    const std::string request = HexOf(buffer, buffer.size());
+    const GUID* const adapter = host.adapterGuid();
+    if (options.grant)
+        host.Require("SetIhvSecuritySettings", static_cast<long>(host.manager().SetIhvSecuritySettings()));
+    unsigned long returned = 0;
+    host.Require("IhvControl", static_cast<long>(host.manager().IhvControl(
+                                   adapter, buffer.data(), static_cast<unsigned long>(buffer.size()), returned)));
+    const std::string answer = HexOf(buffer, (std::min)(static_cast<std::size_t>(returned), buffer.size()));
+    if (host.json())
+        return PrintIhvJson(host.out(), request, answer);
+    host.out() << answer << '\n';
+}
+
+} // namespace
+
+void AddSettingsCommands(CommandSet& commands)
+{
+    const auto settings = std::make_shared<SettingsOptions>();
+    commands
+        .Add("settings", "Show the adapter's settings, or switch some on",
+             [settings](Host& host) { Settings(host, *settings); })
+        .Flag("--enable-auto", settings->enableAuto, "Switch automatic connection on")
+        .Flag("--enable-background-scan", settings->enableBackgroundScan, "Switch scanning while connected on")
+        .Examples("Let the service connect by itself:\n"
+                  "  calvix settings --enable-auto");
+
+    const auto ihv = std::make_shared<IhvOptions>();
+    commands
+        .Add("ihv", "Send a vendor's request to the adapter's driver and print its answer",
+             [ihv](Host& host) { AskDriver(host, *ihv); })
+        .Text("HEX", ihv->request, "The request's bytes in hexadecimal")
+        .Number("--size", ihv->size, "Lengthen the request with zeros: the answer can be no longer than the request")
+        .Flag("--grant", ihv->grant, "First let ordinary users talk to drivers (takes an administrator)")
+        .Examples("A request of two bytes, an answer of up to eight:\n"
+                  "  calvix ihv 01FF --size 8");
+}
+
+} // namespace calvix::host

@@ -1,0 +1,23 @@
+#include "commands/commands.h"
+#include "live/live_watch.h"
+
+#include <memory>
+
+namespace calvix::host
+{
+
+void AddWatchCommand(CommandSet& commands)
+{
+    const auto options = std::make_shared<LiveOptions>();
+    commands
+        .Add("watch", "Show the service's notifications and the signal as they come, until Ctrl-C",
+             [options](Host& host) { WatchLive(host, *options); })
+        .Number("--for", options->seconds, "Seconds to watch; 0: until Ctrl-C, a minute on a simulated computer")
+        .Number("--speed", options->speed,
+                "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
+        .Number("--roam", options->roamEvery, "Roam when it is time, deciding every so many seconds; 0: never")
+        .Examples("A minute of the signal, a JSON object a line:\n"
+                  "  calvix watch --for 60 --json");
+}
+
+} // namespace calvix::host

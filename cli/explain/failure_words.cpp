@@ -1,0 +1,126 @@
+#include "explain/failure_words.h"
+
+#include "explain/platform_errors.h"
+#include "explain/result_codes.h"
+#include "output/table.h"
+#include "output/words.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+/// Errors that mean that there is no service to talk to, whatever was asked of it.
+bool MeansUnavailable(std::uint32_t error)
+{
+    return error == ERROR_SERVICE_NOT_ACTIVE || error == ERROR_SERVICE_DISABLED ||
+           error == ERROR_SERVICE_DOES_NOT_EXIST || error == ERROR_MOD_NOT_FOUND;
+}
+
+std::string RefusalText(const std::string& operation, std::uint32_t error, bool bySystem = false)
+{
+    return (bySystem ? "the system refused " : "the WLAN service refused ") + operation + " (" +
+           DescribePlatformError(error) + ")";
+}
+
+void AddRefusal(FailureReport& report, const Refusal& refusal)
+{
+    report.operation = refusal.operation;
+    report.platformError = refusal.error;
+    report.message += ": " + RefusalText(refusal.operation, refusal.error, refusal.bySystem);
+    if (refusal.reasonCode != 0)
+    {
+        report.reasonCode = static_cast<std::uint32_t>(refusal.reasonCode);
+        report.reason = ReasonText(refusal.reasonCode);
+        report.message += ", because: " + report.reason;
+    }
+    if (!refusal.bySystem && MeansUnavailable(refusal.error))
+        report.exitCode = ExitCode::unavailable;
+    const std::string advice = refusal.bySystem ? AdviseOnSystemError(refusal.error, refusal.operation)
+                                                : AdviseOnPlatformError(refusal.error, refusal.operation);
+    if (!advice.empty())
+        report.advice = advice;
+}
+
+/// Ends a sentence that may have its full stop already.
+const char* FullStop(const std::string& text)
+{
+    return text.empty() || text.back() != '.' ? "." : "";
+}
+
+} // namespace
+
+Failure MethodFailureInWords(const char* method, long code, const Refusal& refusal)
+{
+    FailureReport report;
+    report.method = method;
+    report.code = static_cast<int>(code);
+    const MethodResults* const results = FindMethod(method);
+    const std::optional<Cause> cause = results != nullptr ? FindCause(*results, code) : std::nullopt;
+    if (!cause)
+    {
+        const Explanation explanation = results != nullptr ? Explain(*results, code) : Explanation{};
+        report.message = explanation.known ? explanation.meaning : "the method gave an unknown result";
+        report.advice = explanation.advice;
+        if (!refusal.operation.empty() && refusal.error == static_cast<std::uint32_t>(code))
+        {
+            report.message = std::string(method) + " did not succeed";
+            AddRefusal(report, refusal);
+        }
+        return Failure(report);
+    }
+    const CauseText& text = Describe(*cause);
+    report.exitCode = text.exitCode;
+    report.message = text.meaning;
+    report.advice = text.advice;
+    // What the system refuses ends a method at once; the WLAN service is asked about other things meanwhile.
+    const bool itsRefusal = text.operation != nullptr && refusal.operation == text.operation;
+    if (itsRefusal || (refusal.bySystem && text.operation == nullptr))
+        AddRefusal(report, refusal);
+    return Failure(report);
+}
+
+Failure ServiceFailure(const char* operation, std::uint32_t error)
+{
+    FailureReport report;
+    report.operation = operation;
+    report.platformError = error;
+    report.message = RefusalText(operation, error);
+    report.advice = AdviseOnPlatformError(error, operation);
+    if (MeansUnavailable(error))
+        report.exitCode = ExitCode::unavailable;
+    return Failure(report);
+}
+
+Failure SystemFailure(const char* method, std::optional<int> code, std::string message, const Refusal& refusal)
+{
+    FailureReport report;
+    report.method = method;
+    report.code = code;
+    report.message = std::move(message);
+    if (!refusal.operation.empty())
+        AddRefusal(report, refusal);
+    return Failure(report);
+}
+
+Failure OperationFailure(std::string message, std::string advice)
+{
+    FailureReport report;
+    report.message = std::move(message);
+    report.advice = std::move(advice);
+    return Failure(report);
+}
+
+void PrintFailure(std::ostream& err, const FailureReport& report, const TerminalTraits& terminal)
+{
+    TerminalTraits ofError;
+    ofError.color = terminal.errorColor;
+    err << Toned("calvix:", Tone::poor, ofError) << ' ' << report.message << FullStop(report.message) << '\n';
+    if (!report.method.empty() && report.code)
+        err << "  Result: " << report.method << " gave " << *report.code << ".\n";
+    if (!report.advice.empty())
+        err << "  What to do: " << report.advice << FullStop(report.advice) << '\n';
+}
+
+} // namespace calvix::host

@@ -1,0 +1,179 @@
+#include "explain/result_codes.h"
+
+#include <iterator>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+constexpr auto kFailed = ExitCode::failed;
+constexpr auto kUnavailable = ExitCode::unavailable;
+
+constexpr const char* kListAdvice =
+    "allow location access for desktop apps, switch the radio on, and see that the WLAN service runs";
+
+constexpr CauseText kCauses[] = {
+    {Cause::clientNotOpened, "client handle not opened", "no client handle of the WLAN service could be opened",
+     "start the service \"WLAN AutoConfig\" (sc start WlanSvc); on a server install the wireless feature",
+     "WlanOpenHandle", kUnavailable},
+    {Cause::enumerationFailed, "enumeration failed", "the wireless adapters could not be listed",
+     "see that the service \"WLAN AutoConfig\" runs and try again; if it was restarted, restart the program too",
+     "WlanEnumInterfaces", kUnavailable},
+    {Cause::noAdapter, "no adapter", "the computer has no wireless adapter",
+     "plug one in, or enable it and its driver in the device manager", nullptr, kUnavailable},
+    {Cause::noSuchInterface, "no such adapter", "there is no adapter with this GUID",
+     "list the adapters; a GUID changes when an adapter is installed again", nullptr, kFailed},
+    {Cause::noSuchDescription, "no such description", "no adapter has this description",
+     "list the adapters; the description must be equal to the last letter, upper and lower case included", nullptr,
+     kFailed},
+    {Cause::scanRefused, "scan refused", "the scan was refused",
+     "switch the radio on, allow location access for desktop apps, and wait while a connection is being made",
+     "WlanScan", kFailed},
+    {Cause::networkListFailed, "network list failed", "the list of visible networks could not be fetched", kListAdvice,
+     "WlanGetAvailableNetworkList", kFailed},
+    {Cause::networkListEmpty, "no network", "no network is in view",
+     "scan, wait until the scan is done, and try again; go closer", nullptr, kFailed},
+    {Cause::ssidNotVisible, "SSID not found", "no visible network has this SSID",
+     "scan first; check upper and lower case; the list does not show hidden networks by their SSID", nullptr, kFailed},
+    {Cause::networkNotListed, "no such network", "no visible network has this SSID and BSS type",
+     "scan first; check the SSID and whether the network is an ad hoc one", nullptr, kFailed},
+    {Cause::bssListFailed, "BSS list failed", "the list of access points could not be fetched", kListAdvice,
+     "WlanGetNetworkBssList", kFailed},
+    {Cause::bssListEmpty, "BSS list empty", "the service lists no access point of the network asked about",
+     "scan, wait until the scan is done, and try again", nullptr, kFailed},
+    {Cause::noBssInView, "no BSS in view", "the connected network has no access point in view",
+     "the connection is about to end or the list is old: scan, and look again", nullptr, kFailed},
+    {Cause::accessPointNotListed, "access point not listed",
+     "the connected access point is not in the list, though others of its network are",
+     "scan, wait until the scan is done, and try again; ask for the link's own value meanwhile", nullptr, kFailed},
+    {Cause::profileListFailed, "profile list failed", "the stored profiles could not be listed",
+     "see that the adapter is still there and that the WLAN service runs", "WlanGetProfileList", kFailed},
+    {Cause::noProfile, "no profile", "no profile is stored",
+     "store one: connect to a network once, or add an exported profile document", nullptr, kFailed},
+    {Cause::profileNotFound, "no such profile", "no profile of this name is stored",
+     "list the profiles; upper and lower case matter", nullptr, kFailed},
+    {Cause::profileNotDeleted, "not deleted", "the profile was not deleted",
+     "check the name, case included; profiles of all users and of a group policy need an administrator",
+     "WlanDeleteProfile", kFailed},
+    {Cause::profileNotReadable, "profile not read", "the profile could not be read",
+     "check the name, case included; a profile of another user cannot be read", "WlanGetProfile", kFailed},
+    {Cause::profileNotStored, "not stored", "the profile was not stored",
+     "check that the document is a whole WLAN profile and fits the adapter; profiles of all users may need an "
+     "administrator",
+     "WlanSetProfile", kFailed},
+    {Cause::noConnectionMode, "no connection mode", "the profile's document names no connection mode",
+     "add <connectionMode>auto</connectionMode> or manual to the document and store it again", nullptr, kFailed},
+    {Cause::malformedConnectionMode, "malformed before the connection mode",
+     "the profile's document is malformed before its connection mode",
+     "store a well-formed document under the same name", nullptr, kFailed},
+    {Cause::notConnected, "connection query refused", "there is no current connection that could be read",
+     "connect first; when the adapter is connected, allow location access for desktop apps", "WlanQueryInterface",
+     kFailed},
+    {Cause::rssiRefused, "RSSI query refused", "the signal strength of the link could not be read",
+     "connect first; some drivers do not tell it at all", "WlanQueryInterface", kFailed},
+    {Cause::statisticsRefused, "statistics query refused", "the frame counters could not be read",
+     "see that the adapter is still there and its radio is on", "WlanQueryInterface", kFailed},
+    {Cause::noCandidate, "no candidate", "no visible network can be chosen",
+     "none of them has a stored profile that connects automatically and is not ruled out: set a profile's connection "
+     "mode to auto, or rule out less",
+     nullptr, kFailed},
+    {Cause::everyRequestRefused, "every request refused", "the service refused to connect to each of the candidates",
+     "look at the error of each request; profiles may not fit the adapter, or its radio is off", "WlanConnect",
+     kFailed},
+    {Cause::diagnosticRun, "diagnostic run", "the diagnostic ran; it always ends so", "read its trace lines", nullptr,
+     kFailed},
+    {Cause::laterBssListFailed, "later BSS list failed", "a repeated list of access points could not be fetched",
+     kListAdvice, "WlanGetNetworkBssList", kFailed},
+    {Cause::laterBssListEmpty, "later BSS list empty", "a repeated list of access points was empty",
+     "the network left the air while it was watched: go closer", nullptr, kFailed},
+    {Cause::firstBssListFailed, "first BSS list failed",
+     "the first list of access points of a network could not be fetched", kListAdvice, "WlanGetNetworkBssList",
+     kFailed},
+    {Cause::firstBssListEmpty, "first BSS list empty", "a network had no access point in view",
+     "scan, wait until the scan is done, and try again", nullptr, kFailed},
+    {Cause::nullOutput, "null output", "the pointer for the result is null",
+     "pass a container or a record to be filled", nullptr, kFailed},
+    {Cause::nullInput, "null input", "a pointer that the method reads from is null", "pass what the method asks for",
+     nullptr, kFailed},
+    {Cause::radioStateUnknown, "radio query refused", "the state of the radio could not be read",
+     "see that the adapter is still there", "WlanQueryInterface", kFailed},
+    {Cause::noPhy, "no PHY", "the adapter reports no radio", "update the adapter's driver", nullptr, kFailed},
+    {Cause::safeModeUnknown, "safe-mode query refused", "whether the adapter supports safe mode could not be read",
+     "see that the adapter is still there; older drivers do not tell it", "WlanQueryInterface", kFailed},
+    {Cause::radioNotSwitched, "switch refused", "the radio could not be switched",
+     "look at the switch on the case and at flight mode; some drivers need an administrator", "WlanSetInterface",
+     kFailed},
+    {Cause::otherServiceVersion, "other service version", "the WLAN service has a version that this is not meant for",
+     "use a system whose WLAN service is of version 2", nullptr, kFailed},
+    {Cause::someAdapterRefused, "some list failed", "an adapter refused to be listed, and is missing in the listing",
+     kListAdvice, nullptr, kFailed},
+    {Cause::profileNotInView, "no network with the profile", "no visible network carries the profile",
+     "scan first; check the profile's name, upper and lower case included", nullptr, kFailed},
+    {Cause::nothingMatches, "nothing matches", "no visible network has a stored profile that may be used",
+     "scan first, or store a profile for a network in view", nullptr, kFailed},
+    {Cause::nothingBetter, "nothing better",
+     "no network with a stored profile has a better signal than the current one", "stay, or scan and try again",
+     nullptr, kFailed},
+    {Cause::requestRefused, "request refused", "the service refused to connect",
+     "look at the service's error; the radio may be off", "WlanConnect", kFailed},
+    {Cause::accessPointNotJoined, "no BSS in view or request refused",
+     "the network has no access point in view, or the service refused to connect",
+     "scan first, go closer, and see that the profile is still stored", "WlanConnect", kFailed},
+    {Cause::savedNotAutomatic, "profile not automatic",
+     "the remembered connection's profile does not connect automatically", "connect by the profile's name instead",
+     nullptr, kFailed},
+    {Cause::savedNotInView, "no BSS of the saved network",
+     "the remembered connection's network has no access point in view", "scan first; go closer", nullptr, kFailed},
+    {Cause::profileNotMoved, "profile not moved", "the current profile could not be moved to the last place",
+     "profiles of all users and of a group policy need an administrator", "WlanSetProfilePosition", kFailed},
+    {Cause::signalGoodEnough, "signal quality 80 or more", "the signal is good enough to stay",
+     "nothing: there is no need to roam", nullptr, kFailed},
+    {Cause::alreadyThere, "already connected to it",
+     "the adapter is connected to the best access point of its network already", "nothing: there is no need to roam",
+     nullptr, kFailed},
+    {Cause::suspendNotAllowed, "suspend not allowed", "the computer cannot be suspended",
+     "powercfg /a tells what keeps it from sleeping: a driver, the firmware or a policy", "IsPwrSuspendAllowed",
+     kFailed},
+    {Cause::noActiveScheme, "no active scheme", "which power scheme is active could not be told",
+     "powercfg /list shows the schemes; activate one with powercfg /setactive", nullptr, kFailed},
+    {Cause::schemeNotReadable, "scheme not read", "the policy of the active power scheme could not be read",
+     "powercfg /restoredefaultschemes brings the system's own schemes back", "ReadPwrScheme", kFailed},
+    {Cause::schemeNotWritten, "scheme not written", "the policy of the power scheme could not be written",
+     "run as administrator; a group policy may have fixed the power settings", "WritePwrScheme", kFailed},
+    {Cause::schemeNotActivated, "scheme not activated", "the power scheme could not be activated",
+     "run as administrator; a group policy may have fixed the active scheme", nullptr, kFailed},
+    {Cause::schemeNotCopied, "scheme not copied", "the active power scheme could not be copied", "run as administrator",
+     "PowerDuplicateScheme", kFailed},
+    {Cause::schemeNotNamed, "copy not named", "the copy of the power scheme could not be named",
+     "run as administrator; the copy is still in powercfg /list, and powercfg /delete removes it",
+     "PowerWriteFriendlyName", kFailed},
+    {Cause::sleepTimeNotWritten, "time-out not written",
+     "a sleep time-out of the new power scheme could not be written",
+     "run as administrator; the scheme is still in powercfg /list, and powercfg /delete removes it",
+     "PowerWriteACValueIndex", kFailed},
+    {Cause::internetNotReached, "not reached", "the internet could not be reached",
+     "see that the adapter is connected and has an address; sign in where the network asks for it",
+     "InternetCheckConnectionA", kFailed},
+};
+
+/// The table is in the order of the enumeration, which Describe relies on.
+constexpr bool IsInOrder()
+{
+    for (std::size_t i = 0; i < std::size(kCauses); ++i)
+        if (kCauses[i].cause != static_cast<Cause>(i))
+            return false;
+    return true;
+}
+static_assert(IsInOrder());
+static_assert(std::size(kCauses) == static_cast<std::size_t>(Cause::internetNotReached) + 1);
+
+} // namespace
+
+const CauseText& Describe(Cause cause)
+{
+    return kCauses[static_cast<std::size_t>(cause)];
+}
+
+} // namespace calvix::host

@@ -1,0 +1,89 @@
+#include "host/recorded_session.h"
+
+#include "files/file_path.h"
+#include "host/interrupt.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+std::unique_ptr<recording::Replay> OpenReplay(const std::string& path)
+{
+    std::ifstream file(PathOf(path), std::ios::binary);
+    if (!file)
+        throw BadInput(path + ": cannot be read", "check the path and the rights on it");
+    try
+    {
+        return std::make_unique<recording::Replay>(file, path);
+    }
+    catch (const recording::RecordingError& error)
+    {
+        throw BadInput(error.what(), "make the recording again, with: calvix --record FILE COMMAND");
+    }
+}
+
+FailureReport InWords(const recording::ReplayTrouble& trouble)
+{
+    FailureReport report;
+    const bool departed = trouble.kind == recording::ReplayTrouble::Kind::departed;
+    report.exitCode = departed ? ExitCode::departed : ExitCode::badInput;
+    report.message = trouble.text;
+    report.advice = departed ? "replay the command that was recorded, with the same options; if it was that, "
+                               "this program behaves differently since"
+                             : "make the recording again";
+    return report;
+}
+
+} // namespace
+
+RecordedSession::RecordedSession(const CommonOptions& options)
+    : m_path(options.record), m_isRecording(!options.record.empty()), m_anonymise(options.anonymise)
+{
+    if (m_isRecording)
+    {
+        m_file.open(PathOf(m_path), std::ios::binary);
+        if (!m_file)
+            throw BadInput(m_path + ": cannot be written", "check the path and the rights on it");
+    }
+    if (options.replay.empty())
+        return;
+    m_replay = OpenReplay(options.replay);
+    // Nothing goes on after the replay's end, just as after Ctrl-C, which is the only thing that is marked.
+    m_replay->AtTrouble(RaiseInterrupt);
+    m_replay->AtMark([](const std::string&) { RaiseInterrupt(); });
+}
+
+RecordedSession::~RecordedSession()
+{
+    WhenInterruptIsSeen(nullptr);
+}
+
+platform::Platform& RecordedSession::Recorded(platform::Platform& inner, bool simulated)
+{
+    if (!m_isRecording)
+        return inner;
+    m_recorder = std::make_unique<recording::Recorder>(inner, m_file, recording::Header{simulated, m_anonymise});
+    WhenInterruptIsSeen([this] { m_recorder->Mark("interrupted"); });
+    return m_recorder->platform();
+}
+
+std::optional<FailureReport> RecordedSession::EndReplay()
+{
+    if (m_replay == nullptr)
+        return std::nullopt;
+    const auto trouble = m_replay->Finish();
+    return trouble ? std::optional(InWords(*trouble)) : std::nullopt;
+}
+
+void RecordedSession::EndRecording()
+{
+    if (m_recorder != nullptr)
+        m_recorder->Finish();
+    m_file.close();
+    if (m_isRecording && !m_file)
+        throw BadInput(m_path + ": cannot be written to its end", "check the room on the disk");
+}
+
+} // namespace calvix::host

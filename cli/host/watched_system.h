@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/watched_wlan.h"
+#include "platform/platform.h"
+
+#include <vector>
+
+namespace calvix::host
+{
+
+/// Notes what the operating system refused outside its WLAN service. A question that is answered with no is no refusal.
+class SystemRefusals final : public wrappers::Interceptor
+{
+public:
+    /// `errors` tells why an operation failed that does not say it itself, and outlives this object.
+    explicit SystemRefusals(platform::LastError& errors) : m_errors(errors) {}
+
+    void After(const wrappers::Call& call, long long result) override;
+
+    void Forget() { m_refusals.clear(); }
+    /// The last one, empty if there was none.
+    Refusal Last() const { return m_refusals.empty() ? Refusal{} : m_refusals.back(); }
+    /// The first one of an operation, empty if there was none.
+    Refusal Of(std::string_view operation) const;
+
+private:
+    platform::LastError& m_errors;
+    std::vector<Refusal> m_refusals;
+};
+
+} // namespace calvix::host

@@ -1,0 +1,116 @@
+#include "program/program.h"
+
+#include "commands/commands.h"
+#include "explain/failure_words.h"
+#include "host/host.h"
+#include "host/interrupt.h"
+#include "output/json_output.h"
+#include "shell/command_line.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+int TellFailure(Host& host, const FailureReport& failure)
+{
+    if (host.json())
+        PrintJson(host.out(), failure);
+    PrintFailure(host.err(), failure, host.terminal());
+    return static_cast<int>(failure.exitCode);
+}
+
+/// Carries the command out; why it failed, if it did.
+std::optional<FailureReport> CarryOut(Host& host, const RunCommand& run)
+{
+    try
+    {
+        run(host);
+        host.Save();
+        host.RequireSession();
+        return std::nullopt;
+    }
+    catch (const Failure& failure)
+    {
+        return failure.report();
+    }
+    catch (const std::exception& error)
+    {
+        return OperationFailure(error.what(), "report this with the command that led to it").report();
+    }
+}
+
+int EndRecording(Host& host, int exitCode)
+{
+    try
+    {
+        host.EndRecording();
+        return exitCode;
+    }
+    catch (const Failure& failure)
+    {
+        if (exitCode == static_cast<int>(ExitCode::success))
+            return TellFailure(host, failure.report());
+        PrintFailure(host.err(), failure.report(), host.terminal());
+        return exitCode;
+    }
+}
+
+/// What a failed command did before it failed is saved too.
+void SaveAfterFailure(Host& host)
+{
+    try
+    {
+        host.Save();
+    }
+    catch (const Failure& failure)
+    {
+        PrintFailure(host.err(), failure.report(), host.terminal());
+    }
+}
+
+int CarryOutArguments(const std::vector<std::string>& arguments,
+                      std::istream& in,
+                      std::ostream& out,
+                      std::ostream& err,
+                      TerminalTraits terminal)
+{
+    ExitCode parsed = ExitCode::success;
+    const std::optional<Request> request = ParseArguments(AddAllCommands, arguments, out, err, parsed);
+    if (!request)
+        return static_cast<int>(parsed);
+
+    const InterruptWatch interruptWatch;
+    Host host(request->options, in, out, err, terminal);
+    std::optional<FailureReport> failure = CarryOut(host, request->run);
+    // A command that got no answers any more fails in some way or other, and that is not to the point.
+    if (const auto departure = host.EndReplay())
+        failure = departure;
+    if (!failure)
+        return EndRecording(host, static_cast<int>(ExitCode::success));
+    const int exitCode = TellFailure(host, *failure);
+    if (failure->exitCode != ExitCode::badInput)
+        SaveAfterFailure(host);
+    return EndRecording(host, exitCode);
+}
+
+} // namespace
+
+int Run(const std::vector<std::string>& arguments,
+        std::istream& in,
+        std::ostream& out,
+        std::ostream& err,
+        TerminalTraits terminal)
+{
+    const int exitCode = CarryOutArguments(arguments, in, out, err, terminal);
+    if (out.flush())
+        return exitCode;
+    const Failure unwritten =
+        OperationFailure("the output could not be written", "check where it goes: a full disk, or "
+                                                            "a program that has ended");
+    PrintFailure(err, unwritten.report(), terminal);
+    return exitCode != static_cast<int>(ExitCode::success) ? exitCode : static_cast<int>(ExitCode::failed);
+}
+
+} // namespace calvix::host

@@ -1,0 +1,187 @@
+#include "shell/completion.h"
+
+#include "explain/result_codes.h"
+#include "shell/completion_scripts.h"
+#include "shell/word_reader.h"
+
+#include <algorithm>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+std::vector<CompletionWord> CommandWords(const ProgramDescription& program, const std::string& family)
+{
+    std::vector<CompletionWord> words;
+    for (const CommandDescription& command : program.commands)
+        if (!command.hidden && command.family() == family)
+            words.push_back({command.lastWord(), command.summary});
+    if (family.empty())
+        for (const FamilyDescription& one : program.families)
+            words.push_back({one.name, one.summary});
+    return words;
+}
+
+std::vector<CompletionWord> MethodWords()
+{
+    std::vector<CompletionWord> words;
+    for (const MethodResults& results : AllMethodResults())
+        words.push_back({results.method, ""});
+    return words;
+}
+
+/// Finds what may stand at one place.
+class Place
+{
+public:
+    Place(const ProgramDescription& program, const WordReader& reader, const LiveNames& liveNames)
+        : m_program(program), m_reader(reader), m_liveNames(liveNames)
+    {
+    }
+
+    Completion Values(const ArgumentDescription& argument) const
+    {
+        switch (argument.takes)
+        {
+        case ValueKind::choice:
+            return Choices(argument);
+        case ValueKind::file:
+            return {{}, Completion::Files::any};
+        case ValueKind::scenario:
+            return {{}, Completion::Files::scenarios};
+        case ValueKind::folder:
+            return {{}, Completion::Files::folders};
+        case ValueKind::adapter:
+        case ValueKind::profile:
+            return {m_liveNames(argument.takes, m_reader.ValueOf("--scenario"), m_reader.ValueOf("--interface"))};
+        case ValueKind::method:
+            return {MethodWords()};
+        case ValueKind::command:
+            return {CommandWords(m_program, m_reader.positionals().empty() ? "" : m_reader.positionals().front())};
+        case ValueKind::nothing:
+        case ValueKind::text:
+        case ValueKind::number:
+            break;
+        }
+        return {};
+    }
+
+    Completion Options() const
+    {
+        Completion completion;
+        for (const ArgumentDescription* option : m_reader.Options())
+            if (option->repeated || !m_reader.isGiven(*option))
+                completion.words.push_back({option->longName(), option->help});
+        completion.words.push_back({"--help", "Tell the arguments"});
+        if (m_reader.command() == nullptr && m_reader.family() == nullptr)
+            completion.words.push_back({"--version", "Tell the version"});
+        return completion;
+    }
+
+    Completion CommandsOrPositional() const
+    {
+        if (m_reader.command() == nullptr)
+            return {CommandWords(m_program, m_reader.family() != nullptr ? m_reader.family()->name : "")};
+        const ArgumentDescription* const next = m_reader.NextPositional();
+        if (next != nullptr)
+            return Values(*next);
+        return m_reader.afterDashes() ? Completion{} : Options();
+    }
+
+    /// "--color=a"
+    Completion ValuesBehindSign(const std::string& current) const
+    {
+        const std::string name = SplitAtSign(current).first;
+        const ArgumentDescription* const option = m_reader.FindOption(name);
+        if (option == nullptr)
+            return {};
+        Completion completion = Values(*option);
+        for (CompletionWord& word : completion.words)
+            word.text = name + "=" + word.text;
+        return completion;
+    }
+
+    Completion At(const std::string& current) const
+    {
+        if (m_reader.pending() != nullptr)
+            return Values(*m_reader.pending());
+        if (m_reader.afterDashes() || !current.starts_with("-"))
+            return CommandsOrPositional();
+        return current.find('=') != std::string::npos ? ValuesBehindSign(current) : Options();
+    }
+
+private:
+    static Completion Choices(const ArgumentDescription& argument)
+    {
+        Completion completion;
+        for (const std::string& choice : argument.choices)
+            completion.words.push_back({choice, ""});
+        return completion;
+    }
+
+    const ProgramDescription& m_program;
+    const WordReader& m_reader;
+    const LiveNames& m_liveNames;
+};
+
+/// A name from the air or from a file may hold what would end the line.
+bool FitsOnALine(const CompletionWord& word)
+{
+    return std::none_of(word.text.begin(), word.text.end(),
+                        [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; });
+}
+
+const char* FilesText(Completion::Files files)
+{
+    switch (files)
+    {
+    case Completion::Files::any:
+        return "any";
+    case Completion::Files::scenarios:
+        return "scenarios";
+    case Completion::Files::folders:
+        return "folders";
+    case Completion::Files::none:
+        break;
+    }
+    return "none";
+}
+
+} // namespace
+
+Completion Complete(const ProgramDescription& program,
+                    const std::vector<std::string>& before,
+                    const std::string& current,
+                    const LiveNames& liveNames)
+{
+    WordReader reader(program);
+    for (const std::string& word : before)
+        reader.Take(word);
+    Completion completion = Place(program, reader, liveNames).At(current);
+    std::erase_if(completion.words, [&current](const CompletionWord& word)
+                  { return !word.text.starts_with(current) || !FitsOnALine(word); });
+    return completion;
+}
+
+std::string CompletionText(const Completion& completion)
+{
+    std::string text = std::string(FilesText(completion.files)) + "\n";
+    for (const CompletionWord& word : completion.words)
+        text += word.text + (word.meaning.empty() ? "" : "\t" + word.meaning) + "\n";
+    return text;
+}
+
+const char* CompletionScript(const std::string& shell)
+{
+    if (shell == "bash")
+        return kBashCompletion;
+    if (shell == "zsh")
+        return kZshCompletion;
+    if (shell == "fish")
+        return kFishCompletion;
+    return shell == "powershell" ? kPowerShellCompletion : nullptr;
+}
+
+} // namespace calvix::host

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "shell/command_description.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// A word that may stand where the cursor is, and what it means.
+struct CompletionWord
+{
+    std::string text;
+    std::string meaning; ///< may be empty
+};
+
+/// What may stand where the cursor is.
+struct Completion
+{
+    /// Which files may stand there too; the shell knows them.
+    enum class Files
+    {
+        none,
+        any,
+        scenarios,
+        folders
+    };
+
+    std::vector<CompletionWord> words;
+    Files files = Files::none;
+};
+
+/// Adapters or profiles by the names that the options on the line lead to: --scenario and --interface.
+using LiveNames =
+    std::function<std::vector<CompletionWord>(ValueKind kind, const std::string& scenario, const std::string& adapter)>;
+
+/// Completes a command line: the words before the cursor's, without the program's, and the beginning of that one.
+Completion Complete(const ProgramDescription& program,
+                    const std::vector<std::string>& before,
+                    const std::string& current,
+                    const LiveNames& liveNames);
+
+/// As the shells' scripts read it: which files on the first line (none, any, scenarios, folders), then a word a line,
+/// behind a tab its meaning.
+std::string CompletionText(const Completion& completion);
+
+/// The script that has a shell ask this program: "bash", "zsh", "fish" or "powershell". Null: no such shell.
+const char* CompletionScript(const std::string& shell);
+
+} // namespace calvix::host

@@ -1,0 +1,43 @@
+#include "shell/confirmation.h"
+
+#include "host/interrupt.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+bool MeansYes(std::string answer)
+{
+    std::erase_if(answer, [](unsigned char c) { return std::isspace(c) != 0; });
+    std::transform(answer.begin(), answer.end(), answer.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return answer == "yes" || answer == "y";
+}
+
+} // namespace
+
+void Confirm(Host& host, const std::string& whatHappens, bool answered)
+{
+    if (answered)
+        return;
+    host.err() << whatHappens << " Go on? yes/no: " << std::flush;
+    std::string answer;
+    const bool read = static_cast<bool>(std::getline(host.in(), answer));
+    if (read && MeansYes(answer) && !Interrupted())
+        return;
+    // Who typed an answer has ended the line; otherwise it is still open.
+    if (!read)
+        host.err() << '\n';
+    FailureReport report;
+    report.exitCode = ExitCode::notConfirmed;
+    report.message = "not confirmed: nothing was done";
+    report.advice = "answer yes, or say --yes where nobody can answer";
+    throw Failure(report);
+}
+
+} // namespace calvix::host

@@ -1,0 +1,130 @@
+#include "shell/manual.h"
+
+#include "shell/exit_codes.h"
+#include "shell/program_texts.h"
+
+#include <sstream>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+/// Text for roff: no letter is taken for a request, hyphens stay hyphens that can be copied.
+std::string Escaped(const std::string& text)
+{
+    std::string escaped;
+    for (const char c : text)
+        if (c == '\\')
+            escaped += "\\e";
+        else if (c == '-')
+            escaped += "\\-";
+        else if (c == '"')
+            escaped += "\\(dq";
+        else
+            escaped += c;
+    return !escaped.empty() && (escaped[0] == '.' || escaped[0] == '\'') ? "\\&" + escaped : escaped;
+}
+
+std::string WithFullStop(const std::string& text)
+{
+    return text + (text.ends_with('.') ? "" : ".");
+}
+
+std::string Bold(const std::string& text)
+{
+    return "\\fB" + Escaped(text) + "\\fR";
+}
+
+/// "\fB\-\-timeout\fR \fIN\fR"
+std::string Spelled(const ArgumentDescription& argument)
+{
+    if (!argument.isOption())
+        return "\\fI" + Escaped(argument.names.front()) + "\\fR";
+    std::string text;
+    for (const std::string& name : argument.names)
+        text += (text.empty() ? "" : ", ") + Bold(name);
+    const std::string value = ValueText(argument.takes, argument.choices);
+    return value.empty() ? text : text + " \\fI" + Escaped(value) + "\\fR";
+}
+
+std::string InSynopsis(const ArgumentDescription& argument)
+{
+    const std::string name = "\\fI" + Escaped(argument.names.front()) + "\\fR";
+    const std::string text = argument.isOption() ? Spelled(argument) : name;
+    return (argument.required ? text : "[" + text + "]") + (argument.repeated ? "..." : "");
+}
+
+void WriteArgument(std::ostream& out, const ArgumentDescription& argument)
+{
+    out << ".TP\n" << Spelled(argument) << '\n' << Escaped(WithFullStop(argument.help));
+    if (!argument.isOption() && !argument.choices.empty())
+        out << " One of " << Escaped(ValueText(argument.takes, argument.choices)) << '.';
+    if (argument.takes == ValueKind::number && argument.byDefault)
+        out << " Default: " << *argument.byDefault << '.';
+    out << '\n';
+}
+
+/// Lines as they are: those that are indented are commands, the others speak of them.
+void WriteExamples(std::ostream& out, const std::string& examples)
+{
+    std::istringstream lines(examples);
+    for (std::string line; std::getline(lines, line);)
+    {
+        if (line.empty())
+            continue;
+        if (line.starts_with("  "))
+            out << ".RS\n.nf\n" << Escaped(line.substr(2)) << "\n.fi\n.RE\n";
+        else
+            out << ".PP\n" << Escaped(line) << '\n';
+    }
+}
+
+void WriteCommand(std::ostream& out, const CommandDescription& command)
+{
+    out << ".SS " << Escaped(command.path) << "\n" << Bold("calvix " + command.path);
+    for (const ArgumentDescription& argument : command.arguments)
+        out << ' ' << InSynopsis(argument);
+    out << "\n.PP\n" << Escaped(WithFullStop(command.summary)) << '\n';
+    for (const ArgumentDescription& argument : command.arguments)
+        WriteArgument(out, argument);
+    WriteExamples(out, command.examples);
+}
+
+void WriteEnd(std::ostream& out)
+{
+    out << ".SH EXIT STATUS\n";
+    for (const ExitCodeText& text : AllExitCodes())
+        out << ".TP\n"
+            << Bold(std::to_string(static_cast<int>(text.code))) << '\n'
+            << Escaped(WithFullStop(text.meaning)) << '\n';
+    out << ".SH ENVIRONMENT\n";
+    for (const EnvironmentText& text : AllEnvironmentTexts())
+        out << ".TP\n" << Bold(text.variable) << '\n' << Escaped(WithFullStop(text.meaning)) << '\n';
+    out << ".SH EXAMPLES\n";
+    WriteExamples(out, kProgramExamples);
+}
+
+} // namespace
+
+std::string ManualPage(const ProgramDescription& program)
+{
+    std::ostringstream out;
+    out << ".TH CALVIX 1 \"\" \"calvix " << kVersionNumber << "\" \"User Commands\"\n"
+        << ".SH NAME\ncalvix \\- " << Escaped(kProgramSummary) << '\n'
+        << ".SH SYNOPSIS\n\\fBcalvix\\fR \\fICOMMAND\\fR [\\fIARGUMENT\\fR]... [\\fIOPTION\\fR]...\n"
+        << ".SH DESCRIPTION\n"
+        << Escaped(kProgramDescription) << '\n'
+        << ".SH OPTIONS OF EVERY COMMAND\n";
+    for (const ArgumentDescription& option : program.options)
+        WriteArgument(out, option);
+    out << ".TP\n\\fB\\-\\-help\\fR\nTell the arguments of the command.\n.SH COMMANDS\n";
+    for (const CommandDescription& command : program.commands)
+        if (!command.hidden)
+            WriteCommand(out, command);
+    WriteEnd(out);
+    return out.str();
+}
+
+} // namespace calvix::host

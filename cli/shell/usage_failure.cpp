@@ -1,0 +1,87 @@
+#include "shell/usage_failure.h"
+
+#include "shell/nearest_word.h"
+#include "shell/word_reader.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+std::vector<std::string> CommandNames(const ProgramDescription& program, const std::string& family)
+{
+    std::vector<std::string> names;
+    for (const CommandDescription& command : program.commands)
+        if (!command.hidden && command.family() == family)
+            names.push_back(command.lastWord());
+    if (family.empty())
+        for (const FamilyDescription& one : program.families)
+            names.push_back(one.name);
+    return names;
+}
+
+WordReader ReadAll(const ProgramDescription& program, const std::vector<std::string>& arguments)
+{
+    WordReader reader(program);
+    for (const std::string& word : arguments)
+        reader.Take(word);
+    return reader;
+}
+
+std::string Meant(const std::string& nearest)
+{
+    return nearest.empty() ? "" : "did you mean " + nearest + "? ";
+}
+
+Failure UnknownCommand(const ProgramDescription& program, const WordReader& reader)
+{
+    const std::string family = reader.family() != nullptr ? reader.family()->name : "";
+    const std::string& word = reader.unknownCommand();
+    const std::string help = "calvix " + family + (family.empty() ? "" : " ") + "--help";
+    return BadInput((family.empty() ? "there is no command \"" : family + " has no command \"") + word + "\"",
+                    Meant(NearestWord(word, CommandNames(program, family))) + "The commands: " + help);
+}
+
+Failure UnknownOption(const WordReader& reader)
+{
+    std::vector<std::string> names{"--help"};
+    for (const ArgumentDescription* option : reader.Options())
+        names.push_back(option->longName());
+    const std::string command = reader.command() != nullptr ? reader.command()->path : "calvix";
+    const std::string help = reader.command() != nullptr ? "calvix " + command : command;
+    return BadInput(command + " has no option " + reader.unknownOption(),
+                    Meant(NearestWord(reader.unknownOption(), names)) + "Its options: " + help + " --help");
+}
+
+Failure NoCommand(const WordReader& reader)
+{
+    if (reader.family() == nullptr)
+        return BadInput("no command was given", "look for one: calvix --help");
+    const std::string& family = reader.family()->name;
+    return BadInput(family + " needs one of its commands", "look for one: calvix " + family + " --help");
+}
+
+} // namespace
+
+bool NamesUnknownCommand(const ProgramDescription& program, const std::vector<std::string>& arguments)
+{
+    return !ReadAll(program, arguments).unknownCommand().empty();
+}
+
+Failure UsageFailure(const ProgramDescription& program,
+                     const std::vector<std::string>& arguments,
+                     const std::string& parserWords)
+{
+    const WordReader reader = ReadAll(program, arguments);
+    if (!reader.unknownCommand().empty())
+        return UnknownCommand(program, reader);
+    if (!reader.unknownOption().empty())
+        return UnknownOption(reader);
+    if (reader.command() == nullptr)
+        return NoCommand(reader);
+    const std::string& path = reader.command()->path;
+    return BadInput(path + ": " + parserWords, "look at its arguments: calvix " + path + " --help");
+}
+
+} // namespace calvix::host

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "shell/command_description.h"
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace calvix::host
+{
+
+/// Reads the words of a command line one by one, also of one that is not complete or not right.
+class WordReader
+{
+public:
+    explicit WordReader(const ProgramDescription& program) : m_program(program) {}
+
+    void Take(const std::string& word);
+
+    /// Null until it is known.
+    const CommandDescription* command() const { return m_command; }
+    /// The family whose command is not known yet; null: none.
+    const FamilyDescription* family() const { return m_command == nullptr ? m_family : nullptr; }
+    /// The option whose value comes next; null: none.
+    const ArgumentDescription* pending() const { return m_pending; }
+    /// Whether "--" has come, after which no word is an option.
+    bool afterDashes() const { return m_afterDashes; }
+    /// What stood as positional arguments.
+    const std::vector<std::string>& positionals() const { return m_positionals; }
+    /// The positional argument that comes next; null: there is no further.
+    const ArgumentDescription* NextPositional() const;
+    /// The options that may stand here.
+    std::vector<const ArgumentDescription*> Options() const;
+    const ArgumentDescription* FindOption(std::string_view name) const;
+    /// Whether an option was given, and its last value.
+    bool isGiven(const ArgumentDescription& option) const { return m_given.count(option.longName()) != 0; }
+    std::string ValueOf(const std::string& option) const;
+
+    /// The first word that stood for a command and is none, and the first option that there is not; empty: none.
+    const std::string& unknownCommand() const { return m_unknownCommand; }
+    const std::string& unknownOption() const { return m_unknownOption; }
+
+private:
+    void TakeOption(const std::string& word);
+    void TakeCommandWord(const std::string& word);
+
+    const ProgramDescription& m_program;
+    const FamilyDescription* m_family = nullptr;
+    const CommandDescription* m_command = nullptr;
+    const ArgumentDescription* m_pending = nullptr;
+    bool m_afterDashes = false;
+    std::vector<std::string> m_positionals;
+    std::map<std::string, std::string> m_given;
+    std::string m_unknownCommand;
+    std::string m_unknownOption;
+};
+
+/// "--color=auto" as "--color" and "auto"; a word without a sign has no second part.
+std::pair<std::string, std::string> SplitAtSign(const std::string& word);
+
+} // namespace calvix::host

@@ -1,0 +1,98 @@
+#include "view/describe.h"
+
+#include "core/wlan_records.h"
+#include "forms/channel.h"
+#include "forms/guid_text.h"
+#include "output/table.h"
+#include "output/text_forms.h"
+#include "output/words.h"
+#include "platform/records/wlan_constants.h"
+#include "text/value_text.h"
+
+namespace calvix::host
+{
+
+SsidFacts DescribeSsid(const DOT11_SSID& ssid)
+{
+    return {SsidText(ssid), HexText(SsidBytes(ssid))};
+}
+
+std::string StateText(unsigned long state)
+{
+    const std::string_view text = InterfaceStateText(state);
+    return text.empty() ? "unknown(" + std::to_string(state) + ")" : std::string(text);
+}
+
+AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number)
+{
+    AdapterFacts facts;
+    facts.number = number;
+    facts.guid = forms::GuidText(info.InterfaceGuid);
+    facts.description = Narrow(FixedText(info.strInterfaceDescription));
+    facts.state = static_cast<unsigned>(info.isState);
+    facts.stateText = StateText(facts.state);
+    return facts;
+}
+
+NetworkFacts DescribeNetwork(const WLAN_AVAILABLE_NETWORK& network)
+{
+    NetworkFacts facts;
+    facts.ssid = DescribeSsid(network.dot11Ssid);
+    facts.profile = Narrow(FixedText(network.strProfileName));
+    facts.quality = network.wlanSignalQuality;
+    facts.security = SecurityText(network.dot11DefaultAuthAlgorithm, network.dot11DefaultCipherAlgorithm);
+    facts.bssType = BssTypeText(network.dot11BssType);
+    for (ULONG i = 0; i < network.uNumberOfPhyTypes && i < WLAN_MAX_PHY_TYPE_NUMBER; ++i)
+        facts.phys.push_back(PhyText(network.dot11PhyTypes[i]));
+    facts.accessPoints = network.uNumberOfBssids;
+    facts.connected = (network.dwFlags & WLAN_AVAILABLE_NETWORK_CONNECTED) != 0;
+    facts.connectable = network.bNetworkConnectable != FALSE;
+    if (!facts.connectable)
+        facts.reason = ReasonText(network.wlanNotConnectableReason);
+    return facts;
+}
+
+AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry)
+{
+    AccessPointFacts facts;
+    facts.ssid = DescribeSsid(entry.dot11Ssid);
+    facts.bssid = MacText(entry.dot11Bssid);
+    facts.rssi = entry.lRssi;
+    facts.quality = static_cast<unsigned>(entry.uLinkQuality);
+    facts.frequencyKhz = entry.ulChCenterFrequency;
+    facts.channel = forms::ChannelNumber(static_cast<std::uint32_t>(entry.ulChCenterFrequency));
+    facts.band = BandText(entry.ulChCenterFrequency);
+    facts.phy = PhyText(entry.dot11BssPhyType);
+    facts.bssType = BssTypeText(entry.dot11BssType);
+    facts.beaconPeriod = entry.usBeaconPeriod;
+    return facts;
+}
+
+std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_ENTRY>& entries)
+{
+    std::vector<AccessPointFacts> facts;
+    facts.reserve(entries.size());
+    for (const WLAN_BSS_ENTRY& entry : entries)
+        facts.push_back(DescribeAccessPoint(entry));
+    return facts;
+}
+
+void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPoints)
+{
+    Table table({{"BSSID"}, {"SSID"}, {"Signal"}, {"dBm", Align::right}, {"Channel", Align::right}, {"Band"}, {"PHY"}});
+    for (const AccessPointFacts& facts : accessPoints)
+    {
+        const Cell ssid = facts.ssid.hex.empty() ? Cell("(hidden)", Tone::faint) : Cell(facts.ssid.text);
+        const int quality = host.manager().GetSignalStrength(static_cast<int>(facts.rssi));
+        table.AddRow({facts.bssid, ssid, SignalBars(static_cast<unsigned long>(quality), host.terminal()),
+                      std::to_string(facts.rssi), std::to_string(facts.channel), facts.band, facts.phy});
+    }
+    table.Print(host.out(), host.terminal());
+}
+
+std::string Counted(std::size_t count, const char* noun)
+{
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+} // namespace calvix::host

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "host/host.h"
+#include "output/facts.h"
+
+namespace calvix::host
+{
+
+/// From the platform's records to what is shown of them.
+
+/// "connected", or the number of a state that has no name.
+std::string StateText(unsigned long state);
+SsidFacts DescribeSsid(const DOT11_SSID& ssid);
+AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number);
+NetworkFacts DescribeNetwork(const WLAN_AVAILABLE_NETWORK& network);
+AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry);
+std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_ENTRY>& entries);
+
+void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPoints);
+
+/// "1 network", "3 networks"
+std::string Counted(std::size_t count, const char* noun);
+
+} // namespace calvix::host
