@@ -102,6 +102,8 @@ void Adapter::Restore(const Connection& connection)
         request.desiredBssids.clear();
         m_attempt = Attempt{std::move(request), std::nullopt, {}};
         Establish(*accessPoint);
+        m_link->receiveKbps = connection.receiveKbps;
+        m_link->transmitKbps = connection.transmitKbps;
     }
 }
 
@@ -112,7 +114,8 @@ AdapterDescription Adapter::Describe() const
         now.profiles.push_back({forms::Utf8FromWide(profile->xml)});
     now.connection.reset();
     if (m_link)
-        now.connection = Connection{forms::Utf8FromWide(m_link->Profile().name), m_link->accessPoint.bssid};
+        now.connection = Connection{forms::Utf8FromWide(m_link->Profile().name), m_link->accessPoint.bssid,
+                                    m_link->receiveKbps, m_link->transmitKbps};
     return now;
 }
 

@@ -32,7 +32,9 @@ struct Link
     ConnectionRequest request;
     AccessPoint accessPoint; ///< as it was heard last
     bool missedByLastScan = false;
-    ULONG reportedQuality = 0; ///< the signal quality that clients know of
+    ULONG reportedQuality = 0;     ///< the signal quality that clients know of
+    std::uint32_t receiveKbps = 0; ///< as the scenario says; 0: what the PHY type commonly reaches
+    std::uint32_t transmitKbps = 0;
 
     const ProfileDocument& Profile() const { return request.profile->document; }
 };

@@ -53,8 +53,9 @@ WLAN_ASSOCIATION_ATTRIBUTES Association(const Adapter& adapter)
     association.dot11PhyType = static_cast<DOT11_PHY_TYPE>(link.accessPoint.phyType);
     association.uDot11PhyIndex = PhyIndex(adapter.Phys(), link.accessPoint.phyType);
     association.wlanSignalQuality = SignalQuality(adapter.LinkRssi());
-    association.ulRxRate = LinkRate(link.accessPoint.phyType);
-    association.ulTxRate = association.ulRxRate;
+    const ULONG common = LinkRate(link.accessPoint.phyType);
+    association.ulRxRate = link.receiveKbps != 0 ? link.receiveKbps : common;
+    association.ulTxRate = link.transmitKbps != 0 ? link.transmitKbps : common;
     return association;
 }
 

@@ -76,6 +76,8 @@ struct Connection
 {
     std::string profile;             ///< name of a stored profile
     std::optional<MacAddress> bssid; ///< none: the strongest access point of the profile's network
+    std::uint32_t receiveKbps = 0;   ///< 0: what the PHY type commonly reaches
+    std::uint32_t transmitKbps = 0;
 
     bool operator==(const Connection&) const = default;
 };

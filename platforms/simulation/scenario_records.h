@@ -129,6 +129,10 @@ void Describe(Fields& fields, Connection& connection)
     fields.Record("What the adapter is connected to when the scenario begins.");
     fields.Required("profile", connection.profile, Text{}, "The name of one of the adapter's profiles.");
     fields.Optional("bssid", connection.bssid, OrNull{Address{}}, kAddressText);
+    fields.Optional("receiveKbps", connection.receiveKbps, Whole{},
+                    "The rate at which the link receives, in kbit/s, until the adapter connects again; 0: what the PHY "
+                    "type commonly reaches.");
+    fields.Optional("transmitKbps", connection.transmitKbps, Whole{}, "The same for what the link transmits.");
 }
 
 template <typename Fields>

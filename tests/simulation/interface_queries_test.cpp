@@ -120,6 +120,16 @@ TEST_F(InterfaceQueries, SignalStrengthNeedsNoLocationConsent)
     EXPECT_EQ(error, ERROR_ACCESS_DENIED);
 }
 
+TEST_F(InterfaceQueries, TheLinkHasTheRatesOfTheScenario)
+{
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt, 2401900, 117000};
+    Start();
+    const WLAN_ASSOCIATION_ATTRIBUTES link = Connection()->wlanAssociationAttributes;
+    EXPECT_EQ(link.ulRxRate, 2401900u);
+    EXPECT_EQ(link.ulTxRate, 117000u);
+    EXPECT_EQ(computer->Snapshot().adapters[0].connection->receiveKbps, 2401900u);
+}
+
 struct ChannelCase
 {
     std::uint32_t frequencyKhz;

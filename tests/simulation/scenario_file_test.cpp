@@ -71,7 +71,8 @@ TEST(ScenarioFile, EveryFieldIsRead)
                           "phys": [{"type": "eht", "software": "off", "hardware": "on"}, {"type": 77, "hardware": "off"}],
                           "scanMilliseconds": 1, "connectMilliseconds": 2,
                           "profiles": [{"name": "Home"}],
-                          "connection": {"profile": "Home", "bssid": "02:00:00:00:01:01"},
+                          "connection": {"profile": "Home", "bssid": "02:00:00:00:01:01",
+                                         "receiveKbps": 2401900, "transmitKbps": 117000},
                           "statistics": {"transmitted": 3, "received": 18446744073709551615}}],
             "accessPoints": [{"ssidHex": "00fF", "hidden": true, "bssid": "02:00:00:00:01:01", "frequencyKhz": 5180000,
                               "rssi": -71, "phy": "he", "bssType": "independent", "authentication": "open",
@@ -90,7 +91,7 @@ TEST(ScenarioFile, EveryFieldIsRead)
     EXPECT_EQ(adapter.phys, phys);
     EXPECT_EQ(adapter.scanMilliseconds, 1u);
     EXPECT_EQ(adapter.connectMilliseconds, 2u);
-    EXPECT_EQ(adapter.connection, (Connection{"Home", MacAddress{2, 0, 0, 0, 1, 1}}));
+    EXPECT_EQ(adapter.connection, (Connection{"Home", MacAddress{2, 0, 0, 0, 1, 1}, 2401900, 117000}));
     EXPECT_EQ(adapter.statistics, (Statistics{3, 18446744073709551615u}));
 
     ASSERT_EQ(scenario.accessPoints.size(), 1u);
