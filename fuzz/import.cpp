@@ -4,12 +4,8 @@
 #include "promise.h"
 #include "targets.h"
 
-#include "import/capture_text.h"
 #include "import/import.h"
 #include "import/read_capture.h"
-
-#include <utility>
-#include <variant>
 
 namespace calvix::fuzz
 {
@@ -20,27 +16,12 @@ namespace
 /// What stands between the files of an input.
 constexpr std::string_view kNextFile = "\n=====\n";
 
-/// Puts what a file held where it belongs.
-struct Sort
-{
-    host::Captures& captures;
-
-    void operator()(host::NetworksCapture networks) { captures.networks = std::move(networks); }
-    void operator()(host::InterfacesCapture interfaces) { captures.interfaces = std::move(interfaces); }
-    void operator()(host::ExportedProfile profile) { captures.profiles.push_back(std::move(profile)); }
-};
-
-void AddFile(host::Captures& captures, std::string_view bytes)
-{
-    std::visit(Sort{captures}, host::ReadCapture(bytes, "capture.txt").content);
-}
-
 host::Captures ReadFiles(Input& input)
 {
     constexpr int kMostFiles = 4;
     host::Captures captures;
     for (int file = 0; file < kMostFiles && !input.IsEmpty(); ++file)
-        AddFile(captures, input.Until(kNextFile));
+        host::ReadCapture(input.Until(kNextFile), "capture.txt", {}, captures);
     return captures;
 }
 

@@ -1,9 +1,11 @@
 #include "import/capture_encoding.h"
 
 #include "forms/utf8.h"
-#include "import/capture_text.h"
 #include "import/code_page_guess.h"
+#include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
+
+#include <algorithm>
 
 namespace calvix::host
 {
@@ -14,10 +16,13 @@ namespace
 constexpr std::uint32_t kUtf8CodePage = 65001;
 constexpr std::uint32_t kUtf16LittleCodePage = 1200;
 constexpr std::uint32_t kUtf16BigCodePage = 1201;
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16LittleMark = "\xFF\xFE";
+constexpr std::string_view kUtf16BigMark = "\xFE\xFF";
 
-bool HasMark(std::string_view bytes)
+bool HasOnlyAscii(std::string_view text)
 {
-    return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    return std::all_of(text.begin(), text.end(), [](char letter) { return static_cast<unsigned char>(letter) < 0x80; });
 }
 
 /// The code page of UTF-16 without a mark, 0 for any other text: the blanks and line ends of a capture have a zero byte,
@@ -32,24 +37,16 @@ std::uint32_t Utf16Without(std::string_view bytes)
     return zeros[1] >= zeros[0] ? kUtf16LittleCodePage : kUtf16BigCodePage;
 }
 
-DecodedCapture Decoded(std::string_view bytes, const std::string& source, std::uint32_t codePage)
+std::string FromCodePage(std::string_view bytes, std::uint32_t codePage, CaptureWarnings& warnings)
 {
-    DecodedCapture capture;
     if (codePage == kUtf16LittleCodePage || codePage == kUtf16BigCodePage)
-    {
-        capture.text = ReadingFrom(source, [&] { return FromUtf16(bytes, codePage == kUtf16BigCodePage); });
-        return capture;
-    }
+        return ReadingFrom(warnings.source, [&] { return FromUtf16(bytes, codePage == kUtf16BigCodePage); });
     NarrowText narrow = DecodeNarrowText(codePage, bytes);
-    capture.text = std::move(narrow.text);
     if (narrow.illFormedLine != 0)
-        capture.warnings.push_back(source + ":" + std::to_string(narrow.illFormedLine) + ": code page " +
-                                   std::to_string(codePage) +
-                                   " has no characters for some bytes of this line; they were replaced");
-    return capture;
+        warnings.Warn(narrow.illFormedLine, "code page " + std::to_string(codePage) +
+                                                " has no characters for some bytes of this line; they were replaced");
+    return narrow.text;
 }
-
-} // namespace
 
 bool CanReadCodePage(std::uint32_t codePage)
 {
@@ -57,26 +54,51 @@ bool CanReadCodePage(std::uint32_t codePage)
            simulation::HasNarrowEncoding(codePage);
 }
 
-DecodedCapture DecodeCapture(std::string_view bytes, const std::string& source, std::optional<std::uint32_t> codePage)
+} // namespace
+
+std::string DecodeCapture(std::string_view bytes, std::optional<std::uint32_t> codePage, CaptureWarnings& warnings)
 {
+    const std::string& source = warnings.source;
     if (codePage && !CanReadCodePage(*codePage))
         throw CaptureError(source + ": this computer cannot read code page " + std::to_string(*codePage));
-    const std::uint32_t utf16 = HasMark(bytes) ? 0 : Utf16Without(bytes);
-    if (utf16 != 0)
-        return Decoded(bytes, source, utf16);
-    const bool isNamed = codePage && *codePage != kUtf8CodePage;
-    if (HasMark(bytes) || codePage == kUtf8CodePage || (!isNamed && forms::IsUtf8(bytes)))
-        return {ReadingFrom(source, [&] { return ToUtf8(bytes); }), {}};
-    if (isNamed)
-        return Decoded(bytes, source, *codePage);
+    const bool hasMark =
+        bytes.starts_with(kUtf8Mark) || bytes.starts_with(kUtf16LittleMark) || bytes.starts_with(kUtf16BigMark);
+    if (const std::uint32_t utf16 = hasMark ? 0 : Utf16Without(bytes); utf16 != 0)
+        return FromCodePage(bytes, utf16, warnings);
+    if (hasMark || codePage == kUtf8CodePage || (!codePage && forms::IsUtf8(bytes)))
+        return ReadingFrom(source, [&] { return ToUtf8(bytes); });
+    if (codePage)
+        return FromCodePage(bytes, *codePage, warnings);
     const std::uint32_t likely = LikelyCodePage(bytes);
     if (likely == 0)
         throw CaptureError(source + ": this is not Unicode, and this computer has no converter for any other text");
-    DecodedCapture capture = Decoded(bytes, source, likely);
-    capture.warnings.insert(capture.warnings.begin(), source + ": this is not Unicode and was read as code page " +
-                                                          std::to_string(likely) +
-                                                          ", the likeliest; name another with --code-page");
-    return capture;
+    warnings.warnings.push_back(source + ": this is not Unicode and was read as code page " + std::to_string(likely) +
+                                ", the likeliest; name another with --code-page");
+    return FromCodePage(bytes, likely, warnings);
+}
+
+std::optional<std::string> MisreadUtf8(std::string_view text)
+{
+    for (const std::uint32_t codePage : {1252u, 850u, 437u})
+    {
+        if (HasOnlyAscii(text) || !simulation::HasNarrowEncoding(codePage))
+            continue;
+        bool replaced = false;
+        std::string bytes = simulation::EncodeNarrow(codePage, Widen(text), '?', true, replaced);
+        if (!replaced && !HasOnlyAscii(bytes) && forms::IsUtf8(bytes))
+            return bytes;
+    }
+    return std::nullopt;
+}
+
+void WarnOfMisread(const std::string& ssid, std::size_t line, CaptureWarnings& warnings)
+{
+    constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+    if (ssid.find(kReplacement) != std::string::npos)
+        warnings.Warn(line, "the SSID \"" + ssid + "\" has lost characters; it is kept as it is");
+    else if (const std::optional<std::string> meant = MisreadUtf8(ssid))
+        warnings.Warn(line, "the SSID \"" + ssid + "\" looks like \"" + *meant +
+                                "\", read in the wrong code page; it is kept as it is");
 }
 
 } // namespace calvix::host

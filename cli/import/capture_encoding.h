@@ -1,28 +1,26 @@
 #pragma once
 
+#include "import/capture_text.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace calvix::host
 {
 
-/// A capture's text in UTF-8.
-struct DecodedCapture
-{
-    std::string text;
-    std::vector<std::string> warnings; ///< which code page was guessed, and what it does not have
-};
-
-/// Turns the bytes of a capture into text. A byte order mark decides; then zero bytes, which only UTF-16 has; then whether
+/// Turns the bytes of a capture into UTF-8. A byte order mark decides; then zero bytes, which only UTF-16 has; then whether
 /// the text is UTF-8; else it is of a narrow code page, the one that the user names or the likeliest. `codePage`, where the
-/// user names one, comes before UTF-8. `source` is what messages call the capture. Throws CaptureError for a code page that
-/// there is no converter for, and for ill-formed Unicode.
-DecodedCapture DecodeCapture(std::string_view bytes, const std::string& source, std::optional<std::uint32_t> codePage);
+/// user names one, comes before UTF-8. Warns of what was guessed, and of bytes that the code page does not have. Throws
+/// CaptureError for a code page that there is no converter for, and for ill-formed Unicode.
+std::string DecodeCapture(std::string_view bytes, std::optional<std::uint32_t> codePage, CaptureWarnings& warnings);
 
-/// Whether this computer can read the code page.
-bool CanReadCodePage(std::uint32_t codePage);
+/// What a text was before somebody read its UTF-8 in another code page: "Café" for "CafÃ©". Nothing for any other text.
+std::optional<std::string> MisreadUtf8(std::string_view text);
+
+/// Warns of an SSID that was misread, or of which characters were lost, before it came here. It is kept: what its bytes
+/// were is a guess.
+void WarnOfMisread(const std::string& ssid, std::size_t line, CaptureWarnings& warnings);
 
 } // namespace calvix::host

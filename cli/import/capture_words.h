@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -9,36 +9,29 @@
 namespace calvix::host
 {
 
-/// What the words among a capture's values mean. Only those are here that neither their place nor their shape tells: the
-/// names of ciphers, radio types and the like are the same in every language of the system.
-enum class WordKind
-{
-    networkType,    ///< "infrastructure" or "independent"
-    authentication, ///< "open", "shared", "OWE", or what follows "WPA2-": "personal" or "enterprise"
-    encryption,     ///< "none"
-    connectionMode, ///< "auto" or "manual"
-    radioSwitch     ///< "on" or "off"
-};
-
 /// Words that the user explains: as the capture has them, and what they mean.
 using ExplainedWords = std::vector<std::pair<std::string, std::string>>;
 
-/// The words of a capture's language.
+/// What the words among a capture's values mean. Only those are known here that neither their place nor their shape tells:
+/// the names of ciphers, radio types and the like are the same in every language of the system. The meanings are
+/// infrastructure, independent (network types); open, shared, OWE, and for what follows "WPA2-" personal, enterprise
+/// (authentications); none (a cipher); auto, manual (who asked for a connection); on, off (radio switches).
 struct Vocabulary
 {
     /// Whether the capture's labels are those of another language than English. Whatever an English capture says is known,
     /// so that an unknown word there is damage.
     bool foreign = false;
     ExplainedWords explained;
+
+    /// What the user says that a word means; empty: nothing.
+    std::string Explained(std::string_view word) const;
+
+    /// What the user says that a word means; else the one of these meanings that it has, without regard to case, blanks
+    /// around hyphens and the kind of hyphen. Empty where nobody knows.
+    std::string MeaningOf(std::string_view word, std::initializer_list<std::string_view> meanings) const;
 };
 
-/// The meaning of a word, without regard to case, blanks around hyphens and the kind of hyphen.
-std::optional<std::string_view> MeaningOf(WordKind kind, std::string_view word);
-
-/// What the user says that a word means.
-std::optional<std::string> Explained(const Vocabulary& vocabulary, std::string_view word);
-
-/// The switch that the last word of a text sets, "on" or "off".
-std::optional<std::string_view> SwitchOf(std::string_view text);
+/// The switch that the last word of a text sets, "on" or "off"; empty where it is neither.
+std::string_view SwitchOf(std::string_view text);
 
 } // namespace calvix::host

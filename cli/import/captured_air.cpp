@@ -51,27 +51,26 @@ AccessPoint* FindAccessPoint(std::vector<AccessPoint>& air, const simulation::Ma
 std::vector<AccessPoint> AirOf(const NetworksCapture& capture, std::vector<std::string>& warnings)
 {
     std::vector<AccessPoint> air;
-    for (const CapturedNetwork& network : capture.networks)
-        for (AccessPoint heard : network.accessPoints)
+    for (AccessPoint heard : capture.accessPoints)
+    {
+        AccessPoint* const known = FindAccessPoint(air, heard.bssid);
+        const std::string address = "the access point " + forms::AddressText(heard.bssid);
+        if (known != nullptr && IsSame(*known, heard))
         {
-            AccessPoint* const known = FindAccessPoint(air, heard.bssid);
-            const std::string address = "the access point " + forms::AddressText(heard.bssid);
-            if (known != nullptr && IsSame(*known, heard))
-            {
-                Merge(*known, heard);
-                warnings.push_back(address + " is listed more than once: it is as strong as it was heard best");
-                continue;
-            }
-            if (known != nullptr)
-            {
-                heard.bssid = FreeAddress(air, heard.bssid);
-                warnings.push_back(
-                    address +
-                    " is listed again with another name, channel or security: that one has the made-up address " +
-                    forms::AddressText(heard.bssid));
-            }
-            air.push_back(heard);
+            Merge(*known, heard);
+            warnings.push_back(address + " is listed more than once; the scenario has it once, as it was heard best");
+            continue;
         }
+        if (known != nullptr)
+        {
+            heard.bssid = FreeAddress(air, heard.bssid);
+            warnings.push_back(address +
+                               " is listed again with another name, channel or security; that one has the made-up "
+                               "address " +
+                               forms::AddressText(heard.bssid));
+        }
+        air.push_back(std::move(heard));
+    }
     return air;
 }
 

@@ -19,7 +19,7 @@ NarrowText DecodeNarrowText(std::uint32_t codePage, std::string_view bytes);
 
 /// The code page, of those that versions of Windows print and redirect in, in which a capture makes the best sense: letters
 /// of one script in each word, capitals only where words begin, and the characters that the tool's lines are made of. What
-/// stands behind "SSID" counts only where nothing else has characters beyond ASCII, because it can be anything.
+/// follows "SSID" counts only where nothing else has characters beyond ASCII, because it can be anything.
 std::uint32_t LikelyCodePage(std::string_view bytes);
 
 } // namespace calvix::host

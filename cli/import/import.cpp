@@ -23,9 +23,11 @@ using simulation::StoredProfile;
 /// The PHY types in the order of their standards; an adapter knows those before its newest.
 constexpr std::array<std::uint32_t, 7> kPhyTypes{5, 4, 6, 7, 8, 10, 11};
 
+/// The index of a PHY type, 0 for any other.
 std::size_t Generation(std::uint32_t phyType)
 {
-    return static_cast<std::size_t>(std::find(kPhyTypes.begin(), kPhyTypes.end(), phyType) - kPhyTypes.begin());
+    const auto found = std::find(kPhyTypes.begin(), kPhyTypes.end(), phyType);
+    return found == kPhyTypes.end() ? 0 : static_cast<std::size_t>(found - kPhyTypes.begin());
 }
 
 /// As many as a scenario holds.
@@ -53,7 +55,7 @@ std::vector<CapturedInterface> AdaptersOf(const Captures& captures)
     return madeUp;
 }
 
-/// Index into `adapters`, or their number where the file's name tells nothing.
+/// Index into `adapters`, or their number where the file's name names none.
 std::size_t AdapterOfFile(const std::string& fileName, const std::vector<CapturedInterface>& adapters)
 {
     std::size_t best = adapters.size();
@@ -77,14 +79,9 @@ class Assembly
 public:
     Assembly(const Captures& captures, bool makeProfiles) : m_captures(captures), m_captured(AdaptersOf(captures))
     {
+        m_result.warnings = captures.warnings;
         if (captures.networks)
-        {
-            m_result.warnings = captures.networks->warnings;
             m_result.scenario.accessPoints = AirOf(*captures.networks, m_result.warnings);
-        }
-        if (captures.interfaces)
-            m_result.warnings.insert(m_result.warnings.end(), captures.interfaces->warnings.begin(),
-                                     captures.interfaces->warnings.end());
         m_result.scenario.description = Description();
         AddAdapters();
         for (const ExportedProfile& profile : captures.profiles)
@@ -122,15 +119,9 @@ private:
     {
         constexpr std::uint32_t kLeast = 7;
         std::size_t newest = Generation(kLeast);
-        const auto look = [&newest](const AccessPoint& accessPoint)
-        {
-            const std::size_t generation = Generation(accessPoint.phyType);
-            newest = generation < kPhyTypes.size() ? std::max(newest, generation) : newest;
-        };
-        std::for_each(air().begin(), air().end(), look);
-        if (captured.connection)
-            look(captured.connection->accessPoint);
-        return newest;
+        for (const AccessPoint& accessPoint : air())
+            newest = std::max(newest, Generation(accessPoint.phyType));
+        return captured.connection ? std::max(newest, Generation(captured.connection->accessPoint.phyType)) : newest;
     }
 
     void AddAdapters()
@@ -159,7 +150,8 @@ private:
             if (FindProfile(i, profile.name) == nullptr)
                 m_profiles[i].push_back({profile.name, {profile.xml}});
             else
-                Warn(profile.fileName + ": a profile \"" + profile.name + "\" was read before, this one is left out");
+                Warn(profile.fileName + ": another profile has the name \"" + profile.name +
+                     "\"; this one is left out");
         }
     }
 
@@ -178,8 +170,8 @@ private:
         std::optional<StoredProfile> made = MakeProfile(name, accessPoint, automatic);
         if (made)
             return &m_profiles[index].emplace_back(NamedProfile{name, std::move(*made)});
-        Warn("no profile \"" + name + "\" is made up: " + accessPoint.authentication + " with " +
-             accessPoint.encryption + " is nothing that a profile can ask for");
+        Warn("the profile \"" + name + "\" cannot be made up: no profile has " + accessPoint.authentication + " with " +
+             accessPoint.encryption);
         return nullptr;
     }
 
@@ -191,12 +183,12 @@ private:
             profile = AddMadeUp(index, connection.profile,
                                 accessPoint != nullptr ? *accessPoint : connection.accessPoint, connection.automatic);
         if (accessPoint == nullptr)
-            WarnOfLostConnection(index, "the captured networks hold no such access point");
+            WarnOfLostConnection(index, "the captured networks do not list its access point");
         else if (profile == nullptr || !FitsProfile(profile->stored, *accessPoint))
             WarnOfLostConnection(index, "its profile is for another kind of network");
         else
-            m_result.scenario.adapters[index].connection =
-                simulation::Connection{connection.profile, accessPoint->bssid};
+            m_result.scenario.adapters[index].connection = simulation::Connection{
+                connection.profile, accessPoint->bssid, connection.receiveKbps, connection.transmitKbps};
     }
 
     void WarnOfLostConnection(std::size_t index, const std::string& why)

@@ -1,25 +1,14 @@
 #pragma once
 
-#include "import/netsh_interfaces.h"
-#include "import/netsh_networks.h"
-#include "import/profile_folder.h"
+#include "import/read_capture.h"
 #include "output/facts.h"
 #include "simulation/scenario.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace calvix::host
 {
-
-/// Everything that was captured on one machine, as far as it was.
-struct Captures
-{
-    std::optional<NetworksCapture> networks;
-    std::optional<InterfacesCapture> interfaces;
-    std::vector<ExportedProfile> profiles;
-};
 
 struct ImportedScenario
 {

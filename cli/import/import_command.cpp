@@ -4,7 +4,6 @@
 #include "files/files.h"
 #include "host/host.h"
 #include "import/capture_encoding.h"
-#include "import/capture_text.h"
 #include "import/import.h"
 #include "import/read_capture.h"
 #include "output/json_output.h"
@@ -19,8 +18,6 @@ namespace calvix::host
 namespace
 {
 
-namespace files = std::filesystem;
-
 struct ImportOptions
 {
     std::string networks;
@@ -28,17 +25,9 @@ struct ImportOptions
     std::string profiles;
     std::vector<std::string> captures;
     std::vector<std::string> words;
-    std::string columns;
     std::string output;
     unsigned codePage = 0; ///< 0: find out
     bool withProfiles = false;
-};
-
-/// What was read so far.
-struct Readings
-{
-    Captures captures;
-    std::vector<std::string> warnings;
 };
 
 constexpr const char* kStandardOutput = "-";
@@ -51,13 +40,12 @@ constexpr const char* kImportExamples = R"(Captures of Windows, in any language 
 
 Captures of Linux:
   sudo iw dev wlan0 scan > networks.txt
-  nmcli -t -f IN-USE,BSSID,SSID,MODE,CHAN,FREQ,RATE,SIGNAL,SECURITY dev wifi list > networks.txt
+  nmcli -t -f IN-USE,BSSID,SSID,MODE,CHAN,FREQ,RATE,SIGNAL,SECURITY,WPA-FLAGS,RSN-FLAGS dev wifi list > networks.txt
   calvix import networks.txt -o air.json
 
-What is not told is said in so many words:
+What captures do not show, options say:
   calvix import old.txt --code-page 852 -o air.json
-  calvix import networks.txt --word "WPA2-Tajne=WPA2PSK" -o air.json
-  calvix import list.txt --columns BSSID,SSID,CHAN,SIGNAL,SECURITY -o air.json)";
+  calvix import networks.txt --word "WPA2-Tajne=WPA2PSK" -o air.json)";
 
 bool IsMeaning(const std::string& text)
 {
@@ -75,104 +63,40 @@ ExplainedWords WordsOf(const std::vector<std::string>& arguments)
         const std::size_t sign = argument.rfind('=');
         const std::string meaning = sign == std::string::npos ? "" : argument.substr(sign + 1);
         if (sign == 0 || !IsMeaning(meaning))
-            throw BadInput("\"" + argument + "\" explains no word",
-                           "Write WORD=MEANING; meanings are the names that profiles use (WPA2PSK, WPA3SAE, open, AES, "
-                           "none ...), infrastructure, independent, auto and manual.");
+            throw BadInput("\"" + argument + "\" is not WORD=MEANING with a known meaning",
+                           "Meanings are the names that profiles use (WPA2PSK, WPA3SAE, open, AES, none ...), "
+                           "infrastructure, independent, auto and manual.");
         words.emplace_back(argument.substr(0, sign), meaning);
     }
     return words;
 }
 
-std::vector<std::string> ColumnNamesOf(std::string text)
+void AddFolder(Captures& captures, const std::string& path)
 {
-    std::vector<std::string> names;
-    while (!text.empty())
-    {
-        const std::size_t end = std::min(text.find(','), text.size());
-        names.emplace_back(Trim(std::string_view(text).substr(0, end)));
-        text.erase(0, end + 1);
-    }
-    return names;
+    for (ExportedProfile& profile : ReadProfileFolder(path))
+        captures.profiles.push_back(std::move(profile));
 }
 
-CaptureHints HintsOf(const ImportOptions& options)
+Captures ReadCaptures(const ImportOptions& options)
 {
     CaptureHints hints;
     hints.words = WordsOf(options.words);
-    hints.columns = ColumnNamesOf(options.columns);
     if (options.codePage != 0)
         hints.codePage = options.codePage;
-    return hints;
-}
-
-void Add(Readings& readings, NetworksCapture networks)
-{
-    std::optional<NetworksCapture>& known = readings.captures.networks;
-    if (known)
-        throw CaptureError(networks.source + ": a second list of networks, after " + known->source);
-    known = std::move(networks);
-}
-
-void Add(Readings& readings, InterfacesCapture interfaces)
-{
-    std::optional<InterfacesCapture>& known = readings.captures.interfaces;
-    if (known)
-        throw CaptureError(interfaces.source + ": a second list of interfaces, after " + known->source);
-    known = std::move(interfaces);
-}
-
-void Add(Readings& readings, ExportedProfile profile)
-{
-    readings.captures.profiles.push_back(std::move(profile));
-}
-
-void AddFolder(Readings& readings, const std::string& path)
-{
-    for (ExportedProfile& profile : ReadProfileFolder(path))
-        Add(readings, std::move(profile));
-}
-
-std::string TextOf(Readings& readings, const std::string& path, const CaptureHints& hints)
-{
-    DecodedCapture decoded = DecodeCapture(ReadWholeFile(path), path, hints.codePage);
-    readings.warnings.insert(readings.warnings.end(), decoded.warnings.begin(), decoded.warnings.end());
-    return decoded.text;
-}
-
-void AddByContent(Readings& readings, const std::string& path, const CaptureHints& hints)
-{
+    std::vector<std::string> paths{options.networks, options.interfaces};
+    paths.insert(paths.end(), options.captures.begin(), options.captures.end());
+    Captures captures;
     std::error_code ignored;
-    if (files::is_directory(PathOf(path), ignored))
-        return AddFolder(readings, path);
-    ReadResult result = ReadCapture(ReadWholeFile(path), path, hints);
-    readings.warnings.insert(readings.warnings.end(), result.warnings.begin(), result.warnings.end());
-    std::visit([&readings](auto& content) { Add(readings, std::move(content)); }, result.content);
-}
-
-Readings ReadCaptures(const ImportOptions& options)
-{
-    const CaptureHints hints = HintsOf(options);
-    Readings readings;
-    if (!options.networks.empty())
-        Add(readings, ReadNetworksText(TextOf(readings, options.networks, hints), options.networks, hints));
-    if (!options.interfaces.empty())
-        Add(readings, ParseInterfaces(TextOf(readings, options.interfaces, hints), options.interfaces, hints.words));
     if (!options.profiles.empty())
-        AddFolder(readings, options.profiles);
-    for (const std::string& path : options.captures)
-        AddByContent(readings, path, hints);
-    const Captures& captures = readings.captures;
+        AddFolder(captures, options.profiles);
+    for (const std::string& path : paths)
+        if (std::filesystem::is_directory(PathOf(path), ignored))
+            AddFolder(captures, path);
+        else if (!path.empty())
+            ReadCapture(ReadWholeFile(path), path, hints, captures);
     if (!captures.networks && !captures.interfaces && captures.profiles.empty())
-        throw BadInput("there is nothing to import", "Name at least one file: --networks, --interfaces or --profiles");
-    return readings;
-}
-
-ImportedScenario Assemble(const ImportOptions& options)
-{
-    Readings readings = ReadCaptures(options);
-    ImportedScenario imported = AssembleScenario(readings.captures, options.withProfiles);
-    imported.warnings.insert(imported.warnings.begin(), readings.warnings.begin(), readings.warnings.end());
-    return imported;
+        throw BadInput("there is nothing to import", "Name at least one file: networks, interfaces or profiles.");
+    return captures;
 }
 
 /// The text for the file, known to be readable again.
@@ -209,7 +133,7 @@ void Import(Host& host, const ImportOptions& options)
 {
     try
     {
-        const ImportedScenario imported = Assemble(options);
+        const ImportedScenario imported = AssembleScenario(ReadCaptures(options), options.withProfiles);
         const std::string text = CheckedText(imported.scenario);
         if (options.output == kStandardOutput)
             host.out() << text;
@@ -246,8 +170,7 @@ void AddImportCommand(CommandSet& commands)
               "Make an automatic profile, with a made-up key, for every named network that has none")
         .Number("--code-page", options->codePage, "The code page of captures that are not Unicode; 0: the likeliest")
         .Texts("--word", options->words, "WORD=MEANING: what a word of another language means, as profiles say it")
-        .Text("--columns", options->columns, "What was given to nmcli's -f, for a list without names of columns")
-        .Texts("[CAPTURES]", options->captures, "The same files and folders, told apart by what they hold")
+        .Texts("[CAPTURES]", options->captures, "The same files and folders; what they hold shows what they are")
         .Takes(ValueKind::file)
         .Text("-o,--output", options->output, "Scenario file to write, - for standard output")
         .Takes(ValueKind::scenario)

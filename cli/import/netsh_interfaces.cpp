@@ -1,14 +1,11 @@
 #include "import/netsh_interfaces.h"
 
-#include "forms/address_text.h"
-#include "import/capture_terms.h"
-#include "import/capture_text.h"
-#include "import/field_roles.h"
-#include "import/misread_text.h"
+#include "forms/hex_text.h"
+#include "import/capture_encoding.h"
+#include "import/netsh_lines.h"
+#include "import/netsh_values.h"
 
 #include <algorithm>
-#include <array>
-#include <initializer_list>
 
 namespace calvix::host
 {
@@ -20,292 +17,326 @@ using simulation::RadioSwitch;
 
 constexpr std::string_view kNoAdapter = "There is no wireless interface on the system.";
 
-struct InterfaceRecord
+/// A whole number or one with a fraction, as rates are.
+bool IsNumber(std::string_view text)
 {
-    CaptureRecord fields;
-    CaptureField radioStatus; ///< its value over all its lines: "Hardware On Software On"
-    bool hasLink = false;     ///< the first of a connection over several links
+    return IsNumberList(text) && text.find(' ') == std::string_view::npos;
+}
+
+/// A description that a narrow window broke goes on in a line without a colon, before the GUID.
+void JoinBrokenDescriptions(std::vector<CaptureField>& fields)
+{
+    for (std::size_t i = 3; i < fields.size(); ++i)
+        if (fields[i].hasColon && IsGuid(fields[i].value) && !fields[i - 1].hasColon && fields[i - 2].hasColon)
+        {
+            fields[i - 2].value += " " + fields[i - 1].name;
+            fields.erase(fields.begin() + static_cast<std::ptrdiff_t>(i - 1));
+        }
+}
+
+/// An adapter begins with its name, which stands two lines above its GUID.
+bool BeginsAdapter(CaptureFields fields, std::size_t index)
+{
+    const CaptureField& name = fields[index];
+    const bool isAboveGuid = index + 2 < fields.size() && fields[index + 1].hasColon && IsGuid(fields[index + 2].value);
+    return name.hasColon && !name.value.empty() &&
+           (SameWord(name.name, "Name") || (name.beginsParagraph && isAboveGuid));
+}
+
+/// Sets the keys of one adapter's lines, from its name on.
+class AdapterLines
+{
+public:
+    explicit AdapterLines(CaptureFields fields) : m_fields(fields) {}
+
+    void Label()
+    {
+        LabelNested();
+        LabelEnglish(m_fields);
+        const char* const first[] = {"Name", "Description", "GUID"};
+        for (std::size_t i = 0; i < std::size(first); ++i)
+            Set(i, first[i]);
+        const std::size_t address = Find(std::size(first), IsAddress);
+        Set(address, "Physical address");
+        const std::size_t bssid = Find(address + 1, IsAddress);
+        if (bssid < m_fields.size())
+            LabelConnected(address, bssid);
+        else
+            LabelNotConnected(address);
+    }
+
+private:
+    template <typename Test>
+    std::size_t Find(std::size_t from, Test test) const
+    {
+        return FindValue(m_fields, from, test);
+    }
+
+    void Set(std::size_t index, const char* key) { host::Label(m_fields, index, key); }
+
+    /// Access points beside the one of the connection stand further in. Those of a connection over several links say what
+    /// others say in lines of their own.
+    void LabelNested()
+    {
+        for (CaptureField& field : m_fields)
+            if (field.hasColon && field.indent > m_fields.front().indent && field.name != "LinkID")
+                field.key = kUnused;
+    }
+
+    void LabelConnected(std::size_t address, std::size_t bssid)
+    {
+        Set(bssid, "BSSID");
+        Set(bssid - 1, "SSID");
+        for (std::size_t i = address + 1; i < bssid; ++i)
+            Set(i, kUnused); // the state, and with newer systems the interface's type
+        const std::size_t signal = Find(bssid, IsPercentage);
+        const std::size_t band = Find(bssid, IsBand);
+        const bool hasRates = signal >= bssid + 3 && signal < m_fields.size() && IsNumber(m_fields[signal - 1].value) &&
+                              IsNumber(m_fields[signal - 2].value);
+        Set(signal, "Signal");
+        LabelInARow(band, {"Band", "Channel"});
+        if (hasRates)
+            LabelInARow(signal - 2, {"Receive rate (Mbps)", "Transmit rate (Mbps)"});
+        // Systems that do not print the band have the channel before the two rates.
+        if (hasRates && band == m_fields.size() && IsNumber(m_fields[signal - 3].value))
+            Set(signal - 3, "Channel");
+        if (const std::size_t radio = Find(bssid, IsRadioType); radio < m_fields.size())
+            LabelInARow(radio - 1, {"Network type", "Radio type", "Authentication", "Cipher", "Connection mode"});
+        LabelAfter(signal + 1);
+        for (std::size_t i = bssid; i < m_fields.size(); ++i)
+            if (IsNumber(m_fields[i].value) || m_fields[i].value.starts_with('['))
+                Set(i, kUnused); // suites in brackets, priorities
+    }
+
+    void LabelInARow(std::size_t index, std::initializer_list<const char*> keys)
+    {
+        for (const char* key : keys)
+            Set(index++, key);
+    }
+
+    /// The profile and, of no use, in a paragraph of its own, whether the computer is an access point itself.
+    void LabelAfter(std::size_t profile)
+    {
+        if (profile < m_fields.size() && m_fields[profile].key == "Rssi")
+            ++profile;
+        if (profile < m_fields.size() && !m_fields[profile].beginsParagraph)
+            Set(profile, "Profile");
+        LabelLast();
+    }
+
+    void LabelLast()
+    {
+        if (m_fields.back().beginsParagraph)
+            Set(m_fields.size() - 1, kUnused);
+    }
+
+    /// The radio's two switches stand last, the second in a line without a label.
+    void LabelNotConnected(std::size_t address)
+    {
+        for (std::size_t i = address + 1; i < m_fields.size() && !m_fields[i].beginsParagraph; ++i)
+        {
+            const bool isSwitches = m_fields[i - 1].hasColon && !m_fields[i].hasColon;
+            if (isSwitches && i > address + 1)
+            {
+                m_fields[i - 1].key = "Radio status";
+                m_fields[i].key = kUnused;
+            }
+            else if (i + 1 == m_fields.size() || m_fields[i + 1].hasColon)
+            {
+                Set(i, kUnused); // the state, and with newer systems the interface's type
+            }
+        }
+        LabelLast();
+    }
+
+    CaptureFields m_fields;
 };
 
 /// "LinkID: 0, Local: 02:..., AP: 02:..., RSSI: -53, Channel: 48, Band: 5 GHz, BW: 80", of a connection over several
-/// links: what others tell in lines of their own.
+/// links: what others have in lines of their own.
 std::vector<CaptureField> FieldsOfLink(const CaptureField& link)
 {
-    constexpr std::array<std::pair<std::string_view, const char*>, 5> kNames{
-        {{"AP", "AP BSSID"}, {"RSSI", "Rssi"}, {"Channel", "Channel"}, {"Band", "Band"}, {"BW", "Channel Width"}}};
+    constexpr std::pair<std::string_view, const char*> kNames[] = {
+        {"AP", "AP BSSID"}, {"RSSI", "Rssi"}, {"Channel", "Channel"}, {"Band", "Band"}, {"BW", "Channel Width"}};
     std::vector<CaptureField> fields;
     for (std::string_view rest = link.value; !rest.empty();)
     {
-        const std::string_view part = rest.substr(0, rest.find(','));
-        const std::size_t colon = std::min(part.find(':'), part.size());
+        const std::string_view part = Trim(rest.substr(0, rest.find(',')));
         for (const auto& [name, key] : kNames)
-            if (Trim(part.substr(0, colon)) == name)
+            if (part.starts_with(name) && part.substr(name.size()).starts_with(':'))
             {
-                CaptureField field = link;
-                field.name = field.key = key;
-                field.value = Trim(part.substr(std::min(colon + 1, part.size())));
-                fields.push_back(std::move(field));
+                fields.push_back(link);
+                fields.back().name = fields.back().key = key;
+                fields.back().value = Trim(part.substr(name.size() + 1));
             }
-        rest.remove_prefix(std::min(part.size() + 1, rest.size()));
+        rest.remove_prefix(std::min(rest.find(','), rest.size() - 1) + 1);
     }
     return fields;
 }
 
-/// Sorts the lines by adapter. Each begins with its "Name"; the radio's two switches stand in two lines, the second of
-/// them without a name of its own. A line that cannot be used costs itself.
-class InterfacesReader
+/// What identifies the adapter, made up where the capture does not say it.
+CapturedInterface Identify(const CaptureRecord& record, std::size_t index, CaptureWarnings& warnings)
 {
-public:
-    explicit InterfacesReader(CaptureReport report) : m_report(std::move(report)) {}
-
-    void Read(CaptureField& field)
-    {
-        const bool continuesRadio = m_inRadioStatus && !field.hasColon && !field.beginsParagraph;
-        m_inRadioStatus = !adapters.empty() && SameWord(field.Key(), "Radio status");
-        if (SameWord(field.Key(), "Name"))
-            Begin(field);
-        else if (continuesRadio)
-            AddSwitch(field);
-        else if (adapters.empty())
-            ReadHeader(field);
-        else if (SameWord(field.name, "LinkID"))
-            AddLink(field);
-        else if (field.hasColon)
-            AddField(field);
-    }
-
-    std::vector<InterfaceRecord> adapters;
-    std::optional<CaptureField> announcement;
-
-private:
-    void Begin(const CaptureField& field)
-    {
-        adapters.push_back({CaptureRecord("the interface \"" + field.value + "\"", field.line), {}, false});
-        adapters.back().fields.Add(field);
-        m_isLost = false;
-    }
-
-    void ReadHeader(CaptureField& field)
-    {
-        if (FirstNumber(FieldText(field)) >= 0 && !SameWord(field.name, "GUID"))
-            announcement = field;
-        else if (SameWord(field.name, "GUID") || SameWord(field.name, "State"))
-            m_report(field.line, "\"" + field.name + "\" before the \"Name\" of any interface; it is left out");
-        field.understood |= field.name == kNoAdapter;
-    }
-
-    void AddSwitch(CaptureField& field)
-    {
-        adapters.back().radioStatus.value += "\n" + field.name;
-        field.understood = true;
-    }
-
-    void AddField(const CaptureField& field)
-    {
-        if (m_isLost)
-            return;
-        try
-        {
-            adapters.back().fields.Add(field);
-            if (m_inRadioStatus)
-                adapters.back().radioStatus = field;
-        }
-        catch (const LineError& error)
-        {
-            m_report(error.line(), std::string(error.what()) + "; it is left out, and what follows of it");
-            m_isLost = true;
-        }
-    }
-
-    void AddLink(const CaptureField& link)
-    {
-        if (adapters.back().hasLink)
-            return m_report(link.line, "\"" + FieldText(link) + "\" is a second link of the connection and left out");
-        adapters.back().hasLink = true;
-        for (const CaptureField& field : FieldsOfLink(link))
-            AddField(field);
-    }
-
-    CaptureReport m_report;
-    bool m_inRadioStatus = false;
-    bool m_isLost = false; ///< whether the lines are those of an adapter whose name was lost
-};
-
-/// The line of a radio status, "Hardware On" and "Software Off", for one of its switches. In other languages than English
-/// the first is the hardware's.
-std::string_view SwitchLine(const CaptureField& status, std::string_view switchName, bool foreign)
-{
-    const std::string_view text = status.value;
-    const std::size_t end = text.find('\n');
-    const std::size_t second = end == std::string_view::npos ? text.size() : end + 1;
-    const std::size_t at = text.find(switchName);
-    if (at != std::string_view::npos)
-        return text.substr(at, at < second && second < text.size() ? second - at - 1 : std::string_view::npos);
-    return !foreign ? std::string_view() : switchName == "Hardware" ? text.substr(0, end) : text.substr(second);
+    CapturedInterface adapter = MadeUpInterface(record.Need("Name").value, index);
+    const std::string loss = "the adapter has a made-up one";
+    warnings.OrWarn(loss, [&] { adapter.description = record.Need("Description").value; });
+    warnings.OrWarn(loss, [&] { adapter.guid = GuidText(record.Need("GUID")); });
+    warnings.OrWarn(loss, [&] { adapter.address = Address(record.Need("Physical address")); });
+    return adapter;
 }
 
-/// Connected adapters do not have the field: theirs are on.
-RadioSwitch SwitchState(const CaptureField& status,
-                        std::string_view switchName,
-                        const Vocabulary& vocabulary,
-                        const CaptureReport& report)
+RadioSwitch SwitchState(std::string_view text, std::size_t line, CaptureWarnings& warnings)
 {
-    if (status.name.empty())
-        return RadioSwitch::on;
-    const std::string_view line = SwitchLine(status, switchName, vocabulary.foreign);
-    const std::optional<std::string_view> meaning = SwitchOf(line);
-    if (meaning)
-        return *meaning == "on" ? RadioSwitch::on : RadioSwitch::off;
-    report(status.line, "\"" + (line.empty() ? std::string(switchName) : std::string(line)) +
-                            "\" is not understood; that switch of the radio is taken to be on");
-    return RadioSwitch::on;
+    const std::string_view meaning = SwitchOf(text);
+    if (meaning.empty())
+        warnings.Warn(line,
+                      "\"" + std::string(text) + "\" is not understood; that switch of the radio is taken to be on");
+    return meaning == "off" ? RadioSwitch::off : RadioSwitch::on;
 }
 
-bool IsOneOf(const std::string& word, std::initializer_list<std::string_view> words)
+/// "Hardware On" and, in a line of its own, "Software Off". Connected adapters do not have the field: theirs are on.
+void ReadSwitches(const CaptureRecord& record, CapturedInterface& adapter, CaptureWarnings& warnings)
 {
-    return std::any_of(words.begin(), words.end(), [&](std::string_view each) { return SameWord(word, each); });
+    const CaptureField* hardware = record.Find("Radio status");
+    if (hardware == nullptr)
+        return;
+    adapter.hardware = SwitchState(hardware->value, hardware->line, warnings);
+    const CaptureField* software = hardware + 1;
+    if (software != record.fields.data() + record.fields.size() && !software->hasColon)
+        adapter.software = SwitchState(software->name, software->line, warnings);
 }
 
-const std::string& NeedText(const CaptureRecord& record, std::string_view name)
+const CaptureField& NeedText(const CaptureRecord& record, std::string_view key)
 {
-    const CaptureField& field = record.Need(name);
+    const CaptureField& field = record.Need(key);
     if (field.value.empty())
         throw LineError(field.line, "\"" + field.name + "\" has no value");
-    return field.value;
+    return field;
 }
 
 /// Whether the service made the connection by itself.
-bool IsAutomatic(const CaptureRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
+bool IsAutomatic(const CaptureField* mode, const Vocabulary& vocabulary, CaptureWarnings& warnings)
 {
-    const CaptureField* mode = record.Find("Connection mode");
     if (mode == nullptr)
         return false;
-    const std::optional<std::string> explained = Explained(vocabulary, mode->value);
-    const std::optional<std::string_view> meaning =
-        explained ? std::optional<std::string_view>(*explained) : MeaningOf(WordKind::connectionMode, mode->value);
-    if (!meaning && vocabulary.foreign)
-        report(mode->line, "\"" + mode->name + "\" is \"" + mode->value +
-                               "\", which is not understood; the connection is taken for one that somebody asked for");
-    return meaning == "auto" || mode->value.starts_with("Auto");
+    const std::string meaning = vocabulary.MeaningOf(mode->value, {"auto", "manual"});
+    if (meaning.empty() && vocabulary.foreign)
+        warnings.Warn(mode->line, "\"" + mode->name + "\" is \"" + mode->value +
+                                      "\", which is not understood; the connection is taken for one that somebody "
+                                      "asked for");
+    return meaning == "auto";
 }
 
-CapturedConnection
-InterpretConnection(const CaptureRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
+CapturedConnection ReadConnection(const CaptureRecord& record, const Vocabulary& vocabulary, CaptureWarnings& warnings)
 {
     CapturedConnection connection;
-    connection.profile = NeedText(record, "Profile");
-    connection.ssid = NeedText(record, "SSID");
-    connection.automatic = IsAutomatic(record, vocabulary, report);
+    connection.profile = NeedText(record, "Profile").value;
+    const CaptureField& ssid = NeedText(record, "SSID");
+    connection.ssid = ssid.value;
+    connection.automatic = IsAutomatic(record.Find("Connection mode"), vocabulary, warnings);
+    connection.receiveKbps = RateKbps(record.Find("Receive rate (Mbps)"));
+    connection.transmitKbps = RateKbps(record.Find("Transmit rate (Mbps)"));
     simulation::AccessPoint& accessPoint = connection.accessPoint;
     // Newer systems call it "AP BSSID".
     const CaptureField* bssid = record.Find("AP BSSID");
     accessPoint.bssid = Address(bssid != nullptr ? *bssid : record.Need("BSSID"));
-    accessPoint.ssid = Ssid(record.Need("SSID"));
+    accessPoint.ssid = Ssid(ssid);
     accessPoint.bssType = BssType(record.Need("Network type"), vocabulary);
-    const NetworkSecurity security = Security(record.Need("Authentication"), record.Need("Cipher"), vocabulary);
-    accessPoint.authentication = security.authentication;
-    accessPoint.encryption = security.encryption;
+    ReadSecurity(record.Need("Authentication"), record.Need("Cipher"), vocabulary, accessPoint);
     Hear(record, accessPoint);
-    // Only a connection over several links tells it.
-    if (const CaptureField* width = record.Find("Channel Width");
-        width && IsOneOf(width->value, {"20", "40", "80", "160", "320"}))
-        accessPoint.channelWidth = static_cast<std::uint32_t>(WholeNumber(width->value));
+    // Only a connection over several links says it.
+    const CaptureField* width = record.Find("Channel Width");
+    for (const int known : {20, 40, 80, 160, 320})
+        if (width != nullptr && WholeNumber(width->value) == known)
+            accessPoint.channelWidth = static_cast<std::uint32_t>(known);
+    WarnOfMisread(ssid.value, ssid.line, warnings);
     return connection;
 }
 
-/// Where the language's word for the state is not known, an access point shows the connection.
-bool HasConnection(const CaptureRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
+/// An access point shows the connection; the English words for the states also show one that is still being made.
+bool HasConnection(const CaptureRecord& record)
 {
+    constexpr std::string_view kOthers[] = {"disconnected", "associating",    "disconnecting",
+                                            "discovering",  "authenticating", "not ready"};
     const CaptureField* state = record.Find("State");
-    if (state != nullptr && IsOneOf(state->value, {"connected", "ad hoc network formed"}))
-        return true;
-    if (state != nullptr && IsOneOf(state->value, {"disconnected", "associating", "disconnecting", "discovering",
-                                                   "authenticating", "not ready", "unknown"}))
-        return false;
-    if (state != nullptr && !vocabulary.foreign)
-        report(state->line, "\"" + state->value + "\" is no known state of an interface");
-    const bool isHeard = record.Find("BSSID") != nullptr || record.Find("AP BSSID") != nullptr;
-    return isHeard && record.Find("SSID") != nullptr;
+    const bool isOther = state != nullptr && std::any_of(std::begin(kOthers), std::end(kOthers),
+                                                         [&](auto& each) { return SameWord(state->value, each); });
+    return !isOther &&
+           (record.Find("SSID") != nullptr || record.Find("BSSID") != nullptr || record.Find("AP BSSID") != nullptr);
 }
 
-/// What identifies the adapter, made up where the capture does not tell it.
-CapturedInterface Identify(const CaptureRecord& record, std::size_t index, const CaptureReport& report)
+class InterfacesReader
 {
-    CapturedInterface adapter = MadeUpInterface(record.Need("Name").value, index);
-    const auto read = [&](const char* name, auto& member, auto meaning)
+public:
+    InterfacesReader(std::vector<CaptureField>& fields, const ExplainedWords& explained, InterfacesCapture& capture)
+        : m_fields(fields), m_vocabulary{IsForeign(fields), explained}, m_capture(capture)
     {
-        try
-        {
-            member = meaning(record.Need(name));
-        }
-        catch (const LineError& error)
-        {
-            report(error.line(), std::string(error.what()) + "; the adapter has a made-up one");
-        }
-    };
-    read("Description", adapter.description, [](const CaptureField& field) { return field.value; });
-    read("GUID", adapter.guid, GuidText);
-    read("Physical address", adapter.address, Address);
-    return adapter;
-}
-
-CapturedInterface
-Interpret(const InterfaceRecord& record, std::size_t index, const Vocabulary& vocabulary, const CaptureReport& report)
-{
-    CapturedInterface adapter = Identify(record.fields, index, report);
-    adapter.hardware = SwitchState(record.radioStatus, "Hardware", vocabulary, report);
-    adapter.software = SwitchState(record.radioStatus, "Software", vocabulary, report);
-    if (!HasConnection(record.fields, vocabulary, report))
-        return adapter;
-    try
-    {
-        adapter.connection = InterpretConnection(record.fields, vocabulary, report);
-        ReportMisread(adapter.connection->ssid, record.fields.Need("SSID").line, report);
     }
-    catch (const LineError& error)
+
+    void Read()
     {
-        report(error.line(), std::string(error.what()) + "; the connection of \"" + adapter.name + "\" is left out");
+        std::size_t count = 0;
+        const std::size_t first = Next(0);
+        // Only what stands right above the first adapter says how many there are.
+        CaptureField* const announcement = first > 0 && first < m_fields.size() ? &m_fields[first - 1] : nullptr;
+        for (std::size_t at = first; at < m_fields.size(); ++count)
+        {
+            const std::size_t end = Next(at + 1);
+            ReadAdapter(CaptureFields(m_fields).subspan(at, end - at));
+            at = end;
+        }
+        if (announcement != nullptr && FirstNumber(announcement->Text()) >= 0)
+        {
+            announcement->key = kUnused;
+            WarnOfCut(announcement, count, "interfaces", m_capture);
+        }
+        for (CaptureField& field : m_fields)
+            field.key = field.name == kNoAdapter ? kUnused : field.key;
+        WarnOfUnknown(m_fields, m_capture);
     }
-    return adapter;
-}
 
-/// A list that is shorter than it says was cut off.
-void CheckCount(const InterfacesReader& reader, const CaptureReport& report)
-{
-    const int announced = reader.announcement ? FirstNumber(FieldText(*reader.announcement)) : 0;
-    if (reader.adapters.size() < static_cast<std::size_t>(announced))
-        report(reader.announcement->line, "this announces " + std::to_string(announced) + " interfaces, but only " +
-                                              std::to_string(reader.adapters.size()) +
-                                              " follow: the capture is cut off");
-}
+private:
+    std::size_t Next(std::size_t at) const
+    {
+        while (at < m_fields.size() && !BeginsAdapter(m_fields, at))
+            ++at;
+        return at;
+    }
 
-/// Two captures in one file, as likely as not: the first tells.
-void AddAdapter(InterfacesCapture& capture,
-                const InterfaceRecord& record,
-                CapturedInterface adapter,
-                const CaptureReport& report)
-{
-    const bool isKnown = std::any_of(capture.adapters.begin(), capture.adapters.end(),
-                                     [&](const CapturedInterface& earlier) { return earlier.guid == adapter.guid; });
-    if (isKnown)
-        report(record.fields.Need("GUID").line, "a second interface with this GUID; it is left out");
-    else
-        capture.adapters.push_back(std::move(adapter));
-}
+    void ReadAdapter(CaptureFields fields)
+    {
+        AdapterLines(fields).Label();
+        CaptureRecord record{"the interface \"" + fields.front().value + "\"", fields};
+        record.WarnOfTwice(m_capture);
+        CapturedInterface adapter = Identify(record, m_capture.adapters.size(), m_capture);
+        for (const CapturedInterface& earlier : m_capture.adapters)
+            if (earlier.guid == adapter.guid)
+                return m_capture.Warn(record.Need("GUID").line, "a second interface with this GUID; it is left out");
+        ReadSwitches(record, adapter, m_capture);
+        std::vector<CaptureField> withLink(fields.begin(), fields.end());
+        AddLink(withLink);
+        record.fields = withLink;
+        if (HasConnection(record))
+            m_capture.OrWarn("the connection of \"" + adapter.name + "\" is left out",
+                             [&] { adapter.connection = ReadConnection(record, m_vocabulary, m_capture); });
+        m_capture.adapters.push_back(std::move(adapter));
+    }
 
-bool HasField(const std::vector<CaptureField>& fields, std::string_view name)
-{
-    return std::any_of(fields.begin(), fields.end(),
-                       [&](const CaptureField& field) { return field.hasColon && SameWord(field.name, name); });
-}
+    void AddLink(std::vector<CaptureField>& fields)
+    {
+        std::vector<CaptureField> links;
+        for (const CaptureField& field : fields)
+            if (field.key == "LinkID" && links.empty())
+                links = FieldsOfLink(field);
+            else if (field.key == "LinkID")
+                m_capture.Warn(field.line, "\"" + field.Text() + "\" is a second link of the connection and left out");
+        fields.insert(fields.end(), links.begin(), links.end());
+    }
 
-/// A GUID and, in the next line, an address: no language has that otherwise.
-bool HasAdapter(const std::vector<CaptureField>& fields)
-{
-    return std::adjacent_find(fields.begin(), fields.end(),
-                              [](const CaptureField& one, const CaptureField& next)
-                              { return one.hasColon && IsGuid(one.value) && IsAddress(next.value); }) != fields.end();
-}
+    std::vector<CaptureField>& m_fields;
+    Vocabulary m_vocabulary;
+    InterfacesCapture& m_capture;
+};
 
 } // namespace
 
@@ -320,40 +351,28 @@ CapturedInterface MadeUpInterface(const std::string& name, std::size_t index)
     return madeUp;
 }
 
+/// A GUID and, in the next line, an address: no language has that otherwise.
 bool LooksLikeInterfaces(std::string_view text)
 {
     const std::vector<CaptureField> fields = ReadFields(text);
-    const bool hasNone =
-        std::any_of(fields.begin(), fields.end(), [](const CaptureField& field) { return field.name == kNoAdapter; });
-    return hasNone || HasField(fields, "GUID") || HasField(fields, "Physical address") || HasAdapter(fields);
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        if (fields[i].name == kNoAdapter || SameWord(fields[i].name, "Physical address") ||
+            (fields[i].hasColon && SameWord(fields[i].name, "GUID")) ||
+            (IsGuid(fields[i].value) && i + 1 < fields.size() && IsAddress(fields[i + 1].value)))
+            return true;
+    return false;
 }
 
 InterfacesCapture ParseInterfaces(std::string_view text, const std::string& source, const ExplainedWords& explained)
 {
-    return ReadingFrom(source,
-                       [&]
-                       {
-                           if (!LooksLikeInterfaces(text))
-                               throw LineError(1, "this is no output of \"netsh wlan show interfaces\"");
-                           std::vector<CaptureField> fields = ReadFields(text);
-                           const Vocabulary vocabulary{RecogniseInterfaceLines(fields), explained};
-                           InterfacesCapture capture;
-                           capture.source = source;
-                           const CaptureReport report = ReportTo(capture);
-                           InterfacesReader reader(report);
-                           for (CaptureField& field : fields)
-                               if (!field.passedOver)
-                                   reader.Read(field);
-                           for (const InterfaceRecord& record : reader.adapters)
-                               AddAdapter(capture, record,
-                                          Interpret(record, capture.adapters.size(), vocabulary, report), report);
-                           CheckCount(reader, report);
-                           const std::vector<std::string> others = NotUnderstood(fields, source);
-                           capture.warnings.insert(capture.warnings.end(), others.begin(), others.end());
-                           if (capture.adapters.empty() && !capture.warnings.empty())
-                               throw CaptureError(capture.warnings.front());
-                           return capture;
-                       });
+    InterfacesCapture capture;
+    capture.source = source;
+    std::vector<CaptureField> fields = ReadFields(text);
+    JoinBrokenDescriptions(fields);
+    InterfacesReader(fields, explained, capture).Read();
+    if (capture.adapters.empty() && !capture.warnings.empty())
+        throw CaptureError(capture.warnings.front());
+    return capture;
 }
 
 } // namespace calvix::host

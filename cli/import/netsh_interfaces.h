@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/capture_text.h"
 #include "import/capture_words.h"
 #include "simulation/scenario.h"
 
@@ -18,6 +19,8 @@ struct CapturedConnection
     std::string ssid;
     bool automatic = false;              ///< the service made it by itself
     simulation::AccessPoint accessPoint; ///< complete, as the adapter heard it
+    std::uint32_t receiveKbps = 0;       ///< 0: not known
+    std::uint32_t transmitKbps = 0;
 };
 
 struct CapturedInterface
@@ -35,19 +38,17 @@ struct CapturedInterface
 CapturedInterface MadeUpInterface(const std::string& name, std::size_t index);
 
 /// What `netsh wlan show interfaces` printed.
-struct InterfacesCapture
+struct InterfacesCapture : CaptureWarnings
 {
-    std::string source;
     std::vector<CapturedInterface> adapters;
-    std::vector<std::string> warnings; ///< what was not understood, and what became of it
 };
 
 /// Whether a text looks like this kind of capture.
 bool LooksLikeInterfaces(std::string_view text);
 
 /// Reads a capture of any language of the system. `text` is UTF-8; `source` is what messages call it; `explained` are words
-/// that the user knows better. Throws CaptureError for any other text, and where nothing could be used. What is not
-/// understood, or damaged, costs its line, and the connection that cannot be read without it, with a warning.
+/// that the user knows better. Throws CaptureError where nothing could be used. What is not understood, or damaged, costs
+/// its line, and the connection that cannot be read without it, with a warning.
 InterfacesCapture
 ParseInterfaces(std::string_view text, const std::string& source, const ExplainedWords& explained = {});
 

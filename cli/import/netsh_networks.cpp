@@ -1,12 +1,10 @@
 #include "import/netsh_networks.h"
 
-#include "import/capture_terms.h"
-#include "import/capture_text.h"
-#include "import/field_roles.h"
-#include "import/misread_text.h"
+#include "import/capture_encoding.h"
+#include "import/netsh_lines.h"
+#include "import/netsh_values.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace calvix::host
 {
@@ -14,240 +12,261 @@ namespace calvix::host
 namespace
 {
 
-struct NetworkRecord
+/// For "SSID 12" and the keyword "SSID": true.
+bool IsNumbered(std::string_view name, std::string_view keyword)
 {
-    CaptureField start; ///< "SSID n : name"
-    simulation::Bytes ssid;
-    CaptureRecord fields;
-    std::vector<std::pair<simulation::MacAddress, CaptureRecord>> accessPoints;
-};
-
-/// What one adapter heard: "There are n networks", then the networks.
-struct Listing
-{
-    std::optional<CaptureField> announcement;
-    std::vector<NetworkRecord> networks;
-};
-
-std::string NetworkTitle(const std::string& ssid)
-{
-    return ssid.empty() ? "this network without a name" : "the network \"" + ssid + "\"";
+    return name.starts_with(keyword) && name.size() > keyword.size() && name[keyword.size()] == ' ' &&
+           WholeNumber(Trim(name.substr(keyword.size()))) >= 0;
 }
 
-/// Sorts the lines by what they belong to. Only "SSID n" and "BSSID n" give the capture its structure, and those are the
-/// same in every language of the system. A line that cannot be used costs itself, and what it begins.
+/// "SSID n" and "BSSID n", which are never translated. German systems print "BSSIDD n" as well.
+bool BeginsNetwork(const CaptureField& field)
+{
+    return IsNumbered(field.name, "SSID");
+}
+
+bool BeginsAccessPoint(const CaptureField& field)
+{
+    return IsNumbered(field.name, "BSSID") || IsNumbered(field.name, "BSSIDD");
+}
+
+bool BeginsEither(const CaptureField& field)
+{
+    return BeginsNetwork(field) || BeginsAccessPoint(field);
+}
+
+/// Reads the lines from top to bottom. Only "SSID n" and "BSSID n" give a capture its structure.
 class NetworksReader
 {
 public:
-    explicit NetworksReader(CaptureReport report) : m_report(std::move(report)) {}
-
-    void Read(CaptureField& field)
+    NetworksReader(CaptureFields fields, const ExplainedWords& explained, NetworksCapture& capture)
+        : m_fields(fields), m_vocabulary{IsForeign(fields), explained}, m_capture(capture)
     {
-        try
-        {
-            if (BeginsNetwork(field))
-                BeginNetwork(field);
-            else if (BeginsAccessPoint(field))
-                BeginAccessPoint(field);
-            else if (!field.hasColon)
-                ReadSentence(field);
-            else if (SameWord(field.Key(), "Interface name"))
-                BeginAdapter(field);
-            else if (m_current != nullptr)
-                m_current->Add(field);
-        }
-        catch (const LineError& error)
-        {
-            m_report(error.line(), std::string(error.what()) + "; it is left out, and what follows of it");
-            m_current = nullptr;
-        }
     }
 
-    std::vector<std::string> adapterNames;
-    std::vector<Listing> listings;
+    void Read()
+    {
+        for (std::size_t at = FirstHeader(); at < m_fields.size();)
+        {
+            const std::size_t end = SectionEnd(at);
+            const CaptureFields section = m_fields.subspan(at, end - at);
+            if (BeginsAccessPoint(section.front()))
+                ReadAccessPoint(section);
+            else if (BeginsNetwork(section.front()))
+                ReadNetwork(section);
+            else
+                ReadHeader(section);
+            at = end;
+        }
+        EndNetwork();
+        EndList();
+        if (m_firstNetwork != nullptr && !m_hasAccessPoints)
+            throw LineError(m_firstNetwork->line,
+                            "no network has a BSSID: capture with \"netsh wlan show networks mode=bssid\"");
+        WarnOfUnknown(m_fields, m_capture);
+    }
 
 private:
-    void BeginAdapter(const CaptureField& field)
+    /// The adapter's name and the number of its networks stand above the first network. Above them is what the terminal
+    /// showed: a prompt, a command line, a code page.
+    std::size_t FirstHeader()
     {
-        if (std::find(adapterNames.begin(), adapterNames.end(), field.value) == adapterNames.end())
-            adapterNames.push_back(field.value);
-        listings.emplace_back();
-        m_network = nullptr;
-        m_current = nullptr;
+        const auto first = std::find_if(m_fields.begin(), m_fields.end(), BeginsEither);
+        const std::size_t at = static_cast<std::size_t>(first - m_fields.begin());
+        if (at < 2 || !m_fields[at - 2].hasColon || FirstNumber(m_fields[at - 1].Text()) < 0)
+            return 0;
+        m_adapterLabel = m_fields[at - 2].name;
+        return at - 2;
     }
 
-    Listing& CurrentListing()
+    bool NamesAdapter(const CaptureField& field) const
     {
-        if (listings.empty())
-            listings.emplace_back();
-        return listings.back();
+        return field.hasColon && (SameWord(field.name, "Interface name") || field.name == m_adapterLabel);
     }
 
-    void ReadSentence(CaptureField& field)
+    std::size_t SectionEnd(std::size_t at) const
     {
-        field.understood = CurrentListing().networks.empty() && FirstNumber(field.name) >= 0;
-        if (field.understood)
-            CurrentListing().announcement = field;
+        do
+            ++at;
+        while (at < m_fields.size() && !BeginsEither(m_fields[at]) && !NamesAdapter(m_fields[at]));
+        return at;
     }
 
-    void BeginNetwork(const CaptureField& field)
+    /// The adapter's name, then how many networks there are. Some languages print that with a colon.
+    void ReadHeader(CaptureFields section)
     {
-        m_network = nullptr;
-        if (!field.hasColon)
-            throw LineError(field.line, "\"" + field.name + "\" has no value");
-        NetworkRecord record{field, Ssid(field), CaptureRecord(NetworkTitle(field.value), field.line), {}};
-        m_network = &CurrentListing().networks.emplace_back(std::move(record));
-        m_current = &m_network->fields;
+        EndNetwork();
+        EndList();
+        for (CaptureField& field : section)
+            if (&field == &section.front() && field.hasColon && WholeNumber(field.value) < 0)
+            {
+                field.key = "Interface name";
+                m_capture.AddAdapterName(field.value);
+            }
+            else if (m_announcement == nullptr && FirstNumber(field.Text()) >= 0)
+            {
+                field.key = kUnused;
+                m_announcement = &field;
+            }
     }
 
-    void BeginAccessPoint(const CaptureField& field)
+    void ReadNetwork(CaptureFields section)
     {
+        EndNetwork();
+        ++m_listed;
+        CaptureField& start = section.front();
+        m_firstNetwork = m_firstNetwork == nullptr ? &start : m_firstNetwork;
+        m_network = &start;
+        m_isUsable = false;
+        m_isListed = false;
+        start.key = kUnused;
+        m_title = start.value.empty() ? "this network without a name" : "the network \"" + start.value + "\"";
+        LabelEnglish(section);
+        const bool isComplete = section.size() == 4 &&
+                                std::all_of(section.begin(), section.end(), [](auto& each) { return each.hasColon; });
+        for (std::size_t i = 1; isComplete && i < section.size(); ++i)
+            Label(section, i, i == 1 ? "Network type" : i == 2 ? "Authentication" : "Encryption");
+        m_capture.OrWarn(m_title + " is left out", [&] { Interpret({m_title, section}); });
+    }
+
+    void Interpret(const CaptureRecord& record)
+    {
+        const CaptureField& start = record.fields.front();
+        if (!start.hasColon)
+            throw LineError(start.line, "\"" + start.name + "\" has no value");
+        m_common = {};
+        m_common.ssid = Ssid(start);
+        m_common.hidden = m_common.ssid.empty();
+        m_common.bssType = 1;
+        record.WarnOfTwice(m_capture);
+        m_capture.OrWarn("it is taken for infrastructure",
+                         [&] { m_common.bssType = BssType(record.Need("Network type"), m_vocabulary); });
+        ReadSecurity(record.Need("Authentication"), record.Need("Encryption"), m_vocabulary, m_common);
+        WarnOfMisread(start.value, start.line, m_capture);
+        m_isUsable = true;
+    }
+
+    void ReadAccessPoint(CaptureFields section)
+    {
+        m_isListed = m_hasAccessPoints = true;
+        section.front().key = kUnused;
+        LabelNested(section);
+        LabelEnglish(section);
+        LabelByShape(section);
         if (m_network == nullptr)
-            throw LineError(field.line, "a BSSID before any SSID");
-        const simulation::MacAddress address = Address(field);
-        CaptureRecord record("the access point " + field.value, field.line);
-        m_current = &m_network->accessPoints.emplace_back(address, std::move(record)).second;
+            return m_capture.Warn(section.front().line, "a BSSID before any SSID; the access point is left out");
+        m_capture.OrWarn("the access point is left out",
+                         [&]
+                         {
+                             simulation::AccessPoint heard = m_common;
+                             heard.bssid = Address(section.front());
+                             const CaptureRecord record{"the access point " + section.front().value, section};
+                             record.WarnOfTwice(m_capture);
+                             Hear(record, heard);
+                             if (m_isUsable)
+                                 m_capture.accessPoints.push_back(std::move(heard));
+                         });
     }
 
-    CaptureReport m_report;
-    NetworkRecord* m_network = nullptr; ///< what the next access point belongs to; null: something left out
-    CaptureRecord* m_current = nullptr; ///< what the next field belongs to
+    /// How busy the access point is, and which others stand at the same place, in lines of their own below a title.
+    static void LabelNested(CaptureFields section)
+    {
+        for (std::size_t i = 1; i < section.size(); ++i)
+        {
+            const CaptureField& title = section[i];
+            if (!title.hasColon || (!title.value.empty() && !title.value.starts_with(':')))
+                continue;
+            for (std::size_t k = i + 1; k < section.size() && section[k].indent > title.indent; ++k)
+                section[i].key = section[k].key = kUnused;
+        }
+    }
+
+    /// A percentage; the radio's type, below it the band, if the system prints it, and the channel; then lists of rates.
+    static void LabelByShape(CaptureFields section)
+    {
+        Label(section, FindValue(section, 1, IsPercentage), "Signal");
+        const std::size_t radio = FindValue(section, 1, IsRadioType);
+        const std::size_t band = FindValue(section, radio, IsBand);
+        Label(section, radio, "Radio type");
+        Label(section, band, "Band");
+        const auto isWhole = [](const std::string& value) { return WholeNumber(value) >= 0; };
+        const std::size_t channel = FindValue(section, band < section.size() ? band : radio, isWhole);
+        Label(section, channel, "Channel");
+        for (std::size_t i = channel + 1; i < section.size(); ++i)
+            if (IsNumberList(section[i].value))
+                Label(section, i, kUnused);
+    }
+
+    /// Without "mode=bssid" the same command lists no access points at all.
+    void EndNetwork()
+    {
+        if (m_network != nullptr && !m_isListed)
+            m_capture.Warn(m_network->line, m_title + " is listed without access points and left out");
+        m_network = nullptr;
+    }
+
+    void EndList()
+    {
+        WarnOfCut(m_announcement, m_listed, "networks", m_capture);
+        m_announcement = nullptr;
+        m_listed = 0;
+    }
+
+    CaptureFields m_fields;
+    Vocabulary m_vocabulary;
+    NetworksCapture& m_capture;
+    std::string m_adapterLabel; ///< what this language calls the adapter
+    const CaptureField* m_announcement = nullptr;
+    std::size_t m_listed = 0; ///< networks since then
+    const CaptureField* m_firstNetwork = nullptr;
+    bool m_hasAccessPoints = false;
+    const CaptureField* m_network = nullptr; ///< what the next access point belongs to
+    std::string m_title;                     ///< what messages call it
+    bool m_isListed = false;                 ///< with an access point at least
+    bool m_isUsable = false;
+    simulation::AccessPoint m_common; ///< what its access points have in common
 };
-
-std::uint32_t BssTypeOf(const NetworkRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
-{
-    try
-    {
-        return BssType(record.fields.Need("Network type"), vocabulary);
-    }
-    catch (const LineError& error)
-    {
-        report(error.line(), std::string(error.what()) + "; it is taken for infrastructure");
-        return 1;
-    }
-}
-
-CapturedNetwork Interpret(const NetworkRecord& record, const Vocabulary& vocabulary, const CaptureReport& report)
-{
-    simulation::AccessPoint common;
-    common.ssid = record.ssid;
-    common.hidden = record.ssid.empty();
-    common.bssType = BssTypeOf(record, vocabulary, report);
-    const NetworkSecurity security =
-        Security(record.fields.Need("Authentication"), record.fields.Need("Encryption"), vocabulary);
-    common.authentication = security.authentication;
-    common.encryption = security.encryption;
-    CapturedNetwork network{record.start.value, {}};
-    for (const auto& [address, fields] : record.accessPoints)
-    {
-        simulation::AccessPoint heard = common;
-        heard.bssid = address;
-        try
-        {
-            Hear(fields, heard);
-            network.accessPoints.push_back(heard);
-        }
-        catch (const LineError& error)
-        {
-            report(error.line(), std::string(error.what()) + "; the access point is left out");
-        }
-    }
-    return network;
-}
-
-/// A list that is shorter than it says was cut off.
-void CheckCount(const Listing& listing, const CaptureReport& report)
-{
-    const int announced = listing.announcement ? FirstNumber(listing.announcement->name) : 0;
-    if (listing.networks.size() < static_cast<std::size_t>(announced))
-        report(listing.announcement->line, "this announces " + std::to_string(announced) + " networks, but only " +
-                                               std::to_string(listing.networks.size()) +
-                                               " follow: the capture is cut off");
-}
-
-void Append(NetworksCapture& capture, const Listing& listing, const Vocabulary& vocabulary, const CaptureReport& report)
-{
-    for (const NetworkRecord& record : listing.networks)
-    {
-        const std::string title = NetworkTitle(record.start.value);
-        if (record.accessPoints.empty())
-            report(record.start.line, title + " is listed without access points and left out");
-        try
-        {
-            capture.networks.push_back(Interpret(record, vocabulary, report));
-            ReportMisread(record.start.value, record.start.line, report);
-        }
-        catch (const LineError& error)
-        {
-            report(error.line(), std::string(error.what()) + "; " + title + " is left out");
-        }
-    }
-    CheckCount(listing, report);
-}
-
-/// Without "mode=bssid" the same command lists no access points at all.
-void CheckAccessPoints(const NetworksReader& reader)
-{
-    const NetworkRecord* first = nullptr;
-    for (const Listing& listing : reader.listings)
-        for (const NetworkRecord& record : listing.networks)
-        {
-            if (!record.accessPoints.empty())
-                return;
-            first = first == nullptr ? &record : first;
-        }
-    if (first != nullptr)
-        throw LineError(first->start.line,
-                        "no network has a BSSID: capture with \"netsh wlan show networks mode=bssid\"");
-}
 
 } // namespace
 
-void RefuseUseless(const NetworksCapture& capture)
+void NetworksCapture::AddAdapterName(std::string_view name)
 {
-    const bool any = std::any_of(capture.networks.begin(), capture.networks.end(),
-                                 [](const CapturedNetwork& network) { return !network.accessPoints.empty(); });
-    if (!any && !capture.warnings.empty())
-        throw CaptureError(capture.warnings.front());
+    if (!name.empty() && std::find(adapterNames.begin(), adapterNames.end(), name) == adapterNames.end())
+        adapterNames.emplace_back(name);
+}
+
+void NetworksCapture::AddConnection(const simulation::AccessPoint& accessPoint)
+{
+    const std::string ssid(accessPoint.ssid.begin(), accessPoint.ssid.end());
+    if (!ssid.empty())
+        connections.push_back({ssid, ssid, true, accessPoint, 0, 0});
+}
+
+void NetworksCapture::RefuseUseless() const
+{
+    if (accessPoints.empty() && !warnings.empty())
+        throw CaptureError(warnings.front());
 }
 
 bool LooksLikeNetworks(std::string_view text)
 {
     const std::vector<CaptureField> fields = ReadFields(text);
     const bool hasNone = fields.size() == 2 && fields[0].hasColon && !fields[0].value.empty() &&
-                         FirstNumber(FieldText(fields[1])) == 0 && fields[1].value.size() <= 2;
+                         FirstNumber(fields[1].Text()) == 0 && fields[1].value.size() <= 2;
     return hasNone || std::any_of(fields.begin(), fields.end(),
                                   [](const CaptureField& field) {
-                                      return BeginsNetwork(field) || BeginsAccessPoint(field) ||
-                                             field.name.ends_with("networks currently visible.");
+                                      return BeginsEither(field) || field.name.ends_with("networks currently visible.");
                                   });
 }
 
 NetworksCapture ParseNetworks(std::string_view text, const std::string& source, const ExplainedWords& explained)
 {
-    return ReadingFrom(source,
-                       [&]
-                       {
-                           if (!LooksLikeNetworks(text))
-                               throw LineError(1, "this is no output of \"netsh wlan show networks mode=bssid\"");
-                           std::vector<CaptureField> fields = ReadFields(text);
-                           const Vocabulary vocabulary{RecogniseNetworkLines(fields), explained};
-                           NetworksCapture capture;
-                           capture.source = source;
-                           const CaptureReport report = ReportTo(capture);
-                           NetworksReader reader(report);
-                           for (CaptureField& field : fields)
-                               if (!field.passedOver)
-                                   reader.Read(field);
-                           capture.adapterNames = std::move(reader.adapterNames);
-                           for (const Listing& listing : reader.listings)
-                               Append(capture, listing, vocabulary, report);
-                           CheckAccessPoints(reader);
-                           const std::vector<std::string> others = NotUnderstood(fields, source);
-                           capture.warnings.insert(capture.warnings.end(), others.begin(), others.end());
-                           RefuseUseless(capture);
-                           return capture;
-                       });
+    NetworksCapture capture;
+    capture.source = source;
+    std::vector<CaptureField> fields = ReadFields(text);
+    ReadingFrom(source, [&] { NetworksReader(fields, explained, capture).Read(); });
+    capture.RefuseUseless();
+    return capture;
 }
 
 } // namespace calvix::host

@@ -11,28 +11,21 @@
 namespace calvix::host
 {
 
-/// One "SSID n" of a capture: what its access points have in common, and the access points. The latter carry
-/// everything, ready for a scenario.
-struct CapturedNetwork
-{
-    std::string ssid; ///< empty: hidden
-    std::vector<simulation::AccessPoint> accessPoints;
-};
-
 /// What a tool printed that lists the networks in view.
-struct NetworksCapture
+struct NetworksCapture : CaptureWarnings
 {
-    std::string source;
-    std::vector<std::string> adapterNames;       ///< one for each adapter that listened
-    std::vector<CapturedNetwork> networks;       ///< in the capture's order
-    std::vector<CapturedConnection> connections; ///< for tools that list them with the networks
-    std::vector<std::string> warnings;           ///< what was not understood, and what became of it
+    std::vector<std::string> adapterNames;             ///< one for each adapter that listened
+    std::vector<simulation::AccessPoint> accessPoints; ///< ready for a scenario, in the capture's order
+    std::vector<CapturedConnection> connections;       ///< for tools that list them with the networks
+
+    void AddAdapterName(std::string_view name);
+    /// A connection that a list of networks shows.
+    void AddConnection(const simulation::AccessPoint& accessPoint);
+    /// Throws CaptureError, with the first warning, where nothing could be used.
+    void RefuseUseless() const;
 };
 
-/// Throws CaptureError, with the first warning, where nothing in the capture could be used.
-void RefuseUseless(const NetworksCapture& capture);
-
-/// Whether a text looks like this kind of capture.
+/// Whether a text looks like what `netsh wlan show networks mode=bssid` printed.
 bool LooksLikeNetworks(std::string_view text);
 
 /// Reads a capture of any language of the system. `text` is UTF-8; `source` is what messages call it; `explained` are words

@@ -2,14 +2,14 @@
 
 #include "forms/address_text.h"
 #include "forms/hex_text.h"
-#include "import/capture_text.h"
-#include "import/channel_frequency.h"
-#include "import/column_roles.h"
-#include "import/heard_access_point.h"
-#include "import/misread_text.h"
-#include "import/value_table.h"
+#include "forms/utf8.h"
+#include "import/capture_encoding.h"
+#include "import/iw_scan.h"
+#include "import/netsh_values.h"
+#include "output/text_forms.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace calvix::host
 {
@@ -17,153 +17,232 @@ namespace calvix::host
 namespace
 {
 
-constexpr std::string_view kRemedy =
-    "capture with \"nmcli -t -f IN-USE,BSSID,SSID,MODE,CHAN,FREQ,RATE,SIGNAL,SECURITY dev wifi list\"";
+using Cells = std::vector<std::string>;
 
-std::optional<ValueTable> TableOf(std::string_view text)
+/// More than nmcli has.
+constexpr std::size_t kMostColumns = 64;
+
+/// One access point of a list.
+struct ValueRow
 {
-    if (std::optional<ValueTable> table = AlignedTable(text))
-        return table;
-    return ColonTable(text);
+    std::size_t line = 0;
+    Cells cells; ///< without the blanks around them
+};
+
+struct ValueTable
+{
+    Cells names; ///< of the columns, in English; empty: not known
+    std::vector<ValueRow> rows;
+};
+
+Cells Split(std::string_view text, char separator)
+{
+    Cells cells(1);
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (text[i] == '\\' && i + 1 < text.size()) // "02\:00"
+            cells.back() += text[++i];
+        else if (text[i] == separator)
+            cells.emplace_back();
+        else
+            cells.back() += text[i];
+    for (std::string& cell : cells)
+        cell = std::string(Trim(cell));
+    return cells;
 }
 
-bool HasToken(const std::string& text, std::string_view token)
+bool HasAddress(const ValueRow& row)
 {
-    return (" " + text + " ").find(" " + std::string(token) + " ") != std::string::npos;
+    return std::any_of(row.cells.begin(), row.cells.end(),
+                       [](const std::string& cell) { return forms::AddressFromText(cell).has_value(); });
+}
+
+/// What nmcli prints unless it is asked for something else.
+Cells OwnColumns()
+{
+    return Split("IN-USE:BSSID:SSID:MODE:CHAN:RATE:SIGNAL:BARS:SECURITY", ':');
+}
+
+/// Values do not say what they are. The frequency sets the columns that we ask for apart from nmcli's own.
+Cells ColumnsOfValues(const std::vector<ValueRow>& rows)
+{
+    constexpr std::size_t kFrequency = 5;
+    const Cells withFlags = Split("IN-USE:BSSID:SSID:MODE:CHAN:FREQ:RATE:SIGNAL:SECURITY:WPA-FLAGS:RSN-FLAGS", ':');
+    for (const ValueRow& row : rows)
+    {
+        const std::size_t count = row.cells.size();
+        const bool hasFrequency = count > kFrequency && row.cells[kFrequency].ends_with(" MHz");
+        if (hasFrequency && (count == withFlags.size() || count == withFlags.size() - 2))
+            return Cells(withFlags.begin(), withFlags.begin() + static_cast<std::ptrdiff_t>(count));
+        if (!hasFrequency && count == OwnColumns().size() && forms::AddressFromText(row.cells[1]))
+            return OwnColumns();
+    }
+    return {};
+}
+
+std::optional<ValueTable> ValuesIn(std::string_view text)
+{
+    ValueTable table;
+    const std::vector<std::string_view> lines = LinesOf(text);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (!Trim(lines[i]).empty())
+            table.rows.push_back({i + 1, Split(lines[i], ':')});
+    const auto count = std::count_if(table.rows.begin(), table.rows.end(),
+                                     [](const ValueRow& row) { return row.cells.size() >= 3 && HasAddress(row); });
+    // One line may be damaged, or the last one cut off.
+    if (count == 0 || static_cast<std::size_t>(count) * 2 < table.rows.size())
+        return std::nullopt;
+    table.names = ColumnsOfValues(table.rows);
+    return table;
+}
+
+/// Where the labels of a table begin, by columns on a screen, where some characters are two wide. Labels stand two blanks
+/// apart at least, and may have single ones within.
+std::vector<std::size_t> LabelStarts(std::string_view header)
+{
+    std::vector<std::size_t> starts;
+    for (std::size_t at = header.find_first_not_of(' '); at < header.size() && starts.size() <= kMostColumns;)
+    {
+        starts.push_back(DisplayWidth(header.substr(0, at)));
+        at = header.find_first_not_of(' ', std::min(header.find("  ", at), header.size()));
+    }
+    return starts;
+}
+
+Cells CutAt(std::string_view line, const std::vector<std::size_t>& starts)
+{
+    Cells cells;
+    std::size_t end = 0;
+    std::size_t width = 0;
+    for (std::size_t i = 1; i <= starts.size(); ++i)
+    {
+        const std::size_t begin = end;
+        while (end < line.size() && (i == starts.size() || width < starts[i]))
+        {
+            const std::size_t letter = end;
+            forms::NextCharacter(line, end);
+            width += DisplayWidth(line.substr(letter, end - letter));
+        }
+        cells.emplace_back(Trim(line.substr(begin, end - begin)));
+    }
+    return cells;
+}
+
+std::optional<ValueTable> TableIn(std::string_view text)
+{
+    ValueTable table;
+    std::vector<std::size_t> starts;
+    std::string_view header;
+    const std::vector<std::string_view> lines = LinesOf(text);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (Trim(lines[i]).empty() || Trim(lines[i]) == Trim(header))
+            continue;
+        else if (!starts.empty())
+            table.rows.push_back({i + 1, CutAt(lines[i], starts)});
+        else if (header = lines[i], starts = LabelStarts(header); starts.size() < 3 || starts.size() > kMostColumns)
+            return std::nullopt;
+    if (std::none_of(table.rows.begin(), table.rows.end(), HasAddress))
+        return std::nullopt;
+    table.names = CutAt(header, starts);
+    // SSID and BSSID are the same in every language; the others may be translated.
+    const bool isTranslated = std::find(table.names.begin(), table.names.end(), "SECURITY") == table.names.end();
+    if (isTranslated && starts.size() == OwnColumns().size())
+        table.names = OwnColumns();
+    return table;
+}
+
+std::optional<ValueTable> ListIn(std::string_view text)
+{
+    std::optional<ValueTable> table = TableIn(text);
+    return table ? table : ValuesIn(text);
 }
 
 class NmcliReader
 {
 public:
-    NmcliReader(NetworksCapture& capture, const ValueTable& table, const std::vector<std::string>& names)
-        : m_capture(capture), m_table(table), m_columns(ListColumnsOf(table, names))
-    {
-    }
+    NmcliReader(NetworksCapture& capture, const ValueTable& table) : m_capture(capture), m_table(table) {}
 
     void Read()
     {
         CheckColumns();
         for (const ValueRow& row : m_table.rows)
-            if (row.cells.size() != m_columns.size())
-                Report(row.line, "this row has " + std::to_string(row.cells.size()) + " values in place of " +
-                                     std::to_string(m_columns.size()) + " and is left out");
-            else
-                ReadRow(row);
+            m_capture.OrWarn("the access point is left out", [&] { ReadRow(row); });
     }
 
 private:
-    void Report(std::size_t line, const std::string& what)
+    bool Has(std::string_view name) const
     {
-        m_capture.warnings.push_back(m_capture.source + ":" + std::to_string(line) + ": " + what);
-    }
-
-    bool Has(ListColumn column) const
-    {
-        return std::find(m_columns.begin(), m_columns.end(), column) != m_columns.end();
+        return std::find(m_table.names.begin(), m_table.names.end(), name) != m_table.names.end();
     }
 
     void CheckColumns()
     {
         const std::size_t line = m_table.rows.front().line;
-        if (m_columns.empty())
-            throw LineError(line, "the columns of this list are not known: name them with --columns, or " +
-                                      std::string(kRemedy));
-        const std::pair<bool, const char*> needed[] = {
-            {Has(ListColumn::bssid), "addresses"},
-            {Has(ListColumn::ssid) || Has(ListColumn::ssidHex), "names"},
-            {Has(ListColumn::signal), "signal strengths"},
-            {Has(ListColumn::channel) || Has(ListColumn::frequency), "channels"},
-            {Has(ListColumn::security), "security"}};
-        for (const auto& [has, what] : needed)
-            if (!has)
-                throw LineError(line,
-                                "no column is known to hold the " + std::string(what) + ": " + std::string(kRemedy));
-        for (std::size_t i = 0; i < m_columns.size(); ++i)
-            if (m_columns[i] == ListColumn::unknown)
-                Report(line, "column " + std::to_string(i + 1) +
-                                 (i < m_table.labels.size() ? ", \"" + m_table.labels[i] + "\"," : "") +
-                                 " is not understood and left out");
-        const bool hasFlags = Has(ListColumn::rsnFlags);
-        Report(line, std::string("nmcli does not tell PHY types, which are guessed from bands and rates") +
-                         (hasFlags ? "" : ", nor ciphers, which are taken to be AES, and TKIP for WPA1 alone"));
-        if (!Has(ListColumn::frequency))
-            Report(line, "channels are taken for those of 2.4 and 5 GHz: only frequencies tell those of 6 GHz");
+        const std::string remedy = "capture with \"" + std::string(kNmcliCommand) + "\"";
+        if (m_table.names.empty())
+            throw LineError(line, "the columns of this list are not known: " + remedy);
+        for (const char* name : {"BSSID", "SSID", "SIGNAL", "SECURITY"})
+            if (!Has(name))
+                throw LineError(line, "this list has no column " + std::string(name) + ": " + remedy);
+        if (!Has("CHAN") && !Has("FREQ"))
+            throw LineError(line, "this list has neither channels nor frequencies: " + remedy);
+        m_capture.Warn(
+            line, std::string("nmcli does not print PHY types, which are guessed from bands and rates") +
+                      (Has("RSN-FLAGS") ? "" : ", nor ciphers, which are taken to be AES, and TKIP for WPA1 alone"));
+        if (!Has("FREQ"))
+            m_capture.Warn(line, "channels are taken for those of 2.4 and 5 GHz: only frequencies show those of 6 GHz");
     }
 
     /// Empty where there is no such column.
-    std::string Cell(const ValueRow& row, ListColumn column) const
+    std::string Cell(const ValueRow& row, std::string_view name) const
     {
-        const auto found = std::find(m_columns.begin(), m_columns.end(), column);
-        if (found == m_columns.end())
-            return {};
-        return row.cells[static_cast<std::size_t>(found - m_columns.begin())];
+        const Cells& names = m_table.names;
+        const auto found = std::find(names.begin(), names.end(), name);
+        return found == names.end() ? "" : row.cells[static_cast<std::size_t>(found - names.begin())];
     }
 
     void ReadRow(const ValueRow& row)
     {
-        try
-        {
-            const simulation::AccessPoint accessPoint = Interpret(row);
-            AddHeard(m_capture, accessPoint);
-            if (Cell(row, ListColumn::inUse) == "*" || Cell(row, ListColumn::active) == "yes")
-                AddConnection(m_capture, accessPoint);
-            AddAdapter(Cell(row, ListColumn::device));
-        }
-        catch (const LineError& error)
-        {
-            Report(error.line(), std::string(error.what()) + "; the access point is left out");
-        }
-    }
-
-    void AddAdapter(const std::string& name)
-    {
-        std::vector<std::string>& names = m_capture.adapterNames;
-        if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end())
-            names.push_back(name);
-    }
-
-    simulation::AccessPoint Interpret(const ValueRow& row)
-    {
+        if (row.cells.size() != m_table.names.size())
+            throw LineError(row.line, "this row has " + std::to_string(row.cells.size()) + " values in place of " +
+                                          std::to_string(m_table.names.size()));
         simulation::AccessPoint accessPoint;
-        const auto address = forms::AddressFromText(Cell(row, ListColumn::bssid));
-        const int signal = WholeNumber(Cell(row, ListColumn::signal));
+        const auto address = forms::AddressFromText(Cell(row, "BSSID"));
+        const int signal = WholeNumber(Cell(row, "SIGNAL"));
         if (!address)
-            throw LineError(row.line, "\"" + Cell(row, ListColumn::bssid) + "\" is no address of six bytes");
+            throw LineError(row.line, "\"" + Cell(row, "BSSID") + "\" is no address of six bytes");
         if (signal < 0 || signal > 100)
-            throw LineError(row.line, "\"" + Cell(row, ListColumn::signal) + "\" is no percentage from 0 to 100");
+            throw LineError(row.line, "\"" + Cell(row, "SIGNAL") + "\" is no percentage from 0 to 100");
         accessPoint.bssid = *address;
-        accessPoint.rssi = StrengthFromPercentage(signal);
+        accessPoint.rssi = -100 + signal * 60 / 100; // 100 % is -40 dBm, and 0 % is -100 dBm
         accessPoint.frequencyKhz = Frequency(row);
         accessPoint.phyType = PhyTypeOf(row, accessPoint.frequencyKhz);
         accessPoint.ssid = Ssid(row);
         accessPoint.hidden = accessPoint.ssid.empty();
-        const std::string mode = Cell(row, ListColumn::mode);
-        accessPoint.bssType = SameWord(mode.substr(0, 2), "ad") ? 2 : 1;
+        accessPoint.bssType = SameWord(Cell(row, "MODE").substr(0, 2), "ad") ? 2 : 1;
         SetSecurity(row, accessPoint);
-        return accessPoint;
+        m_capture.accessPoints.push_back(accessPoint);
+        m_capture.AddAdapterName(Cell(row, "DEVICE"));
+        // Old versions call the first column "*".
+        if (Cell(row, "IN-USE") == "*" || Cell(row, "*") == "*" || Cell(row, "ACTIVE") == "yes")
+            m_capture.AddConnection(accessPoint);
     }
 
     std::uint32_t Frequency(const ValueRow& row) const
     {
-        const std::string cell = Cell(row, ListColumn::frequency);
-        if (!cell.empty())
-        {
-            const std::uint32_t frequency = FrequencyFromMegahertz(cell.substr(0, cell.find(' ')));
-            if (frequency == 0)
-                throw LineError(row.line, "\"" + cell + "\" is no frequency of a channel");
+        const std::string text = Cell(row, "FREQ");
+        const std::uint32_t frequency = FrequencyFromMegahertz(text);
+        if (!text.empty() && frequency == 0)
+            throw LineError(row.line, "\"" + text + "\" is no frequency of a channel");
+        if (!text.empty())
             return frequency;
-        }
-        const int channel = std::max(WholeNumber(Cell(row, ListColumn::channel)), 0);
-        const auto number = static_cast<std::uint32_t>(channel);
-        const std::optional<std::uint32_t> frequency = CapturedFrequency(BandOfChannel(number), number);
-        if (!frequency)
-            throw LineError(row.line, "\"" + Cell(row, ListColumn::channel) + "\" is no channel of 2.4 or 5 GHz");
-        return *frequency;
+        if (const auto likely = CapturedFrequency("", WholeNumber(Cell(row, "CHAN"))))
+            return *likely;
+        throw LineError(row.line, "\"" + Cell(row, "CHAN") + "\" is no channel of 2.4 or 5 GHz");
     }
 
     std::uint32_t PhyTypeOf(const ValueRow& row, std::uint32_t frequencyKhz) const
     {
-        const int rate = FirstNumber(Cell(row, ListColumn::rate));
+        const int rate = FirstNumber(Cell(row, "RATE"));
         if (frequencyKhz > 5900000 && frequencyKhz < 7200000)
             return 10;
         if ((rate >= 0 && rate <= 54) || frequencyKhz >= 7200000)
@@ -171,39 +250,42 @@ private:
         return frequencyKhz >= 3000000 && rate > 300 ? 8 : 7;
     }
 
-    /// The bytes in hexadecimal where they are told: the name is UTF-8 only where the SSID is.
+    /// The bytes in hexadecimal where they are printed: the name is UTF-8 only where the SSID is.
     simulation::Bytes Ssid(const ValueRow& row)
     {
-        const std::string hex = Cell(row, ListColumn::ssidHex);
-        std::string name = Cell(row, ListColumn::ssid);
-        if (std::optional<simulation::Bytes> bytes = forms::BytesFromHex(hex); bytes && !bytes->empty())
-            return bytes->size() <= 32 ? *bytes : throw LineError(row.line, "this SSID is longer than 32 bytes");
-        name = name == "--" ? "" : name;
-        if (name.size() > 32)
+        const std::string name = Cell(row, "SSID") == "--" ? "" : Cell(row, "SSID");
+        auto bytes = forms::BytesFromHex(Cell(row, "SSID-HEX")).value_or(simulation::Bytes());
+        if (bytes.empty())
+        {
+            bytes.assign(name.begin(), name.end());
+            WarnOfMisread(name, row.line, m_capture);
+        }
+        if (bytes.size() > 32)
             throw LineError(row.line, "this SSID is longer than 32 bytes");
-        ReportMisread(name, row.line, [this](std::size_t line, const std::string& what) { Report(line, what); });
-        return simulation::Bytes(name.begin(), name.end());
+        return bytes;
     }
 
     void SetSecurity(const ValueRow& row, simulation::AccessPoint& accessPoint)
     {
-        const std::string cell = Cell(row, ListColumn::security);
-        const bool enterprise = HasToken(cell, "802.1X") || HasToken(cell, "802.1x");
-        const bool wpa3 = HasToken(cell, "WPA3");
-        const bool wpa2 = HasToken(cell, "WPA2");
-        accessPoint.encryption = "AES";
-        if (wpa3)
-            accessPoint.authentication = enterprise ? "WPA3ENT" : "WPA3SAE";
-        else if (wpa2)
-            accessPoint.authentication = enterprise ? "WPA2" : "WPA2PSK";
-        else if (HasToken(cell, "OWE"))
-            accessPoint.authentication = "OWE";
-        else
-            SetOldSecurity(row.line, cell, enterprise, accessPoint);
-        SetCipher(Cell(row, ListColumn::rsnFlags) + " " + Cell(row, ListColumn::wpaFlags), accessPoint);
+        const std::string cell = Cell(row, "SECURITY");
+        const bool enterprise = HasWord(cell, "802.1X") || HasWord(cell, "802.1x");
+        const bool wpa3 = HasWord(cell, "WPA3");
+        const bool wpa2 = HasWord(cell, "WPA2");
+        const bool wpa1 = !wpa3 && !wpa2 && (HasWord(cell, "WPA1") || HasWord(cell, "WPA"));
+        const bool owe = !wpa3 && !wpa2 && HasWord(cell, "OWE");
+        const bool open = cell.empty() || cell == "--" || cell == "OWE-TM";
+        if (!wpa3 && !wpa2 && !wpa1 && !owe && !open && cell != "WEP")
+            throw LineError(row.line, "\"" + cell + "\" is no known security");
+        accessPoint.authentication = wpa3   ? enterprise ? "WPA3ENT" : "WPA3SAE"
+                                     : wpa2 ? enterprise ? "WPA2" : "WPA2PSK"
+                                     : owe  ? "OWE"
+                                     : wpa1 ? enterprise ? "WPA" : "WPAPSK"
+                                            : "open";
+        accessPoint.encryption = wpa3 || wpa2 || owe ? "AES" : wpa1 ? "TKIP" : open ? "none" : "WEP";
+        SetCipher(Cell(row, "RSN-FLAGS") + " " + Cell(row, "WPA-FLAGS"), accessPoint);
         if (wpa3 && wpa2)
-            Report(row.line, "the access point " + forms::AddressText(accessPoint.bssid) +
-                                 " takes both WPA2 and WPA3; the scenario has WPA3");
+            m_capture.Warn(row.line, "the access point " + forms::AddressText(accessPoint.bssid) +
+                                         " takes both WPA2 and WPA3; the scenario has WPA3");
     }
 
     /// "pair_tkip pair_ccmp group_tkip psk"
@@ -212,52 +294,28 @@ private:
         constexpr std::pair<std::string_view, const char*> kCiphers[] = {
             {"pair_ccmp", "AES"}, {"pair_tkip", "TKIP"}, {"pair_wep104", "WEP"}, {"pair_wep40", "WEP"}};
         for (const auto& [flag, cipher] : kCiphers)
-            if (HasToken(flags, flag))
+            if (HasWord(flags, flag))
                 return void(accessPoint.encryption = cipher);
-    }
-
-    static void
-    SetOldSecurity(std::size_t line, const std::string& cell, bool enterprise, simulation::AccessPoint& accessPoint)
-    {
-        if (HasToken(cell, "WPA1") || HasToken(cell, "WPA"))
-        {
-            accessPoint.authentication = enterprise ? "WPA" : "WPAPSK";
-            accessPoint.encryption = "TKIP";
-            return;
-        }
-        const bool open = cell.empty() || cell == "--" || cell == "OWE-TM";
-        if (!open && cell != "WEP")
-            throw LineError(line, "\"" + cell + "\" is no known security");
-        accessPoint.authentication = "open";
-        accessPoint.encryption = open ? "none" : "WEP";
     }
 
     NetworksCapture& m_capture;
     const ValueTable& m_table;
-    std::vector<ListColumn> m_columns;
 };
 
 } // namespace
 
 bool LooksLikeNmcliList(std::string_view text)
 {
-    return TableOf(text).has_value();
+    return ListIn(text).has_value();
 }
 
-NetworksCapture
-ParseNmcliList(std::string_view text, const std::string& source, const std::vector<std::string>& columns)
+NetworksCapture ParseNmcliList(std::string_view text, const std::string& source)
 {
-    return ReadingFrom(source,
-                       [&]
-                       {
-                           const std::optional<ValueTable> table = TableOf(text);
-                           if (!table)
-                               throw LineError(1, "this is no output of \"nmcli dev wifi list\"");
-                           NetworksCapture capture;
-                           capture.source = source;
-                           NmcliReader(capture, *table, columns).Read();
-                           return capture;
-                       });
+    NetworksCapture capture;
+    capture.source = source;
+    const std::optional<ValueTable> table = ListIn(text);
+    ReadingFrom(source, [&] { NmcliReader(capture, *table).Read(); });
+    return capture;
 }
 
 } // namespace calvix::host

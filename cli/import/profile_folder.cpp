@@ -1,11 +1,10 @@
 #include "import/profile_folder.h"
 
 #include "files/file_path.h"
-#include "import/capture_text.h"
+#include "import/capture_encoding.h"
 #include "output/text_forms.h"
 #include "simulation/profile_document.h"
-
-#include "platform/records/wlan_constants.h"
+#include "simulation/reason_texts.h"
 
 #include <algorithm>
 
@@ -16,33 +15,6 @@ namespace
 {
 
 namespace files = std::filesystem;
-
-std::string RefusalText(const simulation::ProfileRefusal& refusal)
-{
-    switch (refusal.reason)
-    {
-    case WLAN_REASON_CODE_INVALID_PROFILE_NAME:
-        return "it has no name, or one of more than 255 characters";
-    case WLAN_REASON_CODE_PROFILE_SSID_INVALID:
-        return "its SSID is empty, longer than 32 bytes, or not hexadecimal where it should be";
-    case WLAN_REASON_CODE_INVALID_BSS_TYPE:
-        return "its <connectionType> is neither ESS nor IBSS";
-    case WLAN_REASON_CODE_INVALID_ADHOC_CONNECTION_MODE:
-        return "an ad hoc network cannot be joined automatically";
-    case WLAN_REASON_CODE_NON_BROADCAST_SET_FOR_ADHOC:
-        return "an ad hoc network cannot be hidden";
-    case WLAN_REASON_CODE_MSM_SECURITY_MISSING:
-        return "its <security> is missing";
-    case WLAN_REASON_CODE_MSMSEC_PROFILE_NO_AUTH_CIPHER_SPECIFIED:
-        return "its <authEncryption> is missing";
-    case WLAN_REASON_CODE_MSMSEC_PROFILE_INVALID_AUTH_CIPHER:
-        return "its authentication and encryption do not go together";
-    case WLAN_REASON_CODE_MSMSEC_PROFILE_PSK_LENGTH:
-        return "its passphrase does not have 8 to 63 characters";
-    default:
-        return "it is not well-formed, or an element is missing or has a value that profiles do not have";
-    }
-}
 
 bool IsXmlFile(const files::directory_entry& entry)
 {
@@ -78,7 +50,7 @@ ExportedProfile ParseExportedProfile(std::string_view bytes, const std::string& 
     simulation::ProfileRefusal refusal{};
     const auto document = simulation::ParseProfile(profile.xml, refusal);
     if (!document)
-        throw CaptureError(source + ": this is not a usable profile: " + RefusalText(refusal));
+        throw CaptureError(source + ": this profile cannot be used: " + Narrow(simulation::ReasonText(refusal.reason)));
     profile.name = Narrow(document->name);
     return profile;
 }

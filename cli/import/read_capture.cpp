@@ -1,7 +1,6 @@
 #include "import/read_capture.h"
 
 #include "import/capture_encoding.h"
-#include "import/capture_text.h"
 #include "import/iw_scan.h"
 #include "import/nmcli_list.h"
 
@@ -13,60 +12,60 @@ namespace calvix::host
 namespace
 {
 
-/// What people capture by mistake, and what to do.
-struct KnownMistake
-{
-    std::string_view part; ///< of the text
-    const char* message;
-};
-
 constexpr std::string_view kWiredProfile = "<LANProfile";
 
-constexpr KnownMistake kMistakes[] = {
-    {"ms-settings:privacy-location",
-     "Windows has refused the list: switch location services on, on the page Location of Privacy & security in the "
-     "settings, and capture again, in a console with an administrator's rights"},
-    {"wlansvc", "the WLAN service was not running: start it with \"net start wlansvc\" and capture again"},
-    {kWiredProfile, "this is a profile of a wired network, and only those of \"netsh wlan export profile\" are of use"},
-    {"SIGNAL  BARS  SECURITY",
-     "this list has no addresses: capture with \"nmcli -t -f IN-USE,BSSID,SSID,MODE,CHAN,FREQ,RATE,SIGNAL,SECURITY dev "
-     "wifi list\""},
-};
-
+/// What people capture by mistake, and what to do.
 void RefuseWithRemedy(std::string_view text, const std::string& source)
 {
-    for (const KnownMistake& known : kMistakes)
-        if (const std::size_t at = text.find(known.part); at != std::string_view::npos)
-            throw CaptureError(
-                source + ":" +
-                std::to_string(std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n') + 1) +
-                ": " + known.message);
+    const std::pair<std::string_view, std::string> kMistakes[] = {
+        {"ms-settings:privacy-location",
+         "Windows refused the list: switch location services on, on the page Location of Privacy & security in the "
+         "settings, and capture again in a console with administrator rights"},
+        {"wlansvc", "the WLAN service was not running: start it with \"net start wlansvc\" and capture again"},
+        {kWiredProfile,
+         "this is a profile of a wired network: export wireless ones with \"netsh wlan export profile\""},
+        {"SIGNAL  BARS  SECURITY", "this list has no addresses: capture with \"" + std::string(kNmcliCommand) + "\""},
+    };
+    for (const auto& [part, message] : kMistakes)
+        if (const std::size_t at = text.find(part); at != std::string_view::npos)
+        {
+            const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n');
+            throw CaptureError(source + ":" + std::to_string(line) + ": " + message);
+        }
+}
+
+void Add(std::vector<std::string>& warnings, const std::vector<std::string>& more)
+{
+    warnings.insert(warnings.end(), more.begin(), more.end());
+}
+
+template <typename Capture>
+void Set(std::optional<Capture>& known, Capture read, const std::string& what, std::vector<std::string>& warnings)
+{
+    if (known)
+        throw CaptureError(read.source + ": this is a second list of " + what + ", after " + known->source +
+                           ": import one at a time");
+    Add(warnings, read.warnings);
+    known = std::move(read);
 }
 
 } // namespace
 
-NetworksCapture ReadNetworksText(std::string_view text, const std::string& source, const CaptureHints& hints)
+void ReadCapture(std::string_view bytes, const std::string& source, const CaptureHints& hints, Captures& captures)
 {
+    CaptureWarnings encoding{source, {}};
+    const std::string text = DecodeCapture(bytes, hints.codePage, encoding);
+    Add(captures.warnings, encoding.warnings);
+    if (LooksLikeProfile(text) && text.find(kWiredProfile) == std::string::npos)
+        return void(captures.profiles.push_back(ParseExportedProfile(text, source)));
     if (LooksLikeIwScan(text))
-        return ParseIwScan(text, source);
-    if (!LooksLikeNetworks(text) && LooksLikeNmcliList(text))
-        return ParseNmcliList(text, source, hints.columns);
-    return ParseNetworks(text, source, hints.words);
-}
-
-ReadResult ReadCapture(std::string_view bytes, const std::string& source, const CaptureHints& hints)
-{
-    DecodedCapture decoded = DecodeCapture(bytes, source, hints.codePage);
-    const std::string_view text = decoded.text;
-    std::vector<std::string> warnings = std::move(decoded.warnings);
-    if (LooksLikeProfile(text) && text.find(kWiredProfile) == std::string_view::npos)
-        return {ParseExportedProfile(text, source), std::move(warnings)};
-    if (LooksLikeIwScan(text) || LooksLikeNetworks(text))
-        return {ReadNetworksText(text, source, hints), std::move(warnings)};
+        return Set(captures.networks, ParseIwScan(text, source), "networks", captures.warnings);
+    if (LooksLikeNetworks(text))
+        return Set(captures.networks, ParseNetworks(text, source, hints.words), "networks", captures.warnings);
     if (LooksLikeInterfaces(text))
-        return {ParseInterfaces(text, source, hints.words), std::move(warnings)};
+        return Set(captures.interfaces, ParseInterfaces(text, source, hints.words), "interfaces", captures.warnings);
     if (LooksLikeNmcliList(text))
-        return {ReadNetworksText(text, source, hints), std::move(warnings)};
+        return Set(captures.networks, ParseNmcliList(text, source), "networks", captures.warnings);
     RefuseWithRemedy(text, source);
     throw CaptureError(source +
                        ":1: this is no output of \"netsh wlan show networks mode=bssid\" or \"netsh wlan show "

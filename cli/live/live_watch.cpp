@@ -20,7 +20,6 @@ namespace calvix::host
 namespace
 {
 
-using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 constexpr unsigned kWatchStepMilliseconds = 100;
@@ -51,7 +50,7 @@ public:
     {
         if (m_counted)
             return m_stepped;
-        const auto passed = std::chrono::duration_cast<milliseconds>(steady_clock::now() - m_begin);
+        const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(steady_clock::now() - m_begin);
         return static_cast<unsigned long long>(passed.count());
     }
 

@@ -1,6 +1,4 @@
 #include "import/code_page_guess.h"
-#include "import/import.h"
-#include "import/read_capture.h"
 #include "import_samples.h"
 #include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
@@ -62,35 +60,21 @@ std::string Encoded(const std::string& text, std::uint32_t codePage)
     return bytes;
 }
 
-/// What a scenario is made of, and what was told about it but for the code page.
-struct Imported
-{
-    simulation::Scenario scenario;
-    std::vector<std::string> warnings;
-};
-
-Imported Import(const std::string& networks, const std::string& interfaces, const CaptureHints& hints = {})
-{
-    Captures captures;
-    captures.networks = std::get<NetworksCapture>(ReadCapture(networks, "networks.txt", hints).content);
-    captures.interfaces = std::get<InterfacesCapture>(ReadCapture(interfaces, "interfaces.txt", hints).content);
-    ImportedScenario imported = AssembleScenario(captures, false);
-    return {std::move(imported.scenario), std::move(imported.warnings)};
-}
-
 /// A sample's text, turned into bytes in some way.
 using Encode = std::function<std::string(const std::string&)>;
 
-Imported Import(const Language& language, const Encode& encode, const CaptureHints& hints = {})
+ImportedScenario ImportBoth(const Language& language, const Encode& encode, const CaptureHints& hints = {})
 {
-    return Import(encode(Sample(language.name, "networks.txt")), encode(Sample(language.name, "interfaces.txt")),
-                  hints);
+    Captures captures;
+    for (const char* file : {"networks.txt", "interfaces.txt"})
+        ReadCapture(encode(Sample(language.name, file)), file, hints, captures);
+    return AssembleScenario(captures, false);
 }
 
 const simulation::Scenario& Expected()
 {
     static const simulation::Scenario expected =
-        Import(kLanguages[0], [](const std::string& text) { return text; }).scenario;
+        ImportBoth(kLanguages[0], [](const std::string& text) { return text; }).scenario;
     return expected;
 }
 
@@ -100,7 +84,9 @@ TEST(ImportLanguages, TheEnglishSampleHoldsWhatIsExpectedOfAll)
 {
     EXPECT_EQ(Expected().accessPoints.size(), 6u);
     ASSERT_EQ(Expected().adapters.size(), 2u);
-    EXPECT_TRUE(Expected().adapters[0].connection);
+    ASSERT_TRUE(Expected().adapters[0].connection);
+    EXPECT_EQ(Expected().adapters[0].connection->receiveKbps, 866700u);
+    EXPECT_EQ(Expected().adapters[0].connection->transmitKbps, 780000u);
     EXPECT_EQ(Expected().adapters[1].phys.at(0).software, simulation::RadioSwitch::off);
     EXPECT_EQ(Expected().adapters[1].phys.at(0).hardware, simulation::RadioSwitch::on);
 }
@@ -118,7 +104,7 @@ TEST(ImportLanguages, OneSampleForEachLanguageGivesTheSameScenarioInEveryUnicode
     for (const Language& language : kLanguages)
         for (const auto& [what, encode] : forms)
         {
-            const Imported imported = Import(language, encode);
+            const ImportedScenario imported = ImportBoth(language, encode);
             EXPECT_EQ(imported.scenario, Expected()) << language.name << " " << what;
             EXPECT_EQ(imported.warnings, std::vector<std::string>()) << language.name << " " << what;
         }
@@ -136,9 +122,9 @@ TEST(ImportLanguages, TheCodePagesOfEachLanguageAreGuessedAndCanBeNamed)
                 continue;
             }
             const Encode encode = [codePage](const std::string& text) { return Encoded(text, codePage); };
-            EXPECT_EQ(Import(language, encode).scenario, Expected()) << language.name << " " << codePage;
-            const CaptureHints hints{codePage, {}, {}};
-            EXPECT_EQ(Import(language, encode, hints).scenario, Expected()) << language.name << " " << codePage;
+            EXPECT_EQ(ImportBoth(language, encode).scenario, Expected()) << language.name << " " << codePage;
+            const CaptureHints hints{codePage, {}};
+            EXPECT_EQ(ImportBoth(language, encode, hints).scenario, Expected()) << language.name << " " << codePage;
             for (const char* file : {"networks.txt", "interfaces.txt"})
             {
                 const std::string text = Sample(language.name, file);
@@ -156,12 +142,11 @@ TEST(ImportLanguages, AFileOfTheConsolesCodePageIsReadAndToldOf)
 {
     if (!simulation::HasNarrowEncoding(850))
         GTEST_SKIP() << "this computer has no converter for code page 850";
-    const ReadResult result = ReadCapture(Sample("german", "networks-oem.txt"), "file");
-    EXPECT_EQ(result.warnings, std::vector<std::string>{"file: this is not Unicode and was read as code page 850, the "
-                                                        "likeliest; name another with --code-page"});
-    const NetworksCapture& capture = std::get<NetworksCapture>(result.content);
-    EXPECT_EQ(capture.networks.size(), 5u);
-    EXPECT_EQ(capture.warnings, std::vector<std::string>());
+    const Captures captures = Read(Sample("german", "networks-oem.txt"));
+    EXPECT_EQ(captures.warnings,
+              std::vector<std::string>{"file: this is not Unicode and was read as code page 850, the "
+                                       "likeliest; name another with --code-page"});
+    EXPECT_EQ(captures.networks->accessPoints.size(), 6u);
 }
 
 TEST(ImportLanguages, WaysThatTextsAreLaidOutDoNotMatter)
@@ -184,7 +169,7 @@ TEST(ImportLanguages, WaysThatTextsAreLaidOutDoNotMatter)
     };
     for (const Language& language : kLanguages)
         for (const auto& [what, encode] : layouts)
-            EXPECT_EQ(Import(language, encode).scenario, Expected()) << language.name << ": " << what;
+            EXPECT_EQ(ImportBoth(language, encode).scenario, Expected()) << language.name << ": " << what;
 }
 
 } // namespace calvix::host::test::import_languages_test

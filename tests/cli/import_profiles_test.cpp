@@ -64,32 +64,28 @@ TEST_P(DamagedProfiles, AreRefusedWithTheFile)
     folder.Write("good.xml", kProfile);
     const std::string bad = folder.Write("ugly.XML", Replaced(kProfile, GetParam().from, GetParam().to));
     EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder.path()); }),
-              bad + ": this is not a usable profile: " + GetParam().complaint);
+              bad + ": this profile cannot be used: " + GetParam().complaint);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Import,
     DamagedProfiles,
-    testing::Values(
-        Damage{"</WLANProfile>", "",
-               "it is not well-formed, or an element is missing or has a value that profiles do not have"},
-        Damage{"WLANProfile xmlns", "Profile xmlns",
-               "it is not well-formed, or an element is missing or has a value that profiles do not have"},
-        Damage{"<name>Juniper</name>\n", "<name></name>\n", "it has no name, or one of more than 255 characters"},
-        Damage{"4A756E", "4A756", "its SSID is empty, longer than 32 bytes, or not hexadecimal where it should be"},
-        Damage{">ESS<", ">NESS<", "its <connectionType> is neither ESS nor IBSS"},
-        Damage{">ESS<", ">IBSS<", "an ad hoc network cannot be joined automatically"},
-        Damage{">auto<", ">always<",
-               "it is not well-formed, or an element is missing or has a value that profiles do not have"},
-        Damage{">AES<", ">none<", "its authentication and encryption do not go together"},
-        Damage{"under the juniper", "short", "its passphrase does not have 8 to 63 characters"}));
+    testing::Values(Damage{"</WLANProfile>", "", "The profile is not in the form required."},
+                    Damage{"WLANProfile xmlns", "Profile xmlns", "The profile is not in the form required."},
+                    Damage{"<name>Juniper</name>\n", "<name></name>\n", "The profile's name is not valid."},
+                    Damage{"4A756E", "4A756", "The network's name in the profile is not valid."},
+                    Damage{">ESS<", ">NESS<", "The profile's network type is not valid."},
+                    Damage{">ESS<", ">IBSS<", "Ad hoc networks cannot be joined automatically."},
+                    Damage{">auto<", ">always<", "The profile is not in the form required."},
+                    Damage{">AES<", ">none<", "This authentication and this encryption do not go together."},
+                    Damage{"under the juniper", "short", "The passphrase in the profile is too short or too long."}));
 
 TEST(ImportProfiles, AFileInAnotherEncodingIsRefusedWithTheLine)
 {
     TemporaryFolder folder;
     const std::string path = folder.Write("p.xml", Replaced(kProfile, "<name>Juniper", "<name>Caf\xE9"));
     EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder.path()); }),
-              path + ":3: this is not UTF-8 (capture it again after the command \"chcp 65001\")");
+              path + ":3: this is not UTF-8: capture it again after the command \"chcp 65001\"");
 }
 
 TEST(ImportProfiles, AFolderMustExistAndHoldProfiles)

@@ -1,6 +1,4 @@
 // What captures of real computers have beside the plain form, each in a sample of our own.
-#include "import/import.h"
-#include "import/read_capture.h"
 #include "import_samples.h"
 
 #include <gtest/gtest.h>
@@ -14,17 +12,6 @@ namespace
 using simulation::AccessPoint;
 using simulation::Scenario;
 
-ImportedScenario Import(const std::string& text)
-{
-    ReadResult result = ReadCapture(text, "file");
-    Captures captures;
-    if (auto* networks = std::get_if<NetworksCapture>(&result.content))
-        captures.networks = std::move(*networks);
-    else
-        captures.interfaces = std::get<InterfacesCapture>(std::move(result.content));
-    return AssembleScenario(captures, false);
-}
-
 /// What is in the air where nothing is to be warned of.
 std::vector<AccessPoint> Air(const std::string& text)
 {
@@ -35,7 +22,7 @@ std::vector<AccessPoint> Air(const std::string& text)
 
 std::string Refusal(const std::string& text)
 {
-    return Complaint([&] { ReadCapture(text, "file"); });
+    return Complaint([&] { Read(text); });
 }
 
 const std::string kIw = "BSS 02:00:00:00:00:01(on wlan0)\n\tfreq: 5180\n\tbeacon interval: 100 TUs\n"
@@ -83,7 +70,7 @@ TEST(ImportRealCaptures, TwoAccessPointsOfOneAddressStayApart)
     EXPECT_EQ(other.bssid, (simulation::MacAddress{2, 0, 0, 0, 0, 3})) << "the next that is free";
     EXPECT_EQ(imported.warnings, std::vector<std::string>{
                                      "the access point 02:00:00:00:00:01 is listed again with another name, channel or "
-                                     "security: that one has the made-up address 02:00:00:00:00:03"});
+                                     "security; that one has the made-up address 02:00:00:00:00:03"});
     EXPECT_EQ(imported.scenario.accessPoints[0].rssi, -60) << "as the first entry says";
 }
 
@@ -121,6 +108,16 @@ TEST(ImportRealCaptures, StrengthsInDbmAreExact)
 {
     const std::string text = Replaced(kInterfaces, "    Profile  ", "    Rssi                   : -63\n    Profile  ");
     EXPECT_EQ(Air(text).at(0).rssi, -63);
+}
+
+TEST(ImportRealCaptures, TheRatesOfTheLinkAreExact)
+{
+    const std::string rates = "    Receive rate (Mbps)    : 2401.9\n    Transmit rate (Mbps)   : 117\n";
+    const auto connection = Import(Replaced(kInterfaces, "    Signal  ", rates + "    Signal  "))
+                                .scenario.adapters.at(0)
+                                .connection.value();
+    EXPECT_EQ(connection.receiveKbps, 2401900u);
+    EXPECT_EQ(connection.transmitKbps, 117000u);
 }
 
 TEST(ImportRealCaptures, AConnectionOverSeveralLinksIsItsFirst)
@@ -172,7 +169,7 @@ TEST(ImportRealCaptures, EachMistakeHasItsOwnRemedy)
 {
     const std::pair<const char*, const char*> cases[] = {
         {"Commands need the permission.\nms-settings:privacy-location\n",
-         "file:2: Windows has refused the list: switch location services on"},
+         "file:2: Windows refused the list: switch location services on"},
         {"The service (wlansvc) is not running.\n", "file:1: the WLAN service was not running: start it"},
         {"<?xml version=\"1.0\"?>\n<LANProfile xmlns=\"x\"></LANProfile>\n", "file:2: this is a profile of a wired"},
         {"IN-USE  SSID     MODE   CHAN  RATE        SIGNAL  BARS  SECURITY\n"

@@ -1,6 +1,4 @@
-#include "import/import.h"
-#include "import/misread_text.h"
-#include "import/read_capture.h"
+#include "import/capture_encoding.h"
 #include "import_samples.h"
 #include "simulation/narrow_encoding.h"
 
@@ -29,19 +27,7 @@ std::string AllReplaced(std::string text, const std::string& from, const std::st
 std::vector<std::string> Told(const std::string& bytes, const CaptureHints& hints = {})
 {
     std::vector<std::string> told;
-    const std::string complaint = Complaint(
-        [&]
-        {
-            ReadResult result = ReadCapture(bytes, "file", hints);
-            told = std::move(result.warnings);
-            Captures captures;
-            if (auto* networks = std::get_if<NetworksCapture>(&result.content))
-                captures.networks = std::move(*networks);
-            else if (auto* interfaces = std::get_if<InterfacesCapture>(&result.content))
-                captures.interfaces = std::move(*interfaces);
-            const std::vector<std::string> more = AssembleScenario(captures, false).warnings;
-            told.insert(told.end(), more.begin(), more.end());
-        });
+    const std::string complaint = Complaint([&] { told = Import(bytes, hints).warnings; });
     if (!complaint.empty())
         told.push_back(complaint);
     return told;
@@ -65,6 +51,16 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
          "WPA2-Tajne",
          {"file:7: \"Uwierzytelnianie\" is \"WPA2-Tajne\", which is not a known authentication (Open, WPA2-Personal, "
           "WPA3-Enterprise, OWE ...); the network \"Linden Court\" is left out"}},
+        {"polish/networks.txt",
+         "WPA2-Osobiste",
+         "Tajemne",
+         {"file:7: \"Uwierzytelnianie\" is \"Tajemne\", which is not a known authentication (Open, WPA2-Personal, "
+          "WPA3-Enterprise, OWE ...); the network \"Linden Court\" is left out"}},
+        {"polish/interfaces.txt",
+         "5c0de000-0001",
+         "XXXXXXXX-0001",
+         {"file:6: \"Identyfikator GUID\" is masked (\"XXXXXXXX-0001-4abc-8def-0123456789ab\"): write other digits in "
+          "its place, the same for the same device; the adapter has a made-up one"}},
         {"polish/networks.txt",
          "CCMP",
          "XOR-8",
@@ -104,17 +100,17 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
          "Oprogramowanie Wy\xC5\x82\xC4\x85"
          "czone",
          "Oprogramowanie ?",
-         {"file:27: \"Oprogramowanie ?\" is not understood; that switch of the radio is taken to be on"}},
+         {"file:28: \"Oprogramowanie ?\" is not understood; that switch of the radio is taken to be on"}},
         {"polish/networks.txt",
          "Linden Guests",
          "Caf\xC3\x83\xC2\xA9",
-         {"file:22: the SSID \"Caf\xC3\x83\xC2\xA9\" is kept as it is, but looks like \"Caf\xC3\xA9\", read in the "
-          "wrong "
-          "code page"}},
+         {"file:22: the SSID \"Caf\xC3\x83\xC2\xA9\" looks like \"Caf\xC3\xA9\", read in the wrong code page; it is "
+          "kept as "
+          "it is"}},
         {"polish/networks.txt",
          "Linden Guests",
          "Caf\xEF\xBF\xBD",
-         {"file:22: characters of the SSID \"Caf\xEF\xBF\xBD\" are lost; it is kept as it is"}},
+         {"file:22: the SSID \"Caf\xEF\xBF\xBD\" has lost characters; it is kept as it is"}},
         {"polish/networks.txt",
          "92%",
          "92",
@@ -156,21 +152,15 @@ TEST(ImportReports, StructureIsEnoughForALanguageThatNobodyKnows)
                                        "out"});
     hints.words.emplace_back("xomo", "open");
     EXPECT_EQ(Told(networks, hints), std::vector<std::string>());
-    const auto read = [&hints](const std::string& bytes)
-    {
-        Captures captures;
-        captures.networks = std::get<NetworksCapture>(ReadCapture(bytes, "file", hints).content);
-        return AssembleScenario(captures, false).scenario;
-    };
-    EXPECT_EQ(read(networks), read(Sample("polish/networks.txt")));
+    EXPECT_EQ(Import(networks, hints).scenario, Import(Sample("polish/networks.txt"), hints).scenario);
     EXPECT_NE(Told(AllReplaced(networks, "WPA2-Mimi", "WPA2-Momo"), hints), std::vector<std::string>());
 }
 
 TEST(ImportReports, CapturesOfTwoLanguagesGoTogether)
 {
     Captures captures;
-    captures.networks = std::get<NetworksCapture>(ReadCapture(Sample("japanese/networks.txt"), "n").content);
-    captures.interfaces = std::get<InterfacesCapture>(ReadCapture(Sample("russian/interfaces.txt"), "i").content);
+    ReadCapture(Sample("japanese/networks.txt"), "n", {}, captures);
+    ReadCapture(Sample("russian/interfaces.txt"), "i", {}, captures);
     const ImportedScenario imported = AssembleScenario(captures, false);
     EXPECT_TRUE(imported.scenario.adapters.at(0).connection);
     EXPECT_EQ(imported.warnings, std::vector<std::string>());

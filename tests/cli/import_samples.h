@@ -1,7 +1,7 @@
 #pragma once
 
 #include "files/file_path.h"
-#include "import/capture_text.h"
+#include "import/import.h"
 
 #include <gtest/gtest.h>
 
@@ -51,6 +51,24 @@ std::string Complaint(Read read)
         return error.what();
     }
     return {};
+}
+
+/// Everything that the bytes of one file hold.
+inline Captures Read(const std::string& bytes, const CaptureHints& hints = {})
+{
+    Captures captures;
+    ReadCapture(bytes, "file", hints, captures);
+    return captures;
+}
+
+inline NetworksCapture ReadNetworks(const std::string& bytes, const CaptureHints& hints = {})
+{
+    return Read(bytes, hints).networks.value();
+}
+
+inline ImportedScenario Import(const std::string& bytes, const CaptureHints& hints = {})
+{
+    return AssembleScenario(Read(bytes, hints), false);
 }
 
 /// Whether one of the warnings begins like this.

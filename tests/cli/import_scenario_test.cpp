@@ -1,4 +1,3 @@
-#include "import/import.h"
 #include "import_samples.h"
 
 #include <gtest/gtest.h>
@@ -126,8 +125,9 @@ TEST(ImportScenario, TheSecondProfileOfANameIsLeftOutAloud)
     captures.profiles.push_back(ParseExportedProfile(kProfile, "Wi-Fi 2-Juniper.xml"));
     const ImportedScenario imported = AssembleScenario(captures, false);
     EXPECT_EQ(imported.scenario.adapters.at(0).profiles.size(), 1u);
-    EXPECT_EQ(imported.warnings, std::vector<std::string>{"Wi-Fi 2-Juniper.xml: a profile \"Juniper\" was read before, "
-                                                          "this one is left out"});
+    EXPECT_EQ(imported.warnings,
+              std::vector<std::string>{"Wi-Fi 2-Juniper.xml: another profile has the name \"Juniper\"; "
+                                       "this one is left out"});
 }
 
 TEST(ImportScenario, WithoutInterfacesOneAdapterIsMadeUp)
@@ -163,7 +163,7 @@ TEST(ImportScenario, AConnectionToAnAccessPointThatIsNotInTheListIsLeftOutAloud)
     EXPECT_FALSE(imported.scenario.adapters[0].connection);
     EXPECT_EQ(imported.scenario.adapters[0].profiles.size(), 1u);
     EXPECT_EQ(imported.warnings, std::vector<std::string>{"the connection of \"Wi-Fi\" to \"Juniper\" is left out: the "
-                                                          "captured networks hold no such access point"});
+                                                          "captured networks do not list its access point"});
 }
 
 TEST(ImportScenario, AConnectionWhoseProfileDoesNotFitIsLeftOutAloud)
@@ -234,8 +234,7 @@ TEST(ImportScenario, NoProfileIsMadeForSecurityThatNoProfileCanAskFor)
     const ImportedScenario imported = AssembleScenario(captures, true);
     EXPECT_EQ(imported.scenario.adapters.at(0).profiles.size(), 1u);
     ASSERT_FALSE(imported.warnings.empty());
-    EXPECT_EQ(imported.warnings[0],
-              "no profile \"Juniper\" is made up: WPA2PSK with WEP is nothing that a profile can ask for");
+    EXPECT_EQ(imported.warnings[0], "the profile \"Juniper\" cannot be made up: no profile has WPA2PSK with WEP");
     EXPECT_EQ(imported.warnings.size(), 1u) << "one warning for a network, however many access points it has";
 }
 

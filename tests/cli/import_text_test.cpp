@@ -1,4 +1,4 @@
-#include "import/channel_frequency.h"
+#include "import/netsh_values.h"
 #include "import_samples.h"
 
 #include <gtest/gtest.h>
@@ -20,14 +20,6 @@ TEST(CaptureText, FieldsEndAtTheFirstColonAndAreTrimmed)
     EXPECT_EQ(fields[2].value, "");
     EXPECT_TRUE(fields[2].hasColon);
     EXPECT_EQ(fields[2].line, 5u);
-}
-
-TEST(CaptureText, OnlyAKeywordWithANumberIsNumbered)
-{
-    EXPECT_TRUE(IsNumbered("SSID 1", "SSID"));
-    EXPECT_TRUE(IsNumbered("BSSID   12", "BSSID"));
-    for (const char* name : {"SSID", "SSID ", "SSID1", "SSID one", "SSID 1a", "BSSID 1", "ssid 1", ""})
-        EXPECT_FALSE(IsNumbered(name, "SSID")) << name;
 }
 
 struct EncodedText
@@ -90,7 +82,7 @@ TEST(CaptureText, SaysInWhichLineTheEncodingBreaks)
 struct Channel
 {
     const char* band;
-    std::uint32_t number;
+    int number;
     std::uint32_t frequencyKhz; ///< 0: no such channel
 };
 
@@ -101,23 +93,13 @@ TEST(ChannelFrequency, OfEveryBand)
         {"2.4", 15, 0},     {"5", 31, 0},        {"5", 32, 5160000},  {"5", 36, 5180000},   {"5", 44, 5220000},
         {"5", 64, 5320000}, {"5", 100, 5500000}, {"5", 165, 5825000}, {"5", 177, 5885000},  {"5", 178, 0},
         {"6", 0, 0},        {"6", 1, 5955000},   {"6", 2, 5935000},   {"6", 37, 6135000},   {"6", 233, 7115000},
-        {"6", 234, 0},      {"60", 1, 0},        {"", 6, 0},
+        {"6", 234, 0},      {"60", 1, 0},        {"", 0, 0},          {"", 1, 2412000},     {"", 14, 2484000},
+        {"", 15, 0},        {"", 31, 0},         {"", 32, 5160000},   {"", 177, 5885000},   {"", 178, 0},
+        {"", -1, 0},
     };
     for (const Channel& each : cases)
         EXPECT_EQ(CapturedFrequency(each.band, each.number).value_or(0), each.frequencyKhz)
             << each.band << " GHz, channel " << each.number;
-}
-
-TEST(ChannelFrequency, BandFromTheChannelAlone)
-{
-    EXPECT_EQ(BandOfChannel(0), "");
-    EXPECT_EQ(BandOfChannel(1), "2.4");
-    EXPECT_EQ(BandOfChannel(14), "2.4");
-    EXPECT_EQ(BandOfChannel(15), "");
-    EXPECT_EQ(BandOfChannel(31), "");
-    EXPECT_EQ(BandOfChannel(32), "5");
-    EXPECT_EQ(BandOfChannel(177), "5");
-    EXPECT_EQ(BandOfChannel(178), "");
 }
 
 } // namespace calvix::host::test::import_text_test
