@@ -76,6 +76,11 @@ int WholeNumber(std::string_view text)
     return error == std::errc() && end == text.data() + text.size() ? number : -1;
 }
 
+bool IsNumberList(std::string_view text)
+{
+    return !text.empty() && text.find_first_not_of("0123456789., ") == std::string_view::npos;
+}
+
 char32_t SmallLetter(char32_t letter)
 {
     const auto within = [letter](char32_t first, char32_t last) { return letter >= first && letter <= last; };

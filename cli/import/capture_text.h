@@ -54,6 +54,9 @@ int FirstNumber(std::string_view text);
 /// -1 unless the whole text is a decimal number.
 int WholeNumber(std::string_view text);
 
+/// For "1 2 5.5 11": true.
+bool IsNumberList(std::string_view text);
+
 /// The small letter of a capital of the Latin, Greek or Cyrillic script; any other character as it is.
 char32_t SmallLetter(char32_t letter);
 

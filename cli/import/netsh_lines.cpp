@@ -1,7 +1,5 @@
 #include "import/netsh_lines.h"
 
-#include "import/netsh_values.h"
-
 #include <algorithm>
 #include <map>
 

@@ -163,11 +163,6 @@ bool IsBand(std::string_view text)
     return !BandIn(text).empty();
 }
 
-bool IsNumberList(std::string_view text)
-{
-    return !text.empty() && text.find_first_not_of("0123456789., ") == std::string_view::npos;
-}
-
 bool IsAddress(std::string_view text)
 {
     return IsLike(WithColons(std::string(text)), kSampleAddress);

@@ -11,12 +11,11 @@
 namespace calvix::host
 {
 
-/// Whether a value has the shape of a percentage, a radio type ("802.11..."), a band ("5 GHz"), a list of numbers, an
-/// address or a GUID. An address or a GUID may be masked.
+/// Whether a value has the shape of a percentage, a radio type ("802.11..."), a band ("5 GHz"), an address or a
+/// GUID. An address or a GUID may be masked.
 bool IsPercentage(std::string_view text);
 bool IsRadioType(std::string_view text);
 bool IsBand(std::string_view text);
-bool IsNumberList(std::string_view text);
 bool IsAddress(std::string_view text);
 bool IsGuid(std::string_view text);
 

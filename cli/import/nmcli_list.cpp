@@ -267,23 +267,27 @@ private:
 
     void SetSecurity(const ValueRow& row, simulation::AccessPoint& accessPoint)
     {
+        struct Security
+        {
+            std::string_view word;
+            const char* personal;
+            const char* enterprise;
+            const char* cipher; ///< as long as no flags say otherwise
+        };
+        constexpr Security kSecurities[] = {
+            {"WPA3", "WPA3SAE", "WPA3ENT", "AES"}, {"WPA2", "WPA2PSK", "WPA2", "AES"}, {"OWE", "OWE", "OWE", "AES"},
+            {"WPA1", "WPAPSK", "WPA", "TKIP"},     {"WPA", "WPAPSK", "WPA", "TKIP"},   {"WEP", "open", "open", "WEP"},
+            {"OWE-TM", "open", "open", "none"},    {"--", "open", "open", "none"},     {"", "open", "open", "none"}};
         const std::string cell = Cell(row, "SECURITY");
-        const bool enterprise = HasWord(cell, "802.1X") || HasWord(cell, "802.1x");
-        const bool wpa3 = HasWord(cell, "WPA3");
-        const bool wpa2 = HasWord(cell, "WPA2");
-        const bool wpa1 = !wpa3 && !wpa2 && (HasWord(cell, "WPA1") || HasWord(cell, "WPA"));
-        const bool owe = !wpa3 && !wpa2 && HasWord(cell, "OWE");
-        const bool open = cell.empty() || cell == "--" || cell == "OWE-TM";
-        if (!wpa3 && !wpa2 && !wpa1 && !owe && !open && cell != "WEP")
+        const auto* const best = std::find_if(std::begin(kSecurities), std::end(kSecurities),
+                                              [&](const Security& each) { return HasWord(cell, each.word); });
+        if (best == std::end(kSecurities))
             throw LineError(row.line, "\"" + cell + "\" is no known security");
-        accessPoint.authentication = wpa3   ? enterprise ? "WPA3ENT" : "WPA3SAE"
-                                     : wpa2 ? enterprise ? "WPA2" : "WPA2PSK"
-                                     : owe  ? "OWE"
-                                     : wpa1 ? enterprise ? "WPA" : "WPAPSK"
-                                            : "open";
-        accessPoint.encryption = wpa3 || wpa2 || owe ? "AES" : wpa1 ? "TKIP" : open ? "none" : "WEP";
+        const bool isEnterprise = HasWord(cell, "802.1X") || HasWord(cell, "802.1x");
+        accessPoint.authentication = isEnterprise ? best->enterprise : best->personal;
+        accessPoint.encryption = best->cipher;
         SetCipher(Cell(row, "RSN-FLAGS") + " " + Cell(row, "WPA-FLAGS"), accessPoint);
-        if (wpa3 && wpa2)
+        if (HasWord(cell, "WPA3") && HasWord(cell, "WPA2"))
             m_capture.Warn(row.line, "the access point " + forms::AddressText(accessPoint.bssid) +
                                          " takes both WPA2 and WPA3; the scenario has WPA3");
     }
