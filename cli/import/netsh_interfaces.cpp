@@ -185,12 +185,12 @@ CapturedInterface Identify(const CaptureRecord& record, std::size_t index, Captu
     return adapter;
 }
 
-RadioSwitch SwitchState(std::string_view text, std::size_t line, CaptureWarnings& warnings)
+RadioSwitch SwitchState(const std::string& text, std::size_t line, CaptureWarnings& warnings)
 {
     const std::string_view meaning = SwitchOf(text);
     if (meaning.empty())
-        warnings.Warn(line,
-                      "\"" + std::string(text) + "\" is not understood; that switch of the radio is taken to be on");
+        warnings.Warn(line, (text.empty() ? "a switch of the radio is missing" : "\"" + text + "\" is not understood") +
+                                "; it is taken to be on");
     return meaning == "off" ? RadioSwitch::off : RadioSwitch::on;
 }
 
@@ -202,8 +202,8 @@ void ReadSwitches(const CaptureRecord& record, CapturedInterface& adapter, Captu
         return;
     adapter.hardware = SwitchState(hardware->value, hardware->line, warnings);
     const CaptureField* software = hardware + 1;
-    if (software != record.fields.data() + record.fields.size() && !software->hasColon)
-        adapter.software = SwitchState(software->name, software->line, warnings);
+    const bool isThere = software != record.fields.data() + record.fields.size() && !software->hasColon;
+    adapter.software = SwitchState(isThere ? software->name : "", hardware->line + 1, warnings);
 }
 
 const CaptureField& NeedText(const CaptureRecord& record, std::string_view key)

@@ -100,7 +100,7 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
          "Oprogramowanie Wy\xC5\x82\xC4\x85"
          "czone",
          "Oprogramowanie ?",
-         {"file:28: \"Oprogramowanie ?\" is not understood; that switch of the radio is taken to be on"}},
+         {"file:28: \"Oprogramowanie ?\" is not understood; it is taken to be on"}},
         {"polish/networks.txt",
          "Linden Guests",
          "Caf\xC3\x83\xC2\xA9",
