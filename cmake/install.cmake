@@ -1,5 +1,6 @@
 # What `cmake --install` puts where, in four components:
-#   runtime        the shared library and the command-line host, with its manual page and completion
+#   runtime        the shared library (off Windows also libwlanapi.so) and the command-line host, with its manual page and
+#                  completion
 #   development    headers, the import library, the CMake package and the pkg-config file
 #   simulation     on Windows, the simulated computer in the place of the system's WLAN library
 #   documentation  pages, examples and the scenario gallery, in one folder, so that their links to each other hold
@@ -18,11 +19,15 @@ install(TARGETS calvix EXPORT calvix_targets
 if(TARGET calvix_host)
     install(TARGETS calvix_host RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
 endif()
-if(TARGET calvix_dropin)
+if(WIN32)
+    install(TARGETS calvix_wlanapi EXPORT calvix_targets)
     # Not beside the programs: whoever means the system's library must not find this one by accident.
     install(TARGETS calvix_dropin
         RUNTIME DESTINATION "${CMAKE_INSTALL_DATADIR}/calvix/dropin" COMPONENT simulation
         ARCHIVE EXCLUDE_FROM_ALL DESTINATION "${CMAKE_INSTALL_DATADIR}/calvix/dropin" COMPONENT unwanted)
+else()
+    install(TARGETS calvix_dropin EXPORT calvix_targets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
 endif()
 
 install(DIRECTORY include/calvix DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development)

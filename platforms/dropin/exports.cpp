@@ -1,232 +1,135 @@
-// What the DLL exports: the operations by the SDK's own prototypes, each answered by the simulated computer.
+// The functions of the WLAN API that the simulated computer answers, one row each: who answers, how many parameters the
+// platform's prototype has, and the name. The types follow from the prototype, so that a wrong number does not compile.
+// The list of exports is made from these rows and from those of not_supported.cpp.
 
-#include "dropin/module.h"
-#include "dropin/running_computer.h"
+#include "dropin/visible_service.h"
+#include "simulation/wlan_service.h"
+
+#include <calvix/wlan_functions.h>
 
 #include <exception>
 #include <new>
 #include <tuple>
+#include <type_traits>
 
 namespace
 {
 
+using calvix::platform::Operation;
 using calvix::platform::WlanService;
+using calvix::simulation::SimulatedWlanService;
+
+template <typename Function>
+struct Prototype;
+
+template <typename R, typename... Parameters>
+struct Prototype<R(WINAPI*)(Parameters...)>
+{
+    using Result = R;
+    template <std::size_t index>
+    using Parameter = std::tuple_element_t<index, std::tuple<Parameters...>>;
+};
+
+template <typename Result>
+Result Failed(DWORD error)
+{
+    if constexpr (std::is_same_v<Result, DWORD>)
+        return error;
+    else
+        return Result();
+}
 
 // Nothing may be thrown into a program that was not written in C++.
-template <typename Operation>
-DWORD Answer(const Operation& operation) noexcept
+template <typename Result, typename Answer>
+Result AskService(const Answer& answer) noexcept
 {
-    if (calvix::dropin::ProcessIsEnding())
-        return ERROR_SHUTDOWN_IN_PROGRESS;
     try
     {
-        WlanService* const service = calvix::dropin::CurrentService();
-        return service != nullptr ? operation(*service) : ERROR_INVALID_DATA;
+        calvix::dropin::VisibleService visible;
+        const DWORD error = calvix::dropin::FindVisibleService(visible);
+        return error == ERROR_SUCCESS ? answer(visible) : Failed<Result>(error);
     }
     catch (const std::bad_alloc&)
     {
-        return ERROR_NOT_ENOUGH_MEMORY;
+        return Failed<Result>(ERROR_NOT_ENOUGH_MEMORY);
     }
     catch (const std::exception&)
     {
-        return ERROR_INTERNAL_ERROR;
+        return Failed<Result>(ERROR_INTERNAL_ERROR);
     }
 }
 
-template <typename Operation, typename... Arguments>
-DWORD Ask(Operation WlanService::*operation, Arguments... arguments) noexcept
+// The casts are for prototypes of SDKs that declare a pointer to a pointer as a plain one.
+
+template <typename Result, typename... Parameters, typename... Arguments>
+Result Ask(Operation<Result(Parameters...)> WlanService::*operation, Arguments... arguments) noexcept
 {
-    return Answer([&](WlanService& service) { return (service.*operation)(arguments...); });
+    return AskService<Result>([&](const auto& visible)
+                              { return (visible.operations->*operation)(static_cast<Parameters>(arguments)...); });
 }
 
-template <typename Function>
-struct ParametersOf;
-
-template <typename Result, typename... Parameters>
-struct ParametersOf<Result(WINAPI*)(Parameters...)>
+template <typename Result, typename... Parameters, typename... Arguments>
+Result Ask(Result (SimulatedWlanService::*function)(Parameters...), Arguments... arguments) noexcept
 {
-    using Types = std::tuple<Parameters...>;
-};
-
-// A pointer to a pointer, which some SDKs declare as a plain one.
-using AutoConfigData = std::tuple_element_t<4, ParametersOf<decltype(&WlanQueryAutoConfigParameter)>::Types>;
+    return AskService<Result>([&](const auto& visible)
+                              { return (visible.service->*function)(static_cast<Parameters>(arguments)...); });
+}
 
 } // namespace
 
-extern "C"
-{
+// clang-format off
 
-    DWORD WINAPI WlanOpenHandle(DWORD clientVersion, PVOID reserved, PDWORD negotiatedVersion, PHANDLE client)
-    {
-        return Ask(&WlanService::WlanOpenHandle, clientVersion, reserved, negotiatedVersion, client);
+#define CALVIX_PARAMETER(name, index) Prototype<decltype(&::name)>::Parameter<index> argument##index
+#define CALVIX_PARAMETERS_1(name) CALVIX_PARAMETER(name, 0)
+#define CALVIX_PARAMETERS_2(name) CALVIX_PARAMETERS_1(name), CALVIX_PARAMETER(name, 1)
+#define CALVIX_PARAMETERS_3(name) CALVIX_PARAMETERS_2(name), CALVIX_PARAMETER(name, 2)
+#define CALVIX_PARAMETERS_4(name) CALVIX_PARAMETERS_3(name), CALVIX_PARAMETER(name, 3)
+#define CALVIX_PARAMETERS_5(name) CALVIX_PARAMETERS_4(name), CALVIX_PARAMETER(name, 4)
+#define CALVIX_PARAMETERS_6(name) CALVIX_PARAMETERS_5(name), CALVIX_PARAMETER(name, 5)
+#define CALVIX_PARAMETERS_7(name) CALVIX_PARAMETERS_6(name), CALVIX_PARAMETER(name, 6)
+#define CALVIX_PARAMETERS_8(name) CALVIX_PARAMETERS_7(name), CALVIX_PARAMETER(name, 7)
+#define CALVIX_ARGUMENTS_1 argument0
+#define CALVIX_ARGUMENTS_2 CALVIX_ARGUMENTS_1, argument1
+#define CALVIX_ARGUMENTS_3 CALVIX_ARGUMENTS_2, argument2
+#define CALVIX_ARGUMENTS_4 CALVIX_ARGUMENTS_3, argument3
+#define CALVIX_ARGUMENTS_5 CALVIX_ARGUMENTS_4, argument4
+#define CALVIX_ARGUMENTS_6 CALVIX_ARGUMENTS_5, argument5
+#define CALVIX_ARGUMENTS_7 CALVIX_ARGUMENTS_6, argument6
+#define CALVIX_ARGUMENTS_8 CALVIX_ARGUMENTS_7, argument7
+#define CALVIX_EXPORT(service, count, name)                                                                            \
+    extern "C" Prototype<decltype(&::name)>::Result WINAPI name(CALVIX_PARAMETERS_##count(name))                       \
+    {                                                                                                                  \
+        return Ask(&service::name, CALVIX_ARGUMENTS_##count);                                                          \
     }
 
-    DWORD WINAPI WlanCloseHandle(HANDLE client, PVOID reserved)
-    {
-        return Ask(&WlanService::WlanCloseHandle, client, reserved);
-    }
+CALVIX_EXPORT(WlanService, 2, WlanCloseHandle)
+CALVIX_EXPORT(WlanService, 4, WlanConnect)
+CALVIX_EXPORT(WlanService, 4, WlanDeleteProfile)
+CALVIX_EXPORT(WlanService, 3, WlanDisconnect)
+CALVIX_EXPORT(WlanService, 3, WlanEnumInterfaces)
+CALVIX_EXPORT(WlanService, 1, WlanFreeMemory)
+CALVIX_EXPORT(WlanService, 5, WlanGetAvailableNetworkList)
+CALVIX_EXPORT(WlanService, 7, WlanGetNetworkBssList)
+CALVIX_EXPORT(WlanService, 7, WlanGetProfile)
+CALVIX_EXPORT(WlanService, 4, WlanGetProfileList)
+CALVIX_EXPORT(WlanService, 8, WlanIhvControl)
+CALVIX_EXPORT(WlanService, 4, WlanOpenHandle)
+CALVIX_EXPORT(WlanService, 6, WlanQueryAutoConfigParameter)
+CALVIX_EXPORT(WlanService, 7, WlanQueryInterface)
+CALVIX_EXPORT(WlanService, 4, WlanReasonCodeToString)
+CALVIX_EXPORT(WlanService, 7, WlanRegisterNotification)
+CALVIX_EXPORT(WlanService, 5, WlanScan)
+CALVIX_EXPORT(WlanService, 6, WlanSetInterface)
+CALVIX_EXPORT(WlanService, 8, WlanSetProfile)
+CALVIX_EXPORT(WlanService, 5, WlanSetProfilePosition)
+CALVIX_EXPORT(WlanService, 3, WlanSetSecuritySettings)
 
-    DWORD WINAPI WlanEnumInterfaces(HANDLE client, PVOID reserved, PWLAN_INTERFACE_INFO_LIST* list)
-    {
-        return Ask(&WlanService::WlanEnumInterfaces, client, reserved, list);
-    }
-
-    DWORD WINAPI WlanScan(
-        HANDLE client, const GUID* interfaceGuid, const PDOT11_SSID ssid, const PWLAN_RAW_DATA ieData, PVOID reserved)
-    {
-        return Ask(&WlanService::WlanScan, client, interfaceGuid, ssid, ieData, reserved);
-    }
-
-    DWORD WINAPI WlanGetAvailableNetworkList(
-        HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, PWLAN_AVAILABLE_NETWORK_LIST* list)
-    {
-        return Ask(&WlanService::WlanGetAvailableNetworkList, client, interfaceGuid, flags, reserved, list);
-    }
-
-    DWORD WINAPI WlanGetNetworkBssList(HANDLE client,
-                                       const GUID* interfaceGuid,
-                                       const PDOT11_SSID ssid,
-                                       DOT11_BSS_TYPE bssType,
-                                       BOOL securityEnabled,
-                                       PVOID reserved,
-                                       PWLAN_BSS_LIST* list)
-    {
-        return Ask(&WlanService::WlanGetNetworkBssList, client, interfaceGuid, ssid, bssType, securityEnabled, reserved,
-                   list);
-    }
-
-    DWORD WINAPI WlanQueryInterface(HANDLE client,
-                                    const GUID* interfaceGuid,
-                                    WLAN_INTF_OPCODE opcode,
-                                    PVOID reserved,
-                                    PDWORD dataSize,
-                                    PVOID* data,
-                                    PWLAN_OPCODE_VALUE_TYPE valueType)
-    {
-        return Ask(&WlanService::WlanQueryInterface, client, interfaceGuid, opcode, reserved, dataSize, data,
-                   valueType);
-    }
-
-    DWORD WINAPI WlanSetInterface(HANDLE client,
-                                  const GUID* interfaceGuid,
-                                  WLAN_INTF_OPCODE opcode,
-                                  DWORD dataSize,
-                                  const PVOID data,
-                                  PVOID reserved)
-    {
-        return Ask(&WlanService::WlanSetInterface, client, interfaceGuid, opcode, dataSize, data, reserved);
-    }
-
-    DWORD WINAPI WlanQueryAutoConfigParameter(HANDLE client,
-                                              WLAN_AUTOCONF_OPCODE opcode,
-                                              PVOID reserved,
-                                              PDWORD dataSize,
-                                              AutoConfigData data,
-                                              PWLAN_OPCODE_VALUE_TYPE valueType)
-    {
-        return Ask(&WlanService::WlanQueryAutoConfigParameter, client, opcode, reserved, dataSize,
-                   static_cast<PVOID*>(data), valueType);
-    }
-
-    DWORD WINAPI WlanGetProfileList(HANDLE client,
-                                    const GUID* interfaceGuid,
-                                    PVOID reserved,
-                                    PWLAN_PROFILE_INFO_LIST* list)
-    {
-        return Ask(&WlanService::WlanGetProfileList, client, interfaceGuid, reserved, list);
-    }
-
-    DWORD WINAPI WlanGetProfile(HANDLE client,
-                                const GUID* interfaceGuid,
-                                LPCWSTR name,
-                                PVOID reserved,
-                                LPWSTR* xml,
-                                DWORD* flags,
-                                PDWORD grantedAccess)
-    {
-        return Ask(&WlanService::WlanGetProfile, client, interfaceGuid, name, reserved, xml, flags, grantedAccess);
-    }
-
-    DWORD WINAPI WlanSetProfile(HANDLE client,
-                                const GUID* interfaceGuid,
-                                DWORD flags,
-                                LPCWSTR xml,
-                                LPCWSTR allUserProfileSecurity,
-                                BOOL overwrite,
-                                PVOID reserved,
-                                DWORD* reasonCode)
-    {
-        return Ask(&WlanService::WlanSetProfile, client, interfaceGuid, flags, xml, allUserProfileSecurity, overwrite,
-                   reserved, reasonCode);
-    }
-
-    DWORD WINAPI WlanDeleteProfile(HANDLE client, const GUID* interfaceGuid, LPCWSTR name, PVOID reserved)
-    {
-        return Ask(&WlanService::WlanDeleteProfile, client, interfaceGuid, name, reserved);
-    }
-
-    DWORD WINAPI
-    WlanSetProfilePosition(HANDLE client, const GUID* interfaceGuid, LPCWSTR name, DWORD position, PVOID reserved)
-    {
-        return Ask(&WlanService::WlanSetProfilePosition, client, interfaceGuid, name, position, reserved);
-    }
-
-    DWORD WINAPI WlanConnect(HANDLE client,
-                             const GUID* interfaceGuid,
-                             const PWLAN_CONNECTION_PARAMETERS parameters,
-                             PVOID reserved)
-    {
-        return Ask(&WlanService::WlanConnect, client, interfaceGuid, parameters, reserved);
-    }
-
-    DWORD WINAPI WlanDisconnect(HANDLE client, const GUID* interfaceGuid, PVOID reserved)
-    {
-        return Ask(&WlanService::WlanDisconnect, client, interfaceGuid, reserved);
-    }
-
-    DWORD WINAPI WlanRegisterNotification(HANDLE client,
-                                          DWORD source,
-                                          BOOL ignoreDuplicate,
-                                          WLAN_NOTIFICATION_CALLBACK callback,
-                                          PVOID context,
-                                          PVOID reserved,
-                                          PDWORD previousSource)
-    {
-        return Ask(&WlanService::WlanRegisterNotification, client, source, ignoreDuplicate, callback, context, reserved,
-                   previousSource);
-    }
-
-    DWORD WINAPI WlanIhvControl(HANDLE client,
-                                const GUID* interfaceGuid,
-                                WLAN_IHV_CONTROL_TYPE type,
-                                DWORD inputSize,
-                                PVOID input,
-                                DWORD outputSize,
-                                PVOID output,
-                                PDWORD bytesReturned)
-    {
-        return Ask(&WlanService::WlanIhvControl, client, interfaceGuid, type, inputSize, input, outputSize, output,
-                   bytesReturned);
-    }
-
-    DWORD WINAPI WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, LPCWSTR sddl)
-    {
-        return Ask(&WlanService::WlanSetSecuritySettings, client, object, sddl);
-    }
-
-    DWORD WINAPI WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, PWCHAR buffer, PVOID reserved)
-    {
-        return Ask(&WlanService::WlanReasonCodeToString, reasonCode, bufferSize, buffer, reserved);
-    }
-
-    VOID WINAPI WlanFreeMemory(PVOID memory)
-    {
-        Answer(
-            [memory](WlanService& service)
-            {
-                service.WlanFreeMemory(memory);
-                return DWORD{ERROR_SUCCESS};
-            });
-    }
-
-} // extern "C"
+CALVIX_EXPORT(SimulatedWlanService, 1, WlanAllocateMemory)
+CALVIX_EXPORT(SimulatedWlanService, 4, WlanGetInterfaceCapability)
+CALVIX_EXPORT(SimulatedWlanService, 6, WlanGetProfileCustomUserData)
+CALVIX_EXPORT(SimulatedWlanService, 5, WlanGetSecuritySettings)
+CALVIX_EXPORT(SimulatedWlanService, 5, WlanRenameProfile)
+CALVIX_EXPORT(SimulatedWlanService, 7, WlanSaveTemporaryProfile)
+CALVIX_EXPORT(SimulatedWlanService, 5, WlanSetAutoConfigParameter)
+CALVIX_EXPORT(SimulatedWlanService, 6, WlanSetProfileCustomUserData)
+CALVIX_EXPORT(SimulatedWlanService, 5, WlanSetProfileList)

@@ -28,6 +28,14 @@ GUID ReadGuid(const std::string& text)
     return *guid;
 }
 
+std::vector<std::pair<MacAddress, Bytes>> Listed(const std::vector<HeardBss>& heard)
+{
+    std::vector<std::pair<MacAddress, Bytes>> listed;
+    for (const HeardBss& bss : heard)
+        listed.emplace_back(bss.accessPoint.bssid, bss.Ssid());
+    return listed;
+}
+
 bool IsOn(const PhyDescription& phy)
 {
     return phy.software == RadioSwitch::on && phy.hardware == RadioSwitch::on;
@@ -56,9 +64,9 @@ Adapter::Adapter(const AdapterDescription& description, const Surroundings& surr
     LoadProfiles();
     if (IsRadioOn())
         m_heard = Listen(m_around.air, std::nullopt, m_around.time.Now());
-    m_networksKnown = !m_heard.empty();
     if (m_description.connection)
         Restore(*m_description.connection);
+    m_listed = Listed(m_heard);
     m_around.time.Schedule(ownScanInterval, [this] { ScanByItself(); });
     StartLinkWatch();
 }
@@ -113,7 +121,7 @@ AdapterDescription Adapter::Describe() const
     for (const auto& profile : m_profiles.InOrder())
         now.profiles.push_back({forms::Utf8FromWide(profile->xml)});
     now.connection.reset();
-    if (m_link)
+    if (m_link && !m_link->request.HasTemporaryProfile())
         now.connection = Connection{forms::Utf8FromWide(m_link->Profile().name), m_link->accessPoint.bssid,
                                     m_link->receiveKbps, m_link->transmitKbps};
     return now;
@@ -188,15 +196,17 @@ void Adapter::StopScan()
     m_askedSsid.reset();
 }
 
-// Clients are told when the first network comes into reach and when the last one has gone.
+// Clients are told when an access point has come, gone or told its name, and beside that when the first network comes
+// into reach and when the last one has gone.
 void Adapter::NoticeNetworks()
 {
-    const bool areThere = !m_heard.empty();
-    if (areThere != m_networksKnown)
+    const auto before = std::exchange(m_listed, Listed(m_heard));
+    if (m_listed != before)
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, acm::scan_list_refresh);
+    if (m_listed.empty() != before.empty())
     {
-        m_networksKnown = areThere;
-        Notify(WLAN_NOTIFICATION_SOURCE_ACM,
-               areThere ? wlan_notification_acm_network_available : wlan_notification_acm_network_not_available);
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, m_listed.empty() ? wlan_notification_acm_network_not_available
+                                                              : wlan_notification_acm_network_available);
     }
 }
 
@@ -226,6 +236,12 @@ void Adapter::SetBackgroundScan(bool enabled)
     }
 }
 
+void Adapter::SetBssType(DOT11_BSS_TYPE type)
+{
+    if (std::exchange(m_bssType, type) != type)
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_bss_type_change, RecordBytes(type));
+}
+
 const IhvAnswer* Adapter::AnswerIhv(const Bytes& request) const
 {
     const auto known = m_description.ihv.find(request);
@@ -246,6 +262,39 @@ DWORD Adapter::MoveProfile(const std::wstring& name, DWORD position)
     if (error == ERROR_SUCCESS)
         Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
     return error;
+}
+
+DWORD Adapter::ArrangeProfiles(const std::vector<std::wstring>& names)
+{
+    const DWORD error = m_profiles.Arrange(names);
+    if (error == ERROR_SUCCESS)
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
+    return error;
+}
+
+DWORD Adapter::RenameProfile(const std::wstring& name, const std::wstring& newName)
+{
+    const DWORD error = m_profiles.Rename(name, newName);
+    if (error == ERROR_SUCCESS)
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_name_change);
+    return error;
+}
+
+// Chosen: from then on the connection is one of the stored profile.
+DWORD Adapter::SaveTemporaryProfile(const wchar_t* name, DWORD flags, bool overwrite)
+{
+    if (!m_link || !m_link->request.HasTemporaryProfile())
+        return ERROR_INVALID_STATE;
+    ConnectionRequest& request = m_link->request;
+    Profile saved = name != nullptr ? WithName(*request.profile, name) : *request.profile;
+    saved.flags = flags;
+    const std::wstring savedName = saved.document.name;
+    const DWORD error = StoreProfile(std::move(saved), overwrite);
+    if (error != ERROR_SUCCESS)
+        return error;
+    request.profile = m_profiles.Find(savedName);
+    request.mode = wlan_connection_mode_profile;
+    return ERROR_SUCCESS;
 }
 
 DWORD Adapter::DeleteProfile(const std::wstring& name)

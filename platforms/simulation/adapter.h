@@ -12,6 +12,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace calvix::simulation
@@ -24,6 +25,12 @@ struct ConnectionRequest
     std::vector<MacAddress> desiredBssids; ///< empty: any
     bool hiddenNetwork = false;            ///< look for a hidden network, whatever the profile says
     WLAN_CONNECTION_MODE mode = wlan_connection_mode_profile;
+
+    /// Whether the profile came with the request, or was made up for it, and is none of the stored ones.
+    bool HasTemporaryProfile() const
+    {
+        return mode != wlan_connection_mode_profile && mode != wlan_connection_mode_auto;
+    }
 };
 
 /// A connection that stands.
@@ -90,6 +97,13 @@ public:
     /// The profile store's operations, of which clients are told.
     DWORD StoreProfile(Profile profile, bool overwrite);
     DWORD MoveProfile(const std::wstring& name, DWORD position);
+    DWORD ArrangeProfiles(const std::vector<std::wstring>& names);
+    /// Chosen: a connection that was made with it stands, under the name that it was made with.
+    DWORD RenameProfile(const std::wstring& name, const std::wstring& newName);
+    void SetCustomData(const std::wstring& name, Bytes data) { m_profiles.SetCustomData(name, std::move(data)); }
+    /// Stores the temporary profile that the connection was made with; without a name, under its own.
+    /// ERROR_INVALID_STATE where no such connection stands.
+    DWORD SaveTemporaryProfile(const wchar_t* name, DWORD flags, bool overwrite);
     /// Also ends a connection that was made or is being made with it.
     DWORD DeleteProfile(const std::wstring& name);
 
@@ -111,6 +125,13 @@ public:
     /// Whether it scans by itself while connected, too.
     bool HasBackgroundScan() const { return m_description.backgroundScan; }
     void SetBackgroundScan(bool enabled);
+
+    /// Settings that are kept and told, and change nothing else: nothing is streamed, and a profile says which type of
+    /// network it is for.
+    bool HasMediaStreaming() const { return m_mediaStreaming; }
+    void SetMediaStreaming(bool enabled) { m_mediaStreaming = enabled; }
+    DOT11_BSS_TYPE BssType() const { return m_bssType; }
+    void SetBssType(DOT11_BSS_TYPE type);
 
     /// What the driver answers to a vendor request, or null where it does not know it.
     const IhvAnswer* AnswerIhv(const Bytes& request) const;
@@ -157,9 +178,11 @@ private:
 
     ProfileStore m_profiles;
     std::vector<HeardBss> m_heard;
-    bool m_networksKnown = false; ///< whether clients were told that there is a network to connect to
+    std::vector<std::pair<MacAddress, Bytes>> m_listed; ///< the access points and SSIDs that clients know to be listed
     bool m_scanning = false;
     EventQueue::EventId m_scanEvent = 0;
+    bool m_mediaStreaming = false;
+    DOT11_BSS_TYPE m_bssType = dot11_BSS_type_infrastructure;
     std::optional<Bytes> m_askedSsid;
 
     WLAN_INTERFACE_STATE m_state = wlan_interface_state_disconnected;

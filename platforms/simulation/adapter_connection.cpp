@@ -42,6 +42,12 @@ bool IsWrongKey(const ProfileDocument& profile, const AccessPoint& accessPoint)
            profile.key != accessPoint.key;
 }
 
+// Chosen: there is nobody whom the service could ask for a key.
+bool LacksKey(const ConnectionRequest& request, const AccessPoint& accessPoint)
+{
+    return request.HasTemporaryProfile() && request.profile->document.key.empty() && !accessPoint.key.empty();
+}
+
 } // namespace
 
 // Connecting looks for the network anew, so that an access point counts before any scan has heard it.
@@ -122,6 +128,8 @@ DWORD Adapter::Outcome(const AccessPoint* target) const
         return WLAN_REASON_CODE_NO_VISIBLE_AP;
     if (!target->answers)
         return WLAN_REASON_CODE_ASSOCIATION_TIMEOUT;
+    if (LacksKey(m_attempt->request, *target))
+        return WLAN_REASON_CODE_MSMSEC_UI_REQUEST_FAILURE;
     const bool isWrongKey = IsWrongKey(m_attempt->request.profile->document, *target);
     return isWrongKey ? WLAN_REASON_CODE_MSMSEC_PSK_MISMATCH_SUSPECTED : WLAN_REASON_CODE_SUCCESS;
 }

@@ -124,6 +124,11 @@ void Computer::ClearDebuggerLines()
     m_parts->machine.debuggerLines.clear();
 }
 
+SimulatedWlanService& Computer::service()
+{
+    return m_parts->wlan;
+}
+
 Accounts Computer::Audit()
 {
     Machine& machine = m_parts->machine;

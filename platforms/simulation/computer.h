@@ -13,6 +13,7 @@ namespace calvix::simulation
 {
 
 struct Facilities;
+class SimulatedWlanService;
 
 /// What the computer noticed that a correct program does not do, or keeps while it should not.
 struct Accounts
@@ -70,6 +71,9 @@ public:
     /// What went to the debugger so far, in order, one element a call.
     const std::vector<std::string>& DebuggerLines() const;
     void ClearDebuggerLines();
+
+    /// The WLAN service with all of its functions, those beside the platform's operations included.
+    SimulatedWlanService& service();
 
     /// Checks every freed block for writes and reports what is still held.
     Accounts Audit();

@@ -118,4 +118,40 @@ InterfaceAnswer AnswerStatistics(Blocks& blocks, const Adapter& adapter)
     return {answer, size};
 }
 
+InterfaceAnswer AnswerSuites(Blocks& blocks, const std::vector<SecuritySuite>& suites)
+{
+    constexpr std::size_t header = offsetof(WLAN_AUTH_CIPHER_PAIR_LIST, pAuthCipherPairList);
+    const std::size_t size = header + suites.size() * sizeof(DOT11_AUTH_CIPHER_PAIR);
+    auto* const answer = NewAnswer<WLAN_AUTH_CIPHER_PAIR_LIST>(blocks, size);
+    answer->dwNumberOfItems = static_cast<DWORD>(suites.size());
+    // Some SDKs declare the pairs as one.
+    auto* pair = reinterpret_cast<DOT11_AUTH_CIPHER_PAIR*>(reinterpret_cast<char*>(answer) + header);
+    for (const SecuritySuite& suite : suites)
+        *pair++ = {suite.authentication, suite.encryption};
+    return {answer, size};
+}
+
+// Chosen: the world, which is written with two blanks and an X, and nothing else.
+InterfaceAnswer AnswerCountries(Blocks& blocks)
+{
+    auto* const answer = NewAnswer<WLAN_COUNTRY_OR_REGION_STRING_LIST>(blocks);
+    answer->dwNumberOfItems = 1;
+    std::memcpy(answer->pCountryOrRegionStringList[0], "  X", sizeof(DOT11_COUNTRY_OR_REGION_STRING));
+    return {answer, sizeof(*answer)};
+}
+
+// Chosen: an adapter with a driver of its own kind, which looks for one SSID and as many access points as it is told.
+WLAN_INTERFACE_CAPABILITY* MakeCapability(Blocks& blocks, const Adapter& adapter)
+{
+    auto* const capability =
+        NewRecord<WLAN_INTERFACE_CAPABILITY>(blocks, sizeof(WLAN_INTERFACE_CAPABILITY), "capability");
+    capability->interfaceType = wlan_interface_type_native_802_11;
+    capability->bDot11DSupported = TRUE;
+    capability->dwMaxDesiredSsidListSize = 1;
+    capability->dwMaxDesiredBssidListSize = 32;
+    for (const PhyDescription& phy : adapter.Phys())
+        capability->dot11PhyTypes[capability->dwNumberOfSupportedPhys++] = static_cast<DOT11_PHY_TYPE>(phy.type);
+    return capability;
+}
+
 } // namespace calvix::simulation

@@ -21,6 +21,11 @@ InterfaceAnswer AnswerChannel(Blocks& blocks, const Adapter& adapter);
 InterfaceAnswer AnswerRssi(Blocks& blocks, const Adapter& adapter);
 InterfaceAnswer AnswerRadioState(Blocks& blocks, const Adapter& adapter);
 InterfaceAnswer AnswerStatistics(Blocks& blocks, const Adapter& adapter);
+InterfaceAnswer AnswerSuites(Blocks& blocks, const std::vector<SecuritySuite>& suites);
+InterfaceAnswer AnswerCountries(Blocks& blocks);
+
+/// What WlanGetInterfaceCapability hands out.
+WLAN_INTERFACE_CAPABILITY* MakeCapability(Blocks& blocks, const Adapter& adapter);
 
 /// An answer that is one number, in the type in which the service gives it.
 template <typename Number>

@@ -39,6 +39,9 @@ struct Machine
     bool locationConsent;
     bool administrator;
     DWORD powerSetting;
+    BOOL showDeniedNetworks = FALSE;
+    BOOL allowExplicitCredentials = TRUE;
+    DWORD blockPeriod = 0;                                          ///< seconds
     std::map<WLAN_SECURABLE_OBJECT, std::wstring> securitySettings; ///< as SDDL, what was set since the start
     std::vector<AccessPoint> air; ///< what could be heard now; adapters know what they heard last
 

@@ -188,13 +188,14 @@ private:
         entry.dot11PhyTypes[entry.uNumberOfPhyTypes++] = type;
     }
 
-    // Of a network's entries only the one of the profile in use is marked.
+    // Of a network's entries only the one of the profile in use is marked; all of them where it is none of the stored ones.
     bool IsConnected(const Network& network, const Profile* profile) const
     {
         if (m_input.link == nullptr)
             return false;
         const ProfileDocument& used = m_input.link->Profile();
-        const bool isSameProfile = profile != nullptr && profile->document.name == used.name;
+        const bool isSameProfile =
+            m_input.link->request.HasTemporaryProfile() || (profile != nullptr && profile->document.name == used.name);
         return isSameProfile && network.ssid == used.ssid && network.security == used.security &&
                network.bssType == used.bssType;
     }

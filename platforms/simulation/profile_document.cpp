@@ -2,6 +2,7 @@
 
 #include "forms/hex_text.h"
 #include "forms/utf8.h"
+#include "forms/xml_text.h"
 #include "platform/records/error_numbers.h"
 #include "platform/records/wlan_constants.h"
 
@@ -76,7 +77,7 @@ bool ReadFlag(const Element& parent, const char* name, bool otherwise)
 std::wstring ReadName(const Element& root)
 {
     std::wstring name = forms::WideFromUtf8(ElementText(Child(root, "name", WLAN_REASON_CODE_INVALID_PROFILE_NAME)));
-    if (name.empty() || name.size() > longestName)
+    if (!IsProfileName(name))
         Refuse(WLAN_REASON_CODE_INVALID_PROFILE_NAME);
     return name;
 }
@@ -150,7 +151,7 @@ void ReadSecurity(const Element& root, ProfileDocument& profile)
     profile.key = ReadKey(security, suite);
 }
 
-ProfileDocument ReadProfile(const Element& root)
+ProfileDocument ReadDocument(const Element& root)
 {
     ProfileDocument profile;
     profile.name = ReadName(root);
@@ -212,7 +213,7 @@ std::optional<ProfileDocument> ParseProfile(const std::string& xml, ProfileRefus
         text.push_back('\0');
         rapidxml::xml_document<char> document;
         document.parse<rapidxml::parse_validate_closing_tags>(text.data());
-        return ReadProfile(Child(document, "WLANProfile"));
+        return ReadDocument(Child(document, "WLANProfile"));
     }
     catch (const rapidxml::parse_error&)
     {
@@ -249,6 +250,18 @@ std::wstring WithPlainKey(const std::wstring& xml)
     std::wstring result = xml;
     ReplaceText(result, L"protected", L"false");
     ReplaceText(result, L"keyMaterial", forms::WideFromUtf8(std::string(bytes->begin(), bytes->end())));
+    return result;
+}
+
+bool IsProfileName(std::wstring_view name)
+{
+    return !name.empty() && name.size() <= longestName;
+}
+
+std::wstring WithName(const std::wstring& xml, const std::wstring& name)
+{
+    std::wstring result = xml;
+    ReplaceText(result, L"name", forms::WideFromUtf8(forms::EscapedXml(forms::Utf8FromWide(name))));
     return result;
 }
 

@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace calvix::simulation
 {
@@ -38,5 +39,11 @@ std::optional<ProfileDocument> ParseProfile(const std::string& xml, ProfileRefus
 /// document without such a key as it is.
 std::wstring WithProtectedKey(const std::wstring& xml);
 std::wstring WithPlainKey(const std::wstring& xml);
+
+/// Whether a profile can be called so.
+bool IsProfileName(std::wstring_view name);
+
+/// The profile with another name, which is its first element.
+std::wstring WithName(const std::wstring& xml, const std::wstring& name);
 
 } // namespace calvix::simulation

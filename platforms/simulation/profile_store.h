@@ -5,8 +5,10 @@
 #include <calvix/platform_records.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace calvix::simulation
@@ -19,6 +21,13 @@ struct Profile
     ProfileDocument document;
     DWORD flags = 0; ///< WLAN_PROFILE_GROUP_POLICY, WLAN_PROFILE_USER; 0: for all users
 };
+
+/// Reads a profile as a program hands it in, its key protected or not. Nothing is returned, and `refusal` says why, when
+/// it cannot be used.
+std::optional<Profile> ReadProfile(const wchar_t* xml, DWORD flags, ProfileRefusal& refusal);
+
+/// The same profile under another name.
+Profile WithName(const Profile& profile, const std::wstring& name);
 
 /// One adapter's profiles, in preference order. Operations answer with the service's error numbers.
 class ProfileStore
@@ -44,11 +53,23 @@ public:
     /// Moves a profile; 0 is the first position. ERROR_NOT_FOUND for an unknown name and for a position out of range.
     DWORD Move(const std::wstring& name, DWORD position);
 
+    /// Puts all profiles in the order of `names`. ERROR_INVALID_PARAMETER unless it has each name once, and those of group
+    /// policies where they are now (chosen); ERROR_NOT_FOUND for an unknown name.
+    DWORD Arrange(const std::vector<std::wstring>& names);
+
+    /// ERROR_NOT_FOUND for an unknown name, ERROR_ALREADY_EXISTS for a new one that is taken (chosen).
+    DWORD Rename(const std::wstring& name, const std::wstring& newName);
+
+    /// What programs keep with a profile: bytes that only they understand, none by default. They go with the profile.
+    Bytes CustomData(const std::wstring& name) const;
+    void SetCustomData(const std::wstring& name, Bytes data) { m_customData[name] = std::move(data); }
+
 private:
     List::iterator FindInOrder(const std::wstring& name);
 
     List m_order;
     std::unordered_map<std::wstring, std::shared_ptr<const Profile>> m_byName;
+    std::unordered_map<std::wstring, Bytes> m_customData;
 };
 
 } // namespace calvix::simulation

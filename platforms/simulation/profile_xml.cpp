@@ -105,4 +105,10 @@ std::string MakeProfileXml(const ProfileSettings& settings)
     return xml.Finish();
 }
 
+std::string ProfileNameFor(const Bytes& ssid)
+{
+    const std::string text(ssid.begin(), ssid.end());
+    return IsXmlText(text) ? text : forms::HexText(ssid);
+}
+
 } // namespace calvix::simulation

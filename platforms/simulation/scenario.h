@@ -174,4 +174,7 @@ struct ProfileSettings
 };
 std::string MakeProfileXml(const ProfileSettings& settings);
 
+/// What a profile for an SSID is called when nobody says so: the SSID as text, or in hexadecimal where it is none.
+std::string ProfileNameFor(const Bytes& ssid);
+
 } // namespace calvix::simulation

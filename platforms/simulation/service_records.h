@@ -5,6 +5,7 @@
 
 #include <calvix/platform_records.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <string>
@@ -27,6 +28,15 @@ template <std::size_t capacity>
 void CopyText(const std::wstring& text, wchar_t (&field)[capacity])
 {
     field[text.copy(field, capacity - 1)] = L'\0';
+}
+
+/// A copy of a text in a block of the service's allocator.
+inline wchar_t* NewText(Blocks& blocks, const std::wstring& text, const char* what)
+{
+    const std::size_t count = text.size() + 1;
+    auto* const copy = static_cast<wchar_t*>(blocks.Allocate(count * sizeof(wchar_t), what));
+    std::copy_n(text.c_str(), count, copy);
+    return copy;
 }
 
 inline DOT11_SSID MakeSsid(const Bytes& bytes)

@@ -94,6 +94,12 @@ DWORD SimulatedWlanService::WlanScan(
     return ERROR_SUCCESS;
 }
 
+PVOID SimulatedWlanService::WlanAllocateMemory(DWORD size)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    return m_machine.wlanBlocks.Allocate(size, "memory of a client");
+}
+
 void SimulatedWlanService::WlanFreeMemory(PVOID memory)
 {
     const std::lock_guard lock(m_machine.mutex);

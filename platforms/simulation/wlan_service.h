@@ -10,11 +10,12 @@ namespace calvix::simulation
 
 /// The WLAN client service of a simulated computer. Every caller has every right but for what needs an administrator.
 /// Any thread may call any operation, notification callbacks included; each is done under the machine's mutex.
-class SimulatedWlanService final
+class SimulatedWlanService
 {
 public:
     /// `machine` outlives this object.
     explicit SimulatedWlanService(Machine& machine) : m_machine(machine) {}
+    virtual ~SimulatedWlanService() = default;
 
     DWORD WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client);
     DWORD WlanCloseHandle(HANDLE client, PVOID reserved);
@@ -89,6 +90,41 @@ public:
     DWORD WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl);
     DWORD WlanReasonCodeToString(DWORD reasonCode, DWORD bufferSize, wchar_t* buffer, PVOID reserved);
     void WlanFreeMemory(PVOID memory);
+
+    // What the WLAN API has beside the operations that the library calls: other programs call it through
+    // platforms/dropin. Virtual, because libwlanapi.so calls it on the service that libcalvix.so has.
+
+    virtual PVOID WlanAllocateMemory(DWORD size);
+    virtual DWORD WlanGetInterfaceCapability(HANDLE client,
+                                             const GUID* interfaceGuid,
+                                             PVOID reserved,
+                                             WLAN_INTERFACE_CAPABILITY** capability);
+    virtual DWORD
+    WlanSetProfileList(HANDLE client, const GUID* interfaceGuid, DWORD count, const wchar_t** names, PVOID reserved);
+    virtual DWORD WlanRenameProfile(
+        HANDLE client, const GUID* interfaceGuid, const wchar_t* name, const wchar_t* newName, PVOID reserved);
+    virtual DWORD WlanSaveTemporaryProfile(HANDLE client,
+                                           const GUID* interfaceGuid,
+                                           const wchar_t* name,
+                                           const wchar_t* allUserProfileSecurity,
+                                           DWORD flags,
+                                           BOOL overwrite,
+                                           PVOID reserved);
+    virtual DWORD WlanGetProfileCustomUserData(
+        HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved, DWORD* dataSize, BYTE** data);
+    virtual DWORD WlanSetProfileCustomUserData(HANDLE client,
+                                               const GUID* interfaceGuid,
+                                               const wchar_t* name,
+                                               DWORD dataSize,
+                                               const BYTE* data,
+                                               PVOID reserved);
+    virtual DWORD WlanSetAutoConfigParameter(
+        HANDLE client, WLAN_AUTOCONF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved);
+    virtual DWORD WlanGetSecuritySettings(HANDLE client,
+                                          WLAN_SECURABLE_OBJECT object,
+                                          WLAN_OPCODE_VALUE_TYPE* valueType,
+                                          wchar_t** sddl,
+                                          DWORD* grantedAccess);
 
 private:
     /// What every operation looks at first, in this order: arguments that must not be null, the reserved one that

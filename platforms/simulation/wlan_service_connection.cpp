@@ -1,19 +1,14 @@
+#include "forms/utf8.h"
 #include "simulation/service_records.h"
 #include "simulation/wlan_service.h"
 
 #include <algorithm>
-#include <cwchar>
 
 namespace calvix::simulation
 {
 
 namespace
 {
-
-bool IsProfileName(const wchar_t* name)
-{
-    return name != nullptr && name[0] != L'\0' && std::wcslen(name) < WLAN_MAX_NAME_LENGTH;
-}
 
 bool IsSsidOf(const ProfileDocument& profile, const DOT11_SSID* ssid)
 {
@@ -33,6 +28,89 @@ std::vector<MacAddress> DesiredBssids(const DOT11_BSSID_LIST* list)
     return bssids;
 }
 
+/// The profile that a request is about, or why there is none.
+struct Requested
+{
+    std::shared_ptr<const Profile> profile;
+    DWORD error = ERROR_SUCCESS;
+};
+
+Requested FindStored(const Adapter& adapter, const wchar_t* name)
+{
+    if (name == nullptr || !IsProfileName(name))
+        return {nullptr, ERROR_INVALID_PARAMETER};
+    const auto profile = adapter.Profiles().Find(name);
+    if (profile == nullptr)
+        return {nullptr, ERROR_NOT_FOUND}; // chosen
+    return {profile};
+}
+
+Requested ReadTemporary(const wchar_t* xml)
+{
+    if (xml == nullptr)
+        return {nullptr, ERROR_INVALID_PARAMETER};
+    ProfileRefusal refusal{};
+    auto profile = ReadProfile(xml, 0, refusal);
+    if (!profile)
+        return {nullptr, refusal.error}; // chosen, as for WlanSetProfile
+    return {std::make_shared<const Profile>(std::move(*profile))};
+}
+
+// Chosen: as secure as the strongest access point of the network that was heard; where none was, as most are.
+void DiscoverSecurity(const std::vector<HeardBss>& heard, ProfileSettings& settings)
+{
+    const AccessPoint* strongest = nullptr;
+    for (const HeardBss& bss : heard)
+    {
+        const bool isMeant = bss.accessPoint.ssid == settings.ssid && IsSecured(bss.security);
+        if (isMeant && (strongest == nullptr || bss.accessPoint.rssi > strongest->rssi))
+            strongest = &bss.accessPoint;
+    }
+    if (strongest != nullptr)
+    {
+        settings.authentication = strongest->authentication;
+        settings.encryption = strongest->encryption;
+    }
+}
+
+Requested Discover(Adapter& adapter, const WLAN_CONNECTION_PARAMETERS& parameters)
+{
+    const DOT11_SSID* const ssid = parameters.pDot11Ssid;
+    const bool isSsid = ssid != nullptr && ssid->uSSIDLength > 0 && ssid->uSSIDLength <= DOT11_SSID_MAX_LENGTH;
+    if (parameters.strProfile != nullptr || !isSsid)
+        return {nullptr, ERROR_INVALID_PARAMETER};
+    ProfileSettings settings;
+    settings.ssid = SsidBytes(*ssid);
+    settings.name = ProfileNameFor(settings.ssid);
+    settings.mode = "manual";
+    settings.bssType = static_cast<std::uint32_t>(parameters.dot11BssType);
+    settings.authentication = "open";
+    settings.encryption = "none";
+    if (parameters.wlanConnectionMode == wlan_connection_mode_discovery_secure)
+    {
+        settings.authentication = "WPA2PSK";
+        settings.encryption = "AES";
+        DiscoverSecurity(adapter.Heard(), settings);
+    }
+    return ReadTemporary(forms::WideFromUtf8(MakeProfileXml(settings)).c_str());
+}
+
+Requested FindRequested(Adapter& adapter, const WLAN_CONNECTION_PARAMETERS& parameters)
+{
+    switch (parameters.wlanConnectionMode)
+    {
+    case wlan_connection_mode_profile:
+        return FindStored(adapter, parameters.strProfile);
+    case wlan_connection_mode_temporary_profile:
+        return ReadTemporary(parameters.strProfile);
+    case wlan_connection_mode_discovery_secure:
+    case wlan_connection_mode_discovery_unsecure:
+        return Discover(adapter, parameters);
+    default:
+        return {nullptr, ERROR_INVALID_PARAMETER};
+    }
+}
+
 } // namespace
 
 // Accepting says nothing about the outcome: that shows in the interface's state when time has passed.
@@ -45,22 +123,17 @@ DWORD SimulatedWlanService::WlanConnect(HANDLE client,
     if (const DWORD error = Check("WlanConnect", client, {interfaceGuid, parameters}, reserved))
         return error;
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    const WLAN_CONNECTION_MODE mode = parameters->wlanConnectionMode;
-    if (adapter == nullptr || mode >= wlan_connection_mode_auto)
+    if (adapter == nullptr)
         return ERROR_INVALID_PARAMETER;
-    if (mode != wlan_connection_mode_profile)
-        return ERROR_CALL_NOT_IMPLEMENTED; // temporary profiles and discovery cannot be used yet
-    if (!IsProfileName(parameters->strProfile))
-        return ERROR_INVALID_PARAMETER;
-    const auto profile = adapter->Profiles().Find(parameters->strProfile);
-    if (profile == nullptr)
-        return ERROR_NOT_FOUND; // chosen
+    const auto [profile, refusal] = FindRequested(*adapter, *parameters);
+    if (refusal != ERROR_SUCCESS)
+        return refusal;
     if (profile->document.bssType != parameters->dot11BssType || !IsSsidOf(profile->document, parameters->pDot11Ssid))
         return ERROR_INVALID_PARAMETER;
     if (!adapter->IsRadioOn())
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID; // chosen, as for the lists
     adapter->Connect({profile, DesiredBssids(parameters->pDesiredBssidList),
-                      (parameters->dwFlags & WLAN_CONNECTION_HIDDEN_NETWORK) != 0, mode});
+                      (parameters->dwFlags & WLAN_CONNECTION_HIDDEN_NETWORK) != 0, parameters->wlanConnectionMode});
     return ERROR_SUCCESS;
 }
 

@@ -1,5 +1,6 @@
 #include "simulation/interface_answers.h"
 #include "simulation/reason_texts.h"
+#include "simulation/service_records.h"
 #include "simulation/wlan_service.h"
 
 #include <algorithm>
@@ -12,8 +13,8 @@ namespace calvix::simulation
 namespace
 {
 
-// Chosen, for what the simulated service does not let anybody set: denied networks stay out of sight, group policy
-// blocks nothing, nothing is blocked for a time, and everything optional is allowed.
+// Chosen: no group policy restricts anything, and virtual stations are allowed. What programs may set is kept and told,
+// and changes nothing else: no network is denied and nothing blocked here.
 std::optional<InterfaceAnswer> Answer(const Machine& machine, Blocks& blocks, WLAN_AUTOCONF_OPCODE opcode)
 {
     switch (static_cast<unsigned int>(opcode))
@@ -21,17 +22,31 @@ std::optional<InterfaceAnswer> Answer(const Machine& machine, Blocks& blocks, WL
     case wlan_autoconf_opcode_power_setting:
         return AnswerNumber(blocks, static_cast<WLAN_POWER_SETTING>(machine.powerSetting));
     case wlan_autoconf_opcode_show_denied_networks:
+        return AnswerNumber(blocks, machine.showDeniedNetworks);
     case wlan_autoconf_opcode_only_use_gp_profiles_for_allowed_networks:
         return AnswerNumber(blocks, FALSE);
     case wlan_autoconf_opcode_allow_explicit_creds:
+        return AnswerNumber(blocks, machine.allowExplicitCredentials);
     case wlan_autoconf_opcode_allow_virtual_station_extensibility:
         return AnswerNumber(blocks, TRUE);
     case wlan_autoconf_opcode_block_period:
-        return AnswerNumber(blocks, ULONG{0});
+        return AnswerNumber(blocks, machine.blockPeriod);
     default:
         return std::nullopt;
     }
 }
+
+template <typename Number>
+DWORD SetNumber(DWORD size, const void* data, Number& number)
+{
+    if (size != sizeof(number))
+        return ERROR_INVALID_PARAMETER;
+    std::memcpy(&number, data, sizeof(number));
+    return ERROR_SUCCESS;
+}
+
+// Chosen, for what nobody has set: everybody may do everything.
+constexpr wchar_t defaultSecurity[] = L"D:(A;;GA;;;WD)";
 
 Bytes RequestBytes(const void* input, DWORD size)
 {
@@ -59,6 +74,25 @@ DWORD SimulatedWlanService::WlanQueryAutoConfigParameter(HANDLE client,
     if (valueType != nullptr)
         *valueType = wlan_opcode_value_type_set_by_user;
     return ERROR_SUCCESS;
+}
+
+DWORD SimulatedWlanService::WlanSetAutoConfigParameter(
+    HANDLE client, WLAN_AUTOCONF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanSetAutoConfigParameter", client, {data}, reserved))
+        return error;
+    switch (static_cast<unsigned int>(opcode))
+    {
+    case wlan_autoconf_opcode_show_denied_networks:
+        return SetNumber(dataSize, data, m_machine.showDeniedNetworks);
+    case wlan_autoconf_opcode_allow_explicit_creds:
+        return SetNumber(dataSize, data, m_machine.allowExplicitCredentials);
+    case wlan_autoconf_opcode_block_period:
+        return SetNumber(dataSize, data, m_machine.blockPeriod);
+    default:
+        return ERROR_INVALID_PARAMETER;
+    }
 }
 
 // Chosen: only the driver has a script; a vendor's service, and a request that the script does not know, are not
@@ -105,6 +139,27 @@ DWORD SimulatedWlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABL
     if (!m_machine.administrator)
         return ERROR_ACCESS_DENIED;
     m_machine.securitySettings[object] = sddl;
+    return ERROR_SUCCESS;
+}
+
+// Chosen: everybody is granted all access, as to profiles.
+DWORD SimulatedWlanService::WlanGetSecuritySettings(HANDLE client,
+                                                    WLAN_SECURABLE_OBJECT object,
+                                                    WLAN_OPCODE_VALUE_TYPE* valueType,
+                                                    wchar_t** sddl,
+                                                    DWORD* grantedAccess)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanGetSecuritySettings", client, {sddl, grantedAccess}))
+        return error;
+    if (object > wlan_secure_hosted_network_elevated_access)
+        return ERROR_INVALID_PARAMETER;
+    const auto set = m_machine.securitySettings.find(object);
+    *sddl = NewText(m_machine.wlanBlocks, set != m_machine.securitySettings.end() ? set->second : defaultSecurity,
+                    "security settings");
+    *grantedAccess = WLAN_WRITE_ACCESS;
+    if (valueType != nullptr)
+        *valueType = wlan_opcode_value_type_set_by_user;
     return ERROR_SUCCESS;
 }
 

@@ -1,8 +1,7 @@
-#include "forms/utf8.h"
 #include "simulation/service_records.h"
 #include "simulation/wlan_service.h"
 
-#include <cwchar>
+#include <algorithm>
 #include <string>
 
 namespace calvix::simulation
@@ -12,26 +11,8 @@ namespace
 {
 
 constexpr DWORD knownProfileFlags = WLAN_PROFILE_GROUP_POLICY | WLAN_PROFILE_USER;
-
-wchar_t* NewText(Blocks& blocks, const std::wstring& text)
-{
-    const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
-    auto* const copy = static_cast<wchar_t*>(blocks.Allocate(size, "profile text"));
-    std::wmemcpy(copy, text.c_str(), text.size() + 1);
-    return copy;
-}
-
-// Text that is not valid wide text is no XML either.
-std::optional<Profile> ReadProfile(const wchar_t* xml, DWORD flags, ProfileRefusal& refusal)
-{
-    bool isIllFormed = false;
-    std::wstring text = WithPlainKey(xml);
-    const std::string utf8 = forms::Utf8FromWide(text, &isIllFormed);
-    auto document = ParseProfile(isIllFormed ? std::string() : utf8, refusal);
-    if (!document)
-        return std::nullopt;
-    return Profile{std::move(text), std::move(*document), flags};
-}
+constexpr DWORD knownSaveFlags =
+    WLAN_PROFILE_USER | WLAN_PROFILE_CONNECTION_MODE_SET_BY_CLIENT | WLAN_PROFILE_CONNECTION_MODE_AUTO;
 
 } // namespace
 
@@ -81,7 +62,7 @@ DWORD SimulatedWlanService::WlanGetProfile(HANDLE client,
     if (profile == nullptr)
         return ERROR_NOT_FOUND;
     const DWORD plainKey = flags != nullptr ? *flags & WLAN_PROFILE_GET_PLAINTEXT_KEY : 0;
-    *xml = NewText(m_machine.wlanBlocks, plainKey != 0 ? profile->xml : WithProtectedKey(profile->xml));
+    *xml = NewText(m_machine.wlanBlocks, plainKey != 0 ? profile->xml : WithProtectedKey(profile->xml), "profile text");
     if (flags != nullptr)
         *flags = profile->flags | plainKey;
     if (grantedAccess != nullptr)
@@ -136,6 +117,88 @@ DWORD SimulatedWlanService::WlanSetProfilePosition(
         return error;
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     return adapter != nullptr ? adapter->MoveProfile(name, position) : ERROR_INVALID_PARAMETER;
+}
+
+DWORD SimulatedWlanService::WlanSetProfileList(
+    HANDLE client, const GUID* interfaceGuid, DWORD count, const wchar_t** names, PVOID reserved)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanSetProfileList", client, {interfaceGuid, names}, reserved))
+        return error;
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    const bool isAnyMissing = std::find(names, names + count, nullptr) != names + count;
+    if (adapter == nullptr || count == 0 || isAnyMissing)
+        return ERROR_INVALID_PARAMETER;
+    return adapter->ArrangeProfiles({names, names + count});
+}
+
+DWORD SimulatedWlanService::WlanRenameProfile(
+    HANDLE client, const GUID* interfaceGuid, const wchar_t* name, const wchar_t* newName, PVOID reserved)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanRenameProfile", client, {interfaceGuid, name, newName}, reserved))
+        return error;
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr || !IsProfileName(newName))
+        return ERROR_INVALID_PARAMETER;
+    return adapter->RenameProfile(name, newName);
+}
+
+// The security descriptor is not looked at, as in WlanSetProfile.
+DWORD SimulatedWlanService::WlanSaveTemporaryProfile(HANDLE client,
+                                                     const GUID* interfaceGuid,
+                                                     const wchar_t* name,
+                                                     const wchar_t*,
+                                                     DWORD flags,
+                                                     BOOL overwrite,
+                                                     PVOID reserved)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanSaveTemporaryProfile", client, {interfaceGuid}, reserved))
+        return error;
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    const bool needsName = (flags & WLAN_PROFILE_CONNECTION_MODE_AUTO) != 0;
+    const bool isName = name != nullptr ? IsProfileName(name) : !needsName;
+    if (adapter == nullptr || !isName || (flags & ~knownSaveFlags) != 0)
+        return ERROR_INVALID_PARAMETER;
+    return adapter->SaveTemporaryProfile(name, flags & WLAN_PROFILE_USER, overwrite != FALSE);
+}
+
+DWORD SimulatedWlanService::WlanGetProfileCustomUserData(
+    HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved, DWORD* dataSize, BYTE** data)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error =
+            Check("WlanGetProfileCustomUserData", client, {interfaceGuid, name, dataSize, data}, reserved))
+        return error;
+    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    if (adapter->Profiles().Find(name) == nullptr)
+        return ERROR_NOT_FOUND; // chosen
+    const Bytes kept = adapter->Profiles().CustomData(name);
+    if (kept.empty())
+        return ERROR_FILE_NOT_FOUND;
+    *data = NewRecord<BYTE>(m_machine.wlanBlocks, kept.size(), "custom data of a profile");
+    std::copy(kept.begin(), kept.end(), *data);
+    *dataSize = static_cast<DWORD>(kept.size());
+    return ERROR_SUCCESS;
+}
+
+// Chosen: no bytes take away what was there.
+DWORD SimulatedWlanService::WlanSetProfileCustomUserData(
+    HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD dataSize, const BYTE* data, PVOID reserved)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanSetProfileCustomUserData", client, {interfaceGuid, name}, reserved))
+        return error;
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr || (data == nullptr) != (dataSize == 0))
+        return ERROR_INVALID_PARAMETER;
+    if (adapter->Profiles().Find(name) == nullptr)
+        return ERROR_NOT_FOUND; // chosen
+    adapter->SetCustomData(name, data != nullptr ? Bytes(data, data + dataSize) : Bytes());
+    return ERROR_SUCCESS;
 }
 
 } // namespace calvix::simulation

@@ -45,8 +45,15 @@ BOOL Boolean(bool value)
     return value ? TRUE : FALSE;
 }
 
-// Chosen, for what is the same on every simulated adapter: no media streaming, infrastructure networks, the mode of
-// an ordinary station (1), safe mode supported but not certified, no hosted network.
+// An ordinary station, as every adapter has been called since the interface knows other modes.
+constexpr ULONG extensibleStation = 4;
+constexpr ULONG networkMonitor = 0x80000000;
+
+// The opcode's number: some SDKs lack it.
+constexpr unsigned int managementFrameProtection = 16;
+
+// Chosen, for what is the same on every simulated adapter: the mode of a station, safe mode supported but not certified,
+// management frames protected where asked for, no hosted network.
 std::optional<InterfaceAnswer> Answer(Blocks& blocks, const Adapter& adapter, WLAN_INTF_OPCODE opcode)
 {
     switch (static_cast<unsigned int>(opcode))
@@ -58,7 +65,7 @@ std::optional<InterfaceAnswer> Answer(Blocks& blocks, const Adapter& adapter, WL
     case wlan_intf_opcode_radio_state:
         return AnswerRadioState(blocks, adapter);
     case wlan_intf_opcode_bss_type:
-        return AnswerNumber(blocks, dot11_BSS_type_infrastructure);
+        return AnswerNumber(blocks, adapter.BssType());
     case wlan_intf_opcode_interface_state:
         return AnswerNumber(blocks, adapter.State());
     case wlan_intf_opcode_current_connection:
@@ -66,10 +73,18 @@ std::optional<InterfaceAnswer> Answer(Blocks& blocks, const Adapter& adapter, WL
     case wlan_intf_opcode_channel_number:
         return AnswerChannel(blocks, adapter);
     case wlan_intf_opcode_current_operation_mode:
-        return AnswerNumber(blocks, ULONG{1});
+        return AnswerNumber(blocks, extensibleStation);
+    case wlan_intf_opcode_supported_infrastructure_auth_cipher_pairs:
+        return AnswerSuites(blocks, SupportedSuites());
+    case wlan_intf_opcode_supported_adhoc_auth_cipher_pairs:
+        return AnswerSuites(blocks, {SecuritySuite{}});
+    case wlan_intf_opcode_supported_country_or_region_string_list:
+        return AnswerCountries(blocks);
     case wlan_intf_opcode_supported_safe_mode:
+    case managementFrameProtection:
         return AnswerNumber(blocks, TRUE);
     case wlan_intf_opcode_media_streaming_mode:
+        return AnswerNumber(blocks, Boolean(adapter.HasMediaStreaming()));
     case wlan_intf_opcode_certified_safe_mode:
     case wlan_intf_opcode_hosted_network_capable:
         return AnswerNumber(blocks, FALSE);
@@ -110,6 +125,39 @@ DWORD SetBackgroundScan(Adapter& adapter, DWORD size, const void* data)
         return ERROR_INVALID_STATE;
     adapter.SetBackgroundScan(*value);
     return ERROR_SUCCESS;
+}
+
+DWORD SetMediaStreaming(Adapter& adapter, DWORD size, const void* data)
+{
+    const auto value = ReadBoolean(size, data);
+    if (!value)
+        return ERROR_INVALID_PARAMETER;
+    adapter.SetMediaStreaming(*value);
+    return ERROR_SUCCESS;
+}
+
+DWORD SetBssType(Adapter& adapter, DWORD size, const void* data)
+{
+    DOT11_BSS_TYPE type{};
+    if (size != sizeof(type))
+        return ERROR_INVALID_PARAMETER;
+    std::memcpy(&type, data, sizeof(type));
+    if (type < dot11_BSS_type_infrastructure || type > dot11_BSS_type_any)
+        return ERROR_INVALID_PARAMETER;
+    adapter.SetBssType(type);
+    return ERROR_SUCCESS;
+}
+
+// There is no adapter that could listen to everybody's frames.
+DWORD SetOperationMode(DWORD size, const void* data)
+{
+    ULONG mode = 0;
+    if (size != sizeof(mode))
+        return ERROR_INVALID_PARAMETER;
+    std::memcpy(&mode, data, sizeof(mode));
+    if (mode == networkMonitor)
+        return ERROR_NOT_SUPPORTED;
+    return mode == extensibleStation ? ERROR_SUCCESS : ERROR_INVALID_PARAMETER;
 }
 
 // Only the software switch can be thrown; what the record says of the hardware is not looked at.
@@ -176,10 +224,28 @@ DWORD SimulatedWlanService::WlanSetInterface(
         return SetBackgroundScan(*adapter, dataSize, data);
     case wlan_intf_opcode_radio_state:
         return SetRadio(*adapter, dataSize, data);
+    case wlan_intf_opcode_media_streaming_mode:
+        return SetMediaStreaming(*adapter, dataSize, data);
+    case wlan_intf_opcode_bss_type:
+        return SetBssType(*adapter, dataSize, data);
     default:
-        // Streaming, BSS type and operation mode cannot be set yet.
-        return ERROR_CALL_NOT_IMPLEMENTED;
+        return SetOperationMode(dataSize, data);
     }
+}
+
+DWORD SimulatedWlanService::WlanGetInterfaceCapability(HANDLE client,
+                                                       const GUID* interfaceGuid,
+                                                       PVOID reserved,
+                                                       WLAN_INTERFACE_CAPABILITY** capability)
+{
+    const std::lock_guard lock(m_machine.mutex);
+    if (const DWORD error = Check("WlanGetInterfaceCapability", client, {interfaceGuid, capability}, reserved))
+        return error;
+    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr)
+        return ERROR_INVALID_PARAMETER;
+    *capability = MakeCapability(m_machine.wlanBlocks, *adapter);
+    return ERROR_SUCCESS;
 }
 
 } // namespace calvix::simulation

@@ -2,6 +2,7 @@
    Windows has none. */
 
 #include "check.h"
+#include "function_names.h"
 
 #include <windows.h>
 #include <wlanapi.h>
@@ -10,6 +11,9 @@
 #include <wchar.h>
 
 typedef void (*AnyFunction)(void);
+
+/* Whatever its parameters are. */
+typedef DWORD(WINAPI* Unsupported)(PVOID, PVOID, PVOID);
 
 typedef DWORD(WINAPI* OpenHandle)(DWORD, PVOID, PDWORD, PHANDLE);
 typedef DWORD(WINAPI* CloseHandleOf)(HANDLE, PVOID);
@@ -31,30 +35,6 @@ struct Wlan
     DeleteProfile deleteProfile;
     GetProfileList getProfileList;
     FreeMemory freeMemory;
-};
-
-static const char* const names[] = {
-    "WlanCloseHandle",
-    "WlanConnect",
-    "WlanDeleteProfile",
-    "WlanDisconnect",
-    "WlanEnumInterfaces",
-    "WlanFreeMemory",
-    "WlanGetAvailableNetworkList",
-    "WlanGetNetworkBssList",
-    "WlanGetProfile",
-    "WlanGetProfileList",
-    "WlanIhvControl",
-    "WlanOpenHandle",
-    "WlanQueryAutoConfigParameter",
-    "WlanQueryInterface",
-    "WlanReasonCodeToString",
-    "WlanRegisterNotification",
-    "WlanScan",
-    "WlanSetInterface",
-    "WlanSetProfile",
-    "WlanSetProfilePosition",
-    "WlanSetSecuritySettings",
 };
 
 static AnyFunction Find(const struct Wlan* wlan, const char* name)
@@ -84,11 +64,17 @@ static int Load(struct Wlan* wlan)
 static void CheckExports(const struct Wlan* wlan)
 {
     unsigned int index;
-    for (index = 0; index < sizeof(names) / sizeof(names[0]); ++index)
+    for (index = 0; index < sizeof(answeredNames) / sizeof(answeredNames[0]); ++index)
     {
-        CHECK(Find(wlan, names[index]) != NULL);
+        CHECK(Find(wlan, answeredNames[index]) != NULL);
     }
-    CHECK(Find(wlan, "WlanHostedNetworkStartUsing") == NULL);
+    for (index = 0; index < sizeof(unsupportedNames) / sizeof(unsupportedNames[0]); ++index)
+    {
+        const Unsupported function = (Unsupported)Find(wlan, unsupportedNames[index]);
+        CHECK(function != NULL);
+        CHECK(function != NULL && function(NULL, NULL, NULL) == ERROR_NOT_SUPPORTED);
+    }
+    CHECK(Find(wlan, "WlanNobodysFunction") == NULL);
 }
 
 static HANDLE Open(const struct Wlan* wlan, GUID* adapter)

@@ -195,9 +195,30 @@ TEST_F(Connecting, RefusesWhatItCannotUse)
          ERROR_INVALID_PARAMETER},
         {"invalid mode", [](auto& p, auto&, auto&) { p.wlanConnectionMode = wlan_connection_mode_invalid; },
          ERROR_INVALID_PARAMETER},
-        {"temporary profile",
+        {"temporary profile that is none",
          [](auto& p, auto&, auto&) { p.wlanConnectionMode = wlan_connection_mode_temporary_profile; },
-         ERROR_CALL_NOT_IMPLEMENTED},
+         ERROR_BAD_PROFILE},
+        {"no temporary profile",
+         [](auto& p, auto&, auto&)
+         {
+             p.wlanConnectionMode = wlan_connection_mode_temporary_profile;
+             p.strProfile = nullptr;
+         },
+         ERROR_INVALID_PARAMETER},
+        {"discovery with a profile",
+         [](auto& p, auto&, auto& ssid)
+         {
+             p.wlanConnectionMode = wlan_connection_mode_discovery_secure;
+             p.pDot11Ssid = const_cast<DOT11_SSID*>(&ssid);
+         },
+         ERROR_INVALID_PARAMETER},
+        {"discovery of no network",
+         [](auto& p, auto&, auto&)
+         {
+             p.wlanConnectionMode = wlan_connection_mode_discovery_unsecure;
+             p.strProfile = nullptr;
+         },
+         ERROR_INVALID_PARAMETER},
         {"another BSS type", [](auto& p, auto&, auto&) { p.dot11BssType = dot11_BSS_type_independent; },
          ERROR_INVALID_PARAMETER},
         {"any BSS type", [](auto& p, auto&, auto&) { p.dot11BssType = dot11_BSS_type_any; }, ERROR_INVALID_PARAMETER},

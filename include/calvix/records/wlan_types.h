@@ -45,6 +45,39 @@ struct WLAN_INTERFACE_INFO_LIST
 };
 using PWLAN_INTERFACE_INFO_LIST = WLAN_INTERFACE_INFO_LIST*;
 
+enum WLAN_INTERFACE_TYPE : unsigned int
+{
+    wlan_interface_type_emulated_802_11 = 0,
+    wlan_interface_type_native_802_11 = 1,
+    wlan_interface_type_invalid = 2
+};
+using PWLAN_INTERFACE_TYPE = WLAN_INTERFACE_TYPE*;
+
+struct WLAN_INTERFACE_CAPABILITY
+{
+    WLAN_INTERFACE_TYPE interfaceType;
+    BOOL bDot11DSupported;
+    DWORD dwMaxDesiredSsidListSize;
+    DWORD dwMaxDesiredBssidListSize;
+    DWORD dwNumberOfSupportedPhys;
+    DOT11_PHY_TYPE dot11PhyTypes[WLAN_MAX_PHY_INDEX];
+};
+using PWLAN_INTERFACE_CAPABILITY = WLAN_INTERFACE_CAPABILITY*;
+
+struct WLAN_AUTH_CIPHER_PAIR_LIST
+{
+    DWORD dwNumberOfItems;
+    DOT11_AUTH_CIPHER_PAIR pAuthCipherPairList[1];
+};
+using PWLAN_AUTH_CIPHER_PAIR_LIST = WLAN_AUTH_CIPHER_PAIR_LIST*;
+
+struct WLAN_COUNTRY_OR_REGION_STRING_LIST
+{
+    DWORD dwNumberOfItems;
+    DOT11_COUNTRY_OR_REGION_STRING pCountryOrRegionStringList[1];
+};
+using PWLAN_COUNTRY_OR_REGION_STRING_LIST = WLAN_COUNTRY_OR_REGION_STRING_LIST*;
+
 enum WLAN_INTF_OPCODE : unsigned int
 {
     wlan_intf_opcode_autoconf_start = 0,

@@ -78,8 +78,13 @@ namespace calvix::cipher
 inline constexpr auto gcmp_256 = static_cast<DOT11_CIPHER_ALGORITHM>(9);
 } // namespace calvix::cipher
 
-// Notification codes of the media-specific module; the auto-configuration module's early ones are in
-// every SDK.
+// Notification codes: of the auto-configuration module those that are not in every SDK, and all of the media-specific
+// module.
+namespace calvix::acm
+{
+inline constexpr DWORD scan_list_refresh = 26;
+} // namespace calvix::acm
+
 namespace calvix::msm
 {
 inline constexpr DWORD associating = 1;

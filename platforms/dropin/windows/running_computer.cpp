@@ -1,7 +1,7 @@
-#include "dropin/running_computer.h"
+#include "dropin/visible_service.h"
 
-#include "dropin/module.h"
-#include "dropin/settings.h"
+#include "dropin/windows/module.h"
+#include "dropin/windows/settings.h"
 #include "forms/utf8.h"
 #include "simulation/computer.h"
 #include "simulation/real_time.h"
@@ -53,13 +53,16 @@ RunningComputer* Start()
 
 } // namespace
 
-platform::WlanService* CurrentService()
+DWORD FindVisibleService(VisibleService& found)
 {
+    if (ProcessIsEnding())
+        return ERROR_SHUTDOWN_IN_PROGRESS;
     static RunningComputer* const running = Start();
     if (running == nullptr)
-        return nullptr;
+        return ERROR_INVALID_DATA;
     running->time.CatchUp();
-    return &running->computer.wlan();
+    found = {&running->computer.wlan(), &running->computer.service()};
+    return ERROR_SUCCESS;
 }
 
 } // namespace calvix::dropin

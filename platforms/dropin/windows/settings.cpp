@@ -1,4 +1,4 @@
-#include "dropin/settings.h"
+#include "dropin/windows/settings.h"
 
 #include "forms/utf8.h"
 #include "simulation/real_time.h"

@@ -1,4 +1,4 @@
-#include "dropin/module.h"
+#include "dropin/windows/module.h"
 
 #include <windows.h>
 

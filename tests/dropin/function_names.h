@@ -1,0 +1,73 @@
+/* Every documented function of wlanapi.dll: those that the simulated computer answers, and those that it has no matter
+   for, which say so. */
+
+#ifndef CALVIX_TESTS_DROPIN_FUNCTION_NAMES_H
+#define CALVIX_TESTS_DROPIN_FUNCTION_NAMES_H
+
+static const char* const answeredNames[] = {
+    "WlanAllocateMemory",
+    "WlanCloseHandle",
+    "WlanConnect",
+    "WlanDeleteProfile",
+    "WlanDisconnect",
+    "WlanEnumInterfaces",
+    "WlanFreeMemory",
+    "WlanGetAvailableNetworkList",
+    "WlanGetInterfaceCapability",
+    "WlanGetNetworkBssList",
+    "WlanGetProfile",
+    "WlanGetProfileCustomUserData",
+    "WlanGetProfileList",
+    "WlanGetSecuritySettings",
+    "WlanIhvControl",
+    "WlanOpenHandle",
+    "WlanQueryAutoConfigParameter",
+    "WlanQueryInterface",
+    "WlanReasonCodeToString",
+    "WlanRegisterNotification",
+    "WlanRenameProfile",
+    "WlanSaveTemporaryProfile",
+    "WlanScan",
+    "WlanSetAutoConfigParameter",
+    "WlanSetInterface",
+    "WlanSetProfile",
+    "WlanSetProfileCustomUserData",
+    "WlanSetProfileList",
+    "WlanSetProfilePosition",
+    "WlanSetSecuritySettings",
+};
+
+static const char* const unsupportedNames[] = {
+    "WFDCancelOpenSession",
+    "WFDCloseHandle",
+    "WFDCloseSession",
+    "WFDOpenHandle",
+    "WFDOpenLegacySession",
+    "WFDStartOpenSession",
+    "WFDUpdateDeviceVisibility",
+    "WlanConnect2",
+    "WlanDeviceServiceCommand",
+    "WlanExtractPsdIEDataList",
+    "WlanGetAvailableNetworkList2",
+    "WlanGetFilterList",
+    "WlanGetSupportedDeviceServices",
+    "WlanHostedNetworkForceStart",
+    "WlanHostedNetworkForceStop",
+    "WlanHostedNetworkInitSettings",
+    "WlanHostedNetworkQueryProperty",
+    "WlanHostedNetworkQuerySecondaryKey",
+    "WlanHostedNetworkQueryStatus",
+    "WlanHostedNetworkRefreshSecuritySettings",
+    "WlanHostedNetworkSetProperty",
+    "WlanHostedNetworkSetSecondaryKey",
+    "WlanHostedNetworkStartUsing",
+    "WlanHostedNetworkStopUsing",
+    "WlanRegisterDeviceServiceNotification",
+    "WlanRegisterVirtualStationNotification",
+    "WlanSetFilterList",
+    "WlanSetProfileEapUserData",
+    "WlanSetProfileEapXmlUserData",
+    "WlanSetPsdIEDataList",
+};
+
+#endif
