@@ -77,7 +77,7 @@ unset(ENV{CALVIX_SCENARIO})
 file(REMOVE_RECURSE "${WORK}")
 run("${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${WORK}/installed")
 file(RENAME "${WORK}/installed" "${tree}")
-expect_file(include/calvix/wireless_manage.h "${DOCDIR}/LICENSE" "${DOCDIR}/README.md" "${DOCDIR}/CHANGELOG.md"
+expect_file(include/calvix/wireless_manage.h include/calvix/wlan_functions.h "${DOCDIR}/LICENSE" "${DOCDIR}/README.md" "${DOCDIR}/CHANGELOG.md"
     "${DOCDIR}/docs/architecture.md" "${DOCDIR}/docs/scenario.schema.json" "${DOCDIR}/scenarios/home.json"
     "${DOCDIR}/docs/output.schema.json" "${DOCDIR}/docs/troubleshooting.md")
 if(NOT WINDOWS)
@@ -111,7 +111,8 @@ if(NOT WINDOWS)
     expect_printed("${output}" "${VERSION}")
     run("${pkg_config}" --cflags --libs calvix)
     separate_arguments(flags UNIX_COMMAND "${output}")
-    run("${COMPILER}" -std=c++20 "${CMAKE_CURRENT_LIST_DIR}/consumer/main.cpp" ${flags} -o "${WORK}/by-pkg-config")
+    run("${COMPILER}" -std=c++20 "${CMAKE_CURRENT_LIST_DIR}/consumer/main.cpp" ${flags} -lwlanapi
+        -o "${WORK}/by-pkg-config")
     set(ENV{LD_LIBRARY_PATH} "${tree}/${LIBDIR}")
     run("${WORK}/by-pkg-config")
     expect_printed("${output}" "${expected}")

@@ -1,13 +1,23 @@
 #include <calvix/wireless_manage.h>
+#include <calvix/wlan_functions.h>
 
 #include <cstdio>
+
+// The WLAN API, which the installed tree brings along where there is no Windows.
+bool HasService()
+{
+    DWORD version = 0;
+    HANDLE client = nullptr;
+    return WlanOpenHandle(2, nullptr, &version, &client) == ERROR_SUCCESS &&
+           WlanCloseHandle(client, nullptr) == ERROR_SUCCESS;
+}
 
 int main()
 {
     CWirelessManage* const manager = CWirelessManage::Get();
     std::vector<WLAN_INTERFACE_INFO> adapters;
     const long code = manager->GetWlanInterface(&adapters);
-    if (code != 0)
+    if (code != 0 || !HasService())
     {
         std::printf("GetWlanInterface: %ld\n", code);
         return 1;
