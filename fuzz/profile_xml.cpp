@@ -4,9 +4,11 @@
 #include "forms/guid_text.h"
 #include "forms/utf8.h"
 #include "input.h"
-#include "program.h"
 #include "promise.h"
 #include "targets.h"
+
+#include "simulation/computer.h"
+#include "support/program.h"
 
 #include "simulation/profile_document.h"
 
@@ -125,7 +127,7 @@ void RunProfileXml(const std::uint8_t* data, std::size_t size)
 
     simulation::Computer& computer = ComputerWithoutProfiles();
     {
-        Program program(computer);
+        test::Program program(computer);
         ProfileRefusal refusal{};
         const auto document = simulation::ParseProfile(forms::Utf8FromWide(xml), refusal);
         Promise(document || (refusal.error != 0 && refusal.reason != 0), "a refusal has a reason");
@@ -134,8 +136,8 @@ void RunProfileXml(const std::uint8_t* data, std::size_t size)
             CheckWrittenAnew(*document);
             CheckProtectedKey(xml, *document);
         }
-        CheckTextSearch(program.manager(), xml, ssid.c_str());
-        CheckStored(program.manager(), xml, document ? &*document : nullptr);
+        CheckTextSearch(program.Manager(), xml, ssid.c_str());
+        CheckStored(program.Manager(), xml, document ? &*document : nullptr);
     }
     const simulation::Accounts accounts = computer.Audit();
     Promise(accounts.liveBlocks == 0 && accounts.openClients == 0 && accounts.defects.empty(), "nothing is left held");

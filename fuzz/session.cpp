@@ -2,20 +2,17 @@
 // then and may answer with records that no service should hand out. Whatever it does, each result is one that the method
 // has, and in the end nothing is left held.
 
-#include "fatal_errors.h"
 #include "promise.h"
 #include "targets.h"
 
+#include "session/arguments.h"
 #include "session/hostile_answers.h"
-#include "session/methods.h"
 #include "session/world.h"
 
-#include "core/trace.h"
 #include "explain/result_codes.h"
-#include "simulation/computer.h"
-#include "support/manager_internals.h"
+#include "support/fatal_errors.h"
+#include "support/test_computer.h"
 #include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
 
 #include <algorithm>
 
@@ -25,7 +22,7 @@ namespace calvix::fuzz
 namespace
 {
 
-using session::Method;
+using test::methods::Method;
 
 /// Lets some calls of the platform fail: after so many have passed, so many in a row.
 class Failures
@@ -77,40 +74,27 @@ private:
 class Session
 {
 public:
-    explicit Session(Input& input)
-        : m_input(input), m_computer(session::MakeWorld(input)), m_platform(m_computer, m_failures.interceptor())
+    explicit Session(Input& input) : m_input(input), m_computer(session::MakeWorld(input), m_failures.interceptor())
     {
-        ManagerInternals::Reset();
-        m_previous = platform::ReplacePlatform(&m_platform);
         if (input.OneIn(3))
             m_hostile.emplace(input);
         g_bTraceOn = input.OneIn(2) ? 1 : 0;
     }
 
-    ~Session()
-    {
-        g_bTraceOn = 0;
-        m_hostile.reset();
-        platform::ReplacePlatform(m_previous);
-        ManagerInternals::Reset();
-    }
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-
     void CallSomeMethod()
     {
-        const auto& methods = session::EveryMethod();
+        const auto& methods = test::methods::EveryMethod();
         const Method& method = methods[m_input.Below(methods.size())];
         if (m_input.OneIn(4))
             m_failures.Plan(m_input);
         if (m_input.OneIn(8))
-            m_computer.Advance(std::chrono::milliseconds(m_input.Byte() * 100));
-        session::Arguments arguments(m_input);
-        std::optional<long long> code;
-        if (!IsFatal([&] { code = method.call(*CWirelessManage::Get(), arguments); }) && code)
-            CheckCode(method, *code);
+            m_computer.computer().Advance(std::chrono::milliseconds(m_input.Byte() * 100));
+        session::HostileArguments arguments(m_input);
+        test::methods::Call call(method, arguments);
+        if (!test::EndsFatally([&] { call.Make(*CWirelessManage::Get()); }) && call.Result().code)
+            CheckCode(method, *call.Result().code);
         m_failures.Stop();
-        ForgetDeletedClient();
+        m_computer.ForgetClosedClient();
         CheckAccounts();
     }
 
@@ -123,13 +107,6 @@ public:
     }
 
 private:
-    /// Delete leaves the closed handle where it was, on purpose; every method would only report it from then on.
-    void ForgetDeletedClient()
-    {
-        if (m_computer.Audit().openClients == 0)
-            ManagerInternals::Client() = nullptr;
-    }
-
     void CheckCode(const Method& method, long long code) const
     {
         const host::MethodResults* const results = host::FindMethod(method.Name());
@@ -153,7 +130,7 @@ private:
     {
         if (!m_input.OneIn(16))
             return;
-        const simulation::Scenario snapshot = m_computer.Snapshot();
+        const simulation::Scenario snapshot = m_computer.computer().Snapshot();
         // Scenario files know no adapter without a PHY.
         if (std::any_of(snapshot.adapters.begin(), snapshot.adapters.end(),
                         [](const auto& adapter) { return adapter.phys.empty(); }))
@@ -164,10 +141,8 @@ private:
 
     Input& m_input;
     Failures m_failures;
-    simulation::Computer m_computer;
-    wrappers::InterceptedPlatform m_platform;
+    test::TestComputer m_computer;
     std::optional<session::HostileAnswers> m_hostile;
-    platform::Platform* m_previous = nullptr;
 };
 
 } // namespace
@@ -176,7 +151,7 @@ void RunSession(const std::uint8_t* data, std::size_t size)
 {
     constexpr int kMostCalls = 32;
     Input input(data, size);
-    const FatalErrorsCaught caught;
+    const test::FatalErrorsCaught caught;
     Session session(input);
     for (int call = 0; call < kMostCalls && !input.IsEmpty(); ++call)
         session.CallSomeMethod();

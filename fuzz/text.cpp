@@ -1,15 +1,17 @@
 // Texts, SSIDs, addresses, numbers: the conversions write what they promise and nothing beyond, and what can be turned
 // back comes back. Every buffer is of the size that is stated, on the heap, where the sanitizers see a byte too many.
 
-#include "fatal_errors.h"
 #include "forms/address_text.h"
 #include "forms/guid_text.h"
 #include "forms/hex_text.h"
 #include "forms/utf8.h"
 #include "input.h"
-#include "program.h"
 #include "promise.h"
 #include "targets.h"
+
+#include "simulation/computer.h"
+#include "support/fatal_errors.h"
+#include "support/program.h"
 
 #include <cstring>
 #include <memory>
@@ -117,7 +119,7 @@ void CheckSsid(Manager& manager, const DOT11_SSID& ssid, int capacity)
     constexpr ULONG kLongestTaken = 64;
     std::vector<Character> text = RoomFor<Character>(capacity);
     int result = 0;
-    const bool fatal = IsFatal([&] { result = manager.GetSSID(&ssid, text.data(), capacity); });
+    const bool fatal = test::EndsFatally([&] { result = manager.GetSSID(&ssid, text.data(), capacity); });
     Promise(fatal == (ssid.uSSIDLength > kLongestTaken), "an SSID of more than 64 bytes is fatal, no other");
     Promise(result != 1 || capacity == 0 || IsTerminated(text), "the SSID is terminated");
 }
@@ -148,7 +150,7 @@ void CheckNarrowing(Manager& manager, Input& input)
     const int capacity = static_cast<int>(input.Below(250));
     std::vector<char> exact = RoomFor<char>(capacity);
     int size = 0;
-    const bool fatal = IsFatal([&] { size = manager.WideCharToChar(wide.c_str(), exact.data(), capacity); });
+    const bool fatal = test::EndsFatally([&] { size = manager.WideCharToChar(wide.c_str(), exact.data(), capacity); });
     Promise(fatal || (size >= 1 && size <= capacity && IsTerminated(exact)), "narrow text fits, or ends the program");
 
     constexpr std::size_t kStated = 1024;
@@ -302,10 +304,10 @@ void RunText(const std::uint8_t* data, std::size_t size)
     constexpr std::uint32_t kCodePages[] = {1252, 932, 936, kUtf8};
     Input input(data, size);
     const std::uint32_t codePage = input.OneOf(kCodePages);
-    const FatalErrorsCaught caught;
-    Program program(ComputerWith(codePage));
+    const test::FatalErrorsCaught caught;
+    test::Program program(ComputerWith(codePage));
     while (!input.IsEmpty())
-        CheckSome(program.manager(), input, codePage);
+        CheckSome(program.Manager(), input, codePage);
 }
 
 } // namespace calvix::fuzz

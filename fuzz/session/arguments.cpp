@@ -1,110 +1,111 @@
 #include "session/arguments.h"
 
-#include "forms/utf8.h"
 #include "session/world.h"
 
 #include "support/test_worlds.h"
 
-#include <cstring>
+#include <atomic>
 
 namespace calvix::fuzz::session
 {
 
-template <typename Character>
-Character* Arguments::Text(const std::basic_string<Character>& text)
+using test::methods::Role;
+
+namespace
 {
-    std::vector<Character>& owned = New(std::vector<Character>(text.begin(), text.end()));
-    owned.push_back(Character{});
-    return owned.data();
+
+std::atomic<unsigned> notifications;
+
+void WINAPI CountNotification(PWLAN_NOTIFICATION_DATA, PVOID)
+{
+    ++notifications;
 }
 
-const GUID* Arguments::Adapter()
+} // namespace
+
+bool HostileArguments::IsNull(const Parameter& parameter)
+{
+    return m_input.OneIn(parameter.role == Role::callback ? 4 : 16);
+}
+
+const GUID* HostileArguments::Adapter()
+{
+    const GUID* const adapters[] = {&test::kNoAdapter, &test::kAdapterB, &test::kAdapterB, &test::kAdapterA};
+    return m_input.OneIn(4) ? m_input.OneOf(adapters) : &test::kAdapterA;
+}
+
+std::string HostileArguments::Text()
 {
     switch (m_input.Below(16))
     {
     case 0:
-        return nullptr;
+        return {};
     case 1:
-        return &test::kNoAdapter;
+        return std::string(m_input.Byte() * 4U, 'n');
     case 2:
+        return std::string(m_input.Bytes(40)).c_str(); // as far as to a zero
     case 3:
-        return &test::kAdapterB;
+        return "\"";
     default:
-        return &test::kAdapterA;
+        return NetworkName(m_input);
     }
 }
 
-const wchar_t* Arguments::WideText()
+std::string HostileArguments::Text(const Parameter& parameter)
 {
-    switch (m_input.Below(16))
-    {
-    case 0:
-        return nullptr;
-    case 1:
-        return Text(std::wstring(m_input.Byte() * 4U, L'n'));
-    case 2:
-        return Text(forms::WideFromUtf8(m_input.Bytes(40)));
-    default:
-        return Text(forms::WideFromUtf8(NetworkName(m_input)));
-    }
+    return parameter.role == Role::text && m_input.OneIn(2) ? parameter.text : Text();
 }
 
-const char* Arguments::NarrowText()
-{
-    switch (m_input.Below(16))
-    {
-    case 0:
-        return nullptr;
-    case 1:
-        return Text(std::string(m_input.Byte() * 4U, 'n'));
-    case 2:
-        return Text(std::string(m_input.Bytes(40)));
-    default:
-        return Text(NetworkName(m_input));
-    }
-}
-
-const wchar_t* Arguments::Document()
+std::string HostileArguments::Document()
 {
     if (m_input.OneIn(8))
-        return WideText();
+        return Text();
     std::string xml = ProfileDocument(m_input);
     if (m_input.OneIn(4))
         xml.resize(xml.size() * m_input.Byte() / 256);
-    return Text(forms::WideFromUtf8(xml));
+    return xml;
 }
 
-DOT11_SSID* Arguments::Ssid()
+DOT11_SSID HostileArguments::Ssid()
 {
     DOT11_SSID ssid = test::MakeSsid(NetworkName(m_input));
     if (m_input.OneIn(8))
-        ssid.uSSIDLength = Number();
-    return &New(ssid);
+        ssid.uSSIDLength = AnyNumber();
+    return ssid;
 }
 
-WLAN_CONNECTION_ATTRIBUTES* Arguments::Connection()
+WLAN_CONNECTION_ATTRIBUTES HostileArguments::Connection()
 {
-    WLAN_CONNECTION_ATTRIBUTES connection{};
-    const std::wstring name = forms::WideFromUtf8(NetworkName(m_input));
-    name.copy(connection.strProfileName, WLAN_MAX_NAME_LENGTH - 1);
-    connection.wlanAssociationAttributes.dot11Ssid = *Ssid();
+    WLAN_CONNECTION_ATTRIBUTES connection = test::methods::ConnectionWith(NetworkName(m_input));
+    connection.wlanAssociationAttributes.dot11Ssid = Ssid();
     connection.wlanAssociationAttributes.dot11BssType = static_cast<DOT11_BSS_TYPE>(m_input.Below(4));
     connection.wlanSecurityAttributes.bSecurityEnabled = m_input.OneIn(4) ? FALSE : TRUE;
-    return &New(connection);
+    return connection;
 }
 
-WLAN_CONNECTION_NOTIFICATION_DATA* Arguments::Notification()
+/// Sizes that are not unsigned are negative and 0, too.
+long long HostileArguments::Number(const Parameter& parameter)
 {
-    WLAN_CONNECTION_NOTIFICATION_DATA data{};
-    const std::wstring name = forms::WideFromUtf8(NetworkName(m_input));
-    name.copy(data.strProfileName, WLAN_MAX_NAME_LENGTH - 1);
-    data.dot11Ssid = *Ssid();
-    data.dot11BssType = static_cast<DOT11_BSS_TYPE>(m_input.Below(4));
-    data.bSecurityEnabled = m_input.OneIn(4) ? FALSE : TRUE;
-    return &New(data);
+    if (parameter.role == Role::length)
+        return static_cast<long long>(m_input.Below(40));
+    if (parameter.role == Role::capacity && parameter.type == "unsigned long")
+        return m_input.Byte();
+    if (parameter.role == Role::capacity)
+        return (static_cast<long long>(m_input.Below(200)) - 2) * (parameter.number > 1000 ? 10 : 1);
+    if (parameter.type == "bool")
+        return m_input.OneIn(2) ? 1 : 0;
+    if (m_input.OneIn(2))
+        return parameter.number;
+    const std::uint32_t number = AnyNumber();
+    return parameter.type == "int" ? static_cast<std::int32_t>(number) : static_cast<long long>(number);
 }
 
-std::uint32_t Arguments::Number()
+WLAN_NOTIFICATION_CALLBACK HostileArguments::Callback()
+{
+    return CountNotification;
+}
+
+std::uint32_t HostileArguments::AnyNumber()
 {
     constexpr std::uint32_t kEdges[] = {0, 1, 2, 3, 32, 33, 64, 65, 255, 0x7FFFFFFF, 0x80000000, 0xFFFFFFFF};
     return m_input.OneIn(4) ? m_input.Number() : m_input.OneOf(kEdges);

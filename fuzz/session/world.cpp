@@ -106,13 +106,7 @@ std::string ProfileDocument(Input& input)
 
 Scenario MakeWorld(Input& input)
 {
-    // Listing the schemes fails, or GetPowerScheme would never end.
-    constexpr std::uint32_t kNoMoreItems = 259;
-    Scenario world = test::SilentWorld();
-    world.power.enumerationError = kNoMoreItems;
-    world.programPath = "C:\\Tools\\host.exe";
-    world.programs = {{.path = std::string("C:\\Tools\\") + kProgram}};
-    world.processes = {{.id = kProcess, .path = "C:\\Tools\\running.exe"}};
+    Scenario world = test::Furnished(test::SilentWorld());
     SwitchThings(input, world);
     world.adapters.resize(input.OneIn(16) ? 0 : 1 + input.Below(2));
     for (AdapterDescription& adapter : world.adapters)

@@ -1,6 +1,5 @@
 // The inputs that fuzzing begins with and those that it has found, run through their targets once more.
 
-#include "session/methods.h"
 #include "targets.h"
 
 #include <gmock/gmock.h>
@@ -77,18 +76,6 @@ TEST(Findings, BelongToTargets)
         EXPECT_THAT(names, testing::Contains(folder.filename().string()));
         EXPECT_THAT(FilesIn(folder), testing::Not(testing::IsEmpty())) << folder;
     }
-}
-
-TEST(Session, MissesNoMethod)
-{
-    std::ifstream list(CALVIX_SOURCE_DIR "/tests/binary/exports.txt");
-    std::vector<std::string> exported;
-    for (std::string line; std::getline(list, line);)
-        exported.push_back(line);
-    std::vector<std::string> called;
-    for (const fuzz::session::Method& method : fuzz::session::EveryMethod())
-        called.push_back(method.declaration);
-    EXPECT_THAT(called, testing::UnorderedElementsAreArray(exported));
 }
 
 } // namespace

@@ -28,22 +28,14 @@ bool IsReporting(std::string_view operation)
 
 LibraryTest::LibraryTest(const simulation::Scenario& world) : m_world(world)
 {
-    ManagerInternals::Reset();
     Begin();
 }
 
-LibraryTest::~LibraryTest()
-{
-    // A test that threw has not come past TearDown.
-    platform::ReplacePlatform(nullptr);
-    ManagerInternals::Reset();
-    g_bTraceOn = 0;
-}
+LibraryTest::~LibraryTest() = default;
 
 void LibraryTest::Begin()
 {
-    m_machine = std::make_unique<Machine>(m_world, m_chain);
-    platform::ReplacePlatform(&m_machine->platform);
+    m_computer.emplace(m_world, m_chain);
     SetTracing(true);
     CWirelessManage::Get();
     ClearCalls();
@@ -52,22 +44,18 @@ void LibraryTest::Begin()
 void LibraryTest::End()
 {
     ClearFailures();
-    // A test may have deleted the manager itself; its handle is a stale one then.
-    if (computer().Audit().openClients == 0)
-        ManagerInternals::Client() = nullptr;
+    // A test may have deleted the manager itself.
+    m_computer->ForgetClosedClient();
     CWirelessManage::Delete();
     CheckAccounts(0);
-    platform::ReplacePlatform(nullptr);
-    ManagerInternals::Reset();
-    SetTracing(false);
     m_expectedDefects.clear();
-    m_machine.reset();
+    m_computer.reset();
 }
 
 void LibraryTest::TearDown()
 {
     // There is no computer when its world could not be used.
-    if (m_machine != nullptr)
+    if (m_computer)
         End();
 }
 
@@ -83,17 +71,9 @@ void LibraryTest::Restart()
     Begin();
 }
 
-CWirelessManage& LibraryTest::manager()
-{
-    CWirelessManage* const instance = ManagerInternals::Instance();
-    return instance != nullptr ? *instance : *CWirelessManage::Get();
-}
-
 void LibraryTest::ForgetClient()
 {
-    if (ManagerInternals::Client() != nullptr)
-        m_machine->platform.wlan().WlanCloseHandle(ManagerInternals::Client(), nullptr);
-    ManagerInternals::Client() = nullptr;
+    m_computer->CloseClient();
     ClearCalls();
 }
 
@@ -130,7 +110,7 @@ wrappers::Call LibraryTest::call(std::string_view operation, std::size_t number)
 
 std::vector<std::string> LibraryTest::traced() const
 {
-    const std::vector<std::string>& output = m_machine->computer.DebuggerLines();
+    const std::vector<std::string>& output = m_computer->computer().DebuggerLines();
     std::vector<std::string> lines;
     for (std::size_t i = 0; i < output.size(); i += 2)
     {

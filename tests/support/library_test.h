@@ -26,12 +26,10 @@
 // UseWorld), the client handle is open, tracing is on, the shared trace buffer is marked and nothing is recorded yet.
 // After it nothing may be held: no block of the service, no handle, no client, and no defect that was not announced.
 
-#include "simulation/computer.h"
-#include "support/manager_internals.h"
+#include "support/test_computer.h"
 #include "support/test_worlds.h"
 #include "wrappers/call_log.h"
 #include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -56,8 +54,8 @@ public:
     void Restart();
     const simulation::Scenario& world() const { return m_world; }
 
-    CWirelessManage& manager();
-    simulation::Computer& computer() { return m_machine->computer; }
+    CWirelessManage& manager() { return m_computer->Manager(); }
+    simulation::Computer& computer() { return m_computer->computer(); }
     void Advance(std::chrono::milliseconds duration) { computer().Advance(duration); }
 
     /// Closes the client handle, so that the next call opens it again.
@@ -102,16 +100,6 @@ protected:
     void TearDown() override;
 
 private:
-    struct Machine
-    {
-        Machine(const simulation::Scenario& world, wrappers::Interceptor& interceptor)
-            : computer(world), platform(computer, interceptor)
-        {
-        }
-        simulation::Computer computer;
-        wrappers::InterceptedPlatform platform;
-    };
-
     void Begin();
     void End();
     void CheckAccounts(std::size_t clientsAllowed);
@@ -120,7 +108,7 @@ private:
     wrappers::CallLog m_log;
     wrappers::FaultInjection m_faults;
     wrappers::InterceptorChain m_chain{{&m_log, &m_faults}};
-    std::unique_ptr<Machine> m_machine;
+    std::optional<TestComputer> m_computer;
     std::vector<std::string> m_expectedDefects;
 };
 

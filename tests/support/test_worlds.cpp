@@ -1,7 +1,6 @@
 #include "support/test_worlds.h"
 
-#include <algorithm>
-#include <cstring>
+#include "methods/method.h"
 
 namespace calvix::test
 {
@@ -156,6 +155,23 @@ Scenario NoProfileWorld()
     return world;
 }
 
+Scenario Furnished(Scenario world)
+{
+    constexpr std::uint32_t kNoMoreItems = 259;
+    world.power.enumerationError = kNoMoreItems;
+    world.power.lastSleepTime = 1'000;
+    world.power.lastWakeTime = 2'000;
+    world.power.modernStandby = true;
+    world.power.resumesAutomatically = true;
+    world.wow64 = true;
+    const std::string folder = methods::kFolder;
+    world.programPath = folder + "host.exe";
+    world.programs = {{.path = folder + methods::kProgram}};
+    world.processes = {{.id = methods::kProcess, .path = folder + "running.exe"}};
+    world.adapters[0].ihv[Bytes(16)] = {{1, 2, 3, 4}};
+    return world;
+}
+
 AccessPoint
 MakeAccessPoint(const std::string& ssid, const MacAddress& bssid, std::uint32_t frequencyKhz, std::int32_t rssi)
 {
@@ -175,14 +191,6 @@ StoredProfile MakeProfile(const std::string& name, const std::string& mode)
     settings.mode = mode;
     settings.key = name + " key";
     return {simulation::MakeProfileXml(settings)};
-}
-
-DOT11_SSID MakeSsid(const std::string& bytes)
-{
-    DOT11_SSID ssid{};
-    ssid.uSSIDLength = static_cast<ULONG>(bytes.size());
-    std::memcpy(ssid.ucSSID, bytes.data(), (std::min)(bytes.size(), sizeof ssid.ucSSID));
-    return ssid;
 }
 
 } // namespace calvix::test

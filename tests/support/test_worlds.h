@@ -4,6 +4,8 @@
 
 #include <calvix/platform_records.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 
 namespace calvix::test
@@ -59,6 +61,10 @@ simulation::Scenario NoAdapterWorld();
 /// RichWorld without any stored profile, hence without a connection.
 simulation::Scenario NoProfileWorld();
 
+/// The world with what the methods ask beside the radio: power, programs, processes, an answer of the first adapter's
+/// driver. Listing the power schemes fails, or GetPowerScheme would never end.
+simulation::Scenario Furnished(simulation::Scenario world);
+
 /// Building blocks for further worlds.
 simulation::AccessPoint MakeAccessPoint(const std::string& ssid,
                                         const simulation::MacAddress& bssid,
@@ -66,6 +72,12 @@ simulation::AccessPoint MakeAccessPoint(const std::string& ssid,
                                         std::int32_t rssi);
 simulation::StoredProfile MakeProfile(const std::string& name, const std::string& mode = "auto");
 
-DOT11_SSID MakeSsid(const std::string& bytes);
+inline DOT11_SSID MakeSsid(const std::string& bytes)
+{
+    DOT11_SSID ssid{};
+    ssid.uSSIDLength = static_cast<ULONG>(bytes.size());
+    std::memcpy(ssid.ucSSID, bytes.data(), (std::min)(bytes.size(), sizeof ssid.ucSSID));
+    return ssid;
+}
 
 } // namespace calvix::test

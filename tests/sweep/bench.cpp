@@ -1,9 +1,8 @@
 #include "sweep/bench.h"
 
-#include "core/trace.h"
 #include "operations/operations.h"
+#include "support/allocation_counter.h"
 #include "support/edited_answers.h"
-#include "support/manager_internals.h"
 #include "wrappers/call_log.h"
 
 #include <algorithm>
@@ -31,6 +30,14 @@ constexpr std::array<std::string_view, 4> kLists = {"WlanEnumInterfaces", "WlanG
                                                     "WlanGetAvailableNetworkList", "WlanGetNetworkBssList"};
 /// Besides the lists.
 constexpr std::array<std::string_view, 2> kRecords = {"WlanQueryInterface", "WlanGetProfile"};
+
+/// Methods with what is called before them, and never fails, so that they find something to do.
+constexpr std::pair<const char*, const char*> kFirst[] = {
+    {"UnRegisterNotification", "RegisterNotification"},
+    {"RecoverConnetionAttributes", "SaveCurrentConnectionAttributes"},
+    {"RecoverConnNotificationData", "SaveConnNotificationData"},
+    {"ForceComputerSleep", "GetPrivileges"},
+    {"ResetPowerScheme", "SetPowerScheme"}};
 
 /// Changes the answers of the calls that a failure is about: takes the entries out of lists, or adds an error.
 class Altering
@@ -90,61 +97,44 @@ bool Contains(const std::array<std::string_view, Count>& names, std::string_view
 
 } // namespace
 
-Bench::Bench(const simulation::Scenario& world, wrappers::Interceptor& interceptor)
-    : m_computer(world), m_platform(m_computer, interceptor)
+Bench::Bench(const simulation::Scenario& world, wrappers::Interceptor& interceptor) : m_computer(world, interceptor)
 {
-    ManagerInternals::Reset();
-    platform::ReplacePlatform(&m_platform);
     g_bTraceOn = 1;
 }
 
-Bench::~Bench()
+bool OpensClient(const Method& method)
 {
-    g_bTraceOn = 0;
-    ForgetClosedClient();
-    CWirelessManage::Delete();
-    platform::ReplacePlatform(nullptr);
-    ManagerInternals::Reset();
+    return !method.Is("Delete") && !method.Is("UnRegisterNotification");
 }
 
-CWirelessManage& Bench::Manager()
+void Bench::Prepare(const Method& method)
 {
-    const AllocationPause notTheMethods;
-    CWirelessManage* const instance = ManagerInternals::Instance();
-    return instance != nullptr ? *instance : *CWirelessManage::Get();
+    CWirelessManage& manager = m_computer.Manager();
+    for (const auto& [name, first] : kFirst)
+    {
+        if (!method.Is(name))
+            continue;
+        methods::Arguments useful;
+        methods::Call(methods::FindMethod(first), useful).Make(manager);
+    }
+    if (OpensClient(method))
+        m_computer.CloseClient();
 }
 
-/// Delete leaves the closed handle where it was.
-void Bench::ForgetClosedClient()
+Outcome Bench::Call(const Method& method)
 {
-    const AllocationPause notTheMethods;
-    if (m_computer.Audit().openClients == 0)
-        ManagerInternals::Client() = nullptr;
+    std::optional<AllocationPause> notTheMethods(std::in_place);
+    m_computer.ForgetClosedClient();
+    CWirelessManage& manager = m_computer.Manager();
+    methods::Arguments useful;
+    methods::Call call(method, useful);
+    notTheMethods.reset();
+    call.Make(manager);
+    notTheMethods.emplace();
+    return call.Outcome();
 }
 
-void Bench::CloseClient()
-{
-    if (ManagerInternals::Client() != nullptr)
-        m_computer.wlan().WlanCloseHandle(ManagerInternals::Client(), nullptr);
-    ManagerInternals::Client() = nullptr;
-}
-
-void Bench::Prepare(const MethodCall& method)
-{
-    CWirelessManage& manager = Manager();
-    if (method.before != nullptr)
-        method.before(manager);
-    if (method.opensClient)
-        CloseClient();
-}
-
-Outcome Bench::Call(const MethodCall& method)
-{
-    ForgetClosedClient();
-    return method.call(Manager());
-}
-
-Reference Record(const simulation::Scenario& world, const MethodCall& method)
+Reference Record(const simulation::Scenario& world, const Method& method)
 {
     wrappers::CallLog log;
     Bench bench(world, log);
@@ -211,7 +201,7 @@ namespace
 
 /// Calls the method while the platform lets it down, and counts how often.
 Outcome CallInTrouble(
-    Bench& bench, wrappers::FaultInjection& faults, const MethodCall& method, const Failure& failure, unsigned& failed)
+    Bench& bench, wrappers::FaultInjection& faults, const Method& method, const Failure& failure, unsigned& failed)
 {
     if (failure.way != Way::refused)
     {
@@ -229,7 +219,7 @@ Outcome CallInTrouble(
 
 } // namespace
 
-Run Repeat(const simulation::Scenario& world, const MethodCall& method, const Failure& failure)
+Run Repeat(const simulation::Scenario& world, const Method& method, const Failure& failure)
 {
     wrappers::FaultInjection faults;
     Bench bench(world, faults);

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "simulation/computer.h"
-#include "sweep/method_call.h"
+#include "methods/method.h"
+#include "support/test_computer.h"
 #include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
 
 #include <string>
 #include <vector>
@@ -11,28 +10,26 @@
 namespace calvix::test::sweep
 {
 
-/// A fresh computer with the library on it, ready for one method. One at a time.
+using methods::Method;
+using methods::Outcome;
+
+/// A fresh computer with the library on it, ready for one method. Only what the method does counts as its allocations.
 class Bench
 {
 public:
     Bench(const simulation::Scenario& world, wrappers::Interceptor& interceptor);
-    ~Bench();
-    Bench(const Bench&) = delete;
-    Bench& operator=(const Bench&) = delete;
 
     /// Brings about what the method needs.
-    void Prepare(const MethodCall& method);
-    Outcome Call(const MethodCall& method);
+    void Prepare(const Method& method);
+    Outcome Call(const Method& method);
     simulation::Accounts Audit() { return m_computer.Audit(); }
 
 private:
-    CWirelessManage& Manager();
-    void ForgetClosedClient();
-    void CloseClient();
-
-    simulation::Computer m_computer;
-    wrappers::InterceptedPlatform m_platform;
+    TestComputer m_computer;
 };
+
+/// Whether the client handle is closed before the call, so that the method has to open it.
+bool OpensClient(const Method& method);
 
 /// What a method does where nothing fails.
 struct Reference
@@ -43,7 +40,7 @@ struct Reference
     Outcome again;                       ///< called once more
 };
 
-Reference Record(const simulation::Scenario& world, const MethodCall& method);
+Reference Record(const simulation::Scenario& world, const Method& method);
 
 /// What becomes of the calls that a failure is about.
 enum class Way
@@ -81,6 +78,6 @@ struct Run
     simulation::Accounts inTheEnd;
 };
 
-Run Repeat(const simulation::Scenario& world, const MethodCall& method, const Failure& failure);
+Run Repeat(const simulation::Scenario& world, const Method& method, const Failure& failure);
 
 } // namespace calvix::test::sweep

@@ -68,10 +68,10 @@ unsigned Fewest(std::string_view declaration, std::string_view operation)
     return found != std::end(kRepetitions) ? found->times : 1;
 }
 
-std::map<std::string, unsigned> CountedCalls(const sweep::MethodCall& method)
+std::map<std::string, unsigned> CountedCalls(const methods::Method& method)
 {
     std::map<std::string, unsigned> calls;
-    for (const std::string& operation : Record(sweep::Worlds()[0].make(), method).operations)
+    for (const std::string& operation : sweep::Record(sweep::Worlds()[0].make(), method).operations)
         if (std::find(std::begin(kFree), std::end(kFree), operation) == std::end(kFree))
             ++calls[operation];
     return calls;
@@ -80,7 +80,7 @@ std::map<std::string, unsigned> CountedCalls(const sweep::MethodCall& method)
 TEST(CallCount, OfEveryMethodIsTheFewestThatItsContractAllows)
 {
     std::map<std::pair<unsigned, unsigned>, std::set<std::string>> methods; // by calls made and the fewest
-    for (const sweep::MethodCall& method : sweep::EveryMethod())
+    for (const methods::Method& method : methods::EveryMethod())
     {
         unsigned made = 0;
         unsigned fewest = 0;

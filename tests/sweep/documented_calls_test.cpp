@@ -64,10 +64,10 @@ std::map<std::string, Documented> ReadReference()
 }
 
 /// What a method calls where nothing fails, in the order of the first time; trace lines are not told.
-Operations Made(const sweep::World& world, const sweep::MethodCall& method)
+Operations Made(const sweep::World& world, const methods::Method& method)
 {
     Operations made;
-    for (const std::string& operation : Record(world.make(), method).operations)
+    for (const std::string& operation : sweep::Record(world.make(), method).operations)
         if (operation != "OutputDebugStringA")
             AddOnce(made, operation);
     return made;
@@ -86,7 +86,7 @@ Operations InDocumentedOrder(const Documented& documented, const Operations& mad
 TEST(DocumentedCalls, AreThoseOfEveryMethod)
 {
     const std::map<std::string, Documented> reference = ReadReference();
-    for (const sweep::MethodCall& method : sweep::EveryMethod())
+    for (const methods::Method& method : methods::EveryMethod())
     {
         SCOPED_TRACE(method.declaration);
         ASSERT_TRUE(reference.contains(method.declaration));
@@ -104,7 +104,7 @@ TEST(DocumentedCalls, AreThoseOfEveryMethod)
 }
 
 /// The calls of the WLAN service, with their arguments, where the client handle is not open.
-std::vector<std::string> ServiceCalls(sweep::Bench& bench, wrappers::CallLog& log, const sweep::MethodCall& method)
+std::vector<std::string> ServiceCalls(sweep::Bench& bench, wrappers::CallLog& log, const methods::Method& method)
 {
     bench.Prepare(method);
     log.Clear();
@@ -117,13 +117,13 @@ std::vector<std::string> ServiceCalls(sweep::Bench& bench, wrappers::CallLog& lo
 
 TEST(DocumentedCalls, BeginWithOpeningTheClientWhichStaysOpen)
 {
-    for (const sweep::MethodCall& method : sweep::EveryMethod())
+    for (const methods::Method& method : methods::EveryMethod())
     {
         SCOPED_TRACE(method.declaration);
         wrappers::CallLog log;
         sweep::Bench bench(sweep::Worlds().front().make(), log);
         const std::vector<std::string> calls = ServiceCalls(bench, log, method);
-        if (calls.empty() || !method.opensClient)
+        if (calls.empty() || !sweep::OpensClient(method))
             continue;
         EXPECT_EQ(calls.front(),
                   "WlanOpenHandle(clientVersion=2, reserved=null, negotiatedVersion=non-null, client=non-null)");

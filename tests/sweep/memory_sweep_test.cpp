@@ -23,8 +23,8 @@ namespace calvix::test::memory_sweep_test
 namespace
 {
 
-using sweep::MethodCall;
-using sweep::Outcome;
+using methods::Method;
+using methods::Outcome;
 
 constexpr DWORD kNotEnoughMemory = 8;
 
@@ -71,7 +71,7 @@ constexpr Shortage kShortages[] = {
     {"ConnectBestAP(GUID const*, std::vector<WLAN_BSS_ENTRY>*, wchar_t const*)", "", 0},
 };
 
-std::vector<Shortage> ShortagesOf(const MethodCall& method)
+std::vector<Shortage> ShortagesOf(const Method& method)
 {
     std::vector<Shortage> shortages;
     std::copy_if(std::begin(kShortages), std::end(kShortages), std::back_inserter(shortages),
@@ -132,7 +132,7 @@ std::vector<Setting> Settings()
 class CountingBench
 {
 public:
-    CountingBench(const Setting& setting, const MethodCall& method) : m_bench(setting.world, m_chain)
+    CountingBench(const Setting& setting, const Method& method) : m_bench(setting.world, m_chain)
     {
         m_answers.conversion.takesAllFlagsForUtf8 = true;
         m_answers.conversion.takesAllFlagsForNarrow = true;
@@ -142,7 +142,7 @@ public:
     }
 
     void Fail(std::string_view operation) { m_faults.Fail(std::string(operation), {kNotEnoughMemory}); }
-    Outcome Call(const MethodCall& method) { return m_bench.Call(method); }
+    Outcome Call(const Method& method) { return m_bench.Call(method); }
     simulation::Accounts Audit() { return m_bench.Audit(); }
 
 private:
@@ -161,7 +161,7 @@ struct Plenty
     Outcome again;
 };
 
-Plenty CallWithPlenty(const Setting& setting, const MethodCall& method)
+Plenty CallWithPlenty(const Setting& setting, const Method& method)
 {
     CountingBench bench(setting, method);
     Plenty plenty;
@@ -172,7 +172,7 @@ Plenty CallWithPlenty(const Setting& setting, const MethodCall& method)
     return plenty;
 }
 
-Outcome CallInTrouble(const Setting& setting, const MethodCall& method, std::string_view operation)
+Outcome CallInTrouble(const Setting& setting, const Method& method, std::string_view operation)
 {
     CountingBench bench(setting, method);
     bench.Fail(operation);
@@ -197,7 +197,7 @@ struct Run
 };
 
 /// The `from`-th allocation and the following fail, as many as `times`.
-Run CallShort(const Setting& setting, const MethodCall& method, std::size_t from, std::size_t times)
+Run CallShort(const Setting& setting, const Method& method, std::size_t from, std::size_t times)
 {
     CountingBench bench(setting, method);
     Run run;
@@ -228,7 +228,7 @@ std::string Text(const Outcome& outcome)
 class Sweep
 {
 public:
-    Sweep(const Setting& setting, const MethodCall& method)
+    Sweep(const Setting& setting, const Method& method)
         : m_setting(setting), m_method(method), m_plenty(CallWithPlenty(setting, method)),
           m_shortages(ShortagesOf(method))
     {
@@ -288,7 +288,7 @@ private:
     }
 
     const Setting& m_setting;
-    const MethodCall& m_method;
+    const Method& m_method;
     Plenty m_plenty;
     std::vector<Shortage> m_shortages;
     std::vector<Outcome> m_expected; ///< one for each shortage
@@ -299,7 +299,7 @@ TEST(MemorySweep, EveryAllocationOfEveryMethodFails)
 {
     const std::vector<Setting> settings = Settings();
     std::size_t runs = 0;
-    for (const MethodCall& method : sweep::EveryMethod())
+    for (const Method& method : methods::EveryMethod())
     {
         SCOPED_TRACE(method.declaration);
         std::set<std::size_t> seen;
@@ -334,7 +334,7 @@ TEST(MemorySweep, GetGivesNullWithoutMemoryForTheManager)
 TEST(MemorySweep, TheTableNamesMethods)
 {
     std::set<std::string_view> names;
-    for (const MethodCall& method : sweep::EveryMethod())
+    for (const Method& method : methods::EveryMethod())
         names.insert(method.declaration);
     for (const Shortage& shortage : kShortages)
         EXPECT_TRUE(names.contains(shortage.method)) << shortage.method;

@@ -216,7 +216,8 @@ constexpr Want kWants[] = {
 
 bool AreUntouched(const std::vector<std::string>& outputs)
 {
-    return std::all_of(outputs.begin(), outputs.end(), [](const std::string& output) { return output == kUntouched; });
+    return std::all_of(outputs.begin(), outputs.end(),
+                       [](const std::string& output) { return output == methods::kUntouched; });
 }
 
 /// As ever, but for exactly one output, which is as it was.
@@ -227,7 +228,7 @@ bool LacksOneOutput(const Outcome& outcome, const Outcome& asEver)
     {
         if (outcome.outputs[index] == asEver.outputs[index])
             continue;
-        if (outcome.outputs[index] != kUntouched)
+        if (outcome.outputs[index] != methods::kUntouched)
             return false;
         ++lacking;
     }
@@ -242,7 +243,7 @@ bool IsEmptyText(const std::string& output)
 
 /// How many access points, or networks with one, the calls list that do not fail. A profile is read, where it is, just
 /// before the access points of its network are listed.
-long long CountLeft(const MethodCall& method, const Failure& failure, const Reference& reference)
+long long CountLeft(const Method& method, const Failure& failure, const Reference& reference)
 {
     const bool countsNetworks = method.Name() == "GetMatchAPCount";
     unsigned number = 0;
@@ -269,8 +270,7 @@ bool IsFewer(const Outcome& outcome, long long left)
     return outcome.code == left && outcome.outputs.front().starts_with(std::to_string(left) + " entries");
 }
 
-bool Is(
-    Answer answer, const MethodCall& method, const Failure& failure, const Outcome& outcome, const Reference& reference)
+bool Is(Answer answer, const Method& method, const Failure& failure, const Outcome& outcome, const Reference& reference)
 {
     constexpr long long kWeakestSignal = -100;
     switch (answer)
@@ -301,7 +301,7 @@ bool Is(
 
 } // namespace
 
-bool IsTolerated(const MethodCall& method, const Failure& failure, const Outcome& outcome, const Reference& reference)
+bool IsTolerated(const Method& method, const Failure& failure, const Outcome& outcome, const Reference& reference)
 {
     if (failure.IsRelease())
         return outcome == reference.first;
@@ -316,7 +316,7 @@ bool IsTolerated(const MethodCall& method, const Failure& failure, const Outcome
     return std::any_of(std::begin(kRefusals), std::end(kRefusals), fits);
 }
 
-bool CanCause(const MethodCall& method, const Failure& failure, host::Cause cause)
+bool CanCause(const Method& method, const Failure& failure, host::Cause cause)
 {
     if (failure.way == Way::emptied)
         return std::any_of(std::begin(kWants), std::end(kWants),
@@ -331,18 +331,18 @@ bool CanCause(const MethodCall& method, const Failure& failure, host::Cause caus
                        });
 }
 
-std::vector<std::string> OutputsOfFailure(const MethodCall& method, const Failure& failure, const Outcome& outcome)
+std::vector<std::string> OutputsOfFailure(const Method& method, const Failure& failure, const Outcome& outcome)
 {
     constexpr std::array<std::string_view, 3> kEmptyTheirList = {"GetMatchAPList", "GetMatchAPCount",
                                                                  "GetConnectableAPList"};
     constexpr std::array<std::string_view, 2> kTellTheError = {"Rescan", "TurnOnSoftwareRadio"};
     const std::string name = method.Name();
-    std::string output = kUntouched;
+    std::string output = methods::kUntouched;
     if (std::find(kEmptyTheirList.begin(), kEmptyTheirList.end(), name) != kEmptyTheirList.end())
         output = "0 entries";
     const unsigned long error = failure.fault.error;
     if (std::find(kTellTheError.begin(), kTellTheError.end(), name) != kTellTheError.end())
-        output = BytesText(&error, sizeof(error));
+        output = methods::BytesText(&error, sizeof(error));
     return std::vector<std::string>(outcome.outputs.size(), output);
 }
 

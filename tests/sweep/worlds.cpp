@@ -1,30 +1,12 @@
 #include "sweep/worlds.h"
 
 #include "support/test_worlds.h"
-#include "sweep/method_call.h"
 
 namespace calvix::test::sweep
 {
 
 namespace
 {
-
-/// What the methods ask beside the radio. Listing the power schemes fails, or GetPowerScheme would never end.
-simulation::Scenario Furnished(simulation::Scenario world)
-{
-    constexpr std::uint32_t kNoMoreItems = 259;
-    world.power.enumerationError = kNoMoreItems;
-    world.power.lastSleepTime = 1'000;
-    world.power.lastWakeTime = 2'000;
-    world.power.modernStandby = true;
-    world.power.resumesAutomatically = true;
-    world.wow64 = true;
-    world.programPath = "C:\\Tools\\host.exe";
-    world.programs = {{.path = std::string("C:\\Tools\\") + kProgram}};
-    world.processes = {{.id = kProcess, .path = "C:\\Tools\\running.exe"}};
-    world.adapters[0].ihv[simulation::Bytes(16)] = {{1, 2, 3, 4}};
-    return world;
-}
 
 simulation::Scenario Connected()
 {

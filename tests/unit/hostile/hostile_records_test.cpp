@@ -1,12 +1,12 @@
 // A service whose records hold what no service should say. What the methods make of it follows from their rules, or is
 // their answer to a failed call; nothing is read beyond the records, which the sanitizers watch, and nothing is left held.
 
+#include "methods/method.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/result_code.h"
 #include "support/strict_copy_guard.h"
 #include "unit/hostile/empty_handed_service.h"
-#include "unit/hostile/every_reader.h"
 #include "unit/inventory/altered_answers.h"
 
 #include "core/wlan_records.h"
@@ -19,26 +19,39 @@ namespace calvix::test::hostile_records_test
 namespace
 {
 
+using ::testing::AnyOf;
 using ::testing::Contains;
+using ::testing::Each;
+
+using methods::Method;
+using methods::Outcome;
+using methods::Role;
 
 class HostileRecordsTest : public LibraryTest
 {
 public:
-    long long Result(const std::string& method)
+    Outcome Ask(const Method& method, methods::Arguments&& arguments = {})
     {
-        for (const Reader& reader : EveryReader())
-            if (reader.method == method)
-                return reader.call(manager());
-        ADD_FAILURE() << "no such method: " << method;
-        return 0;
+        methods::Call call(method, arguments);
+        call.Make(manager());
+        return call.Outcome();
+    }
+    /// Of the method with this name, the length of its result if that is a text.
+    long long Result(const char* method)
+    {
+        const Outcome outcome = Ask(methods::FindMethod(method));
+        return outcome.code.value_or(static_cast<long long>(outcome.text.size()));
     }
 
     void CallEverything()
     {
-        for (const Reader& reader : EveryReader())
+        for (const Method& method : methods::EveryMethod())
         {
-            SCOPED_TRACE(reader.method);
-            reader.call(manager());
+            SCOPED_TRACE(method.declaration);
+            if (method.Is("Delete"))
+                continue;
+            const bool fatal = EndsFatally([&] { Ask(method); });
+            EXPECT_TRUE(!fatal || method.Is("GetCurrentSSID") || method.Is("GetCurrentLinkInfo"));
             ExpectNothingHeld();
         }
     }
@@ -164,7 +177,7 @@ TEST_F(HostileRecordsTest, NoRecordBringsAMethodDown)
     for (Spoiling& spoiling : EverySpoiling())
     {
         SCOPED_TRACE(spoiling.name);
-        UseWorld(RichWorld());
+        UseWorld(Furnished(RichWorld()));
         const AlteredAnswers altered(std::move(spoiling.changes));
         CallEverything();
     }
@@ -185,14 +198,14 @@ const std::map<std::string, std::vector<Expectation>> kEmptyHanded = {
       {"GetWlanInterface"},
       {"GetWlanInterfaceDesc", 0},
       {"GetWiFiAdapterCount"},
-      {"Rescan"},
+      {"Rescan()"},
       {"GetNetworkBssCount"},
       {"GetCurrentBSS"},
-      {"GetConnectableAPList"},
+      {"GetConnectableAPList(wchar_t*"},
       {"SmartConnecting", 13},
       {"SetCurrentWiFiToLast", 13},
       {"SpecialSoftAP", 0},
-      {"GetCurrentConnection"},
+      {"GetCurrentConnection(WLAN"},
       {"WiFiIsConnected", 0}}},
     {"WlanGetProfileList",
      {{"GetProfileCount"},
@@ -236,7 +249,7 @@ const std::map<std::string, std::vector<Expectation>> kEmptyHanded = {
      {{"GetRssi"},
       {"GetCurrentRSSI"},
       {"GetSignalQuality"},
-      {"GetCurrentConnection"},
+      {"GetCurrentConnection(WLAN"},
       {"PhyRadioIsOn2"},
       {"SupportedSafeMode"},
       {"GetWlanStatistics"},
@@ -248,14 +261,14 @@ const std::map<std::string, std::vector<Expectation>> kEmptyHanded = {
       {"PreRoaming"},
       {"SetCurrentWiFiToLast", 13},
       {"SpecialSoftAP", 0}}},
-    {"WlanQueryAutoConfigParameter", {{"GetPowerSetting", 77}}},
+    {"WlanQueryAutoConfigParameter", {{"GetPowerSetting", 0}}},
     {"WlanGetProfile",
      {{"GetProfile"}, {"IsAutoConnMode2"}, {"SaveCurrentConnectionAttributes"}, {"ConnectAutoMode", -9}}}};
 
 /// Where roaming is worth considering.
 simulation::Scenario WeakWorld()
 {
-    simulation::Scenario world = RichWorld();
+    simulation::Scenario world = Furnished(RichWorld());
     world.accessPoints[0].rssi = -88;
     return world;
 }
@@ -269,12 +282,14 @@ TEST_F(HostileRecordsTest, SuccessWithoutAResultIsAFailedCall)
         const EmptyHandedAnswers emptyHanded(operation);
         for (const Expectation& expected : expectations)
         {
-            const long long code = expected.result ? *expected.result : CodeOf(expected.method, operation);
-            EXPECT_EQ(code, Result(expected.method)) << expected.method;
+            SCOPED_TRACE(expected.method);
+            const Method& method = methods::FindMethod(expected.method);
+            EXPECT_EQ(expected.result ? *expected.result : CodeOf(method.Name(), operation), Result(expected.method));
+            EXPECT_THAT(Ask(method).outputs, Each(AnyOf(methods::kUntouched, "0 entries")));
         }
         CallEverything();
-        EXPECT_THAT(traced(), testing::AnyOf(Contains(operation + " failed with error: 13"),
-                                             Contains(operation + " failed! err is 13")));
+        EXPECT_THAT(traced(),
+                    AnyOf(Contains(operation + " failed with error: 13"), Contains(operation + " failed! err is 13")));
     }
 }
 
@@ -288,28 +303,6 @@ TEST_F(HostileRecordsTest, AnAnswerShorterThanItsRecordIsAFailedQuery)
     EXPECT_EQ(-4, Result("PhyRadioIsOn2"));
     EXPECT_EQ(-4, Result("GetWlanStatistics"));
     EXPECT_EQ(0, Result("GetCurrentConnection")) << "of this record so much is copied as the service says";
-}
-
-long long CurrentSsid(CWirelessManage& manager)
-{
-    char ssid[64] = {};
-    return manager.GetCurrentSSID(ssid, sizeof ssid);
-}
-
-long long CurrentSsidAndRecord(CWirelessManage& manager)
-{
-    char ssid[64] = {};
-    WLAN_CONNECTION_ATTRIBUTES record{};
-    return manager.GetCurrentSSID(ssid, sizeof ssid, &record);
-}
-
-long long LinkInfo(CWirelessManage& manager)
-{
-    int state = 0;
-    int bssType = 0;
-    char ssid[64] = {};
-    char bssid[6] = {};
-    return manager.GetCurrentLinkInfo(&kAdapterA, &state, &bssType, ssid, sizeof ssid, bssid);
 }
 
 /// Cuts the record of the current connection.
@@ -330,7 +323,6 @@ TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
         const char* method;
         long long refused;
         std::size_t needed;
-        long long (*call)(CWirelessManage&) = nullptr; ///< of methods that are not among the readers
     };
     const Case cases[] = {{"SpecialSoftAP", 0, name},
                           {"SetCurrentWiFiToLast", 24, name},
@@ -338,9 +330,9 @@ TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
                           {"AutoSwitch", -3, name},
                           {"ResetConnection", -4, association},
                           {"GetSignalQuality", -4, association},
-                          {"GetCurrentSSID", -4, association, CurrentSsid},
-                          {"GetCurrentSSID with the record", -4, association, CurrentSsidAndRecord},
-                          {"GetCurrentLinkInfo", 24, association, LinkInfo},
+                          {"GetCurrentSSID(char*, int)", -4, association},
+                          {"GetCurrentSSID(char*, int, WLAN", -4, association},
+                          {"GetCurrentLinkInfo", 24, association},
                           {"SmartSwitch", 24, association},
                           {"IsWiFiDisappear", 0, secured},
                           {"GetCurrentBSS", -4, secured},
@@ -354,12 +346,12 @@ TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
         UseWorld(WeakWorld());
         {
             const AlteredAnswers altered(ConnectionOf(each.needed - 1));
-            EXPECT_EQ(each.refused, each.call != nullptr ? each.call(manager()) : Result(each.method));
+            EXPECT_EQ(each.refused, Result(each.method));
             EXPECT_THAT(traced(), Contains(refusal));
         }
         ClearCalls();
         const AlteredAnswers altered(ConnectionOf(each.needed));
-        each.call != nullptr ? each.call(manager()) : Result(each.method);
+        Result(each.method);
         EXPECT_THAT(traced(), ::testing::Not(Contains(refusal)));
     }
 }
@@ -367,7 +359,7 @@ TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
 TEST_F(HostileRecordsTest, APowerSettingThatDidNotComeWholeIsAFailedQuery)
 {
     const AlteredAnswers altered({.parameter = [](DWORD& size) { size = sizeof(WLAN_POWER_SETTING) - 1; }});
-    EXPECT_EQ(77, Result("GetPowerSetting")) << "0, and the level untouched";
+    EXPECT_EQ((Outcome{0, "", {methods::kUntouched}}), Ask(methods::FindMethod("GetPowerSetting")));
     EXPECT_THAT(traced(), ::testing::ElementsAre("WlanQueryAutoConfigParameter failed! err is 24"));
 }
 
@@ -385,38 +377,60 @@ TEST_F(HostileRecordsTest, AnRssiOfFourBytesIsWhole)
 
 TEST_F(HostileRecordsTest, NullRecordsAreRefusedBeforeAnythingElse)
 {
+    struct Case
+    {
+        const char* method; ///< all that share the name
+        Role role;
+        long long refused;
+    };
+    const Case cases[] = {{"GetWlanInterface", Role::list, -13},
+                          {"GetSoftAPList", Role::list, -13},
+                          {"GetWlanStatistics", Role::record, -13},
+                          {"GetMatchAPList", Role::list, -13},
+                          {"GetConnectableAPList", Role::list, -13},
+                          {"GetMatchAPCount", Role::list, -13},
+                          {"GetAP", Role::ssid, -14},
+                          {"GetNotConnectableReason", Role::ssid, -14},
+                          {"GetCurrentWiFi", Role::connection, -14},
+                          {"Reconnect", Role::connection, -14},
+                          {"Reconnect", Role::notification, -14},
+                          {"RecoverConnection", Role::connection, -14},
+                          {"GetConnectableAPList", Role::name, -14},
+                          {"ConnectBestAP", Role::list, -14},
+                          {"ConnectBestAP", Role::name, -14}};
     ForgetClient();
-    CWirelessManage& m = manager();
-    const GUID* const adapter = &kAdapterA;
-    wchar_t name[] = L"HomeNet";
-    wchar_t* const noName = nullptr;
-    int connectable = 0;
-    unsigned long reason = 0;
-    std::vector<WLAN_BSS_ENTRY>* const noEntries = nullptr;
-    std::vector<WLAN_BSS_ENTRY> entries;
-    const long long outputs[] = {m.GetWlanInterface(nullptr),
-                                 m.GetSoftAPList(adapter, nullptr),
-                                 m.GetWlanStatistics(adapter, nullptr),
-                                 m.GetMatchAPList(adapter, nullptr),
-                                 m.GetConnectableAPList(adapter, name, nullptr),
-                                 m.GetConnectableAPList(name, nullptr),
-                                 m.GetMatchAPCount(adapter, nullptr, 1),
-                                 m.GetMatchAPCount(adapter, nullptr, name, 1)};
-    EXPECT_THAT(outputs, ::testing::Each(-13));
-    const long long inputs[] = {m.GetAP(adapter, nullptr),
-                                m.GetNotConnectableReason(adapter, nullptr, 1, connectable, reason),
-                                m.GetCurrentWiFi(adapter, nullptr),
-                                m.Reconnect(adapter, static_cast<WLAN_CONNECTION_ATTRIBUTES*>(nullptr), 0),
-                                m.Reconnect(adapter, static_cast<WLAN_CONNECTION_NOTIFICATION_DATA*>(nullptr), 0),
-                                m.RecoverConnection(adapter, nullptr),
-                                m.GetConnectableAPList(adapter, noName, &entries),
-                                m.GetConnectableAPList(noName, &entries),
-                                m.ConnectBestAP(adapter, noEntries),
-                                m.ConnectBestAP(adapter, noEntries, name),
-                                m.ConnectBestAP(adapter, &entries, noName),
-                                m.ConnectBestAP(adapter, noName)};
-    EXPECT_THAT(inputs, ::testing::Each(-14));
+    for (const Case& each : cases)
+    {
+        std::size_t refusals = 0;
+        for (const Method& method : methods::EveryMethod())
+            for (const methods::Parameter& parameter : method.parameters)
+                if (method.Is(each.method) && parameter.role == each.role)
+                {
+                    EXPECT_EQ(each.refused, Ask(method, methods::ArgumentsWithNull(parameter)).code)
+                        << method.declaration;
+                    ++refusals;
+                }
+        EXPECT_LE(1u, refusals) << each.method;
+    }
     EXPECT_TRUE(timeline().empty());
+}
+
+TEST_F(HostileRecordsTest, NoNullPointerBringsAMethodDown)
+{
+    UseWorld(Furnished(RichWorld()));
+    for (const Method& method : methods::EveryMethod())
+        for (const methods::Parameter& parameter : method.parameters)
+        {
+            if (!parameter.IsPointer())
+                continue;
+            SCOPED_TRACE(method.declaration + ", the " + parameter.type);
+            Outcome outcome;
+            const bool fatal = EndsFatally([&] { outcome = Ask(method, methods::ArgumentsWithNull(parameter)); });
+            const host::MethodResults* const results = host::FindMethod(method.Name());
+            ASSERT_NE(nullptr, results);
+            EXPECT_TRUE(fatal || !outcome.code || host::Explain(*results, *outcome.code).known) << *outcome.code;
+            ExpectNothingHeld();
+        }
 }
 
 TEST_F(HostileRecordsTest, RadioStateWithoutItsFirstPhyHasNone)
