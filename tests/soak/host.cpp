@@ -1,6 +1,6 @@
 #include "soak/host.h"
 
-#include <algorithm>
+#include "support/test_worlds.h"
 
 namespace calvix::test::soak
 {
@@ -8,7 +8,15 @@ namespace calvix::test::soak
 namespace
 {
 
-constexpr GUID kNobodysAdapter = {0x5CA1AB1E, 0x50A4, 0x4000, {0x80, 0x00, 0x00, 0xCA, 0x1F, 0x1C, 0x00, 0x77}};
+void CALLBACK CountNotification(L2_NOTIFICATION_DATA*, void* context)
+{
+    ++static_cast<Host*>(context)->notifications;
+}
+
+void CALLBACK CountTwice(L2_NOTIFICATION_DATA*, void* context)
+{
+    static_cast<Host*>(context)->notifications += 2;
+}
 
 } // namespace
 
@@ -16,56 +24,35 @@ const GUID* Host::Adapter()
 {
     const unsigned chance = Below(100);
     if (adapters.empty() || chance >= 98)
-        return &kNobodysAdapter;
+        return &kNoAdapter;
     return &adapters[chance >= 92 ? adapters.size() - 1 : 0];
 }
 
-std::wstring Host::Name()
+std::string Host::Name()
 {
-    return Below(20) == 0 ? L"Nobody" : kOwnNetworks[Below(static_cast<unsigned>(std::size(kOwnNetworks)))];
-}
-
-std::string Host::NarrowName()
-{
-    std::string narrow;
-    for (const wchar_t character : Name())
-        narrow += static_cast<char>(character);
-    return narrow;
+    return Below(20) == 0 ? "Nobody" : kOwnNetworks[Below(static_cast<unsigned>(std::size(kOwnNetworks)))];
 }
 
 DOT11_SSID Host::Ssid()
 {
-    const std::string name = NarrowName();
-    DOT11_SSID ssid{};
-    ssid.uSSIDLength = static_cast<ULONG>(name.size());
-    std::copy(name.begin(), name.end(), ssid.ucSSID);
-    return ssid;
+    return MakeSsid(Name());
 }
 
-const std::vector<Habit>& Habits()
+/// Registered where a callback is already, the new one takes its place.
+WLAN_NOTIFICATION_CALLBACK Host::Callback()
 {
-    static const std::vector<Habit> all = []
-    {
-        std::vector<Habit> habits;
-        for (const auto& group : {AskingHabits(), JoiningHabits(), SystemHabits()})
-            habits.insert(habits.end(), group.begin(), group.end());
-        return habits;
-    }();
-    return all;
+    return Below(2) == 0 ? CountNotification : CountTwice;
 }
 
-void TidyUp(Host& host)
+std::string Host::Text(const methods::Parameter& parameter)
 {
-    host.Manager().UnRegisterNotification(nullptr, nullptr);
-    for (const GUID& adapter : host.adapters)
-    {
-        host.Manager().RadioTurnOn(&adapter);
-        for (const wchar_t* name : kOwnNetworks)
-            host.Manager().DeleteProfile(&adapter, name);
-    }
-    for (const wchar_t* name : kOwnNetworks)
-        if (!host.adapters.empty())
-            host.Manager().SetProfile(&host.adapters.front(), ProfileText(name, true).c_str());
+    return parameter.role == methods::Role::name ? Name() : parameter.text;
+}
+
+/// Settings and modes have few values; sizes are what they are.
+long long Host::Number(const methods::Parameter& parameter)
+{
+    return parameter.role == methods::Role::number && parameter.number < 4 ? Below(4) : parameter.number;
 }
 
 } // namespace calvix::test::soak

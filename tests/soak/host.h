@@ -1,43 +1,52 @@
 #pragma once
 
+#include "methods/method.h"
 #include "soak/world_text.h"
 
-#include <calvix/wireless_manage.h>
-
 #include <atomic>
+#include <cstdint>
 #include <iterator>
 #include <map>
 #include <random>
-#include <string>
-#include <vector>
 
 namespace calvix::test::soak
 {
 
-/// A program that uses the library all day: what it knows, and what it remembers between two calls.
-struct Host
+/// A program that uses the library all day: what it knows, and what it remembers between two calls. It calls methods with
+/// what it knows.
+class Host final : public methods::Arguments
 {
+public:
     explicit Host(std::uint64_t seed) : random(seed) {}
 
     CWirelessManage& Manager() { return *CWirelessManage::Get(); }
+    void Call(const methods::Method& method) { methods::Call(method, *this).Make(Manager()); }
+    void Call(const char* name) { Call(methods::FindMethod(name)); }
 
     /// A number below `limit`. The standard distributions differ from one library to the next.
     unsigned Below(unsigned limit) { return static_cast<unsigned>(random() % limit); }
     /// The first adapter mostly, sometimes the other, now and then one that is not there.
-    const GUID* Adapter();
+    const GUID* Adapter() override;
     /// A name of a network of ours, rarely one that nobody has.
-    std::wstring Name();
-    std::string NarrowName();
-    DOT11_SSID Ssid();
+    std::string Name();
+    DOT11_SSID Ssid() override;
+    WLAN_CONNECTION_ATTRIBUTES Connection() override { return connection; }
+    WLAN_NOTIFICATION_CALLBACK Callback() override;
+    void* Context() override { return this; }
 
     std::mt19937_64 random;
     std::vector<GUID> adapters;
     WLAN_CONNECTION_ATTRIBUTES connection{};
     std::atomic<std::uint64_t> notifications{0};
-    std::map<std::string, std::uint64_t> calls; ///< by method
+    std::map<std::string, std::uint64_t> calls; ///< by habit
+
+protected:
+    std::string Text(const methods::Parameter& parameter) override;
+    std::string Document() override { return methods::ProfileDocument(Name(), Below(2) == 0); }
+    long long Number(const methods::Parameter& parameter) override;
 };
 
-/// What a method needs of its surroundings to be called at all, or at any time.
+/// What a habit needs of its surroundings to be done at all, or at any time.
 enum class Needs
 {
     nothing,
@@ -48,17 +57,14 @@ enum class Needs
 /// One thing that a program does.
 struct Habit
 {
-    const char* method;
+    std::string name;
     unsigned weight; ///< how often, beside the others
-    void (*act)(Host& host);
+    std::function<void(Host& host)> act;
     Needs needs = Needs::nothing;
 };
 
+/// A call of each method, and what is done in several calls.
 const std::vector<Habit>& Habits();
-
-std::vector<Habit> AskingHabits();
-std::vector<Habit> JoiningHabits();
-std::vector<Habit> SystemHabits();
 
 /// As the program found its profiles, radio and notifications in the morning.
 void TidyUp(Host& host);

@@ -77,7 +77,7 @@ void LiveUntil(Surroundings::Duration evening,
     {
         const Habit& habit = Choose(habits, host, surroundings);
         habit.act(host);
-        ++host.calls[habit.method];
+        ++host.calls[habit.name];
         if (host.Below(100) == 0)
             surroundings.Trouble(host.random);
         surroundings.Pass(std::chrono::seconds(1 + host.Below(240)));
@@ -97,7 +97,7 @@ void Print(const char* when, const Holdings& holdings, const Host& host, std::ui
 std::uint64_t CallsOf(const Host& host)
 {
     std::uint64_t calls = 0;
-    for (const auto& [method, count] : host.calls)
+    for (const auto& [habit, count] : host.calls)
         calls += count;
     return calls;
 }
@@ -128,9 +128,9 @@ bool DidEverything(const Host& host, const std::vector<const Habit*>& habits)
     bool all = host.notifications != 0;
     for (const Habit* habit : habits)
     {
-        if (host.calls.contains(habit->method) || habit->needs == Needs::patience)
+        if (host.calls.contains(habit->name) || habit->needs == Needs::patience)
             continue;
-        std::printf("soak: never called: %s\n", habit->method);
+        std::printf("soak: never done: %s\n", habit->name.c_str());
         all = false;
     }
     return all;

@@ -4,8 +4,8 @@
 
 #include "core/trace.h"
 #include "simulation/computer.h"
-#include "soak/heap_count.h"
-#include "support/manager_internals.h"
+#include "support/allocation_counter.h"
+#include "support/program.h"
 
 #include <unistd.h>
 
@@ -37,12 +37,11 @@ std::uint64_t ResidentKilobytes()
 class SimulatedSurroundings final : public Surroundings
 {
 public:
-    explicit SimulatedSurroundings(const std::string& world) : m_computer(simulation::ParseScenario(world, "soak"))
+    explicit SimulatedSurroundings(const std::string& world)
+        : m_computer(simulation::ParseScenario(world, "soak")), m_program(m_computer)
     {
-        platform::ReplacePlatform(&m_computer);
         g_bTraceOn = 1;
     }
-    ~SimulatedSurroundings() override { platform::ReplacePlatform(nullptr); }
 
     Duration Now() const override { return m_computer.Now(); }
     void Pass(Duration duration) override
@@ -108,7 +107,8 @@ public:
 
     Holdings Measure() override
     {
-        return {ResidentKilobytes(), LiveHeapBlocks(), EntriesIn("/proc/self/fd"), EntriesIn("/proc/self/task")};
+        return {ResidentKilobytes(), static_cast<std::uint64_t>(HeldHeapBlocks()), EntriesIn("/proc/self/fd"),
+                EntriesIn("/proc/self/task")};
     }
 
 private:
@@ -130,6 +130,7 @@ private:
     }
 
     simulation::Computer m_computer;
+    Program m_program;
 };
 
 } // namespace

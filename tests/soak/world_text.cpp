@@ -49,19 +49,18 @@ std::string AccessPoints(unsigned days)
 
 std::string Adapter(const std::string& end, const std::string& profiles)
 {
-    return "{\"guid\":\"{5CA1AB1E-50A4-4000-8000-00CA1F1C00" + end + "}\",\"description\":\"Soaked Adapter " + end +
-           "\",\"address\":\"02:ca:1f:00:50:" + end + "\",\"phys\":[{\"type\":\"ht\"},{\"type\":\"vht\"}]" + profiles +
+    return "{\"guid\":\"{5CA1AB1E-50A4-4000-8000-00CA1F1C000" + end + "}\",\"description\":\"Wireless Adapter " + end +
+           "\",\"address\":\"02:ca:1f:00:50:0" + end + "\",\"phys\":[{\"type\":\"ht\"},{\"type\":\"vht\"}]" + profiles +
            "}";
 }
 
 std::string Profiles()
 {
     std::string text;
-    for (const std::wstring name : kOwnNetworks)
+    for (const std::string name : kOwnNetworks)
     {
         text += text.empty() ? "" : ",";
-        text += "{\"name\":\"" + std::string(name.begin(), name.end()) +
-                "\",\"authentication\":\"open\",\"encryption\":\"none\"}";
+        text += "{\"name\":\"" + name + "\",\"authentication\":\"open\",\"encryption\":\"none\"}";
     }
     return ",\"profiles\":[" + text + "]";
 }
@@ -69,24 +68,15 @@ std::string Profiles()
 /// A computer whose power schemes are not listed and of which none is active: what would add one every time does not.
 constexpr const char* kSystem =
     "\"power\":{\"enumerationError\":5,\"activeScheme\":null,\"schemes\":[],\"sleepMilliseconds\":600000},"
-    "\"programs\":[{\"path\":\"C:\\\\Program Files\\\\Calvix\\\\survey.exe\",\"milliseconds\":4000}],";
+    "\"programPath\":\"C:\\\\Tools\\\\host.exe\","
+    "\"programs\":[{\"path\":\"C:\\\\Tools\\\\worker.exe\",\"milliseconds\":4000}],";
 
 } // namespace
 
 std::string WorldText(unsigned days)
 {
     return "{\"description\":\"A world to live in for a long time.\"," + std::string(kSystem) + "\"adapters\":[" +
-           Adapter("01", Profiles()) + "," + Adapter("02", "") + "],\"accessPoints\":[" + AccessPoints(days) + "]}";
-}
-
-std::wstring ProfileText(const std::wstring& name, bool automatic)
-{
-    return L"<?xml version=\"1.0\"?><WLANProfile xmlns=\"http://www.microsoft.com/networking/WLAN/profile/v1\"><name>" +
-           name + L"</name><SSIDConfig><SSID><name>" + name +
-           L"</name></SSID></SSIDConfig><connectionType>ESS</connectionType><connectionMode>" +
-           (automatic ? L"auto" : L"manual") +
-           L"</connectionMode><MSM><security><authEncryption><authentication>open</authentication><encryption>none"
-           L"</encryption><useOneX>false</useOneX></authEncryption></security></MSM></WLANProfile>";
+           Adapter("A", Profiles()) + "," + Adapter("B", "") + "],\"accessPoints\":[" + AccessPoints(days) + "]}";
 }
 
 } // namespace calvix::test::soak

@@ -1,21 +1,19 @@
 // Wine's own wlanapi.dll: the client handle opens, there is no adapter, and most operations have not been written.
 
-#include "without_wlan/method_case.h"
+#include "without_wlan/expectations.h"
 
-#include <gtest/gtest.h>
+#include <windows.h>
 
 namespace calvix::test::wine_wlan_test
 {
 namespace
 {
 
-using every_method::MethodCase;
-
 class WineWlan : public every_method::OnWine
 {
 };
 
-class EveryMethodOnWine : public WineWlan, public testing::WithParamInterface<MethodCase>
+class EveryMethodOnWine : public WineWlan, public testing::WithParamInterface<methods::Method>
 {
 };
 
@@ -26,12 +24,13 @@ TEST_F(WineWlan, IsThere)
 
 TEST_P(EveryMethodOnWine, ReportsWhatIsRefused)
 {
-    CWirelessManage* const manager = CWirelessManage::Get();
-    ASSERT_NE(manager, nullptr);
-    EXPECT_THAT(GetParam().call(*manager), GetParam().onWine);
+    Check(GetParam(), every_method::Computer::wine);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, EveryMethodOnWine, testing::ValuesIn(every_method::AllMethods()), every_method::TestName);
+INSTANTIATE_TEST_SUITE_P(All,
+                         EveryMethodOnWine,
+                         testing::ValuesIn(every_method::AllMethods()),
+                         [](const auto& method) { return TestName(method.param, method.index); });
 
 } // namespace
 } // namespace calvix::test::wine_wlan_test

@@ -1,21 +1,21 @@
 // A computer without wlanapi.dll: a Windows Server on which nobody has added the wireless feature.
 
-#include "without_wlan/method_case.h"
+#include "without_wlan/expectations.h"
 
-#include <gtest/gtest.h>
+#include "support/test_worlds.h"
+
+#include <windows.h>
 
 namespace calvix::test::without_wlan_test
 {
 namespace
 {
 
-using every_method::MethodCase;
-
 class WithoutWlan : public every_method::OnWine
 {
 };
 
-class EveryMethodWithoutWlan : public WithoutWlan, public testing::WithParamInterface<MethodCase>
+class EveryMethodWithoutWlan : public WithoutWlan, public testing::WithParamInterface<methods::Method>
 {
 };
 
@@ -25,30 +25,20 @@ TEST_F(WithoutWlan, ThereIsNoWlanLibraryHere)
     EXPECT_EQ(::GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
 }
 
-TEST_F(WithoutWlan, EveryExportedMethodIsCalled)
-{
-    std::vector<std::string> called;
-    for (const MethodCase& method : every_method::AllMethods())
-        called.push_back(method.declaration);
-    EXPECT_THAT(called, testing::UnorderedElementsAreArray(every_method::ExportedMethods()));
-}
-
 TEST_P(EveryMethodWithoutWlan, ReportsAClientThatCannotBeOpened)
 {
-    CWirelessManage* const manager = CWirelessManage::Get();
-    ASSERT_NE(manager, nullptr);
-    EXPECT_THAT(GetParam().call(*manager), GetParam().withoutWlan);
+    Check(GetParam(), every_method::Computer::withoutWlan);
 }
 
 INSTANTIATE_TEST_SUITE_P(All,
                          EveryMethodWithoutWlan,
                          testing::ValuesIn(every_method::AllMethods()),
-                         every_method::TestName);
+                         [](const auto& method) { return TestName(method.param, method.index); });
 
 TEST_F(WithoutWlan, ARefusalNamesTheMissingLibrary)
 {
     unsigned long error = 0;
-    EXPECT_EQ(CWirelessManage::Get()->Rescan(&every_method::kAdapter, error), -1);
+    EXPECT_EQ(CWirelessManage::Get()->Rescan(&kAdapterA, error), -1);
     EXPECT_EQ(error, static_cast<unsigned long>(ERROR_MOD_NOT_FOUND));
 }
 
@@ -58,6 +48,13 @@ TEST_F(WithoutWlan, DeleteHasNothingToClose)
     CWirelessManage::Delete();
     ASSERT_NE(CWirelessManage::Get(), nullptr);
     EXPECT_EQ(CWirelessManage::Get()->GetWiFiAdapterCount(), -2);
+}
+
+TEST_F(WithoutWlan, AProgramThatIsNotThereIsNotStarted)
+{
+    std::string name = "calvix-no-such-program.exe";
+    EXPECT_EQ(CWirelessManage::Get()->CreateProcRunExe(name.data()), 0);
+    CWirelessManage::Get()->CreateProcRunCmd(name.data());
 }
 
 } // namespace
