@@ -269,7 +269,8 @@ void Check(const Method& method, Computer computer)
 std::vector<Method> AllMethods()
 {
     std::vector<Method> all = methods::EveryMethod();
-    std::stable_partition(all.begin(), all.end(), [](const Method& method) { return !method.Is("Delete"); });
+    std::stable_partition(all.begin(), all.end(),
+                          [](const Method& method) { return !method.Is("Delete") && !method.Is("__autoclassinit2"); });
     return all;
 }
 

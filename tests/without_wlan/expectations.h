@@ -16,7 +16,7 @@ enum class Computer
 /// Calls the method and compares its answer and what it was given to fill with what is expected on the computer.
 void Check(const methods::Method& method, Computer computer);
 
-/// Every method; Delete comes last.
+/// Every method; last come those after which the manager is not what it was.
 std::vector<methods::Method> AllMethods();
 
 /// Tests that call every method, which ends programs, changes power settings and puts a computer to sleep: skipped
