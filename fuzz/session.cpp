@@ -77,7 +77,7 @@ public:
     explicit Session(Input& input) : m_input(input), m_computer(session::MakeWorld(input), m_failures.interceptor())
     {
         if (input.OneIn(3))
-            m_hostile.emplace(input);
+            m_hostile.emplace(session::HostileAnswers(input));
         g_bTraceOn = input.OneIn(2) ? 1 : 0;
     }
 
@@ -142,7 +142,7 @@ private:
     Input& m_input;
     Failures m_failures;
     test::TestComputer m_computer;
-    std::optional<session::HostileAnswers> m_hostile;
+    std::optional<test::AlteredAnswers> m_hostile;
 };
 
 } // namespace

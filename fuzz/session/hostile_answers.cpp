@@ -96,42 +96,23 @@ void SpoilSome(Input& input, List& list, Item* items)
 
 } // namespace
 
-HostileAnswers::HostileAnswers(Input& input)
+test::AnswerChanges HostileAnswers(Input& input)
 {
-    using platform::WlanService;
-    After<&WlanService::WlanEnumInterfaces>(
-        [&input](DWORD error, HANDLE, PVOID, WLAN_INTERFACE_INFO_LIST** list)
-        {
-            if (error != 0)
-                return;
-            SpoilSome(input, **list, (*list)->InterfaceInfo);
-            (*list)->dwIndex = Extreme(input);
-        });
-    After<&WlanService::WlanGetProfileList>(
-        [&input](DWORD error, HANDLE, const GUID*, PVOID, WLAN_PROFILE_INFO_LIST** list)
-        {
-            if (error == 0)
-                SpoilSome(input, **list, (*list)->ProfileInfo);
-        });
-    After<&WlanService::WlanGetAvailableNetworkList>(
-        [&input](DWORD error, HANDLE, const GUID*, DWORD, PVOID, WLAN_AVAILABLE_NETWORK_LIST** list)
-        {
-            if (error == 0)
-                SpoilSome(input, **list, (*list)->Network);
-        });
-    After<&WlanService::WlanGetNetworkBssList>(
-        [&input](DWORD error, HANDLE, const GUID*, const DOT11_SSID*, DOT11_BSS_TYPE, BOOL, PVOID, WLAN_BSS_LIST** list)
-        {
-            if (error == 0)
-                SpoilSome(input, **list, (*list)->wlanBssEntries);
-        });
-    After<&WlanService::WlanQueryInterface>(
-        [&input](DWORD error, HANDLE, const GUID*, WLAN_INTF_OPCODE opcode, PVOID, DWORD*, PVOID* data,
-                 WLAN_OPCODE_VALUE_TYPE*)
-        {
-            if (error == 0 && opcode == wlan_intf_opcode_current_connection)
-                Spoil(input, *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(*data));
-        });
+    return {.interfaces =
+                [&input](WLAN_INTERFACE_INFO_LIST& list)
+            {
+                SpoilSome(input, list, list.InterfaceInfo);
+                list.dwIndex = Extreme(input);
+            },
+            .networks = [&input](WLAN_AVAILABLE_NETWORK_LIST& list) { SpoilSome(input, list, list.Network); },
+            .profiles = [&input](WLAN_PROFILE_INFO_LIST& list) { SpoilSome(input, list, list.ProfileInfo); },
+            .bss = [&input](WLAN_BSS_LIST& list) { SpoilSome(input, list, list.wlanBssEntries); },
+            .query =
+                [&input](WLAN_INTF_OPCODE opcode, PVOID data, DWORD&)
+            {
+                if (opcode == wlan_intf_opcode_current_connection)
+                    Spoil(input, *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data));
+            }};
 }
 
 } // namespace calvix::fuzz::session

@@ -187,55 +187,47 @@ Result Give(const Manager& manager, Value&& value)
 }
 
 /// The part of a method that follows from its type.
+template <typename... Parameters, typename Body, std::size_t... place>
+Method Make(Body body, std::index_sequence<place...>)
+{
+    [[maybe_unused]] constexpr bool isNumber[] = {std::is_arithmetic_v<Parameters>..., false};
+    const auto call = [body](Manager& manager, [[maybe_unused]] const std::vector<Argument>& arguments) -> Result
+    {
+        const auto made = [&]() -> decltype(auto)
+        { return body(manager, As<Parameters>(arguments[place], manager)...); };
+        if constexpr (std::is_void_v<decltype(made())>)
+            return made(), Result{};
+        else
+            return Give(manager, made());
+    };
+    return {{}, {Describe<Parameters>(isNumber[place + 1])...}, call};
+}
+
+template <typename Return, typename... Parameters>
+Method Typed(Return (Manager::*method)(Parameters...))
+{
+    return Make<Parameters...>([method](Manager& manager, Parameters... arguments) -> Return
+                               { return (manager.*method)(arguments...); },
+                               std::index_sequence_for<Parameters...>());
+}
+
+template <typename Return, typename... Parameters>
+Method Typed(Return (*method)(Parameters...))
+{
+    return Make<Parameters...>([method](Manager&, Parameters... arguments) -> Return { return method(arguments...); },
+                               std::index_sequence_for<Parameters...>());
+}
+
+/// Finds the one of several methods that takes these.
 template <typename... Parameters>
 struct Taking
 {
-    template <typename Result>
-    static Method Of(Result (Manager::*method)(Parameters...))
+    template <typename Return>
+    static Method Of(Return (Manager::*method)(Parameters...))
     {
-        return Make([method](Manager& manager, Parameters... arguments) -> Result
-                    { return (manager.*method)(arguments...); },
-                    std::index_sequence_for<Parameters...>());
-    }
-
-    template <typename Result>
-    static Method Of(Result (*method)(Parameters...))
-    {
-        return Make([method](Manager&, Parameters... arguments) -> Result { return method(arguments...); },
-                    std::index_sequence_for<Parameters...>());
-    }
-
-private:
-    template <typename Body, std::size_t... place>
-    static Method Make(Body body, std::index_sequence<place...>)
-    {
-        [[maybe_unused]] constexpr bool isNumber[] = {std::is_arithmetic_v<Parameters>..., false};
-        const auto call = [body](Manager& manager,
-                                 [[maybe_unused]] const std::vector<Argument>& arguments) -> methods::Result
-        {
-            if constexpr (std::is_void_v<decltype(body(manager, As<Parameters>(arguments[place], manager)...))>)
-            {
-                body(manager, As<Parameters>(arguments[place], manager)...);
-                return {};
-            }
-            else
-                return Give(manager, body(manager, As<Parameters>(arguments[place], manager)...));
-        };
-        return {{}, {Describe<Parameters>(isNumber[place + 1])...}, call};
+        return Typed(method);
     }
 };
-
-template <typename Result, typename... Parameters>
-Method Typed(Result (Manager::*method)(Parameters...))
-{
-    return Taking<Parameters...>::Of(method);
-}
-
-template <typename Result, typename... Parameters>
-Method Typed(Result (*method)(Parameters...))
-{
-    return Taking<Parameters...>::Of(method);
-}
 
 /// A number behind bytes or room says how much of it there is.
 void Relate(Parameter& parameter, Parameter& next)

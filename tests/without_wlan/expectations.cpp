@@ -2,7 +2,7 @@
 
 #include "without_wlan/library_sleep.h"
 
-#include "result_codes.h"
+#include "explain/result_codes.h"
 
 #include <gmock/gmock.h>
 
@@ -28,14 +28,12 @@ constexpr long long kAnError = INT64_MAX;
 /// Methods by the code that they return without wlanapi.dll and with Wine's.
 struct Codes
 {
-    long long withoutWlan;
-    long long onWine;
+    std::pair<long long, long long> codes;
     std::vector<const char*> methods;
 };
 
 const Codes kCodes[] = {
-    {-1,
-     -4,
+    {{-1, -4},
      {"ConnectBestAP",
       "AutoConnect",
       "AutoConnectEx",
@@ -66,42 +64,38 @@ const Codes kCodes[] = {
       "RadioTurnOn",
       "TurnOnSoftwareRadio",
       "RadioTurnOff"}},
-    {-1,
-     -3,
+    {{-1, -3},
      {"AutoSwitch", "GetCurrentConnection(WLAN_CONNECTION_ATTRIBUTES*", "GetCurrentSSID", "Rescan()", "GetAP",
       "GetCurrentBSS", "GetWlanInterfaceGuid", "GetWlanInterface"}},
-    {-1, kAnError, {"SmartSwitch", "LinkProfile", "GetSoftAPList", "ResetProfilePosition", "SetProfilePosition"}},
-    {-1, 0, {"SmartConnecting", "SetCurrentWiFiToLast", "ResetWiFiRadio"}},
-    {-1, -100, {"GetWiFiRSSI"}},
-    {-2,
-     -5,
+    {{-1, kAnError}, {"SmartSwitch", "LinkProfile", "GetSoftAPList", "ResetProfilePosition", "SetProfilePosition"}},
+    {{-1, 0}, {"SmartConnecting", "SetCurrentWiFiToLast", "ResetWiFiRadio"}},
+    {{-1, -100}, {"GetWiFiRSSI"}},
+    {{-2, -5},
      {"GetMatchAPList", "GetConnectableAPList(GUID const*", "GetMatchAPCount", "GetMatchBSSID",
       "GetAvailableNetworkCount", "GetConnectableNetworkCount", "SupportedSafeMode"}},
-    {-2, -4, {"GetConnectableAPList(wchar_t*", "GetWlanStatus", "GetNetworkBssCount"}},
-    {-2, 0, {"GetWiFiAdapterCount"}},
-    {kNoLibrary,
-     kAnError,
+    {{-2, -4}, {"GetConnectableAPList(wchar_t*", "GetWlanStatus", "GetNetworkBssCount"}},
+    {{-2, 0}, {"GetWiFiAdapterCount"}},
+    {{kNoLibrary, kAnError},
      {"GetCurrentLinkInfo", "Disconnect", "EnableAutoCfg", "EnableBackgroundScan", "SetIhvSecuritySettings",
       "IhvControl", "GetWlanProfile"}},
-    {kNoLibrary, 0, {"GetPowerSetting", "GetAvailableNetwork", "GetNetworkBss"}},
-    {kNoLibrary, kUnwritten, {"RegisterNotification", "UnRegisterNotification"}},
+    {{kNoLibrary, 0}, {"GetPowerSetting", "GetAvailableNetwork", "GetNetworkBss"}},
+    {{kNoLibrary, kUnwritten}, {"RegisterNotification", "UnRegisterNotification"}},
 
     // Questions for yes or no, and what does not need the service.
-    {0,
-     0,
+    {{0, 0},
      {"WiFiIsConnected", "WiFiIsDisconnected", "IsWiFiDisappear", "SpecialSoftAP", "GetWlanIsLink", "PhyRadioIsOn",
       "PhyRadioTurnedOff", "SetPowerSetting"}},
-    {1, 1, {"Get", "operator=", "IsThisSSID", "IsAutoConnMode", "ReasonCode2String", "UnicodeToAnsi", "GetSSID"}},
-    {301, 301, {"WideCharToChar"}},
-    {36, 36, {"GetChannel"}},
-    {50, 50, {"GetSignalStrength"}},
+    {{1, 1}, {"Get", "operator=", "IsThisSSID", "IsAutoConnMode", "ReasonCode2String", "UnicodeToAnsi", "GetSSID"}},
+    {{301, 301}, {"WideCharToChar"}},
+    {{36, 36}, {"GetChannel"}},
+    {{50, 50}, {"GetSignalStrength"}},
 
     // As Wine's other libraries answer: programs may have the privileges, no computer can be suspended, there is no
     // store of power schemes, and nothing is known of sleeping. Without wininet.dll the network is not asked.
-    {1, 1, {"GetPrivileges", "EnablePriviledge", "ForceComputerSleep", "CreateProcRunExe"}},
-    {0, 0, {"IsSurpportAoAc", "IsPowerHibernateAllowed", "GetLastWakeTime", "GetLastSleepTime", "IsWow64"}},
-    {-1, -1, {"SetPowerScheme", "ResetPowerScheme", "GetPowerScheme", "OpenUrl"}},
-    {static_cast<std::int32_t>(0xC0000002), static_cast<std::int32_t>(0xC0000002), {"GetSystemPowerPolicy"}},
+    {{1, 1}, {"GetPrivileges", "EnablePriviledge", "ForceComputerSleep", "CreateProcRunExe"}},
+    {{0, 0}, {"IsSurpportAoAc", "IsPowerHibernateAllowed", "GetLastWakeTime", "GetLastSleepTime", "IsWow64"}},
+    {{-1, -1}, {"SetPowerScheme", "ResetPowerScheme", "GetPowerScheme", "OpenUrl"}},
+    {{static_cast<std::int32_t>(0xC0000002), static_cast<std::int32_t>(0xC0000002)}, {"GetSystemPowerPolicy"}},
 };
 
 std::string OwnFolder()
@@ -159,12 +153,12 @@ const std::string* Find(const Rows& rows, const Method& method)
 
 void CheckResult(const Method& method, Computer computer, const Outcome& outcome)
 {
-    for (const Codes& codes : kCodes)
+    for (const Codes& row : kCodes)
     {
-        if (!IsAmong(method, codes.methods))
+        if (!IsAmong(method, row.methods))
             continue;
         ASSERT_TRUE(outcome.code);
-        const long long expected = computer == Computer::wine ? codes.onWine : codes.withoutWlan;
+        const long long expected = computer == Computer::wine ? row.codes.second : row.codes.first;
         EXPECT_TRUE(expected == kAnError ? *outcome.code > 0 : *outcome.code == expected) << *outcome.code;
         return;
     }

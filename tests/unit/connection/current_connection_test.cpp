@@ -1,7 +1,7 @@
+#include "support/altered_answers.h"
 #include "support/contract_table.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>

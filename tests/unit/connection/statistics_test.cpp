@@ -1,6 +1,6 @@
+#include "support/altered_answers.h"
 #include "support/contract_table.h"
 #include "support/library_test.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cstddef>

@@ -2,12 +2,12 @@
 // their answer to a failed call; nothing is read beyond the records, which the sanitizers watch, and nothing is left held.
 
 #include "methods/method.h"
+#include "support/altered_answers.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/result_code.h"
 #include "support/strict_copy_guard.h"
 #include "unit/hostile/empty_handed_service.h"
-#include "unit/inventory/altered_answers.h"
 
 #include "core/wlan_records.h"
 

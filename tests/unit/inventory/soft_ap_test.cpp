@@ -1,6 +1,6 @@
+#include "support/altered_answers.h"
 #include "support/changed_platform.h"
 #include "support/contract_table.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cwchar>

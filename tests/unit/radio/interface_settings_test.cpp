@@ -1,5 +1,5 @@
+#include "support/altered_answers.h"
 #include "support/contract_table.h"
-#include "unit/inventory/altered_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cstring>

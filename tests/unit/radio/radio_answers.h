@@ -1,7 +1,7 @@
 #pragma once
 
+#include "support/altered_answers.h"
 #include "support/library_test.h"
-#include "unit/inventory/altered_answers.h"
 
 namespace calvix::test
 {
