@@ -1,5 +1,5 @@
 #include "explain/reason_words.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include "output/code_page.h"
 

@@ -6,6 +6,8 @@
 #include "simulation/profile_document.h"
 #include "simulation/reason_texts.h"
 
+#include <calvix/platform_records.h>
+
 #include <algorithm>
 
 namespace calvix::host

@@ -4,10 +4,10 @@
 #include "forms/xml_text.h"
 #include "output/text_forms.h"
 #include "output/words.h"
-#include "platform/records/wlan_constants.h"
 #include "report/take_picture.h"
 #include "view/describe.h"
 #include "view/status.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 

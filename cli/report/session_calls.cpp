@@ -3,12 +3,12 @@
 #include "core/wlan_records.h"
 #include "output/text_forms.h"
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
 #include "wrappers/recording/damage.h"
 #include "wrappers/recording/lines.h"
 #include "wrappers/recording/recorded_lines.h"
 #include "wrappers/recording/wlan_records.h"
 #include "wrappers/recording/wlan_results.h"
+#include <calvix/platform_records.h>
 
 #include <map>
 #include <type_traits>

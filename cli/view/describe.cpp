@@ -6,8 +6,8 @@
 #include "output/table.h"
 #include "output/text_forms.h"
 #include "output/words.h"
-#include "platform/records/wlan_constants.h"
 #include "text/value_text.h"
+#include <calvix/platform_records.h>
 
 namespace calvix::host
 {

@@ -3,8 +3,8 @@
 #include "forms/guid_text.h"
 #include "forms/utf8.h"
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
 #include "simulation/notification_records.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 #include <utility>
@@ -141,7 +141,7 @@ void Adapter::SetRadio(std::size_t phy, RadioSwitch software, RadioSwitch hardwa
     changed.hardware = hardware;
     if (isChanged)
     {
-        Notify(WLAN_NOTIFICATION_SOURCE_MSM, msm::radio_state_change,
+        Notify(WLAN_NOTIFICATION_SOURCE_MSM, wlan_notification_msm_radio_state_change,
                RecordBytes(RadioRecord(static_cast<DWORD>(phy), changed)));
     }
     if (wasOn && !IsRadioOn())

@@ -3,7 +3,7 @@
 #include "simulation/notification_records.h"
 #include "simulation/timetable.h"
 
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 #include <utility>
@@ -97,7 +97,7 @@ void Adapter::StartAttempt()
     m_attempt->target = accessPoint != nullptr ? std::optional(accessPoint->bssid) : std::nullopt;
     m_state = wlan_interface_state_associating;
     if (accessPoint != nullptr)
-        NotifyMedia(msm::associating, m_attempt->request, accessPoint->bssid);
+        NotifyMedia(wlan_notification_msm_associating, m_attempt->request, accessPoint->bssid);
     m_connectEvent = m_around.time.Schedule(std::chrono::milliseconds(m_description.connectMilliseconds / 2),
                                             [this] { Authenticate(); });
 }
@@ -109,11 +109,11 @@ void Adapter::Authenticate()
     const AccessPoint* const target = FindTarget();
     if (target != nullptr && target->answers && SignalAt(*target, m_around.time.Now()) >= faintest)
     {
-        NotifyMedia(msm::associated, m_attempt->request, target->bssid);
+        NotifyMedia(wlan_notification_msm_associated, m_attempt->request, target->bssid);
         if (IsSecured(m_attempt->request.profile->document.security))
         {
             m_state = wlan_interface_state_authenticating;
-            NotifyMedia(msm::authenticating, m_attempt->request, target->bssid);
+            NotifyMedia(wlan_notification_msm_authenticating, m_attempt->request, target->bssid);
         }
     }
     const std::uint32_t rest = m_description.connectMilliseconds - m_description.connectMilliseconds / 2;
@@ -144,7 +144,7 @@ void Adapter::FinishAttempt()
         return;
     }
     const ConnectionRequest request = m_attempt->request;
-    NotifyMedia(msm::connected, request, target->bssid);
+    NotifyMedia(wlan_notification_msm_connected, request, target->bssid);
     Establish(*target);
     m_triedInVain.clear();
     NotifyConnection(wlan_notification_acm_connection_complete, request, WLAN_REASON_CODE_SUCCESS);
@@ -166,7 +166,7 @@ void Adapter::Fail(DWORD reason)
 {
     if (m_attempt->target)
     {
-        NotifyMedia(msm::disconnected, m_attempt->request, *m_attempt->target, reason);
+        NotifyMedia(wlan_notification_msm_disconnected, m_attempt->request, *m_attempt->target, reason);
         m_attempt->failed.push_back(*m_attempt->target);
     }
     NotifyConnection(wlan_notification_acm_connection_attempt_fail, m_attempt->request, reason);
@@ -204,9 +204,9 @@ void Adapter::TakeDown(DWORD reason)
     {
         const Link link = std::move(*m_link);
         NotifyConnection(wlan_notification_acm_disconnecting, link.request, reason);
-        NotifyMedia(msm::disassociating, link.request, link.accessPoint.bssid, reason);
+        NotifyMedia(wlan_notification_msm_disassociating, link.request, link.accessPoint.bssid, reason);
         m_link.reset();
-        NotifyMedia(msm::disconnected, link.request, link.accessPoint.bssid, reason);
+        NotifyMedia(wlan_notification_msm_disconnected, link.request, link.accessPoint.bssid, reason);
         NotifyConnection(wlan_notification_acm_disconnected, link.request, reason);
     }
     m_state = wlan_interface_state_disconnected;
@@ -258,11 +258,11 @@ bool Adapter::Roam()
             except.push_back(next->bssid);
             continue;
         }
-        NotifyMedia(msm::roaming_start, m_link->request, m_link->accessPoint.bssid);
+        NotifyMedia(wlan_notification_msm_roaming_start, m_link->request, m_link->accessPoint.bssid);
         m_link->accessPoint = *AsHeard(*next, m_around.time.Now());
         m_link->missedByLastScan = false;
-        NotifyMedia(msm::roaming_end, m_link->request, next->bssid);
-        NotifyMedia(msm::connected, m_link->request, next->bssid);
+        NotifyMedia(wlan_notification_msm_roaming_end, m_link->request, next->bssid);
+        NotifyMedia(wlan_notification_msm_connected, m_link->request, next->bssid);
         HearLink();
         return true;
     }

@@ -3,7 +3,7 @@
 #include "simulation/notification_records.h"
 #include "simulation/timetable.h"
 
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 #include <utility>
@@ -60,7 +60,7 @@ void Adapter::MeasureLink(std::int32_t rssi)
     m_link->accessPoint.rssi = rssi;
     const ULONG quality = SignalQuality(rssi);
     if (std::exchange(m_link->reportedQuality, quality) != quality)
-        Notify(WLAN_NOTIFICATION_SOURCE_MSM, msm::signal_quality_change, RecordBytes(quality));
+        Notify(WLAN_NOTIFICATION_SOURCE_MSM, wlan_notification_msm_signal_quality_change, RecordBytes(quality));
 }
 
 // There is nobody left to take leave of.
@@ -70,7 +70,7 @@ void Adapter::LoseLink()
     m_link.reset();
     m_state = wlan_interface_state_disconnected;
     constexpr DWORD reason = WLAN_REASON_CODE_DRIVER_DISCONNECTED;
-    NotifyMedia(msm::disconnected, link.request, link.accessPoint.bssid, reason);
+    NotifyMedia(wlan_notification_msm_disconnected, link.request, link.accessPoint.bssid, reason);
     NotifyConnection(wlan_notification_acm_disconnected, link.request, reason);
 }
 

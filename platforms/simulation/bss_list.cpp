@@ -1,9 +1,9 @@
 #include "simulation/bss_list.h"
 
-#include "platform/records/wlan_constants.h"
 #include "simulation/host_time.h"
 #include "simulation/information_elements.h"
 #include "simulation/service_records.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 #include "simulation/channel_elements.h"
 
 #include "forms/channel.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 
@@ -151,15 +151,15 @@ Bytes ChannelElements(const AccessPoint& accessPoint)
     if (width == 0)
         return elements;
     const auto phy = static_cast<DOT11_PHY_TYPE>(accessPoint.phyType);
-    if (phy < dot11_phy_type_ht || phy > phy_type::eht || phy == phy_type::dmg)
+    if (phy < dot11_phy_type_ht || phy > dot11_phy_type_eht || phy == dot11_phy_type_dmg)
         return elements;
     if (!primary.IsIn6GhzBand())
         AppendHt(elements, primary, width);
-    if (phy >= phy_type::vht && !primary.IsIn6GhzBand() && !primary.IsIn24GhzBand())
+    if (phy >= dot11_phy_type_vht && !primary.IsIn6GhzBand() && !primary.IsIn24GhzBand())
         AppendVht(elements, primary, width);
-    if (phy >= phy_type::he)
+    if (phy >= dot11_phy_type_he)
         AppendHe(elements, primary, width);
-    if (phy >= phy_type::eht)
+    if (phy >= dot11_phy_type_eht)
         AppendEht(elements, primary, width);
     return elements;
 }

@@ -1,8 +1,8 @@
 #include "simulation/information_elements.h"
 
 #include "forms/channel.h"
-#include "platform/records/wlan_constants.h"
 #include "simulation/channel_elements.h"
+#include <calvix/platform_records.h>
 
 #include <initializer_list>
 #include <optional>
@@ -53,20 +53,20 @@ std::optional<std::uint8_t> KeyManagement(DOT11_AUTH_ALGORITHM authentication)
         return std::uint8_t{1};
     if (authentication == DOT11_AUTH_ALGO_RSNA_PSK || authentication == DOT11_AUTH_ALGO_WPA_PSK)
         return std::uint8_t{2};
-    if (authentication == auth::wpa3_enterprise)
+    if (authentication == DOT11_AUTH_ALGO_WPA3_ENT)
         return std::uint8_t{5};
-    if (authentication == auth::wpa3_sae)
+    if (authentication == DOT11_AUTH_ALGO_WPA3_SAE)
         return std::uint8_t{8};
-    if (authentication == auth::wpa3_enterprise_192)
+    if (authentication == DOT11_AUTH_ALGO_WPA3_ENT_192)
         return std::uint8_t{12};
-    if (authentication == auth::owe)
+    if (authentication == DOT11_AUTH_ALGO_OWE)
         return std::uint8_t{18};
     return std::nullopt;
 }
 
 std::uint8_t CipherSuite(DOT11_CIPHER_ALGORITHM encryption)
 {
-    return encryption == DOT11_CIPHER_ALGO_TKIP ? 2 : encryption == cipher::gcmp_256 ? 9 : 4;
+    return encryption == DOT11_CIPHER_ALGO_TKIP ? 2 : encryption == DOT11_CIPHER_ALGO_GCMP_256 ? 9 : 4;
 }
 
 // Version, group cipher, one pairwise cipher, one way of managing keys: the same in both elements but for the OUI.

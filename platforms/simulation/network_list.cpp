@@ -1,8 +1,8 @@
 #include "simulation/network_list.h"
 
-#include "platform/records/wlan_constants.h"
 #include "simulation/adapter.h"
 #include "simulation/service_records.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 #include <string>

@@ -4,7 +4,7 @@
 #include "forms/utf8.h"
 #include "forms/xml_text.h"
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <rapidxml/rapidxml.hpp>
 

@@ -2,7 +2,7 @@
 
 #include "forms/utf8.h"
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 

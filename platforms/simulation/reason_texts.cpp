@@ -1,6 +1,6 @@
 #include "simulation/reason_texts.h"
 
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 #include <iterator>

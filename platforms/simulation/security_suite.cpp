@@ -1,6 +1,6 @@
 #include "simulation/security_suite.h"
 
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <algorithm>
 #include <iterator>
@@ -19,22 +19,17 @@ struct AlgorithmName
 };
 
 constexpr AlgorithmName<DOT11_AUTH_ALGORITHM> authentications[] = {
-    {"open", DOT11_AUTH_ALGO_80211_OPEN},
-    {"shared", DOT11_AUTH_ALGO_80211_SHARED_KEY},
-    {"WPA", DOT11_AUTH_ALGO_WPA},
-    {"WPAPSK", DOT11_AUTH_ALGO_WPA_PSK},
-    {"WPA2", DOT11_AUTH_ALGO_RSNA},
-    {"WPA2PSK", DOT11_AUTH_ALGO_RSNA_PSK},
-    {"WPA3", auth::wpa3_enterprise_192},
-    {"WPA3ENT192", auth::wpa3_enterprise_192},
-    {"WPA3ENT", auth::wpa3_enterprise},
-    {"WPA3SAE", auth::wpa3_sae},
-    {"OWE", auth::owe},
+    {"open", DOT11_AUTH_ALGO_80211_OPEN},   {"shared", DOT11_AUTH_ALGO_80211_SHARED_KEY},
+    {"WPA", DOT11_AUTH_ALGO_WPA},           {"WPAPSK", DOT11_AUTH_ALGO_WPA_PSK},
+    {"WPA2", DOT11_AUTH_ALGO_RSNA},         {"WPA2PSK", DOT11_AUTH_ALGO_RSNA_PSK},
+    {"WPA3", DOT11_AUTH_ALGO_WPA3_ENT_192}, {"WPA3ENT192", DOT11_AUTH_ALGO_WPA3_ENT_192},
+    {"WPA3ENT", DOT11_AUTH_ALGO_WPA3_ENT},  {"WPA3SAE", DOT11_AUTH_ALGO_WPA3_SAE},
+    {"OWE", DOT11_AUTH_ALGO_OWE},
 };
 
 constexpr AlgorithmName<DOT11_CIPHER_ALGORITHM> encryptions[] = {
-    {"none", DOT11_CIPHER_ALGO_NONE}, {"WEP", DOT11_CIPHER_ALGO_WEP}, {"TKIP", DOT11_CIPHER_ALGO_TKIP},
-    {"AES", DOT11_CIPHER_ALGO_CCMP},  {"GCMP256", cipher::gcmp_256},
+    {"none", DOT11_CIPHER_ALGO_NONE}, {"WEP", DOT11_CIPHER_ALGO_WEP},          {"TKIP", DOT11_CIPHER_ALGO_TKIP},
+    {"AES", DOT11_CIPHER_ALGO_CCMP},  {"GCMP256", DOT11_CIPHER_ALGO_GCMP_256},
 };
 
 // Null for a name that is not there.
@@ -86,13 +81,13 @@ const std::vector<SecuritySuite>& SupportedSuites()
         {DOT11_AUTH_ALGO_RSNA, DOT11_CIPHER_ALGO_CCMP},
         {DOT11_AUTH_ALGO_RSNA_PSK, DOT11_CIPHER_ALGO_TKIP},
         {DOT11_AUTH_ALGO_RSNA_PSK, DOT11_CIPHER_ALGO_CCMP},
-        {auth::wpa3_enterprise_192, cipher::gcmp_256},
-        {auth::wpa3_enterprise, DOT11_CIPHER_ALGO_CCMP},
-        {auth::wpa3_enterprise, cipher::gcmp_256},
-        {auth::wpa3_sae, DOT11_CIPHER_ALGO_CCMP},
-        {auth::wpa3_sae, cipher::gcmp_256},
-        {auth::owe, DOT11_CIPHER_ALGO_CCMP},
-        {auth::owe, cipher::gcmp_256},
+        {DOT11_AUTH_ALGO_WPA3_ENT_192, DOT11_CIPHER_ALGO_GCMP_256},
+        {DOT11_AUTH_ALGO_WPA3_ENT, DOT11_CIPHER_ALGO_CCMP},
+        {DOT11_AUTH_ALGO_WPA3_ENT, DOT11_CIPHER_ALGO_GCMP_256},
+        {DOT11_AUTH_ALGO_WPA3_SAE, DOT11_CIPHER_ALGO_CCMP},
+        {DOT11_AUTH_ALGO_WPA3_SAE, DOT11_CIPHER_ALGO_GCMP_256},
+        {DOT11_AUTH_ALGO_OWE, DOT11_CIPHER_ALGO_CCMP},
+        {DOT11_AUTH_ALGO_OWE, DOT11_CIPHER_ALGO_GCMP_256},
     };
     return suites;
 }
@@ -110,7 +105,7 @@ bool UsesPassphrase(SecuritySuite suite)
 bool UsesOneX(SecuritySuite suite)
 {
     return suite.authentication == DOT11_AUTH_ALGO_WPA || suite.authentication == DOT11_AUTH_ALGO_RSNA ||
-           suite.authentication == auth::wpa3_enterprise_192 || suite.authentication == auth::wpa3_enterprise;
+           suite.authentication == DOT11_AUTH_ALGO_WPA3_ENT_192 || suite.authentication == DOT11_AUTH_ALGO_WPA3_ENT;
 }
 
 } // namespace calvix::simulation

@@ -4,7 +4,6 @@
 
 #include "platform/operation.h"
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
 
 namespace calvix::platform
 {

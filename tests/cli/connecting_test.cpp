@@ -1,5 +1,5 @@
 #include "cli_test.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <nlohmann/json.hpp>
 

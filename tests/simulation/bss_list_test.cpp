@@ -50,7 +50,7 @@ TEST_F(BssList, AnEntryTellsOfItsAccessPoint)
     EXPECT_EQ(entry.uPhyId, 1u);
     EXPECT_TRUE(std::equal(point.bssid.begin(), point.bssid.end(), entry.dot11Bssid));
     EXPECT_EQ(entry.dot11BssType, dot11_BSS_type_infrastructure);
-    EXPECT_EQ(entry.dot11BssPhyType, phy_type::vht);
+    EXPECT_EQ(entry.dot11BssPhyType, dot11_phy_type_vht);
     EXPECT_EQ(entry.lRssi, -70);
     EXPECT_EQ(entry.uLinkQuality, 60u);
     EXPECT_TRUE(entry.bInRegDomain);

@@ -40,7 +40,7 @@ TEST_F(NetworkList, AnEntryTellsOfItsWholeNetwork)
     EXPECT_EQ(home.wlanNotConnectableReason, WLAN_REASON_CODE_SUCCESS);
     EXPECT_EQ(home.uNumberOfPhyTypes, 2u);
     EXPECT_EQ(home.dot11PhyTypes[0], dot11_phy_type_ht);
-    EXPECT_EQ(home.dot11PhyTypes[1], phy_type::he);
+    EXPECT_EQ(home.dot11PhyTypes[1], dot11_phy_type_he);
     EXPECT_FALSE(home.bMorePhyTypes);
     EXPECT_EQ(home.wlanSignalQuality, 100u) << "the strongest counts";
     EXPECT_TRUE(home.bSecurityEnabled);
@@ -71,7 +71,7 @@ TEST_F(NetworkList, SsidTypeAndSecurityMakeANetwork)
     Start();
     const auto networks = ListNetworks();
     ASSERT_EQ(networks.size(), 5u);
-    EXPECT_EQ(networks[1].dot11DefaultAuthAlgorithm, auth::wpa3_sae);
+    EXPECT_EQ(networks[1].dot11DefaultAuthAlgorithm, DOT11_AUTH_ALGO_WPA3_SAE);
     EXPECT_EQ(networks[2].dot11DefaultCipherAlgorithm, DOT11_CIPHER_ALGO_TKIP);
     EXPECT_FALSE(networks[3].bSecurityEnabled);
     EXPECT_EQ(networks[4].dot11BssType, dot11_BSS_type_independent);

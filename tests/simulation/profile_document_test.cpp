@@ -1,7 +1,7 @@
 #include "simulation/profile_document.h"
 
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ TEST(ProfileDocument, SaysWhatTheServiceNeeds)
     EXPECT_TRUE(document.hidden);
     EXPECT_EQ(document.bssType, dot11_BSS_type_infrastructure);
     EXPECT_FALSE(document.automatic);
-    EXPECT_EQ(document.security, (SecuritySuite{auth::wpa3_sae, DOT11_CIPHER_ALGO_CCMP}));
+    EXPECT_EQ(document.security, (SecuritySuite{DOT11_AUTH_ALGO_WPA3_SAE, DOT11_CIPHER_ALGO_CCMP}));
 }
 
 TEST(ProfileDocument, WhatMayBeLeftOut)

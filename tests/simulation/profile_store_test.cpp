@@ -1,7 +1,7 @@
 #include "simulation/profile_store.h"
 
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <gtest/gtest.h>
 

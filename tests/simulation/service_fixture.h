@@ -3,7 +3,7 @@
 #include "simulation/computer.h"
 
 #include "platform/records/error_numbers.h"
-#include "platform/records/wlan_constants.h"
+#include <calvix/platform_records.h>
 
 #include <gtest/gtest.h>
 

@@ -1,27 +1,9 @@
 // What the WLAN service tells its clients, for builds without the Windows SDK.
 #pragma once
 
+#include <calvix/records/media_notifications.h>
+#include <calvix/records/wlan_flags.h>
 #include <calvix/records/wlan_types.h>
-
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_NONE = 0;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_DOT3_AUTO_CONFIG = 0x00000001;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_SECURITY = 0x00000002;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_ONEX = 0x00000004;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_WLAN_ACM = 0x00000008;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_WLAN_MSM = 0x00000010;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_WLAN_SECURITY = 0x00000020;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_WLAN_IHV = 0x00000040;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_WLAN_HNWK = 0x00000080;
-inline constexpr DWORD L2_NOTIFICATION_SOURCE_ALL = 0x0000ffff;
-
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_NONE = L2_NOTIFICATION_SOURCE_NONE;
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_ALL = L2_NOTIFICATION_SOURCE_ALL;
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_ACM = L2_NOTIFICATION_SOURCE_WLAN_ACM;
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_MSM = L2_NOTIFICATION_SOURCE_WLAN_MSM;
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_SECURITY = L2_NOTIFICATION_SOURCE_WLAN_SECURITY;
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_IHV = L2_NOTIFICATION_SOURCE_WLAN_IHV;
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_HNWK = L2_NOTIFICATION_SOURCE_WLAN_HNWK;
-inline constexpr DWORD WLAN_NOTIFICATION_SOURCE_ONEX = L2_NOTIFICATION_SOURCE_ONEX;
 
 struct L2_NOTIFICATION_DATA
 {
@@ -71,30 +53,6 @@ enum WLAN_NOTIFICATION_ACM : unsigned int
     wlan_notification_acm_end = 28
 };
 using PWLAN_NOTIFICATION_ACM = WLAN_NOTIFICATION_ACM*;
-
-// Media-specific module
-enum WLAN_NOTIFICATION_MSM : unsigned int
-{
-    wlan_notification_msm_start = 0,
-    wlan_notification_msm_associating = 1,
-    wlan_notification_msm_associated = 2,
-    wlan_notification_msm_authenticating = 3,
-    wlan_notification_msm_connected = 4,
-    wlan_notification_msm_roaming_start = 5,
-    wlan_notification_msm_roaming_end = 6,
-    wlan_notification_msm_radio_state_change = 7,
-    wlan_notification_msm_signal_quality_change = 8,
-    wlan_notification_msm_disassociating = 9,
-    wlan_notification_msm_disconnected = 10,
-    wlan_notification_msm_peer_join = 11,
-    wlan_notification_msm_peer_leave = 12,
-    wlan_notification_msm_adapter_removal = 13,
-    wlan_notification_msm_adapter_operation_mode_change = 14,
-    wlan_notification_msm_link_degraded = 15,
-    wlan_notification_msm_link_improved = 16,
-    wlan_notification_msm_end = 17
-};
-using PWLAN_NOTIFICATION_MSM = WLAN_NOTIFICATION_MSM*;
 
 // strProfileXml runs on past its one element when the service has profile text to show.
 struct WLAN_CONNECTION_NOTIFICATION_DATA

@@ -236,11 +236,11 @@ void DescribeAcmData(Fields& fields, DWORD code, DWORD& size, PVOID& data)
 
 void DescribeMsmData(Fields& fields, DWORD code, DWORD& size, PVOID& data)
 {
-    if (code == msm::radio_state_change)
+    if (code == wlan_notification_msm_radio_state_change)
         return DescribeRecord<WLAN_PHY_RADIO_STATE>(fields, size, data);
-    if (code == msm::signal_quality_change)
+    if (code == wlan_notification_msm_signal_quality_change)
         return DescribeRecord<WLAN_SIGNAL_QUALITY>(fields, size, data);
-    if (code >= msm::associating && code <= msm::peer_leave)
+    if (code >= wlan_notification_msm_associating && code <= wlan_notification_msm_peer_leave)
         return DescribeRecord<WLAN_MSM_NOTIFICATION_DATA>(fields, size, data);
     DescribeRaw(fields, "bytes", size, data);
 }
