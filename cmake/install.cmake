@@ -9,6 +9,14 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# Whose programs the C++ interface fits. Archives are named for it, and the CMake package refuses others.
+set(calvix_abi linux-x64)
+if(MSVC)
+    set(calvix_abi windows-x64-msvc)
+elseif(WIN32)
+    set(calvix_abi windows-x64-mingw)
+endif()
+
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/calvix")
 
 install(TARGETS calvix EXPORT calvix_targets
@@ -33,7 +41,8 @@ endif()
 install(DIRECTORY include/calvix DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development)
 install(EXPORT calvix_targets NAMESPACE calvix:: FILE calvix-targets.cmake
     DESTINATION "${package_folder}" COMPONENT development)
-configure_package_config_file(cmake/calvix-config.cmake.in calvix-config.cmake INSTALL_DESTINATION "${package_folder}")
+configure_package_config_file(cmake/calvix-config.cmake.in calvix-config.cmake
+    INSTALL_DESTINATION "${package_folder}" PATH_VARS CMAKE_INSTALL_BINDIR CMAKE_INSTALL_LIBDIR)
 write_basic_package_version_file(calvix-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/calvix-config.cmake" "${CMAKE_CURRENT_BINARY_DIR}/calvix-config-version.cmake"
     DESTINATION "${package_folder}" COMPONENT development)

@@ -2,7 +2,7 @@
 # of the program whenever the program is built. Windows looks for DLLs there first.
 
 function(calvix_put_beside program)
-    get_target_property(folder ${program} RUNTIME_OUTPUT_DIRECTORY)
+    set(folder "$<TARGET_FILE_DIR:${program}>")
     add_custom_target(${program}_companions
         COMMAND "${CMAKE_COMMAND}" -E make_directory "${folder}"
         COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${ARGN} "${folder}"

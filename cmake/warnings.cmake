@@ -8,7 +8,7 @@ endif()
 
 function(calvix_warnings target)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 $<$<BOOL:${CALVIX_WARNINGS_ARE_ERRORS}>:/WX> /permissive- /utf-8)
+        target_compile_options(${target} PRIVATE /W4 $<$<BOOL:${CALVIX_WARNINGS_ARE_ERRORS}>:/WX>)
         return()
     endif()
     target_compile_options(${target} PRIVATE

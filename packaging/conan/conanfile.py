@@ -3,7 +3,7 @@
 import os
 
 from conan import ConanFile
-from conan.tools.cmake import CMake, CMakeToolchain, cmake_layout
+from conan.tools.cmake import CMake, CMakeDeps, CMakeToolchain, cmake_layout
 from conan.tools.files import copy, rmdir
 
 SOURCES = ("CMakeLists.txt", "README.md", "CHANGELOG.md", "LICENSE", "cli/*", "cmake/*", "docs/*", "examples/*",
@@ -30,9 +30,8 @@ class CalvixConan(ConanFile):
         cmake_layout(self)
 
     def generate(self):
+        CMakeDeps(self).generate()
         toolchain = CMakeToolchain(self)
-        folders = [dependency.package_folder for dependency in self.dependencies.host.values()]
-        toolchain.cache_variables["CALVIX_HEADER_ONLY_PREFIX"] = ";".join(folders)
         toolchain.cache_variables["CALVIX_BUILD_TESTS"] = False
         toolchain.cache_variables["CALVIX_BUILD_EXAMPLES"] = False
         toolchain.generate()
@@ -49,4 +48,5 @@ class CalvixConan(ConanFile):
         rmdir(self, os.path.join(self.package_folder, "lib", "pkgconfig"))
 
     def package_info(self):
-        self.cpp_info.libs = ["calvix"]
+        debug_of_visual_c = self.settings.compiler == "msvc" and self.settings.build_type == "Debug"
+        self.cpp_info.libs = ["calvixd" if debug_of_visual_c else "calvix"]

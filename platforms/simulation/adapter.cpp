@@ -202,7 +202,7 @@ void Adapter::NoticeNetworks()
 {
     const auto before = std::exchange(m_listed, Listed(m_heard));
     if (m_listed != before)
-        Notify(WLAN_NOTIFICATION_SOURCE_ACM, acm::scan_list_refresh);
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_scan_list_refresh);
     if (m_listed.empty() != before.empty())
     {
         Notify(WLAN_NOTIFICATION_SOURCE_ACM, m_listed.empty() ? wlan_notification_acm_network_not_available

@@ -171,13 +171,14 @@ int CWirelessManage::SmartConnecting(const GUID*, char* profileName)
         return static_cast<int>(error);
     for (const WLAN_PROFILE_INFO& profile : Items(*lists.profiles))
     {
-        for (const WLAN_AVAILABLE_NETWORK* network : lists.networksByProfile.Of(profile))
-        {
-            const ErrorNumber error = RequestNetwork(hClient, first, *network, trace);
-            if (error == 0 && profileName != nullptr)
-                NarrowInLocale(FixedText(network->strProfileName), profileName, 128);
-            return static_cast<int>(error);
-        }
+        const NetworksByProfile::Matches networks = lists.networksByProfile.Of(profile);
+        if (networks.empty())
+            continue;
+        const WLAN_AVAILABLE_NETWORK& network = *networks.front();
+        const ErrorNumber error = RequestNetwork(hClient, first, network, trace);
+        if (error == 0 && profileName != nullptr)
+            NarrowInLocale(FixedText(network.strProfileName), profileName, 128);
+        return static_cast<int>(error);
     }
     return -2;
 }

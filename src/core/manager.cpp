@@ -31,6 +31,10 @@ int Register(HANDLE& client,
 
 } // namespace
 
+#ifdef CALVIX_KIND
+const int CALVIX_KIND = 1;
+#endif
+
 HANDLE CWirelessManage::hClient = nullptr;
 CWirelessManage* CWirelessManage::m_pManage = nullptr;
 

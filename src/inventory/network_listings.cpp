@@ -72,9 +72,9 @@ void ListSecurity(Trace& trace, unsigned index, const WLAN_AVAILABLE_NETWORK& ne
     trace.Line("  Security Enabled[%u]:\t ", index);
     trace.Message(network.bSecurityEnabled != FALSE ? "Yes" : "No");
     trace.Line("  Default AuthAlgorithm[%u]: ", index);
-    ListValue(trace, kAuthentications, network.dot11DefaultAuthAlgorithm);
+    ListValue(trace, kAuthentications, static_cast<std::uint32_t>(network.dot11DefaultAuthAlgorithm));
     trace.Line("  Default CipherAlgorithm[%u]: ", index);
-    ListValue(trace, kCiphers, network.dot11DefaultCipherAlgorithm);
+    ListValue(trace, kCiphers, static_cast<std::uint32_t>(network.dot11DefaultCipherAlgorithm));
 }
 
 /// Deliberate: both remarks depend on the connected flag; a network that only has a profile gets neither.

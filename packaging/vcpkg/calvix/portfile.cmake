@@ -8,8 +8,7 @@ vcpkg_cmake_configure(
     OPTIONS
         -DCALVIX_BUILD_HOST=OFF
         -DCALVIX_BUILD_TESTS=OFF
-        -DCALVIX_BUILD_EXAMPLES=OFF
-        "-DCALVIX_HEADER_ONLY_PREFIX=${CURRENT_INSTALLED_DIR}")
+        -DCALVIX_BUILD_EXAMPLES=OFF)
 vcpkg_cmake_install()
 vcpkg_cmake_config_fixup(CONFIG_PATH lib/cmake/calvix)
 vcpkg_fixup_pkgconfig()
