@@ -6,8 +6,6 @@
 #include "simulation/profile_document.h"
 #include "simulation/reason_texts.h"
 
-#include <calvix/platform_records.h>
-
 #include <algorithm>
 
 namespace calvix::host
