@@ -29,11 +29,13 @@ if(TARGET calvix_host)
 endif()
 if(WIN32)
     install(TARGETS calvix_wlanapi EXPORT calvix_targets)
+endif()
+if(WIN32 AND TARGET calvix_dropin)
     # Not beside the programs: whoever means the system's library must not find this one by accident.
     install(TARGETS calvix_dropin
         RUNTIME DESTINATION "${CMAKE_INSTALL_DATADIR}/calvix/dropin" COMPONENT simulation
         ARCHIVE EXCLUDE_FROM_ALL DESTINATION "${CMAKE_INSTALL_DATADIR}/calvix/dropin" COMPONENT unwanted)
-else()
+elseif(NOT WIN32)
     install(TARGETS calvix_dropin EXPORT calvix_targets
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
 endif()

@@ -28,3 +28,8 @@
 #define wlan_notification_acm_profile_blocked static_cast<WLAN_NOTIFICATION_ACM>(25)
 #define wlan_notification_acm_scan_list_refresh static_cast<WLAN_NOTIFICATION_ACM>(26)
 #define wlan_notification_acm_operational_state_change static_cast<WLAN_NOTIFICATION_ACM>(27)
+
+// A macro of the SDK: not every one lists the numbers that come from the network driver interface.
+#ifndef ERROR_NDIS_DOT11_POWER_STATE_INVALID
+inline constexpr DWORD ERROR_NDIS_DOT11_POWER_STATE_INVALID = 0x80342002;
+#endif

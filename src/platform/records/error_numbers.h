@@ -3,13 +3,6 @@
 
 #include <calvix/platform_records.h>
 
-#ifdef _WIN32
-
-// Not every SDK lists the numbers that come from the network driver interface.
-#ifndef ERROR_NDIS_DOT11_POWER_STATE_INVALID
-#define ERROR_NDIS_DOT11_POWER_STATE_INVALID 0x80342002L
-#endif
-
-#else
+#ifndef _WIN32
 #include <calvix/records/error_numbers.h>
 #endif
