@@ -2,6 +2,7 @@
 #include "host/host.h"
 #include "output/json_output.h"
 #include "output/table.h"
+#include "output/text_forms.h"
 #include "view/describe.h"
 #include "view/status.h"
 
@@ -23,7 +24,10 @@ void ListAdapters(Host& host)
     for (const AdapterFacts& adapter : adapters)
     {
         const Tone tone = StandsConnected(static_cast<WLAN_INTERFACE_STATE>(adapter.state)) ? Tone::good : Tone::plain;
-        table.AddRow({std::to_string(adapter.number), adapter.description, {adapter.stateText, tone}, adapter.guid});
+        table.AddRow({std::to_string(adapter.number),
+                      VisibleText(adapter.description),
+                      {adapter.stateText, tone},
+                      adapter.guid});
     }
     table.Print(host.out(), host.terminal());
 }

@@ -81,7 +81,7 @@ void ReportChange(Host& host, const char* change, const std::string& profile, co
 {
     if (host.json())
         return PrintChangeJson(host.out(), change, profile);
-    host.out() << "Profile \"" << profile << "\" " << words << ".\n";
+    host.out() << "Profile \"" << VisibleText(profile) << "\" " << words << ".\n";
 }
 
 void AddProfile(Host& host, const ProfileOptions& options)

@@ -188,7 +188,7 @@ const WLAN_INTERFACE_INFO& Host::adapter()
 void Host::TellFirstOf(const std::vector<WLAN_INTERFACE_INFO>& list)
 {
     m_err << "calvix: this is the first of " << list.size() << " adapters, \""
-          << Narrow(FixedText(list.front().strInterfaceDescription))
+          << VisibleText(Narrow(FixedText(list.front().strInterfaceDescription)))
           << "\"; --interface 2 is for the second (calvix adapters lists them).\n";
 }
 

@@ -93,6 +93,14 @@ std::string VisibleText(std::string_view bytes)
     return text;
 }
 
+bool IsVisible(std::string_view bytes)
+{
+    for (std::size_t at = 0; at < bytes.size();)
+        if (const auto character = forms::NextCharacter(bytes, at); !character || IsControl(*character))
+            return false;
+    return true;
+}
+
 std::string BytesOfVisibleText(std::string_view text)
 {
     std::string bytes;

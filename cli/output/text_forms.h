@@ -21,6 +21,8 @@ std::string Narrow(std::wstring_view wide);
 /// Bytes for people: UTF-8 as it is; bytes that are not UTF-8, control characters and marks of direction as \xE9. A
 /// backslash before an x is written \x5C, so that the text can be turned back.
 std::string VisibleText(std::string_view bytes);
+/// Whether no character of it needs such an escape.
+bool IsVisible(std::string_view bytes);
 /// The bytes that VisibleText shows.
 std::string BytesOfVisibleText(std::string_view text);
 

@@ -25,7 +25,7 @@ std::string OriginText(const RecordingFacts& recording)
 
 std::string SubtitleText(const ReportFacts& report)
 {
-    std::string text = report.status ? report.status->adapter.description : std::string();
+    std::string text = report.status ? VisibleText(report.status->adapter.description) : std::string();
     if (!report.heardAt.empty())
         text += (text.empty() ? "" : " \xc2\xb7 ") + ("heard until " + report.heardAt);
     if (report.recording)

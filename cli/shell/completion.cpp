@@ -1,6 +1,7 @@
 #include "shell/completion.h"
 
 #include "explain/result_codes.h"
+#include "output/text_forms.h"
 #include "shell/completion_scripts.h"
 #include "shell/word_reader.h"
 
@@ -126,13 +127,6 @@ private:
     const LiveNames& m_liveNames;
 };
 
-/// A name from the air or from a file may hold what would end the line.
-bool FitsOnALine(const CompletionWord& word)
-{
-    return std::none_of(word.text.begin(), word.text.end(),
-                        [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; });
-}
-
 const char* FilesText(Completion::Files files)
 {
     switch (files)
@@ -160,8 +154,9 @@ Completion Complete(const ProgramDescription& program,
     for (const std::string& word : before)
         reader.Take(word);
     Completion completion = Place(program, reader, liveNames).At(current);
+    // A name may hold what ends the line or turns it round, and an escape in its place would be another name.
     std::erase_if(completion.words, [&current](const CompletionWord& word)
-                  { return !word.text.starts_with(current) || !FitsOnALine(word); });
+                  { return !word.text.starts_with(current) || !IsVisible(word.text); });
     return completion;
 }
 
@@ -169,7 +164,7 @@ std::string CompletionText(const Completion& completion)
 {
     std::string text = std::string(FilesText(completion.files)) + "\n";
     for (const CompletionWord& word : completion.words)
-        text += word.text + (word.meaning.empty() ? "" : "\t" + word.meaning) + "\n";
+        text += word.text + (word.meaning.empty() ? "" : "\t" + VisibleText(word.meaning)) + "\n";
     return text;
 }
 

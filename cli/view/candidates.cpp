@@ -7,6 +7,10 @@
 #include "output/text_forms.h"
 #include "view/describe.h"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 namespace calvix::host
 {
 
@@ -52,33 +56,56 @@ std::vector<ConnectRequest> Rehearse(Host& host, const Exclusions& excluded)
     return host.Rehearse([&] { ConnectBest(host, excluded); });
 }
 
-/// The networks behind the requests, taken out of the list one by one: a profile may stand on several.
+bool IsAskedFor(const WLAN_AVAILABLE_NETWORK& network, const ConnectRequest& request)
+{
+    return network.dot11BssType == request.bssType && FixedText(network.strProfileName) == request.profile;
+}
+
+/// The networks that the requests are for. The networks of one profile take turns: its name may be stored twice, and then
+/// each of them is asked for twice.
 Candidates CandidatesOf(const std::vector<ConnectRequest>& requests, std::vector<WLAN_AVAILABLE_NETWORK>& networks)
 {
     Candidates candidates;
-    std::vector<bool> taken(networks.size());
+    std::vector<std::size_t> turns(networks.size());
     for (const ConnectRequest& request : requests)
     {
+        std::optional<std::size_t> next;
         for (std::size_t i = 0; i < networks.size(); ++i)
-        {
-            if (taken[i] || networks[i].dot11BssType != request.bssType ||
-                FixedText(networks[i].strProfileName) != request.profile)
-                continue;
-            taken[i] = true;
-            candidates.push_back(&networks[i]);
-            break;
-        }
+            if (IsAskedFor(networks[i], request) && (!next || turns[i] < turns[*next]))
+                next = i;
+        if (!next)
+            continue;
+        ++turns[*next];
+        candidates.push_back(&networks[*next]);
     }
     return candidates;
 }
 
-CandidateFacts DescribeCandidate(const WLAN_AVAILABLE_NETWORK& network, std::size_t order)
+/// The same in the order of the requests, in which the networks of one profile follow their scores.
+Candidates InOrderOf(const std::vector<ConnectRequest>& requests, Candidates candidates)
+{
+    SortByScore(candidates);
+    Candidates ordered;
+    for (const ConnectRequest& request : requests)
+    {
+        const auto next = std::find_if(candidates.begin(), candidates.end(),
+                                       [&request](const WLAN_AVAILABLE_NETWORK* candidate)
+                                       { return candidate != nullptr && IsAskedFor(*candidate, request); });
+        if (next != candidates.end())
+            ordered.push_back(std::exchange(*next, nullptr));
+    }
+    return ordered;
+}
+
+CandidateFacts DescribeCandidate(const WLAN_AVAILABLE_NETWORK& network, unsigned long quality, const BssList& entries)
 {
     CandidateFacts facts;
-    facts.order = static_cast<unsigned>(order);
     facts.profile = Narrow(FixedText(network.strProfileName));
     facts.ssid = DescribeSsid(network.dot11Ssid);
-    facts.quality = network.wlanSignalQuality;
+    facts.quality = quality;
+    facts.fiveGhz = CountBonusEntries(network, *entries);
+    facts.score = network.wlanSignalQuality;
+    facts.bonus = facts.score - facts.quality;
     return facts;
 }
 
@@ -90,21 +117,20 @@ std::vector<CandidateFacts> BestCandidates(Host& host, const Exclusions& exclude
     const std::vector<ConnectRequest> requests = Rehearse(host, excluded);
     if (requests.empty())
         return facts;
-    std::vector<WLAN_AVAILABLE_NETWORK> networks = host.service().Networks(host.adapterGuid());
-    const Candidates candidates = CandidatesOf(requests, networks);
+    const std::vector<WLAN_AVAILABLE_NETWORK> networks = host.service().Networks(host.adapterGuid());
+    std::vector<WLAN_AVAILABLE_NETWORK> scored = networks;
+    const Candidates candidates = CandidatesOf(requests, scored);
     if (candidates.empty())
         return facts;
-    for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
-        facts.push_back(DescribeCandidate(*candidate, facts.size() + 1));
     // The library takes the bonus from this one network, whichever the candidates are.
     BssList entries;
     host.service().AccessPointsOf(host.adapterGuid(), networks.back(), entries);
     AddBandBonus(candidates, *entries);
-    for (std::size_t i = 0; i < candidates.size(); ++i)
+    for (const WLAN_AVAILABLE_NETWORK* candidate : InOrderOf(requests, candidates))
     {
-        facts[i].fiveGhz = CountBonusEntries(*candidates[i], *entries);
-        facts[i].score = candidates[i]->wlanSignalQuality;
-        facts[i].bonus = facts[i].score - facts[i].quality;
+        const auto place = static_cast<std::size_t>(candidate - scored.data());
+        facts.push_back(DescribeCandidate(*candidate, networks[place].wlanSignalQuality, entries));
+        facts.back().order = static_cast<unsigned>(facts.size());
     }
     return facts;
 }

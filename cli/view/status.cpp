@@ -106,7 +106,7 @@ StatusFacts ReadStatus(Host& host)
 void PrintStatus(Host& host, const StatusFacts& status)
 {
     std::vector<std::pair<std::string, std::string>> pairs = {
-        {"Adapter", status.adapter.description},
+        {"Adapter", VisibleText(status.adapter.description)},
         {"State", Toned(status.adapter.stateText, status.connection ? Tone::good : Tone::plain, host.terminal())}};
     if (status.connection)
         for (const auto& pair : PairsOf(*status.connection, host.terminal()))

@@ -98,6 +98,9 @@ TEST_F(CompleteCommand, LeavesOutNamesThatFitOnNoLine)
     const std::string file = FileWith("world.json", simulation::WriteScenario(world));
     EXPECT_THAT(After({"connect", "--scenario", file}),
                 ElementsAre("none", "HomeNet", "HiddenNet", "AdHocNet", "GoneNet"));
+    world.adapters[0].profiles[1] = MakeProfile("txt.\u202Ecod");
+    EXPECT_THAT(After({"connect", "--scenario", FileWith("turned.json", simulation::WriteScenario(world))}),
+                ElementsAre("none", "HomeNet", "HiddenNet", "AdHocNet", "GoneNet"));
 }
 
 TEST_F(CompleteCommand, HasAScriptForEachShell)

@@ -48,6 +48,18 @@ TEST_F(AdaptersCommand, SpeaksJson)
               adapters[0]);
 }
 
+TEST_F(AdaptersCommand, EscapesDescriptionsThatTheTerminalWouldObey)
+{
+    simulation::Scenario world = RichWorld();
+    world.adapters[0].description = "Radio \x1B[31m\u202E";
+    for (const char* command : {"adapters", "status"})
+        EXPECT_THAT(RunOn(world, {command}).out, HasSubstr("Radio \\x1B[31m\\xE2\\x80\\xAE")) << command;
+    EXPECT_THAT(RunOn(world, {"status"}).err, HasSubstr("Radio \\x1B[31m\\xE2\\x80\\xAE"));
+    const std::string file = FileWith("named.json", simulation::WriteScenario(world));
+    EXPECT_EQ("none\n1\tRadio \\x1B[31m\\xE2\\x80\\xAE\n2\tWireless Adapter B\n",
+              Run({"complete", "--", "status", "--scenario", file, "--interface"}).out);
+}
+
 TEST_F(AdaptersCommand, SaysWhenThereIsNone)
 {
     const Outcome outcome = RunOn(NoAdapterWorld(), {"adapters"});

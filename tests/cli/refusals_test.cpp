@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "simulation/computer.h"
+#include "support/changed_platform.h"
 #include "support/result_code.h"
 #include "wrappers/call_log.h"
 #include "wrappers/fault_injection.h"
@@ -94,6 +95,30 @@ TEST_F(Refusals, BestShowsThatEveryRequestWasRefused)
     EXPECT_EQ(-12, result["error"]["code"]);
     EXPECT_THAT(outcome.err, HasSubstr("refused WlanConnect (the radio is off, 0x80342002)"));
     EXPECT_THAT(outcome.err, HasSubstr("switch the radio on"));
+}
+
+/// Both profiles have the name of the first, and so have the networks.
+TEST_F(Refusals, BestShowsACandidateForEachTimeItsProfileIsStored)
+{
+    ChangedPlatform changed;
+    changed.After<&WlanService::WlanGetProfileList>(
+        [](DWORD, HANDLE, const GUID*, PVOID, WLAN_PROFILE_INFO_LIST** list)
+        { std::wcscpy((*list)->ProfileInfo[1].strProfileName, L"Strong"); });
+    changed.After<&WlanService::WlanGetAvailableNetworkList>(
+        [](DWORD, HANDLE, const GUID*, DWORD, PVOID, WLAN_AVAILABLE_NETWORK_LIST** list)
+        {
+            for (DWORD i = 0; i < (*list)->dwNumberOfItems; ++i)
+                std::wcscpy((*list)->Network[i].strProfileName, L"Strong");
+        });
+    m_faults.Fail("WlanConnect", {.error = 5});
+    const Outcome outcome = Run({"best"});
+    EXPECT_EQ(4u, m_log.Count("WlanConnect"));
+    EXPECT_THAT(outcome.out,
+                StartsWith("#  Profile  SSID    Quality  5 GHz APs  Bonus  Score  Outcome\n"
+                           "1  Strong   Weak         50          0     +0     50  refused (access denied, 5)\n"
+                           "2  Strong   Weak         50          0     +0     50  refused (access denied, 5)\n"
+                           "3  Strong   Strong       80          0     +0     80  refused (access denied, 5)\n"
+                           "4  Strong   Strong       80          0     +0     80  refused (access denied, 5)\n"));
 }
 
 struct RefusedCase
