@@ -5,8 +5,9 @@
 namespace calvix::host
 {
 
-void AddAllCommands(CommandSet& commands)
+CommandSet AllCommands()
 {
+    CommandSet commands;
     AddAdapterCommands(commands);
     AddScanCommands(commands);
     AddProfileCommands(commands);
@@ -24,6 +25,7 @@ void AddAllCommands(CommandSet& commands)
     AddImportCommand(commands);
     AddReportCommand(commands);
     AddHelpCommands(commands);
+    return commands;
 }
 
 } // namespace calvix::host

@@ -6,7 +6,7 @@ namespace calvix::host
 {
 
 /// All commands, in the order in which help lists them.
-void AddAllCommands(CommandSet& commands);
+CommandSet AllCommands();
 
 /// Those of one family.
 void AddAdapterCommands(CommandSet& commands);

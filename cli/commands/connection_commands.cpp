@@ -140,9 +140,9 @@ void Switch(Host& host, const std::string& method)
         host.Require("AutoSwitch", library.AutoSwitch(adapter));
 }
 
-Arguments& AddWaiting(Arguments& arguments, const std::shared_ptr<ConnectOptions>& options)
+Command& AddWaiting(Command& command, const std::shared_ptr<ConnectOptions>& options)
 {
-    return arguments.Number("--timeout", options->seconds, "Seconds to wait for the outcome at most");
+    return command.Number("--timeout", options->seconds, "Seconds to wait for the outcome at most");
 }
 
 void AddPlainCommands(CommandSet& commands)

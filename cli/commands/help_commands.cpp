@@ -5,7 +5,7 @@
 #include "host/service_view.h"
 #include "output/json_output.h"
 #include "output/text_forms.h"
-#include "shell/command_description.h"
+#include "shell/command.h"
 #include "shell/completion.h"
 #include "shell/manual.h"
 
@@ -66,7 +66,7 @@ void PrintCompletion(Host& host, const HelpOptions& options)
 {
     const LiveNames names = [&host](ValueKind kind, const std::string& scenario, const std::string& adapter)
     { return NamesOnComputer(host, kind, scenario, adapter); };
-    host.out() << CompletionText(Complete(DescribeProgram(AddAllCommands), options.words, options.current, names));
+    host.out() << CompletionText(Complete(AllCommands(), options.words, options.current, names));
 }
 
 void PrintScript(Host& host, const HelpOptions& options)
@@ -79,7 +79,7 @@ void PrintScript(Host& host, const HelpOptions& options)
 
 void PrintManual(Host& host)
 {
-    const std::string page = ManualPage(DescribeProgram(AddAllCommands));
+    const std::string page = ManualPage(AllCommands());
     if (host.json())
         return PrintTextJson(host.out(), "manual", page);
     host.out() << page;

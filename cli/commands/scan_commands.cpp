@@ -163,9 +163,9 @@ void ListAccessPoints(Host& host, const ScanOptions& options)
         PrintAccessPoints(host, accessPoints);
 }
 
-Arguments& AddScanning(Arguments& arguments, const std::shared_ptr<ScanOptions>& options)
+Command& AddScanning(Command& command, const std::shared_ptr<ScanOptions>& options)
 {
-    return arguments.Flag("--scan", options->scanFirst, "Scan first, and wait until it is done")
+    return command.Flag("--scan", options->scanFirst, "Scan first, and wait until it is done")
         .Number("--timeout", options->seconds, "Seconds to wait for the scan at most");
 }
 

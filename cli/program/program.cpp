@@ -77,13 +77,14 @@ int CarryOutArguments(const std::vector<std::string>& arguments,
                       TerminalTraits terminal)
 {
     ExitCode parsed = ExitCode::success;
-    const std::optional<Request> request = ParseArguments(AddAllCommands, arguments, out, err, parsed);
-    if (!request)
+    const CommandSet commands = AllCommands();
+    const Command* const command = ParseArguments(commands, arguments, out, err, parsed);
+    if (command == nullptr)
         return static_cast<int>(parsed);
 
     const InterruptWatch interruptWatch;
-    Host host(request->options, in, out, err, terminal);
-    std::optional<FailureReport> failure = CarryOut(host, request->run);
+    Host host(*commands.optionValues, in, out, err, terminal);
+    std::optional<FailureReport> failure = CarryOut(host, command->run);
     // A command that got no answers any more fails in some way or other, and that is not to the point.
     if (const auto departure = host.EndReplay())
         failure = departure;

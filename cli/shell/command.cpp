@@ -1,29 +1,192 @@
 #include "shell/command.h"
 
-#include "host/common_options.h"
+#include <algorithm>
 
 namespace calvix::host
 {
 
-void DeclareCommonOptions(Arguments& arguments, CommonOptions& options)
+namespace
 {
-    arguments.Flag("--json", options.json, "Print one JSON object instead of text")
-        .Text("--interface", options.adapter,
+
+/// "-o,--output" in its parts, the long one first.
+std::vector<std::string> DeclaredNames(const std::string& declared)
+{
+    std::vector<std::string> names;
+    for (std::size_t begin = 0; begin <= declared.size();)
+    {
+        const std::size_t end = (std::min)(declared.find(',', begin), declared.size());
+        names.push_back(declared.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    std::stable_partition(names.begin(), names.end(), [](const std::string& name) { return name.starts_with("--"); });
+    return names;
+}
+
+/// The argument declared as `name`, at the end of the command's.
+Argument& Declare(Command& command, std::string name, ValueKind takes, const char* help)
+{
+    const bool optional = name.front() == '[' || name.front() == '-';
+    if (name.front() == '[')
+        name = name.substr(1, name.size() - 2);
+    Argument& argument = command.arguments.emplace_back();
+    argument.names = DeclaredNames(name);
+    argument.help = help;
+    argument.takes = takes;
+    argument.required = !optional;
+    return argument;
+}
+
+} // namespace
+
+bool Argument::isNamed(std::string_view name) const
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+std::string Argument::ValueText() const
+{
+    switch (takes)
+    {
+    case ValueKind::nothing:
+        return "";
+    case ValueKind::number:
+        return "N";
+    case ValueKind::choice:
+        break;
+    case ValueKind::file:
+    case ValueKind::scenario:
+        return "FILE";
+    case ValueKind::folder:
+        return "FOLDER";
+    case ValueKind::adapter:
+        return "ADAPTER";
+    case ValueKind::profile:
+        return "PROFILE";
+    case ValueKind::text:
+    case ValueKind::method:
+    case ValueKind::command:
+        return "TEXT";
+    }
+    std::string text;
+    for (const std::string& choice : choices)
+        text += (text.empty() ? "" : "|") + choice;
+    return text;
+}
+
+Command& Command::Flag(const char* name, bool& flag, const char* help)
+{
+    Declare(*this, name, ValueKind::nothing, help).value = &flag;
+    return *this;
+}
+
+Command& Command::Text(const char* name, std::string& text, const char* help)
+{
+    Declare(*this, name, ValueKind::text, help).value = &text;
+    return *this;
+}
+
+Command& Command::Texts(const char* name, std::vector<std::string>& texts, const char* help)
+{
+    Declare(*this, name, ValueKind::text, help).value = &texts;
+    return *this;
+}
+
+Command& Command::Number(const char* name, unsigned& number, const char* help)
+{
+    Declare(*this, name, ValueKind::number, help).value = &number;
+    return *this;
+}
+
+Command& Command::OneOf(const char* name, std::string& text, std::vector<std::string> choices, const char* help)
+{
+    Argument& argument = Declare(*this, name, ValueKind::choice, help);
+    argument.value = &text;
+    argument.choices = std::move(choices);
+    return *this;
+}
+
+Command& Command::Takes(ValueKind kind)
+{
+    arguments.back().takes = kind;
+    return *this;
+}
+
+Command& Command::Required()
+{
+    arguments.back().required = true;
+    return *this;
+}
+
+Command& Command::Examples(const char* text)
+{
+    examples = text;
+    return *this;
+}
+
+Command& Command::Hidden()
+{
+    hidden = true;
+    return *this;
+}
+
+std::string Command::family() const
+{
+    const std::size_t blank = path.find(' ');
+    return blank == std::string::npos ? "" : path.substr(0, blank);
+}
+
+std::string Command::lastWord() const
+{
+    return path.substr(path.find(' ') + 1);
+}
+
+CommandSet::CommandSet()
+{
+    CommonOptions& values = *optionValues;
+    Command all;
+    all.Flag("--json", values.json, "Print one JSON object instead of text")
+        .Text("--interface", values.adapter,
               "The adapter: its GUID, its number or its description (default: the first)")
         .Takes(ValueKind::adapter)
-        .Text("--scenario", options.scenario, "Run on the simulated computer that this file describes")
+        .Text("--scenario", values.scenario, "Run on the simulated computer that this file describes")
         .Takes(ValueKind::scenario)
-        .Text("--save", options.save, "Write the simulated computer to this scenario file afterwards")
+        .Text("--save", values.save, "Write the simulated computer to this scenario file afterwards")
         .Takes(ValueKind::scenario)
-        .Text("--record", options.record, "Write every call of the platform with its results to this file")
+        .Text("--record", values.record, "Write every call of the platform with its results to this file")
         .Takes(ValueKind::file)
-        .Flag("--anonymise", options.anonymise, "Make up the names and addresses in the file of --record")
-        .Text("--replay", options.replay, "Answer from this recording, in place of a computer")
+        .Flag("--anonymise", values.anonymise, "Make up the names and addresses in the file of --record")
+        .Text("--replay", values.replay, "Answer from this recording, in place of a computer")
         .Takes(ValueKind::file)
-        .Flag("--trace", options.trace, "Show the library's trace lines on standard error")
-        .OneOf("--color", options.color, {"auto", "always", "never"},
+        .Flag("--trace", values.trace, "Show the library's trace lines on standard error")
+        .OneOf("--color", values.color, {"auto", "always", "never"},
                "Colours: on terminals unless NO_COLOR is set (auto, default), always or never")
-        .Flag("--no-color", options.noColor, "The same as --color never");
+        .Flag("--no-color", values.noColor, "The same as --color never");
+    options = std::move(all.arguments);
+}
+
+void CommandSet::AddFamily(const char* name, const char* summary)
+{
+    families.push_back({name, summary});
+}
+
+Command& CommandSet::Add(const char* path, const char* summary, RunCommand run)
+{
+    commands.push_back({path, summary, std::move(run), {}, false, {}});
+    return commands.back();
+}
+
+const Family* CommandSet::FindFamily(std::string_view name) const
+{
+    const auto found =
+        std::find_if(families.begin(), families.end(), [name](const Family& family) { return family.name == name; });
+    return found != families.end() ? &*found : nullptr;
+}
+
+const Command* CommandSet::FindCommand(std::string_view path) const
+{
+    const auto found =
+        std::find_if(commands.begin(), commands.end(), [path](const Command& command) { return command.path == path; });
+    return found != commands.end() ? &*found : nullptr;
 }
 
 } // namespace calvix::host

@@ -1,14 +1,18 @@
 #pragma once
 
+#include "host/common_options.h"
+
 #include <functional>
+#include <memory>
 #include <string>
+#include <string_view>
+#include <variant>
 #include <vector>
 
 namespace calvix::host
 {
 
 class Host;
-struct CommonOptions;
 
 /// What the value of an argument is, for help and for completion.
 enum class ValueKind
@@ -26,36 +30,71 @@ enum class ValueKind
     command  ///< of this program, in one word or two
 };
 
-/// The arguments of one command, declared next to it and bound to its variables. A name that begins with "--" (a short
-/// form may stand before it: "-o,--output") is an option, any other is a positional argument in the order of
-/// declaration, required unless it is written in brackets: "[CODE]". What is not given keeps its variable's value. The
-/// variables must live until the command has run, so commands hold them through a std::shared_ptr.
-class Arguments
+/// One argument of a command, and the variable that it is read into.
+struct Argument
 {
-public:
-    virtual ~Arguments() = default;
+    std::vector<std::string> names; ///< "--output" and "-o"; of a positional argument its one name
+    std::string help;
+    ValueKind takes = ValueKind::text;
+    std::variant<bool*, std::string*, std::vector<std::string>*, unsigned*> value;
+    std::vector<std::string> choices;
+    bool required = false;
 
-    virtual Arguments& Flag(const char* name, bool& value, const char* help) = 0;
-    virtual Arguments& Text(const char* name, std::string& value, const char* help) = 0;
+    bool isOption() const { return names.front().front() == '-'; }
+    bool isNamed(std::string_view name) const;
     /// May be given several times.
-    virtual Arguments& Texts(const char* name, std::vector<std::string>& values, const char* help) = 0;
-    virtual Arguments& Number(const char* name, unsigned& value, const char* help) = 0;
-    virtual Arguments&
-    OneOf(const char* name, std::string& value, const std::vector<std::string>& choices, const char* help) = 0;
-    /// What the argument declared last takes, where it is a text of a kind.
-    virtual Arguments& Takes(ValueKind kind) = 0;
-    /// The option declared last must be given.
-    virtual Arguments& Required() = 0;
-    /// Lines that stand below the arguments in the command's help.
-    virtual Arguments& Examples(const char* text) = 0;
-    /// The command is for programs: no list of commands shows it.
-    virtual Arguments& Hidden() = 0;
+    bool isRepeated() const { return std::holds_alternative<std::vector<std::string>*>(value); }
+    /// "--output"
+    const std::string& longName() const { return names.front(); }
+    /// What stands for a value: "FILE", "N", "auto|always|never". Empty for a flag.
+    std::string ValueText() const;
 };
 
 /// What a command does. Success is to return; whatever else ends it throws a Failure (failure.h).
 using RunCommand = std::function<void(Host&)>;
 
-/// The commands of the program. Each family has a function that adds its own:
+/// A command with its arguments, declared next to what it does and bound to its variables. A name that begins with "--"
+/// (a short form may stand before it: "-o,--output") is an option, any other is a positional argument in the order of
+/// declaration, required unless it is written in brackets: "[CODE]". What is not given keeps its variable's value. The
+/// variables must live until the command has run, so commands hold them through a std::shared_ptr.
+struct Command
+{
+    std::string path; ///< "profiles list"
+    std::string summary;
+    RunCommand run;
+    std::string examples;
+    bool hidden = false;
+    std::vector<Argument> arguments;
+
+    Command& Flag(const char* name, bool& value, const char* help);
+    Command& Text(const char* name, std::string& value, const char* help);
+    /// May be given several times.
+    Command& Texts(const char* name, std::vector<std::string>& values, const char* help);
+    Command& Number(const char* name, unsigned& value, const char* help);
+    Command& OneOf(const char* name, std::string& value, std::vector<std::string> choices, const char* help);
+    /// What the argument declared last takes, where it is a text of a kind.
+    Command& Takes(ValueKind kind);
+    /// The option declared last must be given.
+    Command& Required();
+    /// Lines that stand below the arguments in the command's help.
+    Command& Examples(const char* text);
+    /// The command is for programs: no list of commands shows it.
+    Command& Hidden();
+
+    /// "profiles", empty for a command of no family.
+    std::string family() const;
+    /// "list"
+    std::string lastWord() const;
+};
+
+struct Family
+{
+    std::string name;
+    std::string summary;
+};
+
+/// The commands of a program: its parser, manual page, completion and hints at what was meant are made from them. Each
+/// family has a function that adds its own:
 ///
 ///     void AddScanCommands(CommandSet& commands)
 ///     {
@@ -64,21 +103,23 @@ using RunCommand = std::function<void(Host&)>;
 ///                      [options](Host& host) { Scan(host, *options); })
 ///             .Number("--timeout", options->seconds, "Seconds to wait");
 ///     }
-class CommandSet
+struct CommandSet
 {
-public:
-    virtual ~CommandSet() = default;
+    /// With the options that every command has.
+    CommandSet();
 
     /// A family of commands, before the first of them.
-    virtual void AddFamily(const char* name, const char* summary) = 0;
-    /// `path` is one word, or two for a command of a family ("profiles list").
-    virtual Arguments& Add(const char* path, const char* summary, RunCommand run) = 0;
+    void AddFamily(const char* name, const char* summary);
+    /// `path` is one word, or two for a command of a family ("profiles list"). Its arguments follow at once.
+    Command& Add(const char* path, const char* summary, RunCommand run);
+
+    const Family* FindFamily(std::string_view name) const;
+    const Command* FindCommand(std::string_view path) const;
+
+    std::vector<Family> families;
+    std::vector<Command> commands;
+    std::vector<Argument> options; ///< of every command
+    std::shared_ptr<CommonOptions> optionValues = std::make_shared<CommonOptions>();
 };
-
-/// Adds all commands of a program.
-using AddCommands = void (*)(CommandSet& commands);
-
-/// The options that every command has.
-void DeclareCommonOptions(Arguments& arguments, CommonOptions& options);
 
 } // namespace calvix::host

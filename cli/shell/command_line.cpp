@@ -2,7 +2,6 @@
 
 #include "explain/failure_words.h"
 #include "output/json_output.h"
-#include "shell/command_description.h"
 #include "shell/exit_codes.h"
 #include "shell/program_texts.h"
 #include "shell/usage_failure.h"
@@ -13,6 +12,7 @@
 
 #include <algorithm>
 #include <map>
+#include <type_traits>
 
 namespace calvix::host
 {
@@ -22,138 +22,74 @@ namespace
 
 constexpr const char* kCommonGroup = "Options of every command";
 
-/// The arguments of one command. Declarations of one command follow each other, so one object serves all.
-class DeclaredArguments final : public Arguments
+void Limit(CLI::Option& option, const Argument& argument)
 {
-public:
-    void Begin(CLI::App& command, const char* group = nullptr)
-    {
-        m_command = &command;
-        m_group = group;
-    }
+    option.type_name(argument.ValueText());
+    option.required(argument.required);
+    if (argument.takes == ValueKind::number)
+        option.capture_default_str();
+    if (argument.takes == ValueKind::choice)
+        option.check(CLI::Validator(CLI::IsMember(argument.choices)).description(""));
+    // One value for each time an option is given: what follows may be a positional argument.
+    if (argument.isRepeated() && argument.isOption())
+        option.allow_extra_args(false);
+}
 
-    Arguments& Flag(const char* name, bool& value, const char* help) override
-    {
-        return Declared(m_command->add_flag(name, value, help));
-    }
-    Arguments& Text(const char* name, std::string& value, const char* help) override
-    {
-        return Option(name, value, help);
-    }
-    Arguments& Texts(const char* name, std::vector<std::string>& values, const char* help) override
-    {
-        Option(name, values, help);
-        // One value for each time an option is given: what follows may be a positional argument.
-        if (name[0] == '-')
-            m_last->allow_extra_args(false);
-        return *this;
-    }
-    Arguments& Number(const char* name, unsigned& value, const char* help) override
-    {
-        Option(name, value, help);
-        m_last->type_name(ValueText(ValueKind::number, {}));
-        m_last->capture_default_str();
-        return *this;
-    }
-    Arguments&
-    OneOf(const char* name, std::string& value, const std::vector<std::string>& choices, const char* help) override
-    {
-        Option(name, value, help);
-        m_last->type_name(ValueText(ValueKind::choice, choices));
-        m_last->check(CLI::Validator(CLI::IsMember(choices)).description(""));
-        return *this;
-    }
-    Arguments& Takes(ValueKind kind) override
-    {
-        m_last->type_name(ValueText(kind, {}));
-        return *this;
-    }
-    Arguments& Required() override
-    {
-        m_last->required();
-        return *this;
-    }
-    Arguments& Examples(const char* text) override
-    {
-        m_command->footer(std::string(text) + "\n\n" + ExitCodeLines());
-        return *this;
-    }
-    Arguments& Hidden() override
-    {
-        m_command->group("");
-        return *this;
-    }
-
-private:
-    template <typename Value>
-    Arguments& Option(std::string name, Value& value, const char* help)
-    {
-        const bool optional = name.front() == '[' || name.front() == '-';
-        if (name.front() == '[')
-            name = name.substr(1, name.size() - 2);
-        Declared(m_command->add_option(name, value, help));
-        m_last->required(!optional);
-        return *this;
-    }
-
-    Arguments& Declared(CLI::Option* option)
-    {
-        m_last = option;
-        if (m_group != nullptr)
-            option->group(m_group);
-        return *this;
-    }
-
-    CLI::App* m_command = nullptr;
-    const char* m_group = nullptr;
-    CLI::Option* m_last = nullptr;
-};
-
-/// The commands on the parser.
-class ParserCommands final : public CommandSet
+CLI::Option& AddArgument(CLI::App& app, const Argument& argument)
 {
-public:
-    ParserCommands(CLI::App& app, Request& request) : m_app(app), m_request(request) { AddCommonOptions(app); }
-
-    void AddFamily(const char* name, const char* summary) override
+    std::string names;
+    for (const std::string& name : argument.names)
+        names += (names.empty() ? "" : ",") + name;
+    if (bool* const* const flag = std::get_if<bool*>(&argument.value))
+        return *app.add_flag(names, **flag, argument.help);
+    CLI::Option* option = nullptr;
+    const auto add = [&](auto* value)
     {
-        CLI::App& family = *m_app.add_subcommand(name, summary);
-        family.require_subcommand(1);
-        family.fallthrough();
-        family.footer(ExitCodeLines());
-        m_families[name] = &family;
-    }
+        if constexpr (!std::is_same_v<decltype(value), bool*>)
+            option = app.add_option(names, *value, argument.help);
+    };
+    std::visit(add, argument.value);
+    Limit(*option, argument);
+    return *option;
+}
 
-    Arguments& Add(const char* path, const char* summary, RunCommand run) override
+void AddCommonOptions(CLI::App& app, const CommandSet& commands)
+{
+    for (const Argument& option : commands.options)
+        AddArgument(app, option).group(kCommonGroup);
+}
+
+void AddCommand(CLI::App& parent, const CommandSet& commands, const Command& command, const Command*& chosen)
+{
+    CLI::App& app = *parent.add_subcommand(command.lastWord(), command.summary);
+    app.footer((command.examples.empty() ? "" : command.examples + "\n\n") + ExitCodeLines());
+    if (command.hidden)
+        app.group("");
+    AddCommonOptions(app, commands);
+    for (const Argument& argument : command.arguments)
+        AddArgument(app, argument);
+    app.callback([&command, &chosen] { chosen = &command; });
+}
+
+/// The commands on the parser; `chosen` is the one on the command line.
+void AddCommands(CLI::App& app, const CommandSet& commands, const Command*& chosen)
+{
+    AddCommonOptions(app, commands);
+    std::map<std::string, CLI::App*> parents{{"", &app}};
+    for (const Command& command : commands.commands)
     {
-        const std::string words = path;
-        const std::size_t blank = words.find(' ');
-        CLI::App& parent = blank == std::string::npos ? m_app : *m_families.at(words.substr(0, blank));
-        CLI::App& command = *parent.add_subcommand(words.substr(blank + 1), summary);
-        command.footer(ExitCodeLines());
-        command.callback(
-            [this, words, run = std::move(run)]
-            {
-                m_request.command = words;
-                m_request.run = run;
-            });
-        AddCommonOptions(command);
-        m_arguments.Begin(command);
-        return m_arguments;
+        const std::string name = command.family();
+        CLI::App*& parent = parents[name];
+        if (parent == nullptr)
+        {
+            parent = app.add_subcommand(name, commands.FindFamily(name)->summary);
+            parent->require_subcommand(1);
+            parent->fallthrough();
+            parent->footer(ExitCodeLines());
+        }
+        AddCommand(*parent, commands, command, chosen);
     }
-
-private:
-    void AddCommonOptions(CLI::App& app)
-    {
-        m_arguments.Begin(app, kCommonGroup);
-        DeclareCommonOptions(m_arguments, m_request.options);
-    }
-
-    CLI::App& m_app;
-    Request& m_request;
-    std::map<std::string, CLI::App*> m_families;
-    DeclaredArguments m_arguments;
-};
+}
 
 /// Options may stand before the command and after it, which the parser takes for different ones.
 void RefuseContradictions(const CommonOptions& options)
@@ -181,13 +117,13 @@ std::vector<std::string> WithHelpBehind(std::vector<std::string> arguments)
     return arguments;
 }
 
-void TellUsageFailure(AddCommands add,
+void TellUsageFailure(const CommandSet& commands,
                       const std::vector<std::string>& arguments,
                       const std::string& parserWords,
                       std::ostream& out,
                       std::ostream& err)
 {
-    const FailureReport report = UsageFailure(DescribeProgram(add), arguments, parserWords).report();
+    const FailureReport report = UsageFailure(commands, arguments, parserWords).report();
     if (std::find(arguments.begin(), arguments.end(), "--json") != arguments.end())
         PrintJson(out, report);
     PrintFailure(err, report);
@@ -195,36 +131,38 @@ void TellUsageFailure(AddCommands add,
 
 } // namespace
 
-std::optional<Request> ParseArguments(
-    AddCommands add, const std::vector<std::string>& given, std::ostream& out, std::ostream& err, ExitCode& exitCode)
+const Command* ParseArguments(const CommandSet& commands,
+                              const std::vector<std::string>& given,
+                              std::ostream& out,
+                              std::ostream& err,
+                              ExitCode& exitCode)
 {
     const std::vector<std::string> arguments = WithHelpBehind(given);
-    Request request;
+    const Command* chosen = nullptr;
     CLI::App app(kProgramDescription, "calvix");
     app.allow_windows_style_options(false);
     app.set_version_flag("--version", std::string("calvix ") + kVersionNumber);
     app.require_subcommand(1);
     app.footer(std::string(kProgramExamples) + "\n\n" + ExitCodeLines());
-    ParserCommands commands(app, request);
-    add(commands);
+    AddCommands(app, commands, chosen);
     try
     {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-        RefuseContradictions(request.options);
+        RefuseContradictions(*commands.optionValues);
+        return chosen;
     }
     catch (const CLI::ParseError& error)
     {
         // Asked for help on what there is not, the parser would tell all about the program.
         const bool asked = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success) &&
-                           !NamesUnknownCommand(DescribeProgram(add), arguments);
+                           !NamesUnknownCommand(commands, arguments);
         exitCode = asked ? ExitCode::success : ExitCode::badInput;
         if (asked)
             app.exit(error, out, err);
         else
-            TellUsageFailure(add, arguments, error.what(), out, err);
-        return std::nullopt;
+            TellUsageFailure(commands, arguments, error.what(), out, err);
+        return nullptr;
     }
-    return request;
 }
 
 } // namespace calvix::host

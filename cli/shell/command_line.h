@@ -1,29 +1,19 @@
 #pragma once
 
-#include "host/common_options.h"
 #include "output/failure.h"
 #include "shell/command.h"
 
-#include <memory>
-#include <optional>
+#include <ostream>
 
 namespace calvix::host
 {
 
-/// What the arguments ask for.
-struct Request
-{
-    std::string command; ///< "profiles list"
-    RunCommand run;
-    CommonOptions options;
-};
-
-/// Reads the arguments. Help and version, when asked for, go to `out`, what is wrong goes to `err`; `exitCode` is set
-/// and no request returned then.
-std::optional<Request> ParseArguments(AddCommands add,
-                                      const std::vector<std::string>& arguments,
-                                      std::ostream& out,
-                                      std::ostream& err,
-                                      ExitCode& exitCode);
+/// Reads the arguments into the variables of the command that they name, and returns it. Help and version, when asked
+/// for, go to `out`, what is wrong goes to `err`; `exitCode` is set and null returned then.
+const Command* ParseArguments(const CommandSet& commands,
+                              const std::vector<std::string>& arguments,
+                              std::ostream& out,
+                              std::ostream& err,
+                              ExitCode& exitCode);
 
 } // namespace calvix::host

@@ -13,14 +13,14 @@ namespace calvix::host
 namespace
 {
 
-std::vector<CompletionWord> CommandWords(const ProgramDescription& program, const std::string& family)
+std::vector<CompletionWord> CommandWords(const CommandSet& program, const std::string& family)
 {
     std::vector<CompletionWord> words;
-    for (const CommandDescription& command : program.commands)
+    for (const Command& command : program.commands)
         if (!command.hidden && command.family() == family)
             words.push_back({command.lastWord(), command.summary});
     if (family.empty())
-        for (const FamilyDescription& one : program.families)
+        for (const Family& one : program.families)
             words.push_back({one.name, one.summary});
     return words;
 }
@@ -37,12 +37,12 @@ std::vector<CompletionWord> MethodWords()
 class Place
 {
 public:
-    Place(const ProgramDescription& program, const WordReader& reader, const LiveNames& liveNames)
+    Place(const CommandSet& program, const WordReader& reader, const LiveNames& liveNames)
         : m_program(program), m_reader(reader), m_liveNames(liveNames)
     {
     }
 
-    Completion Values(const ArgumentDescription& argument) const
+    Completion Values(const Argument& argument) const
     {
         switch (argument.takes)
         {
@@ -72,8 +72,8 @@ public:
     Completion Options() const
     {
         Completion completion;
-        for (const ArgumentDescription* option : m_reader.Options())
-            if (option->repeated || !m_reader.isGiven(*option))
+        for (const Argument* option : m_reader.Options())
+            if (option->isRepeated() || !m_reader.isGiven(*option))
                 completion.words.push_back({option->longName(), option->help});
         completion.words.push_back({"--help", "Tell the arguments"});
         if (m_reader.command() == nullptr && m_reader.family() == nullptr)
@@ -85,7 +85,7 @@ public:
     {
         if (m_reader.command() == nullptr)
             return {CommandWords(m_program, m_reader.family() != nullptr ? m_reader.family()->name : "")};
-        const ArgumentDescription* const next = m_reader.NextPositional();
+        const Argument* const next = m_reader.NextPositional();
         if (next != nullptr)
             return Values(*next);
         return m_reader.afterDashes() ? Completion{} : Options();
@@ -95,7 +95,7 @@ public:
     Completion ValuesBehindSign(const std::string& current) const
     {
         const std::string name = SplitAtSign(current).first;
-        const ArgumentDescription* const option = m_reader.FindOption(name);
+        const Argument* const option = m_reader.FindOption(name);
         if (option == nullptr)
             return {};
         Completion completion = Values(*option);
@@ -114,7 +114,7 @@ public:
     }
 
 private:
-    static Completion Choices(const ArgumentDescription& argument)
+    static Completion Choices(const Argument& argument)
     {
         Completion completion;
         for (const std::string& choice : argument.choices)
@@ -122,7 +122,7 @@ private:
         return completion;
     }
 
-    const ProgramDescription& m_program;
+    const CommandSet& m_program;
     const WordReader& m_reader;
     const LiveNames& m_liveNames;
 };
@@ -145,7 +145,7 @@ const char* FilesText(Completion::Files files)
 
 } // namespace
 
-Completion Complete(const ProgramDescription& program,
+Completion Complete(const CommandSet& program,
                     const std::vector<std::string>& before,
                     const std::string& current,
                     const LiveNames& liveNames)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/command_description.h"
+#include "shell/command.h"
 
 #include <functional>
 #include <string>
@@ -37,7 +37,7 @@ using LiveNames =
     std::function<std::vector<CompletionWord>(ValueKind kind, const std::string& scenario, const std::string& adapter)>;
 
 /// Completes a command line: the words before the cursor's, without the program's, and the beginning of that one.
-Completion Complete(const ProgramDescription& program,
+Completion Complete(const CommandSet& program,
                     const std::vector<std::string>& before,
                     const std::string& current,
                     const LiveNames& liveNames);

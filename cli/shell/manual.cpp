@@ -38,31 +38,31 @@ std::string Bold(const std::string& text)
 }
 
 /// "\fB\-\-timeout\fR \fIN\fR"
-std::string Spelled(const ArgumentDescription& argument)
+std::string Spelled(const Argument& argument)
 {
     if (!argument.isOption())
         return "\\fI" + Escaped(argument.names.front()) + "\\fR";
     std::string text;
     for (const std::string& name : argument.names)
         text += (text.empty() ? "" : ", ") + Bold(name);
-    const std::string value = ValueText(argument.takes, argument.choices);
+    const std::string value = argument.ValueText();
     return value.empty() ? text : text + " \\fI" + Escaped(value) + "\\fR";
 }
 
-std::string InSynopsis(const ArgumentDescription& argument)
+std::string InSynopsis(const Argument& argument)
 {
     const std::string name = "\\fI" + Escaped(argument.names.front()) + "\\fR";
     const std::string text = argument.isOption() ? Spelled(argument) : name;
-    return (argument.required ? text : "[" + text + "]") + (argument.repeated ? "..." : "");
+    return (argument.required ? text : "[" + text + "]") + (argument.isRepeated() ? "..." : "");
 }
 
-void WriteArgument(std::ostream& out, const ArgumentDescription& argument)
+void WriteArgument(std::ostream& out, const Argument& argument)
 {
     out << ".TP\n" << Spelled(argument) << '\n' << Escaped(WithFullStop(argument.help));
     if (!argument.isOption() && !argument.choices.empty())
-        out << " One of " << Escaped(ValueText(argument.takes, argument.choices)) << '.';
-    if (argument.takes == ValueKind::number && argument.byDefault)
-        out << " Default: " << *argument.byDefault << '.';
+        out << " One of " << Escaped(argument.ValueText()) << '.';
+    if (unsigned* const* const number = std::get_if<unsigned*>(&argument.value))
+        out << " Default: " << **number << '.';
     out << '\n';
 }
 
@@ -81,13 +81,13 @@ void WriteExamples(std::ostream& out, const std::string& examples)
     }
 }
 
-void WriteCommand(std::ostream& out, const CommandDescription& command)
+void WriteCommand(std::ostream& out, const Command& command)
 {
     out << ".SS " << Escaped(command.path) << "\n" << Bold("calvix " + command.path);
-    for (const ArgumentDescription& argument : command.arguments)
+    for (const Argument& argument : command.arguments)
         out << ' ' << InSynopsis(argument);
     out << "\n.PP\n" << Escaped(WithFullStop(command.summary)) << '\n';
-    for (const ArgumentDescription& argument : command.arguments)
+    for (const Argument& argument : command.arguments)
         WriteArgument(out, argument);
     WriteExamples(out, command.examples);
 }
@@ -108,7 +108,7 @@ void WriteEnd(std::ostream& out)
 
 } // namespace
 
-std::string ManualPage(const ProgramDescription& program)
+std::string ManualPage(const CommandSet& program)
 {
     std::ostringstream out;
     out << ".TH CALVIX 1 \"\" \"calvix " << kVersionNumber << "\" \"User Commands\"\n"
@@ -117,10 +117,10 @@ std::string ManualPage(const ProgramDescription& program)
         << ".SH DESCRIPTION\n"
         << Escaped(kProgramDescription) << '\n'
         << ".SH OPTIONS OF EVERY COMMAND\n";
-    for (const ArgumentDescription& option : program.options)
+    for (const Argument& option : program.options)
         WriteArgument(out, option);
     out << ".TP\n\\fB\\-\\-help\\fR\nTell the arguments of the command.\n.SH COMMANDS\n";
-    for (const CommandDescription& command : program.commands)
+    for (const Command& command : program.commands)
         if (!command.hidden)
             WriteCommand(out, command);
     WriteEnd(out);

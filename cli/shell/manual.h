@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/command_description.h"
+#include "shell/command.h"
 
 #include <string>
 
@@ -8,6 +8,6 @@ namespace calvix::host
 {
 
 /// The manual page calvix(1) in man's own macros, for `man -l` and packages.
-std::string ManualPage(const ProgramDescription& program);
+std::string ManualPage(const CommandSet& program);
 
 } // namespace calvix::host

@@ -9,19 +9,19 @@ namespace calvix::host
 namespace
 {
 
-std::vector<std::string> CommandNames(const ProgramDescription& program, const std::string& family)
+std::vector<std::string> CommandNames(const CommandSet& program, const std::string& family)
 {
     std::vector<std::string> names;
-    for (const CommandDescription& command : program.commands)
+    for (const Command& command : program.commands)
         if (!command.hidden && command.family() == family)
             names.push_back(command.lastWord());
     if (family.empty())
-        for (const FamilyDescription& one : program.families)
+        for (const Family& one : program.families)
             names.push_back(one.name);
     return names;
 }
 
-WordReader ReadAll(const ProgramDescription& program, const std::vector<std::string>& arguments)
+WordReader ReadAll(const CommandSet& program, const std::vector<std::string>& arguments)
 {
     WordReader reader(program);
     for (const std::string& word : arguments)
@@ -34,7 +34,7 @@ std::string Meant(const std::string& nearest)
     return nearest.empty() ? "" : "did you mean " + nearest + "? ";
 }
 
-Failure UnknownCommand(const ProgramDescription& program, const WordReader& reader)
+Failure UnknownCommand(const CommandSet& program, const WordReader& reader)
 {
     const std::string family = reader.family() != nullptr ? reader.family()->name : "";
     const std::string& word = reader.unknownCommand();
@@ -46,7 +46,7 @@ Failure UnknownCommand(const ProgramDescription& program, const WordReader& read
 Failure UnknownOption(const WordReader& reader)
 {
     std::vector<std::string> names{"--help"};
-    for (const ArgumentDescription* option : reader.Options())
+    for (const Argument* option : reader.Options())
         names.push_back(option->longName());
     const std::string command = reader.command() != nullptr ? reader.command()->path : "calvix";
     const std::string help = reader.command() != nullptr ? "calvix " + command : command;
@@ -64,14 +64,13 @@ Failure NoCommand(const WordReader& reader)
 
 } // namespace
 
-bool NamesUnknownCommand(const ProgramDescription& program, const std::vector<std::string>& arguments)
+bool NamesUnknownCommand(const CommandSet& program, const std::vector<std::string>& arguments)
 {
     return !ReadAll(program, arguments).unknownCommand().empty();
 }
 
-Failure UsageFailure(const ProgramDescription& program,
-                     const std::vector<std::string>& arguments,
-                     const std::string& parserWords)
+Failure
+UsageFailure(const CommandSet& program, const std::vector<std::string>& arguments, const std::string& parserWords)
 {
     const WordReader reader = ReadAll(program, arguments);
     if (!reader.unknownCommand().empty())

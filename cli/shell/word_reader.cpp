@@ -51,7 +51,7 @@ void WordReader::TakeOption(const std::string& word)
 {
     const bool isShort = word[1] != '-';
     const std::string name = isShort ? word.substr(0, 2) : SplitAtSign(word).first;
-    const ArgumentDescription* const option = FindOption(name);
+    const Argument* const option = FindOption(name);
     if (option == nullptr)
     {
         if (!IsHelp(word) && m_unknownOption.empty())
@@ -71,48 +71,48 @@ void WordReader::TakeCommandWord(const std::string& word)
     m_command = m_program.FindCommand(m_family != nullptr ? m_family->name + " " + word : word);
     if (m_command != nullptr)
         return;
-    const FamilyDescription* const family = m_family == nullptr ? m_program.FindFamily(word) : nullptr;
+    const Family* const family = m_family == nullptr ? m_program.FindFamily(word) : nullptr;
     if (family != nullptr)
         m_family = family;
     else
         m_unknownCommand = word;
 }
 
-const ArgumentDescription* WordReader::NextPositional() const
+const Argument* WordReader::NextPositional() const
 {
     if (m_command == nullptr)
         return nullptr;
     std::size_t left = m_positionals.size();
-    for (const ArgumentDescription& argument : m_command->arguments)
+    for (const Argument& argument : m_command->arguments)
     {
         if (argument.isOption())
             continue;
-        if (argument.repeated || left == 0)
+        if (argument.isRepeated() || left == 0)
             return &argument;
         --left;
     }
     return nullptr;
 }
 
-std::vector<const ArgumentDescription*> WordReader::Options() const
+std::vector<const Argument*> WordReader::Options() const
 {
-    std::vector<const ArgumentDescription*> options;
+    std::vector<const Argument*> options;
     if (m_command != nullptr)
     {
-        for (const ArgumentDescription& argument : m_command->arguments)
+        for (const Argument& argument : m_command->arguments)
             if (argument.isOption())
                 options.push_back(&argument);
     }
-    for (const ArgumentDescription& option : m_program.options)
+    for (const Argument& option : m_program.options)
         options.push_back(&option);
     return options;
 }
 
-const ArgumentDescription* WordReader::FindOption(std::string_view name) const
+const Argument* WordReader::FindOption(std::string_view name) const
 {
     const auto options = Options();
-    const auto found = std::find_if(options.begin(), options.end(),
-                                    [name](const ArgumentDescription* option) { return option->isNamed(name); });
+    const auto found =
+        std::find_if(options.begin(), options.end(), [name](const Argument* option) { return option->isNamed(name); });
     return found != options.end() ? *found : nullptr;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/command_description.h"
+#include "shell/command.h"
 
 #include <map>
 #include <string>
@@ -14,27 +14,27 @@ namespace calvix::host
 class WordReader
 {
 public:
-    explicit WordReader(const ProgramDescription& program) : m_program(program) {}
+    explicit WordReader(const CommandSet& program) : m_program(program) {}
 
     void Take(const std::string& word);
 
     /// Null until it is known.
-    const CommandDescription* command() const { return m_command; }
+    const Command* command() const { return m_command; }
     /// The family whose command is not known yet; null: none.
-    const FamilyDescription* family() const { return m_command == nullptr ? m_family : nullptr; }
+    const Family* family() const { return m_command == nullptr ? m_family : nullptr; }
     /// The option whose value comes next; null: none.
-    const ArgumentDescription* pending() const { return m_pending; }
+    const Argument* pending() const { return m_pending; }
     /// Whether "--" has come, after which no word is an option.
     bool afterDashes() const { return m_afterDashes; }
     /// What stood as positional arguments.
     const std::vector<std::string>& positionals() const { return m_positionals; }
     /// The positional argument that comes next; null: there is no further.
-    const ArgumentDescription* NextPositional() const;
+    const Argument* NextPositional() const;
     /// The options that may stand here.
-    std::vector<const ArgumentDescription*> Options() const;
-    const ArgumentDescription* FindOption(std::string_view name) const;
+    std::vector<const Argument*> Options() const;
+    const Argument* FindOption(std::string_view name) const;
     /// Whether an option was given, and its last value.
-    bool isGiven(const ArgumentDescription& option) const { return m_given.count(option.longName()) != 0; }
+    bool isGiven(const Argument& option) const { return m_given.count(option.longName()) != 0; }
     std::string ValueOf(const std::string& option) const;
 
     /// The first word that stood for a command and is none, and the first option that there is not; empty: none.
@@ -45,10 +45,10 @@ private:
     void TakeOption(const std::string& word);
     void TakeCommandWord(const std::string& word);
 
-    const ProgramDescription& m_program;
-    const FamilyDescription* m_family = nullptr;
-    const CommandDescription* m_command = nullptr;
-    const ArgumentDescription* m_pending = nullptr;
+    const CommandSet& m_program;
+    const Family* m_family = nullptr;
+    const Command* m_command = nullptr;
+    const Argument* m_pending = nullptr;
     bool m_afterDashes = false;
     std::vector<std::string> m_positionals;
     std::map<std::string, std::string> m_given;

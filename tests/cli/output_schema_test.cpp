@@ -3,7 +3,6 @@
 #include "cli_test.h"
 
 #include "commands/commands.h"
-#include "shell/command_description.h"
 #include "support/json_schema.h"
 
 #include <nlohmann/json.hpp>
@@ -193,7 +192,7 @@ TEST_F(OutputSchema, LeavesNoCommandOut)
     std::set<std::string> checked{"ihv", "run", "power saver", "help"};
     for (const Row& row : Rows())
         checked.insert(row.path);
-    for (const host::CommandDescription& command : host::DescribeProgram(host::AddAllCommands).commands)
+    for (const host::Command& command : host::AllCommands().commands)
         EXPECT_TRUE(command.hidden || checked.count(command.path) == 1) << command.path;
 }
 

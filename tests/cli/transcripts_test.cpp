@@ -6,7 +6,6 @@
 
 #include "commands/commands.h"
 #include "platform/platform.h"
-#include "shell/command_description.h"
 #include "shell/manual.h"
 #include "simulation/computer.h"
 #include "wrappers/fault_injection.h"
@@ -117,7 +116,7 @@ void ExpectUpToDate(const std::string& path, const std::string& text)
 
 TEST(MadeFile, ManualPage)
 {
-    ExpectUpToDate("docs/calvix.1", host::ManualPage(host::DescribeProgram(host::AddAllCommands)));
+    ExpectUpToDate("docs/calvix.1", host::ManualPage(host::AllCommands()));
 }
 
 TEST(MadeFile, ScenarioSchema)

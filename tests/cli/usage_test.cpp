@@ -2,7 +2,6 @@
 #include "transcript.h"
 
 #include "commands/commands.h"
-#include "shell/command_description.h"
 #include "shell/command_line.h"
 #include "shell/exit_codes.h"
 
@@ -51,7 +50,7 @@ protected:
         std::ostringstream out;
         std::ostringstream err;
         host::ExitCode exitCode = host::ExitCode::success;
-        host::ParseArguments(host::AddAllCommands, words, out, err, exitCode);
+        host::ParseArguments(host::AllCommands(), words, out, err, exitCode);
         return err.str();
     }
 };
@@ -188,7 +187,7 @@ TEST_F(CommonOptions, ShowTheTraceOnStandardError)
 
 TEST_F(Usage, TellsEveryCommandsOptionsWithAnExample)
 {
-    for (const host::CommandDescription& command : host::DescribeProgram(host::AddAllCommands).commands)
+    for (const host::Command& command : host::AllCommands().commands)
     {
         // Behind "help", help is about the program.
         if (command.hidden || command.path == "help")
@@ -205,7 +204,7 @@ TEST_F(Usage, TellsEveryCommandsOptionsWithAnExample)
 
 TEST_F(Usage, TakesTheExamplesOfEveryCommand)
 {
-    for (const host::CommandDescription& command : host::DescribeProgram(host::AddAllCommands).commands)
+    for (const host::Command& command : host::AllCommands().commands)
     {
         std::istringstream lines(command.examples);
         for (std::string line; std::getline(lines, line);)
