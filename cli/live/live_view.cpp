@@ -73,20 +73,20 @@ std::string RoamText(const RoamFacts& roam)
 LiveView::~LiveView()
 {
     if (m_lineWidth > 0)
-        m_host.out() << '\n' << std::flush;
+        m_output.out() << '\n' << std::flush;
 }
 
 void LiveView::Show(const NoticeFacts& notice)
 {
-    if (m_host.json())
-        return PrintLiveJson(m_host.out(), m_now, notice);
+    if (m_output.json())
+        return PrintLiveJson(m_output.out(), m_now, notice);
     Line(NoticeText(notice));
 }
 
 void LiveView::Show(const RoamFacts& roam)
 {
-    if (m_host.json())
-        return PrintLiveJson(m_host.out(), m_now, roam);
+    if (m_output.json())
+        return PrintLiveJson(m_output.out(), m_now, roam);
     if (roam.code != 0 && roam.code == m_lastRoamCode)
         return;
     m_lastRoamCode = roam.code;
@@ -96,15 +96,15 @@ void LiveView::Show(const RoamFacts& roam)
 void LiveView::Show(const SignalFacts& signal)
 {
     NoticeMove(signal);
-    if (m_host.json())
-        return PrintLiveJson(m_host.out(), m_now, signal);
-    if (m_host.terminal().isTerminal)
+    if (m_output.json())
+        return PrintLiveJson(m_output.out(), m_now, signal);
+    if (m_output.terminal().isTerminal)
         return DrawSignalLine(signal);
     if (!IsWorthALine(signal))
         return;
     m_lastShown = signal;
     const std::string accessPoint = signal.connected ? "  " + signal.bssid : "";
-    Line(SignalText(signal, m_host.terminal()) + accessPoint);
+    Line(SignalText(signal, m_output.terminal()) + accessPoint);
 }
 
 void LiveView::NoticeMove(const SignalFacts& signal)
@@ -117,8 +117,8 @@ void LiveView::NoticeMove(const SignalFacts& signal)
         return;
     ++m_moves;
     m_movedNow = true;
-    if (m_host.json())
-        return PrintMoveJson(m_host.out(), m_now, before.bssid, signal.bssid);
+    if (m_output.json())
+        return PrintMoveJson(m_output.out(), m_now, before.bssid, signal.bssid);
     Line("moved from " + before.bssid + " to " + signal.bssid);
 }
 
@@ -138,8 +138,8 @@ void LiveView::DrawSignalLine(const SignalFacts& signal)
     if (m_history.size() > kHistory)
         m_history.pop_front();
     ClearSignalLine();
-    m_host.out() << MomentText(m_now) << SignalText(signal, m_host.terminal()) << "  "
-                 << HistoryText(m_history, m_host.terminal()) << std::flush;
+    m_output.out() << MomentText(m_now) << SignalText(signal, m_output.terminal()) << "  "
+                   << HistoryText(m_history, m_output.terminal()) << std::flush;
     // Colours take no columns.
     const TerminalTraits plain{.isTerminal = true};
     m_lineWidth = DisplayWidth(MomentText(m_now) + SignalText(signal, plain) + "  " + HistoryText(m_history, plain));
@@ -148,22 +148,22 @@ void LiveView::DrawSignalLine(const SignalFacts& signal)
 void LiveView::Line(const std::string& text)
 {
     ClearSignalLine();
-    m_host.out() << MomentText(m_now) << text << std::endl;
+    m_output.out() << MomentText(m_now) << text << std::endl;
 }
 
 void LiveView::Finish(const std::string& text)
 {
     // The signal line stays as it is, as the last thing that was seen.
     if (m_lineWidth > 0)
-        m_host.out() << '\n';
+        m_output.out() << '\n';
     m_lineWidth = 0;
-    m_host.out() << text << std::flush;
+    m_output.out() << text << std::flush;
 }
 
 void LiveView::ClearSignalLine()
 {
     if (m_lineWidth > 0)
-        m_host.out() << '\r' << std::string(m_lineWidth, ' ') << '\r';
+        m_output.out() << '\r' << std::string(m_lineWidth, ' ') << '\r';
     m_lineWidth = 0;
 }
 

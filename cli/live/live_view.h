@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/host.h"
 #include "output/facts.h"
+#include "output/output.h"
 
 #include <deque>
 #include <string>
@@ -21,7 +21,7 @@ struct SignalMoment
 class LiveView
 {
 public:
-    explicit LiveView(Host& host) : m_host(host) {}
+    explicit LiveView(Output& output) : m_output(output) {}
     ~LiveView();
     LiveView(const LiveView&) = delete;
     LiveView& operator=(const LiveView&) = delete;
@@ -47,7 +47,7 @@ private:
     void DrawSignalLine(const SignalFacts& signal);
     void ClearSignalLine();
 
-    Host& m_host;
+    Output& m_output;
     unsigned long long m_now = 0;
     int m_lastRoamCode = 1; ///< no code of roaming
     SignalFacts m_lastLink; ///< the last that was connected

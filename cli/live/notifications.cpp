@@ -48,14 +48,14 @@ void AddReason(const WLAN_NOTIFICATION_DATA& data, Notice& notice)
 
 } // namespace
 
-Notifications::Notifications(Host& host) : m_host(host)
+Notifications::Notifications(ComputerInUse& computer) : m_computer(computer)
 {
-    host.Require("RegisterNotification", host.manager().RegisterNotification(&Notifications::Receive, this));
+    computer.Require("RegisterNotification", computer.manager().RegisterNotification(&Notifications::Receive, this));
 }
 
 Notifications::~Notifications()
 {
-    m_host.manager().UnRegisterNotification(&Notifications::Receive, this);
+    m_computer.manager().UnRegisterNotification(&Notifications::Receive, this);
 }
 
 std::vector<Notice> Notifications::Take()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/computer_in_use.h"
 
 #include <mutex>
 #include <string>
@@ -26,7 +26,7 @@ class Notifications
 {
 public:
     /// A refused registration is a Failure.
-    explicit Notifications(Host& host);
+    explicit Notifications(ComputerInUse& computer);
     ~Notifications();
     Notifications(const Notifications&) = delete;
     Notifications& operator=(const Notifications&) = delete;
@@ -37,7 +37,7 @@ public:
 private:
     static void WINAPI Receive(PWLAN_NOTIFICATION_DATA data, PVOID context);
 
-    Host& m_host;
+    ComputerInUse& m_computer;
     std::mutex m_mutex;
     std::vector<Notice> m_waiting;
 };

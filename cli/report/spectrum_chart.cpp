@@ -102,16 +102,16 @@ std::string Margin(int row)
     return std::string(kMarginColumns - 1 - text.size(), ' ') + text + " ";
 }
 
-void PrintBand(Host& host, const SpectrumBand& band, const std::vector<const AirAccessPoint*>& points)
+void PrintBand(Output& output, const SpectrumBand& band, const std::vector<const AirAccessPoint*>& points)
 {
-    const bool unicode = host.terminal().isTerminal;
+    const bool unicode = output.terminal().isTerminal;
     DotCanvas canvas(kChartColumns, kChartRows);
     for (const AirAccessPoint* point : points)
         DrawArch(canvas, band, *point);
     for (const AirAccessPoint* point : points)
         DrawLetter(canvas, band, *point);
-    std::ostream& out = host.out();
-    out << Toned(band.name, Tone::strong, host.terminal()) << ", dBm by channel\n";
+    std::ostream& out = output.out();
+    out << Toned(band.name, Tone::strong, output.terminal()) << ", dBm by channel\n";
     for (int row = 0; row < kChartRows; ++row)
         out << Margin(row) << (unicode ? "│" : "|") << canvas.Line(row, unicode) << '\n';
     out << std::string(kMarginColumns - 5, ' ') << kWeakestShown << ' ' << (unicode ? "└" : "+");
@@ -120,7 +120,7 @@ void PrintBand(Host& host, const SpectrumBand& band, const std::vector<const Air
     out << '\n' << std::string(kMarginColumns + 1, ' ') << ChannelNumbers(band) << "\n\n";
 }
 
-void PrintLetters(Host& host, const std::vector<AirAccessPoint>& accessPoints)
+void PrintLetters(Output& output, const std::vector<AirAccessPoint>& accessPoints)
 {
     Table table({{""},
                  {"SSID"},
@@ -139,12 +139,12 @@ void PrintLetters(Host& host, const std::vector<AirAccessPoint>& accessPoints)
                       std::to_string(point.beacon.widthMhz), point.beacon.security, point.facts.bssid,
                       Cell(point.inUse ? "in use" : "", Tone::good)});
     }
-    table.Print(host.out(), host.terminal());
+    table.Print(output.out(), output.terminal());
 }
 
 } // namespace
 
-void PrintSpectrum(Host& host, const std::vector<AirAccessPoint>& accessPoints)
+void PrintSpectrum(Output& output, const std::vector<AirAccessPoint>& accessPoints)
 {
     std::string silent;
     for (const SpectrumBand& band : SpectrumBands())
@@ -154,13 +154,13 @@ void PrintSpectrum(Host& host, const std::vector<AirAccessPoint>& accessPoints)
             if (point.facts.band == band.name)
                 points.push_back(&point);
         if (!points.empty())
-            PrintBand(host, band, points);
+            PrintBand(output, band, points);
         else
             silent += (silent.empty() ? "Nothing is heard in " : ", ") + std::string(band.name);
     }
-    PrintLetters(host, accessPoints);
+    PrintLetters(output, accessPoints);
     if (!silent.empty())
-        host.out() << '\n' << silent << ".\n";
+        output.out() << '\n' << silent << ".\n";
 }
 
 } // namespace calvix::host

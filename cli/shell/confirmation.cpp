@@ -21,18 +21,18 @@ bool MeansYes(std::string answer)
 
 } // namespace
 
-void Confirm(Host& host, const std::string& whatHappens, bool answered)
+void Confirm(Output& output, const std::string& whatHappens, bool answered)
 {
     if (answered)
         return;
-    host.err() << whatHappens << " Go on? yes/no: " << std::flush;
+    output.err() << whatHappens << " Go on? yes/no: " << std::flush;
     std::string answer;
-    const bool read = static_cast<bool>(std::getline(host.in(), answer));
+    const bool read = static_cast<bool>(std::getline(output.in(), answer));
     if (read && MeansYes(answer) && !Interrupted())
         return;
     // Who typed an answer has ended the line; otherwise it is still open.
     if (!read)
-        host.err() << '\n';
+        output.err() << '\n';
     FailureReport report;
     report.exitCode = ExitCode::notConfirmed;
     report.message = "not confirmed: nothing was done";

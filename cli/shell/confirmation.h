@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "output/output.h"
 
 #include <string>
 
@@ -9,6 +9,6 @@ namespace calvix::host
 
 /// Tells what is about to happen and asks whether it should. Returns when the answer is yes, or was given beforehand
 /// (`answered`, from --yes); whatever else is answered, and no answer at all, ends the command.
-void Confirm(Host& host, const std::string& whatHappens, bool answered);
+void Confirm(Output& output, const std::string& whatHappens, bool answered);
 
 } // namespace calvix::host

@@ -103,15 +103,15 @@ StatusFacts ReadStatus(Host& host)
     return status;
 }
 
-void PrintStatus(Host& host, const StatusFacts& status)
+void PrintStatus(Output& output, const StatusFacts& status)
 {
     std::vector<std::pair<std::string, std::string>> pairs = {
         {"Adapter", VisibleText(status.adapter.description)},
-        {"State", Toned(status.adapter.stateText, status.connection ? Tone::good : Tone::plain, host.terminal())}};
+        {"State", Toned(status.adapter.stateText, status.connection ? Tone::good : Tone::plain, output.terminal())}};
     if (status.connection)
-        for (const auto& pair : PairsOf(*status.connection, host.terminal()))
+        for (const auto& pair : PairsOf(*status.connection, output.terminal()))
             pairs.push_back(pair);
-    PrintPairs(host.out(), pairs);
+    PrintPairs(output.out(), pairs);
 }
 
 } // namespace calvix::host

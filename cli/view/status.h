@@ -15,6 +15,6 @@ inline bool StandsConnected(WLAN_INTERFACE_STATE state)
 }
 /// The adapter's state and connection now.
 StatusFacts ReadStatus(Host& host);
-void PrintStatus(Host& host, const StatusFacts& status);
+void PrintStatus(Output& output, const StatusFacts& status);
 
 } // namespace calvix::host

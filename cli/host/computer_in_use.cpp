@@ -1,0 +1,263 @@
+#include "host/computer_in_use.h"
+
+#include "core/trace.h"
+#include "explain/failure_words.h"
+#include "files/files.h"
+#include "host/recorded_session.h"
+#include "host/service_view.h"
+#include "host/watched_platform.h"
+#include "platform/platform.h"
+#include "simulation/computer.h"
+
+namespace calvix::host
+{
+
+namespace
+{
+
+/// Whether somebody has put a platform in place already; then it is used, unless a scenario is named.
+bool IsPlatformGiven()
+{
+#if defined(_WIN32)
+    return true;
+#else
+    return platform::g_pReplacement.load() != nullptr;
+#endif
+}
+
+std::unique_ptr<simulation::Computer> MakeComputer(const std::string& scenario)
+{
+    try
+    {
+        if (!scenario.empty())
+            return std::make_unique<simulation::Computer>(simulation::ParseScenario(ReadTextFile(scenario), scenario));
+        if (IsPlatformGiven())
+            return nullptr;
+        return std::make_unique<simulation::Computer>(simulation::BuiltInScenario());
+    }
+    catch (const simulation::ScenarioError& error)
+    {
+        throw BadInput(error.what(), "correct the scenario file; its schema tells what may stand where");
+    }
+}
+
+/// Puts a platform behind the library, and takes it away again.
+class PlatformInPlace
+{
+public:
+    explicit PlatformInPlace(platform::Platform& platform) : m_before(platform::ReplacePlatform(&platform)) {}
+    ~PlatformInPlace() { platform::ReplacePlatform(m_before); }
+    PlatformInPlace(const PlatformInPlace&) = delete;
+    PlatformInPlace& operator=(const PlatformInPlace&) = delete;
+
+private:
+    platform::Platform* m_before;
+};
+
+/// The library from its first Get to its Delete.
+class LibraryInUse
+{
+public:
+    explicit LibraryInUse(bool trace)
+    {
+        g_bTraceOn = trace ? 1 : 0;
+        m_library = CWirelessManage::Get();
+        if (m_library == nullptr)
+            throw OperationFailure("there is no memory for the library", "close other programs");
+    }
+    ~LibraryInUse()
+    {
+        CWirelessManage::Delete();
+        g_bTraceOn = 0;
+    }
+    LibraryInUse(const LibraryInUse&) = delete;
+    LibraryInUse& operator=(const LibraryInUse&) = delete;
+
+    CWirelessManage& operator*() const { return *m_library; }
+
+private:
+    CWirelessManage* m_library = nullptr;
+};
+
+/// Switches the library's trace on or off, and back at the end.
+class TraceSwitch
+{
+public:
+    explicit TraceSwitch(bool on) : m_before(g_bTraceOn) { g_bTraceOn = on ? 1 : 0; }
+    ~TraceSwitch() { g_bTraceOn = m_before; }
+    TraceSwitch(const TraceSwitch&) = delete;
+    TraceSwitch& operator=(const TraceSwitch&) = delete;
+
+private:
+    unsigned char m_before;
+};
+
+} // namespace
+
+/// Everything that a command on networks needs, in the order in which it comes up.
+struct ComputerInUse::World
+{
+    World(const CommonOptions& options, RecordedSession& session, std::ostream& err)
+        : computer(session.isReplay() ? nullptr : MakeComputer(options.scenario)),
+          watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched), libraryInUse(options.trace)
+    {
+    }
+
+    platform::Platform& Answering(RecordedSession& session) const
+    {
+        if (session.isReplay())
+            return session.replayed();
+        return session.Recorded(computer ? *computer : platform::CurrentPlatform(), computer != nullptr);
+    }
+
+    std::unique_ptr<simulation::Computer> computer;
+    WatchedPlatform watched;
+    PlatformInPlace inPlace;
+    LibraryInUse libraryInUse;
+    std::unique_ptr<ServiceView> service;
+};
+
+ComputerInUse::ComputerInUse(const CommonOptions& options, std::ostream& err) : m_options(options), m_traced(err) {}
+
+ComputerInUse::~ComputerInUse() = default;
+
+ComputerInUse::World& ComputerInUse::world()
+{
+    if (m_world == nullptr)
+    {
+        m_session = std::make_unique<RecordedSession>(m_options);
+        m_world = std::make_unique<World>(m_options, *m_session, m_traced);
+        if (!m_options.save.empty() && m_world->computer == nullptr)
+            throw BadInput("--save needs a simulated computer", "name one with --scenario FILE");
+    }
+    return *m_world;
+}
+
+CWirelessManage& ComputerInUse::manager()
+{
+    World& current = world();
+    current.watched.watched().StartWatching();
+    current.watched.systemRefusals().Forget();
+    return *current.libraryInUse;
+}
+
+WatchedWlan& ComputerInUse::watched()
+{
+    return world().watched.watched();
+}
+
+const SystemRefusals& ComputerInUse::systemRefusals()
+{
+    return world().watched.systemRefusals();
+}
+
+ServiceView& ComputerInUse::service()
+{
+    World& current = world();
+    if (current.service == nullptr)
+        current.service = std::make_unique<ServiceView>();
+    return *current.service;
+}
+
+bool ComputerInUse::isSimulated()
+{
+    return world().computer != nullptr || m_session->isOfSimulated();
+}
+
+bool ComputerInUse::countsTime()
+{
+    return isSimulated() || m_session->isRecording() || m_session->isReplay();
+}
+
+bool ComputerInUse::isReplay()
+{
+    world();
+    return m_session->isReplay();
+}
+
+void ComputerInUse::Wait(unsigned milliseconds)
+{
+    world();
+    platform::clock().Sleep(milliseconds);
+}
+
+void ComputerInUse::WhileWaiting(std::function<void(unsigned)> action)
+{
+    world().watched.steps().AfterEachStep(std::move(action));
+}
+
+std::string ComputerInUse::CaptureTrace(const std::function<void()>& action)
+{
+    std::string captured;
+    const TraceSwitch on(true);
+    ShownDebuggerOutput& debugger = world().watched.shownDebugger();
+    debugger.CaptureIn(&captured);
+    action();
+    debugger.CaptureIn(nullptr);
+    return captured;
+}
+
+std::vector<ConnectRequest> ComputerInUse::Rehearse(const std::function<void()>& action)
+{
+    const TraceSwitch off(false);
+    watched().Rehearse(true);
+    action();
+    watched().Rehearse(false);
+    return watched().ConnectRequests();
+}
+
+int ComputerInUse::Check(const char* method, long code)
+{
+    if (code < 0)
+        throw MethodFailure(method, code);
+    return static_cast<int>(code);
+}
+
+void ComputerInUse::Require(const char* method, long code)
+{
+    if (code != 0)
+        throw MethodFailure(method, code);
+}
+
+Failure ComputerInUse::MethodFailure(const char* method, long code)
+{
+    const Refusal& refusal = watched().LastRefusal();
+    return MethodFailureInWords(method, code, refusal.operation.empty() ? systemRefusals().Last() : refusal);
+}
+
+void ComputerInUse::RequireSession()
+{
+    if (m_session != nullptr)
+        return;
+    if (!m_options.record.empty())
+        throw BadInput("--record has nothing to write: this command asks no computer", "leave it out");
+    if (!m_options.replay.empty())
+        throw BadInput("--replay has nothing to answer: this command asks no computer", "leave it out");
+}
+
+std::optional<FailureReport> ComputerInUse::EndReplay()
+{
+    if (m_session == nullptr || !m_session->isReplay())
+        return std::nullopt;
+    m_world.reset();
+    return m_session->EndReplay();
+}
+
+void ComputerInUse::EndRecording()
+{
+    if (m_session == nullptr || !m_session->isRecording())
+        return;
+    m_world.reset();
+    m_session->EndRecording();
+}
+
+void ComputerInUse::Save()
+{
+    if (m_options.save.empty())
+        return;
+    if (m_world == nullptr)
+        throw BadInput("--save has nothing to write: this command uses no simulated computer", "leave it out");
+    WriteWholeFile(m_options.save, simulation::WriteScenario(m_world->computer->Snapshot()));
+}
+
+} // namespace calvix::host

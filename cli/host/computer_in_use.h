@@ -1,0 +1,92 @@
+#pragma once
+
+#include "host/common_options.h"
+#include "output/failure.h"
+
+#include <calvix/wireless_manage.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace calvix::host
+{
+
+struct ConnectRequest;
+class RecordedSession;
+class ServiceView;
+class SystemRefusals;
+class WatchedWlan;
+
+/// The library with a platform behind it, brought up on demand: a simulated computer where a scenario was named or where
+/// there is no other, or a recording in the place of one.
+class ComputerInUse
+{
+public:
+    /// Trace lines go to `err` where they were asked for.
+    ComputerInUse(const CommonOptions& options, std::ostream& err);
+    ~ComputerInUse();
+    ComputerInUse(const ComputerInUse&) = delete;
+    ComputerInUse& operator=(const ComputerInUse&) = delete;
+
+    const CommonOptions& options() const { return m_options; }
+
+    /// The library. The first call brings up the platform; later calls are cheap.
+    CWirelessManage& manager();
+    /// The WLAN service as this program itself looks at it, for what the library has no method for.
+    ServiceView& service();
+    /// What the library asked of the WLAN service since `manager()` was last called, and what was refused.
+    WatchedWlan& watched();
+    /// The same for the rest of the operating system.
+    const SystemRefusals& systemRefusals();
+    /// Lets time pass, simulated time where the computer is. Ends early after Ctrl-C.
+    void Wait(unsigned milliseconds);
+    /// Has `action` called again and again while time passes, in the library's own waits too, with the milliseconds
+    /// since the last time. An empty one ends it.
+    void WhileWaiting(std::function<void(unsigned)> action);
+    /// Whether the computer is a simulated one that this program has put up, or was when it was recorded.
+    bool isSimulated();
+    /// Whether time is what waits add up to, and no clock on the wall: on a simulated computer, and in recordings, which
+    /// are to be the same each time.
+    bool countsTime();
+    bool isReplay();
+
+    /// Carries out `action` and returns what the library traced meanwhile.
+    std::string CaptureTrace(const std::function<void()>& action);
+    /// Carries out `action` with connection requests withheld and nothing traced, and returns the requests.
+    std::vector<ConnectRequest> Rehearse(const std::function<void()>& action);
+
+    /// Fails in words when `code`, the result of `method`, is negative; returns it otherwise. Written around a call:
+    /// `host.Check("GetMatchAPList", host.manager().GetMatchAPList(host.adapterGuid(), &list))`.
+    int Check(const char* method, long code);
+    /// The same where 0 is the only success.
+    void Require(const char* method, long code);
+    /// The failure of a method, with what the platform refused on the way.
+    Failure MethodFailure(const char* method, long code);
+
+    /// Writes the simulated computer as it stands to the file that was asked for, if one was.
+    void Save();
+
+    /// Fails where a recording was named and the command had no use for it.
+    void RequireSession();
+    /// At the command's end: lets go of the library and the platform where they were replayed, and tells what came
+    /// between the replay and its end. What a command fails with after that is no news.
+    std::optional<FailureReport> EndReplay();
+    /// The same for a recording, after everything else; what cannot be written is a Failure.
+    void EndRecording();
+
+private:
+    struct World;
+
+    World& world();
+
+    CommonOptions m_options;
+    std::ostream& m_traced;
+    std::unique_ptr<RecordedSession> m_session; ///< outlives the world, whose last calls are part of it
+    std::unique_ptr<World> m_world;
+};
+
+} // namespace calvix::host
