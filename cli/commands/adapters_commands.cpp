@@ -18,7 +18,7 @@ void ListAdapters(Host& host)
     for (const WLAN_INTERFACE_INFO& info : host.adapters())
         adapters.push_back(DescribeAdapter(info, static_cast<unsigned>(adapters.size() + 1)));
     if (host.json())
-        return PrintJson(host.out(), adapters);
+        return PrintJson(host.out(), Under("adapters", adapters));
 
     Table table({{"#", Align::right}, {"Description"}, {"State"}, {"GUID"}});
     for (const AdapterFacts& adapter : adapters)
@@ -37,6 +37,7 @@ void ListAdapters(Host& host)
 void AddAdapterCommands(CommandSet& commands)
 {
     commands.Add("adapters", "List the wireless adapters and their states", ListAdapters)
+        .Prints("adapters", [] { return std::vector{Under("adapters", std::vector<AdapterFacts>{})}; })
         .Examples("Numbers for --interface:\n"
                   "  calvix adapters");
 }

@@ -15,6 +15,11 @@ namespace calvix::host
 namespace
 {
 
+JsonRecord BestRecord(const std::vector<CandidateFacts>& candidates, const StatusFacts& status)
+{
+    return JsonRecord().Add("candidates", candidates).Add("status", status);
+}
+
 struct BestOptions
 {
     Exclusions excluded;
@@ -103,7 +108,7 @@ void Best(Host& host, const BestOptions& options)
             candidate.outcome = Outcome::joined;
     const StatusFacts status = ReadStatus(host);
     if (host.json())
-        return PrintJson(host.out(), BestFacts{candidates, status});
+        return PrintJson(host.out(), BestRecord(candidates, status));
     PrintCandidates(host, candidates);
     host.out() << '\n';
     PrintStatus(host, status);
@@ -124,6 +129,7 @@ void AddBestCommand(CommandSet& commands)
             "Do not choose networks whose SSID is this or its beginning, as it is shown or as hex:4361E9; may be given "
             "several times")
         .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
+        .Prints("best", [] { return std::vector{BestRecord({}, {})}; })
         .Examples("Join the best network, but no hot spot:\n"
                   "  calvix best --exclude-ssid Guest --exclude-ssid hex:436166E9");
 }

@@ -149,6 +149,7 @@ void AddPlainCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<ConnectOptions>();
     commands.Add("status", "Show the adapter's state and connection", ShowNow)
+        .Prints("status", [] { return std::vector{Describe(StatusFacts{})}; })
         .Examples("Of the second adapter:\n"
                   "  calvix status --interface 2");
     AddWaiting(commands.Add("connect", "Connect by a stored profile whose network is in view",
@@ -156,16 +157,19 @@ void AddPlainCommands(CommandSet& commands)
                options)
         .Text("PROFILE", options->profile, "The profile")
         .Takes(ValueKind::profile)
+        .Prints("status")
         .Examples("Connect, and wait a minute at most:\n"
                   "  calvix connect Office --timeout 60");
     AddWaiting(
         commands.Add("disconnect", "Take the connection down", [options](Host& host) { Disconnect(host, *options); }),
         options)
+        .Prints("status")
         .Examples("Until the service or a person connects again:\n"
                   "  calvix disconnect");
     AddWaiting(commands.Add("reset", "Ask again for the connection that is up",
                             [options](Host& host) { Reset(host, *options); }),
                options)
+        .Prints("status")
         .Examples("The connection is up and does not work:\n"
                   "  calvix reset");
 }
@@ -178,6 +182,7 @@ void AddMethodCommands(CommandSet& commands)
                reconnect)
         .OneOf("--method", reconnect->method, {"access-point", "network", "profile"},
                "Back to the best access point (default), to the network, or by the profile")
+        .Prints("status")
         .Examples("Back by the same profile:\n"
                   "  calvix reconnect --method profile");
 
@@ -193,6 +198,7 @@ void AddMethodCommands(CommandSet& commands)
         .OneOf("--method", automatic->method, {"connect", "ranked", "smart", "mode"},
                "By the profiles' order (connect, default), by rank, the first profile's only (smart), or only profiles "
                "that connect automatically (mode)")
+        .Prints("status")
         .Examples("The best-ranked profile in view:\n"
                   "  calvix auto --method ranked");
 
@@ -204,6 +210,7 @@ void AddMethodCommands(CommandSet& commands)
         .OneOf("--method", change->method, {"auto", "smart"},
                "Put the present profile last and take the first in order (auto, default), or the first with a better "
                "signal (smart)")
+        .Prints("status")
         .Examples("To whatever is stronger:\n"
                   "  calvix switch --method smart");
 }

@@ -1,19 +1,47 @@
 #include "commands/commands.h"
 #include "explain/result_codes.h"
 #include "host/host.h"
-#include "output/json_forms.h"
+#include "output/json_output.h"
 #include "output/table.h"
 #include "shell/nearest_word.h"
-
-#include <nlohmann/json.hpp>
 
 #include <charconv>
 
 namespace calvix::host
 {
 
+JsonRecord Describe(const CodeRow& row)
+{
+    const CauseText& text = Describe(row.cause);
+    return JsonRecord().Add("code", row.code).Add("meaning", text.meaning).Add("advice", text.advice);
+}
+
+JsonRecord Describe(const MethodResults& results)
+{
+    return JsonRecord("A method of the library and its codes.", "methodResults")
+        .Add("method", results.method != nullptr ? results.method : "")
+        .Add("success", results.result != nullptr ? results.result : "")
+        .Add("codes", std::vector(results.codes.begin(), results.codes.end()));
+}
+
 namespace
 {
+
+JsonRecord MethodsRecord()
+{
+    const auto methods = AllMethodResults();
+    return Under("methods", std::vector(methods.begin(), methods.end()));
+}
+
+JsonRecord CodeRecord(const std::string& method, long long code, const Explanation& explanation)
+{
+    return JsonRecord("With a code")
+        .Add("method", method)
+        .Add("code", code)
+        .Add("failure", explanation.failure)
+        .Add("meaning", explanation.meaning)
+        .Add("advice", explanation.advice, kTextOrNull);
+}
 
 struct ExplainOptions
 {
@@ -43,49 +71,6 @@ const char* KindText(ResultKind kind)
     return "";
 }
 
-using Json = nlohmann::ordered_json;
-
-Json CodesOf(const MethodResults& results)
-{
-    Json codes = Json::array();
-    for (const CodeRow& row : results.codes)
-    {
-        const CauseText& text = Describe(row.cause);
-        codes.push_back({{"code", row.code}, {"meaning", text.meaning}, {"advice", text.advice}});
-    }
-    return codes;
-}
-
-Json ToJson(const MethodResults& results)
-{
-    return {{"method", results.method}, {"success", results.result}, {"codes", CodesOf(results)}};
-}
-
-void PrintMethodsJson(std::ostream& out)
-{
-    Json methods = Json::array();
-    for (const MethodResults& results : AllMethodResults())
-        methods.push_back(ToJson(results));
-    PrintObject(out, {{"methods", methods}});
-}
-
-void PrintMethodJson(std::ostream& out, const MethodResults& results)
-{
-    PrintObject(out, ToJson(results));
-}
-
-void PrintExplanationJson(std::ostream& out,
-                          const MethodResults& results,
-                          long long code,
-                          const Explanation& explanation)
-{
-    PrintObject(out, {{"method", results.method},
-                      {"code", code},
-                      {"failure", explanation.failure},
-                      {"meaning", explanation.meaning},
-                      {"advice", explanation.advice.empty() ? Json(nullptr) : Json(explanation.advice)}});
-}
-
 /// A decimal number, or a hexadecimal one after 0x.
 long long NumberOf(const std::string& text)
 {
@@ -102,7 +87,7 @@ long long NumberOf(const std::string& text)
 void ListMethods(Host& host)
 {
     if (host.json())
-        return PrintMethodsJson(host.out());
+        return PrintJson(host.out(), MethodsRecord());
     Table table({{"Method"}, {"Returns"}, {"Codes", Align::right}});
     for (const MethodResults& results : AllMethodResults())
         table.AddRow({results.method, KindText(results.kind), std::to_string(results.codes.size())});
@@ -112,7 +97,7 @@ void ListMethods(Host& host)
 void ExplainMethod(Host& host, const MethodResults& results)
 {
     if (host.json())
-        return PrintMethodJson(host.out(), results);
+        return PrintJson(host.out(), results);
     host.out() << results.method << " returns " << KindText(results.kind) << ": " << results.result << ".\n";
     if (results.codes.empty())
         return;
@@ -132,7 +117,7 @@ void ExplainCode(Host& host, const MethodResults& results, long long code)
         throw BadInput(std::string(results.method) + " never gives " + std::to_string(code),
                        std::string("list its codes with: calvix explain ") + results.method);
     if (host.json())
-        return PrintExplanationJson(host.out(), results, code, explanation);
+        return PrintJson(host.out(), CodeRecord(results.method, code, explanation));
     host.out() << results.method << ' ' << code << ": " << explanation.meaning << ".\n";
     if (!explanation.advice.empty())
         host.out() << "What to do: " << explanation.advice << ".\n";
@@ -171,6 +156,10 @@ void AddExplainCommand(CommandSet& commands)
         .Text("[METHOD]", options->method, "A method of the library; without it all are listed")
         .Takes(ValueKind::method)
         .Text("[CODE]", options->code, "Its result; without it all its codes are listed")
+        .Prints("explain",
+                [] {
+                    return std::vector{MethodsRecord(), Describe(MethodResults{}), CodeRecord("", 0, {})};
+                })
         .Examples("What a number in a log means:\n"
                   "  calvix explain ConnectBestAP -9");
 }

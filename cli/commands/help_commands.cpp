@@ -19,6 +19,16 @@ namespace calvix::host
 namespace
 {
 
+JsonRecord ScriptRecord(const std::string& script)
+{
+    return Under("completion", script, {"The shell's script"});
+}
+
+JsonRecord ManualRecord(const std::string& page)
+{
+    return Under("manual", page, {"In man's macros"});
+}
+
 struct HelpOptions
 {
     std::vector<std::string> words;
@@ -73,7 +83,7 @@ void PrintScript(Host& host, const HelpOptions& options)
 {
     const char* const script = CompletionScript(options.shell);
     if (host.json())
-        return PrintTextJson(host.out(), "completion", script);
+        return PrintJson(host.out(), ScriptRecord(script));
     host.out() << script;
 }
 
@@ -81,7 +91,7 @@ void PrintManual(Host& host)
 {
     const std::string page = ManualPage(AllCommands());
     if (host.json())
-        return PrintTextJson(host.out(), "manual", page);
+        return PrintJson(host.out(), ManualRecord(page));
     host.out() << page;
 }
 
@@ -99,6 +109,7 @@ void AddHelpCommands(CommandSet& commands)
         .Add("completion", "Print the script by which a shell completes this program's command lines",
              [options](Host& host) { PrintScript(host, *options); })
         .OneOf("SHELL", options->shell, {"bash", "zsh", "fish", "powershell"}, "The shell")
+        .Prints("completion", [] { return std::vector{ScriptRecord("")}; })
         .Examples("For this session of bash, of zsh, of fish:\n"
                   "  source <(calvix completion bash)\n"
                   "  source <(calvix completion zsh)\n"
@@ -106,6 +117,7 @@ void AddHelpCommands(CommandSet& commands)
                   "In the profile of PowerShell:\n"
                   "  calvix completion powershell | Out-String | Invoke-Expression");
     commands.Add("manual", "Print the manual page calvix(1), as man reads it", PrintManual)
+        .Prints("manual", [] { return std::vector{ManualRecord("")}; })
         .Examples("Read it:\n  calvix manual | man -l -");
     commands
         .Add("complete", "What may stand at the end of a command line, for the scripts of completion",

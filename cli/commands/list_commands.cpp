@@ -5,11 +5,33 @@
 #include "output/text_forms.h"
 #include "view/describe.h"
 
+#include <sstream>
+
 namespace calvix::host
 {
 
 namespace
 {
+
+struct SoftApFacts
+{
+    std::vector<std::string> names;
+    bool connected = false; ///< whether the first adapter is connected to one
+};
+
+JsonRecord Describe(const SoftApFacts& softAps)
+{
+    return JsonRecord().Add("softAps", softAps.names).Add("connectedToSoftAp", softAps.connected);
+}
+
+std::vector<std::string> LinesOfText(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
 
 /// The library's listings go to its trace; here they are the result.
 void List(Host& host, const char* method, int (CWirelessManage::*listing)())
@@ -22,7 +44,7 @@ void List(Host& host, const char* method, int (CWirelessManage::*listing)())
     int result = 0;
     const std::string text = FromActiveCodePage(host.CaptureTrace([&] { result = (host.manager().*listing)(); }));
     if (host.json() && result == 0)
-        return PrintListingJson(host.out(), text);
+        return PrintJson(host.out(), Under("lines", LinesOfText(text)));
     if (!host.json())
         host.out() << text;
     host.Require(method, result);
@@ -58,14 +80,17 @@ void AddListCommands(CommandSet& commands)
     commands
         .Add("list networks", "List what every adapter sees, networks with their flags",
              [](Host& host) { List(host, "GetAvailableNetwork", &CWirelessManage::GetAvailableNetwork); })
+        .Prints("list", [] { return std::vector{Under("lines", std::vector<std::string>{})}; })
         .Examples("Networks as the library lists them:\n"
                   "  calvix list networks");
     commands
         .Add("list bss", "List what every adapter sees, access points with their radio",
              [](Host& host) { List(host, "GetNetworkBss", &CWirelessManage::GetNetworkBss); })
+        .Prints("list")
         .Examples("Access points as the library lists them:\n"
                   "  calvix list bss");
     commands.Add("softap", "List the software access points in view: networks whose SSID holds LC#", ListSoftAps)
+        .Prints("softap", [] { return std::vector{Describe(SoftApFacts{})}; })
         .Examples("Is one near?\n"
                   "  calvix softap");
 }

@@ -10,6 +10,19 @@ namespace calvix::host
 namespace
 {
 
+struct MatchFacts
+{
+    std::vector<std::string> profiles; ///< of the networks in view, one for each
+    std::vector<AccessPointFacts> accessPoints;
+};
+
+JsonRecord Describe(const MatchFacts& match)
+{
+    return JsonRecord()
+        .Add("profiles", match.profiles, {"Of each network in view"})
+        .Add("accessPoints", match.accessPoints);
+}
+
 struct MatchOptions
 {
     bool autoOnly = false;
@@ -84,6 +97,7 @@ void AddMatchCommands(CommandSet& commands)
         .Flag("--auto-only", options->autoOnly, "Only profiles that connect automatically")
         .Text("--profile", options->profile, "Profiles that connect automatically, and this one")
         .Takes(ValueKind::profile)
+        .Prints("match", [] { return std::vector{Describe(MatchFacts{})}; })
         .Examples("Access points that the computer may join by itself:\n"
                   "  calvix match --auto-only");
 }

@@ -6,6 +6,7 @@
 #include "live/progress.h"
 #include "output/json_output.h"
 #include "output/table.h"
+#include "output/text_forms.h"
 #include "shell/confirmation.h"
 #include "view/describe.h"
 #include "view/power_view.h"
@@ -17,6 +18,41 @@ namespace calvix::host
 
 namespace
 {
+
+struct PowerFacts
+{
+    bool sleep = false; ///< whether the computer can
+    bool hibernate = false;
+    bool shutDown = false;
+    bool modernStandby = false;
+    std::uint64_t lastSleepTime = 0; ///< in units of 100 ns since the start; 0: not since, or not told
+    std::uint64_t lastWakeTime = 0;
+    bool wokeByItself = false;
+    std::optional<IdlePolicyFacts> onMains; ///< none: not told
+    std::optional<IdlePolicyFacts> onBattery;
+    std::string scheme; ///< empty: not told
+};
+
+JsonRecord Describe(const PowerFacts& power)
+{
+    const Shape moment{"In units of 100 ns since the start; 0: not since, or not told"};
+    return JsonRecord()
+        .Add("sleep", power.sleep)
+        .Add("hibernate", power.hibernate)
+        .Add("shutDown", power.shutDown)
+        .Add("modernStandby", power.modernStandby)
+        .Add("lastSleepTime", power.lastSleepTime, moment)
+        .Add("lastWakeTime", power.lastWakeTime, moment)
+        .Add("wokeByItself", power.wokeByItself)
+        .Add("onMains", power.onMains)
+        .Add("onBattery", power.onBattery)
+        .Add("scheme", power.scheme, kTextOrNull);
+}
+
+JsonRecord PrivilegeRecord(const std::string& name)
+{
+    return Under("privilege", JsonRecord().Add("name", name).Add("enabled", true));
+}
 
 struct PowerOptions
 {
@@ -80,7 +116,7 @@ void ShowPower(Host& host)
 {
     const PowerFacts facts = ReadPower(host);
     if (host.json())
-        return PrintJson(host.out(), facts);
+        return PrintJson(host.out(), Under("power", facts));
     const auto allowed = [](bool value) { return value ? "possible" : "not possible"; };
     const auto yesNo = [](bool value) { return value ? "yes" : "no"; };
     PrintPairs(host.out(), {{"Sleep", allowed(facts.sleep)},
@@ -92,7 +128,7 @@ void ShowPower(Host& host)
                             {"Woke by itself", yesNo(facts.wokeByItself)},
                             {"On mains", PolicyText(facts.onMains)},
                             {"On battery", PolicyText(facts.onBattery)},
-                            {"Power scheme", facts.scheme.empty() ? "unknown" : facts.scheme}});
+                            {"Power scheme", facts.scheme.empty() ? "unknown" : VisibleText(facts.scheme)}});
 }
 
 void StayAwake(Host& host, unsigned seconds)
@@ -201,7 +237,7 @@ void EnablePrivilege(Host& host, const PowerOptions& options)
         throw Failure(report);
     }
     if (host.json())
-        return PrintPrivilegeJson(host.out(), name);
+        return PrintJson(host.out(), PrivilegeRecord(name));
     host.out() << name << " can be enabled, and was for the time of this command.\n";
 }
 
@@ -213,6 +249,7 @@ void AddPowerCommands(CommandSet& commands)
     const auto options = std::make_shared<PowerOptions>();
     commands.AddFamily("power", "Power and sleep: status, keep-awake, restore, saver, sleep, privilege");
     commands.Add("power status", "Show what the computer can do, when it slept, and its power policies", ShowPower)
+        .Prints("power", [] { return std::vector{Under("power", PowerFacts{})}; })
         .Examples("What it can do, for a program:\n"
                   "  calvix power status --json");
     commands
@@ -221,12 +258,14 @@ void AddPowerCommands(CommandSet& commands)
         .Number("--for", options->seconds, "Seconds to stay awake; 0: until Ctrl-C, a minute on a simulated computer")
         .Flag("--leave", options->leave, "Return at once and leave it so: the old policy is forgotten")
         .Flag("--yes", options->yes, yesHelp)
+        .Prints("power")
         .Examples("For ten minutes, without a question:\n"
                   "  calvix power keep-awake --for 600 --yes");
     commands
         .Add("power restore", "Write the remembered policy, here one of zeros, to the active power scheme",
              [options](Host& host) { Restore(host, *options); })
         .Flag("--yes", options->yes, yesHelp)
+        .Prints("power")
         .Examples("After keep-awake --leave:\n"
                   "  calvix power restore");
     commands
@@ -235,16 +274,19 @@ void AddPowerCommands(CommandSet& commands)
         .Flag("--may-not-return", options->mayNotReturn,
               "Also where the power schemes can be listed: there the library's method does not return")
         .Flag("--yes", options->yes, yesHelp)
+        .Prints("power")
         .Examples("On battery:\n"
                   "  calvix power saver");
     commands.Add("power sleep", "Put the computer to sleep", [options](Host& host) { PutToSleep(host, *options); })
         .Flag("--yes", options->yes, yesHelp)
+        .Prints("power")
         .Examples("Without a question:\n"
                   "  calvix power sleep --yes");
     commands
         .Add("power privilege", "Tell whether this account can enable a privilege",
              [options](Host& host) { EnablePrivilege(host, *options); })
         .Text("NAME", options->privilege, "The privilege, such as SeShutdownPrivilege")
+        .Prints("power-privilege", [] { return std::vector{PrivilegeRecord("")}; })
         .Examples("May this account put the computer to sleep?\n"
                   "  calvix power privilege SeShutdownPrivilege");
 }

@@ -14,6 +14,12 @@ namespace calvix::host
 namespace
 {
 
+/// What was started and has ended: a command line, or a program's path.
+JsonRecord RunRecord(const std::string& what)
+{
+    return Under("run", JsonRecord().Add("started", what));
+}
+
 struct RunOptions
 {
     std::vector<std::string> words;
@@ -59,7 +65,7 @@ void RequireRun(Host& host, const char* method, const std::string& what)
 void ShowRun(Host& host, const std::string& what)
 {
     if (host.json())
-        return PrintRunJson(host.out(), what);
+        return PrintJson(host.out(), RunRecord(what));
     host.out() << '"' << what << "\" was started and has ended.\n";
 }
 
@@ -112,7 +118,7 @@ void EndProcesses(Host& host, const std::vector<std::string>& texts)
     for (const unsigned long process : processes)
         EndProcess(host, process);
     if (host.json())
-        return PrintEndedJson(host.out(), processes);
+        return PrintJson(host.out(), Under("ended", processes));
     for (const unsigned long process : processes)
         host.out() << "process " << process << " was ended\n";
 }
@@ -135,7 +141,7 @@ void ShowOnline(Host& host)
 {
     host.Require("OpenUrl", host.manager().OpenUrl());
     if (host.json())
-        return PrintOnlineJson(host.out());
+        return PrintJson(host.out(), Under("online", true));
     host.out() << "The internet can be reached.\n";
 }
 
@@ -152,9 +158,14 @@ void AddProcessCommands(CommandSet& commands)
         .Takes(ValueKind::file)
         .Text("--exe", options->program, "Start the program of this name in the folder of calvix")
         .Texts("--kill", options->processes, "End the process of this number at once (may be given several times)")
+        .Prints("run",
+                [] {
+                    return std::vector{RunRecord(""), Under("ended", std::vector<unsigned long>{})};
+                })
         .Examples("A program with options of its own:\n"
                   "  calvix run -- ping -n 1 localhost");
     commands.Add("online", "Tell whether the internet can be reached", ShowOnline)
+        .Prints("online", [] { return std::vector{Under("online", true)}; })
         .Examples("Its exit code is 1 where it cannot:\n"
                   "  calvix online");
 }

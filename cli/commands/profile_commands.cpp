@@ -13,6 +13,18 @@ namespace calvix::host
 namespace
 {
 
+JsonRecord DocumentRecord(const std::string& name, const std::string& xml)
+{
+    return Under("profile", JsonRecord().Add("name", name).Add("xml", xml));
+}
+
+JsonRecord ChangeRecord(const std::string& change, const std::string& profile)
+{
+    return JsonRecord()
+        .Add("change", change, {.among = {"added", "deleted", "moved"}})
+        .Add("profile", profile, kTextOrNull);
+}
+
 struct ProfileOptions
 {
     std::string name;
@@ -25,7 +37,7 @@ void ListProfiles(Host& host)
 {
     const std::vector<ProfileFacts> profiles = ReadProfiles(host);
     if (host.json())
-        return PrintJson(host.out(), profiles);
+        return PrintJson(host.out(), Under("profiles", profiles));
     if (profiles.empty())
     {
         host.out() << "No profile is stored. Add one with: calvix profiles add FILE.xml\n";
@@ -62,7 +74,7 @@ void ShowProfile(Host& host, const ProfileOptions& options)
     const std::string document = Narrow(xml.substr(0, xml.find(L'\0')));
     const std::string shown = options.showKey ? document : WithoutKey(document);
     if (host.json())
-        return PrintProfileJson(host.out(), options.name, shown);
+        return PrintJson(host.out(), DocumentRecord(options.name, shown));
     host.out() << shown << (shown.empty() || shown.back() != '\n' ? "\n" : "");
 }
 
@@ -80,7 +92,7 @@ std::string FirstElementText(const std::string& xml, const std::string& element)
 void ReportChange(Host& host, const char* change, const std::string& profile, const std::string& words)
 {
     if (host.json())
-        return PrintChangeJson(host.out(), change, profile);
+        return PrintJson(host.out(), ChangeRecord(change, profile));
     host.out() << "Profile \"" << VisibleText(profile) << "\" " << words << ".\n";
 }
 
@@ -129,12 +141,14 @@ void AddProfileCommands(CommandSet& commands)
     const auto options = std::make_shared<ProfileOptions>();
     commands.AddFamily("profiles", "Stored profiles: list, show, add, delete, move");
     commands.Add("profiles list", "List the stored profiles, the preferred one first", ListProfiles)
+        .Prints("profiles-list", [] { return std::vector{Under("profiles", std::vector<ProfileFacts>{})}; })
         .Examples("In the order in which the service tries them:\n"
                   "  calvix profiles list");
     commands.Add("profiles show", "Print a profile's document", [options](Host& host) { ShowProfile(host, *options); })
         .Text("PROFILE", options->name, "The profile")
         .Takes(ValueKind::profile)
         .Flag("--show-key", options->showKey, "Show the key too, where the service tells it")
+        .Prints("profiles-show", [] { return std::vector{DocumentRecord("", "")}; })
         .Examples("Keep a profile for another computer:\n"
                   "  calvix profiles show Office --show-key > office.xml");
     commands
@@ -142,11 +156,13 @@ void AddProfileCommands(CommandSet& commands)
              [options](Host& host) { AddProfile(host, *options); })
         .Text("FILE", options->file, "A profile document, as the system exports it")
         .Takes(ValueKind::file)
+        .Prints("profiles-change", [] { return std::vector{ChangeRecord("", "")}; })
         .Examples("Store what was kept:\n"
                   "  calvix profiles add office.xml");
     commands.Add("profiles delete", "Delete a profile", [options](Host& host) { DeleteProfile(host, *options); })
         .Text("PROFILE", options->name, "The profile")
         .Takes(ValueKind::profile)
+        .Prints("profiles-change")
         .Examples("Quotation marks around blanks:\n"
                   "  calvix profiles delete \"Hotel Lobby\"");
     commands
@@ -156,6 +172,7 @@ void AddProfileCommands(CommandSet& commands)
         .Takes(ValueKind::profile)
         .OneOf("--to", options->place, {"second", "last"}, "The place to move it to")
         .Required()
+        .Prints("profiles-change")
         .Examples("Let it be tried after all others:\n"
                   "  calvix profiles move Guest --to last");
 }

@@ -17,6 +17,22 @@ namespace calvix::host
 namespace
 {
 
+struct RadioFacts
+{
+    bool on = false;
+    std::string software; ///< "on", "off" or "unknown"
+    std::string hardware;
+};
+
+JsonRecord Describe(const RadioFacts& radio)
+{
+    const Shape position{.among = {"on", "off", "unknown"}};
+    return JsonRecord()
+        .Add("on", radio.on)
+        .Add("software", radio.software, position)
+        .Add("hardware", radio.hardware, position);
+}
+
 struct RadioOptions
 {
     unsigned seconds = 15;
@@ -43,7 +59,7 @@ RadioFacts ReadRadio(Host& host)
 void ShowRadio(Host& host, const RadioFacts& radio)
 {
     if (host.json())
-        return PrintJson(host.out(), radio);
+        return PrintJson(host.out(), Under("radio", radio));
     PrintPairs(host.out(),
                {{"Radio", Toned(radio.on ? "on" : "off", radio.on ? Tone::good : Tone::poor, host.terminal())},
                 {"Software switch", radio.software},
@@ -167,21 +183,26 @@ void AddRadioCommands(CommandSet& commands)
     const auto options = std::make_shared<RadioOptions>();
     commands.AddFamily("radio", "The adapter's radio: status, on, off, reset, restart");
     commands.Add("radio status", "Show the radio and its switches", ShowRadioNow)
+        .Prints("radio", [] { return std::vector{Under("radio", RadioFacts{})}; })
         .Examples("Which switch is off?\n"
                   "  calvix radio status");
     commands.Add("radio on", "Switch the software radio on", SwitchOn)
+        .Prints("radio")
         .Examples("Of the second adapter:\n"
                   "  calvix radio on --interface 2");
     commands.Add("radio off", "Switch the software radio off", SwitchOff)
+        .Prints("radio")
         .Examples("Of the first adapter:\n"
                   "  calvix radio off");
     commands.Add("radio reset", "Switch the radio off and, half a second later, on", ResetRadio)
+        .Prints("radio")
         .Examples("Without waiting for the connection:\n"
                   "  calvix radio reset");
     commands
         .Add("radio restart", "Switch the radio off and on, waiting for both and for the connection to come back",
              [options](Host& host) { Restart(host, *options); })
         .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
+        .Prints("radio")
         .Examples("Have patience with the connection:\n"
                   "  calvix radio restart --timeout 60");
 }

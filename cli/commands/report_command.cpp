@@ -76,7 +76,7 @@ void MakeReport(Host& host, const ReportOptions& options)
     // With JSON a failure is the only object.
     TellFailureOf(report);
     if (host.json())
-        host.out() << ReportJson(report, false) << '\n';
+        PrintJson(host.out(), report);
 }
 
 } // namespace
@@ -94,6 +94,7 @@ void AddReportCommand(CommandSet& commands)
                 "Meanwhile roam when it is time, deciding every so many seconds; 0: never")
         .Text("--recording", options->recording, "Make the page of what this recorded session heard, of any command")
         .Takes(ValueKind::file)
+        .Prints("report", [] { return std::vector{Describe(ReportFacts{})}; })
         .Examples("With a minute of the signal:\n"
                   "  calvix report -o air.html --for 60\n"
                   "What a walk with --record heard, on any computer:\n"

@@ -36,7 +36,7 @@ void RoamOnce(Host& host, const RoamOptions& options)
         wait.Finish(options.timeout);
     const StatusFacts status = ReadStatus(host);
     if (host.json())
-        return PrintJson(host.out(), roam, status);
+        return PrintJson(host.out(), Under("roam", roam).Add("status", status));
     PrintRoam(host, roam, dryRun);
     PrintStatus(host, status);
 }
@@ -65,6 +65,7 @@ void AddRoamCommand(CommandSet& commands)
         .Number("--speed", options->live.speed,
                 "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
         .Number("--timeout", options->timeout, "Seconds to wait for the connection at most")
+        .Prints("roam", [] { return std::vector{Under("roam", RoamFacts{}).Add("status", StatusFacts{})}; })
         .Examples("Would it move, and where to?\n"
                   "  calvix roam --dry-run\n"
                   "Look after the connection for an hour:\n"

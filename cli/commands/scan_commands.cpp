@@ -18,6 +18,21 @@ namespace calvix::host
 namespace
 {
 
+struct ScanFacts
+{
+    bool completed = false;
+    unsigned milliseconds = 0; ///< waited
+    std::size_t accessPoints = 0;
+};
+
+JsonRecord Describe(const ScanFacts& scan)
+{
+    return JsonRecord()
+        .Add("completed", scan.completed)
+        .Add("milliseconds", scan.milliseconds, {"Waited"})
+        .Add("accessPoints", scan.accessPoints);
+}
+
 struct ScanOptions
 {
     unsigned seconds = 10;
@@ -81,7 +96,7 @@ void Scan(Host& host, const ScanOptions& options)
     ScanFacts scan = ScanAndWait(host, options.seconds);
     scan.accessPoints = host.service().AccessPoints(host.adapterGuid()).size();
     if (host.json())
-        return PrintJson(host.out(), scan);
+        return PrintJson(host.out(), Under("scan", scan));
     host.out() << "Scan done after " << scan.milliseconds / 1000.0
                << " s: " << Counted(scan.accessPoints, "access point") << " in view.\n";
 }
@@ -109,7 +124,8 @@ void PrintNetworks(Host& host, const std::vector<NetworkFacts>& networks)
     for (const NetworkFacts& network : networks)
     {
         table.AddRow({NameCell(network), SignalBars(network.quality, host.terminal()), std::to_string(network.quality),
-                      network.security, std::to_string(network.accessPoints), network.profile, NoteCell(network)});
+                      network.security, std::to_string(network.accessPoints), VisibleText(network.profile),
+                      NoteCell(network)});
     }
     table.Print(host.out(), host.terminal());
 }
@@ -130,7 +146,7 @@ void ListNetworks(Host& host, const ScanOptions& options)
     for (const WLAN_AVAILABLE_NETWORK& network : host.service().Networks(adapter))
         networks.push_back(DescribeNetwork(network));
     if (host.json())
-        return PrintJson(host.out(), networks);
+        return PrintJson(host.out(), Under("networks", networks));
     if (networks.empty())
         host.out() << "No network is in view. Scan with: calvix scan\n";
     else
@@ -156,7 +172,7 @@ void ListAccessPoints(Host& host, const ScanOptions& options)
         return DrawAccessPoints(host);
     const auto accessPoints = DescribeAccessPoints(host.service().AccessPoints(host.adapterGuid()));
     if (host.json())
-        return PrintJson(host.out(), accessPoints);
+        return PrintJson(host.out(), Under("accessPoints", accessPoints));
     if (accessPoints.empty())
         host.out() << "No access point is in view. Scan with: calvix scan\n";
     else
@@ -176,17 +192,20 @@ void AddScanCommands(CommandSet& commands)
     const auto options = std::make_shared<ScanOptions>();
     commands.Add("scan", "Ask for a scan and wait until it is done", [options](Host& host) { Scan(host, *options); })
         .Number("--timeout", options->seconds, "Seconds to wait at most")
+        .Prints("scan", [] { return std::vector{Under("scan", ScanFacts{})}; })
         .Examples("The driver takes its time:\n"
                   "  calvix scan --timeout 30");
     AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
                              [options](Host& host) { ListNetworks(host, *options); }),
                 options)
+        .Prints("networks", [] { return std::vector{Under("networks", std::vector<NetworkFacts>{})}; })
         .Examples("As they are now, and not as they were at the service's last scan:\n"
                   "  calvix networks --scan");
     AddScanning(commands.Add("bss", "List the access points in view",
                              [options](Host& host) { ListAccessPoints(host, *options); }),
                 options)
         .Flag("--chart", options->chart, "Draw the spectrum, an arch for each access point")
+        .Prints("bss", [] { return std::vector{Under("accessPoints", std::vector<AccessPointFacts>{})}; })
         .Examples("The spectrum as it is now:\n"
                   "  calvix bss --scan --chart");
 }

@@ -14,6 +14,33 @@ namespace calvix::host
 namespace
 {
 
+struct SettingsFacts
+{
+    unsigned powerLevel = 0;
+    std::string powerSetting; ///< the platform's name of the level
+    std::optional<bool> automaticConnection;
+    std::optional<bool> backgroundScan;
+    std::optional<bool> safeMode; ///< whether it is supported
+};
+
+JsonRecord Describe(const SettingsFacts& settings)
+{
+    return JsonRecord()
+        .Add("powerLevel", settings.powerLevel, {"The platform's number"})
+        .Add("powerSetting", settings.powerSetting)
+        .Add("automaticConnection", settings.automaticConnection)
+        .Add("backgroundScan", settings.backgroundScan)
+        .Add("safeMode", settings.safeMode, {"Whether it is supported"});
+}
+
+/// A driver's request and answer, in hexadecimal.
+JsonRecord DriverRecord(const std::string& request, const std::string& answer)
+{
+    return Under("ihv", JsonRecord("In hexadecimal")
+                            .Add("request", request, {.pattern = "^([0-9A-F]{2})+$"})
+                            .Add("answer", answer, {.pattern = "^([0-9A-F]{2})*$"}));
+}
+
 struct SettingsOptions
 {
     bool enableAuto = false;
@@ -59,7 +86,7 @@ void Settings(Host& host, const SettingsOptions& options)
         host.Require("EnableBackgroundScan", host.manager().EnableBackgroundScan(adapter));
     const SettingsFacts facts = ReadSettings(host);
     if (host.json())
-        return PrintJson(host.out(), facts);
+        return PrintJson(host.out(), Under("settings", facts));
     PrintPairs(host.out(), {{"Power saving", facts.powerSetting},
                             {"Automatic connection", YesOrNo(facts.automaticConnection, "on", "off")},
                             {"Background scan", YesOrNo(facts.backgroundScan, "on", "off")},
@@ -96,7 +123,7 @@ void AskDriver(Host& host, const IhvOptions& options)
                                    adapter, buffer.data(), static_cast<unsigned long>(buffer.size()), returned)));
     const std::string answer = HexOf(buffer, (std::min)(static_cast<std::size_t>(returned), buffer.size()));
     if (host.json())
-        return PrintIhvJson(host.out(), request, answer);
+        return PrintJson(host.out(), DriverRecord(request, answer));
     host.out() << answer << '\n';
 }
 
@@ -110,6 +137,7 @@ void AddSettingsCommands(CommandSet& commands)
              [settings](Host& host) { Settings(host, *settings); })
         .Flag("--enable-auto", settings->enableAuto, "Switch automatic connection on")
         .Flag("--enable-background-scan", settings->enableBackgroundScan, "Switch scanning while connected on")
+        .Prints("settings", [] { return std::vector{Under("settings", SettingsFacts{})}; })
         .Examples("Let the service connect by itself:\n"
                   "  calvix settings --enable-auto");
 
@@ -120,6 +148,7 @@ void AddSettingsCommands(CommandSet& commands)
         .Text("HEX", ihv->request, "The request's bytes in hexadecimal")
         .Number("--size", ihv->size, "Lengthen the request with zeros: the answer can be no longer than the request")
         .Flag("--grant", ihv->grant, "First let ordinary users talk to drivers (takes an administrator)")
+        .Prints("ihv", [] { return std::vector{DriverRecord("", "")}; })
         .Examples("A request of two bytes, an answer of up to eight:\n"
                   "  calvix ihv 01FF --size 8");
 }

@@ -1,5 +1,6 @@
 #include "commands/commands.h"
 #include "live/live_watch.h"
+#include "output/json_output.h"
 
 #include <memory>
 
@@ -16,6 +17,7 @@ void AddWatchCommand(CommandSet& commands)
         .Number("--speed", options->speed,
                 "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
         .Number("--roam", options->roamEvery, "Roam when it is time, deciding every so many seconds; 0: never")
+        .Prints("watch", LiveRecords)
         .Examples("A minute of the signal, a JSON object a line:\n"
                   "  calvix watch --for 60 --json");
 }

@@ -175,6 +175,7 @@ void AddImportCommand(CommandSet& commands)
         .Text("-o,--output", options->output, "Scenario file to write, - for standard output")
         .Takes(ValueKind::scenario)
         .Required()
+        .Prints("import", [] { return std::vector{Describe(ImportFacts{})}; })
         .Examples(kImportExamples);
 }
 

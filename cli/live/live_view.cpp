@@ -79,14 +79,14 @@ LiveView::~LiveView()
 void LiveView::Show(const NoticeFacts& notice)
 {
     if (m_output.json())
-        return PrintLiveJson(m_output.out(), m_now, notice);
+        return PrintLine(m_output.out(), LiveRecord(m_now, notice));
     Line(NoticeText(notice));
 }
 
 void LiveView::Show(const RoamFacts& roam)
 {
     if (m_output.json())
-        return PrintLiveJson(m_output.out(), m_now, roam);
+        return PrintLine(m_output.out(), LiveRecord(m_now, roam));
     if (roam.code != 0 && roam.code == m_lastRoamCode)
         return;
     m_lastRoamCode = roam.code;
@@ -97,7 +97,7 @@ void LiveView::Show(const SignalFacts& signal)
 {
     NoticeMove(signal);
     if (m_output.json())
-        return PrintLiveJson(m_output.out(), m_now, signal);
+        return PrintLine(m_output.out(), LiveRecord(m_now, signal));
     if (m_output.terminal().isTerminal)
         return DrawSignalLine(signal);
     if (!IsWorthALine(signal))
@@ -118,7 +118,7 @@ void LiveView::NoticeMove(const SignalFacts& signal)
     ++m_moves;
     m_movedNow = true;
     if (m_output.json())
-        return PrintMoveJson(m_output.out(), m_now, before.bssid, signal.bssid);
+        return PrintLine(m_output.out(), MoveRecord(m_now, before.bssid, signal.bssid));
     Line("moved from " + before.bssid + " to " + signal.bssid);
 }
 

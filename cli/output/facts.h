@@ -87,60 +87,11 @@ struct StatusFacts
     std::optional<ConnectionFacts> connection;
 };
 
-struct ScanFacts
-{
-    bool completed = false;
-    unsigned milliseconds = 0; ///< waited
-    std::size_t accessPoints = 0;
-};
-
-struct MatchFacts
-{
-    std::vector<std::string> profiles; ///< of the networks in view, one for each
-    std::vector<AccessPointFacts> accessPoints;
-};
-
-struct RadioFacts
-{
-    bool on = false;
-    std::string software; ///< "on", "off" or "unknown"
-    std::string hardware;
-};
-
-struct SettingsFacts
-{
-    unsigned powerLevel = 0;
-    std::string powerSetting; ///< the platform's name of the level
-    std::optional<bool> automaticConnection;
-    std::optional<bool> backgroundScan;
-    std::optional<bool> safeMode; ///< whether it is supported
-};
-
 /// Seconds without use until something happens, 0: never.
 struct IdlePolicyFacts
 {
     std::uint32_t sleepAfter = 0;
     std::uint32_t displayOffAfter = 0;
-};
-
-struct PowerFacts
-{
-    bool sleep = false; ///< whether the computer can
-    bool hibernate = false;
-    bool shutDown = false;
-    bool modernStandby = false;
-    std::uint64_t lastSleepTime = 0; ///< in units of 100 ns since the start; 0: not since, or not told
-    std::uint64_t lastWakeTime = 0;
-    bool wokeByItself = false;
-    std::optional<IdlePolicyFacts> onMains; ///< none: not told
-    std::optional<IdlePolicyFacts> onBattery;
-    std::string scheme; ///< empty: not told
-};
-
-struct SoftApFacts
-{
-    std::vector<std::string> names;
-    bool connected = false; ///< whether the first adapter is connected to one
 };
 
 /// The link at a moment.
@@ -213,12 +164,6 @@ struct CandidateFacts
     unsigned long score = 0;
     Outcome outcome = Outcome::notTried;
     std::uint32_t error = 0; ///< of a refused request
-};
-
-struct BestFacts
-{
-    std::vector<CandidateFacts> candidates;
-    StatusFacts status;
 };
 
 /// "joined", "refused", "accepted", "not tried"

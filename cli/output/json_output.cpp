@@ -1,408 +1,218 @@
 #include "output/json_output.h"
 
-#include "output/json_forms.h"
-
-#include <nlohmann/json.hpp>
-
-#include <sstream>
-
 namespace calvix::host
 {
 
 namespace
 {
 
-using Json = nlohmann::ordered_json;
-
-template <typename Value>
-Json OrNull(const std::optional<Value>& value)
+JsonRecord& AddSsid(JsonRecord& record, const SsidFacts& ssid)
 {
-    return value ? Json(*value) : Json(nullptr);
+    return record.Add("ssid", ssid.text, {.definition = "ssid"}).Add("ssidHex", ssid.hex, {.definition = "ssidHex"});
 }
 
-Json TextOrNull(const std::string& text)
+JsonRecord AtMoment(const char* meaning, const char* event, unsigned long long milliseconds, const JsonRecord& rest)
 {
-    return text.empty() ? Json(nullptr) : Json(text);
-}
-
-void AddSsid(Json& json, const SsidFacts& ssid)
-{
-    json["ssid"] = ssid.text;
-    json["ssidHex"] = ssid.hex;
-}
-
-Json ToJson(const AdapterFacts& adapter)
-{
-    return {{"number", adapter.number},
-            {"guid", adapter.guid},
-            {"description", adapter.description},
-            {"state", adapter.state},
-            {"stateText", adapter.stateText}};
-}
-
-Json ToJson(const NetworkFacts& network)
-{
-    Json json;
-    AddSsid(json, network.ssid);
-    json["profile"] = TextOrNull(network.profile);
-    json["quality"] = network.quality;
-    json["security"] = network.security;
-    json["bssType"] = network.bssType;
-    json["phys"] = network.phys;
-    json["accessPoints"] = network.accessPoints;
-    json["connected"] = network.connected;
-    json["connectable"] = network.connectable;
-    json["reason"] = TextOrNull(network.reason);
-    return json;
-}
-
-Json ToJson(const AccessPointFacts& accessPoint)
-{
-    Json json;
-    AddSsid(json, accessPoint.ssid);
-    json["bssid"] = accessPoint.bssid;
-    json["rssi"] = accessPoint.rssi;
-    json["quality"] = accessPoint.quality;
-    json["frequencyKhz"] = accessPoint.frequencyKhz;
-    json["channel"] = accessPoint.channel;
-    json["band"] = accessPoint.band;
-    json["phy"] = accessPoint.phy;
-    json["bssType"] = accessPoint.bssType;
-    json["beaconPeriod"] = accessPoint.beaconPeriod;
-    return json;
-}
-
-Json ToJson(const ProfileFacts& profile)
-{
-    return {{"position", profile.position},
-            {"name", profile.name},
-            {"mode", profile.mode},
-            {"groupPolicy", profile.groupPolicy},
-            {"perUser", profile.perUser}};
-}
-
-Json ToJson(const ConnectionFacts& connection)
-{
-    Json json;
-    json["profile"] = connection.profile;
-    json["mode"] = connection.mode;
-    AddSsid(json, connection.ssid);
-    json["bssid"] = connection.bssid;
-    json["bssType"] = connection.bssType;
-    json["phy"] = connection.phy;
-    json["security"] = connection.security;
-    json["quality"] = connection.quality;
-    json["rssi"] = OrNull(connection.rssi);
-    json["accessPoints"] = OrNull(connection.accessPoints);
-    json["receiveKbps"] = connection.receiveKbps;
-    json["transmitKbps"] = connection.transmitKbps;
-    json["framesSent"] = OrNull(connection.framesSent);
-    json["framesReceived"] = OrNull(connection.framesReceived);
-    return json;
-}
-
-Json ToJson(const StatusFacts& status)
-{
-    Json json;
-    json["adapter"] = ToJson(status.adapter);
-    json["connection"] = status.connection ? ToJson(*status.connection) : Json(nullptr);
-    return json;
-}
-
-Json ToJson(const CandidateFacts& candidate)
-{
-    Json json;
-    json["order"] = candidate.order;
-    json["profile"] = candidate.profile;
-    AddSsid(json, candidate.ssid);
-    json["quality"] = candidate.quality;
-    json["fiveGhz"] = candidate.fiveGhz;
-    json["bonus"] = candidate.bonus;
-    json["score"] = candidate.score;
-    json["outcome"] = OutcomeText(candidate.outcome);
-    json["error"] = candidate.error != 0 ? Json(candidate.error) : Json(nullptr);
-    return json;
-}
-
-Json ToJson(const std::optional<IdlePolicyFacts>& policy)
-{
-    if (!policy)
-        return nullptr;
-    return {{"sleepAfter", policy->sleepAfter}, {"displayOffAfter", policy->displayOffAfter}};
-}
-
-Json ToJson(const RoamFacts& roam)
-{
-    return {{"decision", roam.decision},
-            {"code", roam.code},
-            {"why", roam.why},
-            {"from", TextOrNull(roam.from)},
-            {"to", TextOrNull(roam.to)}};
-}
-
-Json ToJson(const SignalFacts& signal)
-{
-    Json json;
-    json["state"] = signal.state;
-    json["connected"] = signal.connected;
-    if (!signal.connected)
-        return json;
-    json["profile"] = signal.profile;
-    AddSsid(json, signal.ssid);
-    json["bssid"] = signal.bssid;
-    json["quality"] = signal.quality;
-    json["rssi"] = OrNull(signal.rssi);
-    return json;
-}
-
-Json ToJson(const NoticeFacts& notice)
-{
-    Json json;
-    json["code"] = notice.code;
-    json["name"] = notice.name;
-    json["profile"] = TextOrNull(notice.profile);
-    json["ssid"] = TextOrNull(notice.ssid.text);
-    json["ssidHex"] = TextOrNull(notice.ssid.hex);
-    json["reasonCode"] = notice.reasonCode;
-    json["reason"] = TextOrNull(notice.reason);
-    return json;
-}
-
-/// One line that a reader can take in as soon as it is there.
-void PrintLive(std::ostream& out, unsigned long long milliseconds, const char* event, const Json& rest)
-{
-    Json json = {{"event", event}, {"milliseconds", milliseconds}};
-    json.update(rest);
-    out << json.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
-}
-
-template <typename Facts>
-Json ToJson(const std::vector<Facts>& list)
-{
-    Json json = Json::array();
-    for (const Facts& facts : list)
-        json.push_back(ToJson(facts));
-    return json;
+    return JsonRecord(meaning)
+        .Add("event", event, {.among = {event}})
+        .Add("milliseconds", milliseconds, {"Since the beginning"})
+        .Join(rest);
 }
 
 } // namespace
 
-void PrintObject(std::ostream& out, const Json& json)
+JsonRecord Describe(const ConnectionFacts& connection)
 {
-    // Texts from the air and from documents may hold anything: what is not UTF-8 must not end the output.
-    out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    JsonRecord record("What an adapter is connected to.", "connection");
+    record.Add("profile", connection.profile).Add("mode", connection.mode);
+    AddSsid(record, connection.ssid);
+    return record.Add("bssid", connection.bssid, kBssid)
+        .Add("bssType", connection.bssType)
+        .Add("phy", connection.phy)
+        .Add("security", connection.security)
+        .Add("quality", connection.quality, {.definition = "quality"})
+        .Add("rssi", connection.rssi, {"dBm"})
+        .Add("accessPoints", connection.accessPoints, {"Of the network, in view"})
+        .Add("receiveKbps", connection.receiveKbps)
+        .Add("transmitKbps", connection.transmitKbps)
+        .Add("framesSent", connection.framesSent)
+        .Add("framesReceived", connection.framesReceived);
 }
 
-nlohmann::ordered_json JsonOf(const AdapterFacts& adapter)
+JsonRecord Describe(const AdapterFacts& adapter)
 {
-    return ToJson(adapter);
+    return JsonRecord("A wireless adapter.", "adapter")
+        .Add("number", adapter.number, {"As --interface takes it"})
+        .Add("guid", adapter.guid, {.pattern = "^\\{[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\}$"})
+        .Add("description", adapter.description)
+        .Add("state", adapter.state, {"The service's number"})
+        .Add("stateText", adapter.stateText);
 }
 
-nlohmann::ordered_json JsonOf(const AccessPointFacts& accessPoint)
+JsonRecord Describe(const NetworkFacts& network)
 {
-    return ToJson(accessPoint);
+    JsonRecord record("A network in view, once for each profile that matches it.", "network");
+    return AddSsid(record, network.ssid)
+        .Add("profile", network.profile, kTextOrNull)
+        .Add("quality", network.quality, {.definition = "quality"})
+        .Add("security", network.security)
+        .Add("bssType", network.bssType)
+        .Add("phys", network.phys)
+        .Add("accessPoints", network.accessPoints)
+        .Add("connected", network.connected)
+        .Add("connectable", network.connectable)
+        .Add("reason", network.reason, {.meaning = "Why it cannot be joined", .emptyIsNull = true});
 }
 
-nlohmann::ordered_json JsonOf(const ProfileFacts& profile)
+JsonRecord Describe(const AccessPointFacts& accessPoint)
 {
-    return ToJson(profile);
+    JsonRecord record("An access point in view.", "accessPoint");
+    return AddSsid(record, accessPoint.ssid)
+        .Add("bssid", accessPoint.bssid, kBssid)
+        .Add("rssi", accessPoint.rssi, {"dBm"})
+        .Add("quality", accessPoint.quality, {.definition = "quality"})
+        .Add("frequencyKhz", accessPoint.frequencyKhz)
+        .Add("channel", accessPoint.channel, {"The customary number"})
+        .Add("band", accessPoint.band, {.among = {"2.4 GHz", "5 GHz", "6 GHz"}})
+        .Add("phy", accessPoint.phy)
+        .Add("bssType", accessPoint.bssType)
+        .Add("beaconPeriod", accessPoint.beaconPeriod, {"In 1024 microseconds"});
 }
 
-nlohmann::ordered_json JsonOf(const StatusFacts& status)
+JsonRecord Describe(const ProfileFacts& profile)
 {
-    return ToJson(status);
+    return JsonRecord("A stored profile.", "profile")
+        .Add("position", profile.position, {"The preferred one is 1"})
+        .Add("name", profile.name)
+        .Add("mode", profile.mode, {.among = {"auto", "manual", "unknown"}})
+        .Add("groupPolicy", profile.groupPolicy)
+        .Add("perUser", profile.perUser);
 }
 
-nlohmann::ordered_json JsonOf(const CandidateFacts& candidate)
+JsonRecord Describe(const StatusFacts& status)
 {
-    return ToJson(candidate);
+    return JsonRecord("An adapter and its connection.", "status")
+        .Add("adapter", status.adapter)
+        .Add("connection", status.connection);
 }
 
-nlohmann::ordered_json JsonOf(const SignalFacts& signal)
+JsonRecord Describe(const CandidateFacts& candidate)
 {
-    return ToJson(signal);
+    JsonRecord record("A network that best may ask for.", "candidate");
+    record.Add("order", candidate.order, {"In which they are asked for"}).Add("profile", candidate.profile);
+    return AddSsid(record, candidate.ssid)
+        .Add("quality", candidate.quality, {.definition = "quality"})
+        .Add("fiveGhz", candidate.fiveGhz, {"Access points that earned the bonus"})
+        .Add("bonus", candidate.bonus)
+        .Add("score", candidate.score)
+        .Add("outcome", OutcomeText(candidate.outcome), {.among = {"not tried", "refused", "accepted", "joined"}})
+        .Add("error", candidate.error, {.meaning = "The platform's error number", .emptyIsNull = true});
 }
 
-void PrintJson(std::ostream& out, const std::vector<AdapterFacts>& adapters)
+JsonRecord Describe(const RoamFacts& roam)
 {
-    PrintObject(out, {{"adapters", ToJson(adapters)}});
+    const Shape bssidOrNull{.definition = "bssid", .emptyIsNull = true};
+    return JsonRecord("What roaming came to.", "roamDecision")
+        .Add("decision", roam.decision, {.among = {"roam", "stay", "none"}})
+        .Add("code", roam.code, {"The library's result"})
+        .Add("why", roam.why)
+        .Add("from", roam.from, bssidOrNull)
+        .Add("to", roam.to, bssidOrNull);
 }
 
-void PrintJson(std::ostream& out, const std::vector<NetworkFacts>& networks)
+JsonRecord Describe(const SignalFacts& signal)
 {
-    PrintObject(out, {{"networks", ToJson(networks)}});
+    const bool connected = signal.connected;
+    return JsonRecord("The link at a moment.")
+        .Add("state", signal.state)
+        .Add("connected", connected)
+        .AddIf(connected, "profile", signal.profile)
+        .AddIf(connected, "ssid", signal.ssid.text, {.definition = "ssid"})
+        .AddIf(connected, "ssidHex", signal.ssid.hex, {.definition = "ssidHex"})
+        .AddIf(connected, "bssid", signal.bssid, kBssid)
+        .AddIf(connected, "quality", signal.quality, {.definition = "quality"})
+        .AddIf(connected, "rssi", signal.rssi, {"dBm"});
 }
 
-void PrintJson(std::ostream& out, const std::vector<AccessPointFacts>& accessPoints)
+JsonRecord Describe(const NoticeFacts& notice)
 {
-    PrintObject(out, {{"accessPoints", ToJson(accessPoints)}});
+    return JsonRecord("A notification of the service.")
+        .Add("code", notice.code)
+        .Add("name", notice.name)
+        .Add("profile", notice.profile, kTextOrNull)
+        .Add("ssid", notice.ssid.text, kTextOrNull)
+        .Add("ssidHex", notice.ssid.hex, kTextOrNull)
+        .Add("reasonCode", notice.reasonCode)
+        .Add("reason", notice.reason, kTextOrNull);
 }
 
-void PrintJson(std::ostream& out, const std::vector<ProfileFacts>& profiles)
+JsonRecord Describe(const IdlePolicyFacts& policy)
 {
-    PrintObject(out, {{"profiles", ToJson(profiles)}});
+    return JsonRecord("Seconds without use; 0: never.", "powerPolicy")
+        .Add("sleepAfter", policy.sleepAfter)
+        .Add("displayOffAfter", policy.displayOffAfter);
 }
 
-void PrintJson(std::ostream& out, const ScanFacts& scan)
+JsonRecord Describe(const ImportFacts& import)
 {
-    PrintObject(
-        out,
-        {{"scan",
-          {{"completed", scan.completed}, {"milliseconds", scan.milliseconds}, {"accessPoints", scan.accessPoints}}}});
+    return JsonRecord()
+        .Add("adapters", import.counts.adapters)
+        .Add("accessPoints", import.counts.accessPoints)
+        .Add("networks", import.counts.networks)
+        .Add("hidden", import.counts.hidden)
+        .Add("profiles", import.counts.profiles)
+        .Add("warnings", import.warnings)
+        .Add("output", import.output);
 }
 
-void PrintJson(std::ostream& out, const StatusFacts& status)
+JsonRecord Describe(const FailureReport& failure)
 {
-    PrintObject(out, ToJson(status));
+    const auto error =
+        JsonRecord()
+            .Add("exitCode", static_cast<int>(failure.exitCode), {.among = {1, 2, 3, 4, 5}})
+            .Add("message", failure.message)
+            .Add("advice", failure.advice, kTextOrNull)
+            .Add("method", failure.method, {.meaning = "Of the library", .emptyIsNull = true})
+            .Add("code", failure.code, {"Its result"})
+            .Add("operation", failure.operation, {.meaning = "Of the platform, that was refused", .emptyIsNull = true})
+            .Add("platformError", failure.platformError, {.meaning = "Its error number", .emptyIsNull = true})
+            .Add("reasonCode", failure.reasonCode, {.meaning = "Of the WLAN service", .emptyIsNull = true})
+            .Add("reason", failure.reason, {.meaning = "In its words", .emptyIsNull = true});
+    return JsonRecord()
+        .AddIf(!failure.candidates.empty(), "candidates", failure.candidates, {"Of best, asked for in vain"})
+        .Add("error", error);
 }
 
-void PrintJson(std::ostream& out, const MatchFacts& match)
+JsonRecord LiveRecord(unsigned long long milliseconds, const SignalFacts& signal)
 {
-    PrintObject(out, {{"profiles", match.profiles}, {"accessPoints", ToJson(match.accessPoints)}});
+    return AtMoment("Once a second.", "signal", milliseconds, Describe(signal));
 }
 
-void PrintJson(std::ostream& out, const BestFacts& best)
+JsonRecord LiveRecord(unsigned long long milliseconds, const NoticeFacts& notice)
 {
-    PrintObject(out, {{"candidates", ToJson(best.candidates)}, {"status", ToJson(best.status)}});
+    return AtMoment("The service tells something.", "notification", milliseconds, Describe(notice));
 }
 
-void PrintJson(std::ostream& out, const RadioFacts& radio)
+JsonRecord LiveRecord(unsigned long long milliseconds, const RoamFacts& roam)
 {
-    PrintObject(out, {{"radio", {{"on", radio.on}, {"software", radio.software}, {"hardware", radio.hardware}}}});
+    return AtMoment("Roaming was decided on.", "roam", milliseconds, Describe(roam));
 }
 
-void PrintJson(std::ostream& out, const SettingsFacts& settings)
+JsonRecord MoveRecord(unsigned long long milliseconds, const std::string& from, const std::string& to)
 {
-    PrintObject(out, {{"settings",
-                       {{"powerLevel", settings.powerLevel},
-                        {"powerSetting", settings.powerSetting},
-                        {"automaticConnection", OrNull(settings.automaticConnection)},
-                        {"backgroundScan", OrNull(settings.backgroundScan)},
-                        {"safeMode", OrNull(settings.safeMode)}}}});
+    return AtMoment("The link is at another access point.", "moved", milliseconds,
+                    JsonRecord().Add("from", from, kBssid).Add("to", to, kBssid));
 }
 
-void PrintJson(std::ostream& out, const PowerFacts& power)
+std::vector<JsonRecord> LiveRecords()
 {
-    PrintObject(out, {{"power",
-                       {{"sleep", power.sleep},
-                        {"hibernate", power.hibernate},
-                        {"shutDown", power.shutDown},
-                        {"modernStandby", power.modernStandby},
-                        {"lastSleepTime", power.lastSleepTime},
-                        {"lastWakeTime", power.lastWakeTime},
-                        {"wokeByItself", power.wokeByItself},
-                        {"onMains", ToJson(power.onMains)},
-                        {"onBattery", ToJson(power.onBattery)},
-                        {"scheme", TextOrNull(power.scheme)}}}});
+    return {LiveRecord(0, SignalFacts{}), LiveRecord(0, NoticeFacts{}), LiveRecord(0, RoamFacts{}),
+            MoveRecord(0, "", "")};
 }
 
-void PrintJson(std::ostream& out, const SoftApFacts& softAps)
+void PrintLine(std::ostream& out, const JsonRecord& record)
 {
-    PrintObject(out, {{"softAps", softAps.names}, {"connectedToSoftAp", softAps.connected}});
-}
-
-void PrintJson(std::ostream& out, const RoamFacts& roam, const StatusFacts& status)
-{
-    PrintObject(out, {{"roam", ToJson(roam)}, {"status", ToJson(status)}});
-}
-
-void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const SignalFacts& signal)
-{
-    PrintLive(out, milliseconds, "signal", ToJson(signal));
-}
-
-void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const NoticeFacts& notice)
-{
-    PrintLive(out, milliseconds, "notification", ToJson(notice));
-}
-
-void PrintLiveJson(std::ostream& out, unsigned long long milliseconds, const RoamFacts& roam)
-{
-    PrintLive(out, milliseconds, "roam", ToJson(roam));
-}
-
-void PrintMoveJson(std::ostream& out, unsigned long long milliseconds, const std::string& from, const std::string& to)
-{
-    PrintLive(out, milliseconds, "moved", {{"from", from}, {"to", to}});
-}
-
-void PrintIhvJson(std::ostream& out, const std::string& request, const std::string& answer)
-{
-    PrintObject(out, {{"ihv", {{"request", request}, {"answer", answer}}}});
-}
-
-void PrintListingJson(std::ostream& out, const std::string& text)
-{
-    Json lines = Json::array();
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    PrintObject(out, {{"lines", lines}});
-}
-
-void PrintProfileJson(std::ostream& out, const std::string& name, const std::string& xml)
-{
-    PrintObject(out, {{"profile", {{"name", name}, {"xml", xml}}}});
-}
-
-void PrintChangeJson(std::ostream& out, const std::string& change, const std::string& profile)
-{
-    PrintObject(out, {{"change", change}, {"profile", TextOrNull(profile)}});
-}
-
-void PrintPrivilegeJson(std::ostream& out, const std::string& name)
-{
-    PrintObject(out, {{"privilege", {{"name", name}, {"enabled", true}}}});
-}
-
-void PrintRunJson(std::ostream& out, const std::string& what)
-{
-    PrintObject(out, {{"run", {{"started", what}}}});
-}
-
-void PrintEndedJson(std::ostream& out, const std::vector<unsigned long>& processes)
-{
-    PrintObject(out, {{"ended", processes}});
-}
-
-void PrintOnlineJson(std::ostream& out)
-{
-    PrintObject(out, {{"online", true}});
-}
-
-void PrintTextJson(std::ostream& out, const char* name, const std::string& text)
-{
-    PrintObject(out, {{name, text}});
-}
-
-void PrintJson(std::ostream& out, const ImportFacts& import)
-{
-    PrintObject(out, {{"adapters", import.counts.adapters},
-                      {"accessPoints", import.counts.accessPoints},
-                      {"networks", import.counts.networks},
-                      {"hidden", import.counts.hidden},
-                      {"profiles", import.counts.profiles},
-                      {"warnings", import.warnings},
-                      {"output", import.output}});
-}
-
-void PrintJson(std::ostream& out, const FailureReport& failure)
-{
-    Json error;
-    error["exitCode"] = static_cast<int>(failure.exitCode);
-    error["message"] = failure.message;
-    error["advice"] = TextOrNull(failure.advice);
-    error["method"] = TextOrNull(failure.method);
-    error["code"] = OrNull(failure.code);
-    error["operation"] = TextOrNull(failure.operation);
-    error["platformError"] = failure.platformError != 0 ? Json(failure.platformError) : Json(nullptr);
-    error["reasonCode"] = failure.reasonCode != 0 ? Json(failure.reasonCode) : Json(nullptr);
-    error["reason"] = TextOrNull(failure.reason);
-    Json json;
-    if (!failure.candidates.empty())
-        json["candidates"] = ToJson(failure.candidates);
-    json["error"] = error;
-    PrintObject(out, json);
+    out << record.value().dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
 }
 
 } // namespace calvix::host

@@ -52,7 +52,7 @@ std::string Nonce(const std::string& data)
 
 std::string ReportPage(const ReportFacts& report)
 {
-    const std::string data = ReportJson(report, true);
+    const std::string data = ReportJson(report);
     return FillTemplate(kPageTemplate, {{"title", EscapeHtml(report.title)},
                                         {"subtitle", SubtitleText(report)},
                                         {"style", kPageStyle},

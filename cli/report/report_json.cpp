@@ -1,114 +1,90 @@
 #include "report/report_json.h"
 
 #include "forms/hex_text.h"
-#include "output/json_forms.h"
-
-#include <nlohmann/json.hpp>
+#include "output/json_output.h"
 
 namespace calvix::host
 {
 
+JsonRecord Describe(const AirAccessPoint& point)
+{
+    std::vector<unsigned> rates;
+    for (const auto rate : point.beacon.rates)
+        rates.push_back(rate * 500U);
+    return JsonRecord()
+        .Add("number", point.number)
+        .Join(Describe(point.facts))
+        .Add("inUse", point.inUse)
+        .Add("inView", point.inView)
+        .Add("widthMhz", point.beacon.widthMhz)
+        .Add("widthTold", point.beacon.widthTold)
+        .Add("centreKhz", point.beacon.centreKhz)
+        .Add("security", point.beacon.security)
+        .Add("streams", point.beacon.streams, kTextOrNull)
+        .Add("fastestKbps", point.beacon.fastestKbps, kTextOrNull)
+        .Add("ratesKbps", rates);
+}
+
+JsonRecord Describe(const ChoiceFacts& choice)
+{
+    return JsonRecord("What an automatic method would do.")
+        .Add("method", choice.method)
+        .Add("command", choice.command)
+        .Add("asks", choice.asked)
+        .Add("now", choice.now)
+        .Add("rule", choice.rule);
+}
+
+JsonRecord Describe(const SignalSample& sample)
+{
+    return JsonRecord("The link at a second.")
+        .Add("second", sample.second, {"Since the beginning"})
+        .Join(Describe(sample.link));
+}
+
+JsonRecord Describe(const LinkEvent& event)
+{
+    return JsonRecord()
+        .Add("second", event.second, {"Since the beginning"})
+        .Add("from", event.from, kTextOrNull)
+        .Add("to", event.to, kTextOrNull);
+}
+
+JsonRecord Describe(const MissingPart& missing)
+{
+    return JsonRecord("A part that could not be read.")
+        .Add("part", missing.part)
+        .Add("message", missing.failure.message)
+        .Add("advice", missing.failure.advice)
+        .Add("exitCode", static_cast<int>(missing.failure.exitCode));
+}
+
+JsonRecord Describe(const RecordingFacts& recording)
+{
+    return JsonRecord("The recording that the page is made of; null: it is of this computer")
+        .Add("file", recording.file)
+        .Add("simulated", recording.simulated)
+        .Add("anonymised", recording.anonymised)
+        .Add("notTold", recording.notTold, {"What it does not tell, in sentences"});
+}
+
 namespace
 {
 
-using ReportJsonValue = nlohmann::ordered_json;
-
-ReportJsonValue ToReportJson(const AirAccessPoint& point)
-{
-    ReportJsonValue json = {{"number", point.number}};
-    json.update(JsonOf(point.facts));
-    json["inUse"] = point.inUse;
-    json["inView"] = point.inView;
-    json["widthMhz"] = point.beacon.widthMhz;
-    json["widthTold"] = point.beacon.widthTold;
-    json["centreKhz"] = point.beacon.centreKhz;
-    json["security"] = point.beacon.security;
-    json["streams"] = point.beacon.streams != 0 ? ReportJsonValue(point.beacon.streams) : ReportJsonValue(nullptr);
-    json["fastestKbps"] =
-        point.beacon.fastestKbps != 0 ? ReportJsonValue(point.beacon.fastestKbps) : ReportJsonValue(nullptr);
-    ReportJsonValue rates = ReportJsonValue::array();
-    for (const unsigned rate : point.beacon.rates)
-        rates.push_back(rate * 500);
-    json["ratesKbps"] = rates;
-    return json;
-}
-
-ReportJsonValue ToReportJson(const ChoiceFacts& choice)
-{
-    return {{"method", choice.method},
-            {"command", choice.command},
-            {"asks", choice.asked},
-            {"now", choice.now},
-            {"rule", choice.rule}};
-}
-
-ReportJsonValue ToReportJson(const SignalSample& sample)
-{
-    ReportJsonValue json = {{"second", sample.second}};
-    json.update(JsonOf(sample.link));
-    return json;
-}
-
 /// How each access point was heard, a value for each sample.
-ReportJsonValue HeardInTime(const std::vector<SignalSample>& samples)
+Json HeardInTime(const std::vector<SignalSample>& samples)
 {
-    ReportJsonValue json = ReportJsonValue::object();
+    Json json = Json::object();
     for (std::size_t i = 0; i < samples.size(); ++i)
     {
         for (const auto& [bssid, rssi] : samples[i].air)
         {
             if (!json.contains(bssid))
-                json[bssid] = ReportJsonValue(samples.size(), nullptr);
+                json[bssid] = Json(samples.size(), nullptr);
             json[bssid][i] = rssi;
         }
     }
     return json;
-}
-
-ReportJsonValue ToReportJson(const LinkEvent& event)
-{
-    const auto textOrNull = [](const std::string& text)
-    { return text.empty() ? ReportJsonValue(nullptr) : ReportJsonValue(text); };
-    return {{"second", event.second}, {"from", textOrNull(event.from)}, {"to", textOrNull(event.to)}};
-}
-
-template <typename Facts>
-ReportJsonValue ToReportJson(const std::vector<Facts>& list)
-{
-    ReportJsonValue json = ReportJsonValue::array();
-    for (const Facts& facts : list)
-        json.push_back(ToReportJson(facts));
-    return json;
-}
-
-template <typename Facts>
-ReportJsonValue KnownForms(const std::vector<Facts>& list)
-{
-    ReportJsonValue json = ReportJsonValue::array();
-    for (const Facts& facts : list)
-        json.push_back(JsonOf(facts));
-    return json;
-}
-
-ReportJsonValue Missing(const ReportFacts& report)
-{
-    ReportJsonValue json = ReportJsonValue::array();
-    for (const MissingPart& missing : report.missing)
-        json.push_back({{"part", missing.part},
-                        {"message", missing.failure.message},
-                        {"advice", missing.failure.advice},
-                        {"exitCode", static_cast<int>(missing.failure.exitCode)}});
-    return json;
-}
-
-ReportJsonValue ToReportJson(const std::optional<RecordingFacts>& recording)
-{
-    if (!recording)
-        return nullptr;
-    return {{"file", recording->file},
-            {"simulated", recording->simulated},
-            {"anonymised", recording->anonymised},
-            {"notTold", recording->notTold}};
 }
 
 /// What an HTML parser looks for inside a script element.
@@ -125,24 +101,31 @@ std::string WithoutMarkup(const std::string& json)
 
 } // namespace
 
-std::string ReportJson(const ReportFacts& report, bool forPage)
+JsonRecord Describe(const ReportFacts& report)
 {
-    ReportJsonValue json;
-    json["title"] = report.title;
-    json["heardAt"] = report.heardAt.empty() ? ReportJsonValue(nullptr) : ReportJsonValue(report.heardAt);
-    json["adapters"] = KnownForms(report.adapters);
-    json["status"] = report.status ? JsonOf(*report.status) : ReportJsonValue(nullptr);
-    json["accessPoints"] = ToReportJson(report.accessPoints);
-    json["profiles"] = KnownForms(report.profiles);
-    json["candidates"] = KnownForms(report.candidates);
-    json["choices"] = ToReportJson(report.choices);
-    json["samples"] = ToReportJson(report.history.samples);
-    json["heard"] = HeardInTime(report.history.samples);
-    json["events"] = ToReportJson(report.history.events);
-    json["missing"] = Missing(report);
-    json["recording"] = ToReportJson(report.recording);
-    constexpr auto replace = ReportJsonValue::error_handler_t::replace;
-    return forPage ? WithoutMarkup(json.dump(-1, ' ', true, replace)) : json.dump(2, ' ', false, replace);
+    const Json rssi = {{"type", {"integer", "null"}}};
+    return JsonRecord()
+        .Add("title", report.title)
+        .Add("heardAt", report.heardAt, kTextOrNull)
+        .Add("adapters", report.adapters)
+        .Add("status", report.status)
+        .Add("accessPoints", report.accessPoints)
+        .Add("profiles", report.profiles)
+        .Add("candidates", report.candidates)
+        .Add("choices", report.choices)
+        .Add("samples", report.history.samples)
+        .AddPart("heard", {HeardInTime(report.history.samples),
+                           {{"description", "By BSSID, dBm in each sample"},
+                            {"type", "object"},
+                            {"additionalProperties", {{"type", "array"}, {"items", rssi}}}}})
+        .Add("events", report.history.events)
+        .Add("missing", report.missing)
+        .Add("recording", report.recording);
+}
+
+std::string ReportJson(const ReportFacts& report)
+{
+    return WithoutMarkup(Describe(report).value().dump(-1, ' ', true, Json::error_handler_t::replace));
 }
 
 } // namespace calvix::host

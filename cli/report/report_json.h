@@ -1,5 +1,6 @@
 #pragma once
 
+#include "output/json_record.h"
 #include "report/report_facts.h"
 
 #include <string>
@@ -7,8 +8,11 @@
 namespace calvix::host
 {
 
-/// Everything that the page shows as one JSON object. `forPage`: as it may stand in a script element, in plain ASCII
-/// without any character that ends the element or begins another.
-std::string ReportJson(const ReportFacts& report, bool forPage);
+/// Everything that the page shows.
+JsonRecord Describe(const ReportFacts& report);
+
+/// The same as it may stand in a script element, in plain ASCII without any character that ends the element or begins
+/// another.
+std::string ReportJson(const ReportFacts& report);
 
 } // namespace calvix::host

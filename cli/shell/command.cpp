@@ -123,6 +123,13 @@ Command& Command::Examples(const char* text)
     return *this;
 }
 
+Command& Command::Prints(const char* name, std::vector<JsonRecord> (*those)())
+{
+    definition = name;
+    records = those;
+    return *this;
+}
+
 Command& Command::Hidden()
 {
     hidden = true;
@@ -171,8 +178,11 @@ void CommandSet::AddFamily(const char* name, const char* summary)
 
 Command& CommandSet::Add(const char* path, const char* summary, RunCommand run)
 {
-    commands.push_back({path, summary, std::move(run), {}, false, {}});
-    return commands.back();
+    Command& command = commands.emplace_back();
+    command.path = path;
+    command.summary = summary;
+    command.run = std::move(run);
+    return command;
 }
 
 const Family* CommandSet::FindFamily(std::string_view name) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/common_options.h"
+#include "output/json_record.h"
 
 #include <functional>
 #include <memory>
@@ -63,6 +64,8 @@ struct Command
     std::string summary;
     RunCommand run;
     std::string examples;
+    std::string definition;                         ///< of what it prints with --json; empty: text only
+    std::vector<JsonRecord> (*records)() = nullptr; ///< it
     bool hidden = false;
     std::vector<Argument> arguments;
 
@@ -78,6 +81,9 @@ struct Command
     Command& Required();
     /// Lines that stand below the arguments in the command's help.
     Command& Examples(const char* text);
+    /// With --json it prints one of these records, which the schema has under the name of a definition. Commands that
+    /// print the same name the same definition, and one of them has the records.
+    Command& Prints(const char* definition, std::vector<JsonRecord> (*records)() = nullptr);
     /// The command is for programs: no list of commands shows it.
     Command& Hidden();
 

@@ -7,6 +7,7 @@
 #include "commands/commands.h"
 #include "platform/platform.h"
 #include "shell/manual.h"
+#include "shell/output_schema.h"
 #include "simulation/computer.h"
 #include "wrappers/fault_injection.h"
 #include "wrappers/intercepted_platform.h"
@@ -117,6 +118,11 @@ void ExpectUpToDate(const std::string& path, const std::string& text)
 TEST(MadeFile, ManualPage)
 {
     ExpectUpToDate("docs/calvix.1", host::ManualPage(host::AllCommands()));
+}
+
+TEST(MadeFile, OutputSchema)
+{
+    ExpectUpToDate("docs/output.schema.json", host::OutputSchema(host::AllCommands()));
 }
 
 TEST(MadeFile, ScenarioSchema)
