@@ -1,6 +1,7 @@
 #include "shell/output_schema.h"
 
 #include "output/json_output.h"
+#include "simulation/schema_text.h"
 
 namespace calvix::host
 {
@@ -73,7 +74,7 @@ std::string OutputSchema(const CommandSet& commands)
                           "added; none is renamed. What is unknown is null."},
                          {"anyOf", definitions.outputs()},
                          {"definitions", definitions.all()}};
-    return schema.dump(2) + "\n";
+    return simulation::SchemaText(schema) + "\n";
 }
 
 } // namespace calvix::host

@@ -1,4 +1,5 @@
 #include "simulation/scenario_fields.h"
+#include "simulation/schema_text.h"
 
 namespace calvix::simulation
 {
@@ -10,20 +11,6 @@ namespace
 bool IsWord(const Json& value)
 {
     return value.is_boolean() || value.is_number() || (value.is_string() && value != "");
-}
-
-/// The text of a schema, in which a field takes one line.
-std::string Pretty(const Json& value, const std::string& indent = "")
-{
-    const std::string line = value.dump();
-    if (!value.is_structured() || line.find('{', 1) == std::string::npos)
-        return line;
-    std::string text;
-    for (const auto& [name, part] : value.items())
-        text += (text.empty() ? "\n  " : ",\n  ") + indent + (value.is_object() ? "\"" + name + "\": " : "") +
-                Pretty(part, indent + "  ");
-    text += "\n" + indent;
-    return value.is_object() ? "{" + text + "}" : "[" + text + "]";
 }
 
 /// Puts the fields of a record into a JSON Schema.
@@ -80,7 +67,7 @@ std::string ScenarioSchema()
 {
     Json schema = {{"$schema", "http://json-schema.org/draft-07/schema#"}, {"title", "Calvix scenario"}};
     schema.update(RecordSchema<Scenario>());
-    return Pretty(schema) + "\n";
+    return SchemaText(schema) + "\n";
 }
 
 } // namespace calvix::simulation
