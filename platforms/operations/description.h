@@ -102,9 +102,14 @@ constexpr Description<operation, Roles...> Describe(const char* name, Fails fail
     return {{name, facility, fails, (Roles::tellsNames || ... || false)}, {roles...}};
 }
 
+/// The place of an argument for those that do not look at the other arguments, one type for all calls.
+struct AnyPlace
+{
+};
+
 /// A call's arguments, as seen from one of them.
 template <typename Operation, std::size_t index, typename... Values>
-class Place
+class Place : public AnyPlace
 {
 public:
     explicit Place(const std::tuple<Values&...>& values) : m_values(values) {}

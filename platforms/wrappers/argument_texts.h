@@ -42,7 +42,7 @@ std::string OptionSizeText(DWORD size);
 
 // One overload for each role, or for what it derives from.
 
-std::string ArgumentText(const operations::Pointer&, auto pointer, const auto&, HandleNumbers&)
+std::string ArgumentText(const operations::Pointer&, auto pointer, const operations::AnyPlace&, HandleNumbers&)
 {
     if constexpr (std::is_function_v<std::remove_pointer_t<decltype(pointer)>>)
         return PointerText(reinterpret_cast<const void*>(pointer));
@@ -50,13 +50,14 @@ std::string ArgumentText(const operations::Pointer&, auto pointer, const auto&, 
         return PointerText(pointer);
 }
 
-std::string ArgumentText(const operations::HandedOut&, const void* target, const auto&, HandleNumbers&)
+inline std::string
+ArgumentText(const operations::HandedOut&, const void* target, const operations::AnyPlace&, HandleNumbers&)
 {
     return PointerText(target);
 }
 
 template <typename Value>
-std::string ArgumentText(const operations::Number&, const Value& value, const auto&, HandleNumbers&)
+std::string ArgumentText(const operations::Number&, const Value& value, const operations::AnyPlace&, HandleNumbers&)
 {
     if constexpr (operations::ListedNumber<Value>)
         return NameText(operations::NameOf(value), static_cast<long long>(value));
@@ -64,33 +65,35 @@ std::string ArgumentText(const operations::Number&, const Value& value, const au
         return NumberText(static_cast<long long>(value));
 }
 
-std::string ArgumentText(const operations::Flag&, auto flag, const auto&, HandleNumbers&)
+std::string ArgumentText(const operations::Flag&, auto flag, const operations::AnyPlace&, HandleNumbers&)
 {
     return flag != 0 ? "true" : "false";
 }
 
 template <HandleFamily family>
-std::string ArgumentText(const operations::Handle<family>&, const void* handle, const auto&, HandleNumbers& numbers)
+std::string
+ArgumentText(const operations::Handle<family>&, const void* handle, const operations::AnyPlace&, HandleNumbers& numbers)
 {
     return HandleText(numbers, family, handle);
 }
 
-std::string ArgumentText(const operations::Guid&, const GUID* guid, const auto&, HandleNumbers&)
+inline std::string ArgumentText(const operations::Guid&, const GUID* guid, const operations::AnyPlace&, HandleNumbers&)
 {
     return GuidText(guid);
 }
 
-std::string ArgumentText(const operations::Guid&, const GUID& guid, const auto&, HandleNumbers&)
+inline std::string ArgumentText(const operations::Guid&, const GUID& guid, const operations::AnyPlace&, HandleNumbers&)
 {
     return GuidText(&guid);
 }
 
-std::string ArgumentText(const operations::Adapter&, const GUID* guid, const auto&, HandleNumbers&)
+inline std::string
+ArgumentText(const operations::Adapter&, const GUID* guid, const operations::AnyPlace&, HandleNumbers&)
 {
     return GuidText(guid);
 }
 
-std::string ArgumentText(const operations::Text&, const auto* text, const auto&, HandleNumbers&)
+std::string ArgumentText(const operations::Text&, const auto* text, const operations::AnyPlace&, HandleNumbers&)
 {
     return QuotedText(text);
 }
@@ -106,12 +109,13 @@ std::string ArgumentText(const operations::FriendlyName&, const UCHAR* bytes, co
     return QuotedText(reinterpret_cast<const wchar_t*>(bytes), length > 0 ? length - 1 : 0);
 }
 
-std::string ArgumentText(const operations::Ssid&, const DOT11_SSID* ssid, const auto&, HandleNumbers&)
+inline std::string
+ArgumentText(const operations::Ssid&, const DOT11_SSID* ssid, const operations::AnyPlace&, HandleNumbers&)
 {
     return SsidText(ssid);
 }
 
-std::string ArgumentText(const operations::Record&, const auto* record, const auto&, HandleNumbers&)
+std::string ArgumentText(const operations::Record&, const auto* record, const operations::AnyPlace&, HandleNumbers&)
 {
     return record != nullptr ? RecordText(*record) : PointerText(nullptr);
 }
@@ -122,7 +126,7 @@ std::string ArgumentText(const operations::OptionValue&, const void* value, cons
     return isNumber ? NumberText(static_cast<long long>(*static_cast<const DWORD*>(value))) : PointerText(nullptr);
 }
 
-std::string ArgumentText(const operations::OptionSize&, DWORD size, const auto&, HandleNumbers&)
+inline std::string ArgumentText(const operations::OptionSize&, DWORD size, const operations::AnyPlace&, HandleNumbers&)
 {
     return OptionSizeText(size);
 }
@@ -147,12 +151,14 @@ std::string ArgumentText(const operations::InformationRoom&, ULONG size, const a
     return AnswerSizeText(place.template Of<operations::Opcode>(), size);
 }
 
-std::string ArgumentText(const operations::NumberExchanged&, const DWORD* number, const auto&, HandleNumbers&)
+inline std::string
+ArgumentText(const operations::NumberExchanged&, const DWORD* number, const operations::AnyPlace&, HandleNumbers&)
 {
     return number != nullptr ? NumberText(static_cast<long long>(*number)) : PointerText(nullptr);
 }
 
-std::string ArgumentText(const operations::SchemeExchanged&, const UINT* scheme, const auto&, HandleNumbers&)
+inline std::string
+ArgumentText(const operations::SchemeExchanged&, const UINT* scheme, const operations::AnyPlace&, HandleNumbers&)
 {
     return scheme != nullptr ? NumberText(static_cast<std::int32_t>(*scheme)) : PointerText(nullptr);
 }

@@ -18,43 +18,43 @@ void GiveFields(Fields& fields, const STARTUPINFOA* startup);
 void GiveFields(Fields& fields, const TOKEN_PRIVILEGES* privileges);
 void GiveFields(Fields& fields, const FILETIME* time);
 
-void Give(Fields&, const operations::HandedOut&, const auto&, const auto&) {}
-void Give(Fields&, const operations::RecordSize&, const auto&, const auto&) {}
-void Give(Fields&, const operations::UnrecordedPointer&, const auto&, const auto&) {}
-void Give(Fields&, const operations::UnrecordedNumber&, const auto&, const auto&) {}
-void Give(Fields&, const operations::Context&, const auto&, const auto&) {}
-void Give(Fields&, const operations::NumberOverwritten&, const auto&, const auto&) {}
-void Give(Fields&, const operations::BufferSize&, const auto&, const auto&) {}
+void Give(Fields&, const operations::HandedOut&, const auto&, const operations::AnyPlace&) {}
+void Give(Fields&, const operations::RecordSize&, const auto&, const operations::AnyPlace&) {}
+void Give(Fields&, const operations::UnrecordedPointer&, const auto&, const operations::AnyPlace&) {}
+void Give(Fields&, const operations::UnrecordedNumber&, const auto&, const operations::AnyPlace&) {}
+void Give(Fields&, const operations::Context&, const auto&, const operations::AnyPlace&) {}
+void Give(Fields&, const operations::NumberOverwritten&, const auto&, const operations::AnyPlace&) {}
+void Give(Fields&, const operations::BufferSize&, const auto&, const operations::AnyPlace&) {}
 
-void Give(Fields& fields, const operations::Pointer& role, const auto& pointer, const auto&)
+void Give(Fields& fields, const operations::Pointer& role, const auto& pointer, const operations::AnyPlace&)
 {
     fields.GivenPointer(role.name, pointer);
 }
 
-void Give(Fields& fields, const operations::Reserved& role, const auto& pointer, const auto&)
+void Give(Fields& fields, const operations::Reserved& role, const auto& pointer, const operations::AnyPlace&)
 {
     // It is null in every correct call, and then not worth a word.
     if (pointer != nullptr)
         fields.GivenPointer(role.name, pointer);
 }
 
-void Give(Fields& fields, const operations::Number& role, const auto& number, const auto&)
+void Give(Fields& fields, const operations::Number& role, const auto& number, const operations::AnyPlace&)
 {
     fields.Given(role.name, number);
 }
 
-void Give(Fields& fields, const operations::Flag& role, const auto& flag, const auto&)
+void Give(Fields& fields, const operations::Flag& role, const auto& flag, const operations::AnyPlace&)
 {
     fields.Given(role.name, flag);
 }
 
 template <wrappers::HandleFamily family>
-void Give(Fields& fields, const operations::Handle<family>& role, const auto& handle, const auto&)
+void Give(Fields& fields, const operations::Handle<family>& role, const auto& handle, const operations::AnyPlace&)
 {
     fields.GivenHandle(role.name, family, handle);
 }
 
-void Give(Fields& fields, const operations::Guid& role, const auto& guid, const auto&)
+void Give(Fields& fields, const operations::Guid& role, const auto& guid, const operations::AnyPlace&)
 {
     if constexpr (std::is_pointer_v<std::remove_cvref_t<decltype(guid)>>)
         fields.GivenGuid(role.name, guid);
@@ -62,17 +62,17 @@ void Give(Fields& fields, const operations::Guid& role, const auto& guid, const 
         fields.GivenGuid(role.name, &guid);
 }
 
-void Give(Fields& fields, const operations::Adapter&, const auto& guid, const auto&)
+void Give(Fields& fields, const operations::Adapter&, const auto& guid, const operations::AnyPlace&)
 {
     fields.GivenAdapter(guid);
 }
 
-void Give(Fields& fields, const operations::Text& role, const auto& text, const auto&)
+void Give(Fields& fields, const operations::Text& role, const auto& text, const operations::AnyPlace&)
 {
     fields.GivenText(role.name, text);
 }
 
-void Give(Fields& fields, const operations::ProfileName& role, const auto& name, const auto&)
+void Give(Fields& fields, const operations::ProfileName& role, const auto& name, const operations::AnyPlace&)
 {
     fields.GivenName(role.name, name);
 }
@@ -82,27 +82,27 @@ void Give(Fields& fields, const operations::Source& role, const auto& text, cons
     fields.GivenText(role.name, text, place.template Neighbour<operations::after>());
 }
 
-void Give(Fields& fields, const operations::SourceLength&, const auto& length, const auto&)
+void Give(Fields& fields, const operations::SourceLength&, const auto& length, const operations::AnyPlace&)
 {
     fields.Given("terminated", length < 0 ? 1 : 0);
 }
 
-void Give(Fields& fields, const operations::DestinationRoom&, const auto& room, const auto&)
+void Give(Fields& fields, const operations::DestinationRoom&, const auto& room, const operations::AnyPlace&)
 {
     fields.Given("sizeOnly", room == 0 ? 1 : 0);
 }
 
-void Give(Fields& fields, const operations::Ssid& role, const auto& ssid, const auto&)
+void Give(Fields& fields, const operations::Ssid& role, const auto& ssid, const operations::AnyPlace&)
 {
     fields.GivenRecord(role.name, ssid);
 }
 
-void Give(Fields& fields, const operations::Record&, const auto& record, const auto&)
+void Give(Fields& fields, const operations::Record&, const auto& record, const operations::AnyPlace&)
 {
     GiveFields(fields, record);
 }
 
-void Give(Fields& fields, const operations::WholeRecord& role, const auto& record, const auto&)
+void Give(Fields& fields, const operations::WholeRecord& role, const auto& record, const operations::AnyPlace&)
 {
     fields.GivenRecord(role.name, record);
 }
@@ -132,26 +132,26 @@ void Give(Fields& fields, const operations::Setting&, const auto& data, const au
     GiveInterfaceData(fields, place.template Of<operations::Opcode>(), size, data);
 }
 
-void Give(Fields& fields, const operations::Callback& role, const auto& callback, const auto&)
+void Give(Fields& fields, const operations::Callback& role, const auto& callback, const operations::AnyPlace&)
 {
     fields.Given(role.name, callback != nullptr ? 1 : 0);
 }
 
-void Give(Fields& fields, const operations::Block&, const auto& block, const auto&)
+void Give(Fields& fields, const operations::Block&, const auto& block, const operations::AnyPlace&)
 {
     fields.Given("block", fields.holdings().NumberOfBlock(block));
 }
 
-void Give(Fields& fields, const operations::Exchanged& role, const auto& number, const auto&)
+void Give(Fields& fields, const operations::Exchanged& role, const auto& number, const operations::AnyPlace&)
 {
     if (number != nullptr)
         fields.Given(role.name, *number);
 }
 
-void Give(Fields&, const operations::AnswerSize&, const auto&, const auto&) {}
+void Give(Fields&, const operations::AnswerSize&, const auto&, const operations::AnyPlace&) {}
 
 /// What becomes of arguments on their way to the platform.
-void Prepare(Tape&, const operations::Role&, const auto&, const auto&) {}
+void Prepare(Tape&, const operations::Role&, const auto&, const operations::AnyPlace&) {}
 
 void Prepare(Tape& tape, const operations::Callback&, WLAN_NOTIFICATION_CALLBACK& callback, const auto& place)
 {
@@ -161,7 +161,7 @@ void Prepare(Tape& tape, const operations::Callback&, WLAN_NOTIFICATION_CALLBACK
     context = listener.context;
 }
 
-void Prepare(Tape& tape, const operations::Block&, const PVOID& block, const auto&)
+inline void Prepare(Tape& tape, const operations::Block&, const PVOID& block, const operations::AnyPlace&)
 {
     // Once it is given back, the service may hand the same address out again.
     tape.holdings().Release(block);

@@ -17,14 +17,14 @@ namespace calvix::recording
 // it derives from.
 
 /// A call that was made, or is being answered.
-template <typename ItsResult, typename Call>
+template <typename Result>
 struct CallOnTape
 {
     Fields& fields;
     Tape& tape;
     bool failed;
-    ItsResult& result;
-    const Call& again; ///< makes the call once more
+    Result& result;
+    TapedCall& call;
 };
 
 /// Records whose fields stand among those of the call.
@@ -92,55 +92,55 @@ void DescribeResult(Fields& fields, Result& result, const Values& values, platfo
 }
 
 /// What is only given.
-void Describe(const auto&, const operations::Given&, const auto&, const auto&) {}
+void Describe(const auto&, const operations::Given&, const auto&, const operations::AnyPlace&) {}
 // These are told together with a neighbour.
-void Describe(const auto&, const operations::AnswerSize&, const auto&, const auto&) {}
-void Describe(const auto&, const operations::BytesOut&, const auto&, const auto&) {}
-void Describe(const auto&, const operations::Buffer&, const auto&, const auto&) {}
+void Describe(const auto&, const operations::AnswerSize&, const auto&, const operations::AnyPlace&) {}
+void Describe(const auto&, const operations::BytesOut&, const auto&, const operations::AnyPlace&) {}
+void Describe(const auto&, const operations::Buffer&, const auto&, const operations::AnyPlace&) {}
 
-void Describe(const auto& call, const operations::NumberOut& role, auto* number, const auto&)
+void Describe(const auto& call, const operations::NumberOut& role, auto* number, const operations::AnyPlace&)
 {
     if (!call.failed)
         call.fields.NumberAt(role.name, number);
 }
 
-void Describe(const auto& call, const operations::ReasonOut& role, auto* number, const auto&)
+void Describe(const auto& call, const operations::ReasonOut& role, auto* number, const operations::AnyPlace&)
 {
     call.fields.NumberAt(role.name, number);
 }
 
-void Describe(const auto& call, const operations::NumberExchanged& role, auto* number, const auto&)
+void Describe(const auto& call, const operations::NumberExchanged& role, auto* number, const operations::AnyPlace&)
 {
     if (!call.failed)
         call.fields.NumberAt(role.name, number);
 }
 
-void Describe(const auto& call, const operations::SchemeExchanged& role, auto* number, const auto&)
+void Describe(const auto& call, const operations::SchemeExchanged& role, auto* number, const operations::AnyPlace&)
 {
     if (!call.failed)
         call.fields.NumberAt(role.name, number);
 }
 
 template <wrappers::HandleFamily family>
-void Describe(const auto& call, const operations::HandleOut<family>& role, auto* handle, const auto&)
+void Describe(const auto& call, const operations::HandleOut<family>& role, auto* handle, const operations::AnyPlace&)
 {
     if (!call.failed)
         call.fields.HandedOutAt(role.name, family, handle);
 }
 
-void Describe(const auto& call, const operations::ListOut&, auto** list, const auto&)
+void Describe(const auto& call, const operations::ListOut&, auto** list, const operations::AnyPlace&)
 {
     if (!call.failed && list != nullptr)
         DescribeList(call.fields, list);
 }
 
-void Describe(const auto& call, const operations::ProfileTextOut&, wchar_t** xml, const auto&)
+void Describe(const auto& call, const operations::ProfileTextOut&, wchar_t** xml, const operations::AnyPlace&)
 {
     if (!call.failed && xml != nullptr)
         DescribeText(call.fields, xml);
 }
 
-void Describe(const auto& call, const operations::SchemeOut&, GUID** scheme, const auto&)
+void Describe(const auto& call, const operations::SchemeOut&, GUID** scheme, const operations::AnyPlace&)
 {
     if (!call.failed && scheme != nullptr)
         DescribeScheme(call.fields, scheme);
@@ -153,13 +153,13 @@ void Describe(const auto& call, const operations::AnswerOut&, PVOID* data, const
         DescribeAnswer(call.fields, place.template Of<operations::Opcode>(), size, data);
 }
 
-void Describe(const auto& call, const operations::RecordOut&, auto* record, const auto&)
+void Describe(const auto& call, const operations::RecordOut&, auto* record, const operations::AnyPlace&)
 {
     if (!call.failed && record != nullptr)
         DescribeFields(call.fields, *record);
 }
 
-void Describe(const auto& call, const operations::WholeRecordOut& role, auto* record, const auto&)
+void Describe(const auto& call, const operations::WholeRecordOut& role, auto* record, const operations::AnyPlace&)
 {
     if (call.failed || record == nullptr)
         return;
@@ -222,7 +222,7 @@ void Describe(const auto& call, const operations::DestinationOut&, Character*& d
         {
             Character* const asked = std::exchange(destination, text.data());
             room = size;
-            call.again();
+            call.call.Forward();
             destination = asked;
             room = 0;
         }
@@ -244,7 +244,7 @@ void Describe(const auto& call, const operations::Callback&, WLAN_NOTIFICATION_C
                          {callback, place.template Neighbour<operations::after>()});
 }
 
-void Describe(const auto& call, const operations::Block&, PVOID block, const auto&)
+void Describe(const auto& call, const operations::Block&, PVOID block, const operations::AnyPlace&)
 {
     if (call.fields.isReading())
         call.tape.holdings().Release(block);

@@ -112,14 +112,14 @@ struct Recorder::Parts final : Tape
     {
     }
 
-    bool Pass(const TapedCall& call) override
+    bool Pass(TapedCall& call) override
     {
         ordered_json line = Begin(call);
-        call.forward();
+        call.Forward();
         const LastErrorKept kept;
         std::unique_lock lock(mutex);
         Fields results = Written(line, key::results);
-        call.results(results);
+        call.Describe(results);
         if (t_callbacks == 0)
         {
             changed.wait_for(lock, kPatience, [this] { return deliveries == 0; });
@@ -129,16 +129,16 @@ struct Recorder::Parts final : Tape
         return true;
     }
 
-    ordered_json Begin(const TapedCall& call)
+    ordered_json Begin(TapedCall& call)
     {
         const LastErrorKept kept;
         const std::lock_guard lock(mutex);
         ordered_json line;
-        line[key::call] = call.operation;
+        line[key::call] = call.operation();
         Fields arguments = Written(line, key::arguments);
-        call.arguments(arguments);
+        call.Give(arguments);
         if (t_callbacks == 0)
-            underWay.emplace_back(call.operation);
+            underWay.emplace_back(call.operation());
         changed.notify_all();
         return line;
     }
@@ -185,19 +185,19 @@ struct Recorder::Parts final : Tape
         changed.notify_all();
     }
 
-    void Remark(const char* operation, const char* text, const std::function<void()>& forward) override
+    void Remark(TapedCall& call, const char* text) override
     {
         {
             const LastErrorKept kept;
             const std::lock_guard lock(mutex);
             ordered_json line;
-            line[key::call] = operation;
+            line[key::call] = call.operation();
             Fields arguments = Written(line, key::arguments);
             arguments.GivenText("text", text);
             Written(line, key::results);
             Write(std::move(line));
         }
-        forward();
+        call.Forward();
     }
 
     Fields Written(ordered_json& line, const char* part)

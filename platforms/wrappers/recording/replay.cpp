@@ -41,7 +41,7 @@ struct Replay::Parts final : Tape
     {
     }
 
-    bool Pass(const TapedCall& call) override
+    bool Pass(TapedCall& call) override
     {
         while (const RecordedLine* const news = TakeNews(true))
             Tell(*news);
@@ -54,22 +54,22 @@ struct Replay::Parts final : Tape
     }
 
     /// The recorded call that is this one; null after a departure.
-    const RecordedLine* TakeCall(const TapedCall& call)
+    const RecordedLine* TakeCall(TapedCall& call)
     {
         ordered_json asked = ordered_json::object();
         std::unique_lock lock(mutex);
         if (trouble)
             return nullptr;
         Fields arguments(asked, Fields::Direction::writing, surroundings);
-        call.arguments(arguments);
+        call.Give(arguments);
         const RecordedLine* const next = Next();
-        if (next != nullptr && next->Has(key::call) && next->content[key::call] == call.operation &&
+        if (next != nullptr && next->Has(key::call) && next->content[key::call] == call.operation() &&
             next->content[key::arguments] == asked)
         {
             ++position;
             return next;
         }
-        const std::string does = "it calls " + CallText(call.operation, asked);
+        const std::string does = "it calls " + CallText(call.operation(), asked);
         lock.unlock();
         if (next != nullptr || recorded.complete)
             Depart(does, next);
@@ -106,18 +106,18 @@ struct Replay::Parts final : Tape
 
     const RecordedLine* Next() const { return position < recorded.lines.size() ? &recorded.lines[position] : nullptr; }
 
-    bool Answer(const RecordedLine& line, const TapedCall& call)
+    bool Answer(const RecordedLine& line, TapedCall& call)
     {
         try
         {
             ordered_json content = line.content[key::results];
             Fields results(content, Fields::Direction::reading, surroundings);
-            call.results(results);
+            call.Describe(results);
             return true;
         }
         catch (const Damage& damage)
         {
-            BeDamaged(line.number, "in " + std::string(call.operation) + ", " + damage.what());
+            BeDamaged(line.number, "in " + std::string(call.operation()) + ", " + damage.what());
             return false;
         }
     }
@@ -167,7 +167,7 @@ struct Replay::Parts final : Tape
         return listener;
     }
 
-    void Remark(const char*, const char*, const std::function<void()>&) override {}
+    void Remark(TapedCall&, const char*) override {}
 
     /// `line` is what the recording has there; null: its end.
     void Depart(const std::string& does, const RecordedLine* line)

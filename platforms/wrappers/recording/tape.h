@@ -2,18 +2,26 @@
 
 #include "wrappers/recording/fields.h"
 
-#include <functional>
-
 namespace calvix::recording
 {
 
 /// One call of a platform operation, described once for both directions.
-struct TapedCall
+class TapedCall
 {
-    const char* operation;
-    const std::function<void(Fields&)>& arguments; ///< only ever written
-    const std::function<void()>& forward;          ///< makes the call
-    const std::function<void(Fields&)>& results;   ///< written after the call, or read in its place
+public:
+    explicit TapedCall(const char* operation) : m_operation(operation) {}
+
+    const char* operation() const { return m_operation; }
+
+    virtual void Give(Fields& arguments) = 0;   ///< only ever written
+    virtual void Forward() = 0;                 ///< makes the call
+    virtual void Describe(Fields& results) = 0; ///< written after the call, or read in its place
+
+protected:
+    ~TapedCall() = default;
+
+private:
+    const char* m_operation;
 };
 
 /// What stands behind a taped platform: a recorder, which makes the calls and writes them down, or a replay, which answers
@@ -26,7 +34,7 @@ public:
     Holdings& holdings() { return m_holdings; }
 
     /// False where the call has no answer.
-    virtual bool Pass(const TapedCall& call) = 0;
+    virtual bool Pass(TapedCall& call) = 0;
 
     /// A registration for notifications, through which they pass.
     struct Listener
@@ -40,7 +48,7 @@ public:
 
     /// A text for the debugger, which a recording tells of and a replay does without: a session may be replayed with
     /// tracing on that was recorded with tracing off.
-    virtual void Remark(const char* operation, const char* text, const std::function<void()>& forward) = 0;
+    virtual void Remark(TapedCall& call, const char* text) = 0;
 
 protected:
     explicit Tape(Holdings::Source source) : m_holdings(source) {}

@@ -8,6 +8,77 @@
 namespace calvix::recording
 {
 
+/// A call of one operation on its way through a tape.
+template <typename Description, typename... Arguments>
+class TapedOperation final : public TapedCall
+{
+public:
+    using Result = typename Description::Result;
+
+    TapedOperation(const Description& operation, Tape& tape, platform::Platform* inner, Arguments&... arguments)
+        : TapedCall(operation.name), m_operation(operation), m_tape(tape), m_inner(inner), m_values(arguments...)
+    {
+    }
+
+    Result Pass()
+    {
+        if constexpr (std::is_same_v<typename Description::Facility, platform::DebuggerOutput>)
+            m_tape.Remark(*this, std::get<0>(m_values));
+        else if (!m_tape.Pass(*this))
+            m_result = NoAnswerOf();
+        if constexpr (!std::is_void_v<Result>)
+            return m_result;
+    }
+
+    void Give(Fields& arguments) override
+    {
+        operations::ForEachArgument(m_operation, m_values,
+                                    [&](const auto& role, const auto& argument, const auto& place)
+                                    { recording::Give(arguments, role, argument, place); });
+    }
+
+    void Forward() override
+    {
+        operations::ForEachArgument(m_operation, m_values,
+                                    [this](const auto& role, auto& argument, const auto& place)
+                                    { Prepare(m_tape, role, argument, place); });
+        const auto call = [this](Arguments&... arguments) { return (m_inner->*Description::member)(arguments...); };
+        if constexpr (std::is_void_v<Result>)
+            std::apply(call, m_values);
+        else
+            m_result = std::apply(call, m_values);
+    }
+
+    void Describe(Fields& results) override
+    {
+        if constexpr (!std::is_void_v<Result>)
+            DescribeResult(results, m_result, m_values, m_inner);
+        const CallOnTape<Held> call{results, m_tape, HasFailed(), m_result, *this};
+        operations::ForEachArgument(m_operation, m_values,
+                                    [&](const auto& role, auto& argument, const auto& place)
+                                    { recording::Describe(call, role, argument, place); });
+    }
+
+private:
+    using Held = std::conditional_t<std::is_void_v<Result>, int, Result>;
+
+    Held NoAnswerOf() const { return NoAnswer<Held>(m_operation.fails); }
+
+    bool HasFailed() const
+    {
+        if constexpr (std::is_pointer_v<Held>)
+            return operations::HasFailed(m_operation.fails, m_result != nullptr ? 1 : 0);
+        else
+            return operations::HasFailed(m_operation.fails, static_cast<long long>(m_result));
+    }
+
+    const Description& m_operation;
+    Tape& m_tape;
+    platform::Platform* m_inner;
+    std::tuple<Arguments&...> m_values;
+    Held m_result = NoAnswerOf();
+};
+
 /// A platform whose calls all pass a tape. `inner` is where they go while recording, and null in a replay.
 class TapedPlatform final : public platform::Platform
 {
@@ -23,82 +94,10 @@ public:
     template <typename Description, typename... Arguments>
     typename Description::Result Answer(const Description& operation, Arguments... arguments)
     {
-        const std::tuple<Arguments&...> values(arguments...);
-        const std::function<void(Fields&)> give = [&](Fields& fields)
-        {
-            operations::ForEachArgument(operation, values,
-                                        [&](const auto& role, const auto& argument, const auto& place)
-                                        { Give(fields, role, argument, place); });
-        };
-        const auto call = [&]
-        {
-            operations::ForEachArgument(operation, values,
-                                        [&](const auto& role, auto& argument, const auto& place)
-                                        { Prepare(m_tape, role, argument, place); });
-            return (m_inner->*Description::member)(arguments...);
-        };
-        if constexpr (std::is_void_v<typename Description::Result>)
-            PassWithoutResult(operation, values, give, call);
-        else
-            return PassWithResult(operation, values, give, call);
+        return TapedOperation<Description, Arguments...>(operation, m_tape, m_inner, arguments...).Pass();
     }
 
 private:
-    template <typename Description, typename... Values>
-    void PassWithoutResult(const Description& operation,
-                           const std::tuple<Values&...>& values,
-                           const std::function<void(Fields&)>& give,
-                           const std::function<void()>& forward)
-    {
-        int nothing = 0;
-        const std::function<void(Fields&)> results = [&](Fields& fields)
-        { DescribeHandedOut(operation, values, fields, nothing, forward); };
-        if constexpr (std::is_same_v<typename Description::Facility, platform::DebuggerOutput>)
-            m_tape.Remark(operation.name, std::get<0>(values), forward);
-        else
-            m_tape.Pass({operation.name, give, forward, results});
-    }
-
-    template <typename Description, typename... Values, typename Call>
-    typename Description::Result PassWithResult(const Description& operation,
-                                                const std::tuple<Values&...>& values,
-                                                const std::function<void(Fields&)>& give,
-                                                const Call& call)
-    {
-        using Result = typename Description::Result;
-        const Result noAnswer = NoAnswer<Result>(operation.fails);
-        Result result = noAnswer;
-        const std::function<void()> forward = [&] { result = call(); };
-        const std::function<void(Fields&)> results = [&](Fields& fields)
-        {
-            DescribeResult(fields, result, values, m_inner);
-            DescribeHandedOut(operation, values, fields, result, call);
-        };
-        return m_tape.Pass({operation.name, give, forward, results}) ? result : noAnswer;
-    }
-
-    template <typename Description, typename... Values, typename Result, typename Call>
-    void DescribeHandedOut(const Description& operation,
-                           const std::tuple<Values&...>& values,
-                           Fields& fields,
-                           Result& result,
-                           const Call& callAgain)
-    {
-        const CallOnTape call{fields, m_tape, HasFailed(operation, result), result, callAgain};
-        operations::ForEachArgument(operation, values,
-                                    [&](const auto& role, auto& argument, const auto& place)
-                                    { Describe(call, role, argument, place); });
-    }
-
-    template <typename Result>
-    static bool HasFailed(const operations::Facts& operation, const Result& result)
-    {
-        if constexpr (std::is_pointer_v<Result>)
-            return operations::HasFailed(operation.fails, result != nullptr ? 1 : 0);
-        else
-            return operations::HasFailed(operation.fails, static_cast<long long>(result));
-    }
-
     Tape& m_tape;
     platform::Platform* m_inner;
 };
