@@ -1,5 +1,6 @@
 #include "forms/utf8.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace calvix::forms
@@ -123,6 +124,13 @@ Result Convert(Source source, bool* illFormed, Next next, Append append)
 
 std::wstring WideFromUtf8(std::string_view text, bool* illFormed)
 {
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::all_of(text.begin(), text.end(), isAscii)) // as most texts are
+    {
+        if (illFormed != nullptr)
+            *illFormed = false;
+        return {text.begin(), text.end()};
+    }
     return Convert<std::wstring>(text, illFormed, NextCharacter, AppendWide);
 }
 

@@ -5,13 +5,6 @@
 #include <cstring>
 #include <new>
 
-#if defined(__SANITIZE_ADDRESS__)
-#define CALVIX_ADDRESS_SANITIZER 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define CALVIX_ADDRESS_SANITIZER 1
-#endif
-#endif
 #ifdef CALVIX_ADDRESS_SANITIZER
 #include <sanitizer/asan_interface.h>
 #endif

@@ -35,15 +35,16 @@ struct Refused
     throw Refused{{error, reason}};
 }
 
+/// The parser descends once for each level, so it must not meet too many.
 bool IsNestedTooDeep(std::string_view xml)
 {
     int depth = 0;
-    for (std::size_t at = 0; at + 1 < xml.size() && depth <= deepestNesting; ++at)
+    for (std::size_t at = xml.find('<'); at != std::string_view::npos && depth <= deepestNesting; at = xml.find('<', at + 1))
     {
-        const std::string_view mark = xml.substr(at, 2);
-        if (mark == "</" || mark == "/>")
+        const std::string_view tag = xml.substr(at, xml.find('>', at) - at);
+        if (tag.starts_with("</"))
             --depth;
-        else if (xml[at] == '<' && xml[at + 1] != '!' && xml[at + 1] != '?')
+        else if (!tag.starts_with("<!") && !tag.starts_with("<?") && !tag.ends_with('/'))
             ++depth;
     }
     return depth > deepestNesting;

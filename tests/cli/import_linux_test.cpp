@@ -225,7 +225,7 @@ TEST(ImportNmcli, WhatCannotBeUsedIsTold)
     for (const auto& [text, told] : cases)
     {
         NetworksCapture capture;
-        const std::string complaint = Complaint([&] { capture = ReadNetworks(text); });
+        const std::string complaint = Complaint([&, &input = text] { capture = ReadNetworks(input); });
         EXPECT_TRUE(complaint.find(told) == 0 || Tells(capture, told)) << told << ", but: " << complaint;
     }
 }

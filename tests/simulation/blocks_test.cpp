@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef CALVIX_ADDRESS_SANITIZER
 #include <sanitizer/asan_interface.h>
 #endif
 
@@ -58,7 +58,7 @@ TEST(Blocks, NoticeAWriteAfterFreeOnce)
     blocks.Free(block);
     blocks.CheckFreed();
     EXPECT_EQ(defects, Defects{});
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef CALVIX_ADDRESS_SANITIZER
     __asan_unpoison_memory_region(block, 64); // the write is to get as far as the check
 #endif
     std::memset(block + 63, 1, 1);
@@ -67,7 +67,7 @@ TEST(Blocks, NoticeAWriteAfterFreeOnce)
     EXPECT_EQ(defects, Defects{"write into freed BSS list"});
 }
 
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef CALVIX_ADDRESS_SANITIZER
 TEST(Blocks, FreedBlocksAndWhatFollowsABlockCannotBeTouchedUnderTheSanitizer)
 {
     Defects defects;

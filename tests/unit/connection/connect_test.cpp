@@ -354,11 +354,11 @@ TEST_F(ConnectTest, ReconnectChoosesTheLastAccessPointThatBeatsTheFirst)
         {
             UseWorld(HomeNetFrom(qualities.size()));
             EditedAnswers edited;
-            edited.service.bssList = [&qualities](WLAN_BSS_LIST& list, unsigned)
+            edited.service.bssList = [&answers = qualities](WLAN_BSS_LIST& list, unsigned)
             {
-                ASSERT_EQ(qualities.size(), list.dwNumberOfItems);
-                for (std::size_t i = 0; i < qualities.size(); ++i)
-                    list.wlanBssEntries[i].uLinkQuality = qualities[i];
+                ASSERT_EQ(answers.size(), list.dwNumberOfItems);
+                for (std::size_t i = 0; i < answers.size(); ++i)
+                    list.wlanBssEntries[i].uLinkQuality = answers[i];
             };
             EXPECT_EQ(0, reconnect(manager(), kHome, 20)) << name;
             EXPECT_EQ(ConnectLine("HomeNet", "[02:00:00:00:00:0" + std::to_string(chosen) + "]", "infrastructure"),
