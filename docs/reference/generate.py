@@ -348,10 +348,13 @@ def write_pages(families, links, out):
     text = text.replace("@FAMILIES@", "\n".join(
         f"- @ref family_{name} \"{family['title']}\": {len(family['methods'])} methods"
         for name, family in families.items()))
-    guides = [path for path in PAGES if path.parent.name == "guides" and path.name != "README.md"]
+    # The guides in reading order, each with its line.
+    guides = re.findall(r"^\| \[.*\]\((.*)\) \| (.*) \|$", (ROOT / "docs/guides/README.md").read_text(encoding="utf-8"), re.M)
+    guides = {ROOT / "docs/guides" / name: line for name, line in guides}
     others = [path for path in PAGES if path.parent.name != "guides"]
-    for name, paths in (("@GUIDES@", guides), ("@PAGES@", others)):
-        text = text.replace(name, "\n".join(f'- @ref {page_label(path)} "{title_of(path)}"' for path in paths))
+    for name, lines in (("@GUIDES@", guides), ("@PAGES@", dict.fromkeys(others))):
+        text = text.replace(name, "\n".join(
+            f'- @ref {page_label(path)} "{title_of(path)}"' + (f": {line}" if line else "") for path, line in lines.items()))
     (out / "mainpage.md").write_text(text, encoding="utf-8")
 
 
