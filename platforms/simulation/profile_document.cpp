@@ -39,7 +39,8 @@ struct Refused
 bool IsNestedTooDeep(std::string_view xml)
 {
     int depth = 0;
-    for (std::size_t at = xml.find('<'); at != std::string_view::npos && depth <= deepestNesting; at = xml.find('<', at + 1))
+    for (std::size_t at = xml.find('<'); at != std::string_view::npos && depth <= deepestNesting;
+         at = xml.find('<', at + 1))
     {
         const std::string_view tag = xml.substr(at, xml.find('>', at) - at);
         if (tag.starts_with("</"))

@@ -11,10 +11,6 @@ inline constexpr int kWeakestRssi = -100;
 /// dBm that a signal quality stands for; the inverse of StrengthOfRssi but for the integer division.
 inline int RssiOfQuality(unsigned long quality)
 {
-    if (quality == 0)
-        return kWeakestRssi;
-    if (quality == 100)
-        return -50;
     return static_cast<int>(quality / 2) + kWeakestRssi;
 }
 

@@ -311,6 +311,12 @@ AnswerChanges ConnectionOf(std::size_t bytes)
     return {.query = [bytes](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = static_cast<DWORD>(bytes); }};
 }
 
+TEST_F(HostileRecordsTest, AConnectionLongerThanItsRecordIsNotSaved)
+{
+    const AlteredAnswers altered(ConnectionOf(sizeof(WLAN_CONNECTION_ATTRIBUTES) + 1));
+    ExpectFatal([&] { manager().SaveCurrentConnectionAttributes(&kAdapterA); }, "SaveCurrentConnectionAttributes");
+}
+
 // Whoever reads a member that did not come has not been answered; nobody reads past the answer.
 TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
 {

@@ -24,8 +24,9 @@ protected:
     std::string ToHex(const std::string& text, int length, bool reversed)
     {
         std::vector<unsigned char> room(static_cast<std::size_t>(length) + 1, 0x5A);
-        unsigned char* const result =
-            manager().StringToHex(text.data(), static_cast<int>(text.size()), room.data(), length, reversed);
+        const std::string neighbours = "7" + text + "7"; // digits that are not to be read
+        unsigned char* const result = manager().StringToHex(neighbours.data() + 1, static_cast<int>(text.size()),
+                                                            room.data(), length, reversed);
         EXPECT_EQ(room.data(), result);
         EXPECT_EQ(0x5A, room.back()) << "written past the destination";
         room.pop_back();
