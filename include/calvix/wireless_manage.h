@@ -10,8 +10,8 @@
 struct _WIFI_TXRX_COUNT
 {
     unsigned long long ullTransmitted; ///< unicast frames transmitted
-    unsigned long long ullSpare1;      ///< never written: keeps what the caller put in
-    unsigned long long ullSpare2;      ///< never written: keeps what the caller put in
+    unsigned long long ullSpare1;      ///< never written: keeps the caller's value
+    unsigned long long ullSpare2;      ///< never written: keeps the caller's value
     unsigned long long ullReceived;    ///< unicast frames received
 };
 
@@ -20,53 +20,53 @@ namespace calvix
 struct ManagerInternals; // the library's own tests
 } // namespace calvix
 
-/// Wi-Fi management: one object in front of the WLAN service.
+/// Manages Wi-Fi through the WLAN service. There is one object.
 ///
-/// Get gives the object, Delete ends it. For all methods:
+/// Get returns the object, Delete destroys it. For all methods:
 ///
-/// - Adapters are named by their GUID, as GetWlanInterface lists it, and looked up afresh in each call. A method
-///   without a GUID works on the first adapter that the service lists.
-/// - The client handle of the service is shared by all methods and opened by the first that needs it (WlanOpenHandle).
-/// - Result codes are each method's own: the same failure has different numbers in different methods. The command
-///   `calvix explain METHOD CODE` says what to do about one. A failure leaves the outputs as they were, where the
-///   method does not say otherwise.
-/// - Null pointers: a null interface GUID, description or profile name names none. Where a list of codes does not name
-///   null pointers, a null record or container gives -13 when it is an output and -14 when it is an input, before
-///   anything else is done.
-/// - An answer of the service that is missing, or ends before what the method reads of it, is a failed query. "The
-///   platform's error number" is then 13 or 24, which the platform never gave. A record that is handed on unread is
-///   copied as far as it came.
-/// - A fatal caller error ends the process: what happened and where goes to the debugger and to standard error, then
-///   the process aborts. The methods name theirs.
-/// - Nothing throws. Where memory runs out, a method ends as it does when the list that it works on cannot be obtained:
-///   with that code (8, the platform's number for it, where a platform error number is the result), false, 0 or null,
-///   and with its outputs as they are then.
-/// - Lists and records of the service are released before a method returns. What a method hands out lies in the
-///   caller's own buffers and containers, or is text inside the object: valid until the same method is called again or
-///   Delete, never freed by the caller.
-/// - Nothing waits, where the method does not say otherwise: an accepted scan or connection request is not a finished
-///   one.
-/// - The service refuses the query for the current connection when there is none, and when location access is denied.
-///   It refuses scans and lists of networks in the latter case, too.
-/// - Failures are formatted as trace lines, which reach the debugger (OutputDebugStringA) while tracing is on. Nothing
-///   in the library switches it on.
-/// - Narrow text is in the active code page. What a method gives in the current C locale, and names in traces, have '?'
-///   for each character that the locale lacks. Wide text is terminated. Capacities count the terminator. Names and
-///   SSIDs are compared whole and exactly, upper and lower case included.
-/// - Threading: no locks. Callers serialise their calls; every call runs on the caller's thread.
+/// - An adapter is identified by its GUID, which GetWlanInterface lists. Each call looks it up again. A method without
+///   a GUID uses the first adapter that the service lists.
+/// - All methods share the client handle of the service. The first method that needs it opens it (WlanOpenHandle).
+/// - Each method has its own result codes: the same failure has different numbers in different methods. The command
+///   `calvix explain METHOD CODE` explains a code and says what to do. A failure leaves the outputs unchanged, unless
+///   the method says otherwise.
+/// - Null pointers: a null interface GUID, description or profile name is not found. If a method does not list null
+///   pointers, it returns -13 for a null output record or container and -14 for a null input, before it does anything
+///   else.
+/// - If the service returns no answer, or a shorter one than the method reads, the query has failed. "The platform's
+///   error number" is then 13 or 24, which is the library's choice. A record that the method does not read is copied up
+///   to its end.
+/// - A fatal caller error ends the process: the library writes what happened and where to the debugger and to standard
+///   error, then aborts. Each method lists its own.
+/// - No method throws. If memory runs out, a method fails as if it could not read its list: it returns the same code
+///   (8, the platform's number, if its result is a platform error number), false, 0 or null, and leaves its outputs as
+///   in that case.
+/// - A method releases the lists and records of the service before it returns. Its outputs are in the caller's buffers
+///   and containers, or are text inside the object. Such text is valid until the next call of the same method or
+///   Delete; the caller must not free it.
+/// - No method waits, unless it says otherwise: success means that the service accepted the scan or connection request,
+///   not that it is complete.
+/// - The service refuses to return the current connection if there is none, or if location access is denied. If
+///   location access is denied, it also refuses scans and lists of networks.
+/// - The library formats failures as trace lines and writes them to the debugger (OutputDebugStringA) while tracing is
+///   on. The library never switches tracing on.
+/// - Narrow text is in the active code page. Text in the current C locale, and names in traces, have '?' for each
+///   character that the locale lacks. Wide text is terminated. Capacities count the terminator. Comparisons of names
+///   and SSIDs are exact and case-sensitive.
+/// - Threading: the object has no locks. Call it from one thread at a time; every call runs on the caller's thread.
 class CALVIX_API CWirelessManage
 {
 public:
     // --- Frame --------------------------------------------------------------------------------------------------
 
-    /// Gives the one object, which the first call creates. Opens the client handle when it is not open
-    /// (WlanOpenHandle); a failure is only traced, and the next method that needs the handle tries again.
+    /// Returns the one object; the first call creates it. Opens the client handle if it is not open (WlanOpenHandle). A
+    /// failure is only traced, and the next method that needs the handle tries again.
     /// @return the object; null only when there is no memory for it
     static CWirelessManage* Get();
 
     /// Closes the client handle (WlanCloseHandle), which ends the registration for notifications, and destroys the
-    /// object with the saved connection, the saved power policy and its texts. The closed handle's value is kept: later
-    /// calls through a new object pass it on and report the service's error for a closed handle (6).
+    /// object with the saved connection, the saved power policy and its texts. The value of the closed handle is kept:
+    /// later calls through a new object use it and report the service's error for a closed handle (6).
     static void Delete();
 
     /// Copies the whole object. There is only one, so it can only be assigned to itself.
@@ -74,64 +74,66 @@ public:
     /// @return this object
     CWirelessManage& operator=(const CWirelessManage& other);
 
-    /// Zeroes the object from its beginning: the saved connection, its connection mode and every text handed out.
-    /// @param[in] byteCount how many bytes; more than the object has mean all of it
+    /// Zeroes the object from its beginning: the saved connection, its connection mode and every text that it returned.
+    /// @param[in] byteCount the number of bytes; a number above the object's size clears all of it
     void __autoclassinit2(unsigned long long byteCount);
 
     // --- Adapters -----------------------------------------------------------------------------------------------
 
-    /// Starts the WLAN service ("WlanSvc") if it does not run (OpenSCManagerA, OpenServiceA, QueryServiceStatus,
-    /// StartServiceA). Reports nothing and checks no step. It needs the rights to control services, and does not wait
+    /// Starts the WLAN service ("WlanSvc") if it is not running (OpenSCManagerA, OpenServiceA, QueryServiceStatus,
+    /// StartServiceA). Returns no result and checks no step. It needs the rights to control services, and does not wait
     /// until the service runs.
     void CheckAutoConfig();
 
-    /// Gives the state of an adapter (WlanEnumInterfaces). If the service lists a GUID twice, the last entry counts.
+    /// Returns the state of an adapter (WlanEnumInterfaces). If the service lists a GUID twice, the last entry counts.
     /// @return a WLAN_INTERFACE_STATE; -1 no such adapter, -2 client handle not opened, -3 enumeration failed, -4 no
     /// adapter
     int GetWlanStatus(const GUID* pInterfaceGuid);
 
-    /// Tells whether an adapter is connected: whether GetWlanStatus gives 1.
+    /// Checks whether an adapter is connected: whether GetWlanStatus returns 1.
     /// @return true when it is connected; false otherwise and on every failure
     bool GetWlanIsLink(const GUID* pInterfaceGuid);
 
-    /// Gives the English words of an adapter's state, such as "disconnected", or "unknown(N)" for any other number N.
+    /// Returns the English words for an adapter's state, such as "disconnected", or "unknown(N)" for any other number
+    /// N.
     /// @param[in] state a WLAN_INTERFACE_STATE
     /// @return text inside the object
     char* GetWlanInterfaceState(unsigned long state);
 
-    /// Finds the adapter of a description (WlanEnumInterfaces). Of several with the same one, the first is found.
+    /// Finds an adapter by its description (WlanEnumInterfaces). If several adapters have the same description, finds
+    /// the first.
     /// @param[in] description the whole description, wide text; null is not found
     /// @param[out] guid the adapter's GUID
     /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 no such description
     long GetWlanInterfaceGuid(const wchar_t* description, GUID& guid);
 
-    /// Gives the text of a GUID, "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" in upper case.
+    /// Returns the text of a GUID, "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" in upper case.
     /// @param[in] guid any GUID
     /// @return text inside the object
     char* GUID2String(const GUID& guid);
 
-    /// Gives the description of an adapter (WlanEnumInterfaces), converted as by UnicodeToAnsi and cut to 255 bytes.
-    /// The first description found is kept for good: every later call returns it, whatever its GUID.
+    /// Returns the description of an adapter (WlanEnumInterfaces), converted as by UnicodeToAnsi and cut to 255 bytes.
+    /// The first description found is kept: every later call returns it, for any GUID.
     /// @return text inside the object; empty when the adapter was not found and on every failure
     char* GetWlanInterfaceDesc(const GUID* pInterfaceGuid);
 
-    /// Counts the adapters (WlanEnumInterfaces). No adapter is no failure here.
+    /// Counts the adapters (WlanEnumInterfaces). Having no adapter is not a failure here.
     /// @return the number, 0 included; -2 client handle not opened, -3 enumeration failed
     int GetWiFiAdapterCount();
 
     /// Lists the adapters (WlanEnumInterfaces).
-    /// @param[out] pList one record for each adapter, in the service's order, in place of what it held; a failure, also
-    /// that there is no adapter, leaves it alone
+    /// @param[out] pList one record for each adapter, in the service's order, replacing the previous content; unchanged
+    /// after a failure, including -3
     /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -13 null output
     long GetWlanInterface(std::vector<WLAN_INTERFACE_INFO>* pList);
 
     // --- Text, SSID and address conversions ---------------------------------------------------------------------
     // They need no client handle and write no trace.
 
-    /// Converts wide to narrow text (WideCharToMultiByte). A character that the code page lacks ends the text. Where
-    /// the active code page is UTF-8, every conversion fails, as the platform takes no such character for it.
+    /// Converts wide to narrow text (WideCharToMultiByte). A character that the code page lacks ends the text. If the
+    /// active code page is UTF-8, every conversion fails, because the platform accepts no replacement character for it.
     /// @param[in] source wide text; null cannot be converted
-    /// @param[out] destination narrow text; taken to hold 1024 bytes, whatever its size
+    /// @param[out] destination narrow text; must hold 1024 bytes
     /// @return whether the text was converted; false also when it needs more than 1024 bytes
     bool UnicodeToAnsi(const wchar_t* source, char* destination);
 
@@ -143,28 +145,28 @@ public:
     /// @return bytes that the text needs, terminator included; 0 when it cannot be converted
     int WideCharToChar(const wchar_t* source, char* destination, int capacity);
 
-    /// Gives an SSID as narrow text (MultiByteToWideChar, WideCharToMultiByte). The SSID ends at its first zero byte;
-    /// characters that the code page lacks become its replacement character. A null SSID, or a length above 64, is a
-    /// fatal caller error.
+    /// Converts an SSID to narrow text (MultiByteToWideChar, WideCharToMultiByte). The SSID ends at its first zero
+    /// byte; characters that the code page lacks become its replacement character. A null SSID, or a length above 64,
+    /// is a fatal caller error.
     /// @param[in] pSsid the SSID, taken as UTF-8
-    /// @param[out] destination narrow text, cut where it does not fit and terminated; left alone when the SSID cannot
-    /// be converted
+    /// @param[out] destination narrow text, cut where it does not fit and terminated; unchanged when the SSID cannot be
+    /// converted
     /// @param[in] capacity bytes at destination; with 0 nothing is written, below 0 the empty text
     /// @return 1, also when the text was cut or not written; 0 when the SSID cannot be converted
     int GetSSID(const DOT11_SSID* pSsid, char* destination, int capacity);
 
-    /// Gives an SSID as wide text (MultiByteToWideChar), by the rules of the narrow form.
+    /// Converts an SSID to wide text (MultiByteToWideChar), by the rules of the narrow form.
     /// @param[in] pSsid the SSID, taken as UTF-8
-    /// @param[out] destination wide text, cut where it does not fit and terminated; left alone when the SSID cannot be
+    /// @param[out] destination wide text, cut where it does not fit and terminated; unchanged when the SSID cannot be
     /// converted
     /// @param[in] capacity characters at destination; with 0 nothing is written, below 0 the empty text
     /// @return as GetSSID into narrow text
     int GetSSID(const DOT11_SSID* pSsid, wchar_t* destination, int capacity);
 
-    /// Turns hexadecimal text into bytes, two characters each from the end of the text; of an odd number the first
-    /// makes a byte of its own. A character that is no digit is not refused, but gives some byte. What does not fit is
-    /// left out.
-    /// @param[in] text digits of either case; null has none
+    /// Converts hexadecimal text to bytes, in pairs of characters from the end of the text. If the number of characters
+    /// is odd, the first is a byte of its own. Invalid characters are not rejected; their bytes are arbitrary. Bytes
+    /// that do not fit are left out.
+    /// @param[in] text digits in upper or lower case; null means no digits
     /// @param[in] textLength how many
     /// @param[out] destination the bytes; the rest is zero
     /// @param[in] destinationLength bytes at destination
@@ -173,8 +175,8 @@ public:
     unsigned char*
     StringToHex(const char* text, int textLength, unsigned char* destination, int destinationLength, bool reversed);
 
-    /// Turns bytes into upper-case hexadecimal text, padded with '0' to the capacity.
-    /// @param[in] bytes what to show; null shows none
+    /// Converts bytes to upper-case hexadecimal text, padded with '0' to the capacity.
+    /// @param[in] bytes the bytes; null means no bytes
     /// @param[in] count how many
     /// @param[out] destination the text. Left-aligned: all 2 x count digits are written, whatever the capacity; the
     /// last place of the capacity holds a terminator, unless a digit lies there. Right-aligned: the digits end in the
@@ -186,7 +188,7 @@ public:
     /// @return destination
     char* HexToString(const unsigned char* bytes, int count, char* destination, int capacity, bool fromStart);
 
-    /// Turns text into the hexadecimal text of its characters, whose top bits are dropped.
+    /// Converts text to the hexadecimal text of its characters, without their top bits.
     /// @param[in] text ASCII text; null has no characters
     /// @param[in] textLength characters of it
     /// @param[out] destination upper-case digits, right-aligned as by HexToString
@@ -196,7 +198,7 @@ public:
 
     /// Writes an address as "00:1A:2B:3C:4D:5E". A null pointer writes nothing.
     /// @param[in] address six bytes
-    /// @param[out] destination 17 characters and the terminator; no size is tested
+    /// @param[out] destination 17 characters and the terminator; the size is not checked
     void FormMAC(const unsigned char* address, char* destination);
 
     /// Writes an address as FormMAC does, within a capacity. A null address is a fatal caller error.
@@ -207,52 +209,51 @@ public:
 
     // --- Notifications ------------------------------------------------------------------------------------------
 
-    /// Has a callback called with the notifications of the service's automatic configuration
-    /// (WlanRegisterNotification), in place of what was registered before: there is one registration for the process.
-    /// It lasts until UnRegisterNotification or Delete.
+    /// Registers a callback for the notifications of the service's automatic configuration (WlanRegisterNotification).
+    /// It replaces the previous one: the process has one registration, until UnRegisterNotification or Delete.
     /// @param[in] callback called on a thread of the service, also while a method runs; its record belongs to the
-    /// service and ends with the call. It must not call UnRegisterNotification
-    /// @param[in] context handed to the callback as it is
+    /// service and is valid during the call only. It must not call UnRegisterNotification
+    /// @param[in] context passed to the callback unchanged
     /// @return 0, or the platform's error number
     int RegisterNotification(WLAN_NOTIFICATION_CALLBACK callback, void* context);
 
     /// Ends the registration (WlanRegisterNotification) and waits for a callback that is running.
-    /// @param[in] callback not looked at: whichever is registered ends
-    /// @param[in] context handed to the service
+    /// @param[in] callback ignored: the registered callback is removed
+    /// @param[in] context passed to the service
     /// @return 0, or the platform's error number
     int UnRegisterNotification(WLAN_NOTIFICATION_CALLBACK callback, void* context);
 
     // --- Radio --------------------------------------------------------------------------------------------------
-    // Only the adapter's first PHY is looked at, and only its software switch is set. A radio is off when one of its
-    // two switches, software and hardware, says off; a switch that is unknown does not count as off.
+    // These methods read only the adapter's first PHY, and set only its software switch. A radio is off if its software
+    // or its hardware switch is off; an unknown switch does not count as off.
 
-    /// Tells whether the radio is on (WlanQueryInterface).
+    /// Checks whether the radio is on (WlanQueryInterface).
     /// @return 1 when it is on; 0 when it is off and on every failure
     int PhyRadioIsOn(const GUID* pInterfaceGuid);
 
-    /// Tells whether the radio is on (WlanQueryInterface), with codes for the failures.
+    /// Checks whether the radio is on (WlanQueryInterface), with codes for the failures.
     /// @return 1 when it is on, 0 when it is off; -1 client handle not opened, -4 radio query refused, -5 no PHY
     long PhyRadioIsOn2(const GUID* pInterfaceGuid);
 
-    /// Tells whether the radio is on (WlanQueryInterface), and both switches.
+    /// Checks whether the radio is on (WlanQueryInterface), and returns both switches.
     /// @param[out] softwareState a DOT11_RADIO_STATE
     /// @param[out] hardwareState a DOT11_RADIO_STATE
     /// @return as PhyRadioIsOn2 without outputs
     long PhyRadioIsOn2(const GUID* pInterfaceGuid, unsigned int& softwareState, unsigned int& hardwareState);
 
-    /// Tells whether the radio is off (WlanQueryInterface).
+    /// Checks whether the radio is off (WlanQueryInterface).
     /// @return 1 when it is off; 0 when it is on and on every failure
     int PhyRadioTurnedOff(const GUID* pInterfaceGuid);
 
-    /// Tells whether the radio is off (WlanQueryInterface), with codes for the failures.
+    /// Checks whether the radio is off (WlanQueryInterface), with codes for the failures.
     /// @return 1 when it is off, 0 when it is on; -1 client handle not opened, -4 radio query refused, -5 no PHY
     long PhyRadioTurnedOff2(const GUID* pInterfaceGuid);
 
-    /// Tells whether the adapter supports safe mode (WlanQueryInterface).
+    /// Checks whether the adapter supports safe mode (WlanQueryInterface).
     /// @return the platform's boolean; -2 client handle not opened, -5 safe-mode query refused
     int SupportedSafeMode(const GUID* pInterfaceGuid);
 
-    /// Switches the software radio on (WlanSetInterface). Where the hardware switch is off, the radio stays off.
+    /// Switches the software radio on (WlanSetInterface). If the hardware switch is off, the radio stays off.
     /// @return 0; -1 client handle not opened, -4 switch refused
     int RadioTurnOn(const GUID* pInterfaceGuid);
 
@@ -260,8 +261,8 @@ public:
     /// @return as RadioTurnOn
     int TurnOnSoftwareRadio(const GUID* pInterfaceGuid);
 
-    /// Switches the software radio on and tells the platform's error.
-    /// @param[out] dwError the platform's error number after a failure; success leaves it alone
+    /// Switches the software radio on and returns the platform's error.
+    /// @param[out] dwError the platform's error number after a failure; unchanged after success
     /// @return as RadioTurnOn
     int TurnOnSoftwareRadio(const GUID* pInterfaceGuid, unsigned long& dwError);
 
@@ -273,37 +274,38 @@ public:
     /// @return 0, whether or not the switches were accepted; -1 client handle not opened
     int ResetWiFiRadio(const GUID* pInterfaceGuid);
 
-    /// Switches the radio off and on as RadioTurnOff and RadioTurnOn do, and waits after each until the adapter reports
-    /// it, asking up to ten times, a second apart. Reports nothing.
+    /// Switches the radio off and on as RadioTurnOff and RadioTurnOn do, and after each waits until the adapter reports
+    /// the change: it queries the adapter up to ten times, once a second. Returns no result.
     void RestartWiFiRadio(const GUID* pInterfaceGuid);
 
     // --- Interface settings -------------------------------------------------------------------------------------
 
-    /// Switches automatic configuration on (WlanSetInterface), so that the adapter connects by itself. No method
-    /// switches it off.
+    /// Switches automatic configuration on (WlanSetInterface), so that the adapter connects by itself. There is no
+    /// method to switch it off.
     /// @return 0, or the platform's error number
     int EnableAutoCfg(const GUID* pInterfaceGuid);
 
-    /// Switches background scanning on (WlanSetInterface). No method switches it off.
+    /// Switches background scanning on (WlanSetInterface). There is no method to switch it off.
     /// @return 0, or the platform's error number
     int EnableBackgroundScan(const GUID* pInterfaceGuid);
 
-    /// Gives the service's power-saving level (WlanQueryAutoConfigParameter).
-    /// @param[out] level a WLAN_POWER_SETTING; left alone when the query is refused
+    /// Returns the service's power-saving level (WlanQueryAutoConfigParameter).
+    /// @param[out] level a WLAN_POWER_SETTING; unchanged when the query is refused
     /// @return 0, also when the query is refused; the platform's error number when the client handle was not opened
     int GetPowerSetting(unsigned long& level);
 
-    /// Does nothing, on purpose.
-    /// @param[in] level not looked at
+    /// Does nothing. This is deliberate.
+    /// @param[in] level ignored
     /// @return always 0
     int SetPowerSetting(unsigned long level);
 
-    /// Gives the platform's name of a power-saving level, "wlan_power_setting_invalid" for any other number.
+    /// Returns the platform's name of a power-saving level, "wlan_power_setting_invalid" for any other number.
     /// @param[in] level a WLAN_POWER_SETTING
     /// @return text inside the object
     char* GetPowerSettingStr(unsigned long level);
 
-    /// Lets ordinary users talk to the adapters' drivers (WlanSetSecuritySettings). Needs administrative rights.
+    /// Allows ordinary users to send requests to the adapters' drivers (WlanSetSecuritySettings). Needs administrative
+    /// rights.
     /// @return 0; 0xFFFFFFFF other service version, looked at only when this call opens the client handle, which then
     /// stays open; otherwise the platform's error number
     unsigned long SetIhvSecuritySettings();
@@ -320,13 +322,13 @@ public:
     // The available-network list (WlanGetAvailableNetworkList, flags 0) has one entry for each visible network and
     // matching profile. The BSS list (WlanGetNetworkBssList) has one entry for each access point.
 
-    /// Asks for a scan (WlanScan). The results are there some seconds later: the service then sends the notification
-    /// wlan_notification_acm_scan_complete.
-    /// @param[out] dwError the platform's error number after a failure; success leaves it alone
+    /// Requests a scan (WlanScan). The results are available some seconds later, when the service sends the
+    /// notification wlan_notification_acm_scan_complete.
+    /// @param[out] dwError the platform's error number after a failure; unchanged after success
     /// @return 0; -1 client handle not opened, -4 scan refused
     int Rescan(const GUID* pInterfaceGuid, unsigned long& dwError);
 
-    /// Asks for a scan on the first adapter (WlanEnumInterfaces, WlanScan).
+    /// Requests a scan on the first adapter (WlanEnumInterfaces, WlanScan).
     /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 scan refused
     int Rescan();
 
@@ -345,14 +347,14 @@ public:
     /// list failed, -8 no network
     int GetConnectableNetworkCount(const GUID* pInterfaceGuid);
 
-    /// Tells whether a network is in view (WlanGetAvailableNetworkList). An empty SSID is never found, although hidden
+    /// Checks whether a network is in view (WlanGetAvailableNetworkList). An empty SSID is never found, although hidden
     /// networks are listed with one.
     /// @param[in] pSsid the SSID
     /// @return 0 when it is; -1 client handle not opened, -3 network list failed, -4 SSID not found, -14 null input
     int GetAP(const GUID* pInterfaceGuid, DOT11_SSID* pSsid);
 
-    /// Tells why a network cannot be joined (WlanGetAvailableNetworkList), from the first entry that matches. An empty
-    /// SSID does match a hidden network here.
+    /// Returns why a network cannot be joined (WlanGetAvailableNetworkList), from the first matching entry. Here an
+    /// empty SSID matches a hidden network.
     /// @param[in] pSsid the network's SSID
     /// @param[in] dwBssType its DOT11_BSS_TYPE
     /// @param[out] bConnectable the service's connectable flag
@@ -365,11 +367,11 @@ public:
                                  int& bConnectable,
                                  unsigned long& dwReason);
 
-    /// Tells whether the connected network has no BSS left in view (WlanQueryInterface, WlanGetNetworkBssList).
+    /// Checks whether the connected network has no BSS in view any more (WlanQueryInterface, WlanGetNetworkBssList).
     /// @return 1 when it has none; 0 otherwise, when there is no connection, and on every failure
     int IsWiFiDisappear(const GUID* pInterfaceGuid);
 
-    /// Tells whether the network that the first adapter is connected to has a BSS in view (WlanEnumInterfaces,
+    /// Checks whether the network that the first adapter is connected to has a BSS in view (WlanEnumInterfaces,
     /// WlanQueryInterface, WlanGetNetworkBssList).
     /// @return 0 when it has; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 connection query
     /// refused, -5 BSS list failed, -6 no BSS in view
@@ -377,26 +379,26 @@ public:
 
     // --- Signal metrics -----------------------------------------------------------------------------------------
 
-    /// Gives the channel number of a centre frequency. In the 2.4 GHz band it is one below the customary number:
-    /// 2412 MHz gives 0, 2484 MHz gives 13, and what is no channel up to there gives 14. Above, it is (MHz - 5000) /
-    /// 5 from 5000 MHz on and 200 - (5000 - MHz) / 5 below, as 32 unsigned bits: 5180 MHz gives 36, 4920 MHz gives 184,
-    /// and up to 3995 MHz the number wraps to a huge one. There is no rule for 6 GHz: 5955 MHz gives 191.
+    /// Returns the channel number of a centre frequency. In the 2.4 GHz band it is one below the usual number: 0 for
+    /// 2412 MHz, 13 for 2484 MHz, and 14 for a frequency up to there that is not a channel. Above, it is (MHz - 5000) /
+    /// 5 from 5000 MHz on and 200 - (5000 - MHz) / 5 below, in 32 unsigned bits: 36 for 5180 MHz, 184 for 4920 MHz; up
+    /// to 3995 MHz the number wraps to a huge one. There is no rule for 6 GHz: the result for 5955 MHz is 191.
     /// @param[in] frequency in MHz or a finer decimal unit, as the kHz of WLAN_BSS_ENTRY: divided by ten while above
     /// 10000
     /// @return the channel number
     unsigned long GetChannel(unsigned long frequency);
 
-    /// Turns dBm into a signal strength, linear from 0 at -100 dBm and below to 100 at -50 dBm and above.
+    /// Converts dBm to a signal strength, linear from 0 at -100 dBm and below to 100 at -50 dBm and above.
     /// @param[in] rssi dBm
     /// @return the strength, from 0 to 100
     int GetSignalStrength(int rssi);
 
-    /// Gives the received signal strength of the link, as the driver measures it (WlanQueryInterface).
+    /// Returns the received signal strength of the connection, as the driver measures it (WlanQueryInterface).
     /// @param[out] rssi dBm
     /// @return 0; -1 client handle not opened, -4 RSSI query refused
     int GetRssi(const GUID* pInterfaceGuid, int& rssi);
 
-    /// Gives the received signal strength of the connected access point, as the last scan heard it (WlanQueryInterface,
+    /// Returns the received signal strength of the connected access point from the last scan (WlanQueryInterface,
     /// WlanGetNetworkBssList).
     /// @param[out] rssi dBm
     /// @return 0; -1 client handle not opened, -4 connection query refused, -5 BSS list failed, -6 no BSS in view,
@@ -404,64 +406,64 @@ public:
     int GetCurrentRSSI(const GUID* pInterfaceGuid, int& rssi);
 
     /// Estimates the signal strength of the first available network whose SSID begins with the given one
-    /// (WlanGetAvailableNetworkList): half its signal quality, less 100. An empty SSID means the first entry of the
+    /// (WlanGetAvailableNetworkList): half its signal quality minus 100. An empty SSID means the first entry of the
     /// list.
     /// @param[in] ssid the SSID or its beginning; only read
     /// @return dBm, `-100` to `-50`; `-100` also when there is no such network or the list failed; -1 client handle not
     /// opened
     int GetWiFiRSSI(const GUID* pInterfaceGuid, DOT11_SSID& ssid);
 
-    /// Gives the signal quality of the current connection (WlanQueryInterface).
+    /// Returns the signal quality of the current connection (WlanQueryInterface).
     /// @return the quality, from 0 to 100; -1 client handle not opened, -4 connection query refused
     int GetSignalQuality(const GUID* pInterfaceGuid);
 
     // --- Software access points, listings, reasons --------------------------------------------------------------
 
-    /// Lists the available networks whose SSID holds the marker of software access points, "LC#"
-    /// (WlanGetAvailableNetworkList). The SSID is taken as UTF-8 and ends at its first zero byte, whatever its length
-    /// says; one that cannot be converted is passed over. On Windows none can, as it does not take the flags of this
-    /// conversion, so that the list stays empty.
-    /// @param[out] pList the SSIDs, narrow text, one for each entry; emptied first, but left alone on a failure
+    /// Lists the available networks whose SSID contains the marker of software access points, "LC#"
+    /// (WlanGetAvailableNetworkList). The SSID is read as UTF-8 up to its first zero byte, whatever its length. An SSID
+    /// that cannot be converted is skipped. Windows rejects the flags of this conversion for every SSID, so the list is
+    /// always empty there.
+    /// @param[out] pList the SSIDs, narrow text, one for each entry; emptied first, but unchanged on a failure
     /// @return 0; -1 client handle not opened, -13 null output; otherwise the platform's error number
     int GetSoftAPList(const GUID* pInterfaceGuid, std::vector<std::string>* pList);
 
-    /// Tells whether the first adapter is connected by a profile whose name holds that marker (WlanEnumInterfaces,
-    /// WlanQueryInterface). The SSID is not looked at.
+    /// Checks whether the first adapter is connected by a profile whose name contains that marker (WlanEnumInterfaces,
+    /// WlanQueryInterface). The SSID is ignored.
     /// @return true when it is; false otherwise and on every failure
     bool SpecialSoftAP();
 
     /// Traces a listing of the networks that every adapter sees (WlanEnumInterfaces, WlanGetAvailableNetworkList).
-    /// While tracing is off, everything is asked for and nothing written. The remark that a network has a profile
-    /// depends on its connected flag, so that only connected ones get it.
+    /// While tracing is off, the method makes the same calls and writes nothing. Only connected networks get the remark
+    /// that a network has a profile, because it depends on the connected flag.
     /// @return 0, also when the enumeration failed; 1 some list failed, the others being traced; the platform's error
     /// number when the client handle was not opened
     int GetAvailableNetwork();
 
     /// Traces a listing of the access points that every adapter sees (WlanEnumInterfaces, WlanGetNetworkBssList), with
-    /// channels as GetChannel counts them. While tracing is off, everything is asked for and nothing written.
+    /// channels as GetChannel counts them. While tracing is off, the method makes the same calls and writes nothing.
     /// @return as GetAvailableNetwork
     int GetNetworkBss();
 
-    /// Gives the service's words for a reason (WlanReasonCodeToString). Needs no client handle.
+    /// Returns the service's words for a reason (WlanReasonCodeToString). Needs no client handle.
     /// @param[in] reasonCode a WLAN_REASON_CODE
     /// @param[out] text narrow text; empty after a failure of the service that is not an invalid parameter
-    /// @param[in] textSize bytes at text; with 0 nothing is written, and the answer is true
+    /// @param[in] textSize bytes at text; with 0 nothing is written, and the result is true
     /// @return whether the text was written; false when the service finds a parameter invalid (87) or the text does not
     /// fit, but true after other failures of the service
     bool ReasonCode2String(unsigned long reasonCode, char* text, int textSize);
 
     // --- Profile store ------------------------------------------------------------------------------------------
-    // A profile's document is XML. Keys are in plain text in it where the caller may see them: do not log it.
+    // A profile's document is XML. It has keys in plain text if the caller may read them: do not log it.
 
-    /// Tells whether a profile of a name is stored (WlanGetProfileList).
+    /// Checks whether a profile with this name is stored (WlanGetProfileList).
     /// @param[in] name narrow text, at most 127 bytes; a longer or null one is a fatal caller error
     /// @return 0 when it is; -1 no such profile; otherwise the platform's error number of the client handle, the name's
     /// conversion or the list
     int GetWlanProfile(const GUID* pInterfaceGuid, const char* name);
 
     /// Deletes a profile (WlanDeleteProfile).
-    /// @param[in] name narrow text in the current C locale, where a byte without a meaning keeps its value; cut to
-    /// 127 characters; null is passed on
+    /// @param[in] name narrow text in the current C locale, an invalid byte keeps its value; cut to 127 characters;
+    /// null is passed on
     /// @return 0; -1 client handle not opened, -4 not deleted
     int DeleteProfile(const GUID* pInterfaceGuid, const char* name);
 
@@ -471,14 +473,14 @@ public:
     int DeleteProfile(const GUID* pInterfaceGuid, const wchar_t* name);
 
     /// Moves a profile to the second place of the order of preference, never to the first (WlanGetProfileList,
-    /// WlanSetProfilePosition). With fewer than two profiles nothing is moved.
+    /// WlanSetProfilePosition). With fewer than two profiles it moves nothing.
     /// @param[in] name narrow text, at most 255 characters
     /// @return 0, also when there was nothing to move; -1 client handle not opened; otherwise the platform's error
     /// number of the list, the name's conversion or the move
     int ResetProfilePosition(const GUID* pInterfaceGuid, const char* name);
 
     /// Moves a profile to the last place of the order of preference (WlanGetProfileList, WlanSetProfilePosition). With
-    /// fewer than two profiles nothing is moved.
+    /// fewer than two profiles it moves nothing.
     /// @param[in] name wide text, passed on as it is
     /// @return 0, also when there was nothing to move; -1 client handle not opened; otherwise the platform's error
     /// number
@@ -488,14 +490,14 @@ public:
     /// @return the number, 0 included; -1 client handle not opened, -4 profile list failed
     int GetProfileCount(const GUID* pInterfaceGuid);
 
-    /// Gives a profile's document as wide text (WlanGetProfile).
+    /// Reads a profile's document as wide text (WlanGetProfile).
     /// @param[in] name wide text, passed on as it is
     /// @param[out] xml the document, cut where it does not fit and terminated
     /// @param[in] capacity characters at xml; with 0 nothing is written, and xml may be null; below 0 the empty text
     /// @return 0, also when the document was cut; -1 client handle not opened, -4 profile not read, -13 null output
     int GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, wchar_t* xml, int capacity);
 
-    /// Gives a profile's document as narrow text of the current C locale (WlanGetProfile), whole: a document that does
+    /// Reads a profile's document as narrow text of the current C locale (WlanGetProfile), whole: a document that does
     /// not fit, or a null xml, is a fatal caller error.
     /// @param[in] name wide text, passed on as it is
     /// @param[out] xml the document
@@ -503,13 +505,13 @@ public:
     /// @return 0; -1 client handle not opened, -4 profile not read
     int GetProfile(const GUID* pInterfaceGuid, const wchar_t* name, char* xml, int capacity);
 
-    /// Tells whether a profile can be read (WlanGetProfile).
+    /// Checks whether a profile can be read (WlanGetProfile).
     /// @param[in] name wide text, passed on as it is
     /// @return 0 when it can; -1 client handle not opened, -4 profile not read
     int GetProfile(const GUID* pInterfaceGuid, const wchar_t* name);
 
-    /// Stores a profile for all users, in place of one of the same name (WlanSetProfile). Why the service refuses a
-    /// document is not told.
+    /// Stores a profile for all users and replaces the one with the same name (WlanSetProfile). It does not report why
+    /// the service refuses a document.
     /// @param[in] xml the document, wide text
     /// @return 0; -1 client handle not opened, -4 not stored
     int SetProfile(const GUID* pInterfaceGuid, const wchar_t* xml);
@@ -517,21 +519,21 @@ public:
     // --- Profile XML --------------------------------------------------------------------------------------------
     // A search in the text, without an XML parser: entities are not decoded, and blanks count.
 
-    /// Tells whether a profile's document is for an SSID: whether the text right before the first "</name>" behind
+    /// Checks whether a profile's document is for an SSID: whether the text right before the first "</name>" after
     /// "<SSID>" is the SSID. Malformed text is no failure.
     /// @param[in] xml the document, wide text
     /// @param[in] ssid the SSID, wide text; only read
     /// @return 1 when it is, else 0
     int IsThisSSID(const wchar_t* xml, wchar_t* ssid);
 
-    /// Tells whether a profile's document says automatic connection: whether the text right before its first
+    /// Checks whether a profile's document specifies automatic connection: whether the text right before its first
     /// "</connectionMode>" is "auto". Malformed text is no failure.
     /// @param[in] xml the document, wide text
     /// @return 1 when it does, else 0
     int IsAutoConnMode(const wchar_t* xml);
 
-    /// Tells whether a stored profile connects automatically (WlanGetProfile), by the rule of IsAutoConnMode. Compare
-    /// with 1: a failure is not 0 either.
+    /// Checks whether a stored profile connects automatically (WlanGetProfile), by the rule of IsAutoConnMode. Compare
+    /// the result with 1: failures are not 0.
     /// @param[in] name wide text, passed on as it is
     /// @return 1 when it does, 0 when it has another mode; -1 client handle not opened, -4 profile not read, -5 no
     /// connection mode, -6 malformed before the connection mode
@@ -539,68 +541,68 @@ public:
 
     // --- Current connection -------------------------------------------------------------------------------------
 
-    /// Gives the attributes of the current connection (WlanQueryInterface).
+    /// Returns the attributes of the current connection (WlanQueryInterface).
     /// @param[out] pAttributes the service's record; null is a fatal caller error
     /// @return 0; -1 client handle not opened, -4 connection query refused
     int GetCurrentConnection(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// Gives the attributes of the first adapter's connection (WlanEnumInterfaces, WlanQueryInterface). Other adapters
-    /// are not asked, even when one of them is connected.
+    /// Returns the attributes of the first adapter's connection (WlanEnumInterfaces, WlanQueryInterface). It ignores
+    /// other adapters, even connected ones.
     /// @param[out] pAttributes the service's record; null is a fatal caller error
     /// @return 0; -1 client handle not opened, -2 enumeration failed, -3 no adapter, -4 connection query refused
     int GetCurrentConnection(WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// Gives the SSID that the first adapter is connected to (WlanEnumInterfaces, WlanQueryInterface).
+    /// Returns the SSID that the first adapter is connected to (WlanEnumInterfaces, WlanQueryInterface).
     /// @param[out] ssid narrow text, as by GetSSID
     /// @param[in] capacity bytes at ssid
     /// @return 0, also when the SSID could not be converted, which leaves the text alone; -1 client handle not opened,
     /// -2 enumeration failed, -3 no adapter, -4 connection query refused
     int GetCurrentSSID(char* ssid, int capacity);
 
-    /// Gives the SSID that the first adapter is connected to, and the attributes of the connection.
+    /// Returns the SSID that the first adapter is connected to, and the attributes of the connection.
     /// @param[out] ssid narrow text, as by GetSSID
     /// @param[in] capacity bytes at ssid
     /// @param[out] pAttributes the service's record; null is a fatal caller error, after the text was written
     /// @return as GetCurrentSSID without the record
     int GetCurrentSSID(char* ssid, int capacity, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// Gives state, BSS type, SSID and BSSID of the current connection (WlanQueryInterface).
+    /// Returns state, BSS type, SSID and BSSID of the current connection (WlanQueryInterface).
     /// @param[out] state a WLAN_INTERFACE_STATE; may be null
     /// @param[out] bssType a DOT11_BSS_TYPE; may be null
     /// @param[out] ssid narrow text, as by GetSSID
     /// @param[in] ssidCapacity bytes at ssid
-    /// @param[out] bssid six bytes, no text; null is a fatal caller error, after state and SSID were written
+    /// @param[out] bssid six bytes, not text; null is a fatal caller error, after state and SSID were written
     /// @return 0, also when the SSID could not be converted, which leaves the text alone; otherwise the platform's
     /// error number
     int
     GetCurrentLinkInfo(const GUID* pInterfaceGuid, int* state, int* bssType, char* ssid, int ssidCapacity, char* bssid);
 
-    /// Counts the access points in view that belong to the network of a connection (WlanGetNetworkBssList). What is
-    /// current is what the caller says.
+    /// Counts the access points in view that belong to the network of a connection (WlanGetNetworkBssList). The caller
+    /// specifies the connection; the method does not query it.
     /// @param[in] pAttributes SSID, BSS type and security flag are read
     /// @return the number, 0 included; -1 client handle not opened, -4 BSS list failed, -14 null input
     long GetCurrentWiFi(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// Tells whether an adapter is connected (WlanEnumInterfaces).
+    /// Checks whether an adapter is connected (WlanEnumInterfaces).
     /// @return 1 when it is; 0 otherwise and on every failure
     int WiFiIsConnected(const GUID* pInterfaceGuid);
 
-    /// Tells whether an adapter is disconnected (WlanEnumInterfaces). While a connection is made or taken down, it is
-    /// neither connected nor disconnected.
+    /// Checks whether an adapter is disconnected (WlanEnumInterfaces). While it connects or disconnects, it is neither
+    /// connected nor disconnected.
     /// @return 1 when it is; 0 otherwise and on every failure
     int WiFiIsDisconnected(const GUID* pInterfaceGuid);
 
-    /// Gives the counters of unicast frames (WlanQueryInterface).
-    /// @param[out] pCount frames transmitted and received; its spare fields keep what the caller put in
+    /// Returns the counters of unicast frames (WlanQueryInterface).
+    /// @param[out] pCount frames transmitted and received; its spare fields keep the caller's values
     /// @return 0; -1 client handle not opened, -4 statistics query refused, -13 null output
     int GetWlanStatistics(const GUID* pInterfaceGuid, _WIFI_TXRX_COUNT* pCount);
 
     // --- Connecting ---------------------------------------------------------------------------------------------
-    // A request (WlanConnect) names a stored profile. The service accepts or refuses it at once; whether the connection
+    // A request (WlanConnect) names a stored profile. The service accepts or refuses it at once. Whether the connection
     // is made shows later, in the notifications and in the current connection.
 
-    /// Connects by a stored profile that the available-network list carries (WlanGetAvailableNetworkList, WlanConnect).
-    /// An empty name means the first network without a profile, which the service refuses.
+    /// Connects by a stored profile that the available-network list contains (WlanGetAvailableNetworkList,
+    /// WlanConnect). An empty name means the first network without a profile, which the service refuses.
     /// @param[in] name the profile's name, narrow text, at most 255 characters; only read
     /// @return 0 when the request is accepted; -1 client handle not opened, -2 no network with the profile; otherwise
     /// the platform's error number of the list, the name's conversion or the request
@@ -630,7 +632,7 @@ public:
     /// @return 0 when the request is accepted; -1 client handle not opened, -4 request refused, -14 null input
     int RecoverConnection(const GUID* pInterfaceGuid, WLAN_CONNECTION_ATTRIBUTES* pAttributes);
 
-    /// Asks again for the connection that is up (WlanQueryInterface, WlanConnect), without disconnecting first. The
+    /// Requests the current connection again (WlanQueryInterface, WlanConnect), without disconnecting first. The
     /// service chooses the access point.
     /// @return 0 when the request is accepted; -1 client handle not opened, -4 connection query refused, -5 request
     /// refused
@@ -643,8 +645,7 @@ public:
     int SetCurrentWiFiToLast();
 
     // --- Saved connection ---------------------------------------------------------------------------------------
-    // The object remembers one connection of each kind, attributes and notification data, until the next save or
-    // Delete.
+    // The object remembers one connection as attributes and one as notification data, until the next save or Delete.
 
     /// Remembers the current connection and whether its profile connects automatically (WlanQueryInterface,
     /// WlanGetProfile).
@@ -653,13 +654,13 @@ public:
     int SaveCurrentConnectionAttributes(const GUID* pInterfaceGuid);
 
     /// Connects by the profile of the remembered connection, if its network is in view (WlanGetNetworkBssList,
-    /// WlanConnect). When none was remembered, a network without a name is looked for.
+    /// WlanConnect). If no connection was remembered, it looks for a network without a name.
     /// @return 0 when the request is accepted; -99 profile not automatic, -1 client handle not opened, -4 BSS list
     /// failed, -5 no BSS of the saved network, -6 request refused
     long RecoverConnetionAttributes(const GUID* pInterfaceGuid);
 
     /// Remembers notification data, without the profile XML that may follow it.
-    /// @param[in] pData a record of a connection notification; null clears what was remembered and is then a fatal
+    /// @param[in] pData a record of a connection notification; null first clears the remembered data, then is a fatal
     /// caller error
     void SaveConnNotificationData(WLAN_CONNECTION_NOTIFICATION_DATA* pData);
 
@@ -670,13 +671,13 @@ public:
     long RecoverConnNotificationData(const GUID* pInterfaceGuid);
 
     // --- Access points of stored networks -----------------------------------------------------------------------
-    // An available network matches a stored profile when it carries the profile's name (WlanGetProfileList,
+    // An available network matches a stored profile if its entry has the profile's name (WlanGetProfileList,
     // WlanGetAvailableNetworkList); the SSID is not compared. Each method goes through the profiles in their order, and
-    // through the networks of each in list order. Containers are emptied first, before any other failure than a null
-    // container. A success is a number, 0 included.
+    // through the networks of each in list order. It empties the container first, unless the container is null. On
+    // success the result is a number, which may be 0.
 
-    /// Lists the BSS entries of every network that matches a profile (WlanGetNetworkBssList). Two profiles for one
-    /// network list its entries twice; a network whose BSS list fails is passed over.
+    /// Lists the BSS entries of every network that matches a profile (WlanGetNetworkBssList). If a network has two
+    /// profiles, its entries are listed twice. A network whose BSS list fails is skipped.
     /// @param[out] pList the entries; emptied first
     /// @return the number of entries; -2 client handle not opened, -5 profile list failed, -6 no profile, -7 network
     /// list failed, -8 no network, -13 null output
@@ -685,24 +686,24 @@ public:
     /// Lists the BSS entries of every network that matches one named profile, or any that connects automatically
     /// (IsAutoConnMode2), by the rules of GetMatchAPList.
     /// @param[in] name the profile that always counts, wide text; only read
-    /// @param[out] pList the entries; emptied first, before the name is looked at
+    /// @param[out] pList the entries; emptied first, before the name is checked
     /// @return as GetMatchAPList; also -14 null input
     int GetConnectableAPList(const GUID* pInterfaceGuid, wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList);
 
-    /// Lists on the first adapter (WlanEnumInterfaces) what the form with a GUID lists.
+    /// Lists the same as the form with a GUID, on the first adapter (WlanEnumInterfaces).
     /// @param[in] name the profile that always counts, wide text; only read
-    /// @param[out] pList the entries; emptied first, before the name is looked at
+    /// @param[out] pList the entries; emptied first, before the name is checked
     /// @return as GetConnectableAPList; also -3 enumeration failed, -4 no adapter
     int GetConnectableAPList(wchar_t* name, std::vector<WLAN_BSS_ENTRY>* pList);
 
     /// Lists the profile name of every network that matches a profile and has a BSS in view (WlanGetNetworkBssList),
-    /// once for each network; a network whose BSS list fails is passed over.
+    /// once for each network. A network whose BSS list fails is skipped.
     /// @param[out] pNames the names, wide text; emptied first
     /// @param[in] mode 1: only profiles that connect automatically (IsAutoConnMode2); any other: all
     /// @return as GetMatchAPList, the number being that of the names
     int GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, int mode);
 
-    /// Lists profile names as the form without a name does, but with one profile that counts in mode 1 whatever its own
+    /// Lists profile names as the form without a name does. In mode 1 the named profile also counts, whatever its own
     /// mode.
     /// @param[out] pNames the names, wide text; emptied first
     /// @param[in] name that profile, wide text; may be null
@@ -710,9 +711,9 @@ public:
     /// @return as GetMatchAPCount without a name
     int GetMatchAPCount(const GUID* pInterfaceGuid, std::vector<std::wstring>* pNames, const wchar_t* name, int mode);
 
-    /// Traces how the time stamps of the BSS entries of each matching network move (WlanGetNetworkBssList). It waits
-    /// three seconds for each such network. The differences are reckoned in 16 bits, and wrap when a clock goes back or
-    /// passes midnight.
+    /// Traces how the time stamps of the BSS entries of each matching network change (WlanGetNetworkBssList). It waits
+    /// three seconds for each such network. The differences have 16 bits, and wrap when a clock goes back or passes
+    /// midnight.
     /// @return never 0; -1 diagnostic run without a problem, or the code of the last problem: -2 client handle not
     /// opened, -5 profile list failed, -6 no profile, -7 network list failed, -8 no network, -9 first BSS list failed,
     /// -10 first BSS list empty, -11 later BSS list failed, -12 later BSS list empty
@@ -720,30 +721,31 @@ public:
 
     // --- Best access point --------------------------------------------------------------------------------------
 
-    /// Ranks the networks that match a profile which connects automatically (IsAutoConnMode2), and asks for a
-    /// connection (WlanConnect) from the lowest score upward until one request is accepted: normally the weakest
-    /// candidate is joined. Among equal scores the order of the profiles decides, then that of the networks.
+    /// Joins a network by rank, the lowest score first: normally the weakest candidate. This is deliberate. The
+    /// candidates are the networks that match a profile which connects automatically (IsAutoConnMode2). The method
+    /// requests connections (WlanConnect) from the lowest score upward until one request is accepted. Equal scores are
+    /// in the order of the profiles, then of the networks.
     ///
-    /// The score is the signal quality, and 10 more, up to 100 in all, for each access point of the 5 GHz band. One BSS
-    /// list is fetched for this, that of the network listed last, candidate or not; an entry counts when GetChannel
-    /// gives it more than 14 and its SSID is the beginning of the candidate's.
+    /// The score is the signal quality plus 10, up to 100 in all, for each access point of the 5 GHz band. For this the
+    /// method reads one BSS list, that of the network listed last, candidate or not. An entry counts if GetChannel
+    /// returns more than 14 for it and its SSID is the beginning of the candidate's.
     /// @return 0 when a request is accepted; -1 client handle not opened, -4 profile list failed, -5 no profile,
     /// -6 network list failed, -7 no network, -9 no candidate, -10 BSS list failed, -11 BSS list empty, -12 every
     /// request refused
     int ConnectBestAP(const GUID* pInterfaceGuid);
 
-    /// Ranks and asks as the form without exclusions does, but leaves out some networks.
-    /// @param[in] pExcluded a network is left out when its SSID is the beginning of an entry's SSID: HomeNet5G rules
-    /// out HomeNet. Nothing else of the entries is read
+    /// Joins a network by rank as the form without exclusions does, but excludes some networks.
+    /// @param[in] pExcluded a network is excluded if its SSID is the beginning of an entry's SSID: HomeNet5G excludes
+    /// HomeNet. Only the SSIDs are read
     /// @return as ConnectBestAP; also -14 null input
     int ConnectBestAP(const GUID* pInterfaceGuid, std::vector<WLAN_BSS_ENTRY>* pExcluded);
 
-    /// Ranks and asks as the form without exclusions does, but leaves out one profile.
-    /// @param[in] excludedName the name of the profile that is left out, wide text
+    /// Joins a network by rank as the form without exclusions does, but excludes one profile.
+    /// @param[in] excludedName the name of the excluded profile, wide text
     /// @return as ConnectBestAP; also -14 null input
     int ConnectBestAP(const GUID* pInterfaceGuid, const wchar_t* excludedName);
 
-    /// Ranks and asks as the form without exclusions does, but leaves out some networks and one profile.
+    /// Joins a network by rank as the form without exclusions does, but excludes some networks and one profile.
     /// @param[in] pExcluded as above
     /// @param[in] excludedName as above
     /// @return as ConnectBestAP; also -14 null input
@@ -753,59 +755,59 @@ public:
     // Networks match a profile as above. When every request is refused, AutoConnect, AutoSwitch and ConnectAutoMode
     // return 0; the others report the refusal.
 
-    /// Asks for every matching network in profile order until one request is accepted (WlanConnect), whatever the
+    /// Requests the matching networks in profile order until one request is accepted (WlanConnect), whatever the
     /// profile's connection mode.
     /// @return 0, also when every request was refused; -1 client handle not opened, -4 profile list failed, -5 no
     /// profile, -6 network list failed, -7 no network, -9 nothing matches
     int AutoConnect(const GUID* pInterfaceGuid);
 
-    /// Ranks and asks as ConnectBestAP does, with every matching network as a candidate, whatever the profile's
-    /// connection mode.
+    /// Joins a network by rank as ConnectBestAP does, the lowest score first. Every matching network is a candidate,
+    /// whatever the profile's connection mode.
     /// @return as ConnectBestAP, but -9 nothing matches
     int AutoConnectEx(const GUID* pInterfaceGuid);
 
-    /// Moves the current profile to the last place (WlanQueryInterface, WlanSetProfilePosition), for good, and then
-    /// asks as AutoConnect does, by the order from before: the current network may be asked for again. A single profile
-    /// is not moved.
+    /// Moves the current profile to the last place (WlanQueryInterface, WlanSetProfilePosition) permanently, and then
+    /// requests networks as AutoConnect does, in the previous order: it may request the current network again. It does
+    /// not move a single profile.
     /// @return 0, also when every request was refused; -1 client handle not opened, -3 connection query refused,
     /// -4 profile list failed, -5 profile not moved, -6 network list failed, -7 nothing matches, also when a list is
     /// empty
     int AutoSwitch(const GUID* pInterfaceGuid);
 
-    /// Asks for the first matching network whose signal quality is above the current one, by one point or more
-    /// (WlanQueryInterface, WlanConnect). Passes over networks whose profile name is the current SSID, as profiles are
-    /// usually named after their network. A refused request is not followed by another. On Windows the current SSID
-    /// cannot be converted, as it does not take the flags of this conversion: the result is 1004.
+    /// Requests the first matching network whose signal quality is above the current one, by one point or more
+    /// (WlanQueryInterface, WlanConnect). Skips networks whose profile name is the current SSID, because profiles
+    /// usually have the name of their network. It makes one request only. Windows rejects the flags with which this
+    /// method converts the current SSID: the result there is 1004.
     /// @return 0 when the request is accepted; -1 client handle not opened, -2 nothing better; otherwise the platform's
     /// error number
     int SmartSwitch(const GUID* pInterfaceGuid);
 
-    /// Asks once, on the first adapter, for the first matching network (WlanEnumInterfaces, WlanConnect).
-    /// @param[in] pInterfaceGuid not looked at
+    /// Requests the first matching network on the first adapter, once (WlanEnumInterfaces, WlanConnect).
+    /// @param[in] pInterfaceGuid ignored
     /// @param[out] profileName the name of its profile, narrow text of the current C locale, cut to 127 bytes and
     /// terminated; may be null. Written only when the request is accepted
     /// @return 0 when the request is accepted, and when there is no adapter; -1 client handle not opened, -2 nothing
     /// matches; otherwise the platform's error number
     int SmartConnecting(const GUID* pInterfaceGuid, char* profileName);
 
-    /// Asks for every network that carries the name of an automatically connecting profile, or whose SSID is that name,
-    /// in profile order until one request is accepted (WlanGetProfile, WlanConnect). A match by SSID is asked for by
-    /// the network's own, empty profile name, which the service refuses. Of each profile's document 1023 characters are
-    /// read. On Windows no SSID can be converted, as it does not take the flags of this conversion, and such networks
-    /// are passed over, so that there is no candidate.
+    /// Requests the networks that have the name of an automatically connecting profile, or whose SSID is that name, in
+    /// profile order until one request is accepted (WlanGetProfile, WlanConnect). The request for a match by SSID has
+    /// the network's own, empty profile name, which the service refuses. The method reads the first 1023 characters of
+    /// each profile's document. Windows rejects the flags with which it converts SSIDs, and it skips such networks, so
+    /// that it finds no candidate there.
     /// @return 0, also when every request was refused; -1 client handle not opened, -4 profile list failed, -5 no
     /// profile, -6 network list failed, -7 no network, -9 no candidate
     int ConnectAutoMode(const GUID* pInterfaceGuid);
 
     // --- Roaming ------------------------------------------------------------------------------------------------
 
-    /// Tells whether Roaming would ask for another access point of the current network (WlanQueryInterface,
-    /// WlanGetNetworkBssList). The access point is chosen as by Reconnect.
+    /// Checks whether Roaming would request another access point of the current network (WlanQueryInterface,
+    /// WlanGetNetworkBssList). It chooses the access point as Reconnect does.
     /// @return 0 when it would; -1 client handle not opened, -4 connection query refused, -5 signal quality 80 or more,
     /// -6 BSS list failed, -7 no BSS in view, -8 already connected to it
     int PreRoaming(const GUID* pInterfaceGuid);
 
-    /// Decides as PreRoaming does, and asks for that access point by the current profile (WlanConnect), without
+    /// Decides as PreRoaming does, and requests that access point with the current profile (WlanConnect), without
     /// disconnecting first.
     /// @return 0 when the request is accepted; as PreRoaming; also -9 request refused
     int Roaming(const GUID* pInterfaceGuid);
@@ -819,19 +821,19 @@ public:
     int GetPrivileges();
 
     /// Enables a privilege of the calling process (OpenProcessToken, LookupPrivilegeValueA, AdjustTokenPrivileges).
-    /// @param[in] privilegeName as the platform names it, "SeShutdownPrivilege"; may be null
+    /// @param[in] privilegeName the platform's name, such as "SeShutdownPrivilege"; may be null
     /// @return false only when the platform did not enable it; true also when the name is null or names no privilege,
     /// and when no token can be opened
     bool EnablePriviledge(const char* privilegeName);
 
-    /// Puts the computer to sleep (SetSuspendState, forced, wake events left on), and returns after it has woken. Needs
+    /// Puts the computer to sleep (SetSuspendState, forced, with wake events), and returns after it has woken. Needs
     /// the shutdown privilege, see GetPrivileges.
     /// @return the platform's boolean: 1, or 0 when refused
     int ForceComputerSleep();
 
     /// Remembers the policy of the active legacy power scheme and switches its idle time-outs off, on mains and on
     /// battery (IsPwrSuspendAllowed, GetActivePwrScheme, ReadPwrScheme, WritePwrScheme, SetActivePwrScheme). A second
-    /// call remembers the policy that the first one made.
+    /// call remembers the changed policy of the first one.
     /// @return 0; -1 suspend not allowed, -2 no active scheme, -3 scheme not read, -4 scheme not written, -5 scheme not
     /// activated
     long SetPowerScheme();
@@ -843,62 +845,62 @@ public:
 
     /// Copies the active power scheme, names the copy "Super energy-saving", makes it sleep after a second on mains and
     /// after two when unattended, and activates it (PowerGetActiveScheme, PowerDuplicateScheme, PowerWriteFriendlyName,
-    /// PowerWriteACValueIndex, PowerSetActiveScheme). The copy stays in the store. Its name is handed over in 8-bit
-    /// characters, which the platform takes for wide ones. First the method lists the first scheme (PowerEnumerate)
-    /// until that fails: where the system lists a power scheme, it does not return.
+    /// PowerWriteACValueIndex, PowerSetActiveScheme). The copy stays in the store. Its name is passed in 8-bit
+    /// characters, which the platform reads as wide ones. Before that, the method lists the first scheme
+    /// (PowerEnumerate) until that fails: if the system lists a power scheme, the method does not return.
     /// @return 0; -1 no active scheme, -2 scheme not copied, -3 copy not named, -4 time-out not written, -5 scheme not
     /// activated
     long GetPowerScheme();
 
-    /// Tells whether the computer sleeps in the "always on, always connected" way, Modern Standby
+    /// Checks whether the computer sleeps in the "always on, always connected" way, Modern Standby
     /// (CallNtPowerInformation).
     /// @return 1 when it does; 0 otherwise and on every failure
     int IsSurpportAoAc();
 
-    /// Gives the time of the last waking (CallNtPowerInformation).
+    /// Returns when the computer last woke (CallNtPowerInformation).
     /// @return interrupt time in 100 ns, which counts from the system's start; 0 on every failure
     unsigned long long GetLastWakeTime();
 
-    /// Gives the time of the last falling asleep (CallNtPowerInformation).
+    /// Returns when the computer last went to sleep (CallNtPowerInformation).
     /// @return interrupt time in 100 ns, which counts from the system's start; 0 on every failure
     unsigned long long GetLastSleepTime();
 
-    /// Asks for the power policies on mains and on battery (CallNtPowerInformation) and drops them.
+    /// Queries the power policies on mains and on battery (CallNtPowerInformation) and discards them.
     /// @return 0, or the platform's error number, an NTSTATUS, of the question about the battery
     long GetSystemPowerPolicy();
 
-    /// Tells, in spite of its name, whether the computer woke by itself (IsSystemResumeAutomatic). What the name
-    /// promises is asked and dropped (IsPwrHibernateAllowed, IsPwrShutdownAllowed, IsPwrSuspendAllowed).
+    /// Returns, despite its name, whether the computer woke by itself (IsSystemResumeAutomatic). The answers that the
+    /// name promises are discarded (IsPwrHibernateAllowed, IsPwrShutdownAllowed, IsPwrSuspendAllowed).
     /// @return the platform's boolean
     int IsPowerHibernateAllowed();
 
     // --- Processes and the host program -------------------------------------------------------------------------
 
-    /// Tells whether this is a 32-bit process on a 64-bit system (IsWow64Process, looked up at run time).
+    /// Checks whether this is a 32-bit process on a 64-bit system (IsWow64Process, looked up at run time).
     /// @return the platform's boolean; 0 also when it cannot be asked
     int IsWow64();
 
-    /// Ends a process at once, with exit code 0 (OpenProcess, TerminateProcess, CloseHandle). Reports nothing and
+    /// Ends a process at once, with exit code 0 (OpenProcess, TerminateProcess, CloseHandle). Returns no result and
     /// checks no step.
     /// @param[in] processId the number of the process
     void CloseProcess(unsigned long processId);
 
-    /// Starts a program and waits, without limit, until it has ended (CreateProcessA, WaitForSingleObject). Reports
-    /// nothing.
+    /// Starts a program and waits, without limit, until it has ended (CreateProcessA, WaitForSingleObject). Returns no
+    /// result.
     /// @param[in,out] commandLine program and arguments, narrow text; the platform may write to it; null starts nothing
     void CreateProcRunCmd(char* commandLine);
 
-    /// Starts the program of a name beside the host program and waits, without limit, until it has ended (GetAppPath,
+    /// Starts a program in the folder of the host program and waits, without limit, until it has ended (GetAppPath,
     /// CreateProcessA, WaitForSingleObject). Overwrites the text of GetAppPath.
     /// @param[in] fileName narrow text, appended to the folder; null starts nothing
     /// @return 1 when it was started, whatever its exit code; 0 otherwise
     int CreateProcRunExe(char* fileName);
 
-    /// Gives the folder of the host program, last backslash included (GetModuleFileNameA).
-    /// @return text inside the object, at most 511 bytes; empty when the folder cannot be told
+    /// Returns the folder of the host program with a backslash at the end (GetModuleFileNameA).
+    /// @return text inside the object, at most 511 bytes; empty when the folder cannot be determined
     char* GetAppPath();
 
-    /// Tells whether https://www.example.com/ can be reached (InternetCheckConnectionA). Opens nothing. Sets the
+    /// Checks whether https://www.example.com/ can be reached (InternetCheckConnectionA). Opens nothing. Sets the
     /// connect time-out of the whole process to three seconds (InternetSetOptionA), and waits for the answer.
     /// @return 0 when it can; -1 not reached
     long OpenUrl();
