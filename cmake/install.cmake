@@ -1,7 +1,7 @@
 # What `cmake --install` puts where, in four components:
 #   runtime        the shared library (off Windows also libwlanapi.so) and the command-line host, with its manual page and
 #                  completion
-#   development    headers, the import library, the CMake package and the pkg-config file
+#   development    headers, the import library, the library of explanations, the CMake package and the pkg-config file
 #   simulation     on Windows, the simulated computer in the place of the system's WLAN library
 #   documentation  pages, examples and the scenario gallery, in one folder, so that their links to each other hold
 # The installed tree can be moved: nothing in it says where it lies.
@@ -22,6 +22,9 @@ set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/calvix")
 install(TARGETS calvix EXPORT calvix_targets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
+    INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
+install(TARGETS calvix_result_codes EXPORT calvix_targets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
     INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 if(TARGET calvix_host)

@@ -1,5 +1,6 @@
 // Scans, asks for the best network that has an automatic profile, and waits until the connection stands.
 
+#include <calvix/explain.h>
 #include <calvix/wireless_manage.h>
 
 #include <atomic>
@@ -40,11 +41,14 @@ int JoinBest(CWirelessManage& manager, const GUID& adapter)
         std::printf("no scan (error %lu): going by what is known\n", error);
     manager.UnRegisterNotification(TakeNote, nullptr);
 
+    //! [explain]
     if (const int code = manager.ConnectBestAP(&adapter); code != 0)
     {
-        std::printf("nothing to join (ConnectBestAP: %d)\n", code);
+        const calvix::Explanation failure = calvix::Explain("ConnectBestAP", code);
+        std::printf("%s: %s\n", failure.meaning.c_str(), failure.advice.c_str());
         return 1;
     }
+    //! [explain]
     char ssid[64] = "";
     if (!WaitUntil([&] { return manager.GetWlanIsLink(&adapter); }) || manager.GetCurrentSSID(ssid, sizeof(ssid)) != 0)
     {
@@ -63,7 +67,7 @@ int main()
     std::vector<WLAN_INTERFACE_INFO> adapters;
     const long code = manager.GetWlanInterface(&adapters);
     if (code != 0)
-        std::printf("no adapter (GetWlanInterface: %ld)\n", code);
+        std::printf("%s\n", calvix::Explain("GetWlanInterface", code).meaning.c_str());
     const int result = code == 0 ? JoinBest(manager, adapters.front().InterfaceGuid) : 1;
     CWirelessManage::Delete();
     return result;

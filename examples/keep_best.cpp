@@ -1,6 +1,7 @@
 // Once a second, moves to a better access point of the current network, or joins the best network where there is none:
 // keep_best [ROUNDS [MILLISECONDS]], 60 rounds of 1000 ms unless told otherwise.
 
+#include <calvix/explain.h>
 #include <calvix/wireless_manage.h>
 
 #include <chrono>
@@ -11,29 +12,10 @@
 namespace
 {
 
-const char* Outcome(int code)
-{
-    switch (code)
-    {
-    case 0:
-        return "moving to a better access point";
-    case -4:
-        return "between two connections";
-    case -5:
-        return "good enough";
-    case -7:
-        return "the network is out of view";
-    case -8:
-        return "already at the best access point";
-    default:
-        return "failed (see: calvix explain Roaming)";
-    }
-}
-
 void Join(CWirelessManage& manager, const GUID& adapter)
 {
     const int code = manager.ConnectBestAP(&adapter);
-    std::printf("not connected: %s (ConnectBestAP: %d)\n", code == 0 ? "joining the best" : "nothing to join", code);
+    std::printf("not connected: %s\n", calvix::Explain("ConnectBestAP", code).meaning.c_str());
 }
 
 void Roam(CWirelessManage& manager, const GUID& adapter)
@@ -45,7 +27,7 @@ void Roam(CWirelessManage& manager, const GUID& adapter)
     manager.FormMAC(address, addressText);
     const int quality = manager.GetSignalQuality(&adapter);
     const int code = manager.Roaming(&adapter);
-    std::printf("%s, %s, %d%%: %s\n", ssid, addressText, quality, Outcome(code));
+    std::printf("%s, %s, %d%%: %s\n", ssid, addressText, quality, calvix::Explain("Roaming", code).meaning.c_str());
 }
 
 int Number(int count, char** arguments, int index, int otherwise)
@@ -63,7 +45,7 @@ int main(int count, char** arguments)
     std::vector<WLAN_INTERFACE_INFO> adapters;
     const long code = manager.GetWlanInterface(&adapters);
     if (code != 0)
-        std::printf("no adapter (GetWlanInterface: %ld)\n", code);
+        std::printf("%s\n", calvix::Explain("GetWlanInterface", code).meaning.c_str());
     for (int round = 0; code == 0 && round < rounds; ++round)
     {
         const GUID& adapter = adapters.front().InterfaceGuid;

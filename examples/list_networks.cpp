@@ -1,5 +1,6 @@
 // Prints every adapter, and the access points in view that belong to a stored network.
 
+#include <calvix/explain.h>
 #include <calvix/wireless_manage.h>
 
 #include <cstdio>
@@ -26,7 +27,8 @@ void PrintAdapter(CWirelessManage& manager, const WLAN_INTERFACE_INFO& adapter)
     const int networks = manager.GetAvailableNetworkCount(&adapter.InterfaceGuid);
     if (networks < 0)
     {
-        std::printf("  no list of networks (GetAvailableNetworkCount: %d)\n", networks);
+        const calvix::Explanation failure = calvix::Explain("GetAvailableNetworkCount", networks);
+        std::printf("  %s: %s\n", failure.meaning.c_str(), failure.advice.c_str());
         return;
     }
     std::vector<WLAN_BSS_ENTRY> entries;
@@ -44,7 +46,7 @@ int main()
     std::vector<WLAN_INTERFACE_INFO> adapters;
     const long code = manager.GetWlanInterface(&adapters);
     if (code != 0)
-        std::printf("no adapter (GetWlanInterface: %ld)\n", code);
+        std::printf("%s\n", calvix::Explain("GetWlanInterface", code).meaning.c_str());
     for (const WLAN_INTERFACE_INFO& adapter : adapters)
         PrintAdapter(manager, adapter);
     CWirelessManage::Delete();

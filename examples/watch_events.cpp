@@ -1,5 +1,6 @@
 // Asks for a scan and prints what the service tells: watch_events [SECONDS], 60 unless told otherwise.
 
+#include <calvix/explain.h>
 #include <calvix/wireless_manage.h>
 
 #include <chrono>
@@ -42,11 +43,11 @@ int Watch(CWirelessManage& manager, std::chrono::seconds duration)
 {
     if (const int error = manager.RegisterNotification(Print, nullptr); error != 0)
     {
-        std::printf("nothing to watch (RegisterNotification: error %d)\n", error);
+        std::printf("nothing to watch: %s\n", calvix::Explain("RegisterNotification", error).meaning.c_str());
         return 1;
     }
     if (const int code = manager.Rescan(); code != 0)
-        std::printf("no scan (Rescan: %d)\n", code);
+        std::printf("no scan: %s\n", calvix::Explain("Rescan", code).meaning.c_str());
     std::this_thread::sleep_for(duration);
     manager.UnRegisterNotification(Print, nullptr);
     return 0;

@@ -2,6 +2,8 @@
 
 #include "output/failure.h"
 
+#include <calvix/explain.h>
+
 #include <optional>
 #include <span>
 #include <string>
@@ -123,15 +125,6 @@ const MethodResults* FindMethod(std::string_view method);
 
 /// The cause that a code has in a method; none where the code is no failure or unknown.
 std::optional<Cause> FindCause(const MethodResults& results, long long code);
-
-/// A result in words.
-struct Explanation
-{
-    bool known = false; ///< whether the method has such a result
-    bool failure = false;
-    std::string meaning;
-    std::string advice; ///< may be empty
-};
 
 Explanation Explain(const MethodResults& results, long long code);
 

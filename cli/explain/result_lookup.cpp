@@ -87,3 +87,10 @@ Explanation Explain(const MethodResults& results, long long code)
 }
 
 } // namespace calvix::host
+
+calvix::Explanation calvix::Explain(std::string_view method, long long code)
+{
+    const host::MethodResults* const results = host::FindMethod(method);
+    return results != nullptr ? host::Explain(*results, code)
+                              : Explanation{false, false, "the library has no such method", {}};
+}

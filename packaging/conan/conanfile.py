@@ -49,4 +49,8 @@ class CalvixConan(ConanFile):
 
     def package_info(self):
         debug_of_visual_c = self.settings.compiler == "msvc" and self.settings.build_type == "Debug"
-        self.cpp_info.libs = ["calvixd" if debug_of_visual_c else "calvix"]
+        suffix = "d" if debug_of_visual_c else ""
+        self.cpp_info.components["calvix"].libs = ["calvix" + suffix]
+        self.cpp_info.components["calvix"].set_property("cmake_target_name", "calvix::calvix")
+        self.cpp_info.components["explain"].libs = ["calvix_explain" + suffix]
+        self.cpp_info.components["explain"].set_property("cmake_target_name", "calvix::explain")

@@ -174,6 +174,17 @@ TEST(ResultCodes, KnowErrorsThatAnIntHoldsAsNegativeNumbers)
     EXPECT_FALSE(Explain(results, -4).known);
 }
 
+TEST(ResultCodes, AreExplainedToHosts)
+{
+    const Explanation noAdapter = calvix::Explain("getWlanInterface", -3);
+    EXPECT_TRUE(noAdapter.known && noAdapter.failure);
+    EXPECT_EQ(Describe(Cause::noAdapter).meaning, noAdapter.meaning);
+    EXPECT_EQ(Describe(Cause::noAdapter).advice, noAdapter.advice);
+    EXPECT_FALSE(calvix::Explain("GetWlanInterface", -99).known);
+    EXPECT_FALSE(calvix::Explain("GetWlanInterfaces", -3).known);
+    EXPECT_EQ("the library has no such method", calvix::Explain("GetWlanInterfaces", -3).meaning);
+}
+
 TEST(PlatformErrors, HaveAdviceByOperation)
 {
     EXPECT_THAT(AdviseOnPlatformError(5, "WlanGetAvailableNetworkList"), HasSubstr("location access"));

@@ -173,7 +173,7 @@ if(NOT WINDOWS)
     expect_printed("${output}" "${VERSION}")
     run("${pkg_config}" --cflags --libs calvix)
     separate_arguments(flags UNIX_COMMAND "${output}")
-    run("${COMPILER}" -std=c++20 "${CMAKE_CURRENT_LIST_DIR}/consumer/main.cpp" ${flags} -lwlanapi
+    run("${COMPILER}" -std=c++20 "${CMAKE_CURRENT_LIST_DIR}/consumer/main.cpp" ${flags} -lcalvix_explain -lwlanapi
         -o "${WORK}/by-pkg-config")
     set(ENV{LD_LIBRARY_PATH} "${tree}/${LIBDIR}")
     run("${WORK}/by-pkg-config")

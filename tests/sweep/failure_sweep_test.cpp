@@ -16,7 +16,6 @@ namespace calvix::test::failure_sweep_test
 namespace
 {
 
-using host::Explanation;
 using host::MethodResults;
 using methods::Method;
 using methods::Outcome;

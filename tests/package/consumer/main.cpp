@@ -1,3 +1,4 @@
+#include <calvix/explain.h>
 #include <calvix/wireless_manage.h>
 #include <calvix/wlan_functions.h>
 
@@ -19,7 +20,7 @@ int main()
     const long code = manager->GetWlanInterface(&adapters);
     if (code != 0 || !HasService())
     {
-        std::printf("GetWlanInterface: %ld\n", code);
+        std::printf("%s\n", calvix::Explain("GetWlanInterface", code).meaning.c_str());
         return 1;
     }
     char description[1024];
