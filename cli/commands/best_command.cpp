@@ -120,7 +120,7 @@ void AddBestCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<BestOptions>();
     commands
-        .Add("best", "Join the best network with a stored profile that connects automatically",
+        .Add("best", "Join a network by rank, the lowest score first (usually the weakest network)",
              [options](Host& host) { Best(host, *options); })
         .Text("--exclude-profile", options->excluded.profile, "Do not choose this profile")
         .Takes(ValueKind::profile)
@@ -130,7 +130,7 @@ void AddBestCommand(CommandSet& commands)
             "several times")
         .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
         .Prints("best", [] { return std::vector{BestRecord({}, {})}; })
-        .Examples("Join the best network, but no hot spot:\n"
+        .Examples("Join a network by rank, but no guest network:\n"
                   "  calvix best --exclude-ssid Guest --exclude-ssid hex:436166E9");
 }
 

@@ -80,7 +80,7 @@ long long NumberOf(const std::string& text)
     long long number = 0;
     const auto [stop, error] = std::from_chars(begin, end, number, hexadecimal ? 16 : 10);
     if (error != std::errc() || stop != end || begin == end)
-        throw BadInput("\"" + text + "\" is no result code", "give a number such as -4, 1062 or 0x80342002");
+        throw BadInput("\"" + text + "\" is not a result code", "give a number such as -4, 1062 or 0x80342002");
     return number;
 }
 

@@ -101,7 +101,7 @@ void AddHelpCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<HelpOptions>();
     // The parser never gets to see it: see ParseArguments.
-    commands.Add("help", "Tell what a command does and takes, as --help behind it does", [](Host&) {})
+    commands.Add("help", "Show the help of a command, as COMMAND --help does", [](Host&) {})
         .Texts("[COMMAND]", options->words, "The command, in one word or two")
         .Takes(ValueKind::command)
         .Examples("The arguments of a command:\n  calvix help profiles move");
@@ -120,7 +120,7 @@ void AddHelpCommands(CommandSet& commands)
         .Prints("manual", [] { return std::vector{ManualRecord("")}; })
         .Examples("Read it:\n  calvix manual | man -l -");
     commands
-        .Add("complete", "What may stand at the end of a command line, for the scripts of completion",
+        .Add("complete", "List what can complete a command line, for the completion scripts",
              [options](Host& host) { PrintCompletion(host, *options); })
         .Texts("[WORDS]", options->words, "The words before the last")
         .Text("--current", options->current, "The beginning of the last word")

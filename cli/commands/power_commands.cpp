@@ -174,12 +174,11 @@ void RefuseEndless(Host& host, const PowerOptions& options)
         return;
     if (!options.mayNotReturn)
     {
-        FailureReport report =
-            OperationFailure("this computer lists its power schemes, and there GetPowerScheme never "
-                             "returns: nothing was done",
-                             "copy a scheme with powercfg /duplicatescheme, or try all the same with "
-                             "--may-not-return")
-                .report();
+        FailureReport report = OperationFailure("this computer lists its power schemes, and there GetPowerScheme never "
+                                                "returns: nothing was done",
+                                                "copy a scheme with powercfg /duplicatescheme, or try it anyway with "
+                                                "--may-not-return")
+                                   .report();
         report.exitCode = ExitCode::badInput;
         report.method = "GetPowerScheme";
         throw Failure(report);

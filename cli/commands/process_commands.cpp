@@ -94,7 +94,7 @@ unsigned long ProcessNumber(const std::string& text)
     std::uint32_t number = 0;
     const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || stop != text.data() + text.size() || number == 0)
-        throw BadInput("\"" + text + "\" is no process", "give its number, as the task manager shows it");
+        throw BadInput("\"" + text + "\" is not a process number", "give its number, as the task manager shows it");
     return number;
 }
 

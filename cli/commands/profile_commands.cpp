@@ -147,7 +147,7 @@ void AddProfileCommands(CommandSet& commands)
     commands.Add("profiles show", "Print a profile's document", [options](Host& host) { ShowProfile(host, *options); })
         .Text("PROFILE", options->name, "The profile")
         .Takes(ValueKind::profile)
-        .Flag("--show-key", options->showKey, "Show the key too, where the service tells it")
+        .Flag("--show-key", options->showKey, "Show the key, too, if the service returns it")
         .Prints("profiles-show", [] { return std::vector{DocumentRecord("", "")}; })
         .Examples("Keep a profile for another computer:\n"
                   "  calvix profiles show Office --show-key > office.xml");

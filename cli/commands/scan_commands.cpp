@@ -86,7 +86,7 @@ ScanFacts ScanAndWait(Host& host, unsigned seconds)
     if (end == ScanEnd::failed)
         throw ReasonFailure(host, "the scan failed", reason);
     if (!scan.completed)
-        throw OperationFailure("the scan was not done within " + Counted(seconds, "second"),
+        throw OperationFailure("the scan timed out after " + Counted(seconds, "second"),
                                "wait longer with --timeout; the lists still show what was heard before");
     return scan;
 }

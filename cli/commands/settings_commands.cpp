@@ -97,7 +97,7 @@ std::vector<unsigned char> BytesOfHex(const std::string& text)
 {
     const auto bytes = BytesOfHexText(text);
     if (!bytes)
-        throw BadInput("\"" + text + "\" is no request: it takes pairs of hexadecimal digits",
+        throw BadInput("\"" + text + "\" is not a valid request: it needs pairs of hexadecimal digits",
                        "write it like 00A1F2 or \"00 A1 F2\"");
     return {bytes->begin(), bytes->end()};
 }

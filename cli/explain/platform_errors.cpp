@@ -78,7 +78,7 @@ constexpr PlatformError kSystemErrors[] = {
      "check the name; a program is looked for beside calvix, in the system's folders and on the path"},
     {3, "path not found", "check the folder"},
     {5, "access denied", "run as administrator"},
-    {50, "not supported", "this computer cannot do it: powercfg /a tells what it can"},
+    {50, "not supported", "this computer cannot do it: powercfg /a shows what it can do"},
     {87, "invalid parameter", ""},
     {193, "not a program", "give the name of a program for this system"},
     {740, "elevation required", "run as administrator"},

@@ -234,12 +234,12 @@ constexpr MethodResults kMethods[] = {
     {"RadioTurnOn", status, "the software radio was switched on", kRadioSwitch},
     {"TurnOnSoftwareRadio", status, "the software radio was switched on", kRadioSwitch},
     {"RadioTurnOff", status, "the software radio was switched off", kRadioSwitch},
-    {"ResetWiFiRadio", status, "the radio was asked to go off and on; whether it did is not told", kClientOnly},
+    {"ResetWiFiRadio", status, "the radio was asked to go off and on; whether it did is not reported", kClientOnly},
     {"RestartWiFiRadio", nothing, "the radio was asked to go off and on; nothing is reported", {}},
 
     {"EnableAutoCfg", platformError, "automatic connection is on", {}},
     {"EnableBackgroundScan", platformError, "background scanning is on", {}},
-    {"GetPowerSetting", platformError, "the power-saving level was asked for; a refusal is not told", {}},
+    {"GetPowerSetting", platformError, "the power-saving level was asked for; a refusal is not reported", {}},
     {"SetPowerSetting", status, "nothing was done, which is all that the method does", {}},
     {"GetPowerSettingStr", text, "the name of a power-saving level", {}},
     {"SetIhvSecuritySettings", platformError, "ordinary users may talk to the driver", kSetIhvSecuritySettings},
@@ -291,7 +291,7 @@ constexpr MethodResults kMethods[] = {
     {"CloseProcess", nothing, "the process was asked to end; nothing is reported", {}},
     {"CreateProcRunCmd", nothing, "the program has ended, or was never started; nothing is reported", {}},
     {"CreateProcRunExe", yesOrNo, "whether the program was started; it has ended", {}},
-    {"GetAppPath", text, "the host program's folder; empty when it cannot be told", {}},
+    {"GetAppPath", text, "the host program's folder; empty when it cannot be determined", {}},
     {"OpenUrl", status, "the internet can be reached", kOpenUrl},
 };
 

@@ -37,7 +37,7 @@ std::unique_ptr<simulation::Computer> MakeComputer(const std::string& scenario)
     }
     catch (const simulation::ScenarioError& error)
     {
-        throw BadInput(error.what(), "correct the scenario file; its schema tells what may stand where");
+        throw BadInput(error.what(), "correct the scenario file; its schema describes every field");
     }
 }
 

@@ -209,7 +209,7 @@ private:
         const auto address = forms::AddressFromText(Cell(row, "BSSID"));
         const int signal = WholeNumber(Cell(row, "SIGNAL"));
         if (!address)
-            throw LineError(row.line, "\"" + Cell(row, "BSSID") + "\" is no address of six bytes");
+            throw LineError(row.line, "\"" + Cell(row, "BSSID") + "\" is not an address of six bytes");
         if (signal < 0 || signal > 100)
             throw LineError(row.line, "\"" + Cell(row, "SIGNAL") + "\" is no percentage from 0 to 100");
         accessPoint.bssid = *address;
@@ -232,12 +232,12 @@ private:
         const std::string text = Cell(row, "FREQ");
         const std::uint32_t frequency = FrequencyFromMegahertz(text);
         if (!text.empty() && frequency == 0)
-            throw LineError(row.line, "\"" + text + "\" is no frequency of a channel");
+            throw LineError(row.line, "\"" + text + "\" is not a frequency of a channel");
         if (!text.empty())
             return frequency;
         if (const auto likely = CapturedFrequency("", WholeNumber(Cell(row, "CHAN"))))
             return *likely;
-        throw LineError(row.line, "\"" + Cell(row, "CHAN") + "\" is no channel of 2.4 or 5 GHz");
+        throw LineError(row.line, "\"" + Cell(row, "CHAN") + "\" is not a channel of 2.4 or 5 GHz");
     }
 
     std::uint32_t PhyTypeOf(const ValueRow& row, std::uint32_t frequencyKhz) const

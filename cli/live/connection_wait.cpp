@@ -26,7 +26,7 @@ ConnectRequest AcceptedRequest(Host& host)
 {
     const std::vector<ConnectRequest>& requests = host.watched().ConnectRequests();
     if (requests.empty())
-        throw OperationFailure("nothing was asked to be connected", "scan, and look at the stored profiles");
+        throw OperationFailure("no connection was requested", "scan, and check the stored profiles");
     if (requests.back().error == 0)
         return requests.back();
     // The walks of the library report success whatever became of their requests.

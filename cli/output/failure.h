@@ -19,8 +19,8 @@ enum class ExitCode
     failed = 1,       ///< the operation failed
     badInput = 2,     ///< bad usage, or a file that cannot be used
     unavailable = 3,  ///< no adapter, or the WLAN service cannot be reached
-    notConfirmed = 4, ///< the question whether to go on was not answered with yes
-    departed = 5      ///< the command departed from the recording that it was replayed from
+    notConfirmed = 4, ///< the confirmation was not answered with yes
+    departed = 5      ///< the command differs from the recording that it replays
 };
 
 /// Why a command ended without success, in words and in numbers.

@@ -36,7 +36,7 @@ void Confirm(Output& output, const std::string& whatHappens, bool answered)
     FailureReport report;
     report.exitCode = ExitCode::notConfirmed;
     report.message = "not confirmed: nothing was done";
-    report.advice = "answer yes, or say --yes where nobody can answer";
+    report.advice = "answer yes, or use --yes in a script";
     throw Failure(report);
 }
 

@@ -8,12 +8,12 @@ namespace
 
 constexpr ExitCodeText kExitCodeTexts[] = {
     {ExitCode::success, "success"},
-    {ExitCode::failed, "the operation failed: it was refused, the time was over, Ctrl-C ended the wait, or the output "
-                       "could not be written"},
+    {ExitCode::failed,
+     "the operation failed: it was refused or timed out, Ctrl-C ended the wait, or the output could not be written"},
     {ExitCode::badInput, "bad usage, or a file that cannot be used"},
     {ExitCode::unavailable, "no adapter, or the WLAN service cannot be reached"},
-    {ExitCode::notConfirmed, "the question whether to go on was not answered with yes, so nothing was done"},
-    {ExitCode::departed, "the command departed from the recording that it was replayed from"},
+    {ExitCode::notConfirmed, "the confirmation was not answered with yes, so nothing was done"},
+    {ExitCode::departed, "the command differs from the recording that it replays"},
 };
 
 } // namespace

@@ -21,7 +21,7 @@ std::string SsidArgument(const std::string& text)
 {
     const auto bytes = BytesOfSsidArgument(text);
     if (!bytes)
-        throw BadInput("\"" + text + "\" is no SSID: behind hex: it takes pairs of hexadecimal digits",
+        throw BadInput("\"" + text + "\" is not a valid SSID: hex: needs pairs of hexadecimal digits",
                        "write it like hex:436166E9; calvix networks --json shows the bytes as ssidHex");
     return *bytes;
 }

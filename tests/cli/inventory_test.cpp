@@ -231,7 +231,7 @@ TEST_F(ScanCommand, GivesUpAfterTheTimeout)
     world.adapters[0].scanMilliseconds = 3900;
     const Outcome outcome = RunOn(world, {"scan", "--timeout", "2"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("the scan was not done within 2 seconds"));
+    EXPECT_THAT(outcome.err, HasSubstr("the scan timed out after 2 seconds"));
     EXPECT_THAT(outcome.err, HasSubstr("--timeout"));
 }
 

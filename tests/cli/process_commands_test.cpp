@@ -151,7 +151,7 @@ TEST_F(RunCommandTest, TakesNumbersOfProcesses)
     {
         const Outcome outcome = RunOn(Workshop(), {"run", "--kill", "12", std::string("--kill=") + text});
         EXPECT_EQ(kBadInput, outcome.exitCode) << text;
-        EXPECT_THAT(outcome.err, HasSubstr("is no process")) << text;
+        EXPECT_THAT(outcome.err, HasSubstr("is not a process number")) << text;
     }
 }
 
