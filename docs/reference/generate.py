@@ -215,7 +215,7 @@ def codes_text(method, results, methods):
         code = row["code"] if not method.returns.startswith("unsigned") else f"0x{row['code'] & 0xFFFFFFFF:X}"
         yield f"| {code} | {escaped(row['meaning'])} | {escaped(row['advice'])} |"
     if results["returns"] == "0 or the platform's error number":
-        yield "| other | the platform's error number | `calvix explain` tells what it means |"
+        yield "| other | the platform's error number | `calvix explain` shows what it means |"
     yield ""
 
 
