@@ -25,8 +25,8 @@ bool Excludes(const ExcludedEntries& excluded, const WLAN_AVAILABLE_NETWORK& net
     return std::any_of(excluded.begin(), excluded.end(), begins);
 }
 
-/// Ranks the candidates and asks for a connection to one after the other, from the lowest score upward, until a request
-/// is accepted: 0. Otherwise the code of ConnectBestAP.
+/// Ranks the candidates and requests connections from the lowest score upward until a request is accepted. Returns 0,
+/// or the code of ConnectBestAP.
 int ConnectCandidates(HANDLE client,
                       const GUID* interfaceGuid,
                       const WLAN_AVAILABLE_NETWORK_LIST& networks,
@@ -45,8 +45,8 @@ int ConnectCandidates(HANDLE client,
 
     AddBandBonus(candidates, *entries);
     SortByScore(candidates);
-    // Deliberate: from the weakest upward. The service accepts a request without waiting for the connection, so the
-    // first accepted one stands, which mostly is the first.
+    // Deliberate: from the lowest score upward. The service accepts a request before it connects, so usually the first
+    // request is the accepted one.
     for (const WLAN_AVAILABLE_NETWORK* candidate : candidates)
         if (RequestNetwork(client, interfaceGuid, *candidate, trace) == 0)
             return 0;
@@ -81,7 +81,7 @@ int ConnectRanked(HANDLE& client, const GUID* interfaceGuid, Trace& trace, UsesP
     return ConnectCandidates(client, interfaceGuid, *lists.networks, candidates, trace);
 }
 
-/// The one connection behind all overloads; a null name excludes no profile.
+/// The implementation of all overloads; a null name excludes no profile.
 int ConnectBest(CWirelessManage& manager,
                 HANDLE& client,
                 const GUID* interfaceGuid,

@@ -14,7 +14,7 @@ using platform::wlan;
 namespace
 {
 
-/// What a remembered connection tells about the network to go back to.
+/// The network of a remembered connection.
 struct RememberedNetwork
 {
     const DOT11_SSID& ssid;

@@ -19,9 +19,9 @@ ErrorNumber RequestConnection(HANDLE client,
 ErrorNumber
 RequestNetwork(HANDLE client, const GUID* interfaceGuid, const WLAN_AVAILABLE_NETWORK& network, Trace& trace);
 
-/// The access point that a reconnection goes to: the last entry whose link quality is above the first entry's, or the
-/// first entry when there is none. Deliberate: the first entry stays the reference, so this is no search for the best
-/// quality; hosts count on its choices. The list holds at least one entry.
+/// The access point of a reconnection: the last entry whose link quality is above the first entry's, or the first entry
+/// when there is none. Deliberate: the first entry stays the reference, so this is not a search for the best quality;
+/// hosts rely on its choices. The list has at least one entry.
 const WLAN_BSS_ENTRY& PickAccessPoint(const WLAN_BSS_LIST& entries);
 
 /// A desired-BSSID list of the one access point.

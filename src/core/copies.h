@@ -41,12 +41,11 @@ void CopyTruncatingToCaller(Character* destination, int capacity, const Characte
         CopyTruncating(destination, static_cast<std::size_t>(capacity), source);
 }
 
-/// Called with what went wrong, and where, when a strict copy cannot be made. It must not return; when it does, the
-/// process is aborted.
+/// Called when a strict copy fails, with the reason and the place. It must not return; if it does, the process aborts.
 using StrictCopyHandler = void (*)(const char* message);
 
-/// Puts a handler in the place of the default one, which writes the message to the debugger and to standard error and
-/// aborts the process. Null brings the default back. Returns the handler that was in place.
+/// Replaces the default handler, which writes the message to the debugger and to standard error and aborts the process.
+/// Null restores the default. Returns the previous handler.
 StrictCopyHandler SetStrictCopyHandler(StrictCopyHandler handler);
 
 /// Ends the process through the handler: the caller of the method `where` broke its contract.

@@ -7,8 +7,8 @@
 namespace calvix
 {
 
-/// Owner of a block that the WLAN service handed out. Released with WlanFreeMemory at the end of its scope, the last
-/// declared first; with a release text, that text is emitted just before.
+/// Owner of a block of the WLAN service. Calls WlanFreeMemory at the end of its scope, the last declared first. Traces
+/// the release text, if any, just before.
 template <typename Record>
 class WlanMemory
 {
@@ -18,7 +18,7 @@ public:
     WlanMemory& operator=(const WlanMemory&) = delete;
     ~WlanMemory() { Release(); }
 
-    /// Releases what is held, before the end of the scope.
+    /// Releases the block before the end of the scope.
     void Release()
     {
         if (m_block == nullptr)
@@ -29,14 +29,14 @@ public:
         m_block = nullptr;
     }
 
-    /// Where an operation stores its result. What was held before is released.
+    /// Where an operation stores its result. Releases the previous block.
     Record** Receive()
     {
         Release();
         return &m_block;
     }
 
-    /// Takes over untyped data that an operation handed out.
+    /// Takes ownership of untyped data of an operation.
     void Take(PVOID data)
     {
         Release();

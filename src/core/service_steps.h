@@ -15,8 +15,7 @@ inline constexpr DWORD kClientVersion = 2;
 /// Steps that most methods share. Each traces its own failure through the method's trace and returns the platform's
 /// error number, 0 for success, unless said otherwise.
 
-/// What an operation has to be taken for: one that succeeded and handed out nothing, or a record that ends before what
-/// is read of it, has failed.
+/// The error of an operation. A success without a result, or with a record shorter than needed, is a failure.
 inline DWORD ErrorOf(DWORD error, const void* handedOut, std::size_t size = 0, std::size_t needed = 0)
 {
     if (error != 0)

@@ -31,8 +31,8 @@ void ListGuid(Trace& trace, unsigned index, const GUID& guid)
         trace.Line("  InterfaceGUID[%u]: %s", index, NarrowText(text).c_str());
 }
 
-/// Deliberate: of the two listings one ends the line behind the label, the other goes on in it; an unknown state has a
-/// second blank there.
+/// Deliberate: one listing writes the state on a new line after the label, the other on the same line, with two blanks
+/// before an unknown state.
 void ListState(Trace& trace, unsigned index, WLAN_INTERFACE_STATE state, bool onItsOwnLine)
 {
     char label[64] = {};

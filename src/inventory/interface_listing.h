@@ -12,14 +12,14 @@ namespace calvix
 struct InterfaceListing
 {
     const char* indent;     ///< before the number of interfaces
-    bool stateOnItsOwnLine; ///< rather than behind its label
+    bool stateOnItsOwnLine; ///< instead of after its label
 };
 
-/// Lists what one interface sees. Whether the service answered.
+/// Lists what one interface sees. Returns whether the service answered.
 using ListSeen = bool (*)(HANDLE client, const GUID* interfaceGuid, Trace& trace);
 
-/// Traces every interface, and behind each what it sees. 0; 1 when the service refused that for some interface; the
-/// platform's error number when the client handle cannot be opened.
+/// Traces every interface, each followed by what it sees. Returns 0; 1 if the service refused a list for some
+/// interface; the platform's error number if the client handle cannot be opened.
 int ListEveryInterface(HANDLE& client, const InterfaceListing& listing, ListSeen listSeen);
 
 /// A platform number in the 32 bits that it has there.
@@ -29,7 +29,7 @@ constexpr unsigned In32Bits(Number number)
     return static_cast<std::uint32_t>(number);
 }
 
-/// Traces a label and, behind it, an SSID's bytes; nothing for an SSID without any.
+/// Traces a label followed by an SSID's bytes; writes nothing for an empty SSID.
 void ListSsid(Trace& trace, const char* label, const DOT11_SSID& ssid);
 
 /// What a listing calls one value of an enumeration.

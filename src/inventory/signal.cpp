@@ -26,7 +26,8 @@ std::uint32_t InMegahertz(unsigned long frequency)
     return static_cast<std::uint32_t>(frequency);
 }
 
-/// Whether the connection's network is in view. Deliberate: where it is not, the trace tells of a failure 0.
+/// Whether the connection's network is in view. Deliberate: if it is not, the trace line reports a failure with error
+/// 0.
 bool IsInView(const WLAN_BSS_LIST& entries, Trace& trace)
 {
     if (entries.dwNumberOfItems == 0)

@@ -8,7 +8,7 @@ namespace calvix
 
 inline constexpr int kWeakestRssi = -100;
 
-/// dBm that a signal quality stands for; the inverse of StrengthOfRssi but for the integer division.
+/// The dBm of a signal quality; the inverse of StrengthOfRssi except for the integer division.
 inline int RssiOfQuality(unsigned long quality)
 {
     return static_cast<int>(quality / 2) + kWeakestRssi;

@@ -16,8 +16,8 @@
 namespace calvix::platform
 {
 
-/// The operating system as the library sees it: its operations, facility by facility. A platform is a value: whoever
-/// changes some of the operations begins with a copy of the others.
+/// The operating system as the library sees it: its operations, facility by facility. A platform is a value: to change
+/// some operations, copy it and replace them.
 struct Platform : WlanService,
                   ServiceControl,
                   Power,
@@ -44,11 +44,11 @@ struct Platform : WlanService,
 /// The provider that a binary is linked with: the operating system, or a simulated computer.
 Platform& DefaultPlatform();
 
-/// The provider put in the default's place, null while there is none.
+/// The provider that replaces the default, or null.
 inline std::atomic<Platform*> g_pReplacement{nullptr};
 
-/// Puts `replacement` behind every operation from the next one on; null brings the default back. The caller keeps
-/// ownership and keeps it alive as long as it is in place. Returns what was there before.
+/// Makes `replacement` the provider of all operations from the next one on; null restores the default. The caller keeps
+/// ownership, and keeps it alive while it is in use. Returns the previous one.
 inline Platform* ReplacePlatform(Platform* replacement)
 {
     return g_pReplacement.exchange(replacement);

@@ -7,8 +7,8 @@
 
 using namespace calvix;
 
-/// Profiles are inspected by plain text search, on purpose: what it finds decides which profiles the automatic
-/// connection uses, so its rules are kept exactly, entities, namespaces and white space left as they stand.
+/// Deliberate: profiles are read with a plain text search. Its result decides which profiles the automatic connection
+/// uses, so its rules stay as they are: it does not interpret entities, namespaces or white space.
 
 namespace
 {
@@ -29,7 +29,7 @@ struct ElementText
     ElementProblem problem;
 };
 
-/// What stands between the first closing tag and the last '>' before it.
+/// The text between the first closing tag and the last '>' before it.
 ElementText TextBefore(const wchar_t* closingTag, const wchar_t* xml)
 {
     const wchar_t* const end = std::wcsstr(xml, closingTag);
@@ -48,7 +48,7 @@ int CWirelessManage::IsThisSSID(const wchar_t* xml, wchar_t* ssid)
 {
     if (xml == nullptr || ssid == nullptr)
         return 0;
-    // The profile's own <name> stands before the SSID and must not be taken for it.
+    // Skip the profile's own <name>, which comes before the SSID.
     const wchar_t* const start = std::wcsstr(xml, L"<SSID>");
     if (start == nullptr)
         return 0;

@@ -9,8 +9,8 @@ using namespace calvix;
 namespace
 {
 
-/// Switches of an interface's first PHY. The other PHYs are not looked at, deliberately: an adapter whose first PHY is
-/// on counts as on.
+/// Switches of an interface's first PHY. Deliberate: the other PHYs are ignored, so an adapter whose first PHY is on
+/// counts as on.
 struct FirstPhy
 {
     DOT11_RADIO_STATE software = dot11_radio_state_unknown;
@@ -183,7 +183,8 @@ int CWirelessManage::ResetWiFiRadio(const GUID* pInterfaceGuid)
     LocalTrace<128> trace;
     if (OpenClient(hClient, trace) != 0)
         return -1;
-    // Deliberate: the outcome of the two switches is only traced; the result tells of the client handle alone.
+    // Deliberate: the outcome of the two switches is only traced; the result reports only whether the client handle was
+    // opened.
     if (!trace.Failed(SetSoftwareRadio(hClient, pInterfaceGuid, dot11_radio_state_off), "set radio failed!err is %u"))
         trace.Message("set radio off OK");
     platform::clock().Sleep(kResetPause);

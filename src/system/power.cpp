@@ -19,7 +19,8 @@ NTSTATUS QueryPower(POWER_INFORMATION_LEVEL level, Record& record, const char* s
     return status;
 }
 
-/// The scheme that is active now, on a computer that can sleep. 0; -1 it cannot, -2 the scheme cannot be told.
+/// Finds the active scheme of a computer that can sleep. Returns 0; -1 if it cannot sleep, -2 if the scheme cannot be
+/// read.
 long FindActiveScheme(UINT& schemeId)
 {
     if (!power().IsPwrSuspendAllowed())
@@ -94,7 +95,7 @@ unsigned long long CWirelessManage::GetLastSleepTime()
 
 long CWirelessManage::GetSystemPowerPolicy()
 {
-    // Deliberate: both policies are asked for and dropped, and only the second answer comes out.
+    // Deliberate: both policies are queried and discarded, and only the second result is returned.
     SYSTEM_POWER_POLICY mains{};
     QueryPower(SystemPowerPolicyAc, mains, "SystemPowerPolicyAc succeed", "SystemPowerPolicyAc fail");
     SYSTEM_POWER_POLICY battery{};

@@ -78,7 +78,7 @@ int CWirelessManage::GetPrivileges()
         return 0;
     TOKEN_PRIVILEGES previous{};
     DWORD returnLength = 0;
-    // Deliberate: the last error, which would tell that the account does not hold the privilege, is not asked for.
+    // Deliberate: the last error is not checked, which would show that the account does not hold the privilege.
     return security().AdjustTokenPrivileges(token.get(), FALSE, &privileges, sizeof(previous), &previous,
                                             &returnLength) != FALSE
                ? 1
@@ -89,10 +89,10 @@ bool CWirelessManage::EnablePriviledge(const char* privilegeName)
 {
     ObjectHandle token;
     TOKEN_PRIVILEGES privileges{};
-    // Deliberate: only a failed adjustment is a failure; a token or a name that is not there counts as enabled.
+    // Deliberate: only a failed adjustment is a failure; a missing token or an unknown name counts as enabled.
     if (!OpenOwnToken(token) || !DescribeEnabling(privilegeName, privileges))
         return true;
-    // The platform calls a partial adjustment a success and tells the rest in the last error only.
+    // The platform reports success for a partial adjustment; only the last error shows the difference.
     security().AdjustTokenPrivileges(token.get(), FALSE, &privileges, 0, nullptr, nullptr);
     return errors().GetLastError() == 0;
 }
@@ -107,7 +107,7 @@ void CWirelessManage::CloseProcess(unsigned long processId)
 
 void CWirelessManage::CreateProcRunCmd(char* commandLine)
 {
-    // Deliberate: that nothing was started is not told.
+    // Deliberate: a failed start is not reported.
     if (commandLine != nullptr)
         RunToItsEnd(nullptr, commandLine);
 }
@@ -139,10 +139,10 @@ int CWirelessManage::IsWow64()
     const FARPROC address = processes().GetProcAddress(processes().GetModuleHandleA("kernel32"), "IsWow64Process");
     if (address == nullptr)
         return 0;
-    // A detour through void(*)() tells the compiler that the change of the function's type is meant.
+    // The cast through void(*)() shows the compiler that the change of the function's type is intended.
     const auto isWow64Process = reinterpret_cast<IsWow64ProcessFunction>(reinterpret_cast<void (*)()>(address));
     BOOL emulated = FALSE;
-    // Deliberate: whether the question was answered is not looked at; unanswered it leaves the 0.
+    // Deliberate: the result of the call is not checked; after a failure the 0 remains.
     isWow64Process(processes().GetCurrentProcess(), &emulated);
     return emulated;
 }

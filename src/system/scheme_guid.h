@@ -5,8 +5,8 @@
 namespace calvix
 {
 
-/// Owner of a scheme's GUID that power management handed out. Released with LocalFree at the end of its scope, also when
-/// nothing was handed out, which the platform takes.
+/// Owner of a scheme's GUID from power management. Calls LocalFree at the end of its scope, even without a GUID, which
+/// the platform accepts.
 class SchemeGuid
 {
 public:

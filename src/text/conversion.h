@@ -8,8 +8,8 @@
 namespace calvix
 {
 
-/// Writes wide text as narrow text of the current C locale, with '?' for each character that it lacks; cut where the room
-/// ends, and terminated unless there is none. The length of the whole text.
+/// Writes wide text as narrow text of the current C locale, with '?' for each character that it lacks. Cuts and
+/// terminates the text at the capacity, if that is not 0. Returns the length of the whole text.
 std::size_t NarrowInLocale(std::wstring_view wide, char* narrow, std::size_t capacity);
 
 /// The same for a trace line, with room for more than a line holds.

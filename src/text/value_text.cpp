@@ -103,7 +103,7 @@ bool CWirelessManage::ReasonCode2String(unsigned long reasonCode, char* text, in
 {
     constexpr DWORD capacity = 256;
     wchar_t reason[capacity] = {};
-    // Deliberate: only an invalid parameter is a failure; after any other the empty text is converted as it stands.
+    // Deliberate: only an invalid parameter is a failure; after any other the empty text is converted.
     if (platform::wlan().WlanReasonCodeToString(reasonCode, capacity, reason, nullptr) == ERROR_INVALID_PARAMETER)
         return false;
     return platform::text().WideCharToMultiByte(CP_ACP, 0, reason, -1, text, textSize, nullptr, nullptr) != 0;

@@ -133,8 +133,8 @@ inline constexpr GUID unattend_sleep_timeout = {
     0x7bc4a2f9, 0xd8fc, 0x4469, {0xb0, 0x7b, 0x33, 0xeb, 0x78, 0x5a, 0xac, 0xa0}};
 } // namespace power_guid
 
-// Older SDKs declare the byte for "always on, always connected" as a spare one, without its name; it has
-// always been the third behind FastSystemS4.
+// Older SDKs declare the byte for "always on, always connected" as a spare byte without a name. It has always been the
+// third byte after FastSystemS4.
 inline constexpr std::size_t aoAcOffset = offsetof(SYSTEM_POWER_CAPABILITIES, FastSystemS4) + 3;
 
 // Whether the computer sleeps in the "always on, always connected" way (Modern Standby): the record's
