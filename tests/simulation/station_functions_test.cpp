@@ -302,7 +302,7 @@ TEST_F(StationFunctions, SettingsOfAnAdapterAreToldAsTheyWereSet)
     const auto setType = [&] { EXPECT_EQ(set(wlan_intf_opcode_bss_type, dot11_BSS_type_any), ERROR_SUCCESS); };
     EXPECT_EQ(ToldDuring(setType), (Lines{"acm 5"}));
     EXPECT_EQ(Query<DOT11_BSS_TYPE>(wlan_intf_opcode_bss_type), dot11_BSS_type_any);
-    EXPECT_EQ(set(wlan_intf_opcode_bss_type, static_cast<DOT11_BSS_TYPE>(4)), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(set(wlan_intf_opcode_bss_type, std::uint32_t{4}), ERROR_INVALID_PARAMETER);
     EXPECT_EQ(set(wlan_intf_opcode_current_operation_mode, ULONG{4}), ERROR_SUCCESS);
     EXPECT_EQ(set(wlan_intf_opcode_current_operation_mode, ULONG{0x80000000}), ERROR_NOT_SUPPORTED);
     EXPECT_EQ(set(wlan_intf_opcode_current_operation_mode, ULONG{2}), ERROR_INVALID_PARAMETER);

@@ -25,8 +25,8 @@ protected:
     {
         std::vector<unsigned char> room(static_cast<std::size_t>(length) + 1, 0x5A);
         const std::string neighbours = "7" + text + "7"; // digits that are not to be read
-        unsigned char* const result = manager().StringToHex(neighbours.data() + 1, static_cast<int>(text.size()),
-                                                            room.data(), length, reversed);
+        unsigned char* const result =
+            manager().StringToHex(neighbours.data() + 1, static_cast<int>(text.size()), room.data(), length, reversed);
         EXPECT_EQ(room.data(), result);
         EXPECT_EQ(0x5A, room.back()) << "written past the destination";
         room.pop_back();
