@@ -8,6 +8,7 @@ namespace calvix::host
 CommandSet AllCommands()
 {
     CommandSet commands;
+    AddDoctorCommand(commands);
     AddAdapterCommands(commands);
     AddScanCommands(commands);
     AddProfileCommands(commands);

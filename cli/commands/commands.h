@@ -9,6 +9,7 @@ namespace calvix::host
 CommandSet AllCommands();
 
 /// Those of one family.
+void AddDoctorCommand(CommandSet& commands);
 void AddAdapterCommands(CommandSet& commands);
 void AddScanCommands(CommandSet& commands);
 void AddProfileCommands(CommandSet& commands);

@@ -10,6 +10,7 @@
 #include "output/json_output.h"
 #include "output/table.h"
 #include "view/describe.h"
+#include "view/radio_view.h"
 
 namespace calvix::host
 {
@@ -17,44 +18,10 @@ namespace calvix::host
 namespace
 {
 
-struct RadioFacts
-{
-    bool on = false;
-    std::string software; ///< "on", "off" or "unknown"
-    std::string hardware;
-};
-
-JsonRecord Describe(const RadioFacts& radio)
-{
-    const Shape position{.among = {"on", "off", "unknown"}};
-    return JsonRecord()
-        .Add("on", radio.on)
-        .Add("software", radio.software, position)
-        .Add("hardware", radio.hardware, position);
-}
-
 struct RadioOptions
 {
     unsigned seconds = 15;
 };
-
-const char* SwitchText(unsigned int state)
-{
-    if (state == dot11_radio_state_on)
-        return "on";
-    return state == dot11_radio_state_off ? "off" : "unknown";
-}
-
-RadioFacts ReadRadio(Host& host)
-{
-    unsigned int software = dot11_radio_state_unknown;
-    unsigned int hardware = dot11_radio_state_unknown;
-    RadioFacts facts;
-    facts.on = host.Check("PhyRadioIsOn2", host.manager().PhyRadioIsOn2(host.adapterGuid(), software, hardware)) == 1;
-    facts.software = SwitchText(software);
-    facts.hardware = SwitchText(hardware);
-    return facts;
-}
 
 void ShowRadio(Host& host, const RadioFacts& radio)
 {
@@ -68,7 +35,7 @@ void ShowRadio(Host& host, const RadioFacts& radio)
 
 void ShowRadioNow(Host& host)
 {
-    ShowRadio(host, ReadRadio(host));
+    ShowRadio(host, ReadRadio(host, host.adapterGuid()));
 }
 
 /// A radio that is still off after it was to be switched on.
@@ -78,15 +45,14 @@ void RequireOn(const RadioFacts& radio)
         return;
     const bool byHardware = radio.hardware == "off";
     throw OperationFailure(byHardware ? "the radio is still off: its hardware switch is off" : "the radio is still off",
-                           byHardware ? "use the switch or the key combination on the case"
-                                      : "wait a moment and look again: calvix radio status");
+                           byHardware ? kUseHardwareSwitch : "wait a moment and look again: calvix radio status");
 }
 
 void SwitchOn(Host& host)
 {
     unsigned long error = 0;
     host.Require("TurnOnSoftwareRadio", host.manager().TurnOnSoftwareRadio(host.adapterGuid(), error));
-    const RadioFacts radio = ReadRadio(host);
+    const RadioFacts radio = ReadRadio(host, host.adapterGuid());
     RequireOn(radio);
     ShowRadio(host, radio);
 }
@@ -117,7 +83,7 @@ void ResetRadio(Host& host)
         host.Require("ResetWiFiRadio", host.manager().ResetWiFiRadio(adapter));
     }
     RequireSwitched(host, "ResetWiFiRadio");
-    const RadioFacts radio = ReadRadio(host);
+    const RadioFacts radio = ReadRadio(host, host.adapterGuid());
     RequireOn(radio);
     ShowRadio(host, radio);
 }
@@ -167,7 +133,7 @@ void Restart(Host& host, const RadioOptions& options)
         host.manager().RestartWiFiRadio(adapter);
     }
     RequireSwitched(host, "RestartWiFiRadio");
-    const RadioFacts radio = ReadRadio(host);
+    const RadioFacts radio = ReadRadio(host, host.adapterGuid());
     RequireOn(radio);
     if (!profile.empty() && !WaitForConnection(host, notifications, options.seconds))
         throw OperationFailure("the radio is on again, but the connection by " + Quoted(profile) +

@@ -8,15 +8,21 @@
 #include "output/json_output.h"
 #include "output/table.h"
 #include "output/text_forms.h"
+#include "report/channel_load.h"
 #include "report/spectrum_chart.h"
 #include "report/take_picture.h"
 #include "view/describe.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace calvix::host
 {
 
 namespace
 {
+
+constexpr const char* kNoAccessPoint = "No access point is in view. Scan with: calvix scan\n";
 
 struct ScanFacts
 {
@@ -160,7 +166,7 @@ void DrawAccessPoints(Host& host)
     const auto accessPoints =
         ArrangedAir(host, connection ? MacText(connection->wlanAssociationAttributes.dot11Bssid) : std::string());
     if (accessPoints.empty())
-        host.out() << "No access point is in view. Scan with: calvix scan\n";
+        host.out() << kNoAccessPoint;
     else
         PrintSpectrum(host, accessPoints);
 }
@@ -174,9 +180,50 @@ void ListAccessPoints(Host& host, const ScanOptions& options)
     if (host.json())
         return PrintJson(host.out(), Under("accessPoints", accessPoints));
     if (accessPoints.empty())
-        host.out() << "No access point is in view. Scan with: calvix scan\n";
+        host.out() << kNoAccessPoint;
     else
         PrintAccessPoints(host, accessPoints);
+}
+
+/// The channels of a band into which something reaches, and the least crowded one.
+void PrintChannels(Output& output, const BandLoad& band)
+{
+    constexpr unsigned loadOfOneMark = 20;
+    Table table(
+        {{"Channel", Align::right}, {"APs", Align::right}, {"dBm", Align::right}, {"Load", Align::right}, {""}});
+    for (const ChannelLoad& channel : band.channels)
+    {
+        const bool least = channel.channel == band.leastCrowded;
+        if (channel.accessPoints == 0 && !least)
+            continue;
+        const std::string bar((channel.load + loadOfOneMark - 1) / loadOfOneMark, '#');
+        table.AddRow({std::to_string(channel.channel), std::to_string(channel.accessPoints),
+                      channel.strongest ? std::to_string(*channel.strongest) : "", std::to_string(channel.load),
+                      least ? Cell(bar + (bar.empty() ? "" : " ") + "least crowded", Tone::good) : Cell(bar)});
+    }
+    output.out() << Toned(band.band, Tone::strong, output.terminal()) << '\n';
+    table.Print(output.out(), output.terminal());
+}
+
+void ListChannels(Host& host, const ScanOptions& options)
+{
+    host.adapter();
+    ScanIfAsked(host, options);
+    const auto air = ListAir(host);
+    const auto bands = MeasureBands(air);
+    if (host.json())
+        return PrintJson(host.out(), Under("bands", bands));
+    if (air.empty())
+        host.out() << kNoAccessPoint;
+    const char* gap = "";
+    for (const BandLoad& band : bands)
+    {
+        const auto isHeard = [](const ChannelLoad& channel) { return channel.accessPoints != 0; };
+        if (!std::any_of(band.channels.begin(), band.channels.end(), isHeard))
+            continue;
+        host.out() << std::exchange(gap, "\n");
+        PrintChannels(host, band);
+    }
 }
 
 Command& AddScanning(Command& command, const std::shared_ptr<ScanOptions>& options)
@@ -208,6 +255,12 @@ void AddScanCommands(CommandSet& commands)
         .Prints("bss", [] { return std::vector{Under("accessPoints", std::vector<AccessPointFacts>{})}; })
         .Examples("The spectrum as it is now:\n"
                   "  calvix bss --scan --chart");
+    AddScanning(commands.Add("channels", "Show how crowded each channel is, and the least crowded of each band",
+                             [options](Host& host) { ListChannels(host, *options); }),
+                options)
+        .Prints("channels", [] { return std::vector{Under("bands", std::vector<BandLoad>{})}; })
+        .Examples("Where should the access point be?\n"
+                  "  calvix channels --scan");
 }
 
 } // namespace calvix::host

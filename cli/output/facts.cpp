@@ -19,4 +19,11 @@ const char* OutcomeText(Outcome outcome)
     return "";
 }
 
+const char* VerdictText(Verdict verdict)
+{
+    if (verdict == Verdict::ok)
+        return "ok";
+    return verdict == Verdict::warning ? "warning" : "failed";
+}
+
 } // namespace calvix::host

@@ -169,4 +169,24 @@ struct CandidateFacts
 /// "joined", "refused", "accepted", "not tried"
 const char* OutcomeText(Outcome outcome);
 
+enum class Verdict
+{
+    ok,
+    warning, ///< works, but not as well as it could
+    failed
+};
+
+/// One thing that the doctor looked at.
+struct CheckFacts
+{
+    unsigned adapter = 0; ///< as AdapterFacts numbers it; 0: it is about the computer
+    std::string check;    ///< "WLAN service"
+    Verdict verdict = Verdict::ok;
+    std::string finding;
+    std::string advice; ///< what to do about it; empty where it is ok
+};
+
+/// "ok", "warning", "failed"
+const char* VerdictText(Verdict verdict);
+
 } // namespace calvix::host

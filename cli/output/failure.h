@@ -36,6 +36,7 @@ struct FailureReport
     std::uint32_t reasonCode = 0; ///< why the service did not make a connection or store a profile; 0: not told
     std::string reason;           ///< its text
     std::vector<CandidateFacts> candidates; ///< that were asked for in vain
+    std::vector<CheckFacts> checks;         ///< of the doctor, some of which failed
 };
 
 /// Ends a command.

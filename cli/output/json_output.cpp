@@ -109,6 +109,16 @@ JsonRecord Describe(const CandidateFacts& candidate)
         .Add("error", candidate.error, {.meaning = "The platform's error number", .emptyIsNull = true});
 }
 
+JsonRecord Describe(const CheckFacts& check)
+{
+    return JsonRecord("One thing that doctor looks at.", "check")
+        .Add("adapter", check.adapter, {.meaning = "Its number; null: about the computer", .emptyIsNull = true})
+        .Add("check", check.check)
+        .Add("verdict", VerdictText(check.verdict), {.among = {"ok", "warning", "failed"}})
+        .Add("finding", check.finding)
+        .Add("advice", check.advice, {.meaning = "What to do about it", .emptyIsNull = true});
+}
+
 JsonRecord Describe(const RoamFacts& roam)
 {
     const Shape bssidOrNull{.definition = "bssid", .emptyIsNull = true};
@@ -180,6 +190,7 @@ JsonRecord Describe(const FailureReport& failure)
             .Add("reason", failure.reason, {.meaning = "In its words", .emptyIsNull = true});
     return JsonRecord()
         .AddIf(!failure.candidates.empty(), "candidates", failure.candidates, {"Of best, asked for in vain"})
+        .AddIf(!failure.checks.empty(), "checks", failure.checks, {"Of doctor, some of which failed"})
         .Add("error", error);
 }
 

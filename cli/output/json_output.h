@@ -22,12 +22,14 @@ JsonRecord Describe(const ProfileFacts& profile);
 JsonRecord Describe(const ConnectionFacts& connection);
 JsonRecord Describe(const StatusFacts& status);
 JsonRecord Describe(const CandidateFacts& candidate);
+JsonRecord Describe(const CheckFacts& check);
 JsonRecord Describe(const RoamFacts& roam);
 JsonRecord Describe(const SignalFacts& signal);
 JsonRecord Describe(const NoticeFacts& notice);
 JsonRecord Describe(const ImportFacts& import);
 JsonRecord Describe(const IdlePolicyFacts& policy);
-/// {"error": {...}}, in the place of a result; with "candidates" where some were asked for in vain.
+/// {"error": {...}}, in the place of a result; with "candidates" where some were asked for in vain, with
+/// "checks" where some failed.
 JsonRecord Describe(const FailureReport& failure);
 
 /// A value under a name.

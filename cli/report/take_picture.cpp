@@ -6,9 +6,6 @@
 #include "view/status.h"
 
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <limits>
 
 namespace calvix::host
 {
@@ -30,28 +27,6 @@ bool TakePart(ReportFacts& report, const char* part, Action action)
         report.missing.push_back({part, failure.report()});
         return false;
     }
-}
-
-/// The service's time stamp as the computer's calendar has it; empty for one that is none.
-std::string MomentOf(std::uint64_t hostTime)
-{
-    using namespace std::chrono;
-    constexpr std::uint64_t unitsInSecond = 10000000;
-    constexpr sys_days beginning = 1601y / January / 1;
-    constexpr auto first = 2000y; // drivers without a clock stamp from the start of the computer
-    if (hostTime > (std::numeric_limits<std::int64_t>::max)())
-        return {};
-    const auto moment = beginning + seconds(static_cast<std::int64_t>(hostTime / unitsInSecond));
-    const year_month_day date(floor<days>(moment));
-    const hh_mm_ss time(moment - floor<days>(moment));
-    if (date.year() < first)
-        return {};
-    char text[64];
-    std::snprintf(text, sizeof(text), "%04d-%02u-%02u %02d:%02d:%02d UTC", static_cast<int>(date.year()),
-                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                  static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
-                  static_cast<int>(time.seconds().count()));
-    return text;
 }
 
 void TakeAdapters(Host& host, ReportFacts& report)
@@ -131,7 +106,7 @@ void ArrangePicture(ReportFacts& report)
         newest = (std::max)(newest, point.hostTime);
     }
     if (newest != 0)
-        report.heardAt = MomentOf(newest);
+        report.heardAt = MomentText(newest);
     AddThoseThatLeft(report.history.heard, report.accessPoints);
     Arrange(report.accessPoints);
 }

@@ -9,6 +9,10 @@
 #include "text/value_text.h"
 #include <calvix/platform_records.h>
 
+#include <chrono>
+#include <cstdio>
+#include <limits>
+
 namespace calvix::host
 {
 
@@ -88,6 +92,27 @@ void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPo
                       std::to_string(facts.rssi), std::to_string(facts.channel), facts.band, facts.phy});
     }
     table.Print(host.out(), host.terminal());
+}
+
+std::string MomentText(std::uint64_t hostTime)
+{
+    using namespace std::chrono;
+    constexpr std::uint64_t unitsInSecond = 10000000;
+    constexpr sys_days beginning = 1601y / January / 1;
+    constexpr auto first = 2000y; // drivers without a clock stamp from the start of the computer
+    if (hostTime > (std::numeric_limits<std::int64_t>::max)())
+        return {};
+    const auto moment = beginning + seconds(static_cast<std::int64_t>(hostTime / unitsInSecond));
+    const year_month_day date(floor<days>(moment));
+    const hh_mm_ss time(moment - floor<days>(moment));
+    if (date.year() < first)
+        return {};
+    char text[64];
+    std::snprintf(text, sizeof(text), "%04d-%02u-%02u %02d:%02d:%02d UTC", static_cast<int>(date.year()),
+                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                  static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
+                  static_cast<int>(time.seconds().count()));
+    return text;
 }
 
 std::string Counted(std::size_t count, const char* noun)

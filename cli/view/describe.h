@@ -18,6 +18,9 @@ std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_EN
 
 void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPoints);
 
+/// The service's time stamp as the computer's calendar has it; empty for one that is none.
+std::string MomentText(std::uint64_t hostTime);
+
 /// "1 network", "3 networks"
 std::string Counted(std::size_t count, const char* noun);
 

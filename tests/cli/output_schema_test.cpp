@@ -28,6 +28,7 @@ struct Row
 const std::vector<Row>& Rows()
 {
     static const std::vector<Row> rows{
+        {"doctor", "doctor", {}, "office-walk"},
         {"adapters", "adapters", {}, "two-adapters"},
         {"adapters", "adapters", {}, "laptop"},
         {"networks", "networks", {}, "airport"},
@@ -35,6 +36,7 @@ const std::vector<Row>& Rows()
         {"networks", "networks", {"--scan"}, "laptop"},
         {"bss", "bss", {}, "airport"},
         {"bss", "bss", {"--interface", "2"}, "two-adapters"},
+        {"channels", "channels", {}, "airport"},
         {"scan", "scan", {}},
         {"profiles-list", "profiles list", {}, "airport"},
         {"profiles-show", "profiles show", {"Lindenhof"}},
@@ -78,6 +80,7 @@ const std::vector<Row>& Rows()
         {"report", "report", {"-o", "OUTPUT", "--for", "3"}, "office-walk"},
         {"completion", "completion", {"bash"}},
         {"manual", "manual", {}},
+        {"failure", "doctor", {}, "two-adapters"},
         {"failure", "networks", {}, "consent-denied"},
         {"failure", "status", {}, "service-stopped"},
         {"failure", "adapters", {}, "no-adapter"},

@@ -1,0 +1,74 @@
+#include "commands/commands.h"
+#include "explain/failure_words.h"
+#include "host/host.h"
+#include "output/json_output.h"
+#include "output/table.h"
+#include "view/describe.h"
+#include "view/diagnosis.h"
+
+#include <algorithm>
+
+namespace calvix::host
+{
+
+namespace
+{
+
+constexpr std::size_t kVerdictColumns = 9;
+constexpr std::size_t kCheckColumns = 14;
+
+Tone ToneOf(Verdict verdict)
+{
+    if (verdict == Verdict::ok)
+        return Tone::good;
+    return verdict == Verdict::warning ? Tone::fair : Tone::poor;
+}
+
+void PrintCheck(Host& host, const CheckFacts& check)
+{
+    std::string verdict = VerdictText(check.verdict);
+    verdict.resize(kVerdictColumns, ' ');
+    // The adapter's line stands above the others about it.
+    std::string name = check.check;
+    if (name == "Adapter" && check.adapter != 0)
+        name += " " + std::to_string(check.adapter);
+    name.resize(kCheckColumns, ' ');
+    host.out() << Toned(verdict, ToneOf(check.verdict), host.terminal()) << name << check.finding << '\n';
+    if (!check.advice.empty())
+        host.out() << "  What to do: " << check.advice << ".\n";
+}
+
+void ShowDiagnosis(Host& host)
+{
+    const Diagnosis diagnosis = Diagnose(host);
+    if (!host.json())
+        for (const CheckFacts& check : diagnosis.checks)
+            PrintCheck(host, check);
+    const auto failed = static_cast<std::size_t>(std::count_if(diagnosis.checks.begin(), diagnosis.checks.end(),
+                                                               [](const CheckFacts& check)
+                                                               { return check.verdict == Verdict::failed; }));
+    if (failed != 0)
+    {
+        FailureReport report =
+            OperationFailure(Counted(failed, "check") + " of " + std::to_string(diagnosis.checks.size()) + " failed",
+                             "begin with the first one: others may follow from it")
+                .report();
+        report.exitCode = diagnosis.exitCode;
+        report.checks = diagnosis.checks;
+        throw Failure(report);
+    }
+    if (host.json())
+        PrintJson(host.out(), Under("checks", diagnosis.checks));
+}
+
+} // namespace
+
+void AddDoctorCommand(CommandSet& commands)
+{
+    commands.Add("doctor", "Check everything, and tell what is wrong and what to do", ShowDiagnosis)
+        .Prints("doctor", [] { return std::vector{Under("checks", std::vector<CheckFacts>{})}; })
+        .Examples("Of the second adapter only:\n"
+                  "  calvix doctor --interface 2");
+}
+
+} // namespace calvix::host

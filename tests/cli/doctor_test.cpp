@@ -1,0 +1,170 @@
+// What the doctor finds out: each computer of the gallery with something wrong, and its diagnosis.
+
+#include "cli_test.h"
+
+#include "platform/platform.h"
+#include "simulation/computer.h"
+#include "wrappers/call_log.h"
+#include "wrappers/fault_injection.h"
+#include "wrappers/intercepted_platform.h"
+
+#include <nlohmann/json.hpp>
+
+namespace calvix::test::doctor_test
+{
+namespace
+{
+
+using nlohmann::json;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+struct Case
+{
+    const char* scenario;
+    const char* operation; ///< that is refused; null: none
+    DWORD error;
+    int exitCode;
+    const char* checks; ///< what was looked at, and what it came to
+    const char* check;  ///< the one that matters
+    const char* finding;
+    const char* advice;
+};
+
+void PrintTo(const Case& row, std::ostream* out)
+{
+    *out << row.scenario << (row.operation != nullptr ? row.operation : "");
+}
+
+constexpr const char* kAllWell = "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, "
+                                 "1 Networks ok, 1 Profiles ok, 1 Connection ok, Internet ok";
+
+const Case kCases[] = {
+    {"office-walk", nullptr, 0, 0, kAllWell, "Connection", "Brightwater Staff at 02:B8:00:11:00:02, signal 100%", ""},
+    {"service-stopped", nullptr, 0, 3, "WLAN API ok, WLAN service failed, Internet ok", "WLAN service",
+     "not running, 1062); the service control manager says of WlanSvc: stopped", "sc start WlanSvc"},
+    {"home", "WlanOpenHandle", ERROR_MOD_NOT_FOUND, 3, "WLAN API failed, Internet ok", "WLAN API", "126",
+     "Install-WindowsFeature Wireless-Networking"},
+    {"no-adapter", nullptr, 0, 3, "WLAN API ok, WLAN service ok, Adapter failed, Internet ok", "Adapter",
+     "no wireless adapter", "device manager"},
+    {"radio-off", nullptr, 0, 1,
+     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio failed, 1 Profiles ok, Internet ok", "Radio",
+     "off: software switch on, hardware switch off", "use the switch"},
+    {"consent-denied", nullptr, 0, 1,
+     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location failed, 1 Profiles ok, Internet ok",
+     "Location", "access denied, 5", "ms-settings:privacy-location"},
+    {"two-adapters", nullptr, 0, 1,
+     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio failed, 1 Profiles ok, 2 Adapter ok, 2 Radio ok, "
+     "2 Location ok, 2 Scan ok, 2 Networks ok, 2 Profiles ok, 2 Connection ok, Internet ok",
+     "Radio", "hardware switch off", "use the switch"},
+    {"home", nullptr, 0, 0,
+     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, 1 Networks ok, "
+     "1 Profiles ok, 1 Connection warning, Internet ok",
+     "Connection", "none", "calvix best"},
+    {"office-walk", "WlanGetProfile", ERROR_ACCESS_DENIED, 0,
+     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, 1 Networks ok, "
+     "1 Profiles warning, 1 Connection ok, Internet ok",
+     "Profiles", "cannot be read: Brightwater Staff", "another user"},
+    {"office-walk", "WlanScan", ERROR_BUSY, 1,
+     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan failed, 1 Networks ok, "
+     "1 Profiles ok, 1 Connection ok, Internet ok",
+     "Scan", "busy, 170", "wait a moment"},
+    {"office-walk", "InternetCheckConnectionA", 12007, 1,
+     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, 1 Networks ok, "
+     "1 Profiles ok, 1 Connection ok, Internet failed",
+     "Internet", "could not be reached", "name server"},
+};
+
+/// "WLAN API ok, 1 Adapter ok"
+std::string InShort(const json& checks)
+{
+    std::string text;
+    for (const json& check : checks)
+        text += (text.empty() ? "" : ", ") +
+                (check["adapter"].is_null() ? "" : std::to_string(check["adapter"].get<int>()) + " ") +
+                check["check"].get<std::string>() + " " + check["verdict"].get<std::string>();
+    return text;
+}
+
+json CheckNamed(const json& checks, const std::string& name)
+{
+    for (const json& check : checks)
+        if (check["check"] == name)
+            return check;
+    return {};
+}
+
+class Diagnosis : public CliTest, public ::testing::WithParamInterface<Case>
+{
+};
+
+TEST_P(Diagnosis, TellsWhatIsWrongAndChangesNothing)
+{
+    const Case& expected = GetParam();
+    simulation::Computer computer{
+        simulation::LoadScenario(CALVIX_SOURCE_DIR "/scenarios/" + std::string(expected.scenario) + ".json")};
+    wrappers::CallLog log;
+    wrappers::FaultInjection faults;
+    if (expected.operation != nullptr)
+        faults.Fail(expected.operation, {.error = expected.error});
+    wrappers::InterceptorChain chain{{&log, &faults}};
+    wrappers::InterceptedPlatform platform{computer, chain};
+    platform::ReplacePlatform(&platform);
+    const Outcome outcome = Run({"doctor", "--json"});
+    platform::ReplacePlatform(nullptr);
+
+    EXPECT_EQ(expected.exitCode, outcome.exitCode) << outcome.err;
+    const json result = json::parse(outcome.out);
+    EXPECT_EQ(expected.exitCode != 0, result.contains("error"));
+    EXPECT_EQ(expected.checks, InShort(result["checks"]));
+    const json check = CheckNamed(result["checks"], expected.check);
+    EXPECT_THAT(check["finding"].get<std::string>(), HasSubstr(expected.finding));
+    EXPECT_THAT(check["advice"].is_null() ? "" : check["advice"].get<std::string>(), HasSubstr(expected.advice));
+    for (const char* change : {"StartServiceA", "WlanSetInterface", "WlanConnect", "WlanDisconnect", "WlanSetProfile",
+                               "WlanSetProfilePosition", "WlanDeleteProfile"})
+        EXPECT_EQ(0u, log.Count(change)) << change;
+    EXPECT_EQ(0u, computer.Audit().openClients);
+    EXPECT_EQ(0u, computer.Audit().liveBlocks);
+}
+
+INSTANTIATE_TEST_SUITE_P(Gallery, Diagnosis, ::testing::ValuesIn(kCases));
+
+class DoctorCommand : public CliTest
+{
+};
+
+TEST_F(DoctorCommand, WarnsOfProfilesThatAreNotInView)
+{
+    simulation::Scenario world = NoProfileWorld();
+    world.adapters[0].profiles = {MakeProfile("Far Away")};
+    const Outcome outcome = RunOn(world, {"doctor", "--interface", "1"});
+    EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
+    EXPECT_THAT(outcome.out, HasSubstr("\nwarning  Profiles      1 stored, none in view\n"
+                                       "  What to do: scan first, or store a profile for a network in view.\n"));
+}
+
+TEST_F(DoctorCommand, WarnsOfAWeakSignal)
+{
+    simulation::Scenario world = RichWorld();
+    for (simulation::AccessPoint& accessPoint : world.accessPoints)
+        accessPoint.rssi = -86;
+    const Outcome outcome = RunOn(world, {"doctor"});
+    EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
+    EXPECT_THAT(outcome.out, HasSubstr("\nwarning  Connection    HomeNet at 02:11:00:00:24:06, signal 28%"));
+}
+
+TEST_F(DoctorCommand, AsksAboutTheAdapterThatIsNamed)
+{
+    const std::string scenario = CALVIX_SOURCE_DIR "/scenarios/two-adapters.json";
+    const Outcome second = Run({"doctor", "--interface", "2", "--scenario", scenario});
+    EXPECT_EQ(kSuccess, second.exitCode) << second.err;
+    EXPECT_THAT(second.out, HasSubstr("\nok       Adapter 2     Calvix Simulated USB Wi-Fi 7 Adapter, connected\n"));
+    EXPECT_THAT(second.out, ::testing::Not(HasSubstr("Adapter 1")));
+    const Outcome first = Run({"doctor", "--interface", "1", "--scenario", scenario});
+    EXPECT_EQ(kFailed, first.exitCode);
+    EXPECT_THAT(first.err, StartsWith("calvix: 1 check of 6 failed.\n"));
+    EXPECT_EQ(kBadInput, Run({"doctor", "--interface", "3", "--scenario", scenario}).exitCode);
+}
+
+} // namespace
+} // namespace calvix::test::doctor_test
