@@ -8,7 +8,7 @@
 #include "targets.h"
 
 #include "simulation/computer.h"
-#include "support/program.h"
+#include "testing/program.h"
 
 #include "simulation/profile_document.h"
 

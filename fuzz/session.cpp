@@ -11,7 +11,7 @@
 
 #include "explain/result_codes.h"
 #include "support/fatal_errors.h"
-#include "support/test_computer.h"
+#include "testing/test_computer.h"
 #include "wrappers/fault_injection.h"
 
 #include <algorithm>

@@ -11,7 +11,7 @@
 
 #include "simulation/computer.h"
 #include "support/fatal_errors.h"
-#include "support/program.h"
+#include "testing/program.h"
 
 #include <cstring>
 #include <memory>

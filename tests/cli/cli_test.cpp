@@ -1,6 +1,6 @@
 #include "cli_test.h"
 
-#include "support/manager_internals.h"
+#include "testing/manager_internals.h"
 
 #include <filesystem>
 #include <fstream>

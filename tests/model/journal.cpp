@@ -1,7 +1,7 @@
 #include "model/journal.h"
 
-#include "support/manager_internals.h"
 #include "support/test_worlds.h"
+#include "testing/manager_internals.h"
 
 namespace calvix::test
 {

@@ -1,7 +1,7 @@
 #include "model/library_outcomes.h"
 
-#include "support/manager_internals.h"
 #include "support/test_worlds.h"
+#include "testing/manager_internals.h"
 
 #include <algorithm>
 

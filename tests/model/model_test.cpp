@@ -4,7 +4,7 @@
 #include "model/library_outcomes.h"
 #include "model/model.h"
 #include "simulation/computer.h"
-#include "support/manager_internals.h"
+#include "testing/manager_internals.h"
 
 #include <gtest/gtest.h>
 

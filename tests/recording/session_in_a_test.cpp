@@ -1,8 +1,8 @@
 // What docs/recordings.md shows: a recorded session in the place of a computer.
 
 #include "simulation/computer.h"
-#include "support/manager_internals.h"
 #include "support/test_worlds.h"
+#include "testing/manager_internals.h"
 #include "wrappers/recording/recorder.h"
 #include "wrappers/recording/replay.h"
 

@@ -5,7 +5,7 @@
 #include "core/trace.h"
 #include "simulation/computer.h"
 #include "support/allocation_counter.h"
-#include "support/program.h"
+#include "testing/program.h"
 
 #include <unistd.h>
 

@@ -26,8 +26,8 @@
 // UseWorld), the client handle is open, tracing is on, the shared trace buffer is marked and nothing is recorded yet.
 // After it nothing may be held: no block of the service, no handle, no client, and no defect that was not announced.
 
-#include "support/test_computer.h"
 #include "support/test_worlds.h"
+#include "testing/test_computer.h"
 #include "wrappers/call_log.h"
 #include "wrappers/fault_injection.h"
 

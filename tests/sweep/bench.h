@@ -1,7 +1,7 @@
 #pragma once
 
 #include "methods/method.h"
-#include "support/test_computer.h"
+#include "testing/test_computer.h"
 #include "wrappers/fault_injection.h"
 
 #include <string>

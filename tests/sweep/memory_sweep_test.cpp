@@ -3,10 +3,10 @@
 
 #include "support/allocation_counter.h"
 #include "support/edited_answers.h"
-#include "support/manager_internals.h"
 #include "support/test_worlds.h"
 #include "sweep/bench.h"
 #include "sweep/worlds.h"
+#include "testing/manager_internals.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
-#include "support/manager_internals.h"
+#include "testing/manager_internals.h"
 
 namespace calvix::test
 {

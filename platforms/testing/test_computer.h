@@ -2,7 +2,7 @@
 
 #include "core/trace.h"
 #include "simulation/computer.h"
-#include "support/program.h"
+#include "testing/program.h"
 #include "wrappers/intercepted_platform.h"
 
 namespace calvix::test
