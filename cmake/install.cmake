@@ -1,7 +1,7 @@
 # What `cmake --install` puts where, in four components:
 #   runtime        the shared library (off Windows also libwlanapi.so) and the command-line host, with its manual page and
 #                  completion
-#   development    headers, the import library, the library of explanations, the CMake package and the pkg-config file
+#   development    headers, the import library, the libraries of explanations and for tests, the CMake package and the pkg-config file
 #   simulation     on Windows, the simulated computer in the place of the system's WLAN library
 #   documentation  pages, examples and the scenario gallery, in one folder, so that their links to each other hold
 # The installed tree can be moved: nothing in it says where it lies.
@@ -24,7 +24,11 @@ install(TARGETS calvix EXPORT calvix_targets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
     INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
-install(TARGETS calvix_result_codes EXPORT calvix_targets
+set(archives calvix_result_codes)
+if(TARGET calvix_testing)
+    list(APPEND archives calvix_testing)
+endif()
+install(TARGETS ${archives} EXPORT calvix_targets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
     INCLUDES DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 if(TARGET calvix_host)

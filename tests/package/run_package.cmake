@@ -95,7 +95,8 @@ unset(ENV{CALVIX_SCENARIO})
 file(REMOVE_RECURSE "${WORK}")
 run("${CMAKE_COMMAND}" --install "${BUILD}" --config ${CONFIG} --prefix "${WORK}/installed")
 file(RENAME "${WORK}/installed" "${tree}")
-expect_file(include/calvix/wireless_manage.h include/calvix/wlan_functions.h "${DOCDIR}/LICENSE" "${DOCDIR}/README.md" "${DOCDIR}/CHANGELOG.md"
+expect_file(include/calvix/wireless_manage.h include/calvix/wlan_functions.h include/calvix/testing/computer.h
+    "${DOCDIR}/LICENSE" "${DOCDIR}/README.md" "${DOCDIR}/CHANGELOG.md"
     "${DOCDIR}/docs/architecture.md" "${DOCDIR}/docs/scenario.schema.json" "${DOCDIR}/scenarios/home.json"
     "${DOCDIR}/docs/output.schema.json" "${DOCDIR}/docs/troubleshooting.md")
 if(NOT WINDOWS)
@@ -111,6 +112,11 @@ expect_printed("${output}" "${expected}")
 configure("${tree}/${DOCDIR}/examples" examples "-DCMAKE_PREFIX_PATH=${tree}")
 build_and_run(examples list_networks)
 expect_printed("${output}" "4 networks in view, 4 access points of stored ones")
+if(EXISTS "${WORK}/examples/CTestTestfile.cmake")
+    # GoogleTest is installed for this compiler.
+    build_and_run(examples station_test)
+    expect_printed("${output}" "[  PASSED  ] 7 tests.")
+endif()
 
 run(${EMULATOR} "${tree}/bin/calvix${suffix}" networks --scenario "${DRIVE}${tree}/${DOCDIR}/scenarios/office.json")
 expect_printed("${output}" "SSID")

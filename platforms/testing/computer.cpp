@@ -1,0 +1,132 @@
+#include "operations/operations.h"
+#include "testing/test_computer.h"
+#include "wrappers/call_log.h"
+#include "wrappers/fault_injection.h"
+
+#include <calvix/testing/computer.h>
+
+#include <stdexcept>
+
+namespace calvix::testing
+{
+
+namespace
+{
+
+Call ToCall(const wrappers::Call& call)
+{
+    Call copy{std::string(call.operation), {}, call.Line()};
+    for (const wrappers::Argument& argument : call.arguments)
+        copy.arguments.emplace(argument.name, argument.text);
+    return copy;
+}
+
+} // namespace
+
+struct Computer::Parts
+{
+    explicit Parts(const simulation::Scenario& world) : computer(world, chain) {}
+
+    wrappers::CallLog log;
+    wrappers::FaultInjection faults;
+    wrappers::InterceptorChain chain{{&log, &faults}};
+    test::TestComputer computer;
+};
+
+Computer::Computer() : Computer(std::make_unique<Parts>(simulation::BuiltInScenario())) {}
+
+Computer::Computer(const std::string& scenario)
+    : Computer(std::make_unique<Parts>(simulation::ParseScenario(scenario, "scenario")))
+{
+}
+
+Computer::Computer(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
+
+Computer Computer::FromFile(const std::string& path)
+{
+    return Computer(std::make_unique<Parts>(simulation::LoadScenario(path)));
+}
+
+Computer::~Computer()
+{
+    m_parts->faults.Clear();
+}
+
+CWirelessManage& Computer::Manager()
+{
+    m_parts->computer.ForgetClosedClient();
+    return m_parts->computer.Manager();
+}
+
+void Computer::Advance(std::chrono::milliseconds duration)
+{
+    m_parts->computer.computer().Advance(duration);
+    m_parts->computer.computer().WaitForNotifications();
+}
+
+std::chrono::milliseconds Computer::Now() const
+{
+    return m_parts->computer.computer().Now();
+}
+
+void Computer::SetServiceRunning(bool running)
+{
+    m_parts->computer.computer().SetServiceRunning(running);
+}
+
+void Computer::SetLocationConsent(bool given)
+{
+    m_parts->computer.computer().SetLocationConsent(given);
+}
+
+void Computer::SetRadio(std::size_t adapter, bool on)
+{
+    simulation::Computer& computer = m_parts->computer.computer();
+    const auto phys = computer.Snapshot().adapters.at(adapter).phys;
+    for (std::size_t i = 0; i < phys.size(); ++i)
+        computer.SetRadio(adapter, i, on ? simulation::RadioSwitch::on : simulation::RadioSwitch::off,
+                          phys[i].hardware);
+}
+
+void Computer::Fail(const std::string& operation, unsigned long error, unsigned fromCall, unsigned times)
+{
+    if (operations::FactsOf(operation) == nullptr)
+        throw std::invalid_argument("there is no operation \"" + operation + "\"");
+    m_parts->faults.Fail(operation, {static_cast<DWORD>(error), fromCall, times});
+}
+
+void Computer::StopFailing()
+{
+    m_parts->faults.Clear();
+}
+
+unsigned Computer::FailedCalls() const
+{
+    return m_parts->faults.Injected();
+}
+
+std::vector<Call> Computer::Calls() const
+{
+    std::vector<Call> calls;
+    for (const wrappers::Call& call : m_parts->log.Calls())
+        calls.push_back(ToCall(call));
+    return calls;
+}
+
+std::size_t Computer::CallCount(std::string_view operation) const
+{
+    return m_parts->log.Count(operation);
+}
+
+void Computer::ForgetCalls()
+{
+    m_parts->log.Clear();
+}
+
+Held Computer::Held()
+{
+    simulation::Accounts accounts = m_parts->computer.Audit();
+    return {accounts.liveBlocks, accounts.openClients, accounts.openHandles, std::move(accounts.defects)};
+}
+
+} // namespace calvix::testing
