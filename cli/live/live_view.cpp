@@ -17,7 +17,7 @@ namespace
 /// With it the signal line of an ordinary SSID fits into 80 columns.
 constexpr std::size_t kHistory = 24;
 
-std::string MomentText(unsigned long long milliseconds)
+std::string ElapsedText(unsigned long long milliseconds)
 {
     char text[32];
     std::snprintf(text, sizeof(text), "%7.1f s  ", static_cast<double>(milliseconds) / 1000.0);
@@ -138,17 +138,17 @@ void LiveView::DrawSignalLine(const SignalFacts& signal)
     if (m_history.size() > kHistory)
         m_history.pop_front();
     ClearSignalLine();
-    m_output.out() << MomentText(m_now) << SignalText(signal, m_output.terminal()) << "  "
+    m_output.out() << ElapsedText(m_now) << SignalText(signal, m_output.terminal()) << "  "
                    << HistoryText(m_history, m_output.terminal()) << std::flush;
     // Colours take no columns.
     const TerminalTraits plain{.isTerminal = true};
-    m_lineWidth = DisplayWidth(MomentText(m_now) + SignalText(signal, plain) + "  " + HistoryText(m_history, plain));
+    m_lineWidth = DisplayWidth(ElapsedText(m_now) + SignalText(signal, plain) + "  " + HistoryText(m_history, plain));
 }
 
 void LiveView::Line(const std::string& text)
 {
     ClearSignalLine();
-    m_output.out() << MomentText(m_now) << text << std::endl;
+    m_output.out() << ElapsedText(m_now) << text << std::endl;
 }
 
 void LiveView::Finish(const std::string& text)
