@@ -30,6 +30,14 @@ if(CALVIX_CCACHE AND (NOT CMAKE_CXX_COMPILER_LAUNCHER OR CMAKE_CXX_COMPILER_LAUN
     endif()
 endif()
 
+# GNU ar takes longer over the many sections of mingw's object files than the compiler takes to make them.
+find_program(CALVIX_LLD_LINK lld-link)
+mark_as_advanced(CALVIX_LLD_LINK)
+if(MINGW AND CALVIX_LLD_LINK)
+    set(CMAKE_CXX_ARCHIVE_CREATE "\"${CALVIX_LLD_LINK}\" /lib /out:<TARGET> <OBJECTS>")
+    set(CMAKE_CXX_ARCHIVE_FINISH "")
+endif()
+
 if(MSVC)
     add_compile_options(/permissive- /utf-8 /Zc:__cplusplus /EHsc)
 endif()

@@ -22,11 +22,3 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(CALVIX_HEADERS_OF_THIS_MACHINE /usr)
 
 set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../script/wine")
-
-# GNU ar takes longer over the many sections of mingw's object files than the compiler takes to make them.
-find_program(CALVIX_LLD_LINK lld-link)
-mark_as_advanced(CALVIX_LLD_LINK)
-if(CALVIX_LLD_LINK)
-    set(CMAKE_CXX_ARCHIVE_CREATE "\"${CALVIX_LLD_LINK}\" /lib /out:<TARGET> <OBJECTS>")
-    set(CMAKE_CXX_ARCHIVE_FINISH "")
-endif()

@@ -87,8 +87,11 @@ std::wstring WideName(const std::string& name)
 
 simulation::AccessPoint MakeHeard(Dice& dice, const Ssids& ssids, std::uint8_t number)
 {
-    simulation::AccessPoint point = MakeAccessPoint(dice.OneOf(ssids), {0x02, 0, 0, 0, 0, number},
-                                                    dice.OneOf(kFrequencies), dice.OneOf(kStrengths));
+    // One after the other: compilers evaluate arguments in different orders, and each is to make the same worlds.
+    const std::int32_t strength = dice.OneOf(kStrengths);
+    const std::uint32_t frequency = dice.OneOf(kFrequencies);
+    const std::string& ssid = dice.OneOf(ssids);
+    simulation::AccessPoint point = MakeAccessPoint(ssid, {0x02, 0, 0, 0, 0, number}, frequency, strength);
     point.hidden = dice.OneIn(12);
     if (dice.OneIn(10))
     {
