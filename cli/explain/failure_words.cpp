@@ -4,6 +4,7 @@
 #include "explain/result_codes.h"
 #include "output/table.h"
 #include "output/words.h"
+#include "platform/records/error_numbers.h"
 
 namespace calvix::host
 {

@@ -1,6 +1,7 @@
 #include "shell/confirmation.h"
 
 #include "host/interrupt.h"
+#include "output/failure.h"
 
 #include <algorithm>
 #include <cctype>
