@@ -30,7 +30,7 @@ struct Outputs
 struct Method
 {
     const char* name;
-    int (*library)(CWirelessManage& side, Outputs& out);
+    int (*wrapped)(CWirelessManage& side, Outputs& out);
     int (*direct)(ByHand& side, Outputs& out);
 };
 
@@ -66,7 +66,7 @@ struct Scene
 {
     simulation::Computer computer{HouseholdScenario(10, 20, 3)};
     OnComputer inUse{computer};
-    CWirelessManage& library = *CWirelessManage::Get();
+    CWirelessManage& manager = *CWirelessManage::Get();
     ByHand byHand;
     Outputs outputs;
 };
@@ -87,14 +87,14 @@ double TimeOf(Call call)
 void Measure(benchmark::State& state, const Method& method)
 {
     Scene scene;
-    if (method.library(scene.library, scene.outputs) != method.direct(scene.byHand, scene.outputs))
+    if (method.wrapped(scene.manager, scene.outputs) != method.direct(scene.byHand, scene.outputs))
         return state.SkipWithError("the library and the direct calls give different results");
     double library = (std::numeric_limits<double>::max)();
     double direct = library;
     for (auto iteration : state)
     {
         static_cast<void>(iteration);
-        library = (std::min)(library, TimeOf([&] { return method.library(scene.library, scene.outputs); }));
+        library = (std::min)(library, TimeOf([&] { return method.wrapped(scene.manager, scene.outputs); }));
         direct = (std::min)(direct, TimeOf([&] { return method.direct(scene.byHand, scene.outputs); }));
     }
     state.counters["library"] = library;
