@@ -106,12 +106,13 @@ std::optional<bool> ReadBoolean(DWORD size, const void* data)
     return value != FALSE;
 }
 
-DWORD SetAutoConfiguration(Adapter& adapter, DWORD size, const void* data)
+template <void (Adapter::*set)(bool)>
+DWORD SetSwitch(Adapter& adapter, DWORD size, const void* data)
 {
     const auto value = ReadBoolean(size, data);
     if (!value)
         return ERROR_INVALID_PARAMETER;
-    adapter.SetAutoConfiguration(*value);
+    (adapter.*set)(*value);
     return ERROR_SUCCESS;
 }
 
@@ -124,15 +125,6 @@ DWORD SetBackgroundScan(Adapter& adapter, DWORD size, const void* data)
     if (!IsConnected(adapter))
         return ERROR_INVALID_STATE;
     adapter.SetBackgroundScan(*value);
-    return ERROR_SUCCESS;
-}
-
-DWORD SetMediaStreaming(Adapter& adapter, DWORD size, const void* data)
-{
-    const auto value = ReadBoolean(size, data);
-    if (!value)
-        return ERROR_INVALID_PARAMETER;
-    adapter.SetMediaStreaming(*value);
     return ERROR_SUCCESS;
 }
 
@@ -219,13 +211,13 @@ DWORD SimulatedWlanService::WlanSetInterface(
     switch (static_cast<unsigned int>(opcode))
     {
     case wlan_intf_opcode_autoconf_enabled:
-        return SetAutoConfiguration(*adapter, dataSize, data);
+        return SetSwitch<&Adapter::SetAutoConfiguration>(*adapter, dataSize, data);
     case wlan_intf_opcode_background_scan_enabled:
         return SetBackgroundScan(*adapter, dataSize, data);
     case wlan_intf_opcode_radio_state:
         return SetRadio(*adapter, dataSize, data);
     case wlan_intf_opcode_media_streaming_mode:
-        return SetMediaStreaming(*adapter, dataSize, data);
+        return SetSwitch<&Adapter::SetMediaStreaming>(*adapter, dataSize, data);
     case wlan_intf_opcode_bss_type:
         return SetBssType(*adapter, dataSize, data);
     default:
