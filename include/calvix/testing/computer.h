@@ -36,8 +36,8 @@ struct Held
 };
 
 /// A fresh simulated computer, on which CWirelessManage works for as long as this lives: one at a time. Its time moves
-/// only when told to. It begins and ends without a manager, so that no test sees what another one left. Scenarios are
-/// described by scenario.schema.json; one that cannot be used ends the constructor with a std::exception that says why.
+/// only with Advance. It begins and ends without a manager, so that no test sees what another one left.
+/// scenario.schema.json describes scenarios; for an invalid one the constructor throws a std::exception that says why.
 class Computer
 {
 public:
@@ -55,7 +55,7 @@ public:
     /// The manager, made at the first call.
     CWirelessManage& Manager();
 
-    /// Lets simulated time pass, and waits until callbacks were told what happened. Not to be called in a callback.
+    /// Lets simulated time pass, and waits until its callbacks have run. Do not call it in a callback.
     void Advance(std::chrono::milliseconds duration);
     /// Simulated time since the computer started.
     std::chrono::milliseconds Now() const;
