@@ -6,57 +6,74 @@
 #include <atomic>
 #include <chrono>
 #include <cstdio>
-#include <functional>
 #include <thread>
 
 namespace
 {
 
-std::atomic<bool> scanned{false};
+// What the service reported about the adapter.
+struct News
+{
+    GUID adapter;
+    std::atomic<bool> scanEnded{false};
+    std::atomic<bool> connectionEnded{false};
+    std::atomic<unsigned long> reason{0};
+};
 
 // Called on a thread of the service: it only takes note.
-void WINAPI TakeNote(PWLAN_NOTIFICATION_DATA news, PVOID)
+void WINAPI TakeNote(PWLAN_NOTIFICATION_DATA data, PVOID context)
 {
-    if (news->NotificationCode == wlan_notification_acm_scan_complete)
-        scanned = true;
+    News& news = *static_cast<News*>(context);
+    if (data->InterfaceGuid != news.adapter)
+        return;
+    if (data->NotificationCode == wlan_notification_acm_scan_complete)
+        news.scanEnded = true;
+    if (data->NotificationCode == wlan_notification_acm_connection_complete)
+    {
+        news.reason = static_cast<const WLAN_CONNECTION_NOTIFICATION_DATA*>(data->pData)->wlanReasonCode;
+        news.connectionEnded = true;
+    }
 }
 
-// Scans and connections are asked for, and come about later.
-bool WaitUntil(const std::function<bool()>& done)
+bool WaitFor(const std::atomic<bool>& happened)
 {
-    for (int tenths = 0; tenths < 150; ++tenths)
-    {
-        if (done())
-            return true;
+    for (int tenths = 0; !happened && tenths < 150; ++tenths)
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    }
-    return false;
+    return happened;
 }
 
-int JoinBest(CWirelessManage& manager, const GUID& adapter)
+//! [explain]
+// False for a failure, which it prints.
+bool Succeeded(const char* method, long long result)
 {
-    manager.RegisterNotification(TakeNote, nullptr);
-    unsigned long error = 0;
-    if (manager.Rescan(&adapter, error) != 0 || !WaitUntil([] { return scanned.load(); }))
-        std::printf("no scan (error %lu): going by what is known\n", error);
-    manager.UnRegisterNotification(TakeNote, nullptr);
+    const calvix::Explanation explanation = calvix::Explain(method, result);
+    if (explanation.failure)
+        std::printf("%s\nto do: %s\n", explanation.meaning.c_str(), explanation.advice.c_str());
+    return !explanation.failure;
+}
+//! [explain]
 
-    //! [explain]
-    if (const int code = manager.ConnectBestAP(&adapter); code != 0)
+bool JoinBest(CWirelessManage& manager, News& news)
+{
+    unsigned long error = 0;
+    if (Succeeded("Rescan", manager.Rescan(&news.adapter, error)) && !WaitFor(news.scanEnded))
+        std::printf("no scan within 15 seconds: going by what is known\n");
+    news.connectionEnded = false; // of a connection that the service made by itself
+    if (!Succeeded("ConnectBestAP", manager.ConnectBestAP(&news.adapter)))
+        return false;
+    if (!WaitFor(news.connectionEnded))
     {
-        const calvix::Explanation failure = calvix::Explain("ConnectBestAP", code);
-        std::printf("%s: %s\n", failure.meaning.c_str(), failure.advice.c_str());
-        return 1;
+        std::printf("no connection within 15 seconds\n");
+        return false;
     }
-    //! [explain]
-    char ssid[64] = "";
-    if (!WaitUntil([&] { return manager.GetWlanIsLink(&adapter); }) || manager.GetCurrentSSID(ssid, sizeof(ssid)) != 0)
-    {
-        std::printf("the connection was not made\n");
-        return 1;
-    }
-    std::printf("joined %s, signal quality %d%%\n", ssid, manager.GetSignalQuality(&adapter));
-    return 0;
+    const bool connected = news.reason == WLAN_REASON_CODE_SUCCESS;
+    char text[256] = "";
+    if (connected)
+        manager.GetCurrentSSID(text, sizeof(text));
+    else
+        manager.ReasonCode2String(news.reason, text, sizeof(text));
+    std::printf("%s %s\n", connected ? "joined" : "not connected:", text);
+    return connected;
 }
 
 } // namespace
@@ -65,10 +82,14 @@ int main()
 {
     CWirelessManage& manager = *CWirelessManage::Get();
     std::vector<WLAN_INTERFACE_INFO> adapters;
-    const long code = manager.GetWlanInterface(&adapters);
-    if (code != 0)
-        std::printf("%s\n", calvix::Explain("GetWlanInterface", code).meaning.c_str());
-    const int result = code == 0 ? JoinBest(manager, adapters.front().InterfaceGuid) : 1;
+    bool connected = false;
+    if (Succeeded("GetWlanInterface", manager.GetWlanInterface(&adapters)))
+    {
+        News news{.adapter = adapters.front().InterfaceGuid};
+        connected =
+            Succeeded("RegisterNotification", manager.RegisterNotification(TakeNote, &news)) && JoinBest(manager, news);
+        manager.UnRegisterNotification(TakeNote, &news);
+    }
     CWirelessManage::Delete();
-    return result;
+    return connected ? 0 : 1;
 }

@@ -1,5 +1,5 @@
-// Once a second, moves to a better access point of the current network, or joins the best network where there is none:
-// keep_best [ROUNDS [MILLISECONDS]], 60 rounds of 1000 ms unless told otherwise.
+// Once a second, moves to a better access point of the current network, or joins the best network where there is none,
+// and prints what has changed: keep_best [ROUNDS [MILLISECONDS]], 60 rounds of 1000 ms unless told otherwise.
 
 #include <calvix/explain.h>
 #include <calvix/wireless_manage.h>
@@ -12,22 +12,22 @@
 namespace
 {
 
-void Join(CWirelessManage& manager, const GUID& adapter)
+std::string Join(CWirelessManage& manager, const GUID& adapter)
 {
-    const int code = manager.ConnectBestAP(&adapter);
-    std::printf("not connected: %s\n", calvix::Explain("ConnectBestAP", code).meaning.c_str());
+    return "not connected: " + calvix::Explain("ConnectBestAP", manager.ConnectBestAP(&adapter)).meaning;
 }
 
-void Roam(CWirelessManage& manager, const GUID& adapter)
+std::string Roam(CWirelessManage& manager, const GUID& adapter)
 {
     char ssid[64] = "";
-    unsigned char address[6] = {};
+    unsigned char address[6];
     char addressText[18];
-    manager.GetCurrentLinkInfo(&adapter, nullptr, nullptr, ssid, sizeof(ssid), reinterpret_cast<char*>(address));
+    if (manager.GetCurrentLinkInfo(&adapter, nullptr, nullptr, ssid, sizeof(ssid), reinterpret_cast<char*>(address)) !=
+        0)
+        return "connecting";
     manager.FormMAC(address, addressText);
-    const int quality = manager.GetSignalQuality(&adapter);
-    const int code = manager.Roaming(&adapter);
-    std::printf("%s, %s, %d%%: %s\n", ssid, addressText, quality, calvix::Explain("Roaming", code).meaning.c_str());
+    return std::string(ssid) + ", " + addressText + ": " +
+           calvix::Explain("Roaming", manager.Roaming(&adapter)).meaning;
 }
 
 int Number(int count, char** arguments, int index, int otherwise)
@@ -46,15 +46,17 @@ int main(int count, char** arguments)
     const long code = manager.GetWlanInterface(&adapters);
     if (code != 0)
         std::printf("%s\n", calvix::Explain("GetWlanInterface", code).meaning.c_str());
+    std::string last;
     for (int round = 0; code == 0 && round < rounds; ++round)
     {
         const GUID& adapter = adapters.front().InterfaceGuid;
         // While a connection is being made, the adapter is not disconnected any more.
-        if (manager.WiFiIsDisconnected(&adapter) == 1)
-            Join(manager, adapter);
-        else
-            Roam(manager, adapter);
+        const bool disconnected = manager.WiFiIsDisconnected(&adapter) == 1;
+        const std::string now = disconnected ? Join(manager, adapter) : Roam(manager, adapter);
+        if (now != last)
+            std::printf("%s\n", now.c_str());
         std::fflush(stdout);
+        last = now;
         std::this_thread::sleep_for(pause);
     }
     CWirelessManage::Delete();

@@ -11,9 +11,10 @@ constexpr std::chrono::milliseconds kStep(100);
 constexpr std::chrono::milliseconds kLimit(15000);
 
 //! [note]
-// What the service told so far. Callbacks run on a thread of the service, and only take note.
+// What the service reported about an adapter. Callbacks run on a thread of the service, and only take note.
 struct News
 {
+    GUID adapter;
     std::atomic<bool> scanEnded{false};
     std::atomic<bool> connectionEnded{false};
     std::atomic<unsigned long> reason{0};
@@ -22,6 +23,8 @@ struct News
 void WINAPI TakeNote(PWLAN_NOTIFICATION_DATA data, PVOID context)
 {
     News& news = *static_cast<News*>(context);
+    if (data->InterfaceGuid != news.adapter)
+        return;
     if (data->NotificationCode == wlan_notification_acm_scan_complete ||
         data->NotificationCode == wlan_notification_acm_scan_fail)
         news.scanEnded = true;
@@ -62,17 +65,18 @@ void ListNetworks(CWirelessManage& manager, const GUID& adapter, std::ostream& o
     }
 }
 
-void Scan(CWirelessManage& manager, const GUID& adapter, News& news, std::ostream& out, const Pause& pause)
+void Scan(CWirelessManage& manager, const News& news, std::ostream& out, const Pause& pause)
 {
     unsigned long error = 0;
-    if (Succeeded("Rescan", manager.Rescan(&adapter, error), out) && !WaitFor(news.scanEnded, pause))
+    if (Succeeded("Rescan", manager.Rescan(&news.adapter, error), out) && !WaitFor(news.scanEnded, pause))
         out << "the scan takes too long\n";
 }
 
 //! [wait]
-bool Connect(CWirelessManage& manager, const GUID& adapter, News& news, std::ostream& out, const Pause& pause)
+bool Connect(CWirelessManage& manager, News& news, std::ostream& out, const Pause& pause)
 {
-    if (!Succeeded("ConnectBestAP", manager.ConnectBestAP(&adapter), out))
+    news.connectionEnded = false; // of a connection that the service made by itself
+    if (!Succeeded("ConnectBestAP", manager.ConnectBestAP(&news.adapter), out))
         return false;
     if (!WaitFor(news.connectionEnded, pause))
     {
@@ -101,13 +105,12 @@ bool JoinBestNetwork(CWirelessManage& manager, std::ostream& out, const Pause& p
     std::vector<WLAN_INTERFACE_INFO> adapters;
     if (!Succeeded("GetWlanInterface", manager.GetWlanInterface(&adapters), out))
         return false;
-    const GUID& adapter = adapters.front().InterfaceGuid;
-    News news;
+    News news{.adapter = adapters.front().InterfaceGuid};
     if (!Succeeded("RegisterNotification", manager.RegisterNotification(TakeNote, &news), out))
         return false;
-    Scan(manager, adapter, news, out, pause);
-    ListNetworks(manager, adapter, out);
-    const bool connected = Connect(manager, adapter, news, out, pause);
+    Scan(manager, news, out, pause);
+    ListNetworks(manager, news.adapter, out);
+    const bool connected = Connect(manager, news, out, pause);
     manager.UnRegisterNotification(TakeNote, &news);
     return connected;
 }
