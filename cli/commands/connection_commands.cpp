@@ -8,6 +8,7 @@
 #include "output/code_page.h"
 #include "output/json_output.h"
 #include "output/text_forms.h"
+#include "shell/nearest_word.h"
 #include "view/describe.h"
 #include "view/status.h"
 
@@ -18,6 +19,8 @@ namespace calvix::host
 
 namespace
 {
+
+constexpr int kProfileNotInView = -2; // of LinkProfile
 
 struct ConnectOptions
 {
@@ -43,13 +46,34 @@ void ConnectAndShow(Host& host, const ConnectOptions& options, const std::functi
     ShowNow(host);
 }
 
+/// The library knows only that no visible network has the profile; a profile that is not stored is another mistake.
+Failure ProfileNotInView(Host& host, const std::string& profile)
+{
+    std::vector<std::string> stored;
+    for (const WLAN_PROFILE_INFO& info : host.service().Profiles(host.adapterGuid()))
+        stored.push_back(Narrow(FixedText(info.strProfileName)));
+    const bool known = std::find(stored.begin(), stored.end(), profile) != stored.end();
+    FailureReport report = host.MethodFailure("LinkProfile", kProfileNotInView).report();
+    report.message = known ? "the network of the profile \"" + VisibleText(profile) + "\" is not in view"
+                           : "there is no profile \"" + VisibleText(profile) + "\"";
+    if (!known)
+        report.advice = DidYouMean(profile, stored) + "list the profiles: calvix profiles list";
+    return Failure(report);
+}
+
 void Connect(Host& host, const ConnectOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
     std::string name =
         InActiveCodePage(Widen(options.profile), "connect by the profile's automatic mode instead: calvix auto");
     ConnectAndShow(host, options,
-                   [&] { host.Require("LinkProfile", host.manager().LinkProfile(adapter, name.data())); });
+                   [&]
+                   {
+                       const int code = host.manager().LinkProfile(adapter, name.data());
+                       if (code == kProfileNotInView)
+                           throw ProfileNotInView(host, options.profile);
+                       host.Require("LinkProfile", code);
+                   });
 }
 
 /// Waits until the service tells that the adapter's connection is down.

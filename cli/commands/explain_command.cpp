@@ -114,7 +114,7 @@ void ExplainCode(Host& host, const MethodResults& results, long long code)
 {
     const Explanation explanation = Explain(results, code);
     if (!explanation.known)
-        throw BadInput(std::string(results.method) + " never gives " + std::to_string(code),
+        throw BadInput(std::string(results.method) + " never returns " + std::to_string(code),
                        std::string("list its codes with: calvix explain ") + results.method);
     if (host.json())
         return PrintJson(host.out(), CodeRecord(results.method, code, explanation));
@@ -128,9 +128,8 @@ Failure UnknownMethod(const std::string& method)
     std::vector<std::string> names;
     for (const MethodResults& results : AllMethodResults())
         names.emplace_back(results.method);
-    const std::string nearest = NearestWord(method, names);
     return BadInput("the library has no method \"" + method + "\"",
-                    (nearest.empty() ? "" : "did you mean " + nearest + "? ") + "The methods: calvix explain");
+                    DidYouMean(method, names) + "list the methods: calvix explain");
 }
 
 void Explain(Host& host, const ExplainOptions& options)

@@ -73,8 +73,12 @@ void PrintMatch(Host& host, const MatchFacts& match)
         separator = ", ";
     }
     host.out() << '\n';
-    if (!match.accessPoints.empty())
-        PrintAccessPoints(host, match.accessPoints);
+    if (match.accessPoints.empty())
+        return;
+    Table table(AccessPointColumns());
+    for (const AccessPointFacts& facts : match.accessPoints)
+        table.AddRow(AccessPointRow(host, facts));
+    table.Print(host.out(), host.terminal());
 }
 
 void Match(Host& host, const MatchOptions& options)

@@ -9,11 +9,13 @@
 #include "output/table.h"
 #include "output/text_forms.h"
 #include "report/channel_load.h"
+#include "report/report_json.h"
 #include "report/spectrum_chart.h"
 #include "report/take_picture.h"
 #include "view/describe.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace calvix::host
@@ -44,6 +46,7 @@ struct ScanOptions
     unsigned seconds = 10;
     bool chart = false;
     bool scanFirst = false;
+    std::string order = "signal";
 };
 
 /// What the service has told of the scan.
@@ -136,6 +139,22 @@ void PrintNetworks(Host& host, const std::vector<NetworkFacts>& networks)
     table.Print(host.out(), host.terminal());
 }
 
+void PrintAccessPoints(Host& host, const std::vector<AirAccessPoint>& accessPoints)
+{
+    std::vector<Column> columns = AccessPointColumns();
+    columns.insert(columns.end(), {{"Width", Align::right}, {"Security"}, {"Note"}});
+    Table table(columns);
+    for (const AirAccessPoint& point : accessPoints)
+    {
+        std::vector<Cell> row = AccessPointRow(host, point.facts);
+        row.push_back(std::to_string(point.beacon.widthMhz) + " MHz");
+        row.push_back(point.beacon.security);
+        row.push_back(point.inUse ? Cell("connected", Tone::good) : "");
+        table.AddRow(row);
+    }
+    table.Print(host.out(), host.terminal());
+}
+
 /// The lists hold what was heard up to now, and the service scans once a minute.
 void ScanIfAsked(Host& host, const ScanOptions& options)
 {
@@ -151,6 +170,10 @@ void ListNetworks(Host& host, const ScanOptions& options)
     std::vector<NetworkFacts> networks;
     for (const WLAN_AVAILABLE_NETWORK& network : host.service().Networks(adapter))
         networks.push_back(DescribeNetwork(network));
+    if (options.order == "name")
+        std::ranges::stable_sort(networks, {}, [](const NetworkFacts& network) { return network.ssid.text; });
+    else
+        std::ranges::stable_sort(networks, std::greater(), &NetworkFacts::quality);
     if (host.json())
         return PrintJson(host.out(), Under("networks", networks));
     if (networks.empty())
@@ -159,28 +182,21 @@ void ListNetworks(Host& host, const ScanOptions& options)
         PrintNetworks(host, networks);
 }
 
-/// The access points in view as a picture.
-void DrawAccessPoints(Host& host)
-{
-    const auto connection = host.service().Connection(host.adapterGuid());
-    const auto accessPoints =
-        ArrangedAir(host, connection ? MacText(connection->wlanAssociationAttributes.dot11Bssid) : std::string());
-    if (accessPoints.empty())
-        host.out() << kNoAccessPoint;
-    else
-        PrintSpectrum(host, accessPoints);
-}
-
 void ListAccessPoints(Host& host, const ScanOptions& options)
 {
     ScanIfAsked(host, options);
-    if (options.chart && !host.json())
-        return DrawAccessPoints(host);
-    const auto accessPoints = DescribeAccessPoints(host.service().AccessPoints(host.adapterGuid()));
+    std::vector<AirAccessPoint> accessPoints = ArrangedAir(host); // by signal
+    if (options.order == "channel")
+        std::ranges::stable_sort(accessPoints, {},
+                                 [](const AirAccessPoint& point) { return point.facts.frequencyKhz; });
+    else if (options.order == "name")
+        std::ranges::stable_sort(accessPoints, {}, [](const AirAccessPoint& point) { return point.facts.ssid.text; });
     if (host.json())
         return PrintJson(host.out(), Under("accessPoints", accessPoints));
     if (accessPoints.empty())
         host.out() << kNoAccessPoint;
+    else if (options.chart)
+        PrintSpectrum(host, accessPoints);
     else
         PrintAccessPoints(host, accessPoints);
 }
@@ -232,6 +248,12 @@ Command& AddScanning(Command& command, const std::shared_ptr<ScanOptions>& optio
         .Number("--timeout", options->seconds, "Seconds to wait for the scan at most");
 }
 
+Command& AddSorting(Command& command, const std::shared_ptr<ScanOptions>& options, std::vector<std::string> orders)
+{
+    return command.OneOf("--sort", options->order, std::move(orders),
+                         "What to sort by (default: signal, the strongest first)");
+}
+
 } // namespace
 
 void AddScanCommands(CommandSet& commands)
@@ -242,17 +264,20 @@ void AddScanCommands(CommandSet& commands)
         .Prints("scan", [] { return std::vector{Under("scan", ScanFacts{})}; })
         .Examples("The driver takes its time:\n"
                   "  calvix scan --timeout 30");
-    AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
-                             [options](Host& host) { ListNetworks(host, *options); }),
-                options)
+    AddSorting(
+        AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
+                                 [options](Host& host) { ListNetworks(host, *options); }),
+                    options),
+        options, {"signal", "name"})
         .Prints("networks", [] { return std::vector{Under("networks", std::vector<NetworkFacts>{})}; })
         .Examples("As they are now, and not as they were at the service's last scan:\n"
                   "  calvix networks --scan");
-    AddScanning(commands.Add("bss", "List the access points in view",
-                             [options](Host& host) { ListAccessPoints(host, *options); }),
-                options)
+    AddSorting(AddScanning(commands.Add("bss", "List the access points in view",
+                                        [options](Host& host) { ListAccessPoints(host, *options); }),
+                           options),
+               options, {"signal", "channel", "name"})
         .Flag("--chart", options->chart, "Draw the spectrum, an arch for each access point")
-        .Prints("bss", [] { return std::vector{Under("accessPoints", std::vector<AccessPointFacts>{})}; })
+        .Prints("bss", [] { return std::vector{Under("accessPoints", std::vector<AirAccessPoint>{})}; })
         .Examples("The spectrum as it is now:\n"
                   "  calvix bss --scan --chart");
     AddScanning(commands.Add("channels", "Show how crowded each channel is, and the least crowded of each band",

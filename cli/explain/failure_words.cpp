@@ -50,6 +50,13 @@ const char* FullStop(const std::string& text)
     return text.empty() || text.back() != '.' ? "." : "";
 }
 
+/// Error numbers with the top bit set come through an int as negative numbers, which nobody recognises.
+std::string CodeText(int code)
+{
+    const std::string number = std::to_string(code);
+    return code < -0x10000 ? number + " (" + DescribePlatformError(static_cast<std::uint32_t>(code)) + ")" : number;
+}
+
 } // namespace
 
 Failure MethodFailureInWords(const char* method, long code, const Refusal& refusal)
@@ -62,7 +69,7 @@ Failure MethodFailureInWords(const char* method, long code, const Refusal& refus
     if (!cause)
     {
         const Explanation explanation = results != nullptr ? Explain(*results, code) : Explanation{};
-        report.message = explanation.known ? explanation.meaning : "the method gave an unknown result";
+        report.message = explanation.known ? explanation.meaning : "the method returned an unknown result";
         report.advice = explanation.advice;
         if (!refusal.operation.empty() && refusal.error == static_cast<std::uint32_t>(code))
         {
@@ -119,7 +126,7 @@ void PrintFailure(std::ostream& err, const FailureReport& report, const Terminal
     ofError.color = terminal.errorColor;
     err << Toned("calvix:", Tone::poor, ofError) << ' ' << report.message << FullStop(report.message) << '\n';
     if (!report.method.empty() && report.code)
-        err << "  Result: " << report.method << " gave " << *report.code << ".\n";
+        err << "  Result: " << report.method << " returned " << CodeText(*report.code) << ".\n";
     if (!report.advice.empty())
         err << "  What to do: " << report.advice << FullStop(report.advice) << '\n';
 }

@@ -109,7 +109,7 @@ constexpr CauseText kCauses[] = {
      "use a system whose WLAN service is of version 2", nullptr, kFailed},
     {Cause::someAdapterRefused, "some list failed", "an adapter refused to be listed, and is missing in the listing",
      kListAdvice, nullptr, kFailed},
-    {Cause::profileNotInView, "no network with the profile", "no visible network carries the profile",
+    {Cause::profileNotInView, "no network with the profile", "no visible network has the profile",
      "scan first; check the profile's name, upper and lower case included", nullptr, kFailed},
     {Cause::nothingMatches, "nothing matches", "no visible network has a stored profile that may be used",
      "scan first, or store a profile for a network in view", nullptr, kFailed},

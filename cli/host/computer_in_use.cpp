@@ -251,6 +251,11 @@ void ComputerInUse::EndRecording()
     m_session->EndRecording();
 }
 
+std::string ComputerInUse::ReplayLine(const std::vector<std::string>& arguments) const
+{
+    return m_options.anonymise && m_session != nullptr ? m_session->ReplayLine(arguments) : "";
+}
+
 void ComputerInUse::Save()
 {
     if (m_options.save.empty())

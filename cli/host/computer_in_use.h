@@ -77,6 +77,8 @@ public:
     std::optional<FailureReport> EndReplay();
     /// The same for a recording, after everything else; what cannot be written is a Failure.
     void EndRecording();
+    /// The command line that replays an anonymised recording, after its end; empty where none was made.
+    std::string ReplayLine(const std::vector<std::string>& arguments) const;
 
 private:
     struct World;

@@ -36,6 +36,11 @@ FailureReport InWords(const recording::ReplayTrouble& trouble)
     return report;
 }
 
+std::string InQuotes(const std::string& word)
+{
+    return word.find(' ') == std::string::npos ? word : '"' + word + '"';
+}
+
 } // namespace
 
 RecordedSession::RecordedSession(const CommonOptions& options)
@@ -84,6 +89,21 @@ void RecordedSession::EndRecording()
     m_file.close();
     if (m_isRecording && !m_file)
         throw BadInput(m_path + ": cannot be written to its end", "check the room on the disk");
+}
+
+std::string RecordedSession::ReplayLine(const std::vector<std::string>& arguments) const
+{
+    std::string line = "calvix";
+    for (std::size_t i = 0; i < arguments.size(); ++i)
+    {
+        const std::string& word = arguments[i];
+        const std::string option = word.substr(0, word.find('='));
+        if (option == "--record" || option == "--scenario" || option == "--save")
+            i += option == word ? 1U : 0U;
+        else if (option != "--anonymise")
+            line += ' ' + InQuotes(m_recorder->InRecording(word));
+    }
+    return line + " --replay " + InQuotes(m_path);
 }
 
 } // namespace calvix::host

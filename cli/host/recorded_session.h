@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace calvix::host
 {
@@ -37,6 +38,8 @@ public:
     std::optional<FailureReport> EndReplay();
     /// The same for a recording, whose file is complete then. A file that could not be written is a Failure.
     void EndRecording();
+    /// The command line that replays a finished recording, from the one that was recorded.
+    std::string ReplayLine(const std::vector<std::string>& arguments) const;
 
 private:
     std::string m_path;

@@ -41,11 +41,13 @@ std::optional<FailureReport> CarryOut(Host& host, const RunCommand& run)
     }
 }
 
-int EndRecording(Host& host, int exitCode)
+int EndRecording(Host& host, const std::vector<std::string>& arguments, int exitCode)
 {
     try
     {
         host.EndRecording();
+        if (const std::string line = host.ReplayLine(arguments); !line.empty())
+            host.err() << "To replay it with the invented names: " << line << '\n';
         return exitCode;
     }
     catch (const Failure& failure)
@@ -89,11 +91,11 @@ int CarryOutArguments(const std::vector<std::string>& arguments,
     if (const auto departure = host.EndReplay())
         failure = departure;
     if (!failure)
-        return EndRecording(host, static_cast<int>(ExitCode::success));
+        return EndRecording(host, arguments, static_cast<int>(ExitCode::success));
     const int exitCode = TellFailure(host, *failure);
     if (failure->exitCode != ExitCode::badInput)
         SaveAfterFailure(host);
-    return EndRecording(host, exitCode);
+    return EndRecording(host, arguments, exitCode);
 }
 
 } // namespace

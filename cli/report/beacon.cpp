@@ -182,7 +182,7 @@ BeaconFacts ReadBeacon(const WLAN_BSS_ENTRY& entry, const std::vector<std::uint8
     if (const auto channel = ChannelOf(elements, entry.ulChCenterFrequency / 1000))
     {
         facts.widthMhz = channel->widthMhz;
-        facts.widthTold = true;
+        facts.widthKnown = true;
         facts.centreKhz = channel->centreMhz * 1000;
     }
     facts.security = SecurityOf(elements);

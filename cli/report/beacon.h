@@ -13,7 +13,7 @@ namespace calvix::host
 struct BeaconFacts
 {
     unsigned widthMhz = 20;
-    bool widthTold = false;        ///< otherwise 20 MHz is what every access point has at least
+    bool widthKnown = false;       ///< otherwise 20 MHz is what every access point has at least
     unsigned long centreKhz = 0;   ///< of the whole channel
     std::string security;          ///< "WPA2-PSK/CCMP", "open"
     unsigned streams = 0;          ///< spatial streams; 0: not told

@@ -25,7 +25,7 @@
       ["BSSID", point.bssid],
       ["Signal", point.rssi + " dBm (" + point.quality + "%)"],
       ["Channel", point.channel + " (" + point.band + "), " + point.frequencyKhz / 1000 + " MHz"],
-      ["Width", point.widthTold ? point.widthMhz + " MHz around " + point.centreKhz / 1000 + " MHz" : "not told"],
+      ["Width", point.widthKnown ? point.widthMhz + " MHz around " + point.centreKhz / 1000 + " MHz" : "unknown"],
       ["Security", point.security],
       ["PHY", point.phy + (point.streams ? ", " + point.streams + " streams" : "")]
     ];

@@ -82,7 +82,7 @@ std::string AccessPointRow(const AirAccessPoint& point)
     row += NumberCell(SignalHtml(facts), std::to_string(facts.rssi));
     row += NumberCell(std::to_string(facts.channel), std::to_string(facts.channel));
     row += NumberCell(std::to_string(beacon.widthMhz) +
-                          (beacon.widthTold ? "" : "<abbr title=\"not told: at least\">*</abbr>"),
+                          (beacon.widthKnown ? "" : "<abbr title=\"not told: at least\">*</abbr>"),
                       std::to_string(beacon.widthMhz));
     row += TableCell(facts.band, std::to_string(facts.frequencyKhz));
     row += TableCell(EscapeHtml(beacon.security));
@@ -157,12 +157,12 @@ std::string MissingParts(const ReportFacts& report)
 
 std::string UntoldParts(const ReportFacts& report)
 {
-    if (!report.recording || report.recording->notTold.empty())
+    if (!report.recording || report.recording->notRecorded.empty())
         return {};
     std::string html =
         "<section class=\"missing\" aria-labelledby=\"untold\"><h2 id=\"untold\">What the recording does "
         "not tell</h2>\n<ul>\n";
-    for (const std::string& untold : report.recording->notTold)
+    for (const std::string& untold : report.recording->notRecorded)
         html += "<li>" + EscapeHtml(untold) + "</li>\n";
     return html + "</ul></section>\n";
 }
@@ -211,7 +211,7 @@ std::string AccessPointRows(const ReportFacts& report)
 std::string AdapterItems(const ReportFacts& report)
 {
     if (report.adapters.empty())
-        return report.recording && !report.recording->tellsAdapters ? kNotRecorded : "<p>No adapter is known.</p>\n";
+        return report.recording && !report.recording->hasAdapters ? kNotRecorded : "<p>No adapter is known.</p>\n";
     std::string html = "<ul class=\"adapters\">\n";
     for (const AdapterFacts& adapter : report.adapters)
     {
@@ -245,7 +245,7 @@ std::string ConnectionItems(const ReportFacts& report)
 std::string ProfileItems(const ReportFacts& report)
 {
     if (report.profiles.empty())
-        return report.recording && !report.recording->tellsProfiles ? kNotRecorded : "<p>No profile is stored.</p>\n";
+        return report.recording && !report.recording->hasProfiles ? kNotRecorded : "<p>No profile is stored.</p>\n";
     const std::string connected =
         report.status && report.status->connection ? report.status->connection->profile : std::string();
     std::string html = "<ol class=\"profiles\">\n";

@@ -193,14 +193,14 @@ void RecordedAdapter::Tell(ReportFacts& report, const AdapterFacts& adapter) con
     TellAir(report);
     TellProfiles(report);
     if (m_history.samples.size() < 2)
-        report.recording->notTold.push_back("The signal over time: the session looked no more than once.");
+        report.recording->notRecorded.push_back("The signal over time: the session looked no more than once.");
 }
 
 void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts adapter) const
 {
-    std::vector<std::string>& notTold = report.recording->notTold;
+    std::vector<std::string>& notRecorded = report.recording->notRecorded;
     if (!m_linkKnown)
-        return notTold.push_back("The connection: the session did not ask for it.");
+        return notRecorded.push_back("The connection: the session did not ask for it.");
     // The link may be newer than the list of adapters.
     if (m_link.connected != StandsConnected(static_cast<WLAN_INTERFACE_STATE>(adapter.state)))
     {
@@ -214,31 +214,32 @@ void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts adapter) 
     if (m_attributes)
         connection = DescribeConnection(*m_attributes);
     else
-        notTold.push_back("More of the connection than its access point: the session did not ask after it was made.");
+        notRecorded.push_back(
+            "More of the connection than its access point: the session did not ask after it was made.");
     connection.ssid = m_link.ssid;
     connection.bssid = m_link.bssid;
     connection.quality = m_link.quality;
     connection.rssi = m_link.rssi;
     if (!m_link.rssi)
-        notTold.push_back("The signal of the connection in dBm: the session did not ask for it.");
+        notRecorded.push_back("The signal of the connection in dBm: the session did not ask for it.");
 }
 
 void RecordedAdapter::TellAir(ReportFacts& report) const
 {
-    std::vector<std::string>& notTold = report.recording->notTold;
+    std::vector<std::string>& notRecorded = report.recording->notRecorded;
     report.airKnown = m_airKnown;
     for (const auto& [bssid, heard] : m_view)
         report.accessPoints.push_back(Described(heard));
     if (!m_airKnown)
-        notTold.push_back("The access points: the session got no list of them." + NamedNetworks());
+        notRecorded.push_back("The access points: the session got no list of them." + NamedNetworks());
     else if (!m_allAsked)
-        notTold.push_back("Access points of other networks: the session asked only for those of " +
-                          InRow(m_networksAsked) + ".");
+        notRecorded.push_back("Access points of other networks: the session asked only for those of " +
+                              InRow(m_networksAsked) + ".");
     constexpr unsigned longAgo = 10;
     const unsigned end = m_history.samples.empty() ? 0 : m_history.samples.back().second;
     if (m_airKnown && end >= m_lastListed + longAgo)
-        notTold.push_back("The access points at the end: they were listed last at second " +
-                          std::to_string(m_lastListed) + " of " + std::to_string(end) + ".");
+        notRecorded.push_back("The access points at the end: they were listed last at second " +
+                              std::to_string(m_lastListed) + " of " + std::to_string(end) + ".");
 }
 
 std::string RecordedAdapter::NamedNetworks() const
@@ -253,7 +254,7 @@ std::string RecordedAdapter::NamedNetworks() const
 void RecordedAdapter::TellProfiles(ReportFacts& report) const
 {
     RecordingFacts& recording = *report.recording;
-    recording.tellsProfiles = m_profiles.has_value();
+    recording.hasProfiles = m_profiles.has_value();
     for (const WLAN_PROFILE_INFO& info : m_profiles.value_or(std::vector<WLAN_PROFILE_INFO>()))
     {
         ProfileFacts facts;
@@ -266,15 +267,15 @@ void RecordedAdapter::TellProfiles(ReportFacts& report) const
         report.profiles.push_back(facts);
     }
     if (m_profiles && m_profilesChanged)
-        recording.notTold.push_back("The profiles as they are in the end: they were changed after the last list.");
+        recording.notRecorded.push_back("The profiles as they are in the end: they were changed after the last list.");
     if (m_profiles)
         return;
     std::set<std::string> names;
     for (const WLAN_AVAILABLE_NETWORK& network : m_networks)
         names.insert(VisibleText(Narrow(FixedText(network.strProfileName))));
     names.erase("");
-    recording.notTold.push_back("The stored profiles: the session got no list of them." +
-                                (names.empty() ? "" : " Networks in view have the profiles " + InRow(names) + "."));
+    recording.notRecorded.push_back("The stored profiles: the session got no list of them." +
+                                    (names.empty() ? "" : " Networks in view have the profiles " + InRow(names) + "."));
 }
 
 } // namespace calvix::host

@@ -147,11 +147,11 @@ void SessionAir::Tell(ReportFacts& report, const std::string& wanted) const
 {
     for (const WLAN_INTERFACE_INFO& info : m_list)
         report.adapters.push_back(DescribeAdapter(info, static_cast<unsigned>(report.adapters.size() + 1)));
-    report.recording->tellsAdapters = !m_list.empty();
+    report.recording->hasAdapters = !m_list.empty();
     TellRefusals(report);
     const std::string guid = Chosen(wanted);
     if (m_list.empty())
-        report.recording->notTold.push_back("The adapters: the session got no list of them.");
+        report.recording->notRecorded.push_back("The adapters: the session got no list of them.");
     const auto known = m_adapters.find(guid);
     (known == m_adapters.end() ? RecordedAdapter() : known->second).Tell(report, FactsOf(guid));
     for (AdapterFacts& listed : report.adapters)
@@ -178,8 +178,8 @@ ReportFacts ReadSessionAir(std::istream& file, const std::string& path, const st
         const std::string line = std::to_string(traits.lastLine);
         report.recording->brokenOff =
             path + ":" + line + ": the recording breaks off after this line, before the end of the session";
-        report.recording->notTold.push_back("The end of the session: the recording breaks off after line " + line +
-                                            ".");
+        report.recording->notRecorded.push_back("The end of the session: the recording breaks off after line " + line +
+                                                ".");
     }
     return report;
 }

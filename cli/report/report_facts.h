@@ -71,10 +71,10 @@ struct RecordingFacts
     std::string file; ///< its name, without the folders
     bool simulated = false;
     bool anonymised = false;
-    std::vector<std::string> notTold; ///< what it does not tell, in sentences
-    std::string brokenOff;            ///< where it breaks off: "session.jsonl:12: ..."; empty: it is whole
-    bool tellsAdapters = false;
-    bool tellsProfiles = false;
+    std::vector<std::string> notRecorded; ///< what it does not contain, in sentences
+    std::string brokenOff;                ///< where it breaks off: "session.jsonl:12: ..."; empty: it is whole
+    bool hasAdapters = false;
+    bool hasProfiles = false;
 };
 
 /// Everything that the page shows.

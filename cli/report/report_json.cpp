@@ -11,13 +11,13 @@ JsonRecord Describe(const AirAccessPoint& point)
     std::vector<unsigned> rates;
     for (const auto rate : point.beacon.rates)
         rates.push_back(rate * 500U);
-    return JsonRecord()
+    return JsonRecord("An access point in view, with what its beacons contain.", "point")
         .Add("number", point.number)
         .Join(Describe(point.facts))
         .Add("inUse", point.inUse)
         .Add("inView", point.inView)
         .Add("widthMhz", point.beacon.widthMhz)
-        .Add("widthTold", point.beacon.widthTold)
+        .Add("widthKnown", point.beacon.widthKnown)
         .Add("centreKhz", point.beacon.centreKhz)
         .Add("security", point.beacon.security)
         .Add("streams", point.beacon.streams, kTextOrNull)
@@ -65,7 +65,7 @@ JsonRecord Describe(const RecordingFacts& recording)
         .Add("file", recording.file)
         .Add("simulated", recording.simulated)
         .Add("anonymised", recording.anonymised)
-        .Add("notTold", recording.notTold, {"What it does not tell, in sentences"});
+        .Add("notRecorded", recording.notRecorded, {"What it does not contain, in sentences"});
 }
 
 namespace

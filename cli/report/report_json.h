@@ -8,6 +8,7 @@
 namespace calvix::host
 {
 
+JsonRecord Describe(const AirAccessPoint& point);
 /// Everything that the page shows.
 JsonRecord Describe(const ReportFacts& report);
 

@@ -119,11 +119,12 @@ std::vector<AirAccessPoint> ListAir(Host& host)
     return air;
 }
 
-std::vector<AirAccessPoint> ArrangedAir(Host& host, const std::string& inUse)
+std::vector<AirAccessPoint> ArrangedAir(Host& host)
 {
     std::vector<AirAccessPoint> air = ListAir(host);
+    const auto connection = host.service().Connection(host.adapterGuid());
     for (AirAccessPoint& point : air)
-        point.inUse = point.facts.bssid == inUse;
+        point.inUse = connection && point.facts.bssid == MacText(connection->wlanAssociationAttributes.dot11Bssid);
     Arrange(air);
     return air;
 }

@@ -19,8 +19,8 @@ AirAccessPoint DescribeHeard(const HeardAccessPoint& heard);
 /// The access points in view, in the service's order, not numbered yet.
 std::vector<AirAccessPoint> ListAir(Host& host);
 
-/// The same numbered, the strongest first; the one with the BSSID `inUse` is the adapter's.
-std::vector<AirAccessPoint> ArrangedAir(Host& host, const std::string& inUse);
+/// The same numbered, the strongest first, with the one that the adapter is connected to.
+std::vector<AirAccessPoint> ArrangedAir(Host& host);
 
 /// What every picture goes through when its access points in view are listed and its connection and history are known:
 /// marks the one in use, adds those that were heard only before, numbers them all, and tells when it was.

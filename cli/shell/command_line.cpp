@@ -26,6 +26,9 @@ void Limit(CLI::Option& option, const Argument& argument)
 {
     option.type_name(argument.ValueText());
     option.required(argument.required);
+    // The usage line shows which positional arguments are required; their names say what they take.
+    if (!argument.isOption() && argument.takes != ValueKind::choice)
+        option.option_text(" ");
     if (argument.takes == ValueKind::number)
         option.capture_default_str();
     if (argument.takes == ValueKind::choice)

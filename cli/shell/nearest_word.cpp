@@ -30,8 +30,6 @@ std::size_t TypingErrors(std::string_view left, std::string_view right)
     return errors[left.size()][right.size()];
 }
 
-} // namespace
-
 std::string NearestWord(std::string_view word, const std::vector<std::string>& known)
 {
     std::string nearest;
@@ -48,6 +46,14 @@ std::string NearestWord(std::string_view word, const std::vector<std::string>& k
         nearest = candidate;
     }
     return nearest;
+}
+
+} // namespace
+
+std::string DidYouMean(std::string_view word, const std::vector<std::string>& known)
+{
+    const std::string nearest = NearestWord(word, known);
+    return nearest.empty() ? "" : "did you mean " + nearest + "? If not, ";
 }
 
 } // namespace calvix::host

@@ -7,7 +7,7 @@
 namespace calvix::host
 {
 
-/// The one of `known` that was probably meant by `word`; empty when none is near.
-std::string NearestWord(std::string_view word, const std::vector<std::string>& known);
+/// Begins an advice: "did you mean scan? If not, ", the one of `known` that is nearest to `word`; empty when none is near.
+std::string DidYouMean(std::string_view word, const std::vector<std::string>& known);
 
 } // namespace calvix::host

@@ -29,18 +29,13 @@ WordReader ReadAll(const CommandSet& program, const std::vector<std::string>& ar
     return reader;
 }
 
-std::string Meant(const std::string& nearest)
-{
-    return nearest.empty() ? "" : "did you mean " + nearest + "? ";
-}
-
 Failure UnknownCommand(const CommandSet& program, const WordReader& reader)
 {
     const std::string family = reader.family() != nullptr ? reader.family()->name : "";
     const std::string& word = reader.unknownCommand();
     const std::string help = "calvix " + family + (family.empty() ? "" : " ") + "--help";
     return BadInput((family.empty() ? "there is no command \"" : family + " has no command \"") + word + "\"",
-                    Meant(NearestWord(word, CommandNames(program, family))) + "The commands: " + help);
+                    DidYouMean(word, CommandNames(program, family)) + "list the commands: " + help);
 }
 
 Failure UnknownOption(const WordReader& reader)
@@ -51,15 +46,15 @@ Failure UnknownOption(const WordReader& reader)
     const std::string command = reader.command() != nullptr ? reader.command()->path : "calvix";
     const std::string help = reader.command() != nullptr ? "calvix " + command : command;
     return BadInput(command + " has no option " + reader.unknownOption(),
-                    Meant(NearestWord(reader.unknownOption(), names)) + "Its options: " + help + " --help");
+                    DidYouMean(reader.unknownOption(), names) + "list its options: " + help + " --help");
 }
 
 Failure NoCommand(const WordReader& reader)
 {
     if (reader.family() == nullptr)
-        return BadInput("no command was given", "look for one: calvix --help");
+        return BadInput("no command was given", "list the commands: calvix --help");
     const std::string& family = reader.family()->name;
-    return BadInput(family + " needs one of its commands", "look for one: calvix " + family + " --help");
+    return BadInput(family + " needs one of its commands", "list them: calvix " + family + " --help");
 }
 
 } // namespace
@@ -80,7 +75,7 @@ UsageFailure(const CommandSet& program, const std::vector<std::string>& argument
     if (reader.command() == nullptr)
         return NoCommand(reader);
     const std::string& path = reader.command()->path;
-    return BadInput(path + ": " + parserWords, "look at its arguments: calvix " + path + " --help");
+    return BadInput(path + ": " + parserWords, "list its arguments: calvix " + path + " --help");
 }
 
 } // namespace calvix::host

@@ -3,7 +3,6 @@
 #include "core/wlan_records.h"
 #include "forms/channel.h"
 #include "forms/guid_text.h"
-#include "output/table.h"
 #include "output/text_forms.h"
 #include "output/words.h"
 #include "text/value_text.h"
@@ -81,17 +80,22 @@ std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_EN
     return facts;
 }
 
-void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPoints)
+std::vector<Column> AccessPointColumns()
 {
-    Table table({{"BSSID"}, {"SSID"}, {"Signal"}, {"dBm", Align::right}, {"Channel", Align::right}, {"Band"}, {"PHY"}});
-    for (const AccessPointFacts& facts : accessPoints)
-    {
-        const Cell ssid = facts.ssid.hex.empty() ? Cell("(hidden)", Tone::faint) : Cell(facts.ssid.text);
-        const int quality = host.manager().GetSignalStrength(static_cast<int>(facts.rssi));
-        table.AddRow({facts.bssid, ssid, SignalBars(static_cast<unsigned long>(quality), host.terminal()),
-                      std::to_string(facts.rssi), std::to_string(facts.channel), facts.band, facts.phy});
-    }
-    table.Print(host.out(), host.terminal());
+    return {{"BSSID"}, {"SSID"}, {"Signal"}, {"dBm", Align::right}, {"Channel", Align::right}, {"Band"}, {"PHY"}};
+}
+
+std::vector<Cell> AccessPointRow(Host& host, const AccessPointFacts& facts)
+{
+    const Cell ssid = facts.ssid.hex.empty() ? Cell("(hidden)", Tone::faint) : Cell(facts.ssid.text);
+    const int quality = host.manager().GetSignalStrength(static_cast<int>(facts.rssi));
+    return {facts.bssid,
+            ssid,
+            SignalBars(static_cast<unsigned long>(quality), host.terminal()),
+            std::to_string(facts.rssi),
+            std::to_string(facts.channel),
+            facts.band,
+            facts.phy};
 }
 
 std::string MomentText(std::uint64_t hostTime)

@@ -2,6 +2,7 @@
 
 #include "host/host.h"
 #include "output/facts.h"
+#include "output/table.h"
 
 namespace calvix::host
 {
@@ -16,7 +17,9 @@ NetworkFacts DescribeNetwork(const WLAN_AVAILABLE_NETWORK& network);
 AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry);
 std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_ENTRY>& entries);
 
-void PrintAccessPoints(Host& host, const std::vector<AccessPointFacts>& accessPoints);
+/// A table of access points: its first columns, and a row of them. Commands that know more append theirs.
+std::vector<Column> AccessPointColumns();
+std::vector<Cell> AccessPointRow(Host& host, const AccessPointFacts& facts);
 
 /// The service's time stamp as the computer's calendar has it; empty for one that is none.
 std::string MomentText(std::uint64_t hostTime);

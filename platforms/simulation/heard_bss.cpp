@@ -10,8 +10,8 @@ namespace calvix::simulation
 
 const Bytes& HeardBss::Ssid() const
 {
-    static const Bytes notTold;
-    return ssidHeard ? accessPoint.ssid : notTold;
+    static const Bytes hidden;
+    return ssidHeard ? accessPoint.ssid : hidden;
 }
 
 ULONG SignalQuality(std::int32_t rssi)

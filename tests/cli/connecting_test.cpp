@@ -67,9 +67,28 @@ TEST_F(ConnectingCommands, ConnectReplacesTheConnectionThatStands)
 
 TEST_F(ConnectingCommands, ConnectSaysThatTheNetworkIsNotInView)
 {
-    const Outcome outcome = RunOn(QuietWorld(), {"connect", "GoneNet"});
+    const Outcome outcome = RunOn(QuietWorld(), {"connect", "GoneNet", "--interface", "1"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("no visible network carries the profile.\n  Result: LinkProfile gave -2.\n"));
+    EXPECT_EQ("calvix: the network of the profile \"GoneNet\" is not in view.\n  Result: LinkProfile returned -2.\n"
+              "  What to do: scan first; check the profile's name, upper and lower case included.\n",
+              outcome.err);
+}
+
+TEST_F(ConnectingCommands, ConnectSuggestsTheProfileThatWasMeant)
+{
+    EXPECT_EQ("calvix: there is no profile \"officenet\".\n  Result: LinkProfile returned -2.\n"
+              "  What to do: did you mean OfficeNet? If not, list the profiles: calvix profiles list.\n",
+              RunOn(QuietWorld(), {"connect", "officenet", "--interface", "1"}).err);
+    EXPECT_THAT(RunOn(QuietWorld(), {"connect", "qqqq"}).err, HasSubstr("What to do: list the profiles"));
+}
+
+TEST_F(ConnectingCommands, ErrorNumbersAreShownAsTheSystemWritesThem)
+{
+    simulation::Scenario world = QuietWorld();
+    for (simulation::PhyDescription& phy : world.adapters[0].phys)
+        phy.software = simulation::RadioSwitch::off;
+    EXPECT_THAT(RunOn(world, {"connect", "OfficeNet"}).err,
+                HasSubstr("Result: LinkProfile returned -2144067582 (the radio is off, 0x80342002).\n"));
 }
 
 TEST_F(ConnectingCommands, AWrongKeyIsNamedInBothWordings)
@@ -137,14 +156,14 @@ TEST_F(ConnectingCommands, ReconnectToTheNetworkNeedsAnAutomaticProfile)
     world.adapters[0].connection = {{"OfficeNet", std::nullopt}};
     const Outcome outcome = RunOn(world, {"reconnect", "--method", "network"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("RecoverConnetionAttributes gave -99."));
+    EXPECT_THAT(outcome.err, HasSubstr("RecoverConnetionAttributes returned -99."));
     EXPECT_EQ("OfficeNet", ProfileIn(RunOn(world, {"reconnect", "--json"})));
 }
 
 TEST_F(ConnectingCommands, ReconnectAndResetNeedAConnection)
 {
-    EXPECT_THAT(RunOn(QuietWorld(), {"reconnect"}).err, HasSubstr("GetCurrentConnection gave -4."));
-    EXPECT_THAT(RunOn(QuietWorld(), {"reset"}).err, HasSubstr("ResetConnection gave -4."));
+    EXPECT_THAT(RunOn(QuietWorld(), {"reconnect"}).err, HasSubstr("GetCurrentConnection returned -4."));
+    EXPECT_THAT(RunOn(QuietWorld(), {"reset"}).err, HasSubstr("ResetConnection returned -4."));
 }
 
 TEST_F(ConnectingCommands, ResetMakesTheConnectionAgain)
@@ -167,7 +186,7 @@ TEST_F(ConnectingCommands, AutoKnowsSeveralWays)
 TEST_F(ConnectingCommands, TwoWaysFailWhereThePlatformRefusesTheirConversion)
 {
     // The simulated computer refuses the conversion flags of these methods, as Windows does.
-    EXPECT_THAT(RunOn(QuietWorld(), {"auto", "--method", "mode"}).err, HasSubstr("ConnectAutoMode gave -9."));
+    EXPECT_THAT(RunOn(QuietWorld(), {"auto", "--method", "mode"}).err, HasSubstr("ConnectAutoMode returned -9."));
     const Outcome outcome = RunOn(ConnectedQuietWorld(), {"switch", "--method", "smart"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("invalid flags, 1004"));
@@ -186,8 +205,8 @@ TEST_F(ConnectingCommands, AutoWorksOnTheChosenAdapter)
 
 TEST_F(ConnectingCommands, AutoPassesFailuresOn)
 {
-    EXPECT_THAT(RunOn(NoProfileWorld(), {"auto"}).err, HasSubstr("AutoConnect gave -5."));
-    EXPECT_THAT(RunOn(SilentWorld(), {"auto"}).err, HasSubstr("AutoConnect gave -7."));
+    EXPECT_THAT(RunOn(NoProfileWorld(), {"auto"}).err, HasSubstr("AutoConnect returned -5."));
+    EXPECT_THAT(RunOn(SilentWorld(), {"auto"}).err, HasSubstr("AutoConnect returned -7."));
     EXPECT_EQ(kUnavailable, RunOn(NoAdapterWorld(), {"auto"}).exitCode);
 }
 

@@ -110,10 +110,10 @@ TEST_F(MatchCommand, FailsWithoutProfilesOrNetworks)
 {
     const Outcome noProfile = RunOn(NoProfileWorld(), {"match"});
     EXPECT_EQ(kFailed, noProfile.exitCode);
-    EXPECT_THAT(noProfile.err, HasSubstr("no profile is stored.\n  Result: GetMatchAPList gave -6.\n"));
+    EXPECT_THAT(noProfile.err, HasSubstr("no profile is stored.\n  Result: GetMatchAPList returned -6.\n"));
     const Outcome noNetwork = RunOn(SilentWorld(), {"match", "--auto-only"});
     EXPECT_EQ(kFailed, noNetwork.exitCode);
-    EXPECT_THAT(noNetwork.err, HasSubstr("no network is in view.\n  Result: GetConnectableAPList gave -8.\n"));
+    EXPECT_THAT(noNetwork.err, HasSubstr("no network is in view.\n  Result: GetConnectableAPList returned -8.\n"));
 }
 
 TEST_F(BestCommand, ShowsTheScoresAndJoinsTheLowest)
@@ -173,7 +173,7 @@ TEST_F(BestCommand, LeavesBothOut)
 {
     const Outcome outcome = RunOn(TwoCandidates(), {"best", "--exclude-ssid", "Weak", "--exclude-profile", "Strong"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("no visible network can be chosen.\n  Result: ConnectBestAP gave -9.\n"));
+    EXPECT_THAT(outcome.err, HasSubstr("no visible network can be chosen.\n  Result: ConnectBestAP returned -9.\n"));
 }
 
 TEST_F(BestCommand, TakesEscapedSsids)
@@ -212,11 +212,11 @@ TEST_F(BestCommand, ConnectsOnlyOnceAndTracesOnlyThat)
 
 TEST_F(BestCommand, PassesFailuresOfTheLibraryOn)
 {
-    EXPECT_THAT(RunOn(NoProfileWorld(), {"best"}).err, HasSubstr("ConnectBestAP gave -5."));
-    EXPECT_THAT(RunOn(SilentWorld(), {"best"}).err, HasSubstr("ConnectBestAP gave -7."));
+    EXPECT_THAT(RunOn(NoProfileWorld(), {"best"}).err, HasSubstr("ConnectBestAP returned -5."));
+    EXPECT_THAT(RunOn(SilentWorld(), {"best"}).err, HasSubstr("ConnectBestAP returned -7."));
     simulation::Scenario world = TwoCandidates();
     world.locationConsent = false;
-    EXPECT_THAT(RunOn(world, {"best"}).err, HasSubstr("ConnectBestAP gave -6."));
+    EXPECT_THAT(RunOn(world, {"best"}).err, HasSubstr("ConnectBestAP returned -6."));
 }
 
 TEST_F(BestCommand, ShowsProgressOnATerminal)

@@ -73,7 +73,7 @@ TEST_F(ExplainCommand, RefusesWhatTheLibraryDoesNotHave)
     EXPECT_THAT(method.err, HasSubstr("the library has no method \"ConnectWorstAP\""));
     const Outcome code = Run({"explain", "ConnectBestAP", "-2"});
     EXPECT_EQ(kBadInput, code.exitCode);
-    EXPECT_THAT(code.err, HasSubstr("ConnectBestAP never gives -2"));
+    EXPECT_THAT(code.err, HasSubstr("ConnectBestAP never returns -2"));
     for (const char* text : {"four", "0x", "-", "7up"})
         EXPECT_EQ(kBadInput, Run({"explain", "ConnectBestAP", text}).exitCode) << text;
 }

@@ -2,6 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <functional>
+
 namespace calvix::test::inventory_test
 {
 namespace
@@ -66,7 +69,7 @@ TEST_F(AdaptersCommand, SaysWhenThereIsNone)
     EXPECT_EQ(kUnavailable, outcome.exitCode);
     EXPECT_EQ("", outcome.out);
     EXPECT_EQ("calvix: the computer has no wireless adapter.\n"
-              "  Result: GetWlanInterface gave -3.\n"
+              "  Result: GetWlanInterface returned -3.\n"
               "  What to do: plug one in, or enable it and its driver in the device manager.\n",
               outcome.err);
 }
@@ -78,7 +81,7 @@ TEST_F(AdaptersCommand, SaysWhenTheServiceIsStopped)
     const Outcome outcome = RunOn(world, {"adapters"});
     EXPECT_EQ(kUnavailable, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("refused WlanOpenHandle (the WLAN service is not running, 1062)"));
-    EXPECT_THAT(outcome.err, HasSubstr("GetWlanInterface gave -1"));
+    EXPECT_THAT(outcome.err, HasSubstr("GetWlanInterface returned -1"));
     EXPECT_THAT(outcome.err, HasSubstr("sc start WlanSvc"));
 }
 
@@ -145,7 +148,7 @@ TEST_F(NetworksCommand, NamesTheMissingConsent)
     EXPECT_EQ(
         "calvix: the list of visible networks could not be fetched: the WLAN service refused "
         "WlanGetAvailableNetworkList (access denied, 5).\n"
-        "  Result: GetAvailableNetworkCount gave -5.\n"
+        "  Result: GetAvailableNetworkCount returned -5.\n"
         "  What to do: allow location access for desktop apps (Settings, Privacy & security, Location): switch on "
         "\"Location services\", \"Let apps access your location\" and \"Let desktop apps access your location\". "
         "Windows 11 24H2 and later ask for it; start ms-settings:privacy-location opens the page.\n",
@@ -180,25 +183,69 @@ TEST_F(NetworksCommand, NamesTheRadioThatIsOff)
 
 TEST_F(BssCommand, ListsEveryAccessPoint)
 {
-    const Outcome outcome = RunOn(RichWorld(), {"bss"});
+    simulation::Scenario world = RichWorld();
+    world.accessPoints[2].channelWidth = 160;
+    const Outcome outcome = RunOn(world, {"bss"});
     EXPECT_EQ(kSuccess, outcome.exitCode);
-    EXPECT_THAT(outcome.out, StartsWith("BSSID              SSID       Signal  dBm  Channel  Band     PHY\n"
-                                        "02:11:00:00:24:06  HomeNet    ####    -50        6  2.4 GHz  802.11n\n"
-                                        "02:11:00:00:50:24  HomeNet    ###.    -62       36  5 GHz    802.11ac\n"
-                                        "02:11:00:00:60:01  HomeNet    ###.    -70        1  6 GHz    802.11ax\n"));
+    EXPECT_THAT(
+        outcome.out,
+        StartsWith(
+            "BSSID              SSID       Signal  dBm  Channel  Band     PHY         Width  Security       Note\n"
+            "02:11:00:00:24:06  HomeNet    ####    -50        6  2.4 GHz  802.11n    20 MHz  WPA2-PSK/CCMP  "
+            "connected\n"
+            "02:55:00:00:50:2C  HomeNet5G  ####    -58       44  5 GHz    802.11ax   20 MHz  WPA3-SAE/CCMP\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("-70        1  6 GHz    802.11ax  160 MHz  WPA2-PSK/CCMP\n"));
     EXPECT_THAT(outcome.out, HasSubstr("02:33:00:00:24:0B  (hidden)   ###.    -68       11  2.4 GHz"));
 }
 
 TEST_F(BssCommand, SpeaksJson)
 {
-    const json list = json::parse(RunOn(RichWorld(), {"bss", "--json"}).out)["accessPoints"];
+    simulation::Scenario world = RichWorld();
+    world.accessPoints[2].channelWidth = 160;
+    const json list = json::parse(RunOn(world, {"bss", "--json"}).out)["accessPoints"];
     ASSERT_EQ(8u, list.size());
-    EXPECT_EQ("02:11:00:00:60:01", list[2]["bssid"]);
-    EXPECT_EQ(-70, list[2]["rssi"]);
-    EXPECT_EQ(5955000, list[2]["frequencyKhz"]);
-    EXPECT_EQ("6 GHz", list[2]["band"]);
-    EXPECT_EQ(1, list[2]["channel"]);
-    EXPECT_EQ("802.11ax", list[2]["phy"]);
+    const auto point =
+        std::find_if(list.begin(), list.end(), [](const json& one) { return one["bssid"] == "02:11:00:00:60:01"; });
+    ASSERT_NE(list.end(), point);
+    EXPECT_EQ(-70, (*point)["rssi"]);
+    EXPECT_EQ(5955000, (*point)["frequencyKhz"]);
+    EXPECT_EQ("6 GHz", (*point)["band"]);
+    EXPECT_EQ(1, (*point)["channel"]);
+    EXPECT_EQ("802.11ax", (*point)["phy"]);
+    EXPECT_EQ(160, (*point)["widthMhz"]);
+    EXPECT_EQ("WPA2-PSK/CCMP", (*point)["security"]);
+    EXPECT_EQ(false, (*point)["inUse"]);
+    EXPECT_EQ(true, list[0]["inUse"]);
+}
+
+/// The values of a member in the order of a command's list.
+std::vector<json> InOrder(const Outcome& outcome, const char* list, const char* member)
+{
+    std::vector<json> values;
+    for (const json& one : json::parse(outcome.out)[list])
+        values.push_back(one[member]);
+    return values;
+}
+
+TEST_F(BssCommand, SortsByWhatIsAskedFor)
+{
+    const auto sorted = [&](const char* order, const char* member) {
+        return InOrder(RunOn(RichWorld(), {"bss", "--json", "--sort", order}), "accessPoints", member);
+    };
+    EXPECT_TRUE(std::ranges::is_sorted(sorted("channel", "frequencyKhz")));
+    EXPECT_TRUE(std::ranges::is_sorted(sorted("name", "ssid")));
+    EXPECT_TRUE(std::ranges::is_sorted(sorted("signal", "rssi"), std::greater()));
+    EXPECT_EQ(sorted("signal", "bssid"), InOrder(RunOn(RichWorld(), {"bss", "--json"}), "accessPoints", "bssid"));
+}
+
+TEST_F(NetworksCommand, SortsByWhatIsAskedFor)
+{
+    const auto sorted = [&](const char* order, const char* member) {
+        return InOrder(RunOn(RichWorld(), {"networks", "--json", "--sort", order}), "networks", member);
+    };
+    EXPECT_TRUE(std::ranges::is_sorted(sorted("name", "ssid")));
+    EXPECT_TRUE(std::ranges::is_sorted(sorted("signal", "quality"), std::greater()));
+    EXPECT_EQ(kBadInput, RunOn(RichWorld(), {"networks", "--sort", "channel"}).exitCode);
 }
 
 TEST_F(ScanCommand, WaitsUntilTheListHasCome)
@@ -242,7 +289,7 @@ TEST_F(ScanCommand, SaysWhatWasRefused)
     const Outcome outcome = RunOn(world, {"scan"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("the scan was refused: the WLAN service refused WlanScan (access denied, 5)"));
-    EXPECT_THAT(outcome.err, HasSubstr("Rescan gave -4"));
+    EXPECT_THAT(outcome.err, HasSubstr("Rescan returned -4"));
 }
 
 } // namespace

@@ -132,8 +132,8 @@ TEST_F(RoamCommand, NeedsAConnection)
 {
     const Outcome outcome = RunOn(DisconnectedWorld(), {"roam"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("Roaming gave -4."));
-    EXPECT_THAT(RunOn(DisconnectedWorld(), {"roam", "--dry-run"}).err, HasSubstr("PreRoaming gave -4."));
+    EXPECT_THAT(outcome.err, HasSubstr("Roaming returned -4."));
+    EXPECT_THAT(RunOn(DisconnectedWorld(), {"roam", "--dry-run"}).err, HasSubstr("PreRoaming returned -4."));
 }
 
 TEST_F(RoamCommand, ForGoesWithEvery)

@@ -168,7 +168,7 @@ TEST_F(PowerCommands, SleepNamesThePrivilegeThatIsNotHeld)
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_EQ("calvix: the computer was not put to sleep: the system refused SetSuspendState (a required privilege is "
               "not held, 1314).\n"
-              "  Result: ForceComputerSleep gave 0.\n"
+              "  Result: ForceComputerSleep returned 0.\n"
               "  What to do: run as administrator.\n",
               outcome.err);
 }
@@ -219,7 +219,7 @@ TEST_F(PowerCommands, KeepAwakeNeedsAComputerThatSleepsAtAll)
     world.power.suspendAllowed = false;
     const Outcome outcome = RunOn(world, {"power", "keep-awake", "--yes"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("the computer cannot be suspended.\n  Result: SetPowerScheme gave -1."));
+    EXPECT_THAT(outcome.err, HasSubstr("the computer cannot be suspended.\n  Result: SetPowerScheme returned -1."));
 }
 
 TEST_F(PowerCommands, RestoreSaysThatItWritesZerosAndDoes)
@@ -269,11 +269,11 @@ TEST_F(PowerCommands, PrivilegeTellsWhyItCannot)
     const Outcome notHeld = RunOn({}, {"power", "privilege", "SeDebugPrivilege"});
     EXPECT_EQ(kFailed, notHeld.exitCode);
     EXPECT_THAT(notHeld.err, HasSubstr("the account does not hold \"SeDebugPrivilege\".\n"
-                                       "  Result: EnablePriviledge gave 0."));
+                                       "  Result: EnablePriviledge returned 0."));
     const Outcome unknown = RunOn({}, {"power", "privilege", "SeFlyPrivilege"});
     EXPECT_EQ(kFailed, unknown.exitCode);
     EXPECT_THAT(unknown.err, HasSubstr("\"SeFlyPrivilege\" was not enabled: the system refused LookupPrivilegeValueA "
-                                       "(no such privilege, 1313).\n  Result: EnablePriviledge gave 1."));
+                                       "(no such privilege, 1313).\n  Result: EnablePriviledge returned 1."));
     Scenario world;
     world.tokens = false;
     EXPECT_THAT(RunOn(world, {"power", "privilege", "SeDebugPrivilege"}).err,
@@ -340,7 +340,7 @@ TEST_F(RefusedPower, SleepNeedsAToken)
     const Outcome outcome = Run({"power", "sleep", "--yes"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("the shutdown privilege could not be asked for: the system refused "
-                                       "OpenProcessToken (access denied, 5).\n  Result: GetPrivileges gave 0."));
+                                       "OpenProcessToken (access denied, 5).\n  Result: GetPrivileges returned 0."));
     EXPECT_EQ(0u, m_computer.SuspendCount());
 }
 
@@ -357,25 +357,25 @@ TEST_F(RefusedPower, TheRefusedStepIsNamed)
 {
     const RefusedStep steps[] = {
         {"keep-awake", "GetActivePwrScheme", 5, "the system refused GetActivePwrScheme (access denied, 5)",
-         "SetPowerScheme gave -2."},
+         "SetPowerScheme returned -2."},
         {"keep-awake", "ReadPwrScheme", 2, "the system refused ReadPwrScheme (file not found, 2)",
-         "SetPowerScheme gave -3."},
+         "SetPowerScheme returned -3."},
         {"keep-awake", "WritePwrScheme", 5, "the system refused WritePwrScheme (access denied, 5)",
-         "SetPowerScheme gave -4."},
+         "SetPowerScheme returned -4."},
         {"keep-awake", "SetActivePwrScheme", 31,
-         "the system refused SetActivePwrScheme (a device does not function, 31)", "SetPowerScheme gave -5."},
+         "the system refused SetActivePwrScheme (a device does not function, 31)", "SetPowerScheme returned -5."},
         {"restore", "WritePwrScheme", 5, "the system refused WritePwrScheme (access denied, 5)",
-         "ResetPowerScheme gave -3."},
+         "ResetPowerScheme returned -3."},
         {"saver", "PowerGetActiveScheme", 5, "the system refused PowerGetActiveScheme (access denied, 5)",
-         "GetPowerScheme gave -1."},
+         "GetPowerScheme returned -1."},
         {"saver", "PowerDuplicateScheme", 8, "the system refused PowerDuplicateScheme (not enough memory, 8)",
-         "GetPowerScheme gave -2."},
+         "GetPowerScheme returned -2."},
         {"saver", "PowerWriteFriendlyName", 5, "the system refused PowerWriteFriendlyName (access denied, 5)",
-         "GetPowerScheme gave -3."},
+         "GetPowerScheme returned -3."},
         {"saver", "PowerWriteACValueIndex", 5, "the system refused PowerWriteACValueIndex (access denied, 5)",
-         "GetPowerScheme gave -4."},
+         "GetPowerScheme returned -4."},
         {"saver", "PowerSetActiveScheme", 5, "the system refused PowerSetActiveScheme (access denied, 5)",
-         "GetPowerScheme gave -5."},
+         "GetPowerScheme returned -5."},
     };
     for (const RefusedStep& step : steps)
     {

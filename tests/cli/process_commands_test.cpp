@@ -185,7 +185,7 @@ TEST_F(OnlineCommand, TellsWhyItCannot)
     EXPECT_EQ(kFailed, unresolved.exitCode);
     EXPECT_THAT(unresolved.err, StartsWith("calvix: the internet could not be reached: the system refused "
                                            "InternetCheckConnectionA (the name could not be resolved, 12007).\n"
-                                           "  Result: OpenUrl gave -1.\n  What to do: see that the network has"));
+                                           "  Result: OpenUrl returned -1.\n  What to do: see that the network has"));
     world.internet = InternetAccess::unreachable;
     const json error = json::parse(RunOn(world, {"online", "--json"}).out)["error"];
     EXPECT_EQ(12029, error["platformError"]);

@@ -90,7 +90,7 @@ TEST_F(ProfilesCommand, SaysThatAProfileIsNotThere)
     const Outcome outcome = OnShared({"profiles", "show", "homenet"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("the profile could not be read"));
-    EXPECT_THAT(outcome.err, HasSubstr("GetProfile gave -4"));
+    EXPECT_THAT(outcome.err, HasSubstr("GetProfile returned -4"));
 }
 
 std::string DocumentOf(const std::string& name)
@@ -132,7 +132,7 @@ TEST_F(ProfilesCommand, SaysWhyADocumentIsRefused)
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("the profile was not stored: the WLAN service refused WlanSetProfile "
                                        "(bad profile, 1206), because: "));
-    EXPECT_THAT(outcome.err, HasSubstr("SetProfile gave -4"));
+    EXPECT_THAT(outcome.err, HasSubstr("SetProfile returned -4"));
 }
 
 TEST_F(ProfilesCommand, RefusesAFileThatIsNotThere)

@@ -142,7 +142,7 @@ TEST_F(SettingsCommand, BackgroundScanNeedsAConnection)
 {
     const Outcome outcome = RunOn(DisconnectedWorld(), {"settings", "--enable-background-scan"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("EnableBackgroundScan gave 5023."));
+    EXPECT_THAT(outcome.err, HasSubstr("EnableBackgroundScan returned 5023."));
 }
 
 TEST_F(IhvCommand, PrintsTheAnswer)
@@ -169,7 +169,7 @@ TEST_F(IhvCommand, GrantingTakesAnAdministrator)
     world.administrator = false;
     const Outcome outcome = RunOn(world, {"ihv", "FF", "--grant"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("SetIhvSecuritySettings gave 5."));
+    EXPECT_THAT(outcome.err, HasSubstr("SetIhvSecuritySettings returned 5."));
     EXPECT_THAT(outcome.err, HasSubstr("administrator"));
 }
 

@@ -132,7 +132,7 @@ struct RefusedCase
 /// The code that the table has for the cause, in a failure's words.
 std::string Gave(const std::string& method, Cause cause)
 {
-    return method + " gave " + std::to_string(CodeOf(method, cause)) + ".";
+    return method + " returned " + std::to_string(CodeOf(method, cause)) + ".";
 }
 
 void PrintTo(const RefusedCase& refused, std::ostream* out)
@@ -172,11 +172,13 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedCase{{"profiles", "show", "Weak"}, "WlanGetProfile", Gave("GetProfile", Cause::profileNotReadable), 1},
         RefusedCase{
             {"profiles", "delete", "Weak"}, "WlanDeleteProfile", Gave("DeleteProfile", Cause::profileNotDeleted), 1},
-        RefusedCase{
-            {"profiles", "move", "Weak", "--to", "last"}, "WlanSetProfilePosition", "SetProfilePosition gave 31.", 1},
+        RefusedCase{{"profiles", "move", "Weak", "--to", "last"},
+                    "WlanSetProfilePosition",
+                    "SetProfilePosition returned 31.",
+                    1},
         RefusedCase{{"profiles", "move", "Weak", "--to", "second"},
                     "WlanSetProfilePosition",
-                    "ResetProfilePosition gave 31.",
+                    "ResetProfilePosition returned 31.",
                     1},
         RefusedCase{{"match"}, "WlanGetProfileList", Gave("GetMatchAPList", Cause::profileListFailed), 1},
         RefusedCase{{"match", "--auto-only"},

@@ -47,7 +47,7 @@ TEST(Beacon, TellsTheChannelAsItsAccessPointUsesIt)
         point.frequencyKhz = row.primaryMhz * 1000;
         point.channelWidth = row.width;
         const BeaconFacts facts = Read(point.frequencyKhz, simulation::ChannelElements(point));
-        EXPECT_TRUE(facts.widthTold);
+        EXPECT_TRUE(facts.widthKnown);
         EXPECT_EQ(row.width, facts.widthMhz) << row.primaryMhz;
         EXPECT_EQ(row.centreMhz * 1000, facts.centreKhz) << row.primaryMhz << " at " << row.width;
         EXPECT_EQ(2u, facts.streams);
@@ -77,7 +77,7 @@ TEST(Beacon, BrokenElementsTellNothing)
           Bytes{48, 8, 1, 0, 0, 0x0f, 0xac, 4, 0xff, 0xff}})
     {
         const BeaconFacts facts = Read(5180000, broken);
-        EXPECT_FALSE(facts.widthTold);
+        EXPECT_FALSE(facts.widthKnown);
         EXPECT_EQ(20u, facts.widthMhz);
         EXPECT_EQ(5180000u, facts.centreKhz);
         EXPECT_EQ("WEP", facts.security) << "the privacy bit alone";

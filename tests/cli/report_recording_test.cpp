@@ -101,7 +101,7 @@ TEST_F(ReportRecording, TheWalkHasItsRoamsAndEveryAccessPoint)
 
 TEST_F(ReportRecording, AListOfAccessPointsGivesThePictureThatTheComputerGives)
 {
-    const std::string recording = Recorded({"bss", "--scenario", kRecordedOffice});
+    const std::string recording = Recorded({"channels", "--scenario", kRecordedOffice});
     json of = DataOf(recording)["accessPoints"];
     json live = json::parse(Run({"report", "-o", "-", "--json", "--scenario", kRecordedOffice}).out)["accessPoints"];
     ASSERT_EQ(13u, of.size());

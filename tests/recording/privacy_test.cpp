@@ -147,6 +147,18 @@ TEST_F(RecordingPrivacy, ReplaysWithOtherNamesToTheSameTable)
     }
 }
 
+TEST_F(RecordingPrivacy, ShowsTheCommandThatReplaysWithTheInventedNames)
+{
+    const Outcome first =
+        RunOn(RichWorld(), {"connect", "OfficeNet", "--interface", "1", "--record", File(), "--anonymise"});
+    const std::string text = "To replay it with the invented names: calvix connect ";
+    ASSERT_EQ(text, first.err.substr(0, text.size()));
+    const std::string name = first.err.substr(text.size(), std::string("OfficeNet").size());
+    EXPECT_EQ(text + name + " --interface 1 --replay " + File() + "\n", first.err);
+    EXPECT_EQ(kSuccess, Run({"connect", name, "--interface", "1", "--replay", File()}).exitCode);
+    EXPECT_EQ("", RunOn(RichWorld(), {"connect", "OfficeNet", "--interface", "1", "--record", File()}).err);
+}
+
 TEST_F(RecordingPrivacy, GivesTheSameNameToTheSameNetwork)
 {
     RunOn(RichWorld(), {"networks", "--json", "--record", File(), "--anonymise"});

@@ -29,6 +29,8 @@ public:
 
     /// Replaces what was learned in all lines, which stand in the order of the recording.
     void Apply(std::vector<nlohmann::ordered_json>& lines);
+    /// The same in a text, after that.
+    std::string InText(const std::string& text) const;
 
 private:
     void LearnName(std::string_view bytes, std::string_view word);
@@ -36,7 +38,6 @@ private:
     void Replace(std::string_view original, std::string_view pseudonym);
     void LearnAlias(nlohmann::ordered_json& line);
 
-    std::string InText(const std::string& text) const;
     std::string InProfile(const std::string& xml) const;
     std::string InSentence(const std::string& text) const;
     void InValue(nlohmann::ordered_json& value) const;

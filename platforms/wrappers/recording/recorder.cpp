@@ -246,6 +246,11 @@ void Recorder::Mark(const std::string& text)
     m_parts->Write(std::move(line));
 }
 
+std::string Recorder::InRecording(const std::string& text) const
+{
+    return m_parts->names.InText(text);
+}
+
 void Recorder::Finish()
 {
     const std::lock_guard lock(m_parts->mutex);

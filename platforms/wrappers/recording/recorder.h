@@ -38,6 +38,9 @@ public:
     /// Notes something that came from outside, which a replay tells at the same place (Replay::AtMark).
     void Mark(const std::string& text);
 
+    /// A text of the program's, such as its command line, with the names that an anonymised recording has once it is finished.
+    std::string InRecording(const std::string& text) const;
+
     /// Writes the last line; nothing is recorded from here on.
     void Finish();
 
