@@ -154,10 +154,11 @@ void WatchLive(Host& host, const LiveOptions& options)
         time.Step();
         view.At(time.Now());
         ShowNotices(host, notifications, view);
-        if (roaming.Beats(time.Now()))
-            view.Show(Roam(host, options.dryRun));
+        // Before a roam: it changes the state at once, and its notifications arrive in the next step.
         if (sampling.Beats(time.Now()))
             view.Show(ReadSignal(host));
+        if (roaming.Beats(time.Now()))
+            view.Show(Roam(host, options.dryRun));
     }
     if (!host.json())
         view.Finish(Summary(view, time.Now()));

@@ -26,8 +26,8 @@ void NoteHeard(std::vector<AirAccessPoint>& heard, const AirAccessPoint& point)
         *known = point;
 }
 
-/// Between two access points of a network the link is down for a
-/// moment, in which a sample may fall: that is one move.
+/// Between two access points of a network the link is down for a moment, in which a sample may fall: that is one move,
+/// which began when the first was left.
 void NoteEvent(HistoryFacts& history, const SignalFacts& before, const SignalSample& now)
 {
     constexpr unsigned longestMove = 5;
@@ -40,6 +40,7 @@ void NoteEvent(HistoryFacts& history, const SignalFacts& before, const SignalSam
         const bool soon = event.second - loss.second <= longestMove;
         if (loss.to.empty() && soon && loss.ssidHex == event.ssidHex && loss.from != event.to)
         {
+            event.second = loss.second;
             event.from = loss.from;
             history.events.pop_back();
         }

@@ -180,7 +180,7 @@ std::string KeyFacts(const ReportFacts& report)
             networks.insert(point.inView ? point.facts.ssid.hex : "");
         }
         networks.erase("");
-        html += KeyFact(std::to_string(inView), inView == 1 ? "access point" : "access points");
+        html += KeyFact(std::to_string(inView), inView == 1 ? "access point in view" : "access points in view");
         html += KeyFact(std::to_string(networks.size()), networks.size() == 1 ? "named network" : "named networks");
         if (inView > 0)
             html += KeyFact(std::to_string(report.accessPoints.front().facts.rssi) + " dBm",

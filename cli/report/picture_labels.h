@@ -25,7 +25,7 @@ public:
     /// A place for a label of this width above a point, else below it; the last resort is right above it.
     LabelPlace Place(double x, double y, double width);
 
-    static constexpr double kLineHeight = 14;
+    static constexpr double kLineHeight = 17;
 
 private:
     struct Box

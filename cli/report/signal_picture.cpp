@@ -130,8 +130,16 @@ private:
     bool m_open = false;
 };
 
+/// An access point that the link has used: the colour is its network's, as everywhere; the dashes are its own.
+std::string LineClass(const ReportFacts& report, const std::string& bssid, std::size_t place)
+{
+    const AirAccessPoint* const point = AccessPointOf(report, bssid);
+    return (point != nullptr ? ColourClass(*point) : "hidden-name") + " d" + std::to_string(place % 4);
+}
+
 /// How an access point that the link has used was heard all the time.
-std::string HeardLine(const HistoryFacts& history, const std::string& bssid, std::size_t place, const TimeScale& scale)
+std::string
+HeardLine(const HistoryFacts& history, const std::string& bssid, const std::string& kind, const TimeScale& scale)
 {
     BrokenLine line;
     for (const SignalSample& sample : history.samples)
@@ -143,24 +151,20 @@ std::string HeardLine(const HistoryFacts& history, const std::string& bssid, std
         else
             line.Break();
     }
-    return line.Draw("heard c" + std::to_string(place % 10));
+    return line.Draw("heard " + kind);
 }
 
-/// The link itself, each access point in a colour of its own.
-std::string LinkLines(const HistoryFacts& history, const std::vector<std::string>& used, const TimeScale& scale)
+/// The link while it used the access point.
+std::string
+LinkLine(const HistoryFacts& history, const std::string& bssid, const std::string& kind, const TimeScale& scale)
 {
-    std::string svg;
-    for (std::size_t place = 0; place < used.size(); ++place)
-    {
-        BrokenLine line;
-        for (const SignalSample& sample : history.samples)
-            if (sample.link.connected && sample.link.bssid == used[place] && sample.link.rssi)
-                line.Add(scale.X(sample.second), TimeScale::Y(*sample.link.rssi));
-            else
-                line.Break();
-        svg += line.Draw("link c" + std::to_string(place % 10));
-    }
-    return svg;
+    BrokenLine line;
+    for (const SignalSample& sample : history.samples)
+        if (sample.link.connected && sample.link.bssid == bssid && sample.link.rssi)
+            line.Add(scale.X(sample.second), TimeScale::Y(*sample.link.rssi));
+        else
+            line.Break();
+    return line.Draw("link " + kind);
 }
 
 std::string EventWords(const LinkEvent& event)
@@ -194,19 +198,21 @@ std::string EventMarks(const HistoryFacts& history, const TimeScale& scale)
 
 std::string NameAndAddress(const ReportFacts& report, const std::string& bssid)
 {
-    std::string name = bssid;
-    if (const AirAccessPoint* const point = AccessPointOf(report, bssid))
-        name += ", channel " + std::to_string(point->facts.channel) + " (" + point->facts.band + ")";
-    return name;
+    const AirAccessPoint* const point = AccessPointOf(report, bssid);
+    if (point == nullptr)
+        return bssid;
+    return SsidName(point->facts.ssid) + ", " + bssid + ", channel " + std::to_string(point->facts.channel) + " (" +
+           point->facts.band + ")";
 }
 
 std::string Legend(const ReportFacts& report, const std::vector<std::string>& used)
 {
     std::string html = "<ul class=\"legend\">";
     for (std::size_t place = 0; place < used.size(); ++place)
-        html += "<li class=\"c" + std::to_string(place % 10) + "\"><span class=\"swatch\"></span>" +
+        html += "<li><svg class=\"dashes\" viewBox=\"0 0 40 8\" aria-hidden=\"true\"><path class=\"heard " +
+                LineClass(report, used[place], place) + "\" d=\"M0,4h40\"/></svg>" +
                 EscapeHtml(NameAndAddress(report, used[place])) + "</li>";
-    return html + "<li class=\"note\">dotted: as the last scan heard it; thick: the link</li></ul>\n";
+    return html + "<li class=\"note\">dashed: as the last scan heard it; thick: the link</li></ul>\n";
 }
 
 std::string EventList(const HistoryFacts& history)
@@ -228,8 +234,11 @@ std::string SignalPicture(const ReportFacts& report)
     const std::vector<std::string> used = UsedAccessPoints(history);
     std::string lines;
     for (std::size_t place = 0; place < used.size(); ++place)
-        lines += HeardLine(history, used[place], place, scale);
-    lines += LinkLines(history, used, scale) + EventMarks(history, scale);
+    {
+        const std::string kind = LineClass(report, used[place], place);
+        lines += HeardLine(history, used[place], kind, scale) + LinkLine(history, used[place], kind, scale);
+    }
+    lines += EventMarks(history, scale);
     const std::string description = "Signal of the link in dBm over " + Counted(scale.last, "second") + ", with " +
                                     Counted(history.events.size(), "event") + ", which the list below names.";
     return "<figure class=\"panel time\"><div class=\"scroll\" role=\"region\" tabindex=\"0\" "

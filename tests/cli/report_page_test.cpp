@@ -215,6 +215,7 @@ TEST_F(ReportPage, MarksTheRoamsOfTheOfficeWalk)
     const json data = DataOf(page);
     EXPECT_EQ(241u, data["samples"].size()) << "one at the beginning and one a second";
     ASSERT_EQ(2u, data["events"].size());
+    EXPECT_EQ(74, data["events"][0]["second"]) << "when it was requested, as watch shows it";
     EXPECT_EQ("02:B8:00:11:00:02", data["events"][0]["from"]);
     EXPECT_EQ("02:B8:00:12:00:02", data["events"][0]["to"]);
     EXPECT_EQ("02:B8:00:13:00:02", data["events"][1]["to"]);

@@ -82,6 +82,7 @@ TEST_F(ReportRecording, TheWalkHasItsRoamsAndEveryAccessPoint)
     EXPECT_EQ(kSuccess, page.exitCode) << page.err;
     const json data = DataOf(recording);
     ASSERT_EQ(2u, data["events"].size());
+    EXPECT_EQ(74, data["events"][0]["second"]) << "when it was requested, as watch shows it";
     EXPECT_EQ("02:B8:00:11:00:02", data["events"][0]["from"]);
     EXPECT_EQ("02:B8:00:12:00:02", data["events"][0]["to"]);
     EXPECT_EQ("02:B8:00:13:00:02", data["events"][1]["to"]);
