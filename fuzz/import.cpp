@@ -25,7 +25,7 @@ host::Captures ReadFiles(Input& input)
     return captures;
 }
 
-void CheckImported(const host::ImportedScenario& imported)
+void CheckImported(const host::MadeScenario& imported)
 {
     const std::string written = simulation::WriteScenario(imported.scenario);
     Promise(simulation::ParseScenario(written, "the imported scenario") == imported.scenario,

@@ -48,26 +48,26 @@ AccessPoint* FindAccessPoint(std::vector<AccessPoint>& air, const simulation::Ma
     return found == air.end() ? nullptr : &*found;
 }
 
-std::vector<AccessPoint> AirOf(const NetworksCapture& capture, std::vector<std::string>& warnings)
+std::vector<AccessPoint> AirOf(const std::vector<AccessPoint>& listed, MadeScenario& made)
 {
     std::vector<AccessPoint> air;
-    for (AccessPoint heard : capture.accessPoints)
+    for (AccessPoint heard : listed)
     {
         AccessPoint* const known = FindAccessPoint(air, heard.bssid);
         const std::string address = "the access point " + forms::AddressText(heard.bssid);
         if (known != nullptr && IsSame(*known, heard))
         {
             Merge(*known, heard);
-            warnings.push_back(address + " is listed more than once; the scenario has it once, as it was heard best");
+            made.Warn(address + " is listed more than once; the scenario has it once, as it was heard best");
             continue;
         }
         if (known != nullptr)
         {
             heard.bssid = FreeAddress(air, heard.bssid);
-            warnings.push_back(address +
-                               " is listed again with another name, channel or security; that one has the made-up "
-                               "address " +
-                               forms::AddressText(heard.bssid));
+            made.Warn(address +
+                      " is listed again with another name, channel or security; that one has the made-up "
+                      "address " +
+                      forms::AddressText(heard.bssid));
         }
         air.push_back(std::move(heard));
     }

@@ -1,11 +1,9 @@
 #include "import/import.h"
 
 #include "files/file_path.h"
-#include "forms/guid_text.h"
 #include "import/captured_air.h"
 #include "import/made_profile.h"
 #include "output/text_forms.h"
-#include "simulation/computer.h"
 
 #include <algorithm>
 #include <array>
@@ -81,7 +79,7 @@ public:
     {
         m_result.warnings = captures.warnings;
         if (captures.networks)
-            m_result.scenario.accessPoints = AirOf(*captures.networks, m_result.warnings);
+            m_result.scenario.accessPoints = AirOf(captures.networks->accessPoints, m_result);
         m_result.scenario.description = Description();
         AddAdapters();
         for (const ExportedProfile& profile : captures.profiles)
@@ -94,17 +92,10 @@ public:
         StoreProfiles();
     }
 
-    ImportedScenario result() { return std::move(m_result); }
+    MadeScenario result() { return std::move(m_result); }
 
 private:
     std::vector<AccessPoint>& air() { return m_result.scenario.accessPoints; }
-    /// Says once what is true of several adapters or access points.
-    void Warn(const std::string& text)
-    {
-        std::vector<std::string>& said = m_result.warnings;
-        if (std::find(said.begin(), said.end(), text) == said.end())
-            said.push_back(text);
-    }
 
     std::string Description() const
     {
@@ -150,8 +141,8 @@ private:
             if (FindProfile(i, profile.name) == nullptr)
                 m_profiles[i].push_back({profile.name, {profile.xml}});
             else
-                Warn(profile.fileName + ": another profile has the name \"" + profile.name +
-                     "\"; this one is left out");
+                m_result.Warn(profile.fileName + ": another profile has the name \"" + profile.name +
+                              "\"; this one is left out");
         }
     }
 
@@ -170,8 +161,8 @@ private:
         std::optional<StoredProfile> made = MakeProfile(name, accessPoint, automatic);
         if (made)
             return &m_profiles[index].emplace_back(NamedProfile{name, std::move(*made)});
-        Warn("the profile \"" + name + "\" cannot be made up: no profile has " + accessPoint.authentication + " with " +
-             accessPoint.encryption);
+        m_result.Warn("the profile \"" + name + "\" cannot be made up: no profile has " + accessPoint.authentication +
+                      " with " + accessPoint.encryption);
         return nullptr;
     }
 
@@ -195,8 +186,8 @@ private:
     {
         const CapturedConnection& connection = *m_captured[index].connection;
         const std::string& name = m_captured[index].name;
-        Warn("the connection " + (name.empty() ? "" : "of \"" + name + "\" ") + "to \"" + connection.ssid +
-             "\" is left out: " + why);
+        m_result.Warn("the connection " + (name.empty() ? "" : "of \"" + name + "\" ") + "to \"" + connection.ssid +
+                      "\" is left out: " + why);
     }
 
     /// The air's access point that an adapter was connected to, or null. A hidden one gets the name that the connection
@@ -236,45 +227,14 @@ private:
     const Captures& m_captures;
     std::vector<CapturedInterface> m_captured;
     std::vector<std::vector<NamedProfile>> m_profiles; ///< of each adapter, in preference order
-    ImportedScenario m_result;
+    MadeScenario m_result;
 };
-
-/// What `calvix networks` will list.
-std::size_t ListedNetworks(const simulation::Scenario& scenario)
-{
-    if (scenario.adapters.empty())
-        return 0;
-    simulation::Computer computer(scenario);
-    const GUID adapter = *forms::GuidFromText(scenario.adapters.front().guid);
-    DWORD version = 0;
-    HANDLE client = nullptr;
-    WLAN_AVAILABLE_NETWORK_LIST* list = nullptr;
-    computer.wlan().WlanOpenHandle(2, nullptr, &version, &client);
-    computer.wlan().WlanGetAvailableNetworkList(client, &adapter, 0, nullptr, &list);
-    const std::size_t count = list != nullptr ? list->dwNumberOfItems : 0;
-    computer.wlan().WlanFreeMemory(list);
-    computer.wlan().WlanCloseHandle(client, nullptr);
-    return count;
-}
 
 } // namespace
 
-ImportedScenario AssembleScenario(const Captures& captures, bool makeProfiles)
+MadeScenario AssembleScenario(const Captures& captures, bool makeProfiles)
 {
     return Assembly(captures, makeProfiles).result();
-}
-
-ScenarioCounts CountScenario(const simulation::Scenario& scenario)
-{
-    ScenarioCounts counts;
-    for (const AdapterDescription& adapter : scenario.adapters)
-        counts.profiles += adapter.profiles.size();
-    counts.adapters = scenario.adapters.size();
-    counts.accessPoints = scenario.accessPoints.size();
-    counts.networks = ListedNetworks(scenario);
-    counts.hidden = static_cast<std::size_t>(std::count_if(scenario.accessPoints.begin(), scenario.accessPoints.end(),
-                                                           [](const AccessPoint& each) { return each.hidden; }));
-    return counts;
 }
 
 } // namespace calvix::host

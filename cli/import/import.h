@@ -1,20 +1,10 @@
 #pragma once
 
+#include "import/made_scenario.h"
 #include "import/read_capture.h"
-#include "output/facts.h"
-#include "simulation/scenario.h"
-
-#include <string>
-#include <vector>
 
 namespace calvix::host
 {
-
-struct ImportedScenario
-{
-    simulation::Scenario scenario;
-    std::vector<std::string> warnings; ///< what the captures say and the scenario does not
-};
 
 /// Puts captures together.
 ///
@@ -26,8 +16,6 @@ struct ImportedScenario
 ///   made-up key. Its connection is kept if the air holds its access point.
 ///
 /// `makeProfiles`: every visible network with a name and without a profile gets an automatic one, with a made-up key.
-ImportedScenario AssembleScenario(const Captures& captures, bool makeProfiles);
-
-ScenarioCounts CountScenario(const simulation::Scenario& scenario);
+MadeScenario AssembleScenario(const Captures& captures, bool makeProfiles);
 
 } // namespace calvix::host

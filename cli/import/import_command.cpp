@@ -30,8 +30,6 @@ struct ImportOptions
     bool withProfiles = false;
 };
 
-constexpr const char* kStandardOutput = "-";
-
 constexpr const char* kImportExamples = R"(Captures of Windows, in any language of it and any code page:
   netsh wlan show networks mode=bssid > networks.txt
   netsh wlan show interfaces > interfaces.txt
@@ -99,53 +97,13 @@ Captures ReadCaptures(const ImportOptions& options)
     return captures;
 }
 
-/// The text for the file, known to be readable again.
-std::string CheckedText(const simulation::Scenario& scenario)
-{
-    std::string text = simulation::WriteScenario(scenario);
-    simulation::ParseScenario(text, "the imported scenario");
-    return text;
-}
-
-void PrintCounts(std::ostream& out, const ScenarioCounts& counts)
-{
-    out << "Adapters       " << counts.adapters << "\n"
-        << "Access points  " << counts.accessPoints << " (" << counts.hidden << " hidden)\n"
-        << "Networks       " << counts.networks << "\n"
-        << "Profiles       " << counts.profiles << "\n";
-}
-
-void Report(Host& host, const ImportedScenario& imported, const std::string& output)
-{
-    for (const std::string& warning : imported.warnings)
-        host.err() << "warning: " << warning << "\n";
-    // The scenario itself has standard output then.
-    std::ostream& out = output == kStandardOutput ? host.err() : host.out();
-    const ScenarioCounts counts = CountScenario(imported.scenario);
-    if (host.json())
-        return PrintJson(out, ImportFacts{counts, imported.warnings, output});
-    PrintCounts(out, counts);
-    if (output != kStandardOutput)
-        out << "Written to     " << output << "\n";
-}
-
 void Import(Host& host, const ImportOptions& options)
 {
     try
     {
-        const ImportedScenario imported = AssembleScenario(ReadCaptures(options), options.withProfiles);
-        const std::string text = CheckedText(imported.scenario);
-        if (options.output == kStandardOutput)
-            host.out() << text;
-        else
-            WriteWholeFile(options.output, text);
-        Report(host, imported, options.output);
+        WriteMadeScenario(host, AssembleScenario(ReadCaptures(options), options.withProfiles), options.output);
     }
     catch (const CaptureError& error)
-    {
-        throw BadInput(error.what());
-    }
-    catch (const simulation::ScenarioError& error)
     {
         throw BadInput(error.what());
     }

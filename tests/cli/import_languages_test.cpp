@@ -63,7 +63,7 @@ std::string Encoded(const std::string& text, std::uint32_t codePage)
 /// A sample's text, turned into bytes in some way.
 using Encode = std::function<std::string(const std::string&)>;
 
-ImportedScenario ImportBoth(const Language& language, const Encode& encode, const CaptureHints& hints = {})
+MadeScenario ImportBoth(const Language& language, const Encode& encode, const CaptureHints& hints = {})
 {
     Captures captures;
     for (const char* file : {"networks.txt", "interfaces.txt"})
@@ -104,7 +104,7 @@ TEST(ImportLanguages, OneSampleForEachLanguageGivesTheSameScenarioInEveryUnicode
     for (const Language& language : kLanguages)
         for (const auto& [what, encode] : forms)
         {
-            const ImportedScenario imported = ImportBoth(language, encode);
+            const MadeScenario imported = ImportBoth(language, encode);
             EXPECT_EQ(imported.scenario, Expected()) << language.name << " " << what;
             EXPECT_EQ(imported.warnings, std::vector<std::string>()) << language.name << " " << what;
         }

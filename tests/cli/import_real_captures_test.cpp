@@ -15,7 +15,7 @@ using simulation::Scenario;
 /// What is in the air where nothing is to be warned of.
 std::vector<AccessPoint> Air(const std::string& text)
 {
-    const ImportedScenario imported = Import(text);
+    const MadeScenario imported = Import(text);
     EXPECT_EQ(imported.warnings, std::vector<std::string>());
     return imported.scenario.accessPoints;
 }
@@ -60,7 +60,7 @@ TEST(ImportRealCaptures, AccessPointsAtTheSamePlaceAreNotThose)
 
 TEST(ImportRealCaptures, TwoAccessPointsOfOneAddressStayApart)
 {
-    const ImportedScenario imported = Import(Replaced(kNetworks, "02:00:00:00:00:03", "02:00:00:00:00:01"));
+    const MadeScenario imported = Import(Replaced(kNetworks, "02:00:00:00:00:03", "02:00:00:00:00:01"));
     ASSERT_EQ(imported.scenario.accessPoints.size(), 3u);
     const AccessPoint& other = imported.scenario.accessPoints[2];
     EXPECT_EQ(other.ssid, (simulation::Bytes{'O', 'p', 'e', 'n', ':', ' ', 'a', 'l', 'l', ' ', 'd', 'a', 'y'}));
@@ -76,7 +76,7 @@ TEST(ImportRealCaptures, TwoAccessPointsOfOneAddressStayApart)
 
 TEST(ImportRealCaptures, WhatIsMergedIsTold)
 {
-    const ImportedScenario imported = Import(kIw + Replaced(kIw, "-43.00", "-40.00"));
+    const MadeScenario imported = Import(kIw + Replaced(kIw, "-43.00", "-40.00"));
     ASSERT_EQ(imported.scenario.accessPoints.size(), 1u);
     EXPECT_EQ(imported.scenario.accessPoints[0].rssi, -40);
     EXPECT_TRUE(Warns(imported.warnings, "the access point 02:00:00:00:00:01 is listed more than once"));
@@ -97,7 +97,7 @@ TEST(ImportRealCaptures, WhatTheTerminalShowedIsPassedOver)
     const std::string after = "\nProcess finished with exit code 0\nC:\\Users\\me>\n";
     for (const std::string& text : {kNetworks, kInterfaces})
     {
-        const ImportedScenario imported = Import(before + text + after);
+        const MadeScenario imported = Import(before + text + after);
         EXPECT_EQ(imported.scenario.accessPoints, Air(text));
         EXPECT_EQ(imported.warnings.size(), 3u) << testing::PrintToString(imported.warnings);
         EXPECT_TRUE(Warns(imported.warnings, "file:2: \"Active code page : 65001\" is not understood and left out"));
@@ -129,7 +129,7 @@ TEST(ImportRealCaptures, AConnectionOverSeveralLinksIsItsFirst)
                                 "        LinkID: 1, Local: 02:00:00:00:10:03, AP: 02:00:00:00:00:02, RSSI: -60, "
                                 "Channel: 6, Band: 2.4 GHz, BW: 20\n");
     text = Replaced(text, "    Band                   : 5 GHz\n    Channel                : 36\n", "");
-    const ImportedScenario imported = Import(text);
+    const MadeScenario imported = Import(text);
     ASSERT_EQ(imported.scenario.accessPoints.size(), 1u);
     const AccessPoint& accessPoint = imported.scenario.accessPoints[0];
     EXPECT_EQ(accessPoint.bssid, (simulation::MacAddress{2, 0, 0, 0, 0, 1}));
@@ -182,7 +182,7 @@ TEST(ImportRealCaptures, EachMistakeHasItsOwnRemedy)
 
 TEST(ImportRealCaptures, AnUnknownAuthenticationIsNotGuessedFromACipher)
 {
-    const ImportedScenario imported = Import(Replaced(kNetworks, "WPA2-Personal", "Sesame"));
+    const MadeScenario imported = Import(Replaced(kNetworks, "WPA2-Personal", "Sesame"));
     EXPECT_EQ(imported.scenario.accessPoints.size(), 1u);
     EXPECT_TRUE(Warns(imported.warnings, "file:7: \"Authentication\" is \"Sesame\", which is not a known"));
 }
@@ -196,7 +196,7 @@ TEST(ImportRealCaptures, AFrequencyOf60GhzIsNot6Ghz)
 
 TEST(ImportRealCaptures, WhatIsMaskedIsCalledSo)
 {
-    ImportedScenario imported = Import(Replaced(kNetworks, "02:00:00:00:00:01", "02:00:00:xx:xx:xx"));
+    MadeScenario imported = Import(Replaced(kNetworks, "02:00:00:00:00:01", "02:00:00:xx:xx:xx"));
     EXPECT_EQ(imported.scenario.accessPoints.size(), 2u);
     EXPECT_TRUE(Warns(imported.warnings, "file:9: \"BSSID 1\" is masked (\"02:00:00:xx:xx:xx\")"));
     imported = Import(Replaced(kInterfaces, "11111111-2222", "XXXXXXXX-XXXX"));

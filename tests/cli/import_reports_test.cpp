@@ -161,7 +161,7 @@ TEST(ImportReports, CapturesOfTwoLanguagesGoTogether)
     Captures captures;
     ReadCapture(Sample("japanese/networks.txt"), "n", {}, captures);
     ReadCapture(Sample("russian/interfaces.txt"), "i", {}, captures);
-    const ImportedScenario imported = AssembleScenario(captures, false);
+    const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_TRUE(imported.scenario.adapters.at(0).connection);
     EXPECT_EQ(imported.warnings, std::vector<std::string>());
     const std::vector<std::string> both = Told(Sample("german/networks.txt") + Sample("french/networks.txt"));

@@ -66,7 +66,7 @@ inline NetworksCapture ReadNetworks(const std::string& bytes, const CaptureHints
     return Read(bytes, hints).networks.value();
 }
 
-inline ImportedScenario Import(const std::string& bytes, const CaptureHints& hints = {})
+inline MadeScenario Import(const std::string& bytes, const CaptureHints& hints = {})
 {
     return AssembleScenario(Read(bytes, hints), false);
 }

@@ -53,7 +53,7 @@ bool Contains(const std::string& text, const std::string& part)
 
 TEST(ImportScenario, AdaptersAirAndConnectionOfOneMachine)
 {
-    const ImportedScenario imported = AssembleScenario(BothCaptures(), false);
+    const MadeScenario imported = AssembleScenario(BothCaptures(), false);
     EXPECT_TRUE(imported.warnings.empty());
     const Scenario& scenario = imported.scenario;
     EXPECT_EQ(scenario.description, "Imported from networks.txt and interfaces.txt");
@@ -112,7 +112,7 @@ TEST(ImportScenario, AnExportedProfileComesBeforeAMadeUpOne)
 {
     Captures captures = BothCaptures();
     captures.profiles.push_back(ParseExportedProfile(kProfile, "Wi-Fi-Juniper.xml"));
-    const ImportedScenario imported = AssembleScenario(captures, false);
+    const MadeScenario imported = AssembleScenario(captures, false);
     ASSERT_EQ(imported.scenario.adapters[0].profiles.size(), 1u);
     EXPECT_EQ(imported.scenario.adapters[0].profiles[0].xml, kProfile);
     EXPECT_TRUE(imported.scenario.adapters[0].connection);
@@ -123,7 +123,7 @@ TEST(ImportScenario, TheSecondProfileOfANameIsLeftOutAloud)
     Captures captures;
     captures.profiles.push_back(ParseExportedProfile(kProfile, "Wi-Fi-Juniper.xml"));
     captures.profiles.push_back(ParseExportedProfile(kProfile, "Wi-Fi 2-Juniper.xml"));
-    const ImportedScenario imported = AssembleScenario(captures, false);
+    const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_EQ(imported.scenario.adapters.at(0).profiles.size(), 1u);
     EXPECT_EQ(imported.warnings,
               std::vector<std::string>{"Wi-Fi 2-Juniper.xml: another profile has the name \"Juniper\"; "
@@ -146,7 +146,7 @@ TEST(ImportScenario, WithoutNetworksTheAirIsWhatAdaptersAreConnectedTo)
 {
     Captures captures;
     captures.interfaces = ParseInterfaces(kInterfaces, "interfaces.txt");
-    const ImportedScenario imported = AssembleScenario(captures, false);
+    const MadeScenario imported = AssembleScenario(captures, false);
     ASSERT_EQ(imported.scenario.accessPoints.size(), 1u);
     EXPECT_EQ(imported.scenario.accessPoints[0].rssi, -59);
     ASSERT_TRUE(imported.scenario.adapters[0].connection);
@@ -158,7 +158,7 @@ TEST(ImportScenario, AConnectionToAnAccessPointThatIsNotInTheListIsLeftOutAloud)
 {
     Captures captures = BothCaptures();
     captures.networks = ParseNetworks(Replaced(kNetworks, "02:00:00:00:00:01", "02:00:00:00:00:09"), "networks.txt");
-    const ImportedScenario imported = AssembleScenario(captures, false);
+    const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_EQ(imported.scenario.accessPoints.size(), 3u);
     EXPECT_FALSE(imported.scenario.adapters[0].connection);
     EXPECT_EQ(imported.scenario.adapters[0].profiles.size(), 1u);
@@ -171,7 +171,7 @@ TEST(ImportScenario, AConnectionWhoseProfileDoesNotFitIsLeftOutAloud)
     Captures captures = BothCaptures();
     captures.networks = ParseNetworks(Replaced(kNetworks, "WPA2-Personal", "WPA3-Personal"), "networks.txt");
     captures.profiles.push_back(ParseExportedProfile(kProfile, "Wi-Fi-Juniper.xml"));
-    const ImportedScenario imported = AssembleScenario(captures, false);
+    const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_FALSE(imported.scenario.adapters[0].connection);
     EXPECT_EQ(imported.warnings, std::vector<std::string>{"the connection of \"Wi-Fi\" to \"Juniper\" is left out: its "
                                                           "profile is for another kind of network"});
@@ -231,7 +231,7 @@ TEST(ImportScenario, NoProfileIsMadeForSecurityThatNoProfileCanAskFor)
 {
     Captures captures;
     captures.networks = ParseNetworks(Replaced(kNetworks, "CCMP", "WEP"), "file");
-    const ImportedScenario imported = AssembleScenario(captures, true);
+    const MadeScenario imported = AssembleScenario(captures, true);
     EXPECT_EQ(imported.scenario.adapters.at(0).profiles.size(), 1u);
     ASSERT_FALSE(imported.warnings.empty());
     EXPECT_EQ(imported.warnings[0], "the profile \"Juniper\" cannot be made up: no profile has WPA2PSK with WEP");
