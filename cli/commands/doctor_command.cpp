@@ -67,8 +67,9 @@ void AddDoctorCommand(CommandSet& commands)
 {
     commands.Add("doctor", "Check everything, and tell what is wrong and what to do", ShowDiagnosis)
         .Prints("doctor", [] { return std::vector{Under("checks", std::vector<CheckFacts>{})}; })
-        .Examples("Of the second adapter only:\n"
-                  "  calvix doctor --interface 2");
+        .Examples("Only the second adapter:\n"
+                  "  calvix doctor --interface 2\n"
+                  "It cannot tell how the service starts (sc qc WlanSvc does), or whether its session has a desktop.");
 }
 
 } // namespace calvix::host

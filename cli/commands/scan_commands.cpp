@@ -284,7 +284,7 @@ void AddScanCommands(CommandSet& commands)
                              [options](Host& host) { ListChannels(host, *options); }),
                 options)
         .Prints("channels", [] { return std::vector{Under("bands", std::vector<BandLoad>{})}; })
-        .Examples("Where should the access point be?\n"
+        .Examples("Where should the access point be? The rules of the country are not looked at:\n"
                   "  calvix channels --scan");
 }
 

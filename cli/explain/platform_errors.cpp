@@ -114,7 +114,17 @@ std::string NumberText(std::uint32_t number)
     return text;
 }
 
-/// Operations that change what is stored need rights; the others need to be allowed to tell where the computer is.
+constexpr const char* kOfThisSession =
+    "run as administrator, or in the session of a signed-in user: this account may not ask the WLAN service";
+
+/// These tell where the computer is, or would find it out.
+bool TellsTheLocation(std::string_view operation)
+{
+    return operation == "WlanScan" || operation == "WlanGetAvailableNetworkList" ||
+           operation == "WlanGetNetworkBssList" || operation == "WlanQueryInterface";
+}
+
+/// Operations that change what is stored need rights.
 bool ChangesTheStore(std::string_view operation)
 {
     return operation == "WlanSetProfile" || operation == "WlanDeleteProfile" || operation == "WlanSetProfilePosition";
@@ -145,7 +155,7 @@ std::string AdviseOnPlatformError(std::uint32_t error, const std::string& operat
     if (error == accessDenied && SetsWhatIsGuarded(operation))
         return "run as administrator";
     if (error == accessDenied && !operation.empty())
-        return kAllowLocation;
+        return TellsTheLocation(operation) ? kAllowLocation : kOfThisSession;
     const PlatformError* const known = Find(error);
     return known != nullptr ? known->advice : "";
 }

@@ -10,6 +10,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <filesystem>
+
 namespace calvix::test::doctor_test
 {
 namespace
@@ -39,8 +42,18 @@ void PrintTo(const Case& row, std::ostream* out)
 constexpr const char* kAllWell = "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, "
                                  "1 Networks ok, 1 Profiles ok, 1 Connection ok, Internet ok";
 
+constexpr const char* kNotConnected =
+    "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, 1 Networks ok, "
+    "1 Profiles ok, 1 Connection warning, Internet ok";
+
 const Case kCases[] = {
     {"office-walk", nullptr, 0, 0, kAllWell, "Connection", "Brightwater Staff at 02:B8:00:11:00:02, signal 100%", ""},
+    {"airport-hotspot", nullptr, 0, 0, kAllWell, "Profiles",
+     "in view: Traveller LC#7, Colleague LC#2, Silent LC#5, Airport Free", ""},
+    {"automatic", nullptr, 0, 0, kAllWell, "Connection", "Harbour at 02:A7:00:02:00:01, signal 50%", ""},
+    {"laptop", nullptr, 0, 0, kAllWell, "Networks", "1 network, 2 access points", ""},
+    {"office", nullptr, 0, 0, kAllWell, "Networks", "4 networks, 13 access points", ""},
+    {"train", nullptr, 0, 0, kAllWell, "Connection", "Night Express", ""},
     {"service-stopped", nullptr, 0, 3, "WLAN API ok, WLAN service failed, Internet ok", "WLAN service",
      "not running, 1062); the service control manager says of WlanSvc: stopped", "sc start WlanSvc"},
     {"home", "WlanOpenHandle", ERROR_MOD_NOT_FOUND, 3, "WLAN API failed, Internet ok", "WLAN API", "126",
@@ -57,10 +70,10 @@ const Case kCases[] = {
      "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio failed, 1 Profiles ok, 2 Adapter ok, 2 Radio ok, "
      "2 Location ok, 2 Scan ok, 2 Networks ok, 2 Profiles ok, 2 Connection ok, Internet ok",
      "Radio", "hardware switch off", "use the switch"},
-    {"home", nullptr, 0, 0,
-     "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, 1 Networks ok, "
-     "1 Profiles ok, 1 Connection warning, Internet ok",
-     "Connection", "none", "calvix best"},
+    {"home", "WlanOpenHandle", ERROR_ACCESS_DENIED, 1, "WLAN API ok, WLAN service failed, Internet ok", "WLAN service",
+     "access denied, 5", "in the session of a signed-in user"},
+    {"home", nullptr, 0, 0, kNotConnected, "Connection", "none", "calvix best"},
+    {"airport", nullptr, 0, 0, kNotConnected, "Profiles", "3 stored, in view: 東空港 Free, Old Lounge", ""},
     {"office-walk", "WlanGetProfile", ERROR_ACCESS_DENIED, 0,
      "WLAN API ok, WLAN service ok, 1 Adapter ok, 1 Radio ok, 1 Location ok, 1 Scan ok, 1 Networks ok, "
      "1 Profiles warning, 1 Connection ok, Internet ok",
@@ -128,6 +141,15 @@ TEST_P(Diagnosis, TellsWhatIsWrongAndChangesNothing)
 }
 
 INSTANTIATE_TEST_SUITE_P(Gallery, Diagnosis, ::testing::ValuesIn(kCases));
+
+TEST(DoctorCases, HaveEveryScenarioOfTheGallery)
+{
+    for (const auto& entry : std::filesystem::directory_iterator(CALVIX_SOURCE_DIR "/scenarios"))
+        EXPECT_TRUE(std::any_of(std::begin(kCases), std::end(kCases),
+                                [&](const Case& row)
+                                { return entry.path().stem() == row.scenario && row.operation == nullptr; }))
+            << entry.path();
+}
 
 class DoctorCommand : public CliTest
 {
