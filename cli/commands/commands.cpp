@@ -23,6 +23,7 @@ CommandSet AllCommands()
     AddMatchCommands(commands);
     AddBestCommand(commands);
     AddExplainCommand(commands);
+    AddCaptureCommand(commands);
     AddImportCommand(commands);
     AddReportCommand(commands);
     AddHelpCommands(commands);

@@ -24,6 +24,7 @@ void AddListCommands(CommandSet& commands);
 void AddMatchCommands(CommandSet& commands);
 void AddBestCommand(CommandSet& commands);
 void AddExplainCommand(CommandSet& commands);
+void AddCaptureCommand(CommandSet& commands);
 void AddReportCommand(CommandSet& commands);
 void AddHelpCommands(CommandSet& commands);
 

@@ -253,7 +253,8 @@ void ComputerInUse::EndRecording()
 
 std::string ComputerInUse::ReplayLine(const std::vector<std::string>& arguments) const
 {
-    return m_options.anonymise && m_session != nullptr ? m_session->ReplayLine(arguments) : "";
+    const bool isRecording = m_session != nullptr && m_session->isRecording();
+    return m_options.anonymise && isRecording ? m_session->ReplayLine(arguments) : "";
 }
 
 void ComputerInUse::Save()

@@ -4,6 +4,8 @@
 #include "explain/failure_words.h"
 #include "platform/platform.h"
 
+#include <algorithm>
+
 namespace calvix::host
 {
 
@@ -28,6 +30,17 @@ std::vector<std::uint8_t> ElementsOf(const WLAN_BSS_LIST& list, const WLAN_BSS_E
     if (begin > list.dwTotalSize || entry.ulIeSize > list.dwTotalSize - begin)
         return {};
     return {listBytes + begin, listBytes + begin + entry.ulIeSize};
+}
+
+/// Asks about an adapter.
+template <typename Record>
+DWORD Query(HANDLE client, const GUID* adapter, WLAN_INTF_OPCODE opcode, WlanMemory<Record>& answer)
+{
+    DWORD size = sizeof(Record);
+    PVOID data = nullptr;
+    const DWORD error = wlan().WlanQueryInterface(client, adapter, opcode, nullptr, &size, &data, nullptr);
+    answer.Take(data);
+    return error;
 }
 
 template <typename List>
@@ -103,11 +116,7 @@ void ServiceView::AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWO
 std::optional<WLAN_CONNECTION_ATTRIBUTES> ServiceView::Connection(const GUID* adapter)
 {
     ConnectionAttributes attributes;
-    DWORD size = sizeof(WLAN_CONNECTION_ATTRIBUTES);
-    PVOID data = nullptr;
-    const DWORD error = wlan().WlanQueryInterface(m_client, adapter, wlan_intf_opcode_current_connection, nullptr,
-                                                  &size, &data, nullptr);
-    attributes.Take(data);
+    const DWORD error = Query(m_client, adapter, wlan_intf_opcode_current_connection, attributes);
     if (error == ERROR_INVALID_STATE)
         return std::nullopt;
     Require("WlanQueryInterface", error);
@@ -117,13 +126,25 @@ std::optional<WLAN_CONNECTION_ATTRIBUTES> ServiceView::Connection(const GUID* ad
 std::optional<bool> ServiceView::IsEnabled(const GUID* adapter, WLAN_INTF_OPCODE opcode)
 {
     WlanMemory<BOOL> enabled;
-    DWORD size = sizeof(BOOL);
-    PVOID data = nullptr;
-    const DWORD error = wlan().WlanQueryInterface(m_client, adapter, opcode, nullptr, &size, &data, nullptr);
-    enabled.Take(data);
-    if (error != 0)
+    if (Query(m_client, adapter, opcode, enabled) != 0)
         return std::nullopt;
     return *enabled != FALSE;
+}
+
+std::vector<WLAN_PHY_RADIO_STATE> ServiceView::Radios(const GUID* adapter)
+{
+    WlanMemory<WLAN_RADIO_STATE> radio;
+    if (Query(m_client, adapter, wlan_intf_opcode_radio_state, radio) != 0)
+        return {};
+    const WLAN_PHY_RADIO_STATE* const first = radio->PhyRadioState;
+    return {first, first + (std::min)(radio->dwNumberOfPhys, DWORD{WLAN_MAX_PHY_INDEX})};
+}
+
+std::wstring ServiceView::ProfileDocument(const GUID* adapter, const wchar_t* name)
+{
+    ProfileText xml;
+    Require("WlanGetProfile", wlan().WlanGetProfile(m_client, adapter, name, nullptr, xml.Receive(), nullptr, nullptr));
+    return xml.get();
 }
 
 } // namespace calvix::host

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace calvix::host
@@ -41,6 +42,10 @@ public:
 
     /// A switch of the adapter's; none where the service does not tell.
     std::optional<bool> IsEnabled(const GUID* adapter, WLAN_INTF_OPCODE opcode);
+    /// The switches of each PHY; none where the service does not tell.
+    std::vector<WLAN_PHY_RADIO_STATE> Radios(const GUID* adapter);
+    /// A profile's document, its key protected.
+    std::wstring ProfileDocument(const GUID* adapter, const wchar_t* name);
 
 private:
     void EveryAccessPoint(const GUID* adapter, BssList& list);

@@ -130,6 +130,12 @@ Command& Command::Prints(const char* name, std::vector<JsonRecord> (*those)())
     return *this;
 }
 
+Command& Command::Anonymises()
+{
+    anonymises = true;
+    return *this;
+}
+
 Command& Command::Hidden()
 {
     hidden = true;
@@ -161,7 +167,8 @@ CommandSet::CommandSet()
         .Takes(ValueKind::scenario)
         .Text("--record", values.record, "Write every call of the platform with its results to this file")
         .Takes(ValueKind::file)
-        .Flag("--anonymise", values.anonymise, "Replace names and addresses in the file of --record with invented ones")
+        .Flag("--anonymise", values.anonymise,
+              "Replace names and addresses in the file of --record or capture with invented ones")
         .Text("--replay", values.replay, "Answer from this recording, in place of a computer")
         .Takes(ValueKind::file)
         .Flag("--trace", values.trace, "Show the library's trace lines on standard error")

@@ -67,6 +67,7 @@ struct Command
     std::string definition;                         ///< of what it prints with --json; empty: text only
     std::vector<JsonRecord> (*records)() = nullptr; ///< it
     bool hidden = false;
+    bool anonymises = false; ///< its own file, as --record does its
     std::vector<Argument> arguments;
 
     Command& Flag(const char* name, bool& value, const char* help);
@@ -84,6 +85,8 @@ struct Command
     /// With --json it prints one of these records, which the schema has under the name of a definition. Commands that
     /// print the same name the same definition, and one of them has the records.
     Command& Prints(const char* definition, std::vector<JsonRecord> (*records)() = nullptr);
+    /// It takes --anonymise for the file that it writes.
+    Command& Anonymises();
     /// The command is for programs: no list of commands shows it.
     Command& Hidden();
 

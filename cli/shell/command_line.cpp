@@ -95,14 +95,15 @@ void AddCommands(CLI::App& app, const CommandSet& commands, const Command*& chos
 }
 
 /// Options may stand before the command and after it, which the parser takes for different ones.
-void RefuseContradictions(const CommonOptions& options)
+void RefuseContradictions(const CommonOptions& options, const Command& chosen)
 {
     const auto refuse = [](bool wrong, const char* text)
     {
         if (wrong)
             throw CLI::ValidationError(text);
     };
-    refuse(options.anonymise && options.record.empty(), "--anonymise is for --record");
+    refuse(options.anonymise && options.record.empty() && !chosen.anonymises,
+           "--anonymise is for --record and capture");
     if (options.replay.empty())
         return;
     refuse(!options.scenario.empty(), "--replay excludes --scenario");
@@ -151,7 +152,7 @@ const Command* ParseArguments(const CommandSet& commands,
     try
     {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-        RefuseContradictions(*commands.optionValues);
+        RefuseContradictions(*commands.optionValues, *chosen);
         return chosen;
     }
     catch (const CLI::ParseError& error)

@@ -1,7 +1,7 @@
 #include "view/power_view.h"
 
+#include "forms/guid_text.h"
 #include "platform/platform.h"
-#include "simulation/scenario_system.h"
 #include "system/scheme_guid.h"
 
 #include <cstring>
@@ -51,17 +51,31 @@ std::optional<IdlePolicyFacts> ReadIdlePolicy(bool onBattery)
                            static_cast<std::uint32_t>(policy.VideoTimeout)};
 }
 
-std::string ActiveSchemeName()
+bool HasBattery()
+{
+    SYSTEM_POWER_CAPABILITIES capabilities{};
+    platform::power().CallNtPowerInformation(SystemPowerCapabilities, nullptr, 0, &capabilities, sizeof(capabilities));
+    return capabilities.SystemBatteriesPresent != 0;
+}
+
+std::optional<simulation::PowerScheme> ReadActiveScheme()
 {
     SchemeGuid active;
     if (platform::power().PowerGetActiveScheme(nullptr, active.Receive()) != 0)
-        return {};
-    std::vector<std::uint8_t> name(1024);
-    auto size = static_cast<DWORD>(name.size());
-    if (platform::power().PowerReadFriendlyName(nullptr, active.get(), nullptr, nullptr, name.data(), &size) != 0)
-        return {};
-    name.resize(size);
-    return NameOf(name);
+        return std::nullopt;
+    simulation::PowerScheme scheme{forms::GuidText(*active.get()), std::vector<std::uint8_t>(1024)};
+    auto size = static_cast<DWORD>(scheme.name.size());
+    if (platform::power().PowerReadFriendlyName(nullptr, active.get(), nullptr, nullptr, scheme.name.data(), &size) !=
+        0)
+        size = 0;
+    scheme.name.resize(size);
+    return scheme;
+}
+
+std::string ActiveSchemeName()
+{
+    const std::optional<simulation::PowerScheme> active = ReadActiveScheme();
+    return active ? NameOf(active->name) : "";
 }
 
 std::uint32_t SchemeListingError()

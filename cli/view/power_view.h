@@ -1,6 +1,7 @@
 #pragma once
 
 #include "output/facts.h"
+#include "simulation/scenario_system.h"
 
 #include <cstdint>
 #include <optional>
@@ -11,7 +12,7 @@ namespace calvix::host
 
 /// Power management as this program itself looks at it, for what the library has no method for.
 
-/// Whether the computer can do it.
+/// Whether the computer can do it, or has it.
 bool CanSleep();
 bool CanHibernate();
 bool CanShutDown();
@@ -19,7 +20,11 @@ bool CanShutDown();
 /// The policy on mains power or on battery; none where the system does not tell.
 std::optional<IdlePolicyFacts> ReadIdlePolicy(bool onBattery);
 
-/// The active power scheme's name; empty where there is none or it has none.
+bool HasBattery();
+
+/// The active power scheme, its name as it is stored; none where the system does not tell.
+std::optional<simulation::PowerScheme> ReadActiveScheme();
+/// Its name; empty where there is none or it has none.
 std::string ActiveSchemeName();
 
 /// What listing the power schemes begins with: 0 there is one, or the error that it ends with at once.

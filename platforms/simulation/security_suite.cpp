@@ -14,7 +14,7 @@ namespace
 template <typename Number>
 struct AlgorithmName
 {
-    std::string_view name;
+    const char* name;
     Number number;
 };
 
@@ -41,6 +41,15 @@ const AlgorithmName<Number>* Find(const AlgorithmName<Number> (&table)[count], s
     return found == std::end(table) ? nullptr : found;
 }
 
+// The first one of those that mean the same.
+template <typename Number, std::size_t count>
+const char* NameOf(const AlgorithmName<Number> (&table)[count], Number number)
+{
+    const auto found = std::find_if(std::begin(table), std::end(table),
+                                    [number](const auto& entry) { return entry.number == number; });
+    return found == std::end(table) ? nullptr : found->name;
+}
+
 } // namespace
 
 SecuritySuite SuiteFromNames(std::string_view authentication, std::string_view encryption)
@@ -49,6 +58,16 @@ SecuritySuite SuiteFromNames(std::string_view authentication, std::string_view e
     const auto* const foundEncryption = Find(encryptions, encryption);
     return {foundAuthentication != nullptr ? foundAuthentication->number : DOT11_AUTH_ALGO_IHV_START,
             foundEncryption != nullptr ? foundEncryption->number : DOT11_CIPHER_ALGO_IHV_START};
+}
+
+const char* AuthenticationName(DOT11_AUTH_ALGORITHM algorithm)
+{
+    return NameOf(authentications, algorithm);
+}
+
+const char* EncryptionName(DOT11_CIPHER_ALGORITHM algorithm)
+{
+    return NameOf(encryptions, algorithm);
 }
 
 bool IsAuthenticationName(std::string_view name)

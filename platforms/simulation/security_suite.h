@@ -21,6 +21,10 @@ struct SecuritySuite
 /// range that the API leaves to vendors, which no adapter of this computer supports.
 SecuritySuite SuiteFromNames(std::string_view authentication, std::string_view encryption);
 
+/// The names of the suite; an algorithm that has none gives null.
+const char* AuthenticationName(DOT11_AUTH_ALGORITHM algorithm);
+const char* EncryptionName(DOT11_CIPHER_ALGORITHM algorithm);
+
 /// Whether the names mean something at all, whether or not they go together.
 bool IsAuthenticationName(std::string_view name);
 bool IsEncryptionName(std::string_view name);

@@ -76,6 +76,7 @@ const std::vector<Row>& Rows()
         {"explain", "explain", {}},
         {"explain", "explain", {"ConnectBestAP"}},
         {"explain", "explain", {"ConnectBestAP", "-9"}},
+        {"import", "capture", {"-o", "OUTPUT"}, "office-walk"},
         {"import", "import", {"FILE-OF-NETWORKS", "-o", "OUTPUT"}},
         {"report", "report", {"-o", "OUTPUT", "--for", "3"}, "office-walk"},
         {"completion", "completion", {"bash"}},

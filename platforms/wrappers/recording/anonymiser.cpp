@@ -285,4 +285,23 @@ void Anonymiser::Apply(std::vector<ordered_json>& lines)
     }
 }
 
+std::string ElementsWithoutNames(const std::string& elements)
+{
+    // By their numbers; 255 is followed by a number of its own, here those of 802.11ax and 802.11be.
+    constexpr std::uint8_t numbers[] = {1, 3, 5, 7, 42, 45, 48, 50, 61, 191, 192};
+    constexpr std::uint8_t extended[] = {35, 36, 59, 106, 108};
+    const auto has = [](const auto& list, char number)
+    { return std::find(std::begin(list), std::end(list), static_cast<std::uint8_t>(number)) != std::end(list); };
+    std::string kept;
+    for (std::size_t at = 0; at + 1 < elements.size();)
+    {
+        const std::string element = elements.substr(at, 2 + static_cast<std::uint8_t>(elements[at + 1]));
+        const bool isExtended = element[0] == '\xff' && element.size() > 2;
+        if (isExtended ? has(extended, element[2]) : has(numbers, element[0]))
+            kept += element;
+        at += element.size();
+    }
+    return kept;
+}
+
 } // namespace calvix::recording

@@ -29,7 +29,7 @@ public:
 
     /// Replaces what was learned in all lines, which stand in the order of the recording.
     void Apply(std::vector<nlohmann::ordered_json>& lines);
-    /// The same in a text, after that.
+    /// The same in a text: in a name or a profile's document at any time, in a sentence after that.
     std::string InText(const std::string& text) const;
 
 private:
@@ -47,5 +47,9 @@ private:
     std::map<std::string, int, std::less<>> m_counts;
     std::vector<std::pair<std::string, std::string>> m_longestFirst;
 };
+
+/// The information elements that tell no names: rates, channel, country, security and what the radio can do, and nothing
+/// of a vendor's.
+std::string ElementsWithoutNames(const std::string& elements);
 
 } // namespace calvix::recording

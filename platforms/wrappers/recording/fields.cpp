@@ -43,23 +43,6 @@ std::string SsidBytes(const DOT11_SSID& ssid)
     return {reinterpret_cast<const char*>(ssid.ucSSID), length};
 }
 
-/// Rates, channel, country, security and what the radio can do; no names, and nothing of a vendor's.
-constexpr std::uint8_t kTellingNoNames[] = {1, 3, 5, 7, 42, 45, 48, 50, 61, 191, 192};
-
-std::string WithoutNames(const std::string& elements)
-{
-    std::string kept;
-    for (std::size_t at = 0; at + 1 < elements.size();)
-    {
-        const auto id = static_cast<std::uint8_t>(elements[at]);
-        const std::size_t size = 2 + static_cast<std::uint8_t>(elements[at + 1]);
-        if (std::find(std::begin(kTellingNoNames), std::end(kTellingNoNames), id) != std::end(kTellingNoNames))
-            kept += elements.substr(at, size);
-        at += size;
-    }
-    return kept;
-}
-
 } // namespace
 
 void Fields::PutNull(const char* name)
@@ -210,7 +193,7 @@ void Fields::TerminatedInto(const char* name, wchar_t* buffer, std::size_t capac
 
 void Fields::Elements(const char* name, std::string& elements)
 {
-    std::string told = m_surroundings.names != nullptr ? WithoutNames(elements) : elements;
+    std::string told = m_surroundings.names != nullptr ? ElementsWithoutNames(elements) : elements;
     Bytes(name, told);
     if (isReading())
         elements = told;

@@ -1,0 +1,316 @@
+// A captured computer beside the one that it was captured from.
+
+#include "cli_test.h"
+
+#include "forms/hex_text.h"
+#include "platform/platform.h"
+#include "simulation/computer.h"
+#include "simulation/timetable.h"
+#include "support/altered_answers.h"
+#include "wrappers/fault_injection.h"
+#include "wrappers/intercepted_platform.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace calvix::test::capture_test
+{
+namespace
+{
+
+using simulation::AccessPoint;
+using simulation::Scenario;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+std::vector<std::string> Gallery()
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(CALVIX_SOURCE_DIR "/scenarios"))
+        names.push_back(entry.path().stem().string());
+    return names;
+}
+
+std::string GalleryPath(const std::string& name)
+{
+    return CALVIX_SOURCE_DIR "/scenarios/" + name + ".json";
+}
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to)
+{
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+    return text;
+}
+
+class CaptureCommand : public CliTest
+{
+protected:
+    std::string Captured() const { return PathFor("captured.json"); }
+    Scenario Loaded() const { return simulation::LoadScenario(Captured()); }
+
+    Outcome Capture(const std::string& scenario, const std::vector<std::string>& options = {})
+    {
+        std::vector<std::string> arguments{"capture", "-o", Captured(), "--scenario", scenario};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return Run(arguments);
+    }
+
+    /// What is captured of a computer whose service answers otherwise than the simulated one.
+    Outcome CaptureAltered(const Scenario& world, AnswerChanges changes)
+    {
+        simulation::Computer computer{world};
+        platform::ReplacePlatform(&computer);
+        Outcome outcome;
+        {
+            const AlteredAnswers altered(std::move(changes));
+            outcome = Run({"capture", "-o", Captured()});
+        }
+        platform::ReplacePlatform(nullptr);
+        EXPECT_EQ(0u, computer.Audit().liveBlocks);
+        EXPECT_EQ(0u, computer.Audit().openClients);
+        return outcome;
+    }
+
+    /// The same where an operation is refused.
+    Outcome CaptureRefused(const char* operation, DWORD error, const std::vector<std::string>& options = {})
+    {
+        simulation::Computer computer{RichWorld()};
+        wrappers::FaultInjection faults;
+        faults.Fail(operation, {.error = error});
+        wrappers::InterceptedPlatform platform{computer, faults};
+        platform::ReplacePlatform(&platform);
+        std::vector<std::string> arguments{"capture", "-o", Captured()};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const Outcome outcome = Run(arguments);
+        platform::ReplacePlatform(nullptr);
+        return outcome;
+    }
+
+    AccessPoint CapturedPoint(const simulation::MacAddress& bssid) const
+    {
+        const Scenario loaded = Loaded();
+        for (const AccessPoint& point : loaded.accessPoints)
+            if (point.bssid == bssid)
+                return point;
+        ADD_FAILURE() << "the access point is missing";
+        return {};
+    }
+};
+
+class CapturedGallery : public CaptureCommand, public ::testing::WithParamInterface<std::string>
+{
+protected:
+    /// Everything that a command asks of a scenario's computer, and is answered. A captured profile has a protected key.
+    std::string SessionOf(std::vector<std::string> command, const std::string& scenario)
+    {
+        const std::string file = PathFor("session.jsonl");
+        command.insert(command.end(), {"--scenario", scenario, "--record", file});
+        const int exitCode = Run(command).exitCode;
+        return Replaced(Content(file), "<protected>false<", "<protected>true<") + std::to_string(exitCode);
+    }
+};
+
+TEST_P(CapturedGallery, AnswersEveryQuestionAsTheOriginal)
+{
+    const std::string original = GalleryPath(GetParam());
+    const Outcome outcome = Capture(original);
+    ASSERT_EQ(kSuccess, outcome.exitCode) << outcome.err;
+    // Without location consent nobody learns what the adapter is connected to, so that a report asks for less.
+    const bool consent = GetParam() != "consent-denied";
+    for (const char* adapter : {"1", "2"})
+        for (std::vector<std::string> command :
+             {consent ? std::vector<std::string>{"report", "-o", PathFor("page")} : std::vector<std::string>{"bss"},
+              {"doctor"},
+              {"radio", "status"},
+              {"settings"},
+              {"power", "status"}})
+        {
+            SCOPED_TRACE(command.front() + " of adapter " + adapter);
+            command.insert(command.end(), {"--interface", adapter});
+            const std::string expected = SessionOf(command, original);
+            EXPECT_EQ(consent ? expected : Replaced(expected, R"("isState":1)", R"("isState":4)"),
+                      SessionOf(command, Captured()));
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenarios, CapturedGallery, ::testing::ValuesIn(Gallery()));
+
+TEST_F(CaptureCommand, LeavesKeysOut)
+{
+    Capture(GalleryPath("office"));
+    const std::string text = Content(Captured());
+    EXPECT_THAT(text, HasSubstr("<keyMaterial>********</keyMaterial>"));
+    EXPECT_THAT(text, Not(HasSubstr("paper lantern harbour")));
+    EXPECT_THAT(text, Not(HasSubstr(forms::HexText(std::string("paper lantern harbour")))));
+}
+
+TEST_F(CaptureCommand, TellsWhatItWroteAsImportDoes)
+{
+    EXPECT_EQ("Adapters       1\nAccess points  10 (2 hidden)\nNetworks       9\nProfiles       3\nWritten to     " +
+                  Captured() + "\n",
+              Capture(GalleryPath("airport")).out);
+    const Outcome stopped = Capture(GalleryPath("service-stopped"));
+    EXPECT_THAT(stopped.err, HasSubstr("warning: the WLAN service refused WlanOpenHandle"));
+    EXPECT_THAT(stopped.err, HasSubstr("sc start WlanSvc"));
+    const Outcome printed = Run({"capture", "-o", "-", "--scenario", GalleryPath("home")});
+    EXPECT_EQ(7u, simulation::ParseScenario(printed.out, "standard output").accessPoints.size());
+}
+
+TEST_F(CaptureCommand, TakesTheAdapterThatIsNamed)
+{
+    Capture(GalleryPath("two-adapters"), {"--interface", "2"});
+    ASSERT_EQ(1u, Loaded().adapters.size());
+    EXPECT_EQ("Calvix Simulated USB Wi-Fi 7 Adapter", Loaded().adapters[0].description);
+}
+
+/// For how many of the first 240 seconds only one of the two is on the air; their signals never differ by more than 2 dB.
+int SecondsApart(const AccessPoint& original, const AccessPoint& captured)
+{
+    int apart = 0;
+    for (int second = 0; second <= 240; ++second)
+    {
+        const auto before = simulation::SignalAt(original, std::chrono::seconds(second));
+        const auto after = simulation::SignalAt(captured, std::chrono::seconds(second));
+        apart += before.has_value() != after.has_value();
+        if (before && after)
+            EXPECT_LE(std::abs(*before - *after), 2) << "at " << second;
+    }
+    return apart;
+}
+
+TEST_F(CaptureCommand, FollowsTheAir)
+{
+    for (const char* name : {"office-walk", "train", "home"})
+    {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(kSuccess, Capture(GalleryPath(name), {"--for", "240"}).exitCode);
+        const Scenario original = simulation::LoadScenario(GalleryPath(name));
+        ASSERT_EQ(original.accessPoints.size(), Loaded().accessPoints.size());
+        // An access point comes and goes with the scan that notices it, one in four seconds.
+        for (const AccessPoint& point : original.accessPoints)
+        {
+            const AccessPoint captured = CapturedPoint(point.bssid);
+            EXPECT_LE(SecondsApart(point, captured), 8);
+            EXPECT_EQ(point.timetable.empty(), captured.timetable.empty());
+        }
+    }
+}
+
+TEST_F(CaptureCommand, FollowsWhereNoScanIsAccepted)
+{
+    EXPECT_EQ(kSuccess, CaptureRefused("WlanScan", ERROR_BUSY, {"--for", "6"}).exitCode);
+    EXPECT_EQ(RichWorld().accessPoints.size(), Loaded().accessPoints.size());
+    const Outcome tooLong = CaptureRefused("WlanScan", ERROR_BUSY, {"--for", "14401"});
+    EXPECT_EQ(kBadInput, tooLong.exitCode);
+    EXPECT_THAT(tooLong.err, HasSubstr("--for is at most 14400 seconds"));
+}
+
+TEST_F(CaptureCommand, PutsInventedNamesInPlaceOfRealOnes)
+{
+    const std::string office = GalleryPath("office");
+    EXPECT_EQ(kSuccess, Capture(office, {"--anonymise"}).exitCode);
+    const std::string text = Content(Captured());
+    for (const char* real : {"Brightwater", "427269676874", "Kestrel", "Workshop", "02:b8", "5CA1AB1E", "Calvix Sim"})
+        EXPECT_THAT(text, Not(HasSubstr(real)));
+    EXPECT_EQ(Run({"channels", "--json", "--scenario", office}).out,
+              Run({"channels", "--json", "--scenario", Captured()}).out)
+        << "widths and signals are as they were";
+    ASSERT_TRUE(Loaded().adapters[0].connection);
+    EXPECT_THAT(Run({"best", "--json", "--scenario", Captured()}).out, HasSubstr(R"("outcome": "joined")"));
+}
+
+TEST_F(CaptureCommand, LeavesOutProfilesThatCannotBeRead)
+{
+    const Outcome outcome = CaptureRefused("WlanGetProfile", ERROR_ACCESS_DENIED);
+    EXPECT_EQ(kSuccess, outcome.exitCode);
+    EXPECT_THAT(Loaded().adapters[0].profiles, IsEmpty());
+    EXPECT_FALSE(Loaded().adapters[0].connection);
+    EXPECT_TRUE(Loaded().locationConsent);
+    EXPECT_THAT(outcome.err, HasSubstr("warning: the profile \"OfficeNet\" is left out: the WLAN service refused "
+                                       "WlanGetProfile (access denied, 5)\n"));
+    EXPECT_THAT(outcome.err, HasSubstr("warning: the connection to \"HomeNet\" is left out: the scenario does not have "
+                                       "its profile\n"));
+}
+
+TEST_F(CaptureCommand, LeavesOutProfilesThatNoSimulatedComputerTakes)
+{
+    simulation::Computer computer{RichWorld()};
+    platform::ReplacePlatform(&computer);
+    Outcome outcome;
+    {
+        ChangedPlatform changed;
+        changed.After<&WlanService::WlanGetProfile>(
+            [](DWORD, HANDLE, const GUID*, const wchar_t*, PVOID, wchar_t** xml, DWORD*, DWORD*) { **xml = L'?'; });
+        outcome = Run({"capture", "-o", Captured()});
+    }
+    platform::ReplacePlatform(nullptr);
+    EXPECT_THAT(outcome.err, HasSubstr("warning: the profile \"HomeNet\" is left out: a simulated computer does not "
+                                       "take it: "));
+}
+
+TEST_F(CaptureCommand, FailsWhereThereIsNoWlan)
+{
+    const Outcome outcome = CaptureRefused("WlanOpenHandle", ERROR_MOD_NOT_FOUND);
+    EXPECT_EQ(kUnavailable, outcome.exitCode);
+    EXPECT_FALSE(std::filesystem::exists(Captured()));
+}
+
+TEST_F(CaptureCommand, LeavesOutAConnectionWhoseAccessPointIsNotListed)
+{
+    const Outcome outcome = CaptureAltered(RichWorld(), {.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; }});
+    EXPECT_THAT(outcome.err, HasSubstr("the connection to \"HomeNet\" is left out: its access point is not listed\n"));
+    EXPECT_FALSE(Loaded().adapters[0].connection);
+}
+
+TEST_F(CaptureCommand, AHiddenNetworkHasTheNameThatItsConnectionKnows)
+{
+    Scenario world = RichWorld();
+    world.adapters[0].connection = simulation::Connection{"HiddenNet", kHiddenNet, 300'000, 200'000};
+    const auto hide = [](WLAN_BSS_LIST& list)
+    {
+        for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
+            if (std::equal(kHiddenNet.begin(), kHiddenNet.end(), list.wlanBssEntries[i].dot11Bssid))
+                list.wlanBssEntries[i].dot11Ssid = {};
+    };
+    EXPECT_THAT(CaptureAltered(world, {.bss = hide}).err, IsEmpty());
+    const AccessPoint named = CapturedPoint(kHiddenNet);
+    EXPECT_TRUE(named.hidden);
+    EXPECT_EQ("HiddenNet", std::string(named.ssid.begin(), named.ssid.end()));
+    EXPECT_EQ(world.adapters[0].connection, Loaded().adapters[0].connection);
+}
+
+TEST_F(CaptureCommand, TellsNetworksOfOneNameApartByTheirElements)
+{
+    Scenario world = NoProfileWorld();
+    for (AccessPoint& point : world.accessPoints)
+        if (point.bssid == kHomeNet5)
+            point.authentication = "WPA3SAE";
+    RunOn(world, {"capture", "-o", Captured()});
+    EXPECT_EQ("WPA3SAE", CapturedPoint(kHomeNet5).authentication);
+    EXPECT_EQ("WPA2PSK", CapturedPoint(kHomeNet24).authentication);
+    EXPECT_EQ("WPA2PSK", CapturedPoint(kHomeNet6).authentication);
+}
+
+TEST_F(CaptureCommand, NamesTheNearestSecurityOfTheServicesNumbers)
+{
+    const auto number = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
+        {
+            auto& network = list.Network[i];
+            if (network.dot11Ssid.ucSSID[0] == 'O')
+                network.dot11DefaultAuthAlgorithm = static_cast<DOT11_AUTH_ALGORITHM>(0x80000001U);
+            else if (network.dot11Ssid.ucSSID[0] == 'H')
+                network.dot11DefaultCipherAlgorithm = static_cast<DOT11_CIPHER_ALGORITHM>(5);
+        }
+    };
+    const Outcome outcome = CaptureAltered(NoProfileWorld(), {.networks = number});
+    EXPECT_EQ("WPA2PSK", CapturedPoint(kOfficeNet).authentication);
+    EXPECT_EQ("WEP", CapturedPoint(kHomeNet24).encryption);
+    EXPECT_THAT(outcome.err, HasSubstr("of 02:22:00:00:50:95; the scenario has WPA2PSK or AES in its place\n"));
+}
+
+} // namespace
+} // namespace calvix::test::capture_test
