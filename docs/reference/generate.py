@@ -19,6 +19,10 @@ import subprocess
 import sys
 import textwrap
 
+sys.dont_write_bytecode = True  # the folder is installed
+
+import records  # noqa: E402
+
 HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parent.parent
 HEADER = ROOT / "include/calvix/wireless_manage.h"
@@ -41,6 +45,12 @@ class Method:
         self.key = f"{self.name}({', '.join(kind for kind, _ in self.parameters)})"
         self.data = {}
         self.family = ""
+        self.overloaded = False
+
+    @property
+    def label(self):
+        """The name, with the arguments where another method has the same one."""
+        return self.name + (escaped(self.key[len(self.name):]).replace("*", "&#42;") if self.overloaded else "")
 
     @property
     def example(self):
@@ -104,6 +114,9 @@ def load(items):
     """The header's methods with their data; what is missing or too much."""
     problems = []
     methods = {item.key: item for item in items if isinstance(item, Method)}
+    names = [method.name for method in methods.values()]
+    for method in methods.values():
+        method.overloaded = names.count(method.name) > 1
     exports = (ROOT / "tests/binary/exports.txt").read_text(encoding="utf-8").splitlines()
     families = {}
     for name in FAMILIES:
@@ -123,7 +136,7 @@ def load(items):
     examples = [method.example for method in methods.values()]
     problems += [f"examples/reference: no method shows [{name}]" for name in sorted(set(regions) - set(examples))]
     problems += [f"the example [{name}] is shown twice" for name in sorted(regions) if examples.count(name) > 1]
-    return methods, families, regions, problems
+    return methods, families, regions, problems + list(records.problems())
 
 
 def missing_parts(method, regions, codes):
@@ -236,6 +249,10 @@ def method_comment(method, results, methods, families, regions, links):
         yield ""
     yield from codes_text(method, results, methods)
     yield from calls_text(method)
+    if used := records.records_of(method):
+        yield "@par Records"
+        yield ", ".join(map(records.record_link, used)) + "."
+        yield ""
     yield "@par Example"
     yield "@code{.cpp}"
     yield from regions[method.example].splitlines()
@@ -281,7 +298,7 @@ def write_families(methods, families, results, links, out):
             method = methods[key]
             mark = method.data.get("mark") or (f"alias of {method.data['alias']}" if "alias" in method.data else "")
             mark = f' <span class="mark">{mark}</span>' if mark else ""
-            lines.append(f"| @ref {method.target} \"{method.name}\"{mark} | "
+            lines.append(f"| @ref {method.target} \"{method.label}\"{mark} | "
                          f"{links(escaped(purpose(method)), method.name)} | {results[method.name]['returns']} |")
         (out / f"family_{name}.md").write_text("\n".join(lines) + "\n", encoding="utf-8")
 
@@ -290,7 +307,7 @@ def write_index(methods, families, links, out):
     lines = ["# Methods from A to Z {#methods}", "", "| Method | What it does | Family |", "|---|---|---|"]
     for method in sorted(methods.values(), key=lambda method: method.name.lower()):
         family = families[method.family]["title"]
-        lines.append(f"| @ref {method.target} \"{method.name}\" | {links(escaped(purpose(method)), method.name)} | "
+        lines.append(f"| @ref {method.target} \"{method.label}\" | {links(escaped(purpose(method)), method.name)} | "
                      f"@ref family_{method.family} \"{family}\" |")
     (out / "methods.md").write_text("\n".join(lines) + "\n", encoding="utf-8")
 
@@ -392,6 +409,7 @@ def main(arguments):
     write_families(methods, families, results, links, out)
     write_index(methods, families, links, out)
     write_pages(families, links, out)
+    records.write(methods.values(), links, out)
     return 0
 
 
