@@ -3,6 +3,7 @@
 #include "capture/or_warn.h"
 #include "core/wlan_records.h"
 #include "forms/guid_text.h"
+#include "host/service_view.h"
 #include "import/captured_air.h"
 #include "import/made_profile.h"
 #include "import/netsh_interfaces.h"
@@ -51,14 +52,14 @@ void NamePhys(std::vector<PhyDescription>& phys, const std::vector<HeardAccessPo
                 phy.type = usual;
 }
 
-std::vector<PhyDescription> CapturePhys(Host& host, const GUID& guid, const std::vector<HeardAccessPoint>& heard)
+std::vector<PhyDescription> CapturePhys(Host& host, const GUID& guid, MadeScenario& made)
 {
     std::vector<PhyDescription> phys;
     for (const WLAN_PHY_RADIO_STATE& radio : host.service().Radios(&guid))
         phys.push_back({0, SwitchOf(radio.dot11SoftwareRadioState), SwitchOf(radio.dot11HardwareRadioState)});
     if (phys.empty())
         phys.emplace_back();
-    NamePhys(phys, heard);
+    NamePhys(phys, OrWarn(made, [&] { return host.service().AccessPoints(&guid); }));
     return phys;
 }
 
@@ -110,17 +111,14 @@ std::string ObstacleOf(const AdapterDescription& adapter, const std::wstring& pr
 
 } // namespace
 
-AdapterDescription CaptureAdapter(Host& host,
-                                  const WLAN_INTERFACE_INFO& info,
-                                  const std::vector<HeardAccessPoint>& heard,
-                                  MadeScenario& made)
+AdapterDescription CaptureAdapter(Host& host, const WLAN_INTERFACE_INFO& info, MadeScenario& made)
 {
     const GUID& guid = info.InterfaceGuid;
     AdapterDescription adapter;
     adapter.guid = forms::GuidText(guid);
     adapter.description = Narrow(FixedText(info.strInterfaceDescription));
     adapter.address = MadeUpInterface("", made.scenario.adapters.size()).address;
-    adapter.phys = CapturePhys(host, guid, heard);
+    adapter.phys = CapturePhys(host, guid, made);
     adapter.profiles = CaptureProfiles(host, guid, made);
     _WIFI_TXRX_COUNT count{};
     host.manager().GetWlanStatistics(&guid, &count);

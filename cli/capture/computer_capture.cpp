@@ -3,6 +3,7 @@
 #include "capture/adapter_capture.h"
 #include "capture/heard_air.h"
 #include "host/interrupt.h"
+#include "host/service_view.h"
 #include "import/captured_air.h"
 #include "live/progress.h"
 #include "view/power_view.h"
@@ -21,33 +22,25 @@ using simulation::PowerDescription;
 /// A certified driver is done with a scan after so many seconds.
 constexpr unsigned kSecondsOfScan = 4;
 
-void CapturePolicies(simulation::LegacyPowerScheme& scheme)
+/// The schemes with what is known of the active one: the idle time-outs, and its GUID and name.
+void CaptureSchemes(PowerDescription& power)
 {
-    if (const auto mains = ReadIdlePolicy(false))
-    {
-        scheme.idleTimeoutAc = mains->sleepAfter;
-        scheme.videoTimeoutAc = mains->displayOffAfter;
-    }
-    if (const auto battery = ReadIdlePolicy(true))
-    {
-        scheme.idleTimeoutDc = battery->sleepAfter;
-        scheme.videoTimeoutDc = battery->displayOffAfter;
-    }
-}
-
-void CaptureActiveScheme(PowerDescription& power)
-{
+    simulation::LegacyPowerScheme& legacy = power.legacySchemes.front();
+    const auto mains = ReadIdlePolicy(false);
+    const auto battery = ReadIdlePolicy(true);
+    if (mains && battery)
+        legacy = {legacy.id,
+                  legacy.name,
+                  mains->sleepAfter,
+                  battery->sleepAfter,
+                  mains->displayOffAfter,
+                  battery->displayOffAfter};
     const auto active = ReadActiveScheme();
     power.activeScheme.reset();
     if (!active)
         return;
     power.activeScheme = active->guid;
-    const auto known = std::find_if(power.schemes.begin(), power.schemes.end(),
-                                    [&active](const auto& scheme) { return scheme.guid == active->guid; });
-    if (known == power.schemes.end())
-        power.schemes.push_back(*active);
-    else
-        known->name = active->name;
+    power.schemes = {{active->guid, active->name, power.schemes.front().values}};
 }
 
 PowerDescription CapturePower(CWirelessManage& manager)
@@ -64,8 +57,7 @@ PowerDescription CapturePower(CWirelessManage& manager)
     power.upMilliseconds = (std::max)(power.lastSleepTime, power.lastWakeTime) / 10'000;
     power.resumesAutomatically = manager.IsPowerHibernateAllowed() != 0;
     power.enumerationError = SchemeListingError();
-    CapturePolicies(power.legacySchemes.front());
-    CaptureActiveScheme(power);
+    CaptureSchemes(power);
     return power;
 }
 
@@ -74,16 +66,6 @@ std::vector<WLAN_INTERFACE_INFO> AdaptersOf(Host& host)
     if (!host.options().adapter.empty())
         return {host.adapter()};
     return host.manager().GetWiFiAdapterCount() == 0 ? std::vector<WLAN_INTERFACE_INFO>() : host.adapters();
-}
-
-/// All adapters of a scenario hear the same air: the strongest signal counts.
-void Join(std::vector<AccessPoint>& air, const std::vector<AccessPoint>& heard)
-{
-    for (const AccessPoint& point : heard)
-        if (AccessPoint* const known = FindAccessPoint(air, point.bssid))
-            known->rssi = (std::max)(known->rssi, point.rssi);
-        else
-            air.push_back(point);
 }
 
 class Capture
@@ -103,8 +85,7 @@ public:
             scenario.powerSetting = static_cast<std::uint32_t>(level);
         m_adapters = AdaptersOf(m_host);
         for (const WLAN_INTERFACE_INFO& info : m_adapters)
-            scenario.adapters.push_back(
-                CaptureAdapter(m_host, info, ListHeard(m_host, info.InterfaceGuid, m_made), m_made));
+            scenario.adapters.push_back(CaptureAdapter(m_host, info, m_made));
         scenario.accessPoints = Listen();
         for (std::size_t i = 0; i < m_adapters.size(); ++i)
             CaptureConnection(m_host, m_adapters[i].InterfaceGuid, scenario.adapters[i], m_made);
@@ -132,14 +113,16 @@ private:
         }
     }
 
+    /// All adapters of a scenario hear the same air: the strongest signal counts.
     std::vector<AccessPoint> Listen()
     {
         std::vector<AccessPoint> air;
         for (const WLAN_INTERFACE_INFO& info : m_adapters)
-        {
-            const auto heard = ListHeard(m_host, info.InterfaceGuid, m_made);
-            Join(air, DescribeAir(m_host, info.InterfaceGuid, heard, m_made));
-        }
+            for (const AccessPoint& point : HeardAir(m_host, info.InterfaceGuid, m_made))
+                if (AccessPoint* const known = FindAccessPoint(air, point.bssid))
+                    known->rssi = (std::max)(known->rssi, point.rssi);
+                else
+                    air.push_back(point);
         return air;
     }
 

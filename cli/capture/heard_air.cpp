@@ -1,7 +1,7 @@
 #include "capture/heard_air.h"
 
 #include "capture/or_warn.h"
-#include "core/wlan_records.h"
+#include "host/service_view.h"
 #include "import/captured_air.h"
 #include "output/text_forms.h"
 #include "output/words.h"
@@ -102,16 +102,9 @@ void AddPoint(std::vector<SignalPoint>& timetable, const SignalPoint& next)
 
 } // namespace
 
-std::vector<HeardAccessPoint> ListHeard(Host& host, const GUID& adapter, MadeScenario& made)
+std::vector<AccessPoint> HeardAir(Host& host, const GUID& adapter, MadeScenario& made)
 {
-    return OrWarn(made, [&] { return host.service().AccessPointsWithElements(&adapter); });
-}
-
-std::vector<AccessPoint>
-DescribeAir(Host& host, const GUID& adapter, const std::vector<HeardAccessPoint>& heard, MadeScenario& made)
-{
-    if (heard.empty())
-        return {};
+    const auto heard = OrWarn(made, [&] { return host.service().AccessPoints(&adapter); });
     const Networks networks = OrWarn(made, [&] { return host.service().Networks(&adapter); });
     std::vector<AccessPoint> listed;
     for (const HeardAccessPoint& each : heard)

@@ -1,17 +1,13 @@
 #pragma once
 
-#include "host/service_view.h"
 #include "import/made_scenario.h"
 
 namespace calvix::host
 {
 
-/// The access points that an adapter hears now; none if the service refuses the list.
-std::vector<HeardAccessPoint> ListHeard(Host& host, const GUID& adapter, MadeScenario& made);
-
-/// The same as a scenario has them. Their security is that of the service's list of networks.
-std::vector<simulation::AccessPoint>
-DescribeAir(Host& host, const GUID& adapter, const std::vector<HeardAccessPoint>& heard, MadeScenario& made);
+/// The access points that an adapter hears now; none if the service refuses the list. Their security is that of the
+/// service's list of networks.
+std::vector<simulation::AccessPoint> HeardAir(Host& host, const GUID& adapter, MadeScenario& made);
 
 /// Makes timetables of what is heard at several moments.
 class AirMovement

@@ -86,23 +86,11 @@ std::vector<WLAN_AVAILABLE_NETWORK> ServiceView::Networks(const GUID* adapter)
     return CopyOf(list);
 }
 
-void ServiceView::EveryAccessPoint(const GUID* adapter, BssList& list)
+std::vector<HeardAccessPoint> ServiceView::AccessPoints(const GUID* adapter)
 {
+    BssList list;
     Require("WlanGetNetworkBssList", wlan().WlanGetNetworkBssList(m_client, adapter, nullptr, dot11_BSS_type_any, FALSE,
                                                                   nullptr, list.Receive()));
-}
-
-std::vector<WLAN_BSS_ENTRY> ServiceView::AccessPoints(const GUID* adapter)
-{
-    BssList list;
-    EveryAccessPoint(adapter, list);
-    return CopyOf(list);
-}
-
-std::vector<HeardAccessPoint> ServiceView::AccessPointsWithElements(const GUID* adapter)
-{
-    BssList list;
-    EveryAccessPoint(adapter, list);
     return ReadAccessPoints(*list);
 }
 

@@ -33,8 +33,7 @@ public:
     std::vector<WLAN_PROFILE_INFO> Profiles(const GUID* adapter);
     /// One entry per visible network and matching profile, as the library's methods see them.
     std::vector<WLAN_AVAILABLE_NETWORK> Networks(const GUID* adapter);
-    std::vector<WLAN_BSS_ENTRY> AccessPoints(const GUID* adapter);
-    std::vector<HeardAccessPoint> AccessPointsWithElements(const GUID* adapter);
+    std::vector<HeardAccessPoint> AccessPoints(const GUID* adapter);
     /// The entries of one network, left in the service's own record.
     void AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& list);
     /// None while there is no connection.
@@ -48,8 +47,6 @@ public:
     std::wstring ProfileDocument(const GUID* adapter, const wchar_t* name);
 
 private:
-    void EveryAccessPoint(const GUID* adapter, BssList& list);
-
     HANDLE m_client = nullptr;
 };
 

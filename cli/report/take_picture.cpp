@@ -114,7 +114,7 @@ void ArrangePicture(ReportFacts& report)
 std::vector<AirAccessPoint> ListAir(Host& host)
 {
     std::vector<AirAccessPoint> air;
-    for (const HeardAccessPoint& heard : host.service().AccessPointsWithElements(host.adapterGuid()))
+    for (const HeardAccessPoint& heard : host.service().AccessPoints(host.adapterGuid()))
         air.push_back(DescribeHeard(heard));
     return air;
 }

@@ -234,9 +234,9 @@ private:
         if (networks.empty())
             return Warning(Cause::networkListEmpty);
         std::uint64_t newest = 0;
-        const std::vector<WLAN_BSS_ENTRY> accessPoints = m_host.service().AccessPoints(adapter);
-        for (const WLAN_BSS_ENTRY& entry : accessPoints)
-            newest = (std::max)(newest, std::uint64_t{entry.ullHostTimestamp});
+        const std::vector<HeardAccessPoint> accessPoints = m_host.service().AccessPoints(adapter);
+        for (const HeardAccessPoint& each : accessPoints)
+            newest = (std::max)(newest, std::uint64_t{each.entry.ullHostTimestamp});
         const std::string moment = MomentText(newest);
         return {Counted(networks.size(), "network") + ", " + Counted(accessPoints.size(), "access point") + " in view" +
                 (moment.empty() ? "" : ", heard last at " + moment)};

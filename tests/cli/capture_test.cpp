@@ -7,11 +7,10 @@
 #include "simulation/computer.h"
 #include "simulation/timetable.h"
 #include "support/altered_answers.h"
-#include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
 
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 
 namespace calvix::test::capture_test
 {
@@ -57,36 +56,23 @@ protected:
         return Run(arguments);
     }
 
-    /// What is captured of a computer whose service answers otherwise than the simulated one.
-    Outcome CaptureAltered(const Scenario& world, AnswerChanges changes)
+    /// A computer in place of a scenario file, so that a test can change its answers.
+    void Use(const Scenario& world)
     {
-        simulation::Computer computer{world};
-        platform::ReplacePlatform(&computer);
-        Outcome outcome;
-        {
-            const AlteredAnswers altered(std::move(changes));
-            outcome = Run({"capture", "-o", Captured()});
-        }
-        platform::ReplacePlatform(nullptr);
-        EXPECT_EQ(0u, computer.Audit().liveBlocks);
-        EXPECT_EQ(0u, computer.Audit().openClients);
-        return outcome;
+        m_computer = std::make_unique<simulation::Computer>(world);
+        platform::ReplacePlatform(m_computer.get());
     }
 
-    /// The same where an operation is refused.
-    Outcome CaptureRefused(const char* operation, DWORD error, const std::vector<std::string>& options = {})
+    void TearDown() override
     {
-        simulation::Computer computer{RichWorld()};
-        wrappers::FaultInjection faults;
-        faults.Fail(operation, {.error = error});
-        wrappers::InterceptedPlatform platform{computer, faults};
-        platform::ReplacePlatform(&platform);
-        std::vector<std::string> arguments{"capture", "-o", Captured()};
-        arguments.insert(arguments.end(), options.begin(), options.end());
-        const Outcome outcome = Run(arguments);
+        if (m_computer == nullptr)
+            return;
         platform::ReplacePlatform(nullptr);
-        return outcome;
+        EXPECT_EQ(0u, m_computer->Audit().liveBlocks);
+        EXPECT_EQ(0u, m_computer->Audit().openClients);
     }
+
+    Outcome CaptureIt(const std::string& seconds = "0") { return Run({"capture", "-o", Captured(), "--for", seconds}); }
 
     AccessPoint CapturedPoint(const simulation::MacAddress& bssid) const
     {
@@ -96,6 +82,20 @@ protected:
                 return point;
         ADD_FAILURE() << "the access point is missing";
         return {};
+    }
+
+private:
+    std::unique_ptr<simulation::Computer> m_computer;
+};
+
+/// Has an operation refused, whatever it is asked.
+template <auto operation>
+class Refused : public ChangedPlatform
+{
+public:
+    explicit Refused(DWORD error)
+    {
+        Instead<operation>([error](auto...) { return error; });
     }
 };
 
@@ -200,9 +200,11 @@ TEST_F(CaptureCommand, FollowsTheAir)
 
 TEST_F(CaptureCommand, FollowsWhereNoScanIsAccepted)
 {
-    EXPECT_EQ(kSuccess, CaptureRefused("WlanScan", ERROR_BUSY, {"--for", "6"}).exitCode);
+    Use(RichWorld());
+    const Refused<&WlanService::WlanScan> busy(ERROR_BUSY);
+    EXPECT_EQ(kSuccess, CaptureIt("6").exitCode);
     EXPECT_EQ(RichWorld().accessPoints.size(), Loaded().accessPoints.size());
-    const Outcome tooLong = CaptureRefused("WlanScan", ERROR_BUSY, {"--for", "14401"});
+    const Outcome tooLong = CaptureIt("14401");
     EXPECT_EQ(kBadInput, tooLong.exitCode);
     EXPECT_THAT(tooLong.err, HasSubstr("--for is at most 14400 seconds"));
 }
@@ -223,7 +225,9 @@ TEST_F(CaptureCommand, PutsInventedNamesInPlaceOfRealOnes)
 
 TEST_F(CaptureCommand, LeavesOutProfilesThatCannotBeRead)
 {
-    const Outcome outcome = CaptureRefused("WlanGetProfile", ERROR_ACCESS_DENIED);
+    Use(RichWorld());
+    const Refused<&WlanService::WlanGetProfile> denied(ERROR_ACCESS_DENIED);
+    const Outcome outcome = CaptureIt();
     EXPECT_EQ(kSuccess, outcome.exitCode);
     EXPECT_THAT(Loaded().adapters[0].profiles, IsEmpty());
     EXPECT_FALSE(Loaded().adapters[0].connection);
@@ -236,31 +240,29 @@ TEST_F(CaptureCommand, LeavesOutProfilesThatCannotBeRead)
 
 TEST_F(CaptureCommand, LeavesOutProfilesThatNoSimulatedComputerTakes)
 {
-    simulation::Computer computer{RichWorld()};
-    platform::ReplacePlatform(&computer);
-    Outcome outcome;
-    {
-        ChangedPlatform changed;
-        changed.After<&WlanService::WlanGetProfile>(
-            [](DWORD, HANDLE, const GUID*, const wchar_t*, PVOID, wchar_t** xml, DWORD*, DWORD*) { **xml = L'?'; });
-        outcome = Run({"capture", "-o", Captured()});
-    }
-    platform::ReplacePlatform(nullptr);
-    EXPECT_THAT(outcome.err, HasSubstr("warning: the profile \"HomeNet\" is left out: a simulated computer does not "
-                                       "take it: "));
+    Use(RichWorld());
+    ChangedPlatform changed;
+    changed.After<&WlanService::WlanGetProfile>(
+        [](DWORD, HANDLE, const GUID*, const wchar_t*, PVOID, wchar_t** xml, DWORD*, DWORD*) { **xml = L'?'; });
+    EXPECT_THAT(CaptureIt().err,
+                HasSubstr("warning: the profile \"HomeNet\" is left out: a simulated computer does not "
+                          "take it: "));
 }
 
 TEST_F(CaptureCommand, FailsWhereThereIsNoWlan)
 {
-    const Outcome outcome = CaptureRefused("WlanOpenHandle", ERROR_MOD_NOT_FOUND);
-    EXPECT_EQ(kUnavailable, outcome.exitCode);
+    Use(RichWorld());
+    const Refused<&WlanService::WlanOpenHandle> missing(ERROR_MOD_NOT_FOUND);
+    EXPECT_EQ(kUnavailable, CaptureIt().exitCode);
     EXPECT_FALSE(std::filesystem::exists(Captured()));
 }
 
 TEST_F(CaptureCommand, LeavesOutAConnectionWhoseAccessPointIsNotListed)
 {
-    const Outcome outcome = CaptureAltered(RichWorld(), {.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; }});
-    EXPECT_THAT(outcome.err, HasSubstr("the connection to \"HomeNet\" is left out: its access point is not listed\n"));
+    Use(RichWorld());
+    const AlteredAnswers altered({.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; }});
+    EXPECT_THAT(CaptureIt().err,
+                HasSubstr("the connection to \"HomeNet\" is left out: its access point is not listed\n"));
     EXPECT_FALSE(Loaded().adapters[0].connection);
 }
 
@@ -274,7 +276,9 @@ TEST_F(CaptureCommand, AHiddenNetworkHasTheNameThatItsConnectionKnows)
             if (std::equal(kHiddenNet.begin(), kHiddenNet.end(), list.wlanBssEntries[i].dot11Bssid))
                 list.wlanBssEntries[i].dot11Ssid = {};
     };
-    EXPECT_THAT(CaptureAltered(world, {.bss = hide}).err, IsEmpty());
+    Use(world);
+    const AlteredAnswers altered({.bss = hide});
+    EXPECT_THAT(CaptureIt().err, IsEmpty());
     const AccessPoint named = CapturedPoint(kHiddenNet);
     EXPECT_TRUE(named.hidden);
     EXPECT_EQ("HiddenNet", std::string(named.ssid.begin(), named.ssid.end()));
@@ -306,7 +310,9 @@ TEST_F(CaptureCommand, NamesTheNearestSecurityOfTheServicesNumbers)
                 network.dot11DefaultCipherAlgorithm = static_cast<DOT11_CIPHER_ALGORITHM>(5);
         }
     };
-    const Outcome outcome = CaptureAltered(NoProfileWorld(), {.networks = number});
+    Use(NoProfileWorld());
+    const AlteredAnswers altered({.networks = number});
+    const Outcome outcome = CaptureIt();
     EXPECT_EQ("WPA2PSK", CapturedPoint(kOfficeNet).authentication);
     EXPECT_EQ("WEP", CapturedPoint(kHomeNet24).encryption);
     EXPECT_THAT(outcome.err, HasSubstr("of 02:22:00:00:50:95; the scenario has WPA2PSK or AES in its place\n"));
