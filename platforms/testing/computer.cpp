@@ -1,9 +1,7 @@
 #include "operations/operations.h"
-#include "testing/test_computer.h"
+#include "testing/computer_internals.h"
 #include "wrappers/call_log.h"
 #include "wrappers/fault_injection.h"
-
-#include <calvix/testing/computer.h>
 
 #include <stdexcept>
 
@@ -47,6 +45,16 @@ Computer Computer::FromFile(const std::string& path)
     return Computer(std::make_unique<Parts>(simulation::LoadScenario(path)));
 }
 
+std::unique_ptr<Computer> ComputerInternals::Make(const simulation::Scenario& world)
+{
+    return std::unique_ptr<Computer>(new Computer(std::make_unique<Computer::Parts>(world)));
+}
+
+test::TestComputer& ComputerInternals::Inside(Computer& computer)
+{
+    return computer.m_parts->computer;
+}
+
 Computer::~Computer()
 {
     m_parts->faults.Clear();
@@ -54,7 +62,8 @@ Computer::~Computer()
 
 CWirelessManage& Computer::Manager()
 {
-    m_parts->computer.ForgetClosedClient();
+    if (ManagerInternals::Instance() == nullptr)
+        m_parts->computer.ForgetClosedClient();
     return m_parts->computer.Manager();
 }
 
@@ -93,6 +102,12 @@ void Computer::Fail(const std::string& operation, unsigned long error, unsigned 
     if (operations::FactsOf(operation) == nullptr)
         throw std::invalid_argument("there is no operation \"" + operation + "\"");
     m_parts->faults.Fail(operation, {static_cast<DWORD>(error), fromCall, times});
+}
+
+void Computer::FailWhen(std::function<std::optional<unsigned long>(const Call&)> decide)
+{
+    m_parts->faults.FailWhen([decide = std::move(decide)](const wrappers::Call& call)
+                             { return std::optional<DWORD>(decide(ToCall(call))); });
 }
 
 void Computer::StopFailing()

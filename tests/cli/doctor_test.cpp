@@ -2,12 +2,9 @@
 
 #include "cli_test.h"
 
-#include "platform/platform.h"
-#include "simulation/computer.h"
-#include "wrappers/call_log.h"
-#include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
+#include "platform/records/error_numbers.h"
 
+#include <calvix/testing/computer.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -114,17 +111,11 @@ class Diagnosis : public CliTest, public ::testing::WithParamInterface<Case>
 TEST_P(Diagnosis, TellsWhatIsWrongAndChangesNothing)
 {
     const Case& expected = GetParam();
-    simulation::Computer computer{
-        simulation::LoadScenario(CALVIX_SOURCE_DIR "/scenarios/" + std::string(expected.scenario) + ".json")};
-    wrappers::CallLog log;
-    wrappers::FaultInjection faults;
+    auto computer =
+        calvix::testing::Computer::FromFile(CALVIX_SOURCE_DIR "/scenarios/" + std::string(expected.scenario) + ".json");
     if (expected.operation != nullptr)
-        faults.Fail(expected.operation, {.error = expected.error});
-    wrappers::InterceptorChain chain{{&log, &faults}};
-    wrappers::InterceptedPlatform platform{computer, chain};
-    platform::ReplacePlatform(&platform);
+        computer.Fail(expected.operation, expected.error);
     const Outcome outcome = Run({"doctor", "--json"});
-    platform::ReplacePlatform(nullptr);
 
     EXPECT_EQ(expected.exitCode, outcome.exitCode) << outcome.err;
     const json result = json::parse(outcome.out);
@@ -135,9 +126,8 @@ TEST_P(Diagnosis, TellsWhatIsWrongAndChangesNothing)
     EXPECT_THAT(check["advice"].is_null() ? "" : check["advice"].get<std::string>(), HasSubstr(expected.advice));
     for (const char* change : {"StartServiceA", "WlanSetInterface", "WlanConnect", "WlanDisconnect", "WlanSetProfile",
                                "WlanSetProfilePosition", "WlanDeleteProfile"})
-        EXPECT_EQ(0u, log.Count(change)) << change;
-    EXPECT_EQ(0u, computer.Audit().openClients);
-    EXPECT_EQ(0u, computer.Audit().liveBlocks);
+        EXPECT_EQ(0u, computer.CallCount(change)) << change;
+    EXPECT_TRUE(computer.Held().Nothing());
 }
 
 INSTANTIATE_TEST_SUITE_P(Gallery, Diagnosis, ::testing::ValuesIn(kCases));

@@ -35,7 +35,7 @@ bool Contains(const std::string& text, const std::string& part)
     return text.find(part) != std::string::npos;
 }
 
-class ImportCommand : public testing::Test
+class ImportCommand : public ::testing::Test
 {
 protected:
     TemporaryFolder folder;

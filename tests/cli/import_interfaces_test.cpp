@@ -105,7 +105,7 @@ struct Damage
     const char* complaint;
 };
 
-class DamagedInterfaces : public testing::TestWithParam<Damage>
+class DamagedInterfaces : public ::testing::TestWithParam<Damage>
 {
 };
 
@@ -117,7 +117,7 @@ TEST_P(DamagedInterfaces, CostWhatIsDamagedAndAWarning)
     for (const std::string& each : {text, WithCarriageReturns(text)})
     {
         const InterfacesCapture capture = Parse(each);
-        EXPECT_TRUE(Warns(capture.warnings, GetParam().complaint)) << testing::PrintToString(capture.warnings);
+        EXPECT_TRUE(Warns(capture.warnings, GetParam().complaint)) << ::testing::PrintToString(capture.warnings);
         EXPECT_FALSE(capture.adapters.empty());
     }
 }
@@ -125,7 +125,7 @@ TEST_P(DamagedInterfaces, CostWhatIsDamagedAndAWarning)
 INSTANTIATE_TEST_SUITE_P(
     Import,
     DamagedInterfaces,
-    testing::Values(
+    ::testing::Values(
         Damage{"6666abcd", "6666abc",
                "file:6: \"GUID\" is \"11111111-2222-3333-4444-55556666abc\", which is not a GUID"},
         Damage{"55556666abcd", "55556666abcg",

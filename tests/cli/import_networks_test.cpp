@@ -158,7 +158,7 @@ struct Damage
     const char* complaint;
 };
 
-class DamagedNetworks : public testing::TestWithParam<Damage>
+class DamagedNetworks : public ::testing::TestWithParam<Damage>
 {
 };
 
@@ -168,7 +168,7 @@ TEST_P(DamagedNetworks, CostWhatIsDamagedAndAWarning)
     for (const std::string& each : {text, WithCarriageReturns(text)})
     {
         const NetworksCapture capture = ParseNetworks(each, "file");
-        EXPECT_TRUE(Warns(capture.warnings, GetParam().complaint)) << testing::PrintToString(capture.warnings);
+        EXPECT_TRUE(Warns(capture.warnings, GetParam().complaint)) << ::testing::PrintToString(capture.warnings);
         ASSERT_FALSE(capture.accessPoints.empty());
         EXPECT_EQ(capture.accessPoints.back().ssid.size(), 13u) << "the second network is as it was";
     }
@@ -177,7 +177,7 @@ TEST_P(DamagedNetworks, CostWhatIsDamagedAndAWarning)
 INSTANTIATE_TEST_SUITE_P(
     Import,
     DamagedNetworks,
-    testing::Values(
+    ::testing::Values(
         Damage{"80%", "80", "file:10: \"Signal\" is \"80\", which is not a percentage from 0% to 100%"},
         Damage{"80%", "strong", "file:10: \"Signal\" is \"strong\", which is not a percentage from 0% to 100%"},
         Damage{"80%", "101%", "file:10: \"Signal\" is \"101%\", which is not a percentage from 0% to 100%"},

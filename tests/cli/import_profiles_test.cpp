@@ -52,7 +52,7 @@ struct Damage
     const char* complaint;
 };
 
-class DamagedProfiles : public testing::TestWithParam<Damage>
+class DamagedProfiles : public ::testing::TestWithParam<Damage>
 {
 };
 
@@ -70,15 +70,15 @@ TEST_P(DamagedProfiles, AreRefusedWithTheFile)
 INSTANTIATE_TEST_SUITE_P(
     Import,
     DamagedProfiles,
-    testing::Values(Damage{"</WLANProfile>", "", "The profile is not in the form required."},
-                    Damage{"WLANProfile xmlns", "Profile xmlns", "The profile is not in the form required."},
-                    Damage{"<name>Juniper</name>\n", "<name></name>\n", "The profile's name is not valid."},
-                    Damage{"4A756E", "4A756", "The network's name in the profile is not valid."},
-                    Damage{">ESS<", ">NESS<", "The profile's network type is not valid."},
-                    Damage{">ESS<", ">IBSS<", "Ad hoc networks cannot be joined automatically."},
-                    Damage{">auto<", ">always<", "The profile is not in the form required."},
-                    Damage{">AES<", ">none<", "This authentication and this encryption do not go together."},
-                    Damage{"under the juniper", "short", "The passphrase in the profile is too short or too long."}));
+    ::testing::Values(Damage{"</WLANProfile>", "", "The profile is not in the form required."},
+                      Damage{"WLANProfile xmlns", "Profile xmlns", "The profile is not in the form required."},
+                      Damage{"<name>Juniper</name>\n", "<name></name>\n", "The profile's name is not valid."},
+                      Damage{"4A756E", "4A756", "The network's name in the profile is not valid."},
+                      Damage{">ESS<", ">NESS<", "The profile's network type is not valid."},
+                      Damage{">ESS<", ">IBSS<", "Ad hoc networks cannot be joined automatically."},
+                      Damage{">auto<", ">always<", "The profile is not in the form required."},
+                      Damage{">AES<", ">none<", "This authentication and this encryption do not go together."},
+                      Damage{"under the juniper", "short", "The passphrase in the profile is too short or too long."}));
 
 TEST(ImportProfiles, AFileInAnotherEncodingIsRefusedWithTheLine)
 {

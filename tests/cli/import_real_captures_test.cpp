@@ -99,7 +99,7 @@ TEST(ImportRealCaptures, WhatTheTerminalShowedIsPassedOver)
     {
         const MadeScenario imported = Import(before + text + after);
         EXPECT_EQ(imported.scenario.accessPoints, Air(text));
-        EXPECT_EQ(imported.warnings.size(), 3u) << testing::PrintToString(imported.warnings);
+        EXPECT_EQ(imported.warnings.size(), 3u) << ::testing::PrintToString(imported.warnings);
         EXPECT_TRUE(Warns(imported.warnings, "file:2: \"Active code page : 65001\" is not understood and left out"));
     }
 }

@@ -1,10 +1,6 @@
 #include "cli_test.h"
 
-#include "platform/platform.h"
-#include "simulation/computer.h"
-#include "wrappers/call_log.h"
-#include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
+#include "testing/computer_internals.h"
 
 #include <nlohmann/json.hpp>
 
@@ -284,46 +280,34 @@ TEST_F(PowerCommands, PrivilegeTellsWhyItCannot)
 class RefusedPower : public CliTest
 {
 protected:
-    RefusedPower() { platform::ReplacePlatform(&m_platform); }
-    ~RefusedPower() override { platform::ReplacePlatform(nullptr); }
+    void TearDown() override { EXPECT_TRUE(m_computer.Held().Nothing()); }
 
-    void TearDown() override
-    {
-        const simulation::Accounts accounts = m_computer.Audit();
-        EXPECT_EQ(0u, accounts.liveBlocks);
-        EXPECT_EQ(0u, accounts.openHandles);
-        EXPECT_THAT(accounts.defects, IsEmpty());
-    }
-
-    simulation::Computer m_computer{Scenario{}};
-    wrappers::CallLog m_log;
-    wrappers::FaultInjection m_faults;
-    wrappers::InterceptorChain m_chain{{&m_log, &m_faults}};
-    wrappers::InterceptedPlatform m_platform{m_computer, m_chain};
+    calvix::testing::Computer m_computer{"{}"};
+    simulation::Computer& m_simulated = calvix::testing::ComputerInternals::Simulated(m_computer);
 };
 
 TEST_F(RefusedPower, SaverWarnsWhoWantsItAllTheSame)
 {
     // The program's own look at the list succeeds, and the library's third one fails.
-    m_faults.Fail("PowerEnumerate", {.error = 259, .fromCall = 4});
+    m_computer.Fail("PowerEnumerate", 259, 4);
     const Outcome outcome = Run({"power", "saver", "--may-not-return", "--yes"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
     EXPECT_THAT(outcome.err, HasSubstr("as long as it does GetPowerScheme does not return. Ctrl-C, pressed twice"));
-    EXPECT_EQ(4u, m_log.Count("PowerEnumerate"));
-    EXPECT_EQ(4u, m_computer.Snapshot().power.schemes.size());
+    EXPECT_EQ(4u, m_computer.CallCount("PowerEnumerate"));
+    EXPECT_EQ(4u, m_simulated.Snapshot().power.schemes.size());
 }
 
 TEST_F(RefusedPower, SaverLooksAtTheListOnceAndRefuses)
 {
     EXPECT_EQ(kBadInput, Run({"power", "saver", "--yes"}).exitCode);
-    EXPECT_EQ(1u, m_log.Count("PowerEnumerate"));
-    EXPECT_EQ(Scenario{}, m_computer.Snapshot());
+    EXPECT_EQ(1u, m_computer.CallCount("PowerEnumerate"));
+    EXPECT_EQ(Scenario{}, m_simulated.Snapshot());
 }
 
 TEST_F(RefusedPower, StatusDoesWithoutWhatIsNotTold)
 {
-    m_faults.Fail("CallNtPowerInformation", {.error = 0xC0000022});
-    m_faults.Fail("PowerGetActiveScheme", {.error = 5});
+    m_computer.Fail("CallNtPowerInformation", 0xC0000022);
+    m_computer.Fail("PowerGetActiveScheme", 5);
     const Outcome outcome = Run({"power", "status", "--json"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
     const json power = json::parse(outcome.out)["power"];
@@ -336,12 +320,12 @@ TEST_F(RefusedPower, StatusDoesWithoutWhatIsNotTold)
 
 TEST_F(RefusedPower, SleepNeedsAToken)
 {
-    m_faults.Fail("OpenProcessToken", {.error = 5});
+    m_computer.Fail("OpenProcessToken", 5);
     const Outcome outcome = Run({"power", "sleep", "--yes"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("the shutdown privilege could not be asked for: the system refused "
                                        "OpenProcessToken (access denied, 5).\n  Result: GetPrivileges returned 0."));
-    EXPECT_EQ(0u, m_computer.SuspendCount());
+    EXPECT_EQ(0u, m_simulated.SuspendCount());
 }
 
 struct RefusedStep
@@ -379,9 +363,9 @@ TEST_F(RefusedPower, TheRefusedStepIsNamed)
     };
     for (const RefusedStep& step : steps)
     {
-        m_faults.Clear();
-        m_faults.Fail("PowerEnumerate", {.error = 259});
-        m_faults.Fail(step.operation, {.error = step.error});
+        m_computer.StopFailing();
+        m_computer.Fail("PowerEnumerate", 259);
+        m_computer.Fail(step.operation, step.error);
         const Outcome outcome = Run({"power", step.command, "--yes"});
         EXPECT_EQ(kFailed, outcome.exitCode) << step.operation;
         EXPECT_THAT(outcome.err, HasSubstr(step.message));
@@ -427,7 +411,7 @@ TEST_F(RefusedPower, CtrlCAtTheQuestionIsNoYes)
     std::ostringstream out;
     std::ostringstream err;
     EXPECT_EQ(kNotConfirmed, host::Run({"power", "sleep"}, in, out, err, {}));
-    EXPECT_EQ(0u, m_computer.SuspendCount());
+    EXPECT_EQ(0u, m_simulated.SuspendCount());
 }
 
 TEST_F(RefusedPower, CtrlCEndsKeepingAwakeAndPutsThePolicyBack)
@@ -439,7 +423,7 @@ TEST_F(RefusedPower, CtrlCEndsKeepingAwakeAndPutsThePolicyBack)
     EXPECT_EQ(kSuccess,
               host::Run({"power", "keep-awake", "--for", "3600", "--yes"}, in, out, err, {.isTerminal = true}));
     EXPECT_THAT(out.str(), HasSubstr("On mains:        sleeps after 30 minutes"));
-    EXPECT_EQ(2u, m_log.Count("WritePwrScheme"));
+    EXPECT_EQ(2u, m_computer.CallCount("WritePwrScheme"));
     EXPECT_EQ(std::chrono::seconds(0), m_computer.Now());
 }
 

@@ -3,13 +3,10 @@
 #include "cli_test.h"
 
 #include "platform/platform.h"
-#include "simulation/computer.h"
 #include "support/changed_platform.h"
 #include "support/result_code.h"
-#include "wrappers/call_log.h"
-#include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
 
+#include <calvix/testing/computer.h>
 #include <nlohmann/json.hpp>
 
 namespace calvix::test::refusals_test
@@ -20,7 +17,6 @@ namespace
 using host::Cause;
 using nlohmann::json;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 simulation::Scenario TwoCandidates()
@@ -35,24 +31,15 @@ simulation::Scenario TwoCandidates()
 class Refusals : public CliTest
 {
 protected:
-    Refusals() { platform::ReplacePlatform(&m_platform); }
-    ~Refusals() override { platform::ReplacePlatform(nullptr); }
-
     /// Whatever was refused, nothing may be left behind.
     void TearDown() override
     {
-        const simulation::Accounts accounts = m_computer.Audit();
-        EXPECT_EQ(0u, accounts.liveBlocks);
-        EXPECT_EQ(0u, accounts.openClients);
-        EXPECT_THAT(accounts.defects, IsEmpty());
-        EXPECT_EQ(&m_platform, platform::g_pReplacement.load()) << "the program did not put back what it found";
+        EXPECT_TRUE(m_computer.Held().Nothing());
+        EXPECT_EQ(m_platform, platform::g_pReplacement.load()) << "the program did not put back what it found";
     }
 
-    simulation::Computer m_computer{TwoCandidates()};
-    wrappers::CallLog m_log;
-    wrappers::FaultInjection m_faults;
-    wrappers::InterceptorChain m_chain{{&m_log, &m_faults}};
-    wrappers::InterceptedPlatform m_platform{m_computer, m_chain};
+    calvix::testing::Computer m_computer{simulation::WriteScenario(TwoCandidates())};
+    const platform::Platform* const m_platform = platform::g_pReplacement;
 };
 
 TEST_F(Refusals, LeaveNothingBehindInSuccessEither)
@@ -64,25 +51,25 @@ TEST_F(Refusals, LeaveNothingBehindInSuccessEither)
 
 TEST_F(Refusals, BestAsksForTheNextCandidate)
 {
-    m_faults.Fail("WlanConnect", {.error = 5, .fromCall = 1, .times = 1});
+    m_computer.Fail("WlanConnect", 5, 1, 1);
     const Outcome outcome = Run({"best"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
     EXPECT_THAT(outcome.out,
                 StartsWith("#  Profile  SSID    Quality  5 GHz APs  Bonus  Score  Outcome\n"
                            "1  Weak     Weak         50          0     +0     50  refused (access denied, 5)\n"
                            "2  Strong   Strong       80          0     +0     80  joined\n"));
-    EXPECT_EQ(2u, m_log.Count("WlanConnect"));
+    EXPECT_EQ(2u, m_computer.CallCount("WlanConnect"));
 }
 
 TEST_F(Refusals, BestNeverAsksMoreThanTheLibraryDoes)
 {
     EXPECT_EQ(kSuccess, Run({"best"}).exitCode);
-    EXPECT_EQ(1u, m_log.Count("WlanConnect"));
+    EXPECT_EQ(1u, m_computer.CallCount("WlanConnect"));
 }
 
 TEST_F(Refusals, BestShowsThatEveryRequestWasRefused)
 {
-    m_faults.Fail("WlanConnect", {.error = 0x80342002});
+    m_computer.Fail("WlanConnect", 0x80342002);
     const Outcome outcome = Run({"best", "--json"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     const json result = json::parse(outcome.out);
@@ -110,9 +97,9 @@ TEST_F(Refusals, BestShowsACandidateForEachTimeItsProfileIsStored)
             for (DWORD i = 0; i < (*list)->dwNumberOfItems; ++i)
                 std::wcscpy((*list)->Network[i].strProfileName, L"Strong");
         });
-    m_faults.Fail("WlanConnect", {.error = 5});
+    m_computer.Fail("WlanConnect", 5);
     const Outcome outcome = Run({"best"});
-    EXPECT_EQ(4u, m_log.Count("WlanConnect"));
+    EXPECT_EQ(4u, m_computer.CallCount("WlanConnect"));
     EXPECT_THAT(outcome.out,
                 StartsWith("#  Profile  SSID    Quality  5 GHz APs  Bonus  Score  Outcome\n"
                            "1  Strong   Weak         50          0     +0     50  refused (access denied, 5)\n"
@@ -148,7 +135,7 @@ class RefusedOperation : public Refusals, public ::testing::WithParamInterface<R
 
 TEST_P(RefusedOperation, IsNamedInTheFailure)
 {
-    m_faults.Fail(GetParam().operation, {.error = 31});
+    m_computer.Fail(GetParam().operation, 31);
     const Outcome outcome = Run(GetParam().command);
     EXPECT_EQ(GetParam().exitCode, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr(std::string("the WLAN service refused ") + GetParam().operation +
@@ -191,7 +178,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Refusals, AServiceThatStopsMeanwhileIsUnavailable)
 {
-    m_faults.Fail("WlanGetAvailableNetworkList", {.error = 1062});
+    m_computer.Fail("WlanGetAvailableNetworkList", 1062);
     const Outcome outcome = Run({"networks"});
     EXPECT_EQ(kUnavailable, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("sc start WlanSvc"));
@@ -200,12 +187,12 @@ TEST_F(Refusals, AServiceThatStopsMeanwhileIsUnavailable)
 TEST_F(Refusals, StatusLeavesOutWhatTheDriverDoesNotTell)
 {
     ASSERT_EQ(kSuccess, Run({"best"}).exitCode);
-    m_faults.FailWhen(
-        [](const wrappers::Call& call) -> std::optional<DWORD>
+    m_computer.FailWhen(
+        [](const calvix::testing::Call& call) -> std::optional<unsigned long>
         {
             const bool isRssi = call.operation == "WlanQueryInterface" && call["opcode"] != "7" &&
                                 call["opcode"].find("current_connection") == std::string_view::npos;
-            return isRssi ? std::optional<DWORD>(50) : std::nullopt;
+            return isRssi ? std::optional<unsigned long>(50) : std::nullopt;
         });
     const Outcome outcome = Run({"status", "--json"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;

@@ -5,12 +5,10 @@
 #include "transcript.h"
 
 #include "commands/commands.h"
-#include "platform/platform.h"
 #include "shell/manual.h"
 #include "shell/output_schema.h"
-#include "simulation/computer.h"
-#include "wrappers/fault_injection.h"
-#include "wrappers/intercepted_platform.h"
+
+#include <calvix/testing/computer.h>
 
 #include <filesystem>
 #include <fstream>
@@ -22,6 +20,7 @@ namespace
 {
 
 namespace files = std::filesystem;
+using calvix::testing::Computer;
 
 /// Leaves the file as it would be right now in the build, from where script/update-transcripts takes it.
 void LeaveForUpdate(const std::string& path, const std::string& text)
@@ -30,27 +29,6 @@ void LeaveForUpdate(const std::string& path, const std::string& text)
     files::create_directories(copy.parent_path());
     std::ofstream(copy, std::ios::binary) << text;
 }
-
-/// The computer of a comment in the place of the system, while a command runs.
-class ComputerInPlace
-{
-public:
-    explicit ComputerInPlace(const TranscriptComputer& wanted)
-        : m_computer(simulation::LoadScenario(wanted.scenario)), m_platform(m_computer, m_faults)
-    {
-        if (!wanted.operation.empty())
-            m_faults.Fail(wanted.operation, {.error = static_cast<DWORD>(wanted.error)});
-        platform::ReplacePlatform(&m_platform);
-    }
-    ~ComputerInPlace() { platform::ReplacePlatform(nullptr); }
-    ComputerInPlace(const ComputerInPlace&) = delete;
-    ComputerInPlace& operator=(const ComputerInPlace&) = delete;
-
-private:
-    simulation::Computer m_computer;
-    wrappers::FaultInjection m_faults;
-    wrappers::InterceptedPlatform m_platform;
-};
 
 /// Paths in the files are those of the repository.
 class TranscriptFile : public CliTest, public ::testing::WithParamInterface<const char*>
@@ -61,9 +39,11 @@ protected:
 
     std::string Printed(const TranscriptCommand& command)
     {
-        std::unique_ptr<ComputerInPlace> computer;
-        if (!command.computer.scenario.empty())
-            computer = std::make_unique<ComputerInPlace>(command.computer);
+        std::unique_ptr<Computer> computer;
+        if (const TranscriptComputer& wanted = command.computer; !wanted.scenario.empty())
+            computer.reset(new Computer(Computer::FromFile(wanted.scenario)));
+        if (!command.computer.operation.empty())
+            computer->Fail(command.computer.operation, command.computer.error);
         std::vector<std::string> words = ShellWords(command.line);
         EXPECT_EQ("calvix", words.front()) << "only this program can be shown";
         words.erase(words.begin());

@@ -4,7 +4,7 @@
 #include "model/library_outcomes.h"
 #include "model/model.h"
 #include "simulation/computer.h"
-#include "testing/manager_internals.h"
+#include "testing/test_computer.h"
 
 #include <gtest/gtest.h>
 
@@ -100,30 +100,17 @@ class Laboratory
 public:
     explicit Laboratory(const World& world) : m_world(world), m_computer(world.scenario)
     {
-        platform::ReplacePlatform(&m_computer);
-        ManagerInternals::Reset();
-        CWirelessManage::Get();
+        m_computer.Manager();
         DWORD version = 0;
-        m_computer.wlan().WlanOpenHandle(2, nullptr, &version, &m_modelsClient);
+        Wlan().WlanOpenHandle(2, nullptr, &version, &m_modelsClient);
     }
-    ~Laboratory()
-    {
-        ManagerInternals::Reset();
-        platform::ReplacePlatform(nullptr);
-    }
-    Laboratory(const Laboratory&) = delete;
-    Laboratory& operator=(const Laboratory&) = delete;
 
-    Model MakeModel(const std::string& method) { return {m_world, m_computer.wlan(), m_modelsClient, method}; }
+    Model MakeModel(const std::string& method) { return {m_world, Wlan(), m_modelsClient, method}; }
 
     Outcome Actual(const Method& method)
     {
-        HANDLE& client = ManagerInternals::Client();
-        if (!m_world.clientIsOpen && client != nullptr)
-        {
-            m_computer.wlan().WlanCloseHandle(client, nullptr);
-            client = nullptr;
-        }
+        if (!m_world.clientIsOpen)
+            m_computer.CloseClient();
         Journal journal(m_world);
         Library library(m_world, journal);
         return method.actual(library);
@@ -132,8 +119,10 @@ public:
     simulation::Accounts Audit() { return m_computer.Audit(); }
 
 private:
+    platform::WlanService& Wlan() { return m_computer.computer().wlan(); }
+
     const World& m_world;
-    simulation::Computer m_computer;
+    TestComputer m_computer;
     HANDLE m_modelsClient = nullptr;
 };
 

@@ -47,11 +47,11 @@ struct Case
     const char* message; ///< what the message begins with
 };
 
-class ScenarioMessage : public testing::TestWithParam<Case>
+class ScenarioMessage : public ::testing::TestWithParam<Case>
 {
 };
 
-std::string NameOf(const testing::TestParamInfo<Case>& test)
+std::string NameOf(const ::testing::TestParamInfo<Case>& test)
 {
     return test.param.name;
 }
@@ -67,10 +67,10 @@ const char kPoint[] = R"("ssid": "Second", "bssid": "02:00:00:00:01:02")";
 INSTANTIATE_TEST_SUITE_P(
     Syntax,
     ScenarioMessage,
-    testing::Values(Case{"Comma", "{\n  \"codePage\": 1252,\n}", "office.json: line 3, column 1: syntax error"},
-                    Case{"Empty", "", "office.json: line 1, column 1: syntax error"},
-                    Case{"Rest", "{} {}", "office.json: line 1, column 4: syntax error"},
-                    Case{"NotUtf8", "{\"description\": \"\xFF\"}", "office.json: line 1, column 18: syntax error"}),
+    ::testing::Values(Case{"Comma", "{\n  \"codePage\": 1252,\n}", "office.json: line 3, column 1: syntax error"},
+                      Case{"Empty", "", "office.json: line 1, column 1: syntax error"},
+                      Case{"Rest", "{} {}", "office.json: line 1, column 4: syntax error"},
+                      Case{"NotUtf8", "{\"description\": \"\xFF\"}", "office.json: line 1, column 18: syntax error"}),
     NameOf);
 
 /// What the published schema refuses, too.
@@ -121,7 +121,7 @@ const Case kRefusedBySchema[] = {
     Case{"Rssi", WithAccessPoint(std::string(kPoint) + R"(, "rssi": 60)"),
          "office.json: /accessPoints/1/rssi: greater than 0. Expected: The signal strength"}};
 
-INSTANTIATE_TEST_SUITE_P(Schema, ScenarioMessage, testing::ValuesIn(kRefusedBySchema), NameOf);
+INSTANTIATE_TEST_SUITE_P(Schema, ScenarioMessage, ::testing::ValuesIn(kRefusedBySchema), NameOf);
 
 TEST(ScenarioMessages, TheSchemaRefusesTheSame)
 {
@@ -133,7 +133,7 @@ TEST(ScenarioMessages, TheSchemaRefusesTheSame)
 INSTANTIATE_TEST_SUITE_P(
     BeyondTheSchema,
     ScenarioMessage,
-    testing::Values(
+    ::testing::Values(
         Case{"NegativeCount", WithAdapter(R"("statistics": {"received": -1})"),
              "office.json: /adapters/0/statistics/received: less than 0"},
         Case{"DuplicateBssid", WithAccessPoint(R"("ssid": "Second", "bssid": "02:00:00:00:01:01")"),

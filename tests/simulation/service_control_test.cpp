@@ -13,7 +13,7 @@ namespace calvix::simulation::service_control_test
 namespace
 {
 
-class ServiceControlTest : public testing::Test
+class ServiceControlTest : public ::testing::Test
 {
 protected:
     SC_HANDLE OpenManager() { return m_control.OpenSCManagerA(nullptr, nullptr, SC_MANAGER_ALL_ACCESS); }

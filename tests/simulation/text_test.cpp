@@ -15,7 +15,7 @@ namespace calvix::simulation::text_test
 namespace
 {
 
-class TextTest : public testing::Test
+class TextTest : public ::testing::Test
 {
 protected:
     std::wstring Decode(UINT codePage, const std::string& bytes)

@@ -31,11 +31,9 @@ LibraryTest::LibraryTest(const simulation::Scenario& world) : m_world(world)
     Begin();
 }
 
-LibraryTest::~LibraryTest() = default;
-
 void LibraryTest::Begin()
 {
-    m_computer.emplace(m_world, m_chain);
+    m_computer = calvix::testing::ComputerInternals::Make(m_world);
     SetTracing(true);
     CWirelessManage::Get();
     ClearCalls();
@@ -45,7 +43,7 @@ void LibraryTest::End()
 {
     ClearFailures();
     // A test may have deleted the manager itself.
-    m_computer->ForgetClosedClient();
+    inside().ForgetClosedClient();
     CWirelessManage::Delete();
     CheckAccounts(0);
     m_expectedDefects.clear();
@@ -73,44 +71,49 @@ void LibraryTest::Restart()
 
 void LibraryTest::ForgetClient()
 {
-    m_computer->CloseClient();
+    inside().CloseClient();
     ClearCalls();
 }
 
 std::vector<std::string> LibraryTest::calls() const
 {
-    std::vector<std::string> operations = m_log.Operations();
-    std::erase_if(operations, IsReporting);
+    std::vector<std::string> operations;
+    for (const Call& each : m_computer->Calls())
+        if (!IsReporting(each.operation))
+            operations.push_back(each.operation);
     return operations;
 }
 
 std::vector<std::string> LibraryTest::callLines() const
 {
     std::vector<std::string> lines;
-    for (const wrappers::Call& each : m_log.Calls())
+    for (const Call& each : m_computer->Calls())
         if (!IsReporting(each.operation))
-            lines.push_back(each.Line());
+            lines.push_back(each.line);
     return lines;
 }
 
 std::vector<std::string> LibraryTest::timeline() const
 {
-    return m_log.Lines();
+    std::vector<std::string> lines;
+    for (const Call& each : m_computer->Calls())
+        lines.push_back(each.line);
+    return lines;
 }
 
-wrappers::Call LibraryTest::call(std::string_view operation, std::size_t number) const
+Call LibraryTest::call(std::string_view operation, std::size_t number) const
 {
     std::size_t seen = 0;
-    for (const wrappers::Call& each : m_log.Calls())
+    for (const Call& each : m_computer->Calls())
         if (each.operation == operation && ++seen == number)
             return each;
     ADD_FAILURE() << operation << " was called " << seen << " times, not " << number;
-    return {operation, {}};
+    return {};
 }
 
-std::vector<std::string> LibraryTest::traced() const
+std::vector<std::string> LibraryTest::traced()
 {
-    const std::vector<std::string>& output = m_computer->computer().DebuggerLines();
+    const std::vector<std::string>& output = computer().DebuggerLines();
     std::vector<std::string> lines;
     for (std::size_t i = 0; i < output.size(); i += 2)
     {
@@ -139,15 +142,10 @@ bool LibraryTest::sharedTraceUntouched() const
 
 void LibraryTest::ClearCalls()
 {
-    m_log.Clear();
+    m_computer->ForgetCalls();
     computer().ClearDebuggerLines();
     std::memset(g_szTraceBuf, '#', kSharedTraceCapacity);
     std::memcpy(g_szTraceBuf, kMarker, sizeof kMarker);
-}
-
-void LibraryTest::FailOn(std::string operation, DWORD error, unsigned from, unsigned times)
-{
-    m_faults.Fail(std::move(operation), {error, from, times});
 }
 
 void LibraryTest::SetTracing(bool on)
@@ -167,16 +165,16 @@ void LibraryTest::ExpectDefect(std::string part)
 
 void LibraryTest::CheckAccounts(std::size_t clientsAllowed)
 {
-    const simulation::Accounts accounts = computer().Audit();
-    EXPECT_EQ(0u, accounts.liveBlocks) << "blocks of the WLAN service were not released";
-    EXPECT_EQ(0u, accounts.openHandles) << "handles were not closed";
-    EXPECT_LE(accounts.openClients, clientsAllowed) << "client handles were not closed";
-    for (const std::string& defect : accounts.defects)
+    const calvix::testing::Held held = m_computer->Held();
+    EXPECT_EQ(0u, held.blocks) << "blocks of the WLAN service were not released";
+    EXPECT_EQ(0u, held.handles) << "handles were not closed";
+    EXPECT_LE(held.clients, clientsAllowed) << "client handles were not closed";
+    for (const std::string& defect : held.defects)
         if (std::none_of(m_expectedDefects.begin(), m_expectedDefects.end(),
                          [&](const std::string& part) { return Contains(defect, part); }))
             ADD_FAILURE() << "defect: " << defect;
     for (const std::string& part : m_expectedDefects)
-        if (std::none_of(accounts.defects.begin(), accounts.defects.end(),
+        if (std::none_of(held.defects.begin(), held.defects.end(),
                          [&](const std::string& defect) { return Contains(defect, part); }))
             ADD_FAILURE() << "no defect with \"" << part << "\" was noticed";
 }

@@ -27,26 +27,21 @@
 // After it nothing may be held: no block of the service, no handle, no client, and no defect that was not announced.
 
 #include "support/test_worlds.h"
-#include "testing/test_computer.h"
-#include "wrappers/call_log.h"
-#include "wrappers/fault_injection.h"
+#include "testing/computer_internals.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <memory>
-#include <optional>
-
 namespace calvix::test
 {
+
+using calvix::testing::Call;
 
 class LibraryTest : public ::testing::Test
 {
 public:
     LibraryTest() : LibraryTest(RichWorld()) {}
     explicit LibraryTest(const simulation::Scenario& world);
-    ~LibraryTest() override;
 
     /// Replaces the computer by a fresh one of this world, and the manager with it.
     void UseWorld(const simulation::Scenario& world);
@@ -55,7 +50,7 @@ public:
     const simulation::Scenario& world() const { return m_world; }
 
     CWirelessManage& manager() { return m_computer->Manager(); }
-    simulation::Computer& computer() { return m_computer->computer(); }
+    simulation::Computer& computer() { return calvix::testing::ComputerInternals::Simulated(*m_computer); }
     void Advance(std::chrono::milliseconds duration) { computer().Advance(duration); }
 
     /// Closes the client handle, so that the next call opens it again.
@@ -68,11 +63,11 @@ public:
     std::vector<std::string> callLines() const;
     std::vector<std::string> timeline() const;
     /// The n-th call of an operation, from 1, to look at its arguments by name; fails the test when there is none.
-    wrappers::Call call(std::string_view operation, std::size_t number = 1) const;
-    std::size_t callCount(std::string_view operation) const { return m_log.Count(operation); }
+    Call call(std::string_view operation, std::size_t number = 1) const;
+    std::size_t callCount(std::string_view operation) const { return m_computer->CallCount(operation); }
 
     /// The trace lines since then, without their line breaks.
-    std::vector<std::string> traced() const;
+    std::vector<std::string> traced();
     /// What the shared trace buffer holds.
     std::string sharedTrace() const;
     bool sharedTraceUntouched() const;
@@ -81,12 +76,21 @@ public:
     void ClearCalls();
 
     /// Makes calls of an operation fail: from the `from`-th one counted from now, `times` of them.
-    void
-    FailOn(std::string operation, DWORD error = 5, unsigned from = 1, unsigned times = wrappers::Fault::kUnlimited);
-    /// Makes calls fail by choice; `predicate` may do something to the computer at that moment instead.
-    void FailWhen(wrappers::FaultInjection::Predicate predicate) { m_faults.FailWhen(std::move(predicate)); }
-    unsigned InjectedFailures() const { return m_faults.Injected(); }
-    void ClearFailures() { m_faults.Clear(); }
+    void FailOn(const std::string& operation,
+                DWORD error = 5,
+                unsigned from = 1,
+                unsigned times = calvix::testing::Computer::kAlways)
+    {
+        m_computer->Fail(operation, error, from, times);
+    }
+    /// Makes calls fail by choice; `decide` may do something to the computer at that moment instead.
+    template <typename Decide>
+    void FailWhen(Decide decide)
+    {
+        m_computer->FailWhen(std::move(decide));
+    }
+    unsigned InjectedFailures() const { return m_computer->FailedCalls(); }
+    void ClearFailures() { m_computer->StopFailing(); }
 
     void SetTracing(bool on);
 
@@ -104,11 +108,10 @@ private:
     void End();
     void CheckAccounts(std::size_t clientsAllowed);
 
+    TestComputer& inside() { return calvix::testing::ComputerInternals::Inside(*m_computer); }
+
     simulation::Scenario m_world;
-    wrappers::CallLog m_log;
-    wrappers::FaultInjection m_faults;
-    wrappers::InterceptorChain m_chain{{&m_log, &m_faults}};
-    std::optional<TestComputer> m_computer;
+    std::unique_ptr<calvix::testing::Computer> m_computer;
     std::vector<std::string> m_expectedDefects;
 };
 

@@ -59,6 +59,25 @@ TEST(TestingComputer, MakesTheCallsFailThatAreNamed)
     EXPECT_THROW(computer.Fail("WlanScam", 5), std::invalid_argument);
 }
 
+TEST(TestingComputer, AsksWhichCallsAreToFail)
+{
+    Computer computer;
+    computer.FailWhen(
+        [&](const Call& call) -> std::optional<unsigned long>
+        {
+            if (call.operation == "WlanScan")
+                computer.SetServiceRunning(false);
+            if (call["interface"] == "null")
+                return 87;
+            return std::nullopt;
+        });
+    unsigned long error = 0;
+    EXPECT_EQ(-4, computer.Manager().Rescan(nullptr, error));
+    EXPECT_EQ(87u, error);
+    EXPECT_EQ(1u, computer.FailedCalls());
+    EXPECT_EQ(-2, computer.Manager().Rescan()) << "the service was stopped at the first scan";
+}
+
 TEST(TestingComputer, CountsWhatIsHeld)
 {
     Computer computer;

@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,13 @@ struct Call
     std::string operation;                                     ///< such as "WlanScan"
     std::map<std::string, std::string, std::less<>> arguments; ///< by name, each as text
     std::string line;                                          ///< the call with its arguments
+
+    /// The text of an argument, empty if there is none of this name.
+    std::string operator[](std::string_view name) const
+    {
+        const auto found = arguments.find(name);
+        return found != arguments.end() ? found->second : std::string();
+    }
 };
 
 /// What programs have not released, and what they did that a correct program does not do.
@@ -68,6 +76,8 @@ public:
     /// Makes calls of an operation fail with a platform error number: from the `fromCall`-th one, counted from now from 1,
     /// `times` of them. Such a call does not reach the computer. An unknown operation is a std::invalid_argument.
     void Fail(const std::string& operation, unsigned long error, unsigned fromCall = 1, unsigned times = kAlways);
+    /// Makes the calls fail for which `decide` returns an error number. It may change the computer at that moment, too.
+    void FailWhen(std::function<std::optional<unsigned long>(const Call&)> decide);
     /// No call is made to fail any more.
     void StopFailing();
     /// How many calls were made to fail since the last StopFailing, to see that a test met its failure at all.
@@ -83,6 +93,7 @@ public:
     testing::Held Held();
 
 private:
+    friend struct ComputerInternals;
     struct Parts;
     explicit Computer(std::unique_ptr<Parts> parts);
 

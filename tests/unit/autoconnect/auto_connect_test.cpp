@@ -88,9 +88,9 @@ TEST_F(AutoConnectTest, AProfileIsTriedWithEachOfItsNetworks)
     FailOn("WlanConnect");
     EXPECT_EQ(0, Auto(manager()));
     EXPECT_EQ(3u, callCount("WlanConnect"));
-    EXPECT_EQ(StandardRequest("First", "independent"), call("WlanConnect", 1).Line());
-    EXPECT_EQ(StandardRequest("First"), call("WlanConnect", 2).Line());
-    EXPECT_EQ(StandardRequest("Second"), call("WlanConnect", 3).Line());
+    EXPECT_EQ(StandardRequest("First", "independent"), call("WlanConnect", 1).line);
+    EXPECT_EQ(StandardRequest("First"), call("WlanConnect", 2).line);
+    EXPECT_EQ(StandardRequest("Second"), call("WlanConnect", 3).line);
 }
 
 TEST_F(AutoConnectTest, ProfilesMatchByTheirNameNotBySsid)

@@ -160,7 +160,7 @@ TEST_F(RoamingTest, ThePickIsTheLastAccessPointThatBeatsTheFirst)
         edited.service.bssList = WithQualities(qualities);
         EXPECT_EQ(0, manager().PreRoaming(&kAdapterA));
         EXPECT_EQ(0, manager().Roaming(&kAdapterA));
-        EXPECT_EQ(RequestFor("02:00:00:00:00:0" + std::to_string(picked)), call("WlanConnect").Line());
+        EXPECT_EQ(RequestFor("02:00:00:00:00:0" + std::to_string(picked)), call("WlanConnect").line);
     }
 }
 

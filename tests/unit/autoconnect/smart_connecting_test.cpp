@@ -64,7 +64,7 @@ TEST_F(SmartConnectingTest, WorksOnTheFirstInterfaceWhicheverIsNamed)
         char name[128] = {};
         EXPECT_EQ(0, manager().SmartConnecting(interfaceGuid, name));
         EXPECT_STREQ("HomeNet", name);
-        EXPECT_EQ(StandardRequest("HomeNet"), call("WlanConnect").Line());
+        EXPECT_EQ(StandardRequest("HomeNet"), call("WlanConnect").line);
     }
 }
 
@@ -101,7 +101,7 @@ TEST_F(SmartConnectingTest, TheFirstNetworkOfTheProfileIsTaken)
     };
     EXPECT_EQ(87, ConnectWritingNothing(manager())) << "the profile is of another BSS type";
     EXPECT_EQ(1u, callCount("WlanConnect"));
-    EXPECT_EQ(StandardRequest("First", "independent"), call("WlanConnect").Line());
+    EXPECT_EQ(StandardRequest("First", "independent"), call("WlanConnect").line);
 }
 
 TEST_F(SmartConnectingTest, ARefusedRequestIsTheEnd)

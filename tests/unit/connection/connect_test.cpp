@@ -155,7 +155,7 @@ TEST_F(ConnectTest, LinkProfileStartsTheConnectionAndDoesNotWaitForIt)
 TEST_F(ConnectTest, LinkProfileAsksForTheNetworksOwnBssType)
 {
     EXPECT_EQ(0, Link("AdHocNet"));
-    EXPECT_EQ(ConnectLine("AdHocNet", "null", "independent"), call("WlanConnect").Line());
+    EXPECT_EQ(ConnectLine("AdHocNet", "null", "independent"), call("WlanConnect").line);
 }
 
 TEST_F(ConnectTest, LinkProfileOutOfRangeConnectsNothing)
@@ -198,14 +198,14 @@ TEST_F(ConnectTest, LinkProfileTakesTheFirstOfSeveralNetworks)
     };
     EXPECT_EQ(1168, Link("Same")) << "no such profile is stored";
     EXPECT_EQ(1u, callCount("WlanConnect")) << "no other network is tried";
-    EXPECT_EQ(ConnectLine("Same", "null", "independent"), call("WlanConnect").Line());
+    EXPECT_EQ(ConnectLine("Same", "null", "independent"), call("WlanConnect").line);
 }
 
 // The first network without a profile is HiddenNet's.
 TEST_F(ConnectTest, LinkProfileOfAnEmptyNameAsksForTheFirstNetworkWithoutAProfile)
 {
     EXPECT_EQ(87, Link("")) << "the service wants a name";
-    EXPECT_EQ(ConnectLine("", "null", "infrastructure"), call("WlanConnect").Line());
+    EXPECT_EQ(ConnectLine("", "null", "infrastructure"), call("WlanConnect").line);
     EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 87"));
 }
 
@@ -214,7 +214,7 @@ TEST_F(ConnectTest, LinkProfileTakesTheNameInTheActiveCodePage)
     simulation::Scenario world = WorldOf({Profile("Caf\xC3\xA9")}, {Heard("Caf\xC3\xA9", 2412000, -50)});
     UseWorld(world);
     EXPECT_EQ(0, Link("Caf\xE9")); // 1252
-    EXPECT_EQ(ConnectLine("Caf\\u00E9", "null", "infrastructure"), call("WlanConnect").Line());
+    EXPECT_EQ(ConnectLine("Caf\\u00E9", "null", "infrastructure"), call("WlanConnect").line);
     world.codePage = 932;
     UseWorld(world);
     EXPECT_EQ(1113, Link("Caf\xFF")) << "an invalid character";
@@ -312,7 +312,7 @@ TEST_F(ConnectTest, ReconnectAsksForTheAccessPointsOfTheRememberedNetwork)
         ClearCalls();
         EXPECT_EQ(0, reconnect(manager(), kOtherName, 20)) << name;
         EXPECT_EQ("\"OfficeNet\"/9", call("WlanGetNetworkBssList")["ssid"]) << name;
-        EXPECT_EQ(ConnectLine("HomeNet", "[02:22:00:00:50:95]", "infrastructure"), call("WlanConnect").Line()) << name;
+        EXPECT_EQ(ConnectLine("HomeNet", "[02:22:00:00:50:95]", "infrastructure"), call("WlanConnect").line) << name;
         EXPECT_TRUE(traced().empty());
         EXPECT_TRUE(sharedTraceUntouched());
     }
@@ -362,7 +362,7 @@ TEST_F(ConnectTest, ReconnectChoosesTheLastAccessPointThatBeatsTheFirst)
             };
             EXPECT_EQ(0, reconnect(manager(), kHome, 20)) << name;
             EXPECT_EQ(ConnectLine("HomeNet", "[02:00:00:00:00:0" + std::to_string(chosen) + "]", "infrastructure"),
-                      call("WlanConnect").Line())
+                      call("WlanConnect").line)
                 << name << " of " << ::testing::PrintToString(qualities);
         }
     }
@@ -449,7 +449,7 @@ TEST_F(ConnectTest, ResetConnectionKeepsProfileAndBssType)
     world.adapters[0].connection = simulation::Connection{"AdHocNet", kAdHocNet};
     UseWorld(world);
     EXPECT_EQ(0, ResetA(manager()));
-    EXPECT_EQ(ConnectLine("AdHocNet", "null", "independent"), call("WlanConnect").Line());
+    EXPECT_EQ(ConnectLine("AdHocNet", "null", "independent"), call("WlanConnect").line);
 }
 
 TEST_F(ConnectTest, ResetConnectionFailures)

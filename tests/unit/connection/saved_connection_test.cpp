@@ -387,7 +387,7 @@ TEST_F(SavedConnectionTest, TheAccessPointIsTheLastThatBeatsTheFirst)
         list.wlanBssEntries[2].uLinkQuality = 51;
     };
     EXPECT_EQ(0, RecoverNotification(manager()));
-    EXPECT_EQ(ConnectLine("HomeNet", "[02:11:00:00:60:01]", "infrastructure"), call("WlanConnect").Line());
+    EXPECT_EQ(ConnectLine("HomeNet", "[02:11:00:00:60:01]", "infrastructure"), call("WlanConnect").line);
 }
 
 TEST_F(SavedConnectionTest, TheSavedModeDoesNotMatterToNotifications)

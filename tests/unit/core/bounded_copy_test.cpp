@@ -12,7 +12,7 @@ namespace
 {
 
 template <typename Character>
-class BoundedCopyTest : public testing::Test
+class BoundedCopyTest : public ::testing::Test
 {
 protected:
     static constexpr Character kHomeNet[] = {'H', 'o', 'm', 'e', 'N', 'e', 't', 0};
@@ -31,7 +31,7 @@ protected:
     Character m_room[10];
 };
 
-using Characters = testing::Types<char, wchar_t>;
+using Characters = ::testing::Types<char, wchar_t>;
 
 } // namespace
 

@@ -502,8 +502,8 @@ TEST_F(HostileRecordsTest, FullNamesAreReadAndMovedTerminated)
     {
         for (std::size_t number = 1; number <= callCount(operation); ++number, ++seen)
         {
-            const wrappers::Call made = call(operation, number);
-            EXPECT_EQ("\"" + kFullName + "\"", made["name"]) << made.Line();
+            const Call made = call(operation, number);
+            EXPECT_EQ("\"" + kFullName + "\"", made["name"]) << made.line;
         }
     }
     EXPECT_LE(5u, seen);

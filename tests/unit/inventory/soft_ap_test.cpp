@@ -254,7 +254,7 @@ TEST_F(SoftApTest, TheProfileNameTells)
     for (const auto& row : rows)
     {
         const AlteredAnswers altered(WithProfileName(row.name));
-        EXPECT_EQ(row.special, manager().SpecialSoftAP()) << testing::PrintToString(std::wstring(row.name));
+        EXPECT_EQ(row.special, manager().SpecialSoftAP()) << ::testing::PrintToString(std::wstring(row.name));
     }
 }
 

@@ -195,7 +195,7 @@ TEST_F(ProfileTextTest, SetProfileStoresForAllUsersAndOverwrites)
     const std::wstring xml(profile.xml.begin(), profile.xml.end());
     EXPECT_EQ(0, manager().SetProfile(&kAdapterA, xml.c_str()));
     EXPECT_THAT(calls(), ElementsAre("WlanSetProfile"));
-    const wrappers::Call set = call("WlanSetProfile");
+    const Call set = call("WlanSetProfile");
     EXPECT_EQ(kAdapterAText, set["interface"]);
     EXPECT_EQ("0", set["flags"]);
     EXPECT_EQ("null", set["allUserProfileSecurity"]);

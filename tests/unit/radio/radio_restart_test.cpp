@@ -86,7 +86,7 @@ public:
         ClearCalls();
         ClearFailures();
         SlowRadio radio{offAt, onAt, GetParam()};
-        FailWhen([&radio](const wrappers::Call& call) { return radio.Hear(call.operation); });
+        FailWhen([&radio](const Call& call) { return radio.Hear(call.operation); });
         const AlteredAnswers altered({.query = [&radio](WLAN_INTF_OPCODE, PVOID data, DWORD&)
                                       { radio.Answer(*static_cast<WLAN_RADIO_STATE*>(data)); }});
         const auto before = computer().Now();

@@ -180,7 +180,7 @@ TEST_F(RadioSwitchTest, ResetSwitchesOnThroughTheClientHandleAsItThenStands)
     DWORD negotiated = 0;
     ASSERT_EQ(0u, computer().wlan().WlanOpenHandle(2, nullptr, &negotiated, &other));
     FailWhen(
-        [&](const wrappers::Call& call) -> std::optional<DWORD>
+        [&](const Call& call) -> std::optional<unsigned long>
         {
             if (call.operation == "Sleep")
                 ManagerInternals::Client() = other;

@@ -14,7 +14,7 @@ TEST(MethodTable, HasEveryExportedMethodOnce)
     std::vector<std::string> declarations;
     for (const methods::Method& method : methods::EveryMethod())
         declarations.push_back(method.declaration);
-    EXPECT_THAT(declarations, testing::UnorderedElementsAreArray(methods::ExportedMethods()));
+    EXPECT_THAT(declarations, ::testing::UnorderedElementsAreArray(methods::ExportedMethods()));
 }
 
 } // namespace

@@ -133,8 +133,8 @@ TEST_F(LegacyPowerSchemeTest, TheSchemeIsActivatedUnderTheNumberThatWritingGaveI
     {
         ClearCalls();
         EXPECT_EQ(0, change(manager()));
-        EXPECT_EQ(Write(change == Set ? kActive : kOther), call("WritePwrScheme").Line());
-        EXPECT_EQ(Activate(kOther), call("SetActivePwrScheme").Line());
+        EXPECT_EQ(Write(change == Set ? kActive : kOther), call("WritePwrScheme").line);
+        EXPECT_EQ(Activate(kOther), call("SetActivePwrScheme").line);
     }
 }
 
