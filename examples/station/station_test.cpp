@@ -1,6 +1,7 @@
 #include "station.h"
 
 #include <calvix/testing/computer.h>
+#include <calvix/testing/scenario.h>
 
 #include <gtest/gtest.h>
 
@@ -9,13 +10,18 @@
 namespace
 {
 
+using calvix::testing::Computer;
+using calvix::testing::Scenario;
+
+bool Join(Computer& computer, std::ostream& out)
+{
+    return JoinBestNetwork(computer.Manager(), out, [&](auto duration) { computer.Advance(duration); });
+}
+
 class StationTest : public ::testing::Test
 {
 protected:
-    bool Join()
-    {
-        return JoinBestNetwork(computer.Manager(), out, [this](auto duration) { computer.Advance(duration); });
-    }
+    bool Join() { return ::Join(computer, out); }
 
     void ExpectNothingHeld()
     {
@@ -25,7 +31,7 @@ protected:
 
     bool Said(const char* text) const { return out.str().find(text) != std::string::npos; }
 
-    calvix::testing::Computer computer;
+    Computer computer;
     std::ostringstream out;
 };
 
@@ -76,23 +82,48 @@ TEST_F(StationTest, GivesUpWhenTheCallbackIsRefused)
     ExpectNothingHeld();
 }
 
+//! [scenario]
 TEST(Station, SaysThatTheAccessPointDoesNotAnswer)
 {
-    calvix::testing::Computer computer(R"({
-        "adapters": [{ "guid": "{5CA1AB1E-0042-4000-8000-00CA1F1C0042}", "description": "Test adapter",
-                       "address": "02:ca:1f:00:00:42", "profiles": [{ "name": "Office", "key": "correct horse" }] }],
-        "accessPoints": [{ "ssid": "Office", "bssid": "02:00:00:00:00:01", "band": "5", "channel": 36,
-                           "rssi": -50, "answers": false }] })");
+    Computer computer(Scenario().Adapter().Profile("Office").AccessPoint("Office", -50, R"("answers": false)").Text());
     std::ostringstream out;
-    EXPECT_FALSE(JoinBestNetwork(computer.Manager(), out, [&](auto duration) { computer.Advance(duration); }));
+    EXPECT_FALSE(Join(computer, out));
     EXPECT_NE(std::string::npos, out.str().find("not connected: ")) << out.str();
+}
+//! [scenario]
+
+// Somebody else connects the same adapter before the host does, or the other one after it.
+TEST(Station, IgnoresOtherConnections)
+{
+    for (const std::size_t requests : {0u, 1u})
+    {
+        const char* const fast = R"("connectMilliseconds": 200)";
+        Scenario scenario;
+        scenario.Adapter(fast).Profile("Office").Profile("Yard", R"("mode": "manual")");
+        scenario.Adapter(fast).Profile("Yard");
+        scenario.AccessPoint("Office", -50, R"("answers": false)").AccessPoint("Yard", -60);
+        Computer computer(scenario.Text());
+        std::vector<WLAN_INTERFACE_INFO> adapters;
+        computer.Manager().GetWlanInterface(&adapters);
+        const auto pause = [&](auto duration)
+        {
+            char profile[] = "Yard";
+            if (computer.CallCount("WlanConnect") == requests)
+                computer.Manager().LinkProfile(&adapters[requests].InterfaceGuid, profile);
+            computer.Advance(duration);
+        };
+        std::ostringstream out;
+        EXPECT_FALSE(JoinBestNetwork(computer.Manager(), out, pause));
+        EXPECT_EQ(2u, computer.CallCount("WlanConnect"));
+        EXPECT_NE(std::string::npos, out.str().find("not connected: ")) << out.str();
+    }
 }
 
 TEST(Station, SaysThatThereIsNoAdapter)
 {
-    calvix::testing::Computer computer("{}");
+    Computer computer(Scenario().Text());
     std::ostringstream out;
-    EXPECT_FALSE(JoinBestNetwork(computer.Manager(), out, [&](auto duration) { computer.Advance(duration); }));
+    EXPECT_FALSE(Join(computer, out));
     EXPECT_NE(std::string::npos, out.str().find("the computer has no wireless adapter")) << out.str();
 }
 

@@ -1,4 +1,5 @@
 #include <calvix/testing/computer.h>
+#include <calvix/testing/scenario.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@ namespace
 
 using calvix::testing::Call;
 using calvix::testing::Computer;
+using calvix::testing::Scenario;
 using ::testing::HasSubstr;
 
 /// The adapter of the built-in home.
@@ -102,6 +104,25 @@ TEST(TestingComputer, ChangesWhileItRuns)
     EXPECT_EQ(-5, manager.GetAvailableNetworkCount(&kAdapter));
     computer.SetServiceRunning(false);
     EXPECT_EQ(-2, manager.Rescan());
+}
+
+TEST(TestingScenario, DescribesAComputer)
+{
+    Scenario scenario(R"("codePage": 65001)");
+    scenario.Adapter().Profile("Say \"hi\"").Profile("Yard", R"("mode": "manual")");
+    scenario.Adapter(R"("description": "The other one")");
+    scenario.AccessPoint("Yard", -70, R"("band": "5", "channel": 36)").AccessPoint("Caf\xC3\xA9", -50);
+    Computer computer(scenario.Text());
+    std::vector<WLAN_INTERFACE_INFO> adapters;
+    EXPECT_EQ(0, computer.Manager().GetWlanInterface(&adapters));
+    ASSERT_EQ(2u, adapters.size());
+    EXPECT_EQ(std::wstring(L"The other one"), adapters[1].strInterfaceDescription);
+    EXPECT_EQ(0, computer.Manager().GetProfile(&adapters[0].InterfaceGuid, L"Say \"hi\""));
+    EXPECT_EQ(0, computer.Manager().IsAutoConnMode2(&adapters[0].InterfaceGuid, L"Yard"));
+    EXPECT_EQ(0, computer.Manager().GetProfileCount(&adapters[1].InterfaceGuid));
+    EXPECT_EQ(2, computer.Manager().GetNetworkBssCount());
+    EXPECT_THROW(Scenario("\"codePage\""), std::exception);
+    EXPECT_THROW(Scenario().Profile("Yard"), std::exception) << "of no adapter";
 }
 
 TEST(TestingComputer, RefusesAScenarioThatCannotBeUsed)
