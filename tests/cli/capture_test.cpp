@@ -4,9 +4,9 @@
 
 #include "forms/hex_text.h"
 #include "platform/platform.h"
-#include "simulation/computer.h"
 #include "simulation/timetable.h"
 #include "support/altered_answers.h"
+#include "testing/computer_internals.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -57,20 +57,9 @@ protected:
     }
 
     /// A computer in place of a scenario file, so that a test can change its answers.
-    void Use(const Scenario& world)
-    {
-        m_computer = std::make_unique<simulation::Computer>(world);
-        platform::ReplacePlatform(m_computer.get());
-    }
+    void Use(const Scenario& world) { m_computer = calvix::testing::ComputerInternals::Make(world); }
 
-    void TearDown() override
-    {
-        if (m_computer == nullptr)
-            return;
-        platform::ReplacePlatform(nullptr);
-        EXPECT_EQ(0u, m_computer->Audit().liveBlocks);
-        EXPECT_EQ(0u, m_computer->Audit().openClients);
-    }
+    void TearDown() override { EXPECT_TRUE(m_computer == nullptr || m_computer->Held().Nothing()); }
 
     Outcome CaptureIt(const std::string& seconds = "0") { return Run({"capture", "-o", Captured(), "--for", seconds}); }
 
@@ -85,7 +74,7 @@ protected:
     }
 
 private:
-    std::unique_ptr<simulation::Computer> m_computer;
+    std::unique_ptr<calvix::testing::Computer> m_computer;
 };
 
 /// Has an operation refused, whatever it is asked.
