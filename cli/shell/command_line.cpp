@@ -62,20 +62,31 @@ void AddCommonOptions(CLI::App& app, const CommandSet& commands)
         AddArgument(app, option).group(kCommonGroup);
 }
 
-void AddCommand(CLI::App& parent, const CommandSet& commands, const Command& command, const Command*& chosen)
+/// The options of a command go to the parser only where the command line has its name: all of them take it longer than most
+/// commands do.
+void AddCommand(CLI::App& parent,
+                const CommandSet& commands,
+                const Command& command,
+                const std::vector<std::string>& words,
+                const Command*& chosen)
 {
     CLI::App& app = *parent.add_subcommand(command.lastWord(), command.summary);
     app.footer((command.examples.empty() ? "" : command.examples + "\n\n") + ExitCodeLines());
     if (command.hidden)
         app.group("");
+    app.callback([&command, &chosen] { chosen = &command; });
+    if (std::find(words.begin(), words.end(), command.lastWord()) == words.end())
+        return;
     AddCommonOptions(app, commands);
     for (const Argument& argument : command.arguments)
         AddArgument(app, argument);
-    app.callback([&command, &chosen] { chosen = &command; });
 }
 
 /// The commands on the parser; `chosen` is the one on the command line.
-void AddCommands(CLI::App& app, const CommandSet& commands, const Command*& chosen)
+void AddCommands(CLI::App& app,
+                 const CommandSet& commands,
+                 const std::vector<std::string>& words,
+                 const Command*& chosen)
 {
     AddCommonOptions(app, commands);
     std::map<std::string, CLI::App*> parents{{"", &app}};
@@ -90,7 +101,7 @@ void AddCommands(CLI::App& app, const CommandSet& commands, const Command*& chos
             parent->fallthrough();
             parent->footer(ExitCodeLines());
         }
-        AddCommand(*parent, commands, command, chosen);
+        AddCommand(*parent, commands, command, words, chosen);
     }
 }
 
@@ -148,7 +159,7 @@ const Command* ParseArguments(const CommandSet& commands,
     app.set_version_flag("--version", std::string("calvix ") + kVersionNumber);
     app.require_subcommand(1);
     app.footer(std::string(kProgramExamples) + "\n\n" + ExitCodeLines());
-    AddCommands(app, commands, chosen);
+    AddCommands(app, commands, arguments, chosen);
     try
     {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
