@@ -52,6 +52,8 @@ elseif(CALVIX_SANITIZE)
     add_link_options(-fsanitize=${CALVIX_SANITIZE})
     if(CALVIX_SANITIZE MATCHES "address")
         add_compile_definitions(CALVIX_ADDRESS_SANITIZER) # each compiler has a sign of its own for it
+    elseif(CALVIX_SANITIZE MATCHES "thread")
+        add_compile_definitions(CALVIX_THREAD_SANITIZER)
     endif()
 endif()
 if(CALVIX_COVERAGE AND MSVC)

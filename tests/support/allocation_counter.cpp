@@ -15,6 +15,14 @@ thread_local int t_pauses = 0;
 thread_local calvix::test::AllocationFailure* t_failure = nullptr;
 std::atomic<std::ptrdiff_t> g_heldBlocks = 0;
 
+} // namespace
+
+// Those of clang's thread sanitizer cannot be replaced: nothing is counted there.
+#ifndef CALVIX_THREAD_SANITIZER
+
+namespace
+{
+
 /// Counts an allocation. Whether it is one that is to fail.
 bool IsRefused() noexcept
 {
@@ -160,6 +168,8 @@ void operator delete[](void* memory, std::align_val_t, const std::nothrow_t&) no
 {
     ReleaseAligned(memory);
 }
+
+#endif
 
 namespace calvix::test
 {
