@@ -20,8 +20,6 @@ struct ReportOptions
     PictureOptions picture;
 };
 
-constexpr const char* kStandardOutput = "-";
-
 void WritePage(Host& host, const ReportOptions& options, const ReportFacts& report)
 {
     const std::string page = ReportPage(report);

@@ -62,6 +62,11 @@ std::string ReadWholeFile(const std::string& path)
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
 }
 
+bool HasByteOrderMark(std::string_view bytes)
+{
+    return bytes.starts_with(kUtf8Mark) || bytes.starts_with(kUtf16LittleMark) || bytes.starts_with(kUtf16BigMark);
+}
+
 std::string ToUtf8(std::string_view bytes)
 {
     for (const std::string_view mark : {kUtf16LittleMark, kUtf16BigMark})

@@ -44,6 +44,9 @@ auto ReadingFrom(const std::string& source, Read read)
 /// Throws LineError for bytes that are neither.
 std::string ToUtf8(std::string_view bytes);
 
+/// Whether the text begins with the mark of UTF-8 or UTF-16.
+bool HasByteOrderMark(std::string_view bytes);
+
 /// UTF-16 without a byte order mark as UTF-8. Throws LineError for half a surrogate pair and half a character.
 std::string FromUtf16(std::string_view bytes, bool bigEndian);
 

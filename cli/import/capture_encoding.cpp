@@ -16,9 +16,6 @@ namespace
 constexpr std::uint32_t kUtf8CodePage = 65001;
 constexpr std::uint32_t kUtf16LittleCodePage = 1200;
 constexpr std::uint32_t kUtf16BigCodePage = 1201;
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
-constexpr std::string_view kUtf16LittleMark = "\xFF\xFE";
-constexpr std::string_view kUtf16BigMark = "\xFE\xFF";
 
 bool HasOnlyAscii(std::string_view text)
 {
@@ -61,8 +58,7 @@ std::string DecodeCapture(std::string_view bytes, std::optional<std::uint32_t> c
     const std::string& source = warnings.source;
     if (codePage && !CanReadCodePage(*codePage))
         throw CaptureError(source + ": this computer cannot read code page " + std::to_string(*codePage));
-    const bool hasMark =
-        bytes.starts_with(kUtf8Mark) || bytes.starts_with(kUtf16LittleMark) || bytes.starts_with(kUtf16BigMark);
+    const bool hasMark = HasByteOrderMark(bytes);
     if (const std::uint32_t utf16 = hasMark ? 0 : Utf16Without(bytes); utf16 != 0)
         return FromCodePage(bytes, utf16, warnings);
     if (hasMark || codePage == kUtf8CodePage || (!codePage && forms::IsUtf8(bytes)))
