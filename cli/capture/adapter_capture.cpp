@@ -27,7 +27,7 @@ using simulation::PhyDescription;
 using simulation::RadioSwitch;
 using simulation::StoredProfile;
 
-RadioSwitch SwitchOf(DOT11_RADIO_STATE state)
+RadioSwitch RadioSwitchOf(DOT11_RADIO_STATE state)
 {
     return state == dot11_radio_state_off ? RadioSwitch::off : RadioSwitch::on;
 }
@@ -56,7 +56,7 @@ std::vector<PhyDescription> CapturePhys(Host& host, const GUID& guid, MadeScenar
 {
     std::vector<PhyDescription> phys;
     for (const WLAN_PHY_RADIO_STATE& radio : host.service().Radios(&guid))
-        phys.push_back({0, SwitchOf(radio.dot11SoftwareRadioState), SwitchOf(radio.dot11HardwareRadioState)});
+        phys.push_back({0, RadioSwitchOf(radio.dot11SoftwareRadioState), RadioSwitchOf(radio.dot11HardwareRadioState)});
     if (phys.empty())
         phys.emplace_back();
     NamePhys(phys, OrWarn(made, [&] { return host.service().AccessPoints(&guid); }));

@@ -13,8 +13,6 @@ namespace calvix::host
 namespace
 {
 
-constexpr const char* kStandardOutput = "-";
-
 /// What `calvix networks` will list.
 std::size_t ListedNetworks(const simulation::Scenario& scenario)
 {
