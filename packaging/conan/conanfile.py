@@ -50,7 +50,15 @@ class CalvixConan(ConanFile):
     def package_info(self):
         debug_of_visual_c = self.settings.compiler == "msvc" and self.settings.build_type == "Debug"
         suffix = "d" if debug_of_visual_c else ""
-        self.cpp_info.components["calvix"].libs = ["calvix" + suffix]
-        self.cpp_info.components["calvix"].set_property("cmake_target_name", "calvix::calvix")
-        self.cpp_info.components["explain"].libs = ["calvix_explain" + suffix]
-        self.cpp_info.components["explain"].set_property("cmake_target_name", "calvix::explain")
+        on_windows = self.settings.os == "Windows"
+        libraries = {"calvix": "calvix" + suffix, "explain": "calvix_explain" + suffix,
+                     "testing": "calvix_testing" + suffix, "wlanapi": "wlanapi"}
+        for name, library in libraries.items():
+            component = self.cpp_info.components[name]
+            component.set_property("cmake_target_name", "calvix::" + name)
+            if on_windows and name == "wlanapi":
+                component.system_libs = [library]
+            else:
+                component.libs = [library]
+        self.cpp_info.components["testing"].defines = ["CALVIX_STATIC"]
+        self.cpp_info.components["testing"].system_libs = ["advapi32" if on_windows else "pthread"]
