@@ -222,7 +222,8 @@ TEST_F(BssCommand, SpeaksJson)
 std::vector<json> InOrder(const Outcome& outcome, const char* list, const char* member)
 {
     std::vector<json> values;
-    for (const json& one : json::parse(outcome.out)[list])
+    const json printed = json::parse(outcome.out);
+    for (const json& one : printed[list])
         values.push_back(one[member]);
     return values;
 }
