@@ -105,6 +105,7 @@ simulation::Scenario ManyAdapters()
     {
         world.adapters.push_back(world.adapters[0]);
         world.adapters.back().guid.replace(1, 3, std::to_string(number));
+        world.adapters.back().profiles.resize(1); // each run would read all of them eighty times
     }
     return world;
 }
