@@ -75,30 +75,13 @@ void LibraryTest::ForgetClient()
     ClearCalls();
 }
 
-std::vector<std::string> LibraryTest::calls() const
+std::vector<std::string> LibraryTest::Texts(std::string Call::*text, bool all) const
 {
-    std::vector<std::string> operations;
+    std::vector<std::string> texts;
     for (const Call& each : m_computer->Calls())
-        if (!IsReporting(each.operation))
-            operations.push_back(each.operation);
-    return operations;
-}
-
-std::vector<std::string> LibraryTest::callLines() const
-{
-    std::vector<std::string> lines;
-    for (const Call& each : m_computer->Calls())
-        if (!IsReporting(each.operation))
-            lines.push_back(each.line);
-    return lines;
-}
-
-std::vector<std::string> LibraryTest::timeline() const
-{
-    std::vector<std::string> lines;
-    for (const Call& each : m_computer->Calls())
-        lines.push_back(each.line);
-    return lines;
+        if (all || !IsReporting(each.operation))
+            texts.push_back(each.*text);
+    return texts;
 }
 
 Call LibraryTest::call(std::string_view operation, std::size_t number) const

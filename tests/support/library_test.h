@@ -58,10 +58,10 @@ public:
 
     /// The operations that the library called, in order, since the test or the last ClearCalls began. Debugger output
     /// and GetLastError are left out of calls and callLines; timeline has them, too.
-    std::vector<std::string> calls() const;
+    std::vector<std::string> calls() const { return Texts(&Call::operation, false); }
     /// The same with arguments, e.g. "WlanScan(client=1, interface={...}, ssid=null, ieData=null, reserved=null)".
-    std::vector<std::string> callLines() const;
-    std::vector<std::string> timeline() const;
+    std::vector<std::string> callLines() const { return Texts(&Call::line, false); }
+    std::vector<std::string> timeline() const { return Texts(&Call::line, true); }
     /// The n-th call of an operation, from 1, to look at its arguments by name; fails the test when there is none.
     Call call(std::string_view operation, std::size_t number = 1) const;
     std::size_t callCount(std::string_view operation) const { return m_computer->CallCount(operation); }
@@ -108,6 +108,7 @@ private:
     void End();
     void CheckAccounts(std::size_t clientsAllowed);
 
+    std::vector<std::string> Texts(std::string Call::*text, bool all) const;
     TestComputer& inside() { return calvix::testing::ComputerInternals::Inside(*m_computer); }
 
     simulation::Scenario m_world;
