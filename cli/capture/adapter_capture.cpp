@@ -130,11 +130,11 @@ AdapterDescription CaptureAdapter(Host& host, const WLAN_INTERFACE_INFO& info, M
 
 void CaptureConnection(Host& host, const GUID& guid, AdapterDescription& adapter, MadeScenario& made)
 {
-    // Without location consent the service does not tell, and the list of access points has said so.
+    // Without location consent the service refuses, as it did for the list of access points.
     if (!made.scenario.locationConsent)
         return;
     const auto attributes = OrWarn(made, [&] { return host.service().Connection(&guid); });
-    if (!attributes || !StandsConnected(attributes->isState))
+    if (!attributes || !IsConnectedState(attributes->isState))
         return;
     const WLAN_ASSOCIATION_ATTRIBUTES& association = attributes->wlanAssociationAttributes;
     simulation::MacAddress bssid{};

@@ -53,7 +53,7 @@ PowerDescription CapturePower(CWirelessManage& manager)
     power.battery = HasBattery();
     power.lastSleepTime = manager.GetLastSleepTime();
     power.lastWakeTime = manager.GetLastWakeTime();
-    // No operation tells how long it has been up: at least until then.
+    // No operation returns the time since the start: it is at least this long.
     power.upMilliseconds = (std::max)(power.lastSleepTime, power.lastWakeTime) / 10'000;
     power.resumesAutomatically = manager.IsPowerHibernateAllowed() != 0;
     power.enumerationError = SchemeListingError();

@@ -39,17 +39,17 @@ SecuritySuite SuiteOf(const WLAN_AVAILABLE_NETWORK& network)
     return {network.dot11DefaultAuthAlgorithm, network.dot11DefaultCipherAlgorithm};
 }
 
-/// Where several networks have one name, the access point's own elements tell them apart.
+/// If several networks have one name, the access point's own elements distinguish them.
 SecuritySuite SecurityOfEntry(const HeardAccessPoint& heard, const Networks& networks)
 {
-    const std::string told = SecurityOf(BeaconElements(heard.elements));
+    const std::string security = SecurityOf(BeaconElements(heard.elements));
     std::optional<SecuritySuite> likely;
     for (const WLAN_AVAILABLE_NETWORK& network : networks)
     {
         if (!IsOf(network, heard.entry))
             continue;
         const SecuritySuite suite = SuiteOf(network);
-        if (told.find(SecurityText(suite.authentication, suite.encryption)) != std::string::npos)
+        if (security.find(SecurityText(suite.authentication, suite.encryption)) != std::string::npos)
             return suite;
         likely = likely.value_or(suite);
     }

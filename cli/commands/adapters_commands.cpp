@@ -23,7 +23,7 @@ void ListAdapters(Host& host)
     Table table({{"#", Align::right}, {"Description"}, {"State"}, {"GUID"}});
     for (const AdapterFacts& adapter : adapters)
     {
-        const Tone tone = StandsConnected(static_cast<WLAN_INTERFACE_STATE>(adapter.state)) ? Tone::good : Tone::plain;
+        const Tone tone = IsConnectedState(static_cast<WLAN_INTERFACE_STATE>(adapter.state)) ? Tone::good : Tone::plain;
         table.AddRow({std::to_string(adapter.number),
                       VisibleText(adapter.description),
                       {adapter.stateText, tone},

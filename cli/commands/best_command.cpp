@@ -128,7 +128,7 @@ void AddBestCommand(CommandSet& commands)
             "--exclude-ssid", options->excluded.ssids,
             "Do not choose networks whose SSID is this or its beginning, as it is shown or as hex:4361E9; may be given "
             "several times")
-        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
+        .Number("--timeout", options->seconds, "Maximum seconds to wait for the connection")
         .Prints("best", [] { return std::vector{BestRecord({}, {})}; })
         .Examples("Join a network by rank, but no guest network:\n"
                   "  calvix best --exclude-ssid Guest --exclude-ssid hex:436166E9");

@@ -37,7 +37,7 @@ void ShowNow(Host& host)
     PrintStatus(host, status);
 }
 
-/// Has a connection made and shows it.
+/// Makes a connection and shows it.
 void ConnectAndShow(Host& host, const ConnectOptions& options, const std::function<void()>& ask)
 {
     const ConnectRequest request = ConnectAndWait(host, options.seconds, ask);
@@ -76,7 +76,7 @@ void Connect(Host& host, const ConnectOptions& options)
                    });
 }
 
-/// Waits until the service tells that the adapter's connection is down.
+/// Waits until the service reports that the adapter's connection is down.
 void DisconnectAndWait(Host& host, unsigned seconds)
 {
     const GUID* const adapter = host.adapterGuid();
@@ -102,7 +102,7 @@ void Disconnect(Host& host, const ConnectOptions& options)
     ShowNow(host);
 }
 
-/// Goes back to a remembered connection: to the access point that the library picks, to whichever the service picks, or
+/// Goes back to a remembered connection: to the access point that the library picks, to the one that the service picks, or
 /// by the profile alone.
 void GoBack(Host& host, const std::string& method, WLAN_CONNECTION_ATTRIBUTES& remembered)
 {
@@ -132,12 +132,11 @@ void Reset(Host& host, const ConnectOptions& options)
     ConnectAndShow(host, options, [&] { host.Require("ResetConnection", host.manager().ResetConnection(adapter)); });
 }
 
-/// One method works on the first adapter, whichever it is given.
+/// One method ignores its argument and works on the first adapter.
 void RequireFirstAdapter(Host& host)
 {
     if (!IsEqualGUID(host.adapters().front().InterfaceGuid, *host.adapterGuid()))
-        throw BadInput("--method smart works on the first adapter only",
-                       "choose another method, or leave --interface out");
+        throw BadInput("--method smart works on the first adapter only", "choose another method, or omit --interface");
 }
 
 void AskAutomatically(Host& host, const std::string& method)
@@ -166,7 +165,7 @@ void Switch(Host& host, const std::string& method)
 
 Command& AddWaiting(Command& command, const std::shared_ptr<ConnectOptions>& options)
 {
-    return command.Number("--timeout", options->seconds, "Seconds to wait for the outcome at most");
+    return command.Number("--timeout", options->seconds, "Maximum seconds to wait for the result");
 }
 
 void AddPlainCommands(CommandSet& commands)
@@ -174,7 +173,7 @@ void AddPlainCommands(CommandSet& commands)
     const auto options = std::make_shared<ConnectOptions>();
     commands.Add("status", "Show the adapter's state and connection", ShowNow)
         .Prints("status", [] { return std::vector{Describe(StatusFacts{})}; })
-        .Examples("Of the second adapter:\n"
+        .Examples("For the second adapter:\n"
                   "  calvix status --interface 2");
     AddWaiting(commands.Add("connect", "Connect by a stored profile whose network is in view",
                             [options](Host& host) { Connect(host, *options); }),
@@ -182,17 +181,17 @@ void AddPlainCommands(CommandSet& commands)
         .Text("PROFILE", options->profile, "The profile")
         .Takes(ValueKind::profile)
         .Prints("status")
-        .Examples("Connect, and wait a minute at most:\n"
+        .Examples("Connect, and wait no longer than a minute:\n"
                   "  calvix connect Office --timeout 60");
     AddWaiting(
-        commands.Add("disconnect", "Take the connection down", [options](Host& host) { Disconnect(host, *options); }),
+        commands.Add("disconnect", "Disconnect the adapter", [options](Host& host) { Disconnect(host, *options); }),
         options)
         .Prints("status")
         .Examples("Until the service or a person connects again:\n"
                   "  calvix disconnect");
-    AddWaiting(commands.Add("reset", "Ask again for the connection that is up",
-                            [options](Host& host) { Reset(host, *options); }),
-               options)
+    AddWaiting(
+        commands.Add("reset", "Request the current connection again", [options](Host& host) { Reset(host, *options); }),
+        options)
         .Prints("status")
         .Examples("The connection is up and does not work:\n"
                   "  calvix reset");
@@ -201,7 +200,7 @@ void AddPlainCommands(CommandSet& commands)
 void AddMethodCommands(CommandSet& commands)
 {
     const auto reconnect = std::make_shared<ConnectOptions>();
-    AddWaiting(commands.Add("reconnect", "Take the connection down and go back to it",
+    AddWaiting(commands.Add("reconnect", "Disconnect, then connect again",
                             [reconnect](Host& host) { Reconnect(host, *reconnect); }),
                reconnect)
         .OneOf("--method", reconnect->method, {"access-point", "network", "profile"},
@@ -232,10 +231,10 @@ void AddMethodCommands(CommandSet& commands)
                             { ConnectAndShow(host, *change, [&] { Switch(host, change->method); }); }),
                change)
         .OneOf("--method", change->method, {"auto", "smart"},
-               "Put the present profile last and take the first in order (auto, default), or the first with a better "
+               "Put the current profile last and use the first in order (auto, default), or the first with a better "
                "signal (smart)")
         .Prints("status")
-        .Examples("To whatever is stronger:\n"
+        .Examples("To a network with a better signal:\n"
                   "  calvix switch --method smart");
 }
 

@@ -28,7 +28,7 @@ void PrintCheck(Host& host, const CheckFacts& check)
 {
     std::string verdict = VerdictText(check.verdict);
     verdict.resize(kVerdictColumns, ' ');
-    // The adapter's line stands above the others about it.
+    // The adapter's line is above the others about it.
     std::string name = check.check;
     if (name == "Adapter" && check.adapter != 0)
         name += " " + std::to_string(check.adapter);
@@ -51,7 +51,7 @@ void ShowDiagnosis(Host& host)
     {
         FailureReport report =
             OperationFailure(Counted(failed, "check") + " of " + std::to_string(diagnosis.checks.size()) + " failed",
-                             "begin with the first one: others may follow from it")
+                             "begin with the first one: it may cause the others")
                 .report();
         report.exitCode = diagnosis.exitCode;
         report.checks = diagnosis.checks;
@@ -65,11 +65,11 @@ void ShowDiagnosis(Host& host)
 
 void AddDoctorCommand(CommandSet& commands)
 {
-    commands.Add("doctor", "Check everything, and tell what is wrong and what to do", ShowDiagnosis)
+    commands.Add("doctor", "Check everything, and show what is wrong and what to do", ShowDiagnosis)
         .Prints("doctor", [] { return std::vector{Under("checks", std::vector<CheckFacts>{})}; })
         .Examples("Only the second adapter:\n"
                   "  calvix doctor --interface 2\n"
-                  "It cannot tell how the service starts (sc qc WlanSvc does), or whether its session has a desktop.");
+                  "It does not check how the service starts (sc qc WlanSvc) or whether the session has a desktop.");
 }
 
 } // namespace calvix::host

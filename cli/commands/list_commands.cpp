@@ -36,7 +36,7 @@ std::vector<std::string> LinesOfText(const std::string& text)
 /// The library's listings go to its trace; here they are the result.
 void List(Host& host, const char* method, int (CWirelessManage::*listing)())
 {
-    // It is about all adapters, but one that was named must be there.
+    // It lists all adapters, but an adapter given with --interface must exist.
     if (host.options().adapter.empty())
         host.adapters();
     else

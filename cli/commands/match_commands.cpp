@@ -51,7 +51,7 @@ MatchFacts MatchEveryProfile(Host& host)
     return Describe(entries, names);
 }
 
-/// Automatic profiles, and the one that is named whatever its mode.
+/// Automatic profiles, and the given one in any mode.
 MatchFacts MatchConnectable(Host& host, const std::string& named)
 {
     std::vector<WLAN_BSS_ENTRY> entries;

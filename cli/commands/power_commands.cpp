@@ -25,17 +25,17 @@ struct PowerFacts
     bool hibernate = false;
     bool shutDown = false;
     bool modernStandby = false;
-    std::uint64_t lastSleepTime = 0; ///< in units of 100 ns since the start; 0: not since, or not told
+    std::uint64_t lastSleepTime = 0; ///< in units of 100 ns since the start; 0: not since then, or unknown
     std::uint64_t lastWakeTime = 0;
     bool wokeByItself = false;
-    std::optional<IdlePolicyFacts> onMains; ///< none: not told
+    std::optional<IdlePolicyFacts> onMains; ///< none: unknown
     std::optional<IdlePolicyFacts> onBattery;
-    std::string scheme; ///< empty: not told
+    std::string scheme; ///< empty: unknown
 };
 
 JsonRecord Describe(const PowerFacts& power)
 {
-    const Shape moment{"In units of 100 ns since the start; 0: not since, or not told"};
+    const Shape moment{"In units of 100 ns since the start; 0: not since then, or unknown"};
     return JsonRecord()
         .Add("sleep", power.sleep)
         .Add("hibernate", power.hibernate)
@@ -76,7 +76,7 @@ PowerFacts ReadPower(Host& host)
     facts.lastSleepTime = manager.GetLastSleepTime();
     facts.lastWakeTime = manager.GetLastWakeTime();
     facts.wokeByItself = manager.IsPowerHibernateAllowed() != 0;
-    // The library reads the policies and keeps them to itself; whether they can be read is what it tells.
+    // The library reads the policies and does not return them; its result shows only whether they can be read.
     if (manager.GetSystemPowerPolicy() == 0)
     {
         facts.onMains = ReadIdlePolicy(false);
@@ -144,7 +144,7 @@ void KeepAwake(Host& host, const PowerOptions& options)
 {
     host.manager();
     Confirm(host,
-            options.leave ? "The active power scheme will never put the idle computer to sleep any more."
+            options.leave ? "The active power scheme will no longer put the idle computer to sleep."
                           : "The active power scheme will not put the idle computer to sleep until this command ends.",
             options.yes);
     host.Require("SetPowerScheme", host.manager().SetPowerScheme());
@@ -160,8 +160,8 @@ void Restore(Host& host, const PowerOptions& options)
     host.manager();
     // The library remembers a policy as long as the program runs that changed it, and no longer.
     Confirm(host,
-            "This command remembers no power policy, because it has changed none: a policy of zeros will be written to "
-            "the active power scheme, whose own is lost.",
+            "This command has no remembered power policy, because it changed none. It will replace the policy of "
+            "the active power scheme with zeros.",
             options.yes);
     host.Require("ResetPowerScheme", host.manager().ResetPowerScheme());
     ShowPower(host);
@@ -174,8 +174,8 @@ void RefuseEndless(Host& host, const PowerOptions& options)
         return;
     if (!options.mayNotReturn)
     {
-        FailureReport report = OperationFailure("this computer lists its power schemes, and there GetPowerScheme never "
-                                                "returns: nothing was done",
+        FailureReport report = OperationFailure("this computer lists its power schemes, so GetPowerScheme would never "
+                                                "return: nothing was done",
                                                 "copy a scheme with powercfg /duplicatescheme, or try it anyway with "
                                                 "--may-not-return")
                                    .report();
@@ -183,8 +183,8 @@ void RefuseEndless(Host& host, const PowerOptions& options)
         report.method = "GetPowerScheme";
         throw Failure(report);
     }
-    host.err() << "calvix: this computer lists its power schemes, and as long as it does GetPowerScheme does not "
-                  "return. Ctrl-C, pressed twice, ends the program.\n"
+    host.err() << "calvix: this computer lists its power schemes, so GetPowerScheme does not "
+                  "return. Press Ctrl-C twice to end the program.\n"
                << std::flush;
 }
 
@@ -194,7 +194,7 @@ void SavePower(Host& host, const PowerOptions& options)
     RefuseEndless(host, options);
     Confirm(host,
             "A copy of the active power scheme will be made that sleeps after a second on mains power, and become the "
-            "active one. Only powercfg takes it back.",
+            "active one. Only powercfg can undo this.",
             options.yes);
     host.Require("GetPowerScheme", host.manager().GetPowerScheme());
     ShowPower(host);
@@ -211,13 +211,13 @@ void PutToSleep(Host& host, const PowerOptions& options)
     host.manager();
     Confirm(host, "The computer will go to sleep at once.", options.yes);
     RequireAnswer(host, "GetPrivileges", "OpenProcessToken", host.manager().GetPrivileges() != 0,
-                  "the shutdown privilege could not be asked for");
+                  "the shutdown privilege could not be requested");
     RequireAnswer(host, "ForceComputerSleep", "SetSuspendState", host.manager().ForceComputerSleep() != 0,
                   "the computer was not put to sleep");
     ShowPower(host);
 }
 
-/// The method calls everything a success but a privilege that is there and was not enabled; the refusals tell the rest.
+/// The method fails only if a privilege exists and was not enabled; the refusals show the rest.
 void EnablePrivilege(Host& host, const PowerOptions& options)
 {
     const std::string& name = options.privilege;
@@ -237,7 +237,7 @@ void EnablePrivilege(Host& host, const PowerOptions& options)
     }
     if (host.json())
         return PrintJson(host.out(), PrivilegeRecord(name));
-    host.out() << name << " can be enabled, and was for the time of this command.\n";
+    host.out() << name << " can be enabled; this command enabled it while it ran.\n";
 }
 
 } // namespace
@@ -252,10 +252,10 @@ void AddPowerCommands(CommandSet& commands)
         .Examples("What it can do, for a program:\n"
                   "  calvix power status --json");
     commands
-        .Add("power keep-awake", "Keep the idle computer from sleeping until Ctrl-C, and put the policy back then",
+        .Add("power keep-awake", "Keep the idle computer awake until Ctrl-C, then restore the policy",
              [options](Host& host) { KeepAwake(host, *options); })
         .Number("--for", options->seconds, "Seconds to stay awake; 0: until Ctrl-C, a minute on a simulated computer")
-        .Flag("--leave", options->leave, "Return at once and leave it so: the old policy is forgotten")
+        .Flag("--leave", options->leave, "Return at once, and do not restore the policy")
         .Flag("--yes", options->yes, yesHelp)
         .Prints("power")
         .Examples("For ten minutes, without a question:\n"
@@ -271,7 +271,7 @@ void AddPowerCommands(CommandSet& commands)
         .Add("power saver", "Make and activate a copy of the power scheme that sleeps after a second",
              [options](Host& host) { SavePower(host, *options); })
         .Flag("--may-not-return", options->mayNotReturn,
-              "Also where the power schemes can be listed: there the library's method does not return")
+              "Even if the power schemes can be listed, in which case the library's method does not return")
         .Flag("--yes", options->yes, yesHelp)
         .Prints("power")
         .Examples("On battery:\n"
@@ -282,7 +282,7 @@ void AddPowerCommands(CommandSet& commands)
         .Examples("Without a question:\n"
                   "  calvix power sleep --yes");
     commands
-        .Add("power privilege", "Tell whether this account can enable a privilege",
+        .Add("power privilege", "Show whether this account can enable a privilege",
              [options](Host& host) { EnablePrivilege(host, *options); })
         .Text("NAME", options->privilege, "The privilege, such as SeShutdownPrivilege")
         .Prints("power-privilege", [] { return std::vector{PrivilegeRecord("")}; })

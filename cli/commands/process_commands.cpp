@@ -29,7 +29,7 @@ struct RunOptions
 
 constexpr std::size_t kLongestCommandLine = 1000;
 
-/// One word is the whole command line as it stands; of several, those with blanks are put in quotation marks.
+/// One word is the whole command line; of several, those with blanks are put in quotation marks.
 std::string CommandLineOf(const std::vector<std::string>& words)
 {
     if (words.size() == 1)
@@ -50,7 +50,7 @@ std::string Narrowed(const std::string& text)
     return InActiveCodePage(Widen(text), "start a program whose name has none");
 }
 
-/// What the methods keep to themselves: whether the program was started, and whether its end was waited for.
+/// What the methods do not report: whether the program was started, and whether waiting for its end failed.
 void RequireRun(Host& host, const char* method, const std::string& what)
 {
     const Refusal refusal = host.systemRefusals().Of("CreateProcessA");
@@ -164,9 +164,9 @@ void AddProcessCommands(CommandSet& commands)
                 })
         .Examples("A program with options of its own:\n"
                   "  calvix run -- ping -n 1 localhost");
-    commands.Add("online", "Tell whether the internet can be reached", ShowOnline)
+    commands.Add("online", "Check whether the internet can be reached", ShowOnline)
         .Prints("online", [] { return std::vector{Under("online", true)}; })
-        .Examples("Its exit code is 1 where it cannot:\n"
+        .Examples("Its exit code is 1 if it cannot:\n"
                   "  calvix online");
 }
 

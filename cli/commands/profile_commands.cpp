@@ -173,7 +173,7 @@ void AddProfileCommands(CommandSet& commands)
         .OneOf("--to", options->place, {"second", "last"}, "The place to move it to")
         .Required()
         .Prints("profiles-change")
-        .Examples("Let it be tried after all others:\n"
+        .Examples("Try it after all others:\n"
                   "  calvix profiles move Guest --to last");
 }
 

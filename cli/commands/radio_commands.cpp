@@ -63,7 +63,7 @@ void SwitchOff(Host& host)
     ShowRadioNow(host);
 }
 
-/// The methods that switch off and on again do not tell whether they could; what the service refused does.
+/// The methods that switch off and on do not report failures; the service's refusals show them.
 void RequireSwitched(Host& host, const char* method)
 {
     const Refusal& refusal = host.watched().LastRefusal();
@@ -99,7 +99,7 @@ std::wstring ComingBack(Host& host)
     return std::wstring(FixedText(connection->strProfileName));
 }
 
-/// Whether the adapter is connected, by whichever profile, before the time is over. What was told while the radio was
+/// Whether the adapter is connected, by any profile, before the time is over. What was reported while the radio was
 /// still being switched counts. An adapter with several PHYs stays connected through the restart: only the first one is
 /// switched.
 bool WaitForConnection(Host& host, Notifications& notifications, unsigned seconds)
@@ -154,11 +154,11 @@ void AddRadioCommands(CommandSet& commands)
                   "  calvix radio status");
     commands.Add("radio on", "Switch the software radio on", SwitchOn)
         .Prints("radio")
-        .Examples("Of the second adapter:\n"
+        .Examples("For the second adapter:\n"
                   "  calvix radio on --interface 2");
     commands.Add("radio off", "Switch the software radio off", SwitchOff)
         .Prints("radio")
-        .Examples("Of the first adapter:\n"
+        .Examples("For the first adapter:\n"
                   "  calvix radio off");
     commands.Add("radio reset", "Switch the radio off and, half a second later, on", ResetRadio)
         .Prints("radio")
@@ -167,9 +167,9 @@ void AddRadioCommands(CommandSet& commands)
     commands
         .Add("radio restart", "Switch the radio off and on, waiting for both and for the connection to come back",
              [options](Host& host) { Restart(host, *options); })
-        .Number("--timeout", options->seconds, "Seconds to wait for the connection at most")
+        .Number("--timeout", options->seconds, "Maximum seconds to wait for the connection")
         .Prints("radio")
-        .Examples("Have patience with the connection:\n"
+        .Examples("Wait longer for the connection:\n"
                   "  calvix radio restart --timeout 60");
 }
 

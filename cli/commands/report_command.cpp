@@ -43,7 +43,7 @@ void RefuseBesideRecording(Host& host, const ReportOptions& options)
     const auto refuse = [](bool given, const std::string& option)
     {
         if (given)
-            throw BadInput("--recording excludes " + option, "the page shows what the recording has; leave it out");
+            throw BadInput("--recording excludes " + option, "omit it: the page shows what the recording has");
     };
     refuse(options.picture.seconds != 0, "--for");
     refuse(options.picture.roamEvery != 0, "--roam");
@@ -56,8 +56,8 @@ void RefuseBesideRecording(Host& host, const ReportOptions& options)
 /// What was refused on this computer is a failure; what was refused while recording belongs to the picture.
 void TellFailureOf(const ReportFacts& report)
 {
-    if (report.recording && !report.recording->brokenOff.empty())
-        throw BadInput(report.recording->brokenOff, "make the recording again");
+    if (report.recording && !report.recording->incomplete.empty())
+        throw BadInput(report.recording->incomplete, "make the recording again");
     if (!report.recording && !report.missing.empty())
         throw Failure(report.missing.front().failure);
 }
@@ -66,7 +66,7 @@ void MakeReport(Host& host, const ReportOptions& options)
 {
     RefuseBesideRecording(host, options);
     if (options.picture.roamEvery != 0 && options.picture.seconds == 0)
-        throw BadInput("--roam goes with --for", "say how long to follow the signal: --for SECONDS");
+        throw BadInput("--roam needs --for", "give the time: --for SECONDS");
     ReportFacts report = options.recording.empty() ? TakePicture(host, options.picture)
                                                    : ReadRecordedAir(options.recording, host.options().adapter);
     report.title = options.title;
@@ -88,14 +88,13 @@ void AddReportCommand(CommandSet& commands)
         .Takes(ValueKind::file)
         .Text("--title", options->title, "The page's title")
         .Number("--for", options->picture.seconds, "Seconds to follow the signal first; 0: only how it is now")
-        .Number("--roam", options->picture.roamEvery,
-                "Meanwhile roam when it is time, deciding every so many seconds; 0: never")
-        .Text("--recording", options->recording, "Make the page of what this recorded session heard, of any command")
+        .Number("--roam", options->picture.roamEvery, "Meanwhile decide about roaming every N seconds; 0: never")
+        .Text("--recording", options->recording, "Draw what this recorded session of any command heard")
         .Takes(ValueKind::file)
         .Prints("report", [] { return std::vector{Describe(ReportFacts{})}; })
         .Examples("With a minute of the signal:\n"
                   "  calvix report -o air.html --for 60\n"
-                  "What a walk with --record heard, on any computer:\n"
+                  "A recorded walk, drawn on any computer:\n"
                   "  calvix report -o walk.html --recording walk.jsonl");
 }
 

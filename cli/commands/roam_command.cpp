@@ -44,7 +44,7 @@ void RoamOnce(Host& host, const RoamOptions& options)
 void RoamCommand(Host& host, const RoamOptions& options)
 {
     if (options.live.roamEvery == 0 && options.live.seconds != 0)
-        throw BadInput("--for goes with --every", "say how often to decide: --every SECONDS");
+        throw BadInput("--for needs --every", "give the interval: --every SECONDS");
     if (options.live.roamEvery == 0)
         RoamOnce(host, options);
     else
@@ -60,11 +60,12 @@ void AddRoamCommand(CommandSet& commands)
         .Add("roam", "Move to a better access point of the current network, if there is one",
              [options](Host& host) { RoamCommand(host, *options); })
         .Flag("--dry-run", options->live.dryRun, "Decide only, do not move")
-        .Number("--every", options->live.roamEvery, "Go on, deciding every so many seconds; 0: decide once")
-        .Number("--for", options->live.seconds, "Seconds to go on; 0: until Ctrl-C, a minute on a simulated computer")
+        .Number("--every", options->live.roamEvery, "Continue, and decide every N seconds; 0: decide once")
+        .Number("--for", options->live.seconds,
+                "Seconds to continue; 0: until Ctrl-C, a minute on a simulated computer")
         .Number("--speed", options->live.speed,
-                "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
-        .Number("--timeout", options->timeout, "Seconds to wait for the connection at most")
+                "Simulated seconds per second; 0: one on a terminal, as fast as possible elsewhere")
+        .Number("--timeout", options->timeout, "Maximum seconds to wait for the connection")
         .Prints("roam", [] { return std::vector{Under("roam", RoamFacts{}).Add("status", StatusFacts{})}; })
         .Examples("Would it move, and where to?\n"
                   "  calvix roam --dry-run\n"

@@ -49,7 +49,7 @@ struct ScanOptions
     std::string order = "signal";
 };
 
-/// What the service has told of the scan.
+/// What the service has reported about the scan.
 enum class ScanEnd
 {
     notYet,
@@ -245,7 +245,7 @@ void ListChannels(Host& host, const ScanOptions& options)
 Command& AddScanning(Command& command, const std::shared_ptr<ScanOptions>& options)
 {
     return command.Flag("--scan", options->scanFirst, "Scan first, and wait until it is done")
-        .Number("--timeout", options->seconds, "Seconds to wait for the scan at most");
+        .Number("--timeout", options->seconds, "Maximum seconds to wait for the scan");
 }
 
 Command& AddSorting(Command& command, const std::shared_ptr<ScanOptions>& options, std::vector<std::string> orders)
@@ -259,10 +259,10 @@ Command& AddSorting(Command& command, const std::shared_ptr<ScanOptions>& option
 void AddScanCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<ScanOptions>();
-    commands.Add("scan", "Ask for a scan and wait until it is done", [options](Host& host) { Scan(host, *options); })
-        .Number("--timeout", options->seconds, "Seconds to wait at most")
+    commands.Add("scan", "Scan, and wait until the scan is done", [options](Host& host) { Scan(host, *options); })
+        .Number("--timeout", options->seconds, "Maximum seconds to wait")
         .Prints("scan", [] { return std::vector{Under("scan", ScanFacts{})}; })
-        .Examples("The driver takes its time:\n"
+        .Examples("For a slow driver:\n"
                   "  calvix scan --timeout 30");
     AddSorting(
         AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
@@ -270,7 +270,7 @@ void AddScanCommands(CommandSet& commands)
                     options),
         options, {"signal", "name"})
         .Prints("networks", [] { return std::vector{Under("networks", std::vector<NetworkFacts>{})}; })
-        .Examples("As they are now, and not as they were at the service's last scan:\n"
+        .Examples("As they are now, not as they were at the service's last scan:\n"
                   "  calvix networks --scan");
     AddSorting(AddScanning(commands.Add("bss", "List the access points in view",
                                         [options](Host& host) { ListAccessPoints(host, *options); }),
@@ -284,7 +284,7 @@ void AddScanCommands(CommandSet& commands)
                              [options](Host& host) { ListChannels(host, *options); }),
                 options)
         .Prints("channels", [] { return std::vector{Under("bands", std::vector<BandLoad>{})}; })
-        .Examples("Where should the access point be? The rules of the country are not looked at:\n"
+        .Examples("Which channel is best for an access point? The country's rules are not checked:\n"
                   "  calvix channels --scan");
 }
 

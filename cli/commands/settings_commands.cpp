@@ -146,8 +146,8 @@ void AddSettingsCommands(CommandSet& commands)
         .Add("ihv", "Send a vendor's request to the adapter's driver and print its answer",
              [ihv](Host& host) { AskDriver(host, *ihv); })
         .Text("HEX", ihv->request, "The request's bytes in hexadecimal")
-        .Number("--size", ihv->size, "Lengthen the request with zeros: the answer can be no longer than the request")
-        .Flag("--grant", ihv->grant, "First let ordinary users talk to drivers (takes an administrator)")
+        .Number("--size", ihv->size, "Pad the request with zeros: the answer cannot be longer than the request")
+        .Flag("--grant", ihv->grant, "First let ordinary users send requests to drivers (needs an administrator)")
         .Prints("ihv", [] { return std::vector{DriverRecord("", "")}; })
         .Examples("A request of two bytes, an answer of up to eight:\n"
                   "  calvix ihv 01FF --size 8");

@@ -15,8 +15,8 @@ void AddWatchCommand(CommandSet& commands)
              [options](Host& host) { WatchLive(host, *options); })
         .Number("--for", options->seconds, "Seconds to watch; 0: until Ctrl-C, a minute on a simulated computer")
         .Number("--speed", options->speed,
-                "Simulated seconds in a second; 0: one on a terminal, as many as can be elsewhere")
-        .Number("--roam", options->roamEvery, "Roam when it is time, deciding every so many seconds; 0: never")
+                "Simulated seconds per second; 0: one on a terminal, as fast as possible elsewhere")
+        .Number("--roam", options->roamEvery, "Decide about roaming every N seconds; 0: never")
         .Prints("watch", LiveRecords)
         .Examples("A minute of the signal, a JSON object a line:\n"
                   "  calvix watch --for 60 --json");

@@ -12,7 +12,7 @@ namespace calvix::host
 namespace
 {
 
-/// Errors that mean that there is no service to talk to, whatever was asked of it.
+/// Errors that mean that the service cannot be reached, whatever the operation.
 bool MeansUnavailable(std::uint32_t error)
 {
     return error == ERROR_SERVICE_NOT_ACTIVE || error == ERROR_SERVICE_DISABLED ||

@@ -26,10 +26,10 @@ Failure MethodFailureInWords(const char* method, long code, const Refusal& refus
 /// The failure of an operation of the service that this program called itself.
 Failure ServiceFailure(const char* operation, std::uint32_t error);
 
-/// The failure of a method whose result does not tell it, with what the system refused, if anything.
+/// The failure of a method whose result does not show it, with the system's refusal, if any.
 Failure SystemFailure(const char* method, std::optional<int> code, std::string message, const Refusal& refusal);
 
-/// A failure that is nobody's code: a time-out, a connection that was never made.
+/// A failure without a result code: a time-out, a connection that was never made.
 Failure OperationFailure(std::string message, std::string advice);
 
 /// The failure for people.

@@ -64,10 +64,10 @@ constexpr PlatformError kErrors[] = {
      "a program opens client handles of the WLAN service and never closes them: end it, or restart the service"},
     {1223, "cancelled", "try again"},
     {1314, "a required privilege is not held", "run as administrator"},
-    {1460, "time-out", "try again; see that the adapter answers"},
+    {1460, "timed out", "try again; check that the adapter answers"},
     {1630, "unsupported type", ""},
     {5023, "not in the right state for this", "connect first"},
-    {0x80342000, "automatic configuration has the adapter", "let the service handle it"},
+    {0x80342000, "automatic configuration controls the adapter", "let the service handle it"},
     {0x80342001, "the medium is in use", "wait a moment and try again"},
     {0x80342002, "the radio is off", "switch the radio on: flight mode, the switch on the case, the device manager"},
 };
@@ -82,13 +82,13 @@ constexpr PlatformError kSystemErrors[] = {
     {87, "invalid parameter", ""},
     {193, "not a program", "give the name of a program for this system"},
     {740, "elevation required", "run as administrator"},
-    {1131, "it would never end", "see what the program waits for, and end it with: calvix run --kill PID"},
+    {1131, "the wait would never end", "find out what the program waits for, or end it with: calvix run --kill PID"},
     {1313, "no such privilege", "check the name: SeShutdownPrivilege, SeDebugPrivilege and so on"},
     {1314, "a required privilege is not held", "run as administrator"},
     {12007, "the name could not be resolved",
-     "see that the network has a name server, and sign in where it asks for it"},
+     "check that the network has a name server, and sign in if it requires that"},
     {12029, "no connection could be made",
-     "see that the network leads to the internet, and sign in where it asks for it"},
+     "check that the network leads to the internet, and sign in if it requires that"},
 };
 
 template <std::size_t Count>
@@ -117,7 +117,7 @@ std::string NumberText(std::uint32_t number)
 constexpr const char* kOfThisSession =
     "run as administrator, or in the session of a signed-in user: this account may not ask the WLAN service";
 
-/// These tell where the computer is, or would find it out.
+/// These operations reveal the location of the computer.
 bool TellsTheLocation(std::string_view operation)
 {
     return operation == "WlanScan" || operation == "WlanGetAvailableNetworkList" ||
@@ -147,11 +147,11 @@ std::string AdviseOnPlatformError(std::uint32_t error, const std::string& operat
 {
     constexpr std::uint32_t accessDenied = 5;
     if (error == accessDenied && ChangesTheStore(operation))
-        return "run as administrator, or ask for the right to change this profile";
+        return "run as administrator, or get the right to change this profile";
     if (error == accessDenied && (operation == "WlanGetProfile" || operation == "WlanConnect"))
         return kOfAnotherUser;
     if (error == accessDenied && operation == "WlanIhvControl")
-        return "run as administrator, or let ordinary users talk to drivers: calvix ihv --grant";
+        return "run as administrator, or let ordinary users send requests to drivers: calvix ihv --grant";
     if (error == accessDenied && SetsWhatIsGuarded(operation))
         return "run as administrator";
     if (error == accessDenied && !operation.empty())
@@ -164,7 +164,7 @@ std::string AdviseOnSystemError(std::uint32_t error, const std::string& operatio
 {
     constexpr std::uint32_t invalidParameter = 87;
     if (error == invalidParameter && operation == "OpenProcess")
-        return "there is no process of this number: the task manager shows those that run";
+        return "no process has this number: the task manager shows the running ones";
     const PlatformError* const known = FindIn(kSystemErrors, error);
     return known != nullptr ? known->advice : "";
 }

@@ -96,7 +96,7 @@ struct CodeRow
     Cause cause;
 };
 
-/// How a method's result is to be read where it is no row of its table.
+/// The meaning of a result that is not in the method's table.
 enum class ResultKind
 {
     status,        ///< 0 is success
@@ -113,7 +113,7 @@ struct MethodResults
 {
     const char* method;
     ResultKind kind;
-    const char* result; ///< what a result means that is no failure
+    const char* result; ///< the meaning of a result that is not a failure
     std::span<const CodeRow> codes;
 };
 
@@ -123,7 +123,7 @@ std::span<const MethodResults> AllMethodResults();
 /// The entry of a method, null when there is no such method. Letter case does not matter.
 const MethodResults* FindMethod(std::string_view method);
 
-/// The cause that a code has in a method; none where the code is no failure or unknown.
+/// The cause that a code has in a method; none if the code is unknown or not a failure.
 std::optional<Cause> FindCause(const MethodResults& results, long long code);
 
 Explanation Explain(const MethodResults& results, long long code);

@@ -18,7 +18,7 @@ std::string ReadTextFile(const std::string& path)
     }
     catch (const CaptureError& error)
     {
-        throw BadInput(error.what(), "check the path and what the file holds");
+        throw BadInput(error.what(), "check the path and the content of the file");
     }
 }
 
@@ -28,7 +28,7 @@ void WriteWholeFile(const std::string& path, const std::string& content)
     file << content;
     file.close();
     if (!file)
-        throw BadInput(path + ": cannot be written", "check the path and the rights on it");
+        throw BadInput(path + ": cannot be written", "check the path and its permissions");
 }
 
 } // namespace calvix::host

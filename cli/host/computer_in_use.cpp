@@ -15,7 +15,7 @@ namespace calvix::host
 namespace
 {
 
-/// Whether somebody has put a platform in place already; then it is used, unless a scenario is named.
+/// Whether a platform is in place already; then it is used, unless a scenario is given.
 bool IsPlatformGiven()
 {
 #if defined(_WIN32)
@@ -41,7 +41,7 @@ std::unique_ptr<simulation::Computer> MakeComputer(const std::string& scenario)
     }
 }
 
-/// Puts a platform behind the library, and takes it away again.
+/// Puts a platform in place for the library, and restores the one before.
 class PlatformInPlace
 {
 public:
@@ -63,7 +63,7 @@ public:
         g_bTraceOn = trace ? 1 : 0;
         m_library = CWirelessManage::Get();
         if (m_library == nullptr)
-            throw OperationFailure("there is no memory for the library", "close other programs");
+            throw OperationFailure("there is not enough memory for the library", "close other programs");
     }
     ~LibraryInUse()
     {
@@ -94,7 +94,7 @@ private:
 
 } // namespace
 
-/// Everything that a command on networks needs, in the order in which it comes up.
+/// Everything that a command needs for networks, in the order of its creation.
 struct ComputerInUse::World
 {
     World(const CommonOptions& options, RecordedSession& session, std::ostream& err)
@@ -230,9 +230,9 @@ void ComputerInUse::RequireSession()
     if (m_session != nullptr)
         return;
     if (!m_options.record.empty())
-        throw BadInput("--record has nothing to write: this command asks no computer", "leave it out");
+        throw BadInput("--record has nothing to write: this command uses no computer", "omit it");
     if (!m_options.replay.empty())
-        throw BadInput("--replay has nothing to answer: this command asks no computer", "leave it out");
+        throw BadInput("--replay has nothing to answer: this command uses no computer", "omit it");
 }
 
 std::optional<FailureReport> ComputerInUse::EndReplay()
@@ -262,7 +262,7 @@ void ComputerInUse::Save()
     if (m_options.save.empty())
         return;
     if (m_world == nullptr)
-        throw BadInput("--save has nothing to write: this command uses no simulated computer", "leave it out");
+        throw BadInput("--save has nothing to write: this command uses no simulated computer", "omit it");
     WriteWholeFile(m_options.save, simulation::WriteScenario(m_world->computer->Snapshot()));
 }
 

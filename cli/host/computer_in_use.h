@@ -21,8 +21,8 @@ class ServiceView;
 class SystemRefusals;
 class WatchedWlan;
 
-/// The library with a platform behind it, brought up on demand: a simulated computer where a scenario was named or where
-/// there is no other, or a recording in the place of one.
+/// The library on a platform, created on demand: the system's own, a simulated computer if a scenario is given or there is
+/// no other, or a recording.
 class ComputerInUse
 {
 public:
@@ -67,13 +67,13 @@ public:
     /// The failure of a method, with what the platform refused on the way.
     Failure MethodFailure(const char* method, long code);
 
-    /// Writes the simulated computer as it stands to the file that was asked for, if one was.
+    /// Writes the simulated computer in its present state to the file of --save, if there is one.
     void Save();
 
     /// Fails where a recording was named and the command had no use for it.
     void RequireSession();
-    /// At the command's end: lets go of the library and the platform where they were replayed, and tells what came
-    /// between the replay and its end. What a command fails with after that is no news.
+    /// At the command's end: releases the library and the platform of a replay, and returns the difference or
+    /// damage that ended it. Later failures of the command only follow from it.
     std::optional<FailureReport> EndReplay();
     /// The same for a recording, after everything else; what cannot be written is a Failure.
     void EndRecording();

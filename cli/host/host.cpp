@@ -28,12 +28,12 @@ const WLAN_INTERFACE_INFO& Host::adapter()
     return *m_adapter;
 }
 
-/// A second adapter that nobody thought of explains many a riddle.
-void Host::TellFirstOf(const std::vector<WLAN_INTERFACE_INFO>& list)
+/// A user may not know of the second adapter, and would wonder about the output.
+void Host::NameFirstOf(const std::vector<WLAN_INTERFACE_INFO>& list)
 {
-    err() << "calvix: this is the first of " << list.size() << " adapters, \""
+    err() << "calvix: using the first of " << list.size() << " adapters, \""
           << VisibleText(Narrow(FixedText(list.front().strInterfaceDescription)))
-          << "\"; --interface 2 is for the second (calvix adapters lists them).\n";
+          << "\"; --interface 2 selects the second (calvix adapters lists them).\n";
 }
 
 WLAN_INTERFACE_INFO Host::FindAdapter()
@@ -43,7 +43,7 @@ WLAN_INTERFACE_INFO Host::FindAdapter()
     if (wanted.empty())
     {
         if (list.size() > 1)
-            TellFirstOf(list);
+            NameFirstOf(list);
         return list.front();
     }
     if (const auto place = PlaceOf(wanted, list.size()))

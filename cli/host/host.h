@@ -20,7 +20,7 @@ public:
 
 private:
     WLAN_INTERFACE_INFO FindAdapter();
-    void TellFirstOf(const std::vector<WLAN_INTERFACE_INFO>& list);
+    void NameFirstOf(const std::vector<WLAN_INTERFACE_INFO>& list);
 
     std::optional<WLAN_INTERFACE_INFO> m_adapter;
 };

@@ -25,7 +25,7 @@ bool Interrupted();
 /// What Ctrl-C does, without it.
 void RaiseInterrupt();
 
-/// Has `action` called once, when Interrupted() first tells of it. An empty one ends it.
+/// Calls `action` once, when Interrupted() first returns true. An empty one ends that.
 void WhenInterruptIsSeen(std::function<void()> action);
 
 } // namespace calvix::host

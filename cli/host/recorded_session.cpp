@@ -13,7 +13,7 @@ std::unique_ptr<recording::Replay> OpenReplay(const std::string& path)
 {
     std::ifstream file(PathOf(path), std::ios::binary);
     if (!file)
-        throw BadInput(path + ": cannot be read", "check the path and the rights on it");
+        throw BadInput(path + ": cannot be read", "check the path and its permissions");
     try
     {
         return std::make_unique<recording::Replay>(file, path);
@@ -27,12 +27,12 @@ std::unique_ptr<recording::Replay> OpenReplay(const std::string& path)
 FailureReport InWords(const recording::ReplayTrouble& trouble)
 {
     FailureReport report;
-    const bool departed = trouble.kind == recording::ReplayTrouble::Kind::departed;
-    report.exitCode = departed ? ExitCode::departed : ExitCode::badInput;
+    const bool differs = trouble.kind == recording::ReplayTrouble::Kind::differs;
+    report.exitCode = differs ? ExitCode::differs : ExitCode::badInput;
     report.message = trouble.text;
-    report.advice = departed ? "replay the command that was recorded, with the same options; if it was that, "
-                               "this program behaves differently since"
-                             : "make the recording again";
+    report.advice = differs ? "replay the recorded command with the same options; if you did, this program "
+                              "now behaves differently"
+                            : "make the recording again";
     return report;
 }
 
@@ -50,12 +50,12 @@ RecordedSession::RecordedSession(const CommonOptions& options)
     {
         m_file.open(PathOf(m_path), std::ios::binary);
         if (!m_file)
-            throw BadInput(m_path + ": cannot be written", "check the path and the rights on it");
+            throw BadInput(m_path + ": cannot be written", "check the path and its permissions");
     }
     if (options.replay.empty())
         return;
     m_replay = OpenReplay(options.replay);
-    // Nothing goes on after the replay's end, just as after Ctrl-C, which is the only thing that is marked.
+    // After the replay's end the command stops, as after Ctrl-C, which is the only mark.
     m_replay->AtTrouble(RaiseInterrupt);
     m_replay->AtMark([](const std::string&) { RaiseInterrupt(); });
 }
@@ -88,7 +88,7 @@ void RecordedSession::EndRecording()
         m_recorder->Finish();
     m_file.close();
     if (m_isRecording && !m_file)
-        throw BadInput(m_path + ": cannot be written to its end", "check the room on the disk");
+        throw BadInput(m_path + ": cannot be written completely", "check the free space on the disk");
 }
 
 std::string RecordedSession::ReplayLine(const std::vector<std::string>& arguments) const

@@ -34,7 +34,7 @@ public:
     /// `inner`, recorded where that was asked for.
     platform::Platform& Recorded(platform::Platform& inner, bool simulated);
 
-    /// When the command is done with the platform: what came between the replay and its end.
+    /// When the command is done with the platform: the difference or damage that ended the replay.
     std::optional<FailureReport> EndReplay();
     /// The same for a recording, whose file is complete then. A file that could not be written is a Failure.
     void EndRecording();

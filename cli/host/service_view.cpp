@@ -20,7 +20,7 @@ void Require(const char* operation, DWORD error)
         throw ServiceFailure(operation, static_cast<std::uint32_t>(error));
 }
 
-/// The information elements lie behind the entries of the list, as far from its own entry as each tells.
+/// The information elements follow the entries of the list; each entry has the distance from itself to them.
 std::vector<std::uint8_t> ElementsOf(const WLAN_BSS_LIST& list, const WLAN_BSS_ENTRY& entry)
 {
     const auto* const listBytes = reinterpret_cast<const std::uint8_t*>(&list);

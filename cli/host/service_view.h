@@ -20,8 +20,8 @@ struct HeardAccessPoint
 /// The entries of a list, each with its elements.
 std::vector<HeardAccessPoint> ReadAccessPoints(const WLAN_BSS_LIST& list);
 
-/// The WLAN service as this program looks at it, through a client handle of its own: the lists behind the library's
-/// counts and matches. A refused operation is a Failure in words; the connection's state is no failure.
+/// The WLAN service as this program looks at it, through a client handle of its own: the lists for the library's
+/// counts and matches. A refused operation is a Failure in words; a missing connection is not one.
 class ServiceView
 {
 public:
@@ -39,9 +39,9 @@ public:
     /// None while there is no connection.
     std::optional<WLAN_CONNECTION_ATTRIBUTES> Connection(const GUID* adapter);
 
-    /// A switch of the adapter's; none where the service does not tell.
+    /// A switch of the adapter; none if the service does not report it.
     std::optional<bool> IsEnabled(const GUID* adapter, WLAN_INTF_OPCODE opcode);
-    /// The switches of each PHY; none where the service does not tell.
+    /// The switches of each PHY; none if the service does not report them.
     std::vector<WLAN_PHY_RADIO_STATE> Radios(const GUID* adapter);
     /// A profile's document, its key protected.
     std::wstring ProfileDocument(const GUID* adapter, const wchar_t* name);

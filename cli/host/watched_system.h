@@ -8,11 +8,11 @@
 namespace calvix::host
 {
 
-/// Notes what the operating system refused outside its WLAN service. A question that is answered with no is no refusal.
+/// Notes what the operating system refused outside its WLAN service. The answer no is not a refusal.
 class SystemRefusals final : public wrappers::Interceptor
 {
 public:
-    /// `errors` tells why an operation failed that does not say it itself, and outlives this object.
+    /// `errors` has the error of an operation that does not return it, and outlives this object.
     explicit SystemRefusals(platform::LastError& errors) : m_errors(errors) {}
 
     void After(const wrappers::Call& call, long long result) override;

@@ -44,7 +44,7 @@ public:
     void StartWatching();
     /// While rehearsing, connection requests are noted and refused, and never reach the service: what is left to ask
     /// for after a refusal comes to light without anything being joined. Profiles are not moved either, though the
-    /// library is told that they were.
+    /// library gets success for it.
     void Rehearse(bool rehearsing) { m_rehearsing = rehearsing; }
 
     DWORD WlanSetProfile(HANDLE client,

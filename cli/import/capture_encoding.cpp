@@ -69,7 +69,7 @@ std::string DecodeCapture(std::string_view bytes, std::optional<std::uint32_t> c
     if (likely == 0)
         throw CaptureError(source + ": this is not Unicode, and this computer has no converter for any other text");
     warnings.warnings.push_back(source + ": this is not Unicode and was read as code page " + std::to_string(likely) +
-                                ", the likeliest; name another with --code-page");
+                                ", the most likely one; give another with --code-page");
     return FromCodePage(bytes, likely, warnings);
 }
 

@@ -16,7 +16,7 @@ namespace calvix::host
 /// CaptureError for a code page that there is no converter for, and for ill-formed Unicode.
 std::string DecodeCapture(std::string_view bytes, std::optional<std::uint32_t> codePage, CaptureWarnings& warnings);
 
-/// What a text was before somebody read its UTF-8 in another code page: "Café" for "CafÃ©". Nothing for any other text.
+/// What a text was before its UTF-8 was read in another code page: "Café" for "CafÃ©". Nothing for any other text.
 std::optional<std::string> MisreadUtf8(std::string_view text);
 
 /// Warns of an SSID that was misread, or of which characters were lost, before it came here. It is kept: what its bytes

@@ -13,8 +13,8 @@ namespace
 /// Where words were seen.
 enum class Source
 {
-    capture,   ///< what a computer of somebody else's printed
-    unverified ///< what the language has for it: nobody has shown a capture yet
+    capture,   ///< another person's computer printed it
+    unverified ///< the language's word for it; there is no capture yet
 };
 
 /// Words of one language and one source, as "meaning=word|word; meaning=word".
@@ -131,7 +131,7 @@ struct KnownWord
     std::u32string text; ///< as ComparedText has it
 };
 
-/// Cuts what stands before a separator off a text.
+/// Removes the part of a text before a separator.
 std::string_view Next(std::string_view& text, char separator)
 {
     const std::size_t end = std::min(text.find(separator), text.size());

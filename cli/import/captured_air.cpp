@@ -58,14 +58,14 @@ std::vector<AccessPoint> AirOf(const std::vector<AccessPoint>& listed, MadeScena
         if (known != nullptr && IsSame(*known, heard))
         {
             Merge(*known, heard);
-            made.Warn(address + " is listed more than once; the scenario has it once, as it was heard best");
+            made.Warn(address + " is listed more than once; the scenario has it once, with its best signal");
             continue;
         }
         if (known != nullptr)
         {
             heard.bssid = FreeAddress(air, heard.bssid);
             made.Warn(address +
-                      " is listed again with another name, channel or security; that one has the made-up "
+                      " is listed again with another name, channel or security; that one has the invented "
                       "address " +
                       forms::AddressText(heard.bssid));
         }

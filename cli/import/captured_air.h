@@ -6,8 +6,8 @@ namespace calvix::host
 {
 
 /// The access points that were listed, each once. One that several adapters heard is as strong as it was heard best; one that
-/// is listed with and without its name is a hidden network that answered somebody who knew the name. Those that differ
-/// although they have one address stay apart, under a made-up one. The warnings say what was merged and made up.
+/// is listed with and without its name is a hidden network that answered a computer that knew the name. Those that differ
+/// although they have one address stay separate, under an invented one. The warnings report what was merged and invented.
 std::vector<simulation::AccessPoint> AirOf(const std::vector<simulation::AccessPoint>& listed, MadeScenario& made);
 
 /// The access point of an address, or null.

@@ -66,7 +66,7 @@ std::size_t AdapterOfFile(const std::string& fileName, const std::vector<Capture
     return best;
 }
 
-/// A file's name without its folder, which is nobody's business.
+/// A file's name without its folder, which is private.
 std::string ShortName(const std::string& path)
 {
     return VisibleText(PathText(PathOf(path).filename()));
@@ -105,7 +105,7 @@ private:
         return "Imported from " + (sources.empty() ? "exported profiles" : sources);
     }
 
-    /// Drivers report only PHY types that they know, so that whatever is heard says something about the adapter.
+    /// Drivers report only PHY types that they support, so every type that is heard is one of the adapter's.
     std::size_t NewestGeneration(const CapturedInterface& captured)
     {
         constexpr std::uint32_t kLeast = 7;
@@ -161,7 +161,7 @@ private:
         std::optional<StoredProfile> made = MakeProfile(name, accessPoint, automatic);
         if (made)
             return &m_profiles[index].emplace_back(NamedProfile{name, std::move(*made)});
-        m_result.Warn("the profile \"" + name + "\" cannot be made up: no profile has " + accessPoint.authentication +
+        m_result.Warn("the profile \"" + name + "\" cannot be made: no profile has " + accessPoint.authentication +
                       " with " + accessPoint.encryption);
         return nullptr;
     }

@@ -62,8 +62,8 @@ ExplainedWords WordsOf(const std::vector<std::string>& arguments)
         const std::string meaning = sign == std::string::npos ? "" : argument.substr(sign + 1);
         if (sign == 0 || !IsMeaning(meaning))
             throw BadInput("\"" + argument + "\" is not WORD=MEANING with a known meaning",
-                           "Meanings are the names that profiles use (WPA2PSK, WPA3SAE, open, AES, none ...), "
-                           "infrastructure, independent, auto and manual.");
+                           "meanings are the names in profiles (WPA2PSK, WPA3SAE, open, AES, none ...), "
+                           "infrastructure, independent, auto and manual");
         words.emplace_back(argument.substr(0, sign), meaning);
     }
     return words;
@@ -93,7 +93,7 @@ Captures ReadCaptures(const ImportOptions& options)
         else if (!path.empty())
             ReadCapture(ReadWholeFile(path), path, hints, captures);
     if (!captures.networks && !captures.interfaces && captures.profiles.empty())
-        throw BadInput("there is nothing to import", "Name at least one file: networks, interfaces or profiles.");
+        throw BadInput("there is nothing to import", "give at least one file: networks, interfaces or profiles");
     return captures;
 }
 
@@ -115,7 +115,7 @@ void AddImportCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<ImportOptions>();
     commands
-        .Add("import", "Make a scenario from what netsh, iw or nmcli printed",
+        .Add("import", "Make a scenario from the output of netsh, iw or nmcli",
              [options](Host& host) { Import(host, *options); })
         .Text("--networks", options->networks,
               "Output of \"netsh wlan show networks mode=bssid\", \"iw dev wlan0 scan\" or \"nmcli dev wifi list\"")
@@ -125,10 +125,11 @@ void AddImportCommand(CommandSet& commands)
         .Text("--profiles", options->profiles, "Folder of \"netsh wlan export profile\"")
         .Takes(ValueKind::folder)
         .Flag("--with-profiles", options->withProfiles,
-              "Make an automatic profile, with a made-up key, for every named network that has none")
-        .Number("--code-page", options->codePage, "The code page of captures that are not Unicode; 0: the likeliest")
-        .Texts("--word", options->words, "WORD=MEANING: what a word of another language means, as profiles say it")
-        .Texts("[CAPTURES]", options->captures, "The same files and folders; what they hold shows what they are")
+              "Make an automatic profile, with an invented key, for every named network that has none")
+        .Number("--code-page", options->codePage,
+                "The code page of captures that are not Unicode; 0: the most likely one")
+        .Texts("--word", options->words, "WORD=MEANING: the meaning of a word of another language, as in profiles")
+        .Texts("[CAPTURES]", options->captures, "The same files and folders; their content shows what they are")
         .Takes(ValueKind::file)
         .Text("-o,--output", options->output, "Scenario file to write, - for standard output")
         .Takes(ValueKind::scenario)

@@ -254,7 +254,7 @@ private:
         accessPoint.authentication = element.isThere ? AuthenticationOf(bss, element) : "open";
         accessPoint.encryption = element.isThere ? CipherOf(bss, element) : bss.privacy ? "WEP" : "none";
         if (accessPoint.authentication == "WPA3SAE" && Has(element.suites, "PSK"))
-            m_capture.Warn(bss.line, bss.Title() + " takes both WPA2 and WPA3; the scenario has WPA3");
+            m_capture.Warn(bss.line, bss.Title() + " accepts both WPA2 and WPA3; the scenario has WPA3");
     }
 
     void Add(HeardBss& bss)

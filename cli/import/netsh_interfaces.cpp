@@ -34,7 +34,7 @@ void JoinBrokenDescriptions(std::vector<CaptureField>& fields)
         }
 }
 
-/// An adapter begins with its name, which stands two lines above its GUID.
+/// An adapter begins with its name, two lines above its GUID.
 bool BeginsAdapter(CaptureFields fields, std::size_t index)
 {
     const CaptureField& name = fields[index];
@@ -130,7 +130,7 @@ private:
             Set(m_fields.size() - 1, kUnused);
     }
 
-    /// The radio's two switches stand last, the second in a line without a label.
+    /// The radio's two switches come last, the second in a line without a label.
     void LabelNotConnected(std::size_t address)
     {
         for (std::size_t i = address + 1; i < m_fields.size() && !m_fields[i].beginsParagraph; ++i)
@@ -174,11 +174,11 @@ std::vector<CaptureField> FieldsOfLink(const CaptureField& link)
     return fields;
 }
 
-/// What identifies the adapter, made up where the capture does not say it.
+/// What identifies the adapter, invented if the capture does not have it.
 CapturedInterface Identify(const CaptureRecord& record, std::size_t index, CaptureWarnings& warnings)
 {
     CapturedInterface adapter = MadeUpInterface(record.Need("Name").value, index);
-    const std::string loss = "the adapter has a made-up one";
+    const std::string loss = "the adapter gets an invented one";
     warnings.OrWarn(loss, [&] { adapter.description = record.Need("Description").value; });
     warnings.OrWarn(loss, [&] { adapter.guid = GuidText(record.Need("GUID")); });
     warnings.OrWarn(loss, [&] { adapter.address = Address(record.Need("Physical address")); });
@@ -190,7 +190,7 @@ RadioSwitch SwitchState(const std::string& text, std::size_t line, CaptureWarnin
     const std::string_view meaning = SwitchOf(text);
     if (meaning.empty())
         warnings.Warn(line, (text.empty() ? "a switch of the radio is missing" : "\"" + text + "\" is not understood") +
-                                "; it is taken to be on");
+                                "; it is assumed to be on");
     return meaning == "off" ? RadioSwitch::off : RadioSwitch::on;
 }
 
@@ -222,8 +222,8 @@ bool IsAutomatic(const CaptureField* mode, const Vocabulary& vocabulary, Capture
     const std::string meaning = vocabulary.MeaningOf(mode->value, {"auto", "manual"});
     if (meaning.empty() && vocabulary.foreign)
         warnings.Warn(mode->line, "\"" + mode->name + "\" is \"" + mode->value +
-                                      "\", which is not understood; the connection is taken for one that somebody "
-                                      "asked for");
+                                      "\", which is not understood; the connection is assumed to be one that the user "
+                                      "requested");
     return meaning == "auto";
 }
 
@@ -277,7 +277,7 @@ public:
     {
         std::size_t count = 0;
         const std::size_t first = Next(0);
-        // Only what stands right above the first adapter says how many there are.
+        // Only the line right above the first adapter has the number of adapters.
         CaptureField* const announcement = first > 0 && first < m_fields.size() ? &m_fields[first - 1] : nullptr;
         for (std::size_t at = first; at < m_fields.size(); ++count)
         {

@@ -34,7 +34,7 @@ struct CapturedInterface
     std::optional<CapturedConnection> connection;
 };
 
-/// An adapter of which only the name is known; `index` tells it from others.
+/// An adapter of which only the name is known; `index` distinguishes it from others.
 CapturedInterface MadeUpInterface(const std::string& name, std::size_t index);
 
 /// What `netsh wlan show interfaces` printed.

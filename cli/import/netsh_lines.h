@@ -20,7 +20,7 @@ struct CaptureField
     bool hasColon = false;
     std::size_t indent = 0;      ///< blanks before it
     bool beginsParagraph = true; ///< nothing but blank lines before it
-    /// What the field is, by its English name; empty: nobody knows. Translations change the labels, but neither the order
+    /// What the field is, by its English name; empty: unknown. Translations change the labels, but neither the order
     /// of the lines nor the shape of what stands in them.
     std::string key;
 
@@ -42,7 +42,7 @@ bool IsForeign(CaptureFields fields);
 /// Gives the fields with English labels their keys; numbers that continue a list of numbers in the line above have no use.
 void LabelEnglish(CaptureFields fields);
 
-/// Gives the field of an index its key, unless it has one or there is no such field.
+/// Sets the key of the field at an index, unless it has one or there is no such field.
 void Label(CaptureFields fields, std::size_t index, const char* key);
 
 /// The index of the first field from `from` on whose value is like this; the number of fields where there is none.
@@ -68,7 +68,7 @@ struct CaptureRecord
     void WarnOfTwice(CaptureWarnings& warnings) const;
 };
 
-/// Warns of each kind of line that nobody knows.
+/// Warns of each kind of unknown line.
 void WarnOfUnknown(CaptureFields fields, CaptureWarnings& warnings);
 
 /// Warns of a list that is shorter than the line above it says: it was cut off. `announcement` may be null.

@@ -139,7 +139,7 @@ private:
         m_common.hidden = m_common.ssid.empty();
         m_common.bssType = 1;
         record.WarnOfTwice(m_capture);
-        m_capture.OrWarn("it is taken for infrastructure",
+        m_capture.OrWarn("infrastructure is assumed",
                          [&] { m_common.bssType = BssType(record.Need("Network type"), m_vocabulary); });
         ReadSecurity(record.Need("Authentication"), record.Need("Encryption"), m_vocabulary, m_common);
         WarnOfMisread(start.value, start.line, m_capture);

@@ -46,7 +46,7 @@ LineError Unusable(const CaptureField& field, const std::string& expected)
         (IsAddress(field.value) || IsGuid(field.value)) && field.value.find_first_of("xX*") != std::string::npos;
     if (isMasked)
         return LineError(field.line, "\"" + field.name + "\" is masked (\"" + field.value +
-                                         "\"): write other digits in its place, the same for the same device");
+                                         "\"): replace it with other digits, the same ones for the same device");
     return LineError(field.line, "\"" + field.name + "\" is \"" + field.value + "\", which is not " + expected);
 }
 
@@ -98,8 +98,8 @@ std::uint32_t PhyType(const CaptureField& field)
     throw Unusable(field, "a known radio type (802.11a, b, g, n, ac, ad, ax or be)");
 }
 
-/// "WPA2-Personal" is a standard, the same everywhere, and a word for how keys are had; what stands in brackets after it,
-/// as in "WPA3-Personal (H2E)", is how they are exchanged. Empty for a word that nobody knows.
+/// "WPA2-Personal" is a standard, the same everywhere, and a word for how keys are had; the part in brackets after it,
+/// as in "WPA3-Personal (H2E)", is how they are exchanged. Empty for an unknown word.
 std::string WpaAuthentication(std::string_view text, const Vocabulary& vocabulary)
 {
     const std::size_t end = std::min(text.find_first_not_of("0123456789", 3), text.size());

@@ -185,11 +185,11 @@ private:
                 throw LineError(line, "this list has no column " + std::string(name) + ": " + remedy);
         if (!Has("CHAN") && !Has("FREQ"))
             throw LineError(line, "this list has neither channels nor frequencies: " + remedy);
-        m_capture.Warn(
-            line, std::string("nmcli does not print PHY types, which are guessed from bands and rates") +
-                      (Has("RSN-FLAGS") ? "" : ", nor ciphers, which are taken to be AES, and TKIP for WPA1 alone"));
+        m_capture.Warn(line, std::string("nmcli does not print PHY types, so they are guessed from bands and rates") +
+                                 (Has("RSN-FLAGS") ? "" : ", nor ciphers: AES is assumed, and TKIP for WPA1 alone"));
         if (!Has("FREQ"))
-            m_capture.Warn(line, "channels are taken for those of 2.4 and 5 GHz: only frequencies show those of 6 GHz");
+            m_capture.Warn(
+                line, "channels are assumed to be those of 2.4 and 5 GHz: only frequencies identify those of 6 GHz");
     }
 
     /// Empty where there is no such column.
@@ -211,7 +211,7 @@ private:
         if (!address)
             throw LineError(row.line, "\"" + Cell(row, "BSSID") + "\" is not an address of six bytes");
         if (signal < 0 || signal > 100)
-            throw LineError(row.line, "\"" + Cell(row, "SIGNAL") + "\" is no percentage from 0 to 100");
+            throw LineError(row.line, "\"" + Cell(row, "SIGNAL") + "\" is not a percentage from 0 to 100");
         accessPoint.bssid = *address;
         accessPoint.rssi = -100 + signal * 60 / 100; // 100 % is -40 dBm, and 0 % is -100 dBm
         accessPoint.frequencyKhz = Frequency(row);
@@ -282,14 +282,14 @@ private:
         const auto* const best = std::find_if(std::begin(kSecurities), std::end(kSecurities),
                                               [&](const Security& each) { return HasWord(cell, each.word); });
         if (best == std::end(kSecurities))
-            throw LineError(row.line, "\"" + cell + "\" is no known security");
+            throw LineError(row.line, "\"" + cell + "\" is not a known security");
         const bool isEnterprise = HasWord(cell, "802.1X") || HasWord(cell, "802.1x");
         accessPoint.authentication = isEnterprise ? best->enterprise : best->personal;
         accessPoint.encryption = best->cipher;
         SetCipher(Cell(row, "RSN-FLAGS") + " " + Cell(row, "WPA-FLAGS"), accessPoint);
         if (HasWord(cell, "WPA3") && HasWord(cell, "WPA2"))
             m_capture.Warn(row.line, "the access point " + forms::AddressText(accessPoint.bssid) +
-                                         " takes both WPA2 and WPA3; the scenario has WPA3");
+                                         " accepts both WPA2 and WPA3; the scenario has WPA3");
     }
 
     /// "pair_tkip pair_ccmp group_tkip psk"

@@ -61,7 +61,7 @@ std::vector<ExportedProfile> ReadProfileFolder(const std::string& path)
     for (const files::path& file : XmlFiles(path))
         profiles.push_back(ParseExportedProfile(ReadWholeFile(PathText(file)), PathText(file)));
     if (profiles.empty())
-        throw CaptureError(path + ": this folder holds no profile (*.xml)");
+        throw CaptureError(path + ": this folder has no profile (*.xml)");
     return profiles;
 }
 

@@ -19,7 +19,7 @@ struct ExportedProfile
 bool LooksLikeProfile(std::string_view text);
 
 /// Reads one profile document, `bytes` in UTF-8 or UTF-16 as the file has it. `source` is what messages call it. Throws
-/// CaptureError for whatever the WLAN service would not store.
+/// CaptureError for a profile that the WLAN service would not store.
 ExportedProfile ParseExportedProfile(std::string_view bytes, const std::string& source);
 
 /// All "*.xml" of a folder in the order of their names. Throws CaptureError, also for a folder without any.

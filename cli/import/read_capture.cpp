@@ -67,9 +67,9 @@ void ReadCapture(std::string_view bytes, const std::string& source, const Captur
     if (LooksLikeNmcliList(text))
         return Set(captures.networks, ParseNmcliList(text, source), "networks", captures.warnings);
     RefuseWithRemedy(text, source);
-    throw CaptureError(source +
-                       ":1: this is no output of \"netsh wlan show networks mode=bssid\" or \"netsh wlan show "
-                       "interfaces\", no profile, and no output of \"iw dev wlan0 scan\" or \"nmcli dev wifi list\"");
+    throw CaptureError(
+        source + ":1: this is not output of \"netsh wlan show networks mode=bssid\" or \"netsh wlan show "
+                 "interfaces\", not a profile, and not output of \"iw dev wlan0 scan\" or \"nmcli dev wifi list\"");
 }
 
 } // namespace calvix::host

@@ -29,7 +29,7 @@ ConnectRequest AcceptedRequest(Host& host)
         throw OperationFailure("no connection was requested", "scan, and check the stored profiles");
     if (requests.back().error == 0)
         return requests.back();
-    // The walks of the library report success whatever became of their requests.
+    // The methods that try several networks report success even if the service refused each request.
     Failure refused = ServiceFailure("WlanConnect", requests.back().error);
     FailureReport report = refused.report();
     report.message = "the connection by " + Quoted(requests.back().profile) + " was refused: " + report.message;
@@ -44,17 +44,17 @@ Failure NeverConnected(const ConnectRequest& request, unsigned seconds)
 }
 
 /// What the notifications say of a request: nothing yet, or the reason code of its completion.
-class ToldOutcome
+class ReportedOutcome
 {
 public:
-    explicit ToldOutcome(const ConnectRequest& request) : m_request(request) {}
+    explicit ReportedOutcome(const ConnectRequest& request) : m_request(request) {}
 
     void Look(const Notice& notice)
     {
         if (!notice.ofConnection || !IsEqualGUID(notice.adapter, m_request.adapter) ||
             notice.profile != m_request.profile)
             return;
-        // What came before was of an attempt that this one has replaced.
+        // Earlier notifications belong to an attempt that this one has replaced.
         if (notice.code == wlan_notification_acm_connection_start)
             m_reason.reset();
         else if (notice.code == wlan_notification_acm_connection_complete)
@@ -68,11 +68,11 @@ private:
     std::optional<DWORD> m_reason;
 };
 
-/// Notifications get lost on busy computers: what counts in the end is what stands.
-bool StandsNow(Host& host, const ConnectRequest& request)
+/// Notifications get lost on busy computers: in the end the state of the connection decides.
+bool IsConnectedNow(Host& host, const ConnectRequest& request)
 {
     const auto connection = host.service().Connection(&request.adapter);
-    return connection && StandsConnected(connection->isState) &&
+    return connection && IsConnectedState(connection->isState) &&
            FixedText(connection->strProfileName) == request.profile;
 }
 
@@ -106,7 +106,7 @@ bool WaitUntil(Host& host, unsigned seconds, const std::function<bool()>& look, 
             return false;
         host.Wait(kWaitStepMilliseconds);
         if (Interrupted())
-            throw OperationFailure("interrupted", "what was asked for goes on without this program");
+            throw OperationFailure("interrupted", "the request continues without this program");
     }
     if (waited != nullptr)
         *waited = milliseconds;
@@ -116,19 +116,19 @@ bool WaitUntil(Host& host, unsigned seconds, const std::function<bool()>& look, 
 ConnectRequest ConnectionWait::Finish(unsigned seconds)
 {
     ConnectRequest request = AcceptedRequest(m_host);
-    ToldOutcome outcome(request);
-    const Progress progress(m_host, "Asked for " + Quoted(request.profile) + ", waiting for the connection");
-    const bool told = WaitUntil(m_host, seconds,
-                                [&]
-                                {
-                                    for (const Notice& notice : m_notifications.Take())
-                                        outcome.Look(notice);
-                                    return outcome.reason().has_value();
-                                });
-    if (told && *outcome.reason() != WLAN_REASON_CODE_SUCCESS)
+    ReportedOutcome outcome(request);
+    const Progress progress(m_host, "Requested " + Quoted(request.profile) + ", waiting for the connection");
+    const bool reported = WaitUntil(m_host, seconds,
+                                    [&]
+                                    {
+                                        for (const Notice& notice : m_notifications.Take())
+                                            outcome.Look(notice);
+                                        return outcome.reason().has_value();
+                                    });
+    if (reported && *outcome.reason() != WLAN_REASON_CODE_SUCCESS)
         throw ReasonFailure(m_host, "the connection by " + Quoted(request.profile) + " was not made",
                             *outcome.reason());
-    if (!told && !StandsNow(m_host, request))
+    if (!reported && !IsConnectedNow(m_host, request))
         throw NeverConnected(request, seconds);
     return request;
 }

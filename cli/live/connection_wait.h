@@ -16,7 +16,7 @@ class ConnectionWait
 public:
     explicit ConnectionWait(Host& host) : m_host(host), m_notifications(host) {}
 
-    /// Waits until the service tells the outcome of what the library asked for last. Returns the request that the
+    /// Waits until the service reports the result of the library's last request. Returns the request that the
     /// service accepted. A connection that is refused, fails, or is not made in time is a Failure that says why.
     ConnectRequest Finish(unsigned seconds);
 

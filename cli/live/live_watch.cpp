@@ -125,7 +125,7 @@ SignalFacts ReadSignal(Host& host)
     const auto state = static_cast<unsigned long>(host.Check("GetWlanStatus", host.manager().GetWlanStatus(adapter)));
     facts.state = host.manager().GetWlanInterfaceState(state);
     const auto connection = host.service().Connection(adapter);
-    if (!connection || !StandsConnected(connection->isState))
+    if (!connection || !IsConnectedState(connection->isState))
         return facts;
     const WLAN_ASSOCIATION_ATTRIBUTES& association = connection->wlanAssociationAttributes;
     facts.connected = true;

@@ -11,7 +11,7 @@ namespace calvix::host
 namespace
 {
 
-bool TellsOfConnection(DWORD code)
+bool ConcernsConnection(DWORD code)
 {
     switch (code)
     {
@@ -71,7 +71,7 @@ void WINAPI Notifications::Receive(PWLAN_NOTIFICATION_DATA data, PVOID context)
     Notice notice;
     notice.code = data->NotificationCode;
     notice.adapter = data->InterfaceGuid;
-    if (TellsOfConnection(notice.code))
+    if (ConcernsConnection(notice.code))
         AddConnection(*data, notice);
     else if (notice.code == wlan_notification_acm_scan_fail)
         AddReason(*data, notice);

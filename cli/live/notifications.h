@@ -14,7 +14,7 @@ struct Notice
 {
     DWORD code = 0; ///< WLAN_NOTIFICATION_ACM
     GUID adapter{};
-    bool ofConnection = false; ///< whether profile, ssid and reason are told
+    bool ofConnection = false; ///< whether profile, ssid and reason are known
     std::wstring profile;
     DOT11_SSID ssid{};
     DWORD reason = 0; ///< also of a scan that failed

@@ -8,7 +8,7 @@ namespace calvix::host
 {
 
 /// Says on a terminal what is being waited for, in a line that turns while time passes and is gone at the end. Nothing
-/// is shown where nobody watches, or with JSON.
+/// is shown without a terminal, or with JSON.
 class Progress
 {
 public:

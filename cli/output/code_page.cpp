@@ -13,7 +13,7 @@ std::string InActiveCodePage(const std::wstring& name, const std::string& advice
     char narrow[capacity] = {};
     wchar_t back[capacity] = {};
     platform::Text& text = platform::text();
-    // Converted there and back, because not every code page tells whether a character was lost.
+    // Converted there and back, because not every code page reports a lost character.
     if (text.WideCharToMultiByte(CP_ACP, 0, name.c_str(), -1, narrow, capacity, nullptr, nullptr) == 0 ||
         text.MultiByteToWideChar(CP_ACP, 0, narrow, -1, back, capacity) == 0 || name != back)
         throw BadInput("the name \"" + Narrow(name) + "\" has characters outside the active code page", advice);

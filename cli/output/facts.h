@@ -8,7 +8,7 @@
 namespace calvix::host
 {
 
-/// What the commands found out, ready to be shown as a table or as JSON. Texts are UTF-8; an SSID stands there twice,
+/// What the commands found out, ready to be shown as a table or as JSON. Texts are UTF-8; an SSID is there twice,
 /// as people read it and as its bytes in hexadecimal.
 
 struct SsidFacts
@@ -98,7 +98,7 @@ struct IdlePolicyFacts
 struct SignalFacts
 {
     std::string state;
-    bool connected = false; ///< the rest is told only then
+    bool connected = false; ///< the rest is known only then
     std::string profile;
     SsidFacts ssid;
     std::string bssid;
@@ -127,7 +127,7 @@ struct ScenarioCounts
     std::size_t profiles = 0;
 };
 
-/// What importing came to.
+/// The result of an import.
 struct ImportFacts
 {
     ScenarioCounts counts;
@@ -135,7 +135,7 @@ struct ImportFacts
     std::string output; ///< the file written
 };
 
-/// What roaming came to.
+/// The result of roaming.
 struct RoamFacts
 {
     int code = 0;

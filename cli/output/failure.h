@@ -20,7 +20,7 @@ enum class ExitCode
     badInput = 2,     ///< bad usage, or a file that cannot be used
     unavailable = 3,  ///< no adapter, or the WLAN service cannot be reached
     notConfirmed = 4, ///< the confirmation was not answered with yes
-    departed = 5      ///< the command differs from the recording that it replays
+    differs = 5       ///< the command differs from the recording that it replays
 };
 
 /// Why a command ended without success, in words and in numbers.
@@ -29,13 +29,13 @@ struct FailureReport
     ExitCode exitCode = ExitCode::failed;
     std::string message; ///< what failed
     std::string advice;  ///< what to do about it; may be empty
-    std::string method;  ///< the library's method, empty: none is to blame
+    std::string method;  ///< the library's method that failed; empty: none
     std::optional<int> code;
     std::string operation; ///< the operation of the platform that was refused last; may be empty
     std::uint32_t platformError = 0;
-    std::uint32_t reasonCode = 0; ///< why the service did not make a connection or store a profile; 0: not told
+    std::uint32_t reasonCode = 0; ///< why the service did not make a connection or store a profile; 0: unknown
     std::string reason;           ///< its text
-    std::vector<CandidateFacts> candidates; ///< that were asked for in vain
+    std::vector<CandidateFacts> candidates; ///< whose requests were refused
     std::vector<CheckFacts> checks;         ///< of the doctor, some of which failed
 };
 

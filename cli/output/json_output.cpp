@@ -98,8 +98,8 @@ JsonRecord Describe(const StatusFacts& status)
 
 JsonRecord Describe(const CandidateFacts& candidate)
 {
-    JsonRecord record("A network that best may ask for.", "candidate");
-    record.Add("order", candidate.order, {"In which they are asked for"}).Add("profile", candidate.profile);
+    JsonRecord record("A network that best may request.", "candidate");
+    record.Add("order", candidate.order, {"In which they are requested"}).Add("profile", candidate.profile);
     return AddSsid(record, candidate.ssid)
         .Add("quality", candidate.quality, {.definition = "quality"})
         .Add("fiveGhz", candidate.fiveGhz, {"Access points that earned the bonus"})
@@ -111,7 +111,7 @@ JsonRecord Describe(const CandidateFacts& candidate)
 
 JsonRecord Describe(const CheckFacts& check)
 {
-    return JsonRecord("One thing that doctor looks at.", "check")
+    return JsonRecord("One check of doctor.", "check")
         .Add("adapter", check.adapter, {.meaning = "Its number; null: about the computer", .emptyIsNull = true})
         .Add("check", check.check)
         .Add("verdict", VerdictText(check.verdict), {.among = {"ok", "warning", "failed"}})
@@ -122,7 +122,7 @@ JsonRecord Describe(const CheckFacts& check)
 JsonRecord Describe(const RoamFacts& roam)
 {
     const Shape bssidOrNull{.definition = "bssid", .emptyIsNull = true};
-    return JsonRecord("What roaming came to.", "roamDecision")
+    return JsonRecord("The result of roaming.", "roamDecision")
         .Add("decision", roam.decision, {.among = {"roam", "stay", "none"}})
         .Add("code", roam.code, {"The library's result"})
         .Add("why", roam.why)
@@ -184,13 +184,14 @@ JsonRecord Describe(const FailureReport& failure)
             .Add("advice", failure.advice, kTextOrNull)
             .Add("method", failure.method, {.meaning = "Of the library", .emptyIsNull = true})
             .Add("code", failure.code, {"Its result"})
-            .Add("operation", failure.operation, {.meaning = "Of the platform, that was refused", .emptyIsNull = true})
+            .Add("operation", failure.operation, {.meaning = "Of the platform: the refused one", .emptyIsNull = true})
             .Add("platformError", failure.platformError, {.meaning = "Its error number", .emptyIsNull = true})
             .Add("reasonCode", failure.reasonCode, {.meaning = "Of the WLAN service", .emptyIsNull = true})
             .Add("reason", failure.reason, {.meaning = "In its words", .emptyIsNull = true});
     return JsonRecord()
-        .AddIf(!failure.candidates.empty(), "candidates", failure.candidates, {"Of best, asked for in vain"})
-        .AddIf(!failure.checks.empty(), "checks", failure.checks, {"Of doctor, some of which failed"})
+        .AddIf(!failure.candidates.empty(), "candidates", failure.candidates,
+               {"Of best: the requests that were refused"})
+        .AddIf(!failure.checks.empty(), "checks", failure.checks, {"Of doctor: some of them failed"})
         .Add("error", error);
 }
 
@@ -201,12 +202,12 @@ JsonRecord LiveRecord(unsigned long long milliseconds, const SignalFacts& signal
 
 JsonRecord LiveRecord(unsigned long long milliseconds, const NoticeFacts& notice)
 {
-    return AtMoment("The service tells something.", "notification", milliseconds, Describe(notice));
+    return AtMoment("A notification of the service, with its time.", "notification", milliseconds, Describe(notice));
 }
 
 JsonRecord LiveRecord(unsigned long long milliseconds, const RoamFacts& roam)
 {
-    return AtMoment("Roaming was decided on.", "roam", milliseconds, Describe(roam));
+    return AtMoment("A decision about roaming.", "roam", milliseconds, Describe(roam));
 }
 
 JsonRecord MoveRecord(unsigned long long milliseconds, const std::string& from, const std::string& to)

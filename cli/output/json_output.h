@@ -28,7 +28,7 @@ JsonRecord Describe(const SignalFacts& signal);
 JsonRecord Describe(const NoticeFacts& notice);
 JsonRecord Describe(const ImportFacts& import);
 JsonRecord Describe(const IdlePolicyFacts& policy);
-/// {"error": {...}}, in the place of a result; with "candidates" where some were asked for in vain, with
+/// {"error": {...}}, in the place of a result; with "candidates" if requests were refused, with
 /// "checks" where some failed.
 JsonRecord Describe(const FailureReport& failure);
 

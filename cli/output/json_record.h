@@ -54,7 +54,7 @@ public:
     {
         return AddPart(name, PartOf(value, shape), present, false);
     }
-    /// For what is no value like others.
+    /// For a member that is not a plain value.
     JsonRecord& AddPart(const char* name, const JsonPart& part, bool present = true, bool required = true);
     /// All members of another record.
     JsonRecord& Join(const JsonRecord& other);
@@ -107,7 +107,7 @@ private:
     Json m_definitions = Json::object();
 };
 
-/// What a command prints: one object with a line break behind it.
+/// What a command prints: one object and a line break.
 void PrintJson(std::ostream& out, const JsonRecord& record);
 
 template <typename Facts>

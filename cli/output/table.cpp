@@ -38,7 +38,7 @@ std::string Padding(const std::string& text, std::size_t width)
     return std::string(own < width ? width - own : 0, ' ');
 }
 
-/// One line; blanks behind the last text are left out.
+/// One line, without trailing blanks.
 void PrintLine(std::ostream& out,
                const std::vector<Cell>& cells,
                const std::vector<Column>& columns,

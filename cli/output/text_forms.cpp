@@ -12,7 +12,7 @@ namespace calvix::host
 namespace
 {
 
-/// The character that begins at `index`, which moves behind it. Pairs of surrogates are joined in both worlds.
+/// The character that begins at `index`, which moves to the next one. Pairs of surrogates are joined in both worlds.
 char32_t NextWide(std::wstring_view wide, std::size_t& index)
 {
     const auto first = static_cast<char32_t>(wide[index++]);
@@ -25,7 +25,7 @@ char32_t NextWide(std::wstring_view wide, std::size_t& index)
     return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
 }
 
-/// Marks that turn the direction of the text behind them.
+/// Marks that turn the direction of the text after them.
 bool IsDirectionMark(char32_t c)
 {
     return c == 0x061C || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) || (c >= 0x2066 && c <= 0x2069);

@@ -34,9 +34,9 @@ inline std::string SsidText(const DOT11_SSID& ssid)
 /// An SSID record with these bytes, at most 32 of them.
 DOT11_SSID MakeSsid(std::string_view bytes);
 
-/// The bytes behind pairs of hexadecimal digits; blanks, colons and hyphens do not matter. None for any other text.
+/// The bytes of pairs of hexadecimal digits; blanks, colons and hyphens do not matter. None for any other text.
 std::optional<std::string> BytesOfHexText(std::string_view text);
-/// An SSID as an argument names it: as VisibleText shows it, or behind "hex:" its bytes. None for bad digits.
+/// An SSID as an argument has it: as VisibleText shows it, or "hex:" and its bytes. None for bad digits.
 std::optional<std::string> BytesOfSsidArgument(std::string_view text);
 
 using forms::HexText;

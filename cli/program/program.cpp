@@ -13,7 +13,7 @@ namespace calvix::host
 namespace
 {
 
-int TellFailure(Host& host, const FailureReport& failure)
+int ReportFailure(Host& host, const FailureReport& failure)
 {
     if (host.json())
         PrintJson(host.out(), failure);
@@ -53,7 +53,7 @@ int EndRecording(Host& host, const std::vector<std::string>& arguments, int exit
     catch (const Failure& failure)
     {
         if (exitCode == static_cast<int>(ExitCode::success))
-            return TellFailure(host, failure.report());
+            return ReportFailure(host, failure.report());
         PrintFailure(host.err(), failure.report(), host.terminal());
         return exitCode;
     }
@@ -87,12 +87,12 @@ int CarryOutArguments(const std::vector<std::string>& arguments,
     const InterruptWatch interruptWatch;
     Host host(*commands.optionValues, in, out, err, terminal);
     std::optional<FailureReport> failure = CarryOut(host, command->run);
-    // A command that got no answers any more fails in some way or other, and that is not to the point.
-    if (const auto departure = host.EndReplay())
-        failure = departure;
+    // A command without answers fails, too; the difference is the cause.
+    if (const auto difference = host.EndReplay())
+        failure = difference;
     if (!failure)
         return EndRecording(host, arguments, static_cast<int>(ExitCode::success));
-    const int exitCode = TellFailure(host, *failure);
+    const int exitCode = ReportFailure(host, *failure);
     if (failure->exitCode != ExitCode::badInput)
         SaveAfterFailure(host);
     return EndRecording(host, arguments, exitCode);

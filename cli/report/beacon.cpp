@@ -51,7 +51,7 @@ std::optional<WideChannel> VhtChannel(ElementBytes operation, unsigned long base
     return WideChannel{80, first};
 }
 
-/// The part of HE operation that 6 GHz beacons have, behind what else is announced in the parameters.
+/// The part of HE operation that 6 GHz beacons have, after the other parts that the parameters announce.
 std::optional<WideChannel> HeChannel(const BeaconElements& elements, unsigned long base)
 {
     const auto operation = elements.Find(element::he_operation, 6);
@@ -81,7 +81,7 @@ std::optional<WideChannel> EhtChannel(const BeaconElements& elements, unsigned l
     return centre != 0 ? std::optional(WideChannel{20U << code, base + 5UL * centre}) : std::nullopt;
 }
 
-/// The newest element that tells of the channel has the last word: older ones name the part that old adapters can use.
+/// The newest element with a channel decides: older ones describe the part that old adapters can use.
 std::optional<WideChannel> ChannelOf(const BeaconElements& elements, unsigned long primaryMhz)
 {
     const unsigned long base = forms::ChannelBaseMhz(static_cast<std::uint32_t>(primaryMhz));

@@ -19,7 +19,7 @@ public:
 
     /// The content of the first element of this number; none where it is missing or shorter than `least`.
     std::optional<ElementBytes> Find(unsigned number, std::size_t least = 0) const;
-    /// The content, behind the four bytes that identify it, of the first vendor's element that begins with them.
+    /// The content, after the four bytes that identify it, of the first vendor element that begins with them.
     std::optional<ElementBytes> FindVendor(std::uint32_t identification) const;
 
 private:

@@ -21,7 +21,7 @@ std::string SsidName(const SsidFacts& ssid);
 /// Puts the values in the place of "{{name}}". What the values hold is not looked at again.
 std::string FillTemplate(std::string_view text, const std::map<std::string, std::string, std::less<>>& values);
 
-/// A number as documents have it, with at most one digit behind the point.
+/// A number as documents have it, with at most one digit after the point.
 std::string DecimalText(double number);
 
 } // namespace calvix::host

@@ -20,7 +20,7 @@ std::string OriginText(const RecordingFacts& recording)
 {
     return "from the recording " + VisibleText(recording.file) +
            (recording.simulated ? ", of a simulated computer" : "") +
-           (recording.anonymised ? ", with names made up" : "");
+           (recording.anonymised ? ", with invented names" : "");
 }
 
 std::string SubtitleText(const ReportFacts& report)
@@ -41,7 +41,7 @@ std::string SignalSection(const ReportFacts& report)
            "</section>\n";
 }
 
-/// What the page's policy knows its style and its script by. It follows from everything that was heard, so whoever chooses
+/// What identifies style and script to the page's policy. It follows from everything that was heard, so a person who chooses
 /// one network's name cannot foretell it, and the same report is the same page.
 std::string Nonce(const std::string& data)
 {
@@ -59,7 +59,7 @@ std::string ReportPage(const ReportFacts& report)
                                         {"nonce", Nonce(data)},
                                         {"script", kPageScript},
                                         {"data", data},
-                                        {"missing", MissingParts(report) + UntoldParts(report)},
+                                        {"missing", MissingParts(report) + UnrecordedParts(report)},
                                         {"keys", KeyFacts(report)},
                                         {"spectrum", SpectrumPicture(report)},
                                         {"signal", SignalSection(report)},

@@ -32,7 +32,7 @@ std::string UpperFirst(std::string text)
 std::string RatesText(const std::vector<unsigned>& rates)
 {
     if (rates.empty())
-        return "not told";
+        return "unknown";
     return DecimalText(rates.front() / 2.0) + "\xe2\x80\x93" + DecimalText(rates.back() / 2.0) + " Mbit/s";
 }
 
@@ -54,7 +54,7 @@ std::string NumberCell(const std::string& html, const std::string& sortedBy)
     return "<td class=\"n\" data-v=\"" + sortedBy + "\">" + html + "</td>";
 }
 
-/// A meter as wide as the quality, whose number stands beside it.
+/// A meter as wide as the quality, with the number beside it.
 std::string SignalHtml(const AccessPointFacts& facts)
 {
     return "<svg class=\"meter\" viewBox=\"0 0 50 8\" aria-hidden=\"true\"><rect class=\"rail\" width=\"50\" "
@@ -82,7 +82,7 @@ std::string AccessPointRow(const AirAccessPoint& point)
     row += NumberCell(SignalHtml(facts), std::to_string(facts.rssi));
     row += NumberCell(std::to_string(facts.channel), std::to_string(facts.channel));
     row += NumberCell(std::to_string(beacon.widthMhz) +
-                          (beacon.widthKnown ? "" : "<abbr title=\"not told: at least\">*</abbr>"),
+                          (beacon.widthKnown ? "" : "<abbr title=\"unknown: at least\">*</abbr>"),
                       std::to_string(beacon.widthMhz));
     row += TableCell(facts.band, std::to_string(facts.frequencyKhz));
     row += TableCell(EscapeHtml(beacon.security));
@@ -94,12 +94,12 @@ std::string AccessPointRow(const AirAccessPoint& point)
 
 std::string OptionalNumber(const std::optional<int>& number, const char* unit)
 {
-    return number ? std::to_string(*number) + unit : "not told";
+    return number ? std::to_string(*number) + unit : "unknown";
 }
 
 std::string MegabitText(unsigned long kbps)
 {
-    return kbps != 0 ? DecimalText(static_cast<double>(kbps) / 1000) + " Mbit/s" : "not told";
+    return kbps != 0 ? DecimalText(static_cast<double>(kbps) / 1000) + " Mbit/s" : "unknown";
 }
 
 std::string KeyFact(const std::string& value, const std::string& name)
@@ -137,13 +137,13 @@ std::string CandidateTable(const std::vector<CandidateFacts>& candidates)
 std::string MissingParts(const ReportFacts& report)
 {
     std::string html;
-    std::set<std::string> told;
+    std::set<std::string> shown;
     for (const MissingPart& missing : report.missing)
     {
         const FailureReport& failure = missing.failure;
         html += "<li><b>" + UpperFirst(missing.part) + ":</b> " + EscapeHtml(failure.message) + ".";
-        // One reason behind several parts is told with the first.
-        if (!failure.advice.empty() && told.insert(failure.advice).second)
+        // Several parts may have the same cause: its advice is shown once.
+        if (!failure.advice.empty() && shown.insert(failure.advice).second)
             html += "<br><span class=\"advice\">What to do: " + EscapeHtml(failure.advice) + ".</span>";
         html += "</li>\n";
     }
@@ -155,15 +155,15 @@ std::string MissingParts(const ReportFacts& report)
            html + "</ul></section>\n";
 }
 
-std::string UntoldParts(const ReportFacts& report)
+std::string UnrecordedParts(const ReportFacts& report)
 {
     if (!report.recording || report.recording->notRecorded.empty())
         return {};
     std::string html =
-        "<section class=\"missing\" aria-labelledby=\"untold\"><h2 id=\"untold\">What the recording does "
-        "not tell</h2>\n<ul>\n";
-    for (const std::string& untold : report.recording->notRecorded)
-        html += "<li>" + EscapeHtml(untold) + "</li>\n";
+        "<section class=\"missing\" aria-labelledby=\"unrecorded\"><h2 id=\"unrecorded\">What the recording does not "
+        "contain</h2>\n<ul>\n";
+    for (const std::string& unrecorded : report.recording->notRecorded)
+        html += "<li>" + EscapeHtml(unrecorded) + "</li>\n";
     return html + "</ul></section>\n";
 }
 
@@ -264,14 +264,15 @@ std::string ProfileItems(const ReportFacts& report)
 std::string ChoiceTable(const ReportFacts& report)
 {
     if (report.recording)
-        return "<p>Left out: they decide by what the computer itself answers them, which the recording does not "
-               "tell.</p>\n";
+        return "<p>Not shown: they decide by the computer's answers, which the recording does not "
+               "contain.</p>\n";
     if (report.choices.empty())
         return "<p>Not known.</p>\n";
-    std::string html = "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"Automatic methods\">"
-                       "<table class=\"plain\"><caption>What each automatic method would do now; nothing was asked of "
-                       "the service</caption><thead><tr><th scope=\"col\">Method</th><th scope=\"col\">Now</th>"
-                       "<th scope=\"col\">What it goes by</th></tr></thead><tbody>\n";
+    std::string html =
+        "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"Automatic methods\">"
+        "<table class=\"plain\"><caption>What each automatic method would do now; no request was sent to "
+        "the service</caption><thead><tr><th scope=\"col\">Method</th><th scope=\"col\">Now</th>"
+        "<th scope=\"col\">How it decides</th></tr></thead><tbody>\n";
     for (const ChoiceFacts& choice : report.choices)
         html += ChoiceRow(choice);
     html += "</tbody></table></div>\n";

@@ -6,7 +6,7 @@
 namespace calvix::host
 {
 
-/// Where a label stands: the middle of its text's base line.
+/// The place of a label: the middle of its text's base line.
 struct LabelPlace
 {
     double x = 0;

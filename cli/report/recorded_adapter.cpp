@@ -97,7 +97,7 @@ void RecordedAdapter::HearProfile(const std::wstring& xml)
 
 void RecordedAdapter::HearConnection(const WLAN_CONNECTION_ATTRIBUTES& attributes, unsigned second)
 {
-    if (!StandsConnected(attributes.isState))
+    if (!IsConnectedState(attributes.isState))
         return Disconnect(second);
     const WLAN_ASSOCIATION_ATTRIBUTES& association = attributes.wlanAssociationAttributes;
     m_attributes = attributes;
@@ -121,7 +121,7 @@ void RecordedAdapter::HearSignal(int rssi, unsigned second)
     AddMoment(second);
 }
 
-/// The notification does not name the access point: it is the one of the request, or told by the next answer.
+/// The notification does not name the access point: it is the requested one, or the next answer has it.
 void RecordedAdapter::Connect(unsigned second)
 {
     const auto point = m_asked ? m_view.find(*m_asked) : m_view.end();
@@ -170,7 +170,7 @@ void RecordedAdapter::AddMoment(unsigned second)
     m_linkSampled = m_linkKnown;
 }
 
-/// Where no elements were recorded, the lists of networks may tell the security.
+/// If no elements were recorded, the lists of networks may have the security.
 AirAccessPoint RecordedAdapter::Described(const HeardAccessPoint& heard) const
 {
     AirAccessPoint point = DescribeHeard(heard);
@@ -186,23 +186,23 @@ AirAccessPoint RecordedAdapter::Described(const HeardAccessPoint& heard) const
     return point;
 }
 
-void RecordedAdapter::Tell(ReportFacts& report, const AdapterFacts& adapter) const
+void RecordedAdapter::Fill(ReportFacts& report, const AdapterFacts& adapter) const
 {
     report.history = m_history;
-    TellConnection(report, adapter);
-    TellAir(report);
-    TellProfiles(report);
+    FillConnection(report, adapter);
+    FillAir(report);
+    FillProfiles(report);
     if (m_history.samples.size() < 2)
-        report.recording->notRecorded.push_back("The signal over time: the session looked no more than once.");
+        report.recording->notRecorded.push_back("The signal over time: the session read it only once.");
 }
 
-void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts adapter) const
+void RecordedAdapter::FillConnection(ReportFacts& report, AdapterFacts adapter) const
 {
     std::vector<std::string>& notRecorded = report.recording->notRecorded;
     if (!m_linkKnown)
-        return notRecorded.push_back("The connection: the session did not ask for it.");
+        return notRecorded.push_back("The connection: the session did not query it.");
     // The link may be newer than the list of adapters.
-    if (m_link.connected != StandsConnected(static_cast<WLAN_INTERFACE_STATE>(adapter.state)))
+    if (m_link.connected != IsConnectedState(static_cast<WLAN_INTERFACE_STATE>(adapter.state)))
     {
         adapter.state = m_link.connected ? kLinkUp : kLinkDown;
         adapter.stateText = StateText(adapter.state);
@@ -214,26 +214,25 @@ void RecordedAdapter::TellConnection(ReportFacts& report, AdapterFacts adapter) 
     if (m_attributes)
         connection = DescribeConnection(*m_attributes);
     else
-        notRecorded.push_back(
-            "More of the connection than its access point: the session did not ask after it was made.");
+        notRecorded.push_back("Details of the connection: the session did not query them after it was made.");
     connection.ssid = m_link.ssid;
     connection.bssid = m_link.bssid;
     connection.quality = m_link.quality;
     connection.rssi = m_link.rssi;
     if (!m_link.rssi)
-        notRecorded.push_back("The signal of the connection in dBm: the session did not ask for it.");
+        notRecorded.push_back("The signal of the connection in dBm: the session did not query it.");
 }
 
-void RecordedAdapter::TellAir(ReportFacts& report) const
+void RecordedAdapter::FillAir(ReportFacts& report) const
 {
     std::vector<std::string>& notRecorded = report.recording->notRecorded;
     report.airKnown = m_airKnown;
     for (const auto& [bssid, heard] : m_view)
         report.accessPoints.push_back(Described(heard));
     if (!m_airKnown)
-        notRecorded.push_back("The access points: the session got no list of them." + NamedNetworks());
+        notRecorded.push_back("The access points: the session did not list them." + NamedNetworks());
     else if (!m_allAsked)
-        notRecorded.push_back("Access points of other networks: the session asked only for those of " +
+        notRecorded.push_back("Access points of other networks: the session listed only those of " +
                               InRow(m_networksAsked) + ".");
     constexpr unsigned longAgo = 10;
     const unsigned end = m_history.samples.empty() ? 0 : m_history.samples.back().second;
@@ -248,10 +247,10 @@ std::string RecordedAdapter::NamedNetworks() const
     for (const WLAN_AVAILABLE_NETWORK& network : m_networks)
         if (network.dot11Ssid.uSSIDLength > 0)
             names.insert(SsidText(network.dot11Ssid));
-    return names.empty() ? "" : " Its list of networks names " + InRow(names) + ".";
+    return names.empty() ? "" : " Its list of networks has " + InRow(names) + ".";
 }
 
-void RecordedAdapter::TellProfiles(ReportFacts& report) const
+void RecordedAdapter::FillProfiles(ReportFacts& report) const
 {
     RecordingFacts& recording = *report.recording;
     recording.hasProfiles = m_profiles.has_value();
@@ -267,14 +266,14 @@ void RecordedAdapter::TellProfiles(ReportFacts& report) const
         report.profiles.push_back(facts);
     }
     if (m_profiles && m_profilesChanged)
-        recording.notRecorded.push_back("The profiles as they are in the end: they were changed after the last list.");
+        recording.notRecorded.push_back("The profiles at the end: they changed after the last list.");
     if (m_profiles)
         return;
     std::set<std::string> names;
     for (const WLAN_AVAILABLE_NETWORK& network : m_networks)
         names.insert(VisibleText(Narrow(FixedText(network.strProfileName))));
     names.erase("");
-    recording.notRecorded.push_back("The stored profiles: the session got no list of them." +
+    recording.notRecorded.push_back("The stored profiles: the session did not list them." +
                                     (names.empty() ? "" : " Networks in view have the profiles " + InRow(names) + "."));
 }
 

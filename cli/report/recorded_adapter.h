@@ -31,16 +31,16 @@ public:
     bool HasLink() const { return m_linkKnown; }
 
     /// Fills in what is known, and notes what is not.
-    void Tell(ReportFacts& report, const AdapterFacts& adapter) const;
+    void Fill(ReportFacts& report, const AdapterFacts& adapter) const;
 
 private:
     void TakeOutOfView(const AirQuestion& asked);
     void NoteLink(const SignalFacts& link, unsigned second);
     void AddMoment(unsigned second);
     AirAccessPoint Described(const HeardAccessPoint& heard) const;
-    void TellConnection(ReportFacts& report, AdapterFacts adapter) const;
-    void TellAir(ReportFacts& report) const;
-    void TellProfiles(ReportFacts& report) const;
+    void FillConnection(ReportFacts& report, AdapterFacts adapter) const;
+    void FillAir(ReportFacts& report) const;
+    void FillProfiles(ReportFacts& report) const;
     std::string NamedNetworks() const;
 
     std::map<std::string, HeardAccessPoint> m_view; ///< by BSSID

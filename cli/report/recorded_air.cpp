@@ -32,7 +32,7 @@ public:
         m_list = adapters;
         m_refusals.erase("WlanEnumInterfaces");
         for (const WLAN_INTERFACE_INFO& info : adapters)
-            if (!StandsConnected(info.isState))
+            if (!IsConnectedState(info.isState))
                 Of(info.InterfaceGuid).Disconnect(Second());
     }
     void Hear(const GUID& adapter, const AirQuestion& asked, const std::vector<HeardAccessPoint>& accessPoints) override
@@ -69,7 +69,7 @@ public:
         m_refusals[question] = error;
     }
 
-    void Tell(ReportFacts& report, const std::string& wanted) const;
+    void Fill(ReportFacts& report, const std::string& wanted) const;
 
 private:
     unsigned Second() const { return static_cast<unsigned>(m_waited / 1000); }
@@ -77,7 +77,7 @@ private:
     std::string Chosen(const std::string& wanted) const;
     std::string Usual() const;
     AdapterFacts FactsOf(const std::string& guid) const;
-    void TellRefusals(ReportFacts& report) const;
+    void FillRefusals(ReportFacts& report) const;
 
     unsigned long long m_waited = 0; ///< milliseconds: the only clock that every recording has
     std::vector<WLAN_INTERFACE_INFO> m_list;
@@ -111,7 +111,7 @@ std::string SessionAir::Chosen(const std::string& wanted) const
     for (const auto& [guid, adapter] : m_adapters)
         if (SameGuidText(wanted, guid))
             return guid;
-    throw BadInput("the recording has no adapter \"" + wanted + "\"", "leave --interface out to see which it has");
+    throw BadInput("the recording has no adapter \"" + wanted + "\"", "omit --interface to see which it has");
 }
 
 /// An adapter that was never listed is known by its GUID alone.
@@ -126,7 +126,7 @@ AdapterFacts SessionAir::FactsOf(const std::string& guid) const
     return facts;
 }
 
-void SessionAir::TellRefusals(ReportFacts& report) const
+void SessionAir::FillRefusals(ReportFacts& report) const
 {
     static constexpr std::pair<const char*, const char*> parts[] = {{"WlanOpenHandle", "the WLAN service"},
                                                                     {"WlanEnumInterfaces", "the adapters"},
@@ -143,17 +143,17 @@ void SessionAir::TellRefusals(ReportFacts& report) const
     }
 }
 
-void SessionAir::Tell(ReportFacts& report, const std::string& wanted) const
+void SessionAir::Fill(ReportFacts& report, const std::string& wanted) const
 {
     for (const WLAN_INTERFACE_INFO& info : m_list)
         report.adapters.push_back(DescribeAdapter(info, static_cast<unsigned>(report.adapters.size() + 1)));
     report.recording->hasAdapters = !m_list.empty();
-    TellRefusals(report);
+    FillRefusals(report);
     const std::string guid = Chosen(wanted);
     if (m_list.empty())
-        report.recording->notRecorded.push_back("The adapters: the session got no list of them.");
+        report.recording->notRecorded.push_back("The adapters: the session did not list them.");
     const auto known = m_adapters.find(guid);
-    (known == m_adapters.end() ? RecordedAdapter() : known->second).Tell(report, FactsOf(guid));
+    (known == m_adapters.end() ? RecordedAdapter() : known->second).Fill(report, FactsOf(guid));
     for (AdapterFacts& listed : report.adapters)
         if (report.status && listed.guid == guid)
             listed = report.status->adapter;
@@ -172,14 +172,13 @@ ReportFacts ReadSessionAir(std::istream& file, const std::string& path, const st
     const SessionTraits traits = ListenToSession(file, path, air);
     ReportFacts report;
     report.recording = RecordingFacts{NameOfFile(path), traits.simulated, traits.anonymised, {}, {}};
-    air.Tell(report, adapter);
+    air.Fill(report, adapter);
     if (!traits.complete)
     {
         const std::string line = std::to_string(traits.lastLine);
-        report.recording->brokenOff =
-            path + ":" + line + ": the recording breaks off after this line, before the end of the session";
-        report.recording->notRecorded.push_back("The end of the session: the recording breaks off after line " + line +
-                                                ".");
+        report.recording->incomplete =
+            path + ":" + line + ": the recording ends after this line, before the end of the session";
+        report.recording->notRecorded.push_back("The end of the session: the recording ends after line " + line + ".");
     }
     return report;
 }
@@ -190,7 +189,7 @@ ReportFacts ReadRecordedAir(const std::string& path, const std::string& adapter)
 {
     std::ifstream file(PathOf(path), std::ios::binary);
     if (!file)
-        throw BadInput(path + ": cannot be read", "check the path and the rights on it");
+        throw BadInput(path + ": cannot be read", "check the path and its permissions");
     try
     {
         return ReadSessionAir(file, path, adapter);

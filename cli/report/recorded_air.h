@@ -9,7 +9,7 @@ namespace calvix::host
 
 /// The picture of the air that a recorded session leaves, whatever the session was about: the last answer to each
 /// question, and the signal over the time that the session waited. `adapter` is what --interface says, empty for the one
-/// whose air was listed last. A file that is no recording, or damaged, is a Failure; one that breaks off is told in
+/// whose air was listed last. A file that is not a recording, or is damaged, is a Failure; an incomplete one is reported in
 /// the result.
 ReportFacts ReadRecordedAir(const std::string& path, const std::string& adapter);
 

@@ -35,17 +35,17 @@ constexpr AutomaticMethod kAutomaticMethods[] = {
     {"ConnectBestAP", "best",
      "Ranks the networks in view whose profiles connect automatically by signal quality, with a bonus for 5 GHz, and "
      "asks "
-     "for the lowest score first.",
+     "the lowest score first.",
      [](Host& host) { return static_cast<long>(host.manager().ConnectBestAP(host.adapterGuid())); }},
     {"AutoConnect", "auto",
-     "Asks for every network in view that has a profile, manual ones too, in the order of the profiles, until a "
+     "Requests every network in view that has a profile, manual ones too, in the order of the profiles, until a "
      "request "
      "is accepted.",
      [](Host& host) { return static_cast<long>(host.manager().AutoConnect(host.adapterGuid())); }},
     {"AutoConnectEx", "auto --method ranked", "Ranks as ConnectBestAP does, manual profiles included.",
      [](Host& host) { return static_cast<long>(host.manager().AutoConnectEx(host.adapterGuid())); }},
     {"SmartConnecting", "auto --method smart",
-     "Asks once, on the first adapter, for the first profile in order whose network is in view.",
+     "Requests once, on the first adapter, the first profile in order whose network is in view.",
      [](Host& host)
      {
          char name[128] = {};
@@ -54,10 +54,10 @@ constexpr AutomaticMethod kAutomaticMethods[] = {
     {"ConnectAutoMode", "auto --method mode",
      "Goes through the profiles that connect automatically in order, and reads each network's SSID as text first.",
      [](Host& host) { return static_cast<long>(host.manager().ConnectAutoMode(host.adapterGuid())); }},
-    {"AutoSwitch", "switch", "Puts the current profile last, then asks as AutoConnect does, in the order from before.",
+    {"AutoSwitch", "switch", "Puts the current profile last, then does as AutoConnect, in the previous order.",
      [](Host& host) { return static_cast<long>(host.manager().AutoSwitch(host.adapterGuid())); }},
     {"SmartSwitch", "switch --method smart",
-     "Asks once for the first profile in order whose network is better than the link, after reading the current SSID "
+     "Requests once the first profile in order whose network is better than the link, after reading the current SSID "
      "as "
      "text.",
      [](Host& host) { return static_cast<long>(host.manager().SmartSwitch(host.adapterGuid())); }},
@@ -91,8 +91,8 @@ std::string WhyNothing(const char* method, long code)
 std::string NowText(const std::vector<std::string>& asked, const char* method, long code)
 {
     if (asked.empty())
-        return "Asks for nothing: " + WhyNothing(method, code) + ".";
-    std::string text = "Asks for " + asked.front();
+        return "Requests nothing: " + WhyNothing(method, code) + ".";
+    std::string text = "Requests " + asked.front();
     for (std::size_t i = 1; i < asked.size(); ++i)
         text += (i == 1 ? "; if refused, for " : ", then for ") + asked[i];
     return text + ".";

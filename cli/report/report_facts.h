@@ -30,8 +30,8 @@ struct ChoiceFacts
 {
     std::string method;
     std::string command;            ///< that calls it
-    std::string rule;               ///< what it goes by, a sentence
-    std::string now;                ///< what that comes to, a sentence
+    std::string rule;               ///< how it decides, a sentence
+    std::string now;                ///< what it would do now, a sentence
     std::vector<std::string> asked; ///< what would be asked for, in order: profiles, or an access point
 };
 
@@ -72,7 +72,7 @@ struct RecordingFacts
     bool simulated = false;
     bool anonymised = false;
     std::vector<std::string> notRecorded; ///< what it does not contain, in sentences
-    std::string brokenOff;                ///< where it breaks off: "session.jsonl:12: ..."; empty: it is whole
+    std::string incomplete;               ///< where it ends too early: "session.jsonl:12: ..."; empty: it is complete
     bool hasAdapters = false;
     bool hasProfiles = false;
 };
@@ -81,7 +81,7 @@ struct RecordingFacts
 struct ReportFacts
 {
     std::string title;
-    std::string heardAt; ///< when the last access point was heard, by the computer's clock; empty: not told
+    std::string heardAt; ///< when the last access point was heard, by the computer's clock; empty: unknown
     std::vector<AdapterFacts> adapters;
     std::optional<StatusFacts> status;
     bool airKnown = false;                    ///< whether the access points could be listed

@@ -61,7 +61,7 @@ JsonRecord Describe(const MissingPart& missing)
 
 JsonRecord Describe(const RecordingFacts& recording)
 {
-    return JsonRecord("The recording that the page is made of; null: it is of this computer")
+    return JsonRecord("The recording that the page shows; null: the page shows this computer")
         .Add("file", recording.file)
         .Add("simulated", recording.simulated)
         .Add("anonymised", recording.anonymised)

@@ -31,7 +31,7 @@ struct AnsweredCall
     SessionListener& listener;
 };
 
-bool IsTold(Fields& fields, const char* name)
+bool IsPresent(Fields& fields, const char* name)
 {
     return fields.Has(name) && !fields.IsNull(name, static_cast<const void*>(nullptr));
 }
@@ -73,7 +73,7 @@ void HearProfiles(AnsweredCall& call)
 void HearAccessPoints(AnsweredCall& call)
 {
     AirQuestion asked;
-    if (IsTold(call.in, "ssid"))
+    if (IsPresent(call.in, "ssid"))
     {
         Fields ssid = call.in.Object("ssid");
         recording::Describe(ssid, asked.ssid.emplace());
@@ -94,7 +94,7 @@ void HearAnswer(AnsweredCall& call)
     DWORD size = 0;
     PVOID data = nullptr;
     recording::DescribeAnswer(call.out, opcode, &size, &data);
-    // Answers of another length than they should have are told as bytes, and mean nothing here.
+    // Answers with an unexpected length are recorded as bytes and ignored here.
     if (data == nullptr || call.out.Has("bytes"))
         return;
     if (opcode == wlan_intf_opcode_rssi)
@@ -131,7 +131,7 @@ void HearOfChange(AnsweredCall& call)
 
 using HearCall = void (*)(AnsweredCall&);
 
-/// The calls that tell something of the air.
+/// The calls whose answers describe the air.
 HearCall FindHearing(const std::string& operation)
 {
     static const std::map<std::string, HearCall> hearings = {
@@ -170,7 +170,7 @@ void HearCallOf(HearCall hear, const std::string& operation, AnsweredCall call)
 {
     DWORD error = 0;
     call.out.Number("result", error);
-    const bool named = IsTold(call.in, "interface");
+    const bool named = IsPresent(call.in, "interface");
     if (named)
         call.in.AdapterGuid("interface", call.adapter);
     if (error == ERROR_SUCCESS)

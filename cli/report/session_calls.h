@@ -15,7 +15,7 @@ namespace calvix::host
 struct AirQuestion
 {
     std::optional<DOT11_SSID> ssid; ///< none: all
-    bool secured = false;           ///< told with an SSID only
+    bool secured = false;           ///< known with an SSID only
 };
 
 /// Learns what a session got to know about the air, in the order in which it did. Only the last answer to a question
@@ -38,11 +38,11 @@ public:
     virtual void HearSignal(const GUID& adapter, int rssi) = 0;
     /// A connection was asked for, by an access point's address or without one.
     virtual void AskForConnection(const GUID& adapter, const std::optional<std::string>& bssid) = 0;
-    /// The connection that was asked for last stands.
+    /// The last request made a connection.
     virtual void Connect(const GUID& adapter) = 0;
     /// There is no connection.
     virtual void Disconnect(const GUID& adapter) = 0;
-    /// `question`: the operation, and behind WlanQueryInterface the number of what was asked for. `adapter` is null where
+    /// `question`: the operation, and after WlanQueryInterface the number of the opcode. `adapter` is null where
     /// none was named.
     virtual void Refuse(const GUID* adapter, const std::string& question, std::uint32_t error) = 0;
 };
@@ -50,7 +50,7 @@ public:
 /// How Refuse names the question for the current connection.
 inline constexpr const char* kConnectionQuestion = "WlanQueryInterface 7";
 
-/// What a recording tells about itself.
+/// What a recording says about itself.
 struct SessionTraits
 {
     bool simulated = false;

@@ -68,7 +68,7 @@ void DrawLetter(DotCanvas& canvas, const SpectrumBand& band, const AirAccessPoin
     const int column =
         std::clamp(DotX(band, static_cast<double>(point.beacon.centreKhz) / 1000) / 2, 0, kChartColumns - 1);
     const int row = DotY(static_cast<double>(point.facts.rssi)) / 4;
-    // Those of one channel and signal stand side by side.
+    // Those with the same channel and signal are drawn side by side.
     for (const int beside : {0, 2, -2, 4, -4, 1, -1, 3, -3})
     {
         if (canvas.HasLetter(column + beside, row))

@@ -105,7 +105,7 @@ std::string LabelOf(const AirAccessPoint& point)
     return point.inUse ? "\xe2\x97\x8f " + name : name;
 }
 
-/// The label, and a line to the top of the arch where it stands apart from it.
+/// The label, and a line to the top of the arch if the label is far from it.
 std::string Label(const AirAccessPoint& point, double x, double y, LabelPlacing& placing)
 {
     const std::string text = LabelOf(point);
@@ -118,7 +118,7 @@ std::string Label(const AirAccessPoint& point, double x, double y, LabelPlacing&
 
 std::string Arch(const AirAccessPoint& point, const PanelScale& scale, LabelPlacing& placing, bool first)
 {
-    // What a driver tells beyond the band stands at its edge.
+    // A frequency outside the band is drawn at its edge.
     const double centre = std::clamp(static_cast<double>(point.beacon.centreKhz) / 1000,
                                      static_cast<double>(scale.band.firstMhz), static_cast<double>(scale.band.lastMhz));
     const double half = point.beacon.widthMhz / 2.0;
@@ -142,7 +142,7 @@ std::vector<const AirAccessPoint*> InBand(const ReportFacts& report, const Spect
     return points;
 }
 
-/// The weaker arches stand before the stronger ones, so that each can be pointed at.
+/// The weaker arches are in front of the stronger ones, so that the pointer reaches each.
 std::string Arches(const std::vector<const AirAccessPoint*>& points, const PanelScale& scale)
 {
     LabelPlacing placing(kBefore, scale.width - 2, 2, PanelScale::Bottom() - 2);

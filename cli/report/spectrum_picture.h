@@ -14,7 +14,7 @@ std::string SpectrumPicture(const ReportFacts& report);
 /// "Lindenhof, 02:1A:..., -55 dBm, channel 36, 80 MHz wide": an access point in words.
 std::string InWords(const AirAccessPoint& accessPoint);
 
-/// The class that gives an access point, or whatever is of its network, its colour.
+/// The class that sets the colour of an access point's network.
 std::string ColourClass(const AirAccessPoint& accessPoint);
 
 } // namespace calvix::host

@@ -13,7 +13,7 @@ struct PictureOptions
     unsigned roamEvery = 0; ///< seconds between two calls of Roaming meanwhile, 0: none
 };
 
-/// An access point as it stands in the picture, not numbered yet.
+/// An access point as the picture has it, without a number.
 AirAccessPoint DescribeHeard(const HeardAccessPoint& heard);
 
 /// The access points in view, in the service's order, not numbered yet.
@@ -23,7 +23,7 @@ std::vector<AirAccessPoint> ListAir(Host& host);
 std::vector<AirAccessPoint> ArrangedAir(Host& host);
 
 /// What every picture goes through when its access points in view are listed and its connection and history are known:
-/// marks the one in use, adds those that were heard only before, numbers them all, and tells when it was.
+/// marks the one in use, adds those that were heard only before, numbers them all, and sets the time.
 void ArrangePicture(ReportFacts& report);
 
 /// Asks for everything that the page shows. What is refused is noted as missing, and the rest goes on.

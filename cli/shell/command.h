@@ -47,15 +47,15 @@ struct Argument
     bool isRepeated() const { return std::holds_alternative<std::vector<std::string>*>(value); }
     /// "--output"
     const std::string& longName() const { return names.front(); }
-    /// What stands for a value: "FILE", "N", "auto|always|never". Empty for a flag.
+    /// The placeholder of a value: "FILE", "N", "auto|always|never". Empty for a flag.
     std::string ValueText() const;
 };
 
-/// What a command does. Success is to return; whatever else ends it throws a Failure (failure.h).
+/// What a command does. It returns after success and throws a Failure (failure.h) otherwise.
 using RunCommand = std::function<void(Host&)>;
 
 /// A command with its arguments, declared next to what it does and bound to its variables. A name that begins with "--"
-/// (a short form may stand before it: "-o,--output") is an option, any other is a positional argument in the order of
+/// (a short form may come first: "-o,--output") is an option, any other is a positional argument in the order of
 /// declaration, required unless it is written in brackets: "[CODE]". What is not given keeps its variable's value. The
 /// variables must live until the command has run, so commands hold them through a std::shared_ptr.
 struct Command
@@ -80,7 +80,7 @@ struct Command
     Command& Takes(ValueKind kind);
     /// The option declared last must be given.
     Command& Required();
-    /// Lines that stand below the arguments in the command's help.
+    /// Lines below the arguments in the command's help.
     Command& Examples(const char* text);
     /// With --json it prints one of these records, which the schema has under the name of a definition. Commands that
     /// print the same name the same definition, and one of them has the records.
@@ -108,7 +108,7 @@ struct Family
 ///     void AddScanCommands(CommandSet& commands)
 ///     {
 ///         const auto options = std::make_shared<ScanOptions>();
-///         commands.Add("scan", "Ask for a scan and wait until it is done",
+///         commands.Add("scan", "Scan, and wait until the scan is done",
 ///                      [options](Host& host) { Scan(host, *options); })
 ///             .Number("--timeout", options->seconds, "Seconds to wait");
 ///     }

@@ -105,7 +105,7 @@ void AddCommands(CLI::App& app,
     }
 }
 
-/// Options may stand before the command and after it, which the parser takes for different ones.
+/// Options before the command and after it are different ones for the parser.
 void RefuseContradictions(const CommonOptions& options, const Command& chosen)
 {
     const auto refuse = [](bool wrong, const char* text)
@@ -132,11 +132,11 @@ std::vector<std::string> WithHelpBehind(std::vector<std::string> arguments)
     return arguments;
 }
 
-void TellUsageFailure(const CommandSet& commands,
-                      const std::vector<std::string>& arguments,
-                      const std::string& parserWords,
-                      std::ostream& out,
-                      std::ostream& err)
+void PrintUsageFailure(const CommandSet& commands,
+                       const std::vector<std::string>& arguments,
+                       const std::string& parserWords,
+                       std::ostream& out,
+                       std::ostream& err)
 {
     const FailureReport report = UsageFailure(commands, arguments, parserWords).report();
     if (std::find(arguments.begin(), arguments.end(), "--json") != arguments.end())
@@ -168,14 +168,14 @@ const Command* ParseArguments(const CommandSet& commands,
     }
     catch (const CLI::ParseError& error)
     {
-        // Asked for help on what there is not, the parser would tell all about the program.
+        // For an unknown command the parser would show the help of the program.
         const bool asked = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success) &&
                            !NamesUnknownCommand(commands, arguments);
         exitCode = asked ? ExitCode::success : ExitCode::badInput;
         if (asked)
             app.exit(error, out, err);
         else
-            TellUsageFailure(commands, arguments, error.what(), out, err);
+            PrintUsageFailure(commands, arguments, error.what(), out, err);
         return nullptr;
     }
 }

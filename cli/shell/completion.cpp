@@ -33,7 +33,7 @@ std::vector<CompletionWord> MethodWords()
     return words;
 }
 
-/// Finds what may stand at one place.
+/// Finds what is possible at one place.
 class Place
 {
 public:
@@ -75,9 +75,9 @@ public:
         for (const Argument* option : m_reader.Options())
             if (option->isRepeated() || !m_reader.isGiven(*option))
                 completion.words.push_back({option->longName(), option->help});
-        completion.words.push_back({"--help", "Tell the arguments"});
+        completion.words.push_back({"--help", "Show the arguments"});
         if (m_reader.command() == nullptr && m_reader.family() == nullptr)
-            completion.words.push_back({"--version", "Tell the version"});
+            completion.words.push_back({"--version", "Show the version"});
         return completion;
     }
 

@@ -9,17 +9,17 @@
 namespace calvix::host
 {
 
-/// A word that may stand where the cursor is, and what it means.
+/// A word that is possible at the cursor, and its meaning.
 struct CompletionWord
 {
     std::string text;
     std::string meaning; ///< may be empty
 };
 
-/// What may stand where the cursor is.
+/// What is possible at the cursor.
 struct Completion
 {
-    /// Which files may stand there too; the shell knows them.
+    /// Which files are possible there, too; the shell lists them.
     enum class Files
     {
         none,
@@ -43,7 +43,7 @@ Completion Complete(const CommandSet& program,
                     const LiveNames& liveNames);
 
 /// As the shells' scripts read it: which files on the first line (none, any, scenarios, folders), then a word a line,
-/// behind a tab its meaning.
+/// then a tab and its meaning.
 std::string CompletionText(const Completion& completion);
 
 /// The script that has a shell ask this program: "bash", "zsh", "fish" or "powershell". Null: no such shell.

@@ -7,8 +7,8 @@
 namespace calvix::host
 {
 
-/// Tells what is about to happen and asks whether it should. Returns when the answer is yes, or was given beforehand
-/// (`answered`, from --yes); whatever else is answered, and no answer at all, ends the command.
+/// Shows what is about to happen and asks for confirmation. Returns if the answer is yes, or was given before
+/// (`answered`, from --yes); any other answer, and none, ends the command.
 void Confirm(Output& output, const std::string& whatHappens, bool answered);
 
 } // namespace calvix::host

@@ -13,7 +13,7 @@ constexpr ExitCodeText kExitCodeTexts[] = {
     {ExitCode::badInput, "bad usage, or a file that cannot be used"},
     {ExitCode::unavailable, "no adapter, or the WLAN service cannot be reached"},
     {ExitCode::notConfirmed, "the confirmation was not answered with yes, so nothing was done"},
-    {ExitCode::departed, "the command differs from the recording that it replays"},
+    {ExitCode::differs, "the command differs from the recording that it replays"},
 };
 
 } // namespace

@@ -119,7 +119,7 @@ std::string ManualPage(const CommandSet& program)
         << ".SH OPTIONS OF EVERY COMMAND\n";
     for (const Argument& option : program.options)
         WriteArgument(out, option);
-    out << ".TP\n\\fB\\-\\-help\\fR\nTell the arguments of the command.\n.SH COMMANDS\n";
+    out << ".TP\n\\fB\\-\\-help\\fR\nShow the arguments of the command.\n.SH COMMANDS\n";
     for (const Command& command : program.commands)
         if (!command.hidden)
             WriteCommand(out, command);

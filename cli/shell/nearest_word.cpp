@@ -36,7 +36,7 @@ std::string NearestWord(std::string_view word, const std::vector<std::string>& k
     std::size_t fewest = word.size() / 3 + 2;
     for (const std::string& candidate : known)
     {
-        // Somebody who types the beginning of a word knows which one.
+        // The beginning of a word identifies it.
         const bool begun = word.size() > 2 && std::string_view(candidate).starts_with(word);
         const std::size_t errors = begun ? 1 : TypingErrors(word, candidate);
         // As many errors as letters make any word any other.

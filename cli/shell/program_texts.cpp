@@ -6,8 +6,8 @@ namespace calvix::host
 std::span<const EnvironmentText> AllEnvironmentTexts()
 {
     static constexpr EnvironmentText texts[] = {
-        {"NO_COLOR", "With any value but an empty one: no colours, unless --color always asks for them"},
-        {"TERM", "\"dumb\": the terminal is written to like a file, without colours and lines that draw themselves"},
+        {"NO_COLOR", "Any value but an empty one: no colours, unless --color always is given"},
+        {"TERM", "\"dumb\": the output has no colours and no progress lines, as in a file"},
     };
     return texts;
 }

@@ -5,7 +5,7 @@
 namespace calvix::host
 {
 
-/// What help and the manual page say of the program as a whole.
+/// What help and the manual page say about the program as a whole.
 
 inline constexpr const char* kVersionNumber = "1.0.0";
 
@@ -14,14 +14,14 @@ inline constexpr const char* kProgramSummary = "wireless networks: adapters, sca
 inline constexpr const char* kProgramDescription =
     "Shows and changes what the WLAN service knows and does. Results go to standard output,\n"
     "failures, progress and trace lines to standard error. With --scenario the commands work on\n"
-    "a simulated computer in place of the real one; off Windows there is no other, and a\n"
-    "built-in one is used where none is named.";
+    "a simulated computer in place of the real one; on other systems than Windows a built-in\n"
+    "one is the default.";
 
-inline constexpr const char* kProgramExamples = R"(What is there, and how strong:
+inline constexpr const char* kProgramExamples = R"(What is in view, and its signal:
   calvix networks
   calvix status --json
-A session that can be played back anywhere, for a bug report say:
-  calvix connect Office --record session.jsonl --anonymise
+A session that can be replayed anywhere, for example for a bug report:
+  calvix connect Office --record session.jsonl
   calvix connect Office --replay session.jsonl)";
 
 struct EnvironmentText

@@ -14,7 +14,7 @@ namespace calvix::host
 Failure
 UsageFailure(const CommandSet& program, const std::vector<std::string>& arguments, const std::string& parserWords);
 
-/// Whether a word stands in the place of a command and is none.
+/// Whether a word is in the place of a command and is not one.
 bool NamesUnknownCommand(const CommandSet& program, const std::vector<std::string>& arguments);
 
 } // namespace calvix::host

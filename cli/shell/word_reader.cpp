@@ -65,7 +65,7 @@ void WordReader::TakeOption(const std::string& word)
 
 void WordReader::TakeCommandWord(const std::string& word)
 {
-    // Behind a word that is nothing, no other means anything.
+    // After an unknown word, no other word has a meaning.
     if (!m_unknownCommand.empty())
         return;
     m_command = m_program.FindCommand(m_family != nullptr ? m_family->name + " " + word : word);

@@ -28,9 +28,9 @@ public:
     bool afterDashes() const { return m_afterDashes; }
     /// What stood as positional arguments.
     const std::vector<std::string>& positionals() const { return m_positionals; }
-    /// The positional argument that comes next; null: there is no further.
+    /// The next positional argument; null: there is none.
     const Argument* NextPositional() const;
-    /// The options that may stand here.
+    /// The options that are valid here.
     std::vector<const Argument*> Options() const;
     const Argument* FindOption(std::string_view name) const;
     /// Whether an option was given, and its last value.

@@ -25,7 +25,7 @@ constexpr std::uint32_t kNotReady = 21;
 constexpr std::uint32_t kRadioOff = 0x80342002;
 constexpr unsigned long kWeakQuality = 30;
 
-/// What a check came to.
+/// The result of a check.
 struct Answer
 {
     std::string finding;
@@ -188,7 +188,7 @@ private:
             Ask("Connection", [&] { return FindConnection(adapter); });
     }
 
-    /// Whether the radio is on. If it does not tell, assume that it is.
+    /// Whether the radio is on; yes if it does not report that.
     bool AskRadio(const GUID* adapter)
     {
         RadioFacts radio;

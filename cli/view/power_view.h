@@ -17,12 +17,12 @@ bool CanSleep();
 bool CanHibernate();
 bool CanShutDown();
 
-/// The policy on mains power or on battery; none where the system does not tell.
+/// The policy on mains power or on battery; none if the system does not report it.
 std::optional<IdlePolicyFacts> ReadIdlePolicy(bool onBattery);
 
 bool HasBattery();
 
-/// The active power scheme, its name as it is stored; none where the system does not tell.
+/// The active power scheme, its name as it is stored; none if the system does not report it.
 std::optional<simulation::PowerScheme> ReadActiveScheme();
 /// Its name; empty where there is none or it has none.
 std::string ActiveSchemeName();

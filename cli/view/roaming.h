@@ -10,7 +10,7 @@ namespace calvix::host
 const char* RoamMethod(bool dryRun);
 
 /// Asks the library whether to move to a better access point of the current network, and where to; without `dryRun` the
-/// library asks the service for it at once. What stands in the way of a decision is in the facts; a client handle that
+/// library asks the service for it at once. An obstacle to a decision is in the facts; a client handle that
 /// cannot be opened is a Failure.
 RoamFacts Roam(Host& host, bool dryRun);
 

@@ -30,7 +30,7 @@ ConnectionFacts DescribeConnection(const WLAN_CONNECTION_ATTRIBUTES& attributes)
 namespace
 {
 
-/// What not every driver tells, and is left out where it is refused.
+/// What not every driver reports; left out if it is refused.
 void AddMeasurements(Host& host, WLAN_CONNECTION_ATTRIBUTES& attributes, ConnectionFacts& facts)
 {
     const GUID* const adapter = host.adapterGuid();
@@ -94,7 +94,7 @@ StatusFacts ReadStatus(Host& host)
         }
     }
     status.adapter = DescribeAdapter(now, number);
-    if (!StandsConnected(now.isState))
+    if (!IsConnectedState(now.isState))
         return status;
     WLAN_CONNECTION_ATTRIBUTES attributes{};
     host.Check("GetCurrentConnection", host.manager().GetCurrentConnection(host.adapterGuid(), &attributes));

@@ -9,7 +9,7 @@ namespace calvix::host
 ConnectionFacts DescribeConnection(const WLAN_CONNECTION_ATTRIBUTES& attributes);
 
 /// Whether an adapter in this state has a connection.
-inline bool StandsConnected(WLAN_INTERFACE_STATE state)
+inline bool IsConnectedState(WLAN_INTERFACE_STATE state)
 {
     return state == wlan_interface_state_connected || state == wlan_interface_state_ad_hoc_network_formed;
 }

@@ -93,7 +93,7 @@ void Best(CWirelessManage& manager, const GUID& adapter)
 {
     //! [ConnectBestAP]
     const int code = manager.ConnectBestAP(&adapter);
-    std::printf("%s\n", code == 0 ? "asked for" : code == -12 ? "all refused" : "nothing to ask for");
+    std::printf("%s\n", code == 0 ? "requested" : code == -12 ? "all refused" : "nothing to request");
     //! [ConnectBestAP]
 }
 

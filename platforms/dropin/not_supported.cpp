@@ -1,4 +1,4 @@
-// The functions of the WLAN API that the simulated computer has no matter for: they are there, so that whoever is linked
+// The functions of the WLAN API that the simulated computer does not support: they exist, so that a program linked
 // with them starts, and say so. No header is included that declares them, and none of them looks at its arguments: on 64
 // bits it is the caller who takes those away.
 
@@ -17,7 +17,7 @@ CALVIX_NOT_SUPPORTED(WlanGetAvailableNetworkList2)
 CALVIX_NOT_SUPPORTED(WlanGetFilterList)
 CALVIX_NOT_SUPPORTED(WlanSetFilterList)
 
-// Credentials for 802.1X, and what is told before a connection is made.
+// Credentials for 802.1X, and notices before a connection is made.
 CALVIX_NOT_SUPPORTED(WlanExtractPsdIEDataList)
 CALVIX_NOT_SUPPORTED(WlanSetProfileEapUserData)
 CALVIX_NOT_SUPPORTED(WlanSetProfileEapXmlUserData)

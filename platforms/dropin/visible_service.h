@@ -20,7 +20,7 @@ struct VisibleService
 };
 
 /// Finds the service at the present time, or says with an error number why there is none: ERROR_INVALID_DATA when the
-/// scenario cannot be used, which was told on standard error once; ERROR_SHUTDOWN_IN_PROGRESS while the process ends.
+/// scenario cannot be used, which standard error has reported once; ERROR_SHUTDOWN_IN_PROGRESS while the process ends.
 /// On Windows the first call makes the computer, which stays as it is left until the process ends, as the real service
 /// does. Elsewhere it is the one that libcalvix.so has, which exports this function for libwlanapi.so. Any thread may
 /// call it.

@@ -9,7 +9,7 @@
 namespace calvix::forms
 {
 
-/// The GUID that "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" stands for; nothing for any other text.
+/// The GUID of "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}"; nothing for any other text.
 std::optional<GUID> GuidFromText(std::string_view text);
 
 /// The reverse, in capitals.

@@ -20,7 +20,7 @@ enum class Letters
 std::string HexText(std::span<const std::uint8_t> bytes, Letters letters = Letters::capital);
 std::string HexText(std::string_view bytes, Letters letters = Letters::capital);
 
-/// The bytes behind pairs of digits of either case; nothing for other text.
+/// The bytes of pairs of digits of either case; nothing for other text.
 std::optional<std::vector<std::uint8_t>> BytesFromHex(std::string_view text);
 
 /// The value of a hexadecimal digit of either case; nothing for other characters.

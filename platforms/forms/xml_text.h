@@ -6,7 +6,7 @@
 namespace calvix::forms
 {
 
-/// Text as it stands in an element or an attribute, with the five entities that XML has by itself.
+/// Text as written in an element or an attribute, with the five entities that XML has by itself.
 std::string EscapedXml(std::string_view text);
 std::string UnescapedXml(std::string text);
 

@@ -43,7 +43,7 @@ Facility AnsweredFacility(Object& object)
 ///     template <typename Description, typename... Arguments>
 ///     typename Description::Result Answer(const Description& operation, Arguments... arguments);
 ///
-/// This is how to stand between a program and a platform without a line for each operation.
+/// This is how to intercept a platform without a line for each operation.
 template <typename Object>
 platform::Platform AnsweredBy(Object& object)
 {

@@ -125,7 +125,7 @@ std::string_view NameOf(Enumeration value)
     return name;
 }
 
-/// Stands for the type of a record, which is void where none is known.
+/// The type of a record; void if none is known.
 template <typename Record>
 using RecordType = std::type_identity<Record>;
 

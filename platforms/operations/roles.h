@@ -87,7 +87,7 @@ struct Given : Role
     using Role::Role;
 };
 
-/// Only written by it; where it is put is all that can be told before.
+/// Only written by it; before the call only its address is known.
 struct HandedOut : Role
 {
     using Role::Role;
@@ -113,7 +113,7 @@ struct NameTellingOut : HandedOut
 
 // --- Given
 
-/// Whether it is there is all that is told; what is Unrecorded has no place in recordings at all.
+/// Only its presence is shown; an Unrecorded one is not in recordings at all.
 struct Pointer : Given
 {
     using Given::Given;
@@ -128,7 +128,7 @@ struct UnrecordedPointer : Pointer
     using Pointer::Pointer;
 };
 
-/// An integer or an enumeration, told by its name where it has one.
+/// An integer or an enumeration, shown by its name if it has one.
 struct Number : Given
 {
     using Given::Given;
@@ -200,12 +200,12 @@ struct Ssid : NameTelling
     using NameTelling::NameTelling;
 };
 
-/// A record that is told field by field.
+/// A record that is shown field by field.
 struct Record : NameTelling
 {
     using NameTelling::NameTelling;
 };
-/// The same for those whose fields only recordings tell, as an object of their own.
+/// The same for those whose fields only recordings have, as an object of their own.
 struct WholeRecord : Pointer
 {
     using Pointer::Pointer;
@@ -328,7 +328,7 @@ struct SchemeOut : HandedOut
     using HandedOut::HandedOut;
 };
 
-/// A record in a place of the caller's, told field by field, or as an object of its own.
+/// A record in memory of the caller, shown field by field, or as an object of its own.
 struct RecordOut : HandedOut
 {
     using HandedOut::HandedOut;
@@ -338,7 +338,7 @@ struct WholeRecordOut : HandedOut
     using HandedOut::HandedOut;
 };
 
-/// Bytes in a place of the caller's: the room is the parameter before, what became of it the one behind.
+/// Bytes in memory of the caller: the parameter before is the capacity, the one after is the size used.
 struct BytesOut : HandedOut
 {
     using HandedOut::HandedOut;
@@ -367,7 +367,7 @@ struct ModulePathOut : HandedOut
     using HandedOut::HandedOut;
 };
 
-/// What is known about power, by its level; the room is the parameter behind.
+/// What is known about power, by its level; the next parameter is the capacity.
 struct InformationOut : HandedOut
 {
     using HandedOut::HandedOut;

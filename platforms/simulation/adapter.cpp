@@ -310,7 +310,7 @@ DWORD Adapter::DeleteProfile(const std::wstring& name)
     return error;
 }
 
-// A service that is stopped tells nobody anything.
+// A stopped service sends no notifications.
 void Adapter::Notify(DWORD source, DWORD code, Bytes data) const
 {
     if (m_around.serviceRunning)

@@ -23,17 +23,17 @@ struct ConnectionRequest
 {
     std::shared_ptr<const Profile> profile;
     std::vector<MacAddress> desiredBssids; ///< empty: any
-    bool hiddenNetwork = false;            ///< look for a hidden network, whatever the profile says
+    bool hiddenNetwork = false;            ///< look for a hidden network, even if the profile does not say so
     WLAN_CONNECTION_MODE mode = wlan_connection_mode_profile;
 
-    /// Whether the profile came with the request, or was made up for it, and is none of the stored ones.
+    /// Whether the profile came with the request, or was made for it, and is not a stored one.
     bool HasTemporaryProfile() const
     {
         return mode != wlan_connection_mode_profile && mode != wlan_connection_mode_auto;
     }
 };
 
-/// A connection that stands.
+/// A connection that is up.
 struct Link
 {
     ConnectionRequest request;
@@ -51,7 +51,7 @@ struct Attempt
 {
     ConnectionRequest request;
     std::optional<MacAddress> target; ///< none: the network was not on the air when the attempt began
-    std::vector<MacAddress> failed;   ///< access points that were tried in vain
+    std::vector<MacAddress> failed;   ///< access points that failed
 };
 
 /// What surrounds an adapter.
@@ -75,7 +75,7 @@ public:
     Adapter(const Adapter&) = delete;
     Adapter& operator=(const Adapter&) = delete;
 
-    /// The adapter as it stands now.
+    /// The present state of the adapter.
     AdapterDescription Describe() const;
 
     const GUID& Guid() const { return m_guid; }
@@ -94,29 +94,29 @@ public:
     const std::vector<HeardBss>& Heard();
 
     const ProfileStore& Profiles() const { return m_profiles; }
-    /// The profile store's operations, of which clients are told.
+    /// The profile store's operations; clients are notified of them.
     DWORD StoreProfile(Profile profile, bool overwrite);
     DWORD MoveProfile(const std::wstring& name, DWORD position);
     DWORD ArrangeProfiles(const std::vector<std::wstring>& names);
-    /// Chosen: a connection that was made with it stands, under the name that it was made with.
+    /// Chosen: a connection that was made with it stays up, under the name that it was made with.
     DWORD RenameProfile(const std::wstring& name, const std::wstring& newName);
     void SetCustomData(const std::wstring& name, Bytes data) { m_profiles.SetCustomData(name, std::move(data)); }
     /// Stores the temporary profile that the connection was made with; without a name, under its own.
-    /// ERROR_INVALID_STATE where no such connection stands.
+    /// ERROR_INVALID_STATE without such a connection.
     DWORD SaveTemporaryProfile(const wchar_t* name, DWORD flags, bool overwrite);
     /// Also ends a connection that was made or is being made with it.
     DWORD DeleteProfile(const std::wstring& name);
 
     WLAN_INTERFACE_STATE State() const { return m_state; }
     void SetState(WLAN_INTERFACE_STATE state) { m_state = state; }
-    /// The connection that stands, or null.
+    /// The connection that is up, or null.
     const Link* CurrentLink() const { return m_link ? &*m_link : nullptr; }
     /// Signal strength of the connection: as heard now, or when it was heard last.
     std::int32_t LinkRssi() const;
 
-    /// Takes down what stands and starts to connect; the outcome comes with time.
+    /// Ends the connection and starts a new one; the result comes with time.
     void Connect(ConnectionRequest request);
-    /// Takes down what stands and gives up what is being tried. The service does not connect by itself from then on.
+    /// Ends the connection and cancels the attempt. The service does not connect by itself from then on.
     void Disconnect();
 
     /// Whether the service looks after this adapter, that is, scans and connects by itself.
@@ -126,7 +126,7 @@ public:
     bool HasBackgroundScan() const { return m_description.backgroundScan; }
     void SetBackgroundScan(bool enabled);
 
-    /// Settings that are kept and told, and change nothing else: nothing is streamed, and a profile says which type of
+    /// Settings that are stored and returned, and change nothing else: nothing is streamed, and a profile says which type of
     /// network it is for.
     bool HasMediaStreaming() const { return m_mediaStreaming; }
     void SetMediaStreaming(bool enabled) { m_mediaStreaming = enabled; }

@@ -35,14 +35,14 @@ bool Fits(const ConnectionRequest& request, const AccessPoint& accessPoint)
            (request.desiredBssids.empty() || Contains(request.desiredBssids, accessPoint.bssid));
 }
 
-// Keys are compared only where both sides tell theirs.
+// Keys are compared only if both sides have one.
 bool IsWrongKey(const ProfileDocument& profile, const AccessPoint& accessPoint)
 {
     return IsSecured(profile.security) && !profile.key.empty() && !accessPoint.key.empty() &&
            profile.key != accessPoint.key;
 }
 
-// Chosen: there is nobody whom the service could ask for a key.
+// Chosen: the service cannot ask a user for a key.
 bool LacksKey(const ConnectionRequest& request, const AccessPoint& accessPoint)
 {
     return request.HasTemporaryProfile() && request.profile->document.key.empty() && !accessPoint.key.empty();

@@ -1,4 +1,4 @@
-// What becomes of an adapter's connection while it stands.
+// The events of an adapter's connection while it is up.
 #include "simulation/adapter.h"
 #include "simulation/notification_records.h"
 #include "simulation/timetable.h"
@@ -63,7 +63,7 @@ void Adapter::MeasureLink(std::int32_t rssi)
         Notify(WLAN_NOTIFICATION_SOURCE_MSM, wlan_notification_msm_signal_quality_change, RecordBytes(quality));
 }
 
-// There is nobody left to take leave of.
+// There is no access point left to notify.
 void Adapter::LoseLink()
 {
     const Link link = std::move(*m_link);
@@ -93,7 +93,7 @@ const std::vector<HeardBss>& Adapter::Heard()
     return m_heard;
 }
 
-// Associating tells the adapter all about its access point: that is heard from then on, as strong as it is and with
+// Associating gives the adapter all facts about its access point: it is heard from then on, as strong as it is and with
 // its SSID though it be hidden. Chosen: the entry's time stamp stays that of the scan that found it.
 void Adapter::HearLink()
 {

@@ -10,8 +10,8 @@
 namespace calvix::simulation
 {
 
-/// The BSS list in the service's form: the entries, and behind them their information elements. `chosen` are listed
-/// in their order; `phys` tell which of the adapter's PHYs heard an entry. The block belongs to the caller.
+/// The BSS list in the service's form: the entries, then their information elements. `chosen` are listed
+/// in their order; `phys` has the adapter's PHY that heard an entry. The block belongs to the caller.
 WLAN_BSS_LIST*
 MakeBssList(Blocks& blocks, const std::vector<const HeardBss*>& chosen, const std::vector<PhyDescription>& phys);
 

@@ -5,8 +5,8 @@
 namespace calvix::simulation
 {
 
-/// The information elements by which an access point tells how wide its channel is and what its PHY can do, two spatial
-/// streams each: those of HT, VHT, HE and EHT as far as its PHY has them. None where the scenario tells no width.
+/// The information elements in which an access point announces the width of its channel and what its PHY can do, two spatial
+/// streams each: those of HT, VHT, HE and EHT as far as its PHY has them. None if the scenario has no width.
 Bytes ChannelElements(const AccessPoint& accessPoint);
 
 } // namespace calvix::simulation

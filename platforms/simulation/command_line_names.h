@@ -11,7 +11,7 @@ namespace calvix::simulation
 /// quotation marks, or else everything up to each space and finally the whole.
 std::vector<std::string> CommandNames(std::string_view commandLine);
 
-/// The files that a name may stand for, in the order of the search: a name with a folder is that file; another is looked
+/// The files that a name may mean, in the order of the search: a name with a folder is that file; another is looked
 /// for in `programFolder` (with its backslash) and in the system's folders. Where there is no extension, ".exe" follows.
 std::vector<std::string> FilesOfCommand(const std::string& name, const std::string& programFolder);
 

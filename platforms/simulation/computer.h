@@ -26,7 +26,7 @@ struct Accounts
 };
 
 /// A small Windows machine in one process. Any thread may use it, but for what gives a reference (air, DebuggerLines):
-/// that is for moments in which nobody else uses the computer. It must not be destroyed inside a notification callback.
+/// do that only while nothing else uses the computer. It must not be destroyed inside a notification callback.
 class Computer final : public platform::Platform
 {
 public:
@@ -41,7 +41,7 @@ public:
     /// Simulated time since the computer started.
     std::chrono::milliseconds Now() const;
 
-    /// Waits until the clients were told everything that has happened. Inside a callback it returns at once.
+    /// Waits until the clients have received all notifications. Inside a callback it returns at once.
     void WaitForNotifications();
 
     void SetServiceRunning(bool running);
@@ -59,8 +59,8 @@ public:
 
     void SetInternet(InternetAccess access);
 
-    /// The whole policy of a legacy power scheme as it stands now; nothing if there is no such scheme. What else there
-    /// is to know of the power schemes stands in Snapshot().power.
+    /// The whole present policy of a legacy power scheme; nothing if there is no such scheme. What else there
+    /// is to know about the power schemes is in Snapshot().power.
     std::optional<POWER_POLICY> LegacyPowerPolicy(UINT schemeId) const;
     /// How often programs have put the computer to sleep.
     unsigned SuspendCount() const;
@@ -78,7 +78,7 @@ public:
     /// Checks every freed block for writes and reports what is still held.
     Accounts Audit();
 
-    /// The computer as it stands now, as a scenario.
+    /// The present state of the computer, as a scenario.
     Scenario Snapshot() const;
 
 private:

@@ -8,7 +8,7 @@
 namespace calvix::simulation
 {
 
-/// A debugger that keeps what it is told, one element a call.
+/// A debugger that stores its output, one element per call.
 class SimulatedDebuggerOutput final
 {
 public:

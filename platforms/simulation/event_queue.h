@@ -9,7 +9,7 @@
 namespace calvix::simulation
 {
 
-/// Simulated time and what is going to happen in it. Time stands still but for Advance.
+/// Simulated time and what is going to happen in it. Only Advance moves the time.
 class EventQueue
 {
 public:

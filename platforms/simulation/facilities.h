@@ -18,7 +18,7 @@
 namespace calvix::simulation
 {
 
-/// While a program sleeps, the service has the time to deliver what it has to tell.
+/// While a program sleeps, the service has the time to deliver its notifications.
 struct WaitingProgram
 {
     void Sleep(DWORD milliseconds)

@@ -20,7 +20,7 @@ enum class HandleKind
     thread
 };
 
-/// The handles that the computer gave out. A value stands for one object of one kind, is never null and is never
+/// The handles that the computer gave out. A value identifies one object of one kind, is never null and is never
 /// given out again, so that the use of a closed handle cannot go unnoticed.
 class Handles
 {

@@ -46,7 +46,7 @@ void AppendRates(Bytes& elements, const Bytes& rates)
         Append(elements, extendedRatesElement, Bytes(split, rates.end()));
 }
 
-// The numbers of 802.11's RSN element, behind its OUI.
+// The numbers of 802.11's RSN element, after its OUI.
 std::optional<std::uint8_t> KeyManagement(DOT11_AUTH_ALGORITHM authentication)
 {
     if (authentication == DOT11_AUTH_ALGO_RSNA || authentication == DOT11_AUTH_ALGO_WPA)

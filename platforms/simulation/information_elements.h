@@ -5,7 +5,7 @@
 namespace calvix::simulation
 {
 
-/// What an access point's beacons carry. Where the scenario says nothing it is made up from the other facts: SSID,
+/// The content of an access point's beacons. By default it is derived from the other facts: SSID,
 /// rates, the channel in the 2.4 GHz band, how the network is secured, and how wide the channel is.
 Bytes InformationElements(const HeardBss& bss);
 

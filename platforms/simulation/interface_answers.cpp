@@ -140,7 +140,7 @@ InterfaceAnswer AnswerCountries(Blocks& blocks)
     return {answer, sizeof(*answer)};
 }
 
-// Chosen: an adapter with a driver of its own kind, which looks for one SSID and as many access points as it is told.
+// Chosen: an adapter with a driver of its own kind, which looks for one SSID and as many access points as are requested.
 WLAN_INTERFACE_CAPABILITY* MakeCapability(Blocks& blocks, const Adapter& adapter)
 {
     auto* const capability =

@@ -15,7 +15,7 @@ struct InterfaceAnswer
     std::size_t size;
 };
 
-/// What WlanQueryInterface answers about one adapter. Those that speak of the connection need one to stand.
+/// What WlanQueryInterface answers about one adapter. Those about the connection need one that is up.
 InterfaceAnswer AnswerConnection(Blocks& blocks, const Adapter& adapter);
 InterfaceAnswer AnswerChannel(Blocks& blocks, const Adapter& adapter);
 InterfaceAnswer AnswerRssi(Blocks& blocks, const Adapter& adapter);

@@ -45,7 +45,7 @@ struct Machine
     std::map<WLAN_SECURABLE_OBJECT, std::wstring> securitySettings; ///< as SDDL, what was set since the start
     std::vector<AccessPoint> air; ///< what could be heard now; adapters know what they heard last
 
-    std::mutex mutex; ///< held by every operation that uses what stands below or above
+    std::mutex mutex; ///< held by every operation that uses the other members
     LastErrorCell lastError;
     std::vector<std::string> defects;
     std::vector<std::string> debuggerLines;
@@ -71,7 +71,7 @@ struct Machine
     /// The adapter of this interface GUID, or null.
     Adapter* FindAdapter(const GUID& guid) const;
 
-    /// Puts what the computer is beside its adapters into `scenario`, as it stands now.
+    /// Puts the present state of the computer, without its adapters, into `scenario`.
     void DescribeSystem(Scenario& scenario) const;
 
     /// How long the computer has been up, also in sleep, in units of 100 ns.
@@ -83,7 +83,7 @@ struct Machine
     std::string NarrowFromUtf8(std::string_view text) const;
     std::string Utf8FromNarrow(std::string_view text) const;
 
-    /// Changes the setting and tells the clients.
+    /// Changes the setting and notifies the clients.
     void SetPowerSetting(WLAN_POWER_SETTING setting);
 };
 

@@ -32,7 +32,7 @@ std::string NetworkKey(const ProfileDocument& profile)
 
 struct Network
 {
-    Bytes ssid; ///< empty: not told
+    Bytes ssid; ///< empty: unknown
     DOT11_BSS_TYPE bssType{};
     SecuritySuite security;
     std::vector<const HeardBss*> stations;
@@ -74,7 +74,7 @@ public:
     }
 
 private:
-    // A hidden network is told by name when profiles of hidden networks are wanted and one fits.
+    // A hidden network is listed by name when profiles of hidden networks are wanted and one fits.
     const Bytes& KnownSsid(const HeardBss& bss) const
     {
         return IsToldByProfile(bss) ? bss.accessPoint.ssid : bss.Ssid();
@@ -155,7 +155,7 @@ private:
             entry.dwFlags |= WLAN_AVAILABLE_NETWORK_CONNECTED;
     }
 
-    // Chosen: an ad hoc network can be joined, and so formed, when nobody is heard in it; any other has to be heard.
+    // Chosen: an ad hoc network can be joined, and so formed, when no station is heard in it; any other has to be heard.
     static void SetConnectable(const Network& network, WLAN_AVAILABLE_NETWORK& entry)
     {
         if (!IsSupported(network.security))

@@ -18,7 +18,7 @@ struct NetworkListInput
 {
     const std::vector<HeardBss>& heard;
     const ProfileStore& profiles;
-    const Link* link;       ///< the connection that stands, or null
+    const Link* link;       ///< the connection that is up, or null
     bool allAdHocProfiles;  ///< also the ad hoc profiles whose networks are not heard
     bool allHiddenProfiles; ///< also the profiles of hidden networks, heard or not
 };

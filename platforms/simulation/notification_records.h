@@ -18,10 +18,10 @@ Bytes RecordBytes(const Record& record)
     return Bytes(bytes, bytes + sizeof(record));
 }
 
-/// What the auto-configuration module tells of a connection: its fixed part, without the profile's text.
+/// The data of the auto-configuration module about a connection: its fixed part, without the profile's text.
 Bytes ConnectionRecord(const ConnectionRequest& request, DWORD reason);
 
-/// What the media-specific module tells of it. `bssid`: the access point.
+/// The data of the media-specific module. `bssid`: the access point.
 Bytes MediaRecord(const ConnectionRequest& request, const MacAddress& bssid, DWORD reason);
 
 } // namespace calvix::simulation

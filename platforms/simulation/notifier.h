@@ -15,7 +15,7 @@
 namespace calvix::simulation
 {
 
-/// What the service tells its clients.
+/// What the service sends its clients.
 struct Notification
 {
     DWORD source = 0;
@@ -24,7 +24,7 @@ struct Notification
     Bytes data{}; ///< the record that goes with the code, or nothing
 };
 
-/// What a client wants to be told, and how.
+/// What a client wants to receive, and how.
 struct Registration
 {
     DWORD sources = 0;
@@ -33,7 +33,7 @@ struct Registration
     PVOID context = nullptr;
 };
 
-/// Tells clients what happens, on a thread of the service that starts with the first registration. Any thread may call
+/// Notifies clients, on a thread of the service that starts with the first registration. Any thread may call
 /// any member. The waiting ones must not be called with anything locked that a callback may want.
 class Notifier
 {
@@ -76,7 +76,7 @@ private:
     struct Client
     {
         Registration registration;
-        Notification last; ///< queued last, to tell duplicates
+        Notification last; ///< queued last, to find duplicates
     };
     struct Queued
     {

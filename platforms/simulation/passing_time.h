@@ -8,7 +8,7 @@
 namespace calvix::simulation
 {
 
-/// Lets simulated time pass while a program waits, and then gives the service the time to deliver what it has to tell.
+/// Lets simulated time pass while a program waits, and then gives the service the time to deliver its notifications.
 /// For operations that do not hold the machine's mutex.
 inline void PassTime(Machine& machine, std::chrono::milliseconds duration)
 {

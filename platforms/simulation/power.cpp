@@ -111,7 +111,7 @@ BOOLEAN SimulatedPower::ReadPwrScheme(UINT schemeId, POWER_POLICY* policy)
     return 1;
 }
 
-// A policy is taken as it is, whatever its values. Descriptions are not kept: nothing reads them back.
+// A policy is accepted with any values. Descriptions are not kept: nothing reads them back.
 BOOLEAN
 SimulatedPower::WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t*, POWER_POLICY* policy)
 {
@@ -188,7 +188,7 @@ DWORD SimulatedPower::PowerDuplicateScheme(HKEY root, const GUID* source, GUID**
     const PowerStore::Scheme* const original = store.Find(*source);
     if (original == nullptr)
         return ERROR_FILE_NOT_FOUND;
-    // Who brings a GUID has it used; who does not is given a new one.
+    // A GUID from the caller is used; without one, a new one is made.
     const bool ownGuid = *duplicate != nullptr;
     const GUID guid = ownGuid ? **duplicate : store.UnusedGuid();
     if (store.Find(guid) != nullptr)
@@ -259,7 +259,7 @@ BOOLEAN SimulatedPower::IsPwrShutdownAllowed()
 
 DWORD SimulatedPower::SuspendError(bool hibernate) const
 {
-    // Where there are no tokens, there is nobody who lacks a privilege.
+    // Without tokens, no privilege is missing.
     if (m_machine.tokens && !m_machine.IsPrivilegeEnabled("SeShutdownPrivilege"))
         return ERROR_PRIVILEGE_NOT_HELD;
     const PowerDescription& power = m_machine.power;
@@ -282,7 +282,7 @@ BOOLEAN SimulatedPower::SetSuspendState(BOOLEAN hibernate, BOOLEAN, BOOLEAN wake
     PassTime(m_machine, sleep);
     const std::lock_guard lock(m_machine.mutex);
     m_machine.power.lastWakeTime = m_machine.InterruptTime();
-    // Without wake-up events nobody but its user is left to wake it.
+    // Without wake-up events only its user can wake it.
     m_machine.wokenByItself = m_machine.power.resumesAutomatically && wakeupEventsDisabled == 0;
     return 1;
 }

@@ -6,7 +6,7 @@
 namespace calvix::simulation
 {
 
-/// What the computer can do, as far as `description` tells.
+/// What the computer can do, according to `description`.
 SYSTEM_POWER_CAPABILITIES MakeCapabilities(const PowerDescription& description);
 
 /// The system's policy on mains power or on battery, taken out of the policy that is in force for both.

@@ -36,7 +36,7 @@ public:
     /// Throws ScenarioError when the description contradicts itself.
     explicit PowerStore(const PowerDescription& description);
 
-    /// Puts the schemes as they stand now into `description`.
+    /// Puts the present schemes into `description`.
     void Describe(PowerDescription& description) const;
 
     const std::vector<Scheme>& Schemes() const { return m_schemes; }

@@ -10,7 +10,7 @@ namespace calvix::simulation
 namespace
 {
 
-// Process numbers are multiples of four; where they begin is nobody's business.
+// Process numbers are multiples of four; their beginning has no meaning.
 constexpr DWORD kFirstProcessId = 5000;
 constexpr DWORD kProcessIdStep = 4;
 

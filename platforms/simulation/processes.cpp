@@ -17,7 +17,7 @@ namespace
 constexpr DWORD kPossibleDeadlock = 1131;
 constexpr DWORD kSynchronizeRight = 0x00100000;
 constexpr DWORD kEveryRight = 0x001FFFFF;
-constexpr UINT_PTR kFirstNameAddress = 0x10000; // what is below stands for an ordinal
+constexpr UINT_PTR kFirstNameAddress = 0x10000; // a smaller number is an ordinal
 
 const HANDLE kOwnProcess = reinterpret_cast<HANDLE>(~UINT_PTR{0});
 
@@ -34,7 +34,7 @@ BOOL AnswerWow64(BOOL* wow64, BOOL answer)
     return TRUE;
 }
 
-// Whoever has asked for its address calls the function directly, so that it can know its answer in no other way.
+// A program that has the function's address calls it directly.
 BOOL WINAPI IsWow64ProcessSayingYes(HANDLE, BOOL* wow64)
 {
     return AnswerWow64(wow64, TRUE);
@@ -119,7 +119,7 @@ BOOL SimulatedProcesses::CreateProcessA(const char* application,
     return TRUE;
 }
 
-/// How the wait for what `handle` stands for will go; returns the error if it cannot be waited for.
+/// The result of waiting for the object of `handle`; returns the error if it cannot be waited for.
 DWORD SimulatedProcesses::PlanWait(HANDLE handle, DWORD milliseconds, Wait& wait)
 {
     const bool isThread = m_machine.handles.IsOpen(handle, HandleKind::thread);
@@ -185,7 +185,7 @@ BOOL SimulatedProcesses::TerminateProcess(HANDLE process, UINT exitCode)
     const std::lock_guard lock(m_machine.mutex);
     if (process == kOwnProcess)
     {
-        // There would be nobody left to return to.
+        // There would be no caller left to return to.
         m_machine.defects.push_back("TerminateProcess: the program ends itself");
         return Fail(ERROR_ACCESS_DENIED);
     }
@@ -259,7 +259,7 @@ FARPROC SimulatedProcesses::GetProcAddress(HMODULE module, const char* name)
         return nullptr;
     }
     const auto function = *m_machine.wow64 ? &IsWow64ProcessSayingYes : &IsWow64ProcessSayingNo;
-    // A detour through void(*)() tells the compiler that the change of the function's type is meant.
+    // The cast through void(*)() shows the compiler that the change of the function's type is intended.
     return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function));
 }
 

@@ -168,7 +168,7 @@ ProfileDocument ReadDocument(const Element& root)
     return profile;
 }
 
-// Protected keys. The real service encrypts them for the machine; here they only have to be told from plain ones
+// Protected keys. The real service encrypts them for the machine; here they only have to be distinguished from plain ones
 // and to be readable again, so that the form was chosen: a mark, and the key's bytes in hexadecimal.
 
 constexpr std::wstring_view protectedMark = L"CA1F15EA1ED0";

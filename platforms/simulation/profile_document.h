@@ -17,11 +17,11 @@ struct ProfileDocument
 {
     std::wstring name;
     Bytes ssid;
-    bool hidden = false; ///< <nonBroadcast>: the network is asked for by name, as its beacons do not tell it
+    bool hidden = false; ///< <nonBroadcast>: the network is requested by name, because its beacons do not contain it
     DOT11_BSS_TYPE bssType = dot11_BSS_type_infrastructure;
     bool automatic = true; ///< <connectionMode>
     SecuritySuite security;
-    std::string key; ///< as it stands there: empty where there is none, or where it is protected
+    std::string key; ///< as in the document; empty if there is none or it is protected
 };
 
 /// Why a profile was refused: the error of WlanSetProfile and its reason code.

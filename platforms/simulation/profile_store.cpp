@@ -66,7 +66,7 @@ DWORD ProfileStore::Store(Profile profile, bool overwrite)
     }
     else
     {
-        // Whatever a group policy set stays on top.
+        // Profiles of a group policy stay on top.
         const auto top = std::find_if_not(m_order.begin(), m_order.end(), IsOfGroupPolicy);
         m_order.insert(IsOfGroupPolicy(stored) ? m_order.begin() : top, stored);
     }

@@ -40,7 +40,7 @@ public:
     /// The profile of exactly this name, or null.
     std::shared_ptr<const Profile> Find(const std::wstring& name) const;
 
-    /// Adds a profile behind all others; false if the name is taken.
+    /// Adds a profile after all others; false if the name is taken.
     bool Append(Profile profile);
 
     /// Stores a profile: a new one before all others that no group policy set, a known one in its place.

@@ -22,7 +22,7 @@ unsigned int ReadSpeed(const std::string& text, const std::string& source)
     const bool isWholeNumber = error == std::errc() && end == text.data() + text.size();
     if (!text.empty() && (!isWholeNumber || speed < 1 || speed > kHighestSpeed))
     {
-        throw std::runtime_error(source + ": \"" + text + "\" is no whole number from 1 to " +
+        throw std::runtime_error(source + ": \"" + text + "\" is not a whole number from 1 to " +
                                  std::to_string(kHighestSpeed));
     }
     return speed;

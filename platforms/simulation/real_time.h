@@ -29,7 +29,7 @@ public:
     /// Lets the simulated time pass that has become due, so that the caller sees the computer as it is now.
     void CatchUp();
 
-    /// Starts a thread that catches up all the time, for those who wait to be told. To be called once.
+    /// Starts a thread that catches up all the time, for clients that wait for notifications. Call it once.
     void KeepGoing();
 
 private:

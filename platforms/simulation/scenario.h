@@ -56,11 +56,11 @@ struct AccessPoint
         "WPA2PSK";                    ///< as in a profile: open, shared, WPA, WPAPSK, WPA2, WPA2PSK, WPA3SAE, OWE ...
     std::string encryption = "AES";   ///< as in a profile: none, WEP, TKIP, AES, GCMP256
     std::uint16_t beaconPeriod = 100; ///< in 1024 microseconds
-    Bytes informationElements;        ///< empty: made up from the other fields
+    Bytes informationElements;        ///< empty: derived from the other fields
     std::string key{};                ///< passphrase that it takes; empty: any
     bool answers = true;              ///< whether it replies to those who want to associate
     std::vector<SignalPoint> timetable{}; ///< if not empty, in place of rssi; see SignalAt
-    std::uint32_t channelWidth = 0;       ///< MHz, as made-up information elements tell it; 0: they do not
+    std::uint32_t channelWidth = 0;       ///< MHz, in the derived information elements; 0: not in them
 
     bool operator==(const AccessPoint&) const = default;
 };
@@ -122,7 +122,7 @@ struct Scenario
     std::string description;
     std::uint32_t codePage = 1252; ///< the active narrow code page: 1252, 932, 936 or 65001
     bool serviceRunning = true;
-    bool locationConsent = true;    ///< without it the service refuses whatever would tell where the computer is
+    bool locationConsent = true;    ///< without it the service refuses everything that reveals where the computer is
     bool administrator = true;      ///< whether the programs run with an administrator's rights
     std::uint32_t powerSetting = 0; ///< WLAN_POWER_SETTING: the service's power saving
     PowerDescription power;
@@ -174,7 +174,7 @@ struct ProfileSettings
 };
 std::string MakeProfileXml(const ProfileSettings& settings);
 
-/// What a profile for an SSID is called when nobody says so: the SSID as text, or in hexadecimal where it is none.
+/// The default name of a profile for an SSID: the SSID as text, or in hexadecimal if it is not text.
 std::string ProfileNameFor(const Bytes& ssid);
 
 } // namespace calvix::simulation

@@ -36,7 +36,7 @@ public:
 
     void Record(const char* /*description*/) {}
 
-    // Which fields may stand side by side.
+    // Which fields exclude or require each other.
     void ExactlyOne(const char* /*one*/, const char* /*other*/) {}
     void NotBoth(const char* /*one*/, const char* /*other*/) {}
     void Together(const char* /*one*/, const char* /*other*/) {}

@@ -14,7 +14,7 @@ namespace calvix::simulation
 
 inline const char kAddressText[] = "Six bytes in hexadecimal with colons between, such as 02:ca:1f:00:00:01.";
 inline const char kSsidHexText[] =
-    "The bytes of a network name, at most 32, as pairs of hexadecimal digits: for names that are no valid text.";
+    "The bytes of a network name, at most 32, as pairs of hexadecimal digits: for names that are not valid text.";
 inline const char kHiddenText[] = "Whether the beacons carry no name.";
 inline const char kSecondsText[] = "A number of seconds, 0: never.";
 inline const char kGuidText[] = "A GUID with braces, such as {381B4222-F694-41F0-9685-FF5BB260DF2E}.";
@@ -83,7 +83,7 @@ void Describe(Fields& fields, AccessPoint& point)
     fields.Shown("beaconPeriod", point.beaconPeriod, Whole{0, 65535},
                  "The time between beacons in units of 1024 microseconds.");
     fields.Optional("informationElements", point.informationElements, Hex{2324},
-                    "The information elements, at most 2324 bytes as pairs of hexadecimal digits; made up from the "
+                    "The information elements, at most 2324 bytes as pairs of hexadecimal digits; derived from the "
                     "other fields if left out.");
     fields.Optional("key", point.key, kKey,
                     "The passphrase that it takes. A profile with another one fails to connect; if left out, any is "
@@ -91,7 +91,7 @@ void Describe(Fields& fields, AccessPoint& point)
     fields.Optional("answers", point.answers, Flag{}, "Whether it replies to adapters that want to connect.");
     fields.Optional("channelWidth", point.channelWidth, Among<std::uint32_t>{{0, 20, 40, 80, 160, 320}},
                     "How wide its channel is in MHz, and with it what its PHY can do, for the information elements "
-                    "that are made up; 0: they do not tell.");
+                    "that are derived; 0: they do not contain it.");
     fields.Optional("timetable", point.timetable, ListOf<SignalPoint>{.most = 4096},
                     "How its signal strength changes in the course of time, in place of rssi: points, earliest first, "
                     "each later than the one before. Before the first and after the last it stays as it is there.");
@@ -102,8 +102,9 @@ template <typename Fields>
 void Describe(Fields& fields, StoredProfile& profile)
 {
     ProfileSettings shortForm;
-    fields.Record("A stored profile: either the whole document as xml and nothing else, or name and whatever differs "
-                  "from the defaults.");
+    fields.Record(
+        "A stored profile: either the whole document as xml and nothing else, or name and everything that differs "
+        "from the defaults.");
     fields.ExactlyOne("xml", "name");
     fields.NotBoth("ssid", "ssidHex");
     fields.Alone("xml");
@@ -280,7 +281,7 @@ void Describe(Fields& fields, Program& program)
     fields.Record("A program that can be started.");
     fields.Required("path", program.path, kPath, kPathText);
     fields.Shown("milliseconds", program.milliseconds, OrNull{Whole{}},
-                 "How many milliseconds it runs, or null: until somebody ends it; 1000 if left out.");
+                 "How many milliseconds it runs, or null: until it is ended; 1000 if left out.");
     fields.Shown("exitCode", program.exitCode, Whole{}, kExitCodeText);
 }
 
@@ -291,10 +292,10 @@ void Describe(Fields& fields, RunningProcess& process)
     fields.Required("id", process.id, Whole{1}, "The number by which it is known.");
     fields.Required("path", process.path, kPath, kPathText);
     fields.Shown("milliseconds", process.milliseconds, OrNull{Whole{}},
-                 "How many milliseconds it still runs, or null: until somebody ends it; null if left out.");
+                 "How many milliseconds it still runs, or null: until it is ended; null if left out.");
     fields.Shown("exitCode", process.exitCode, Whole{}, kExitCodeText);
     fields.Shown("foreign", process.foreign, Flag{},
-                 "Whether it is somebody else's, so that opening it takes SeDebugPrivilege.");
+                 "Whether it belongs to another user, so that opening it takes SeDebugPrivilege.");
 }
 
 template <typename Fields>

@@ -7,7 +7,7 @@ namespace calvix::simulation
 namespace
 {
 
-/// What a default in the schema can say; the others are told in the description.
+/// The defaults that the schema can express; the others are in the description.
 bool IsWord(const Json& value)
 {
     return value.is_boolean() || value.is_number() || (value.is_string() && value != "");

@@ -93,7 +93,7 @@ std::vector<Privilege> DefaultPrivileges();
 struct Program
 {
     std::string path;
-    std::optional<std::uint32_t> milliseconds = 1000; ///< how long it runs; none: until somebody ends it
+    std::optional<std::uint32_t> milliseconds = 1000; ///< how long it runs; none: until it is ended
     std::uint32_t exitCode = 0;
 
     bool operator==(const Program&) const = default;
@@ -104,9 +104,9 @@ struct RunningProcess
 {
     std::uint32_t id = 0;
     std::string path{};
-    std::optional<std::uint32_t> milliseconds{}; ///< how long it will still run; none: until somebody ends it
+    std::optional<std::uint32_t> milliseconds{}; ///< how long it will still run; none: until it is ended
     std::uint32_t exitCode = 0;
-    bool foreign = false; ///< somebody else's: only SeDebugPrivilege opens it
+    bool foreign = false; ///< of another user: only SeDebugPrivilege opens it
 
     bool operator==(const RunningProcess&) const = default;
 };

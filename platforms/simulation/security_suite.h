@@ -32,7 +32,7 @@ bool IsEncryptionName(std::string_view name);
 /// Whether this computer's adapters can use the suite.
 bool IsSupported(SecuritySuite suite);
 
-/// Whatever IsSupported says yes to, in the order in which the adapters list it.
+/// Everything that IsSupported accepts, in the order in which the adapters list it.
 const std::vector<SecuritySuite>& SupportedSuites();
 
 /// Whether frames are protected at all.

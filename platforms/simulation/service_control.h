@@ -10,7 +10,7 @@ namespace calvix::simulation
 {
 
 /// A service manager that knows one service, WlanSvc. Everybody gets every right to it that is asked for by its own name;
-/// generic rights stand for none here.
+/// generic rights have no meaning here.
 class SimulatedServiceControl final
 {
 public:

@@ -20,7 +20,7 @@ constexpr std::uint32_t kLatin1Oem = 437;
 constexpr std::uint32_t kShiftJis = 932;
 constexpr UINT kThreadCodePage = 3;
 
-/// The text that a source and a length stand for; a negative length includes the terminator.
+/// The text of a source and a length; a negative length includes the terminator.
 template <typename Character>
 std::basic_string_view<Character> SourceText(const Character* source, int length)
 {
@@ -120,7 +120,7 @@ int SimulatedText::Fail(DWORD error)
     return 0;
 }
 
-/// The code page that a number stands for: the low ones are roles that a code page plays.
+/// The code page of a number: the low numbers are roles of a code page.
 std::uint32_t SimulatedText::Resolve(UINT codePage) const
 {
     if (codePage == CP_ACP || codePage == kThreadCodePage)
@@ -165,7 +165,7 @@ int SimulatedText::WideCharToMultiByte(UINT codePage,
         return Fail(ERROR_INVALID_PARAMETER);
     const std::uint32_t actual = Resolve(codePage);
     const bool utf8 = actual == CP_UTF8;
-    // UTF-8 lacks no character, and who asks what to do about it is told so.
+    // UTF-8 has every character, and arguments about a replacement are invalid.
     if (!IsKnown(actual) || (utf8 && (defaultCharacter != nullptr || usedDefaultCharacter != nullptr)))
         return Fail(ERROR_INVALID_PARAMETER);
     if (RefusedEncodingFlags(actual, flags) != 0)

@@ -13,7 +13,7 @@ namespace calvix::simulation
 namespace
 {
 
-// Chosen: no group policy restricts anything, and virtual stations are allowed. What programs may set is kept and told,
+// Chosen: no group policy restricts anything, and virtual stations are allowed. What programs may set is stored and returned,
 // and changes nothing else: no network is denied and nothing blocked here.
 std::optional<InterfaceAnswer> Answer(const Machine& machine, Blocks& blocks, WLAN_AUTOCONF_OPCODE opcode)
 {
@@ -45,7 +45,7 @@ DWORD SetNumber(DWORD size, const void* data, Number& number)
     return ERROR_SUCCESS;
 }
 
-// Chosen, for what nobody has set: everybody may do everything.
+// Chosen as the default: everybody may do everything.
 constexpr wchar_t defaultSecurity[] = L"D:(A;;GA;;;WD)";
 
 Bytes RequestBytes(const void* input, DWORD size)

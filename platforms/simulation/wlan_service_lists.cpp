@@ -13,7 +13,7 @@ namespace
 
 struct BssFilter
 {
-    const DOT11_SSID* ssid; ///< null: all, whatever the other two say
+    const DOT11_SSID* ssid; ///< null: all, and the other two have no effect
     DOT11_BSS_TYPE bssType;
     bool secured;
 };

@@ -184,7 +184,7 @@ DWORD SimulatedWlanService::WlanQueryInterface(HANDLE client,
     const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
         return ERROR_INVALID_PARAMETER;
-    // Of the queries only this one would tell where the computer is.
+    // Of the queries only this one would reveal where the computer is.
     if (opcode == wlan_intf_opcode_current_connection && !m_machine.locationConsent)
         return ERROR_ACCESS_DENIED;
     if (NeedsConnection(opcode) && !IsConnected(*adapter))

@@ -28,7 +28,7 @@ struct ManagerInternals
     static POWER_POLICY& SavedPowerPolicy(CWirelessManage& manager) { return manager.m_SavedPowerPolicy; }
     static char (&AppPath(CWirelessManage& manager))[512] { return manager.m_szAppPath; }
 
-    /// An object in the caller's room, whatever stood there before. It needs no destruction.
+    /// An object in the caller's memory, whatever its bytes were. It needs no destruction.
     static CWirelessManage& MakeIn(void* room) { return *new (room) CWirelessManage(); }
 
     /// Back to the beginning of the process: no instance, no client handle. Calls no platform.

@@ -45,7 +45,7 @@ inline DWORD FailedCall<DWORD>(DWORD error)
     return error;
 }
 
-/// The status that stands for a platform error number.
+/// The status of a platform error number.
 template <>
 inline LONG FailedCall<LONG>(DWORD error)
 {
@@ -113,7 +113,7 @@ private:
             address = m_library.Find(m_name, error);
             m_address.store(address, std::memory_order_release);
         }
-        // A detour through void(*)() tells the compiler that the change of the function's type is meant.
+        // The cast through void(*)() shows the compiler that the change of the function's type is intended.
         return reinterpret_cast<Function>(reinterpret_cast<void (*)()>(address));
     }
 

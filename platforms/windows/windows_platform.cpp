@@ -11,7 +11,7 @@ namespace
 {
 
 /// Absent on a Windows Server without the wireless feature: then every operation answers with ERROR_MOD_NOT_FOUND. Looked
-/// for beside the program first: a simulation may stand in for the service there.
+/// for beside the program first: a simulation may replace the service there.
 constinit const OptionalLibrary wlanapi(L"wlanapi.dll", LOAD_LIBRARY_SEARCH_APPLICATION_DIR);
 /// Every Windows has it, but reduced ones do not have all of it, and an import that is missing would keep the program from
 /// starting.
@@ -117,7 +117,7 @@ constexpr platform::DebuggerOutput kDebuggerOutput{
     .OutputDebugStringA = Imported([](auto... arguments) { return ::OutputDebugStringA(arguments...); }),
 };
 
-/// The calling thread's last error. Nothing in this provider changes it behind an operation's back.
+/// The calling thread's last error. Nothing in this provider changes it after an operation.
 constexpr platform::LastError kLastError{
     .GetLastError = Imported([](auto... arguments) { return ::GetLastError(arguments...); }),
 };

@@ -24,7 +24,7 @@ constexpr std::size_t kCallAt = kOwnNameDistanceAt + sizeof(std::int32_t);
 
 } // namespace
 
-// Nothing but its code tells a stub: it loads the name of its library and, as nothing else does, its own, and calls
+// Only its code identifies a stub: it loads the name of its library and, as nothing else does, its own, and calls
 // what ends the program.
 bool IsWineStub(FARPROC function, const char* name)
 {

@@ -155,7 +155,7 @@ std::string SizeOfAnswer(Opcode opcode, DWORD size)
 
 std::string SettingText(const WLAN_PHY_RADIO_STATE& phy)
 {
-    // The hardware state is the adapter's to tell; whoever switches a radio leaves it unset.
+    // Only the adapter sets the hardware state; a program that switches a radio leaves it unset.
     return Formatted("{phyIndex=%u, software=%u}", static_cast<unsigned>(phy.dwPhyIndex),
                      static_cast<unsigned>(phy.dot11SoftwareRadioState));
 }

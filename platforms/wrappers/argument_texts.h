@@ -12,7 +12,7 @@
 namespace calvix::wrappers
 {
 
-// How arguments are told in a call log. What an operation only writes to is told by whether it is there; what it reads,
+// How arguments appear in a call log. What an operation only writes to is shown by its presence; what it reads,
 // by its content.
 
 std::string NumberText(long long value);
@@ -31,7 +31,7 @@ std::string RecordText(const STARTUPINFOA& startup);
 std::string RecordText(const TOKEN_PRIVILEGES& privileges);
 std::string RecordText(const FILETIME& time);
 
-/// Sizes are told as those of records where they are: they differ between Windows and other systems.
+/// Sizes of records are shown as such: they differ between Windows and other systems.
 std::string AnswerSizeText(WLAN_INTF_OPCODE opcode, DWORD size);
 std::string AnswerSizeText(WLAN_AUTOCONF_OPCODE opcode, DWORD size);
 std::string AnswerSizeText(POWER_INFORMATION_LEVEL level, DWORD size);

@@ -18,7 +18,7 @@ struct Fault
     unsigned times = kUnlimited; ///< how many calls fail from there
 };
 
-/// Makes calls fail by rule. The rules stand beside each other: each counts the calls of its operation from the moment
+/// Makes calls fail by rule. The rules are independent: each counts the calls of its operation from the moment
 /// when it was made, and the first one that applies decides. Calls may come from any thread.
 class FaultInjection final : public Interceptor
 {

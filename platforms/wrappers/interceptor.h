@@ -30,7 +30,7 @@ struct Call
     std::string_view operator[](std::string_view name) const;
 };
 
-/// Stands between a program and the platform. What it does must not call the platform that it intercepts.
+/// Intercepts the calls of a program to the platform. It must not call the platform that it intercepts.
 class Interceptor
 {
 public:

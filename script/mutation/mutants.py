@@ -12,7 +12,7 @@ LEFT_OUT = ["platform/*"]
 
 
 class Mutant:
-    """One change of one file. Its identifier and its key hold as long as its line does, wherever the line stands."""
+    """One change of one file. Its identifier and its key hold as long as its line does, in any place."""
 
     def __init__(self, source, kind, change, occurrence):
         self.start, self.end, self.new, self.what = change
@@ -91,7 +91,7 @@ class Explanations:
 
 
 def read_explanations(path):
-    """Entries stand between empty lines: two lines that say which mutant, as the report prints them, then the reason."""
+    """Entries are between empty lines: two lines that say which mutant, as the report prints them, then the reason."""
     entries = {}
     for block in path.read_text(encoding="utf-8").split("\n\n"):
         lines = [line for line in block.strip().split("\n") if not line.startswith("#")]

@@ -1,5 +1,5 @@
 """A C++ source as the mutation check looks at it: its text, the same text with comments, directives and the insides of
-literals blanked out, and where things stand in it."""
+literals blanked out, and the places in it."""
 
 import re
 
@@ -47,7 +47,7 @@ class Source:
         return start, end if end >= 0 else len(self.code)
 
     def function(self, position):
-        """The name of the definition around a position, or of the constant that it stands in."""
+        """The name of the definition around a position, or of the constant around it."""
         start, _ = self.region(position)
         head = self.code[start:position]
         opening = head.rfind("\n{")
@@ -72,7 +72,7 @@ class Source:
         return -1
 
     def end_of_statement(self, position):
-        """Where the statement that begins at a position ends (behind its semicolon); -1 for what has a body."""
+        """Where the statement that begins at a position ends (after its semicolon); -1 for what has a body."""
         place = position
         while place < len(self.code):
             character = self.code[place]

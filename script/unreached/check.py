@@ -1,4 +1,4 @@
-"""Names the lines that no test reaches and nobody explained: check.py COVERAGE_JSON EXPLANATIONS.
+"""Names the lines that no test reaches and that have no explanation: check.py COVERAGE_JSON EXPLANATIONS.
 
 The explanations have a line `file: the source line` each, and the reason in the indented lines after it. One that
 explains nothing any more is named, too.

@@ -71,7 +71,7 @@ std::string LicenseCopyright()
     return "(no copyright line)";
 }
 
-TEST_P(VersionResource, TellsTheProjectsVersion)
+TEST_P(VersionResource, HasTheProjectsVersion)
 {
     EXPECT_EQ(Text("FileVersion"), CALVIX_VERSION);
     EXPECT_EQ(Text("ProductVersion"), CALVIX_VERSION);
@@ -80,7 +80,7 @@ TEST_P(VersionResource, TellsTheProjectsVersion)
     EXPECT_EQ(Dotted(numbers.dwProductVersionMS, numbers.dwProductVersionLS), CALVIX_VERSION ".0");
 }
 
-TEST_P(VersionResource, TellsWhatTheFileIs)
+TEST_P(VersionResource, DescribesTheFile)
 {
     EXPECT_EQ(Text("ProductName"), "Calvix");
     EXPECT_EQ(Text("FileDescription"), GetParam().description);
@@ -88,7 +88,7 @@ TEST_P(VersionResource, TellsWhatTheFileIs)
     EXPECT_EQ(Numbers().dwFileType, GetParam().type);
 }
 
-TEST_P(VersionResource, TellsTheCopyrightOfTheLicense)
+TEST_P(VersionResource, HasTheCopyrightOfTheLicense)
 {
     EXPECT_EQ(Text("LegalCopyright"), LicenseCopyright());
 }

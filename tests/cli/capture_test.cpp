@@ -106,7 +106,7 @@ TEST_P(CapturedGallery, AnswersEveryQuestionAsTheOriginal)
     const std::string original = GalleryPath(GetParam());
     const Outcome outcome = Capture(original);
     ASSERT_EQ(kSuccess, outcome.exitCode) << outcome.err;
-    // Without location consent nobody learns what the adapter is connected to, so that a report asks for less.
+    // Without location consent the connection is unknown, so a report makes fewer queries.
     const bool consent = GetParam() != "consent-denied";
     for (const char* adapter : {"1", "2"})
         for (std::vector<std::string> command :
@@ -135,7 +135,7 @@ TEST_F(CaptureCommand, LeavesKeysOut)
     EXPECT_THAT(text, Not(HasSubstr(forms::HexText(std::string("paper lantern harbour")))));
 }
 
-TEST_F(CaptureCommand, TellsWhatItWroteAsImportDoes)
+TEST_F(CaptureCommand, ReportsWhatItWroteAsImportDoes)
 {
     EXPECT_EQ("Adapters       1\nAccess points  10 (2 hidden)\nNetworks       9\nProfiles       3\nWritten to     " +
                   Captured() + "\n",
@@ -274,7 +274,7 @@ TEST_F(CaptureCommand, AHiddenNetworkHasTheNameThatItsConnectionKnows)
     EXPECT_EQ(world.adapters[0].connection, Loaded().adapters[0].connection);
 }
 
-TEST_F(CaptureCommand, TellsNetworksOfOneNameApartByTheirElements)
+TEST_F(CaptureCommand, DistinguishesNetworksOfOneNameByTheirElements)
 {
     Scenario world = NoProfileWorld();
     for (AccessPoint& point : world.accessPoints)

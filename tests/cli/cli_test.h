@@ -22,7 +22,7 @@
 namespace calvix::test
 {
 
-/// What a run of the program left behind.
+/// The result of a run of the program.
 struct Outcome
 {
     int exitCode = -1;

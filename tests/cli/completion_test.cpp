@@ -1,4 +1,4 @@
-// What may stand at the end of a command line, and that bash gets it.
+// The completions at the end of a command line, and that bash gets them.
 
 #include "cli_test.h"
 
@@ -20,7 +20,7 @@ using ::testing::Not;
 class CompleteCommand : public CliTest
 {
 protected:
-    /// The words that may stand at the end of a line; the first one tells which files may, too.
+    /// The completions at the end of a line; the first word says which files are possible, too.
     std::vector<std::string> After(std::vector<std::string> before, const std::string& current = {})
     {
         std::vector<std::string> arguments{"complete"};

@@ -60,7 +60,7 @@ TEST_F(ConnectingCommands, ConnectWaitsAndShowsTheConnection)
     EXPECT_EQ("OfficeNet", ProfileIn(RunOn(QuietWorld(), {"connect", "OfficeNet", "--json"})));
 }
 
-TEST_F(ConnectingCommands, ConnectReplacesTheConnectionThatStands)
+TEST_F(ConnectingCommands, ConnectReplacesTheConnection)
 {
     EXPECT_EQ("OfficeNet", ProfileIn(RunOn(ConnectedQuietWorld(), {"connect", "OfficeNet", "--json"})));
 }
@@ -223,7 +223,7 @@ TEST_F(ConnectingCommands, SwitchPutsTheProfileLastAndTakesAnother)
 TEST_F(ConnectingCommands, ProgressIsForTerminalsAndVanishes)
 {
     const Outcome outcome = RunOn(QuietWorld(), {"connect", "OfficeNet"}, {.isTerminal = true});
-    EXPECT_THAT(outcome.err, HasSubstr("Asked for \"OfficeNet\", waiting for the connection 1."));
+    EXPECT_THAT(outcome.err, HasSubstr("Requested \"OfficeNet\", waiting for the connection 1."));
     EXPECT_THAT(outcome.err, ::testing::EndsWith(" \r"));
     EXPECT_THAT(RunOn(QuietWorld(), {"connect", "OfficeNet", "--json"}, {.isTerminal = true}).err,
                 Not(HasSubstr("Asked")));

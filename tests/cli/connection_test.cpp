@@ -99,7 +99,7 @@ TEST_F(MatchCommand, LeavesManualProfilesOut)
     EXPECT_EQ(3u, match["accessPoints"].size());
 }
 
-TEST_F(MatchCommand, CountsTheNamedProfileWhateverItsMode)
+TEST_F(MatchCommand, CountsTheNamedProfileInAnyMode)
 {
     const json match = json::parse(RunOn(RichWorld(), {"match", "--profile", "OfficeNet", "--json"}).out);
     EXPECT_EQ(json({"HomeNet", "OfficeNet"}), match["profiles"]);
@@ -222,7 +222,7 @@ TEST_F(BestCommand, PassesFailuresOfTheLibraryOn)
 TEST_F(BestCommand, ShowsProgressOnATerminal)
 {
     const Outcome outcome = RunOn(TwoCandidates(), {"best"}, {.isTerminal = true});
-    EXPECT_THAT(outcome.err, HasSubstr("Asked for \"Weak\", waiting for the connection"));
+    EXPECT_THAT(outcome.err, HasSubstr("Requested \"Weak\", waiting for the connection"));
 }
 
 } // namespace

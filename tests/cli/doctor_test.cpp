@@ -108,7 +108,7 @@ class Diagnosis : public CliTest, public ::testing::WithParamInterface<Case>
 {
 };
 
-TEST_P(Diagnosis, TellsWhatIsWrongAndChangesNothing)
+TEST_P(Diagnosis, ShowsWhatIsWrongAndChangesNothing)
 {
     const Case& expected = GetParam();
     auto computer =

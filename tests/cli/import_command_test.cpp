@@ -59,7 +59,7 @@ TEST_F(ImportCommand, WritesAScenarioAndSaysWhatItHolds)
     EXPECT_EQ(folder.FileCount(), 3u);
 }
 
-TEST_F(ImportCommand, TellsFilesApartByWhatTheyHold)
+TEST_F(ImportCommand, RecognisesFilesByTheirContent)
 {
     const Outcome named = Import({"--networks", networks, "--interfaces", interfaces, "--profiles",
                                   DataPath("home/profiles"), "-o", folder / "named.json"});
@@ -119,7 +119,7 @@ TEST_F(ImportCommand, ACaptureOfAnotherEncodingIsRead)
     EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 3u);
 }
 
-TEST_F(ImportCommand, WhatIsGuessedAndWhatTheUserExplainsIsTold)
+TEST_F(ImportCommand, GuessesAndTheUsersWordsAreReported)
 {
     const std::string languages = DataPath("languages/");
     const Outcome guessed =
@@ -171,7 +171,7 @@ TEST_F(ImportCommand, NothingToUseEndsItWithCodeTwoAndNothingWritten)
     const std::string narrow = folder.Write("narrow.txt", Replaced(kNetworks, "Juniper", "Caf\xE9"));
     const std::pair<std::vector<std::string>, std::string> cases[] = {
         {{damaged}, damaged + ":5: no network has a BSSID"},
-        {{other}, other + ":1: this is no output of"},
+        {{other}, other + ":1: this is not output of"},
         {{narrow, "--code-page", "65001"}, narrow + ":5: this is not UTF-8"},
         {{networks, "--code-page", "12345"}, networks + ": this computer cannot read code page 12345"},
         {{networks, "--word", "Offen"}, "\"Offen\" is not WORD=MEANING"},
@@ -179,7 +179,7 @@ TEST_F(ImportCommand, NothingToUseEndsItWithCodeTwoAndNothingWritten)
         {{networks, networks}, networks + ": this is a second list of networks"},
         {{interfaces, "--interfaces", interfaces}, interfaces + ": this is a second list of interfaces"},
         {{folder / "absent.txt"}, (folder / "absent.txt") + ": cannot be read"},
-        {{folder.path()}, folder.path() + ": this folder holds no profile"},
+        {{folder.path()}, folder.path() + ": this folder has no profile"},
         {{"--profiles", networks}, networks + ": this folder cannot be read"},
         {{}, "nothing to import"},
     };
@@ -206,7 +206,7 @@ TEST_F(ImportCommand, AnEarlierScenarioSurvivesADamagedCapture)
     EXPECT_EQ(simulation::LoadScenario(output).accessPoints.size(), 3u);
 }
 
-TEST_F(ImportCommand, AFileThatCannotBeWrittenIsToldAndLeavesNothing)
+TEST_F(ImportCommand, AFileThatCannotBeWrittenIsReportedAndLeavesNothing)
 {
     const Outcome outcome = Import({networks, "-o", folder / "absent/out.json"});
     EXPECT_EQ(outcome.exitCode, 2);

@@ -138,14 +138,14 @@ TEST(ImportLanguages, TheCodePagesOfEachLanguageAreGuessedAndCanBeNamed)
         GTEST_SKIP() << "this computer has no converter for code page" << missing;
 }
 
-TEST(ImportLanguages, AFileOfTheConsolesCodePageIsReadAndToldOf)
+TEST(ImportLanguages, AFileOfTheConsolesCodePageIsReadWithAWarning)
 {
     if (!simulation::HasNarrowEncoding(850))
         GTEST_SKIP() << "this computer has no converter for code page 850";
     const Captures captures = Read(Sample("german", "networks-oem.txt"));
     EXPECT_EQ(captures.warnings,
               std::vector<std::string>{"file: this is not Unicode and was read as code page 850, the "
-                                       "likeliest; name another with --code-page"});
+                                       "most likely one; give another with --code-page"});
     EXPECT_EQ(captures.networks->accessPoints.size(), 6u);
 }
 

@@ -93,9 +93,10 @@ TEST(ImportIw, CarriesOverWhatAScenarioHolds)
                      {"Harbour Staff", 5500000, -80, 4, 1, "WPA2", "AES", 100},
                      {"chess", 2462000, -90, 6, 2, "open", "WEP", 100}});
     EXPECT_EQ(capture.adapterNames, std::vector<std::string>{"wlan0"});
-    EXPECT_EQ(capture.warnings, (std::vector<std::string>{"file:65: \"40/100\" is not in dBm: the strength is a guess",
-                                                          "file:26: the access point 02:61:00:00:00:02 takes both WPA2 "
-                                                          "and WPA3; the scenario has WPA3"}));
+    EXPECT_EQ(capture.warnings,
+              (std::vector<std::string>{"file:65: \"40/100\" is not in dBm: the strength is a guess",
+                                        "file:26: the access point 02:61:00:00:00:02 accepts both WPA2 "
+                                        "and WPA3; the scenario has WPA3"}));
 }
 
 TEST(ImportIw, TheAssociatedAccessPointIsTheConnection)
@@ -117,7 +118,7 @@ struct IwDamage
     const char* told; ///< the refusal, or a warning
 };
 
-TEST(ImportIw, WhatCannotBeUsedIsTold)
+TEST(ImportIw, WhatCannotBeUsedIsReported)
 {
     const IwDamage cases[] = {
         {"\tsignal: -90.00 dBm\n", "",
@@ -149,7 +150,8 @@ TEST(ImportNmcli, EveryLayoutHoldsTheSame)
         Expect(capture, kListed);
         ASSERT_EQ(capture.connections.size(), 1u);
         EXPECT_EQ(capture.connections[0].ssid, "Harbour Lane");
-        EXPECT_EQ(capture.warnings.size(), 2u) << "of what nmcli does not tell, and of the network with WPA2 and WPA3";
+        EXPECT_EQ(capture.warnings.size(), 2u)
+            << "about what nmcli does not print, and about the network with WPA2 and WPA3";
     }
 }
 
@@ -157,7 +159,7 @@ TEST(ImportNmcli, AListWithoutNamesIsTheAdvisedOneOrNmclisOwn)
 {
     const NetworksCapture withoutFlags = ReadNetworks(Columns({0, 1, 2, 3, 4, 5, 6, 7, 8}));
     Expect(withoutFlags, kListed);
-    EXPECT_TRUE(Tells(withoutFlags, "nor ciphers, which are taken to be AES"));
+    EXPECT_TRUE(Tells(withoutFlags, "nor ciphers: AES is assumed"));
 
     // Without frequencies, channel 1 of 6 GHz looks like that of 2.4 GHz; the column of the bars has no use.
     std::vector<Heard> expected = kListed;
@@ -165,7 +167,7 @@ TEST(ImportNmcli, AListWithoutNamesIsTheAdvisedOneOrNmclisOwn)
     expected[2].phyType = 7;
     const NetworksCapture own = ReadNetworks(Columns({0, 1, 2, 3, 4, 6, 7, 9, 8}));
     Expect(own, expected);
-    EXPECT_TRUE(Tells(own, "file:1: channels are taken for those of 2.4 and 5 GHz"));
+    EXPECT_TRUE(Tells(own, "file:1: channels are assumed to be those of 2.4 and 5 GHz"));
 }
 
 TEST(ImportNmcli, ATableInAnotherLanguageHasItsOwnOrder)
@@ -180,7 +182,7 @@ TEST(ImportNmcli, ATableInAnotherLanguageHasItsOwnOrder)
     EXPECT_EQ(capture.accessPoints[0].authentication, "WPA2PSK");
 }
 
-TEST(ImportNmcli, FlagsTellTheCipher)
+TEST(ImportNmcli, FlagsDecideTheCipher)
 {
     const std::pair<const char*, const char*> cases[] = {
         {"WPA2:(none):pair_tkip group_tkip psk\n", "TKIP"},
@@ -209,7 +211,7 @@ TEST(ImportNmcli, ATableCanHaveAnyColumns)
     EXPECT_EQ(capture.connections.size(), 1u);
 }
 
-TEST(ImportNmcli, WhatCannotBeUsedIsTold)
+TEST(ImportNmcli, WhatCannotBeUsedIsReported)
 {
     const std::string terse = Sample("nmcli-terse.txt");
     const std::pair<std::string, const char*> cases[] = {
@@ -219,8 +221,9 @@ TEST(ImportNmcli, WhatCannotBeUsedIsTold)
         {"BSSID              SSID     SIGNAL  SECURITY\n02:61:00:00:00:01  Juniper  6     WPA2\n",
          "file:2: this list has neither channels nor frequencies"},
         {terse + " :02\\:61", "file:7: this row has 2 values in place of 11; the access point is left out"},
-        {Replaced(terse, "WEP", "ROT13"), "\"ROT13\" is no known security; the access point is left out"},
-        {Replaced(terse, "82", "820"), "file:1: \"820\" is no percentage from 0 to 100; the access point is left out"},
+        {Replaced(terse, "WEP", "ROT13"), "\"ROT13\" is not a known security; the access point is left out"},
+        {Replaced(terse, "82", "820"),
+         "file:1: \"820\" is not a percentage from 0 to 100; the access point is left out"},
     };
     for (const auto& [text, told] : cases)
     {

@@ -251,7 +251,7 @@ TEST(ImportNetworks, AListWithoutAccessPointsIsRefusedWithTheRemedy)
               "file:5: no network has a BSSID: capture with \"netsh wlan show networks mode=bssid\"");
 }
 
-/// Wherever a capture is cut, it is refused, or a warning tells of the network that lost its access points. Only the very
+/// Wherever a capture is cut, it is refused, or a warning names the network that lost its access points. Only the very
 /// last value can lose digits.
 TEST(ImportNetworks, NoCutGoesUnnoticed)
 {

@@ -93,7 +93,7 @@ TEST(ImportProfiles, AFolderMustExistAndHoldProfiles)
     TemporaryFolder folder;
     folder.Write("notes.txt", "nothing to see");
     EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder.path()); }),
-              folder.path() + ": this folder holds no profile (*.xml)");
+              folder.path() + ": this folder has no profile (*.xml)");
     EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder / "absent"); }),
               (folder / "absent") + ": this folder cannot be read");
     EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder / "notes.txt"); }),

@@ -34,7 +34,7 @@ TEST(ImportRealCaptures, GermanSystemsPrintBssidd)
     EXPECT_EQ(Air(Replaced(kNetworks, "    BSSID 1", "    BSSIDD 1")), Air(kNetworks));
 }
 
-TEST(ImportRealCaptures, HowKeysAreExchangedStandsInBrackets)
+TEST(ImportRealCaptures, TheKeyExchangeIsInBrackets)
 {
     EXPECT_EQ(Air(Replaced(kNetworks, "WPA2-Personal", "WPA3-Personal  (H2E)")).at(0).authentication, "WPA3SAE");
 }
@@ -70,11 +70,11 @@ TEST(ImportRealCaptures, TwoAccessPointsOfOneAddressStayApart)
     EXPECT_EQ(other.bssid, (simulation::MacAddress{2, 0, 0, 0, 0, 3})) << "the next that is free";
     EXPECT_EQ(imported.warnings, std::vector<std::string>{
                                      "the access point 02:00:00:00:00:01 is listed again with another name, channel or "
-                                     "security; that one has the made-up address 02:00:00:00:00:03"});
+                                     "security; that one has the invented address 02:00:00:00:00:03"});
     EXPECT_EQ(imported.scenario.accessPoints[0].rssi, -60) << "as the first entry says";
 }
 
-TEST(ImportRealCaptures, WhatIsMergedIsTold)
+TEST(ImportRealCaptures, MergingIsReported)
 {
     const MadeScenario imported = Import(kIw + Replaced(kIw, "-43.00", "-40.00"));
     ASSERT_EQ(imported.scenario.accessPoints.size(), 1u);

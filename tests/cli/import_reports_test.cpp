@@ -23,7 +23,7 @@ std::string AllReplaced(std::string text, const std::string& from, const std::st
     return text;
 }
 
-/// All that is told about a capture, a refusal included.
+/// All warnings about a capture, and its refusal.
 std::vector<std::string> Told(const std::string& bytes, const CaptureHints& hints = {})
 {
     std::vector<std::string> told;
@@ -43,7 +43,7 @@ struct Change
 
 } // namespace
 
-TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
+TEST(ImportReports, EveryUnknownLineIsReportedWithItsConsequence)
 {
     const Change changes[] = {
         {"polish/networks.txt",
@@ -59,8 +59,8 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
         {"polish/interfaces.txt",
          "5c0de000-0001",
          "XXXXXXXX-0001",
-         {"file:6: \"Identyfikator GUID\" is masked (\"XXXXXXXX-0001-4abc-8def-0123456789ab\"): write other digits in "
-          "its place, the same for the same device; the adapter has a made-up one"}},
+         {"file:6: \"Identyfikator GUID\" is masked (\"XXXXXXXX-0001-4abc-8def-0123456789ab\"): replace it with "
+          "other digits, the same ones for the same device; the adapter gets an invented one"}},
         {"polish/networks.txt",
          "CCMP",
          "XOR-8",
@@ -70,8 +70,8 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
         {"polish/networks.txt",
          "Infrastruktura",
          "Kratownica",
-         {"file:6: \"Typ sieci\" is \"Kratownica\", which is not a known network type (Infrastructure or Adhoc); it is "
-          "taken for infrastructure"}},
+         {"file:6: \"Typ sieci\" is \"Kratownica\", which is not a known network type (Infrastructure or Adhoc); "
+          "infrastructure is assumed"}},
         {"polish/networks.txt",
          "802.11n\r\n",
          "802.11n\r\n         Nastr\xC3\xB3j : dobry\r\n",
@@ -94,13 +94,13 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
          "cz automatycznie",
          "Nie wiem",
          {"file:15: \"Tryb po\xC5\x82\xC4\x85"
-          "czenia\" is \"Nie wiem\", which is not understood; the connection is taken for one that somebody asked "
-          "for"}},
+          "czenia\" is \"Nie wiem\", which is not understood; the connection is assumed to be one that the "
+          "user requested"}},
         {"polish/interfaces.txt",
          "Oprogramowanie Wy\xC5\x82\xC4\x85"
          "czone",
          "Oprogramowanie ?",
-         {"file:28: \"Oprogramowanie ?\" is not understood; it is taken to be on"}},
+         {"file:28: \"Oprogramowanie ?\" is not understood; it is assumed to be on"}},
         {"polish/networks.txt",
          "Linden Guests",
          "Caf\xC3\x83\xC2\xA9",
@@ -134,7 +134,7 @@ TEST(ImportReports, EveryLineThatIsNotUnderstoodIsToldWithWhatBecameOfIt)
     }
 }
 
-TEST(ImportReports, StructureIsEnoughForALanguageThatNobodyKnows)
+TEST(ImportReports, StructureIsEnoughForAnUnknownLanguage)
 {
     std::string networks = Sample("polish/networks.txt");
     for (const auto& [from, to] :
@@ -168,7 +168,7 @@ TEST(ImportReports, CapturesOfTwoLanguagesGoTogether)
     EXPECT_FALSE(both.empty());
 }
 
-/// Wherever a capture is cut, something is told; only the very last values can lose digits.
+/// Wherever a capture is cut, something is reported; only the very last values can lose digits.
 TEST(ImportReports, NoCutOfAForeignCaptureGoesUnnoticed)
 {
     const std::string networks = Sample("korean/networks.txt");
@@ -185,11 +185,11 @@ TEST(ImportReports, AnythingElseIsRefused)
     {
         const std::vector<std::string> told = Told(text);
         ASSERT_EQ(told.size(), 1u) << text;
-        EXPECT_EQ(told[0].find("file:1: this is no output of "), 0u) << told[0];
+        EXPECT_EQ(told[0].find("file:1: this is not output of "), 0u) << told[0];
     }
 }
 
-TEST(ImportReports, ACodePageThatIsNamedWronglyIsTold)
+TEST(ImportReports, AWrongCodePageIsReported)
 {
     CaptureHints hints;
     hints.codePage = 12345;

@@ -177,7 +177,7 @@ TEST(ImportScenario, AConnectionWhoseProfileDoesNotFitIsLeftOutAloud)
                                                           "profile is for another kind of network"});
 }
 
-TEST(ImportScenario, AConnectionTellsTheNameOfAHiddenAccessPoint)
+TEST(ImportScenario, AConnectionHasTheNameOfAHiddenAccessPoint)
 {
     Captures captures = BothCaptures();
     captures.networks = ParseNetworks(Listing("", "02:00:00:00:00:01", 60), "networks.txt");
@@ -234,7 +234,7 @@ TEST(ImportScenario, NoProfileIsMadeForSecurityThatNoProfileCanAskFor)
     const MadeScenario imported = AssembleScenario(captures, true);
     EXPECT_EQ(imported.scenario.adapters.at(0).profiles.size(), 1u);
     ASSERT_FALSE(imported.warnings.empty());
-    EXPECT_EQ(imported.warnings[0], "the profile \"Juniper\" cannot be made up: no profile has WPA2PSK with WEP");
+    EXPECT_EQ(imported.warnings[0], "the profile \"Juniper\" cannot be made: no profile has WPA2PSK with WEP");
     EXPECT_EQ(imported.warnings.size(), 1u) << "one warning for a network, however many access points it has";
 }
 

@@ -220,7 +220,7 @@ TEST_F(CtrlC, EndsAWaitAsAFailure)
     std::ostringstream out;
     InterruptingText buffer;
     std::ostream err(&buffer);
-    // The trace line of the registration is the first line, the progress behind it flushes.
+    // The trace line of the registration is the first line, the progress after it flushes.
     EXPECT_EQ(kFailed, host::Run({"scan", "--trace", "--scenario", file}, noInput, out, err, {.isTerminal = true}));
     EXPECT_THAT(buffer.str(), HasSubstr("calvix: interrupted.\n"));
     EXPECT_THAT(buffer.str(), HasSubstr("WlanUnRegisterNotification: 0")) << "left cleanly";

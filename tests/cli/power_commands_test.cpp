@@ -130,7 +130,7 @@ TEST_F(PowerCommands, YesIsTakenInAnyCaseAndShort)
     }
 }
 
-TEST_F(PowerCommands, NobodyIsAskedWhoSaidYes)
+TEST_F(PowerCommands, YesBeforehandSkipsTheQuestion)
 {
     for (const char* command : {"sleep", "keep-awake", "restore", "saver"})
     {
@@ -223,7 +223,7 @@ TEST_F(PowerCommands, RestoreSaysThatItWritesZerosAndDoes)
     Answer("yes");
     const Outcome outcome = RunAndKeep(Laptop(), {"power", "restore"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
-    EXPECT_THAT(outcome.err, HasSubstr("a policy of zeros will be written to the active power scheme"));
+    EXPECT_THAT(outcome.err, HasSubstr("It will replace the policy of the active power scheme with zeros"));
     EXPECT_EQ((simulation::LegacyPowerScheme{7, "Seven", 0, 0, 0, 0}), after.power.legacySchemes[0]);
 }
 
@@ -242,25 +242,25 @@ TEST_F(PowerCommands, SaverRefusesWhereItsMethodWouldNotReturn)
 {
     const Outcome outcome = RunOn(Scenario{}, {"power", "saver"});
     EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("this computer lists its power schemes, and there GetPowerScheme never returns: "
+    EXPECT_THAT(outcome.err, HasSubstr("this computer lists its power schemes, so GetPowerScheme would never return: "
                                        "nothing was done."));
     EXPECT_THAT(outcome.err, HasSubstr("--may-not-return"));
     EXPECT_THAT(outcome.err, Not(HasSubstr("yes/no")));
 }
 
-TEST_F(PowerCommands, PrivilegeTellsWhetherItCanBeEnabled)
+TEST_F(PowerCommands, PrivilegeShowsWhetherItCanBeEnabled)
 {
     Scenario world;
     world.privileges = {{"SeShutdownPrivilege", false}};
     const Outcome enabled = RunAndKeep(world, {"power", "privilege", "SeShutdownPrivilege"});
     EXPECT_EQ(kSuccess, enabled.exitCode) << enabled.err;
-    EXPECT_EQ("SeShutdownPrivilege can be enabled, and was for the time of this command.\n", enabled.out);
+    EXPECT_EQ("SeShutdownPrivilege can be enabled; this command enabled it while it ran.\n", enabled.out);
     EXPECT_TRUE(after.privileges[0].enabled);
     EXPECT_EQ(json({{"privilege", {{"name", "SeShutdownPrivilege"}, {"enabled", true}}}}),
               json::parse(RunOn(world, {"power", "privilege", "SeShutdownPrivilege", "--json"}).out));
 }
 
-TEST_F(PowerCommands, PrivilegeTellsWhyItCannot)
+TEST_F(PowerCommands, PrivilegeShowsWhyItCannotBeEnabled)
 {
     const Outcome notHeld = RunOn({}, {"power", "privilege", "SeDebugPrivilege"});
     EXPECT_EQ(kFailed, notHeld.exitCode);
@@ -286,13 +286,13 @@ protected:
     simulation::Computer& m_simulated = calvix::testing::ComputerInternals::Simulated(m_computer);
 };
 
-TEST_F(RefusedPower, SaverWarnsWhoWantsItAllTheSame)
+TEST_F(RefusedPower, SaverWarnsBeforeItTriesAnyway)
 {
     // The program's own look at the list succeeds, and the library's third one fails.
     m_computer.Fail("PowerEnumerate", 259, 4);
     const Outcome outcome = Run({"power", "saver", "--may-not-return", "--yes"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
-    EXPECT_THAT(outcome.err, HasSubstr("as long as it does GetPowerScheme does not return. Ctrl-C, pressed twice"));
+    EXPECT_THAT(outcome.err, HasSubstr("so GetPowerScheme does not return. Press Ctrl-C twice"));
     EXPECT_EQ(4u, m_computer.CallCount("PowerEnumerate"));
     EXPECT_EQ(4u, m_simulated.Snapshot().power.schemes.size());
 }
@@ -304,7 +304,7 @@ TEST_F(RefusedPower, SaverLooksAtTheListOnceAndRefuses)
     EXPECT_EQ(Scenario{}, m_simulated.Snapshot());
 }
 
-TEST_F(RefusedPower, StatusDoesWithoutWhatIsNotTold)
+TEST_F(RefusedPower, StatusLeavesOutUnknownFacts)
 {
     m_computer.Fail("CallNtPowerInformation", 0xC0000022);
     m_computer.Fail("PowerGetActiveScheme", 5);
@@ -323,7 +323,7 @@ TEST_F(RefusedPower, SleepNeedsAToken)
     m_computer.Fail("OpenProcessToken", 5);
     const Outcome outcome = Run({"power", "sleep", "--yes"});
     EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("the shutdown privilege could not be asked for: the system refused "
+    EXPECT_THAT(outcome.err, HasSubstr("the shutdown privilege could not be requested: the system refused "
                                        "OpenProcessToken (access denied, 5).\n  Result: GetPrivileges returned 0."));
     EXPECT_EQ(0u, m_simulated.SuspendCount());
 }
@@ -404,7 +404,7 @@ private:
     bool m_pressed = false;
 };
 
-TEST_F(RefusedPower, CtrlCAtTheQuestionIsNoYes)
+TEST_F(RefusedPower, CtrlCAtTheQuestionDoesNotConfirm)
 {
     InterruptingAnswer answer;
     std::istream in(&answer);

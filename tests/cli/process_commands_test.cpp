@@ -142,7 +142,7 @@ TEST_F(RunCommandTest, SaysWhichProcessWasNotEnded)
     EXPECT_EQ((std::vector<std::uint32_t>{16, 20}), RunningAfterwards());
     const Outcome missing = RunAndKeep({"run", "--kill", "13"});
     EXPECT_EQ(kFailed, missing.exitCode);
-    EXPECT_THAT(missing.err, HasSubstr("there is no process of this number"));
+    EXPECT_THAT(missing.err, HasSubstr("no process has this number"));
 }
 
 TEST_F(RunCommandTest, TakesNumbersOfProcesses)
@@ -169,7 +169,7 @@ TEST_F(RunCommandTest, DoesOneThing)
     }
 }
 
-TEST_F(OnlineCommand, TellsThatTheInternetCanBeReached)
+TEST_F(OnlineCommand, ShowsThatTheInternetCanBeReached)
 {
     const Outcome outcome = RunOn({}, {"online"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
@@ -177,7 +177,7 @@ TEST_F(OnlineCommand, TellsThatTheInternetCanBeReached)
     EXPECT_EQ(json({{"online", true}}), json::parse(RunOn({}, {"online", "--json"}).out));
 }
 
-TEST_F(OnlineCommand, TellsWhyItCannot)
+TEST_F(OnlineCommand, ShowsWhyItCannotBeReached)
 {
     Scenario world;
     world.internet = InternetAccess::unresolved;
@@ -185,7 +185,7 @@ TEST_F(OnlineCommand, TellsWhyItCannot)
     EXPECT_EQ(kFailed, unresolved.exitCode);
     EXPECT_THAT(unresolved.err, StartsWith("calvix: the internet could not be reached: the system refused "
                                            "InternetCheckConnectionA (the name could not be resolved, 12007).\n"
-                                           "  Result: OpenUrl returned -1.\n  What to do: see that the network has"));
+                                           "  Result: OpenUrl returned -1.\n  What to do: check that the network has"));
     world.internet = InternetAccess::unreachable;
     const json error = json::parse(RunOn(world, {"online", "--json"}).out)["error"];
     EXPECT_EQ(12029, error["platformError"]);

@@ -195,17 +195,17 @@ TEST_F(ListCommands, SpeakJson)
     EXPECT_EQ("  Num Entries: 2", listing["lines"][0]);
 }
 
-TEST_F(ListCommands, TellAboutAnAdapterThatRefuses)
+TEST_F(ListCommands, ReportAnAdapterThatCannotBeListed)
 {
     simulation::Scenario world = RichWorld();
     world.locationConsent = false;
     const Outcome outcome = RunOn(world, {"list", "networks"});
     EXPECT_EQ(kFailed, outcome.exitCode);
     EXPECT_THAT(outcome.out, HasSubstr("Num Entries: 2\n"));
-    EXPECT_THAT(outcome.err, HasSubstr("an adapter refused to be listed"));
+    EXPECT_THAT(outcome.err, HasSubstr("an adapter could not be listed"));
 }
 
-TEST_F(ListCommands, SoftApsAreToldByTheirMarker)
+TEST_F(ListCommands, SoftApsAreRecognisedByTheirMarker)
 {
     simulation::Scenario world = RichWorld();
     world.adapters[0].profiles.push_back(MakeProfile("LC#1"));

@@ -31,7 +31,7 @@ simulation::Scenario TwoCandidates()
 class Refusals : public CliTest
 {
 protected:
-    /// Whatever was refused, nothing may be left behind.
+    /// After any refusal, nothing may remain allocated.
     void TearDown() override
     {
         EXPECT_TRUE(m_computer.Held().Nothing());
@@ -184,7 +184,7 @@ TEST_F(Refusals, AServiceThatStopsMeanwhileIsUnavailable)
     EXPECT_THAT(outcome.err, HasSubstr("sc start WlanSvc"));
 }
 
-TEST_F(Refusals, StatusLeavesOutWhatTheDriverDoesNotTell)
+TEST_F(Refusals, StatusLeavesOutWhatTheDriverDoesNotReport)
 {
     ASSERT_EQ(kSuccess, Run({"best"}).exitCode);
     m_computer.FailWhen(

@@ -27,7 +27,7 @@ BeaconFacts Read(unsigned long frequencyKhz, const Bytes& elements, USHORT capab
     return ReadBeacon(entry, elements);
 }
 
-TEST(Beacon, TellsTheChannelAsItsAccessPointUsesIt)
+TEST(Beacon, HasTheChannelAsItsAccessPointUsesIt)
 {
     struct Row
     {
@@ -69,7 +69,7 @@ TEST(Beacon, ReadsElementsAsAccessPointsSendThem)
     EXPECT_EQ(5250000u, Read(5180000, {192, 5, 2, 50, 0, 0, 0}).centreKhz);
 }
 
-TEST(Beacon, BrokenElementsTellNothing)
+TEST(Beacon, MalformedElementsAreIgnored)
 {
     for (const Bytes& broken :
          {Bytes{}, Bytes{61}, Bytes{61, 22, 36}, Bytes{61, 1, 36}, Bytes{192, 2, 1, 42}, Bytes{255, 0},
@@ -85,7 +85,7 @@ TEST(Beacon, BrokenElementsTellNothing)
     EXPECT_EQ("open", Read(5180000, {}, 0x01).security);
 }
 
-TEST(Beacon, TellsTheSecurity)
+TEST(Beacon, HasTheSecurity)
 {
     const Bytes mixed = {48, 24, 1, 0, 0,    0x0f, 0xac, 4, 1,    0,    0, 0x0f, 0xac,
                          4,  2,  0, 0, 0x0f, 0xac, 2,    0, 0x0f, 0xac, 8, 0x80, 0};
@@ -99,7 +99,7 @@ class ReportBeacons : public CliTest
 {
 };
 
-TEST_F(ReportBeacons, SimulatedSecurityReadsAsTheServiceTellsIt)
+TEST_F(ReportBeacons, SimulatedSecurityMatchesTheServices)
 {
     simulation::Scenario world = SilentWorld();
     std::uint8_t last = 1;

@@ -27,7 +27,7 @@ std::size_t Count(const std::string& text, const std::string& part)
     return count;
 }
 
-/// What stands between the first `begin` and the `end` behind it.
+/// The text between the first `begin` and the next `end`.
 std::string Between(const std::string& text, const std::string& begin, const std::string& end)
 {
     const std::size_t from = text.find(begin);
@@ -180,7 +180,7 @@ TEST_F(ReportPage, SaysWhatIsMissingAndFails)
     EXPECT_THAT(PageOn(NoAdapterWorld(), kUnavailable), HasSubstr("the computer has no wireless adapter"));
 }
 
-TEST_F(ReportPage, TellsWhatTheAutomaticMethodsWouldDoAndDoesNothing)
+TEST_F(ReportPage, ShowsWhatTheAutomaticMethodsWouldDoAndDoesNothing)
 {
     const std::string saved = PathFor("after.json");
     const Outcome outcome = Run({"report", "--json", "-o", "-", "--scenario", kAutomatic, "--save", saved});

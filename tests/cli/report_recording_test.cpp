@@ -94,8 +94,8 @@ TEST_F(ReportRecording, TheWalkHasItsRoamsAndEveryAccessPoint)
     for (const std::string& bssid : recorded)
         EXPECT_EQ(1u, CountOf(page.out, "<td class=\"mono\">" + bssid + "</td>")) << bssid;
     EXPECT_THAT(page.out, HasSubstr("from the recording session.jsonl, of a simulated computer"));
-    EXPECT_THAT(page.out, Not(HasSubstr(recording))) << "nobody has to know the folders";
-    EXPECT_THAT(page.out, HasSubstr("Access points of other networks: the session asked only for those of"));
+    EXPECT_THAT(page.out, Not(HasSubstr(recording))) << "the folders are private";
+    EXPECT_THAT(page.out, HasSubstr("Access points of other networks: the session listed only those of"));
     EXPECT_THAT(page.out, HasSubstr("The access points at the end: they were listed last at second 147 of 240."));
     EXPECT_EQ(page.out, PageOf(recording).out) << "each time";
 }
@@ -112,9 +112,9 @@ TEST_F(ReportRecording, AListOfAccessPointsGivesThePictureThatTheComputerGives)
     const std::string page = PageOf(recording).out;
     EXPECT_EQ(13u, CountOf(page, "<g class=\"ap "));
     for (const char* const sentence :
-         {"The connection: the session did not ask for it.", "The stored profiles: the session got no list of them.",
-          "The signal over time: the session looked no more than once.",
-          "<p>Left out: they decide by what the computer itself answers them"})
+         {"The connection: the session did not query it.", "The stored profiles: the session did not list them.",
+          "The signal over time: the session read it only once.",
+          "<p>Not shown: they decide by the computer's answers"})
         EXPECT_THAT(page, HasSubstr(sentence));
     EXPECT_EQ(2u, CountOf(page, "<p>Not recorded.</p>")) << "the connection and the profiles";
     EXPECT_THAT(page, Not(HasSubstr("No profile is stored")));
@@ -131,7 +131,7 @@ TEST_F(ReportRecording, AnonymisedOnesHaveNoNamesAndAllElse)
     EXPECT_EQ("WPA2-PSK/CCMP", data["accessPoints"][0]["security"]);
     const std::string page = PageOf(recording).out;
     EXPECT_THAT(page, Not(HasSubstr("Brightwater")));
-    EXPECT_THAT(page, HasSubstr("with names made up"));
+    EXPECT_THAT(page, HasSubstr("with invented names"));
 }
 
 TEST_F(ReportRecording, NamesArePutInAsText)
@@ -153,7 +153,7 @@ TEST_F(ReportRecording, WithoutAListOfAccessPointsThePageSaysSo)
 {
     const std::string recording = Recorded({"networks", "--scenario", kRecordedOffice});
     const std::string page = PageOf(recording).out;
-    EXPECT_THAT(page, HasSubstr("The access points: the session got no list of them. Its list of networks names "));
+    EXPECT_THAT(page, HasSubstr("The access points: the session did not list them. Its list of networks has "));
     EXPECT_THAT(page, HasSubstr("\xe2\x80\x9c"
                                 "Brightwater Staff\xe2\x80\x9d"));
     EXPECT_THAT(page, HasSubstr("The access points in view were not recorded."));
@@ -169,7 +169,7 @@ TEST_F(ReportRecording, ProfilesHaveTheirOrderAndModes)
     EXPECT_EQ(live, DataOf(recording)["profiles"]);
 }
 
-TEST_F(ReportRecording, WhatWasRefusedThenIsToldAndNoFailureNow)
+TEST_F(ReportRecording, RecordedRefusalsAreShownAndAreNotFailures)
 {
     simulation::Scenario world = RichWorld();
     world.locationConsent = false;
@@ -206,7 +206,7 @@ std::string ListOf(const std::string& bssid, int rssi)
            "\n";
 }
 
-TEST_F(ReportRecording, ALossThatOnlyTheServiceToldIsMarked)
+TEST_F(ReportRecording, ALossThatOnlyTheServiceReportedIsMarked)
 {
     const std::string recording = Session(
         ListOf("02:00:00:00:00:01", -50) + R"({"call":"WlanConnect","in":{"client":1,"interface":)" + kOneAdapter +
@@ -242,17 +242,17 @@ TEST_F(ReportRecording, ALossThatOnlyTheServiceToldIsMarked)
     EXPECT_EQ(json::array(), data["adapters"]);
 }
 
-TEST_F(ReportRecording, DamageIsToldWithItsLine)
+TEST_F(ReportRecording, DamageIsReportedWithItsLine)
 {
     constexpr const char* header = "{\"calvixRecording\":1,\"simulated\":false,\"anonymised\":false}\n";
     const std::vector<std::pair<std::string, std::string>> rows = {
-        {"", ":1: this is no recording: the file is empty"},
-        {"<html>\n", ":1: this is no recording: its first line is no header"},
-        {"{\"calvixRecording\":99,\"simulated\":false,\"anonymised\":false}\n", ":1: the recording is of version 99"},
-        {std::string(header) + "{\"call\":\"Sl", ":2: the recording breaks off in this line"},
+        {"", ":1: this is not a recording: the file is empty"},
+        {"<html>\n", ":1: this is not a recording: its first line is not a header"},
+        {"{\"calvixRecording\":99,\"simulated\":false,\"anonymised\":false}\n", ":1: the recording has version 99"},
+        {std::string(header) + "{\"call\":\"Sl", ":2: the recording ends in the middle of this line"},
         {std::string(header) + "{}\n", ":2: this line is damaged"},
         {std::string(header) + ListOf("02:00:00:00:00", -50) + "{\"end\":2}\n",
-         ":2: the recording is damaged: in WlanGetNetworkBssList, \"dot11Bssid\" is no address"},
+         ":2: the recording is damaged: in WlanGetNetworkBssList, \"dot11Bssid\" is not an address"},
         {std::string(header) + "{\"call\":\"Sleep\",\"in\":{\"milliseconds\":-1},\"out\":{}}\n{\"end\":2}\n",
          ":2: the recording is damaged: in Sleep, \"milliseconds\""},
         {std::string(header) + "{\"notification\":{\"client\":1}}\n{\"end\":2}\n",
@@ -268,13 +268,13 @@ TEST_F(ReportRecording, DamageIsToldWithItsLine)
     EXPECT_EQ(kBadInput, PageOf(PathFor("nowhere.jsonl")).exitCode);
 }
 
-TEST_F(ReportRecording, WhatIsThereBeforeItBreaksOffIsShown)
+TEST_F(ReportRecording, AnIncompleteRecordingIsShown)
 {
     const Outcome outcome = PageOf(Session(ListOf("02:00:00:00:00:01", -50)));
     EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("written.jsonl:2: the recording breaks off after this line"));
+    EXPECT_THAT(outcome.err, HasSubstr("written.jsonl:2: the recording ends after this line"));
     EXPECT_THAT(outcome.out, HasSubstr("<td class=\"mono\">02:00:00:00:00:01</td>"));
-    EXPECT_THAT(outcome.out, HasSubstr("The end of the session: the recording breaks off after line 2."));
+    EXPECT_THAT(outcome.out, HasSubstr("The end of the session: the recording ends after line 2."));
 }
 
 TEST_F(ReportRecording, ExcludesWhatTheRecordingHasDecided)

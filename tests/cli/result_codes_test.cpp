@@ -21,17 +21,17 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-/// What the header tells about a method's results. Overloads of one name tell together.
+/// What the header says about a method's results. Overloads of one name are joined.
 struct ToldResults
 {
-    std::map<long long, std::string> codes; ///< each with the words behind it
+    std::map<long long, std::string> codes; ///< each with the words after it
     bool platformErrors = false;            ///< whether the platform's error numbers are results, too
 };
 
 using ToldMethods = std::map<std::string, ToldResults>;
 
 /// Reads a @return: codes are negative numbers, hexadecimal ones and 1, up to the next comma or semicolon; "as METHOD"
-/// takes over what that method's first declaration tells, and a code of the method's own comes before it.
+/// takes over the codes of that method's first declaration, and a code of the method's own comes before it.
 ToldResults ReadReturn(const std::string& text, const ToldMethods& firsts)
 {
     ToldResults told;
@@ -80,7 +80,7 @@ ToldMethods ReadHeader()
     return all;
 }
 
-/// What the header has to tell about a method. Words that say more than the table's own stay as they are.
+/// What the header must say about a method. Words that say more than the table's own stay as they are.
 std::map<long long, std::string> Expected(const MethodResults& results, const ToldResults& told)
 {
     std::map<long long, std::string> expected;
@@ -94,7 +94,7 @@ std::map<long long, std::string> Expected(const MethodResults& results, const To
     return expected;
 }
 
-TEST(ResultCodes, AreThoseThatTheHeaderTells)
+TEST(ResultCodes, AreThoseOfTheHeader)
 {
     ToldMethods header = ReadHeader();
     EXPECT_GT(header.size(), 100u);
@@ -129,7 +129,7 @@ TEST(ResultCodes, GiveEveryRowAMeaningAndAdvice)
     }
 }
 
-TEST(ResultCodes, FindMethodsWhateverTheCase)
+TEST(ResultCodes, FindMethodsInAnyCase)
 {
     ASSERT_NE(nullptr, FindMethod("connectbestap"));
     EXPECT_STREQ("ConnectBestAP", FindMethod("connectbestap")->method);

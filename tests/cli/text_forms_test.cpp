@@ -33,7 +33,7 @@ TEST(VisibleText, EscapesWhatWouldMoveTheCursor)
     EXPECT_EQ("\\xC2\\x9B", VisibleText("\xC2\x9B"));
 }
 
-// A name could otherwise show what stands behind it in another order than it has.
+// Otherwise a name could change the order of the text after it.
 TEST(VisibleText, EscapesWhatWouldTurnTheDirection)
 {
     EXPECT_EQ("a\\xE2\\x80\\xAEb", VisibleText("a\u202Eb"));
@@ -64,7 +64,7 @@ TEST(WideText, GoesThereAndBack)
     EXPECT_EQ(sizeof(wchar_t) == 2 ? 2u : 1u, Widen("🛄").size());
 }
 
-TEST(WideText, ReplacesWhatIsNoCharacter)
+TEST(WideText, ReplacesInvalidCharacters)
 {
     EXPECT_EQ("\xEF\xBF\xBD", Narrow(std::wstring(1, static_cast<wchar_t>(0xD800))));
     EXPECT_EQ("\xEF\xBF\xBD", Narrow(std::wstring(1, static_cast<wchar_t>(0xDC00))));
@@ -111,7 +111,7 @@ std::string Printed(const Table& table, TerminalTraits terminal)
     return out.str();
 }
 
-TEST(Tables, AlignColumnsAndLeaveNoBlanksBehind)
+TEST(Tables, AlignColumnsWithoutTrailingBlanks)
 {
     Table table({{"Name"}, {"Count", Align::right}, {"Note"}});
     table.AddRow({"東", "7", ""});

@@ -12,8 +12,8 @@ namespace calvix::test
 ///     calvix: the computer has no wireless adapter.
 ///     [exit code 3]
 ///
-/// Standard output and standard error stand in the order in which they come; success has no line of its own. In a text
-/// file everything is part of the session, but for empty lines before a command. In a page sessions stand between lines
+/// Standard output and standard error are in the order of writing; success has no line of its own. In a text
+/// file everything is part of the session, but for empty lines before a command. In a page sessions are between lines
 /// with ```, and one with a line "..." is an excerpt and left alone. In both, a comment before a command puts another computer under the commands
 /// that follow, up to the next comment (in a page: up to the end of the session):
 ///

@@ -92,7 +92,7 @@ TEST_F(Usage, ListsTheCommandsAndExitCodes)
     EXPECT_THAT(outcome.out, HasSubstr("3  no adapter, or the WLAN service cannot be reached"));
 }
 
-TEST_F(Usage, TellsTheVersion)
+TEST_F(Usage, ShowsTheVersion)
 {
     const Outcome outcome = Run({"--version"});
     EXPECT_EQ(kSuccess, outcome.exitCode);
@@ -185,11 +185,11 @@ TEST_F(CommonOptions, ShowTheTraceOnStandardError)
     EXPECT_THAT(RunOn(NoProfileWorld(), {"match"}).err, Not(HasSubstr("trace:")));
 }
 
-TEST_F(Usage, TellsEveryCommandsOptionsWithAnExample)
+TEST_F(Usage, ShowsEveryCommandsOptionsWithAnExample)
 {
     for (const host::Command& command : host::AllCommands().commands)
     {
-        // Behind "help", help is about the program.
+        // After "help", help is about the program.
         if (command.hidden || command.path == "help")
             continue;
         const Outcome outcome = Run(WordsOf(command.path + " --help"));
@@ -213,7 +213,7 @@ TEST_F(Usage, TakesTheExamplesOfEveryCommand)
     }
 }
 
-TEST_F(Usage, TellsTheSameBehindHelpAndBeforeIt)
+TEST_F(Usage, ShowsTheSameBeforeAndAfterHelp)
 {
     EXPECT_EQ(Run({"profiles", "move", "--help"}).out, Run({"help", "profiles", "move"}).out);
     EXPECT_EQ(Run({"radio", "--help"}).out, Run({"help", "radio"}).out);
@@ -244,7 +244,7 @@ TEST_F(Usage, IsAnErrorInJsonToo)
     EXPECT_THAT(outcome.err, HasSubstr("calvix: scan has no option --timout."));
 }
 
-TEST_F(Usage, EndsWithTheExitCodesThatThePageTells)
+TEST_F(Usage, EndsWithTheExitCodesOfThePage)
 {
     const std::string page = Content(CALVIX_SOURCE_DIR "/docs/command-line.md");
     const std::string help = Run({"scan", "--help"}).out;
@@ -322,13 +322,12 @@ TEST(Console, GetsColoursOnlyWhereTheyAreWelcome)
     EXPECT_FALSE(host::TraitsOf({}).color);
 }
 
-TEST_F(CommonOptions, TellWhichOfSeveralAdaptersIsMeant)
+TEST_F(CommonOptions, SayWhichOfSeveralAdaptersIsUsed)
 {
     const Outcome first = RunOn(RichWorld(), {"status"});
-    EXPECT_EQ(
-        "calvix: this is the first of 2 adapters, \"Wireless Adapter A\"; --interface 2 is for the second (calvix "
-        "adapters lists them).\n",
-        first.err);
+    EXPECT_EQ("calvix: using the first of 2 adapters, \"Wireless Adapter A\"; --interface 2 selects the second (calvix "
+              "adapters lists them).\n",
+              first.err);
     EXPECT_EQ("", RunOn(RichWorld(), {"status", "--interface", "1"}).err);
     EXPECT_EQ("", RunOn(NoProfileWorld(), {"adapters"}).err);
 }

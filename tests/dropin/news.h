@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-/// What a program's callback was told, in order.
+/// The notifications of a program's callback, in order.
 struct NewsItem
 {
     DWORD code;

@@ -11,7 +11,7 @@ namespace calvix::test::dropin_process_end_test
 namespace
 {
 
-TEST(DropinProcessEnd, NobodyWaitsForACallbackThatWasEndedWithItsThread)
+TEST(DropinProcessEnd, ACallbackThatEndedWithItsThreadDelaysNothing)
 {
     const ProgramEnd end = RunProgram(L"" CALVIX_DROPIN_PROGRAMS "/wlan_abandoning_client.exe");
     EXPECT_EQ(end.exitCode, 0u);

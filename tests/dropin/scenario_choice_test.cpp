@@ -1,4 +1,4 @@
-// Which scenario a program sees, by its environment and by what lies beside the DLL, and what it is told when there is
+// Which scenario a program sees, by its environment and by what lies beside the DLL, and what it reports when there is
 // none to see.
 
 #include "dropin/child_process.h"

@@ -1,4 +1,4 @@
-// Without a scenario there is no computer, and whoever asks is told so. A process has one computer or none, so all of
+// Without a scenario there is no computer, and every call reports that. A process has one computer or none, so all of
 // this is one test; it is the only one in this program that calls the library.
 
 #include <calvix/platform_records.h>
@@ -23,7 +23,7 @@ LONG CALLBACK CountDebuggerMessages(EXCEPTION_POINTERS* exception)
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
-// Zeroes for all arguments: without a computer nobody looks at them.
+// Zeroes for all arguments: without a computer they are not read.
 template <typename... Parameters>
 DWORD AskForNothing(DWORD(WINAPI* operation)(Parameters...))
 {

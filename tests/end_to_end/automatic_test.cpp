@@ -114,7 +114,7 @@ TEST(Automatic, NewConnectionTakesTheOldOneDownFirst)
                                   wlan_notification_acm_connection_start, wlan_notification_acm_connection_complete}));
 }
 
-TEST(Automatic, NothingIsToldAnyMoreAfterTheEndOfARegistration)
+TEST(Automatic, NothingIsDeliveredAfterTheEndOfARegistration)
 {
     const GUID adapter = FirstAdapter();
     std::optional<News> first;

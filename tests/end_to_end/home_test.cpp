@@ -123,7 +123,7 @@ TEST_F(Home, RefusesWhatIsNotInView)
     EXPECT_EQ(Manager().LinkProfile(&adapter, outOfView), -2);
 }
 
-TEST_F(Home, TellsReasonsInWords)
+TEST_F(Home, ShowsReasonsInWords)
 {
     char text[256] = "";
     EXPECT_TRUE(Manager().ReasonCode2String(0, text, sizeof(text)));

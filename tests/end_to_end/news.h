@@ -11,16 +11,16 @@
 namespace calvix::test
 {
 
-/// What the service told of, as far as these tests ask.
+/// A notification of the service, as far as these tests need it.
 struct Event
 {
     DWORD code = 0;       ///< WLAN_NOTIFICATION_ACM
     DWORD reason = 0;     ///< of an event about a connection
     std::wstring profile; ///< likewise
-    DWORD thread = 0;     ///< on which it was told
+    DWORD thread = 0;     ///< on which it was delivered
 };
 
-/// Everything that the service told since this object was made. It registers through the library, so there may be one
+/// All notifications since this object was made. It registers through the library, so there may be one
 /// at a time.
 class News
 {

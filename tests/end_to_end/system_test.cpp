@@ -122,7 +122,7 @@ TEST(System, ProgramBesideTheHostRunsToItsEnd)
     const std::string left = OwnFolder() + "companion.ran";
     std::filesystem::remove(left);
     char name[] = "companion.exe";
-    EXPECT_EQ(Manager().CreateProcRunExe(name), 1) << "whatever its exit code";
+    EXPECT_EQ(Manager().CreateProcRunExe(name), 1) << "with any exit code";
     EXPECT_EQ(FileText(left), "done");
     std::filesystem::remove(left);
 }
@@ -140,7 +140,7 @@ TEST(System, ProcessIsEndedByItsId)
     EXPECT_EQ(program.AwaitEnd(), 0u);
 }
 
-TEST(System, ProcessThatDoesNotExistIsNoProblem)
+TEST(System, AProcessThatDoesNotExistIsIgnored)
 {
     const StayingProgram bystander;
     Manager().CloseProcess(0xfffffff0);
@@ -150,7 +150,7 @@ TEST(System, ProcessThatDoesNotExistIsNoProblem)
 
 TEST(System, ShutdownPrivilegeIsEnabledInTheToken)
 {
-    EXPECT_TRUE(HoldsPrivilege("SeShutdownPrivilege", 0)) << "whoever may use a computer may switch it off";
+    EXPECT_TRUE(HoldsPrivilege("SeShutdownPrivilege", 0)) << "every user of a computer may switch it off";
     EXPECT_EQ(Manager().GetPrivileges(), 1);
     EXPECT_TRUE(HoldsPrivilege("SeShutdownPrivilege", SE_PRIVILEGE_ENABLED));
 }

@@ -26,7 +26,7 @@ TEST(ServiceStopped, NoClientCanBeOpened)
 }
 
 // scenarios/consent-denied.json.
-TEST(ConsentDenied, WhatWouldTellThePlaceIsRefused)
+TEST(ConsentDenied, WhatWouldRevealTheLocationIsRefused)
 {
     const GUID adapter = FirstAdapter();
     EXPECT_EQ(Manager().GetWiFiAdapterCount(), 1);
@@ -38,7 +38,7 @@ TEST(ConsentDenied, WhatWouldTellThePlaceIsRefused)
     EXPECT_EQ(error, static_cast<unsigned long>(ERROR_ACCESS_DENIED));
     WLAN_CONNECTION_ATTRIBUTES attributes{};
     EXPECT_EQ(Manager().GetCurrentConnection(&adapter, &attributes), -4);
-    EXPECT_EQ(Manager().GetProfileCount(&adapter), 1) << "profiles do not tell";
+    EXPECT_EQ(Manager().GetProfileCount(&adapter), 1) << "profiles do not reveal the location";
 }
 
 // scenarios/no-adapter.json.

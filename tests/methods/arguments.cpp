@@ -151,7 +151,7 @@ std::vector<Argument> Arguments::For(const Method& method)
         if (place + 1 < made.size() && IsNumber(parameters[place + 1].role))
             count = made[place + 1].number;
         if (parameter.role == Role::digits && made.back().number != 0)
-            count = (std::max)(*count, 2 * made[1].number); // from the start all are written whatever the capacity says
+            count = (std::max)(*count, 2 * made[1].number); // from the start all are written, whatever the capacity
         made[place] = Make(parameter, count);
     }
     return made;

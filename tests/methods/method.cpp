@@ -66,7 +66,7 @@ std::string OutputText(const Parameter& parameter, const Argument& argument)
 
 } // namespace
 
-/// Texts that the method has written need no end behind their room.
+/// Texts that the method has written need no terminator after their buffer.
 std::string Call::TextOfResult() const
 {
     if (m_result.text == nullptr)

@@ -36,11 +36,11 @@ enum class Role
     adapter,
     ssid,
     name, ///< of a profile or a network
-    text, ///< another text, which its row tells
+    text, ///< another text, from its row
     document,
     bytes,        ///< as many as the next parameter says, or the row
     connection,   ///< that was, to be read
-    notification, ///< the same as a notification tells it
+    notification, ///< the same in a notification
     callback,
     context, ///< of the callback
     manager, ///< the object itself
@@ -66,7 +66,7 @@ struct Parameter
     Role role = Role::number;
     std::size_t size = 0; ///< of what it points or refers to; of a text: of a character
     const ListKind* list = nullptr;
-    std::string text{};   ///< a useful one, where the row tells
+    std::string text{};   ///< a useful one, if the row has it
     long long number = 0; ///< a useful one, or the size of the room
 
     bool IsPointer() const { return type.back() == '*' || role == Role::callback; }
@@ -174,11 +174,11 @@ struct Outcome
     bool operator==(const Outcome&) const = default;
 };
 
-/// What an output says that nobody has written to.
+/// An output that the method did not write.
 inline constexpr char kUntouched[] = "-";
 
 bool IsUntouched(const Argument& record);
-/// Bytes as an outcome tells them.
+/// Bytes as an outcome shows them.
 std::string BytesText(const void* bytes, std::size_t size);
 
 /// One call of a method. Nothing but the method itself takes memory while it is made.

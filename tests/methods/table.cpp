@@ -1,4 +1,4 @@
-// A new method is a row here. What its parameters are usually for follows from their types; a row tells only what does
+// A new method is a row here. What its parameters are usually for follows from their types; a row has only what does
 // not: a useful value, or that a parameter is for something else.
 
 #include "methods/method.h"
@@ -64,7 +64,7 @@ struct Types
     static Type Get(Of<const Manager&>) { return {"CWirelessManage const&", Role::manager}; }
 };
 
-/// What a row tells of a parameter.
+/// What a row says about a parameter.
 struct Told
 {
     Told() = default;
@@ -229,7 +229,7 @@ struct Taking
     }
 };
 
-/// A number behind bytes or room says how much of it there is.
+/// A number after bytes or a buffer is its size.
 void Relate(Parameter& parameter, Parameter& next)
 {
     if (next.role != Role::number)
@@ -259,7 +259,7 @@ Method Row(const std::string& name, Method method, const std::vector<Told>& told
     return method;
 }
 
-// METHOD(name, what is told of its parameters, from the first on); OVERLOAD is for a name that several methods share.
+// METHOD(name, facts about its parameters, from the first on); OVERLOAD is for a name that several methods share.
 #define METHOD(name, ...) Row(#name, Typed(&Manager::name), {__VA_ARGS__})
 #define TYPES(...) __VA_ARGS__
 #define OVERLOAD(name, types, ...) Row(#name, Taking<TYPES types>::Of(&Manager::name), {__VA_ARGS__})

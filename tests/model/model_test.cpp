@@ -72,7 +72,7 @@ const std::vector<Method> kMethods = {
     {"Reconnect(notification)", &Model::Reconnect, &Library::ReconnectByNotification, {0}},
 };
 
-/// The results that the worlds have to lead to. Nobody passes null in them.
+/// The results that the worlds must produce. None of them passes null.
 std::set<long long> ResultsOf(const Method& method)
 {
     std::set<long long> results = method.results;
@@ -94,7 +94,7 @@ void ForgetTextOfOddNames(Outcome& outcome)
                 outcome.text.clear();
 }
 
-/// A computer of the world, with the journal before it and the library behind that.
+/// A computer of the world, the journal of its calls, and the library on top.
 class Laboratory
 {
 public:

@@ -11,7 +11,7 @@ namespace
 constexpr DWORD kInvalidFlags = 1004;
 constexpr DWORD kNoUnicodeTranslation = 1113;
 
-/// The number of bytes that follow a first byte, -1: this is no first byte. Four-byte characters are not made up here.
+/// The number of bytes that follow a first byte, -1 for another byte. Four-byte characters are not generated here.
 int FollowersOf(std::uint8_t first)
 {
     if (first < 0x80)

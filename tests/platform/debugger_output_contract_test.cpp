@@ -11,7 +11,7 @@ namespace
 
 #ifdef _WIN32
 
-/// Text sent to the debugger reaches a process that has none as an exception; whoever handles it is the debugger.
+/// Text sent to the debugger reaches a process without one as an exception; its handler is the debugger.
 std::vector<std::string>* g_heard = nullptr;
 
 LONG CALLBACK HearDebuggerOutput(EXCEPTION_POINTERS* pointers)

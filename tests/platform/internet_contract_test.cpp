@@ -44,7 +44,7 @@ TEST_P(InternetContract, UnknownOptionsAreMissed)
               kInvalidOption);
 }
 
-TEST_P(InternetContract, WhatIsNoAddressIsRefused)
+TEST_P(InternetContract, InvalidAddressesAreRefused)
 {
     ErrorOf([&] { return Internet().InternetCheckConnectionA("calvix", FLAG_ICC_FORCE_CONNECTION, 0); });
 }

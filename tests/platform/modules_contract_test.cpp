@@ -107,7 +107,7 @@ TEST_P(ModulesContract, AFunctionCanBeCalledByItsAddress)
     const HMODULE kernel = Processes().GetModuleHandleA("kernel32.dll");
     const FARPROC address = Processes().GetProcAddress(kernel, "IsWow64Process");
     ASSERT_NE(address, nullptr) << LastError();
-    // A detour through void(*)() tells the compiler that the change of the function's type is meant.
+    // The cast through void(*)() shows the compiler that the change of the function's type is intended.
     const auto isWow64 = reinterpret_cast<IsWow64>(reinterpret_cast<void (*)()>(address));
     BOOL answer = 7;
     EXPECT_TRUE(isWow64(Processes().GetCurrentProcess(), &answer));

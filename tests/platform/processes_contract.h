@@ -31,7 +31,7 @@ protected:
 
     static std::string Shell() { return "C:\\windows\\system32\\cmd.exe"; }
 
-    /// A command line that runs until somebody ends it: the command interpreter has to count without end.
+    /// A command line that runs until it is ended: the command interpreter has to count without end.
     std::string Endless() const { return IsSimulation() ? "endless.exe" : "cmd.exe /c for /l %i in (1,0,2) do @rem"; }
 
     BOOL Create(const char* application, const char* commandLine, PROCESS_INFORMATION& started)

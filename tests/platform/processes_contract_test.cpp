@@ -100,7 +100,7 @@ TEST_P(ProcessLifeContract, AnEndedProcessIsThereAsLongAsItsHandles)
     Finish(started);
 }
 
-TEST_P(ProcessLifeContract, NumbersOfNobodyAreMissed)
+TEST_P(ProcessLifeContract, NumbersWithoutAProcessAreNotFound)
 {
     for (const DWORD id : {Error(0), Error(0x7FFFFFFC)})
         EXPECT_EQ(ErrorOf([&] { return Processes().OpenProcess(kSynchronize, FALSE, id); }),

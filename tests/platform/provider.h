@@ -12,7 +12,7 @@
 namespace calvix::test
 {
 
-/// Who stands behind the platform boundary. The operating system is Windows, or Wine where that takes its place.
+/// The provider of the platform. The operating system is Windows, or Wine in its place.
 enum class Provider
 {
     simulation,
@@ -69,7 +69,7 @@ protected:
     /// Leaves kUnlikelyError, so that it can be seen whether an operation changes the last error.
     void LeaveUnlikelyError();
 
-    /// What a conversion with flags that nobody knows leaves: ERROR_INVALID_FLAGS, which only conversions leave.
+    /// The last error after a conversion with unknown flags: ERROR_INVALID_FLAGS, which only conversions leave.
     static constexpr DWORD kUnlikelyError = 1004;
 
 private:

@@ -41,8 +41,8 @@ protected:
         return state;
     }
 
-    /// How many privileges an adjustment that changes nothing tells of. Wine tells of all that were named.
-    DWORD ToldOfUnchanged() const { return OrOnWine(Error(0), Error(1)); }
+    /// How many privileges an adjustment that changes nothing reports. Wine reports all that were named.
+    DWORD ReportedUnchanged() const { return OrOnWine(Error(0), Error(1)); }
 
     /// Switches one privilege and gives back its state before.
     TOKEN_PRIVILEGES Switch(HANDLE token, TOKEN_PRIVILEGES wanted)
@@ -108,7 +108,7 @@ TEST_P(SecurityContract, EveryOpeningGivesAHandle)
     Close(second);
 }
 
-TEST_P(SecurityContract, SwitchingAPrivilegeTellsWhatItWas)
+TEST_P(SecurityContract, SwitchingAPrivilegeReturnsItsPreviousState)
 {
     const HANDLE token = OpenOwn();
     Switch(token, One("SeShutdownPrivilege", 0));
@@ -119,7 +119,7 @@ TEST_P(SecurityContract, SwitchingAPrivilegeTellsWhatItWas)
     EXPECT_EQ(before.Privileges[0].Attributes & SE_PRIVILEGE_ENABLED, 0u);
 
     const TOKEN_PRIVILEGES again = Switch(token, One("SeShutdownPrivilege", SE_PRIVILEGE_ENABLED));
-    EXPECT_EQ(again.PrivilegeCount, ToldOfUnchanged()) << "only what changes is told";
+    EXPECT_EQ(again.PrivilegeCount, ReportedUnchanged()) << "only changes are reported";
 
     const TOKEN_PRIVILEGES after = Switch(token, before);
     EXPECT_EQ(after.PrivilegeCount, 1u);
@@ -133,7 +133,7 @@ TEST_P(SecurityContract, TheSwitchIsTheTokensAndNotTheHandles)
     const HANDLE other = OpenOwn();
     Switch(token, One("SeShutdownPrivilege", 0));
     EXPECT_EQ(Switch(token, One("SeShutdownPrivilege", SE_PRIVILEGE_ENABLED)).PrivilegeCount, 1u);
-    EXPECT_EQ(Switch(other, One("SeShutdownPrivilege", SE_PRIVILEGE_ENABLED)).PrivilegeCount, ToldOfUnchanged());
+    EXPECT_EQ(Switch(other, One("SeShutdownPrivilege", SE_PRIVILEGE_ENABLED)).PrivilegeCount, ReportedUnchanged());
     const TOKEN_PRIVILEGES before = Switch(other, One("SeShutdownPrivilege", 0));
     EXPECT_EQ(before.PrivilegeCount, 1u);
     EXPECT_NE(before.Privileges[0].Attributes & SE_PRIVILEGE_ENABLED, 0u);
@@ -141,7 +141,7 @@ TEST_P(SecurityContract, TheSwitchIsTheTokensAndNotTheHandles)
     Close(other);
 }
 
-TEST_P(SecurityContract, WhoDoesNotHoldAPrivilegeIsToldInASuccess)
+TEST_P(SecurityContract, AMissingPrivilegeIsReportedWithASuccess)
 {
     const HANDLE token = OpenOwn();
     TOKEN_PRIVILEGES wanted = One("SeCreateTokenPrivilege", SE_PRIVILEGE_ENABLED);

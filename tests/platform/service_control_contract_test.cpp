@@ -137,7 +137,7 @@ TEST_P(ServiceControlContract, NullIsNoHandle)
     EXPECT_EQ(ErrorOf([&] { return Services().CloseServiceHandle(nullptr); }), Error(ERROR_INVALID_HANDLE));
 }
 
-TEST_P(ServiceControlContract, AManagerIsNoServiceAndAServiceNoManager)
+TEST_P(ServiceControlContract, ManagersAndServicesAreDifferentHandles)
 {
     SERVICE_STATUS status{};
     EXPECT_EQ(ErrorOf([&] { return Services().QueryServiceStatus(m_manager, &status); }), Error(ERROR_INVALID_HANDLE));

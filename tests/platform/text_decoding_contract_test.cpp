@@ -148,7 +148,7 @@ TEST_P(TextDecodingContract, ArgumentsThatMeanNothingAreRefused)
         EXPECT_EQ(errorOf(codePage, "a", 1, nullptr, 4), Error(ERROR_INVALID_PARAMETER));
         EXPECT_EQ(errorOf(codePage, "a", 1, room.data(), -1), Error(ERROR_INVALID_PARAMETER));
     }
-    EXPECT_EQ(errorOf(12345, "a", 1, room.data(), 4), Error(ERROR_INVALID_PARAMETER)) << "nobody's code page";
+    EXPECT_EQ(errorOf(12345, "a", 1, room.data(), 4), Error(ERROR_INVALID_PARAMETER)) << "an unknown code page";
 }
 
 TEST_P(TextDecodingContract, SourceAndDestinationMustNotBeOne)
@@ -161,7 +161,7 @@ TEST_P(TextDecodingContract, SourceAndDestinationMustNotBeOne)
               Error(ERROR_INVALID_PARAMETER));
 }
 
-TEST_P(TextDecodingContract, FlagsThatNobodyKnowsAreRefused)
+TEST_P(TextDecodingContract, UnknownFlagsAreRefused)
 {
     for (const UINT codePage : {UINT{CP_ACP}, kWestern, kJapanese, UINT{CP_UTF8}})
         for (const DWORD flags : {Error(0x100), Error(0x80000000), Error(MB_ERR_INVALID_CHARS | 0x10)})
@@ -248,7 +248,7 @@ TEST_P(TextDecodingContract, IllFormedTextOfOtherCodePagesIsRefusedToo)
     {
         EXPECT_EQ(ErrorOfDecoding(codePage, bytes, MB_ERR_INVALID_CHARS), Error(ERROR_NO_UNICODE_TRANSLATION))
             << codePage << ' ' << testing::PrintToString(bytes);
-        EXPECT_FALSE(Decode(codePage, bytes).empty()) << "but replaced where nobody asks";
+        EXPECT_FALSE(Decode(codePage, bytes).empty()) << "but replaced without the flag";
     }
 }
 

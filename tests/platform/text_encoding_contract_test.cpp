@@ -83,7 +83,7 @@ TEST_P(TextEncodingContract, WithoutRoomTheSizeIsAnswered)
     EXPECT_EQ(LastError(), kUnlikelyError);
 }
 
-TEST_P(TextEncodingContract, AskingForTheSizeTellsOfTheDefaultCharacter)
+TEST_P(TextEncodingContract, AskingForTheSizeReportsTheDefaultCharacter)
 {
     BOOL used = FALSE;
     EXPECT_EQ(Text().WideCharToMultiByte(kWestern, 0, L"\u6771", 1, nullptr, 0, nullptr, &used), 1);
@@ -144,7 +144,7 @@ TEST_P(TextEncodingContract, ArgumentsThatMeanNothingAreRefused)
         EXPECT_EQ(errorOf(codePage, L"a", 1, nullptr, 4), Error(ERROR_INVALID_PARAMETER));
         EXPECT_EQ(errorOf(codePage, L"a", 1, room.data(), -1), Error(ERROR_INVALID_PARAMETER));
     }
-    EXPECT_EQ(errorOf(12345, L"a", 1, room.data(), 4), Error(ERROR_INVALID_PARAMETER)) << "nobody's code page";
+    EXPECT_EQ(errorOf(12345, L"a", 1, room.data(), 4), Error(ERROR_INVALID_PARAMETER)) << "an unknown code page";
 }
 
 TEST_P(TextEncodingContract, SourceAndDestinationMustNotBeOne)
@@ -159,7 +159,7 @@ TEST_P(TextEncodingContract, SourceAndDestinationMustNotBeOne)
         Error(ERROR_INVALID_PARAMETER));
 }
 
-TEST_P(TextEncodingContract, FlagsThatNobodyKnowsAreRefused)
+TEST_P(TextEncodingContract, UnknownFlagsAreRefused)
 {
     for (const UINT codePage : {UINT{CP_ACP}, kWestern, kJapanese, UINT{CP_UTF8}})
         for (const DWORD flags : {Error(0x4000), Error(0x80000000), Error(MB_PRECOMPOSED)})
@@ -210,7 +210,7 @@ TEST_P(TextEncodingContract, WhatACodePageLacksBecomesTheDefaultCharacter)
     EXPECT_EQ(used, FALSE);
     EXPECT_EQ(Encode(kChinese, L"\u4FE1\u0E01", 0, nullptr, &used), "\xD0\xC5?");
     EXPECT_EQ(used, TRUE);
-    EXPECT_EQ(Encode(kWestern, L"\u6771", 0, "_"), "_") << "nobody has to ask";
+    EXPECT_EQ(Encode(kWestern, L"\u6771", 0, "_"), "_") << "even without a request for it";
 }
 
 /// Not every combination of the two is an own path on the platform, but all answer alike.

@@ -135,7 +135,7 @@ TEST_P(WlanServiceContract, AListIsWholeAndTheCallersToRelease)
     Wlan().WlanFreeMemory(list);
 }
 
-TEST_P(WlanServiceContract, AClosedClientIsNoClient)
+TEST_P(WlanServiceContract, AClosedClientIsInvalid)
 {
     if (!IsSimulation())
         GTEST_SKIP() << "a closed handle's value may be another's by now";

@@ -403,7 +403,7 @@ TEST(RecordedOperations, KeepTextsThatAreNoUnicode)
 
 TEST(RecordedOperations, AreTheSameOnEverySystem)
 {
-    // A pair of units on Windows is one elsewhere, and the sizes that a conversion tells follow.
+    // A pair of units on Windows is one elsewhere, and the sizes that a conversion returns follow.
     std::istringstream file(
         R"({"calvixRecording":1,"simulated":false,"anonymised":false})"
         "\n"
@@ -431,7 +431,7 @@ TEST(RecordedOperations, FailAfterADeparture)
     EXPECT_EQ(FALSE, replay.platform().processes().CloseHandle(nullptr));
     replay.platform().clock().Sleep(1);
     EXPECT_EQ(1, troubles);
-    EXPECT_EQ("sleep.jsonl:2: the program departs from the recording here: it calls Sleep {\"milliseconds\":2}; the "
+    EXPECT_EQ("sleep.jsonl:2: the program differs from the recording here: it calls Sleep {\"milliseconds\":2}; the "
               "recording has Sleep {\"milliseconds\":1}",
               replay.Finish()->text);
 }

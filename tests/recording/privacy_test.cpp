@@ -45,7 +45,7 @@ TEST_F(RecordingPrivacy, MasksTheKeyOfAStoredProfile)
     EXPECT_EQ(stored.out, Run({"profiles", "add", profile, "--replay", File()}).out) << "with the key in the profile";
 }
 
-TEST_F(RecordingPrivacy, MasksKeysThatTheServiceTells)
+TEST_F(RecordingPrivacy, MasksKeysThatTheServiceReturns)
 {
     simulation::Scenario world = RichWorld();
     world.adapters[0].profiles[0].xml = ProfileXml("HomeNet", kKey);

@@ -1,4 +1,4 @@
-// Sessions that calvix.exe recorded under Wine, of the simulated computer behind the drop-in wlanapi.dll, replayed on any
+// Sessions that calvix.exe recorded under Wine, of the simulated computer of the drop-in wlanapi.dll, replayed on any
 // system. None of them is of Windows.
 
 #include "cli/cli_test.h"

@@ -34,7 +34,7 @@ int RecordSession(const std::string& session)
     return networks;
 }
 
-TEST(SessionInATest, StandsInForTheComputer)
+TEST(SessionInATest, ReplacesTheComputer)
 {
     const std::string session = testing::TempDir() + "calvix-session-in-a-test.jsonl";
     const int networks = RecordSession(session);

@@ -1,4 +1,4 @@
-// Programs that depart from a recording, and recordings that are no good.
+// Programs that differ from a recording, and damaged recordings.
 
 #include "cli/cli_test.h"
 
@@ -10,7 +10,7 @@ namespace
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 
-constexpr int kDeparted = 5;
+constexpr int kDiffers = 5;
 
 std::vector<std::string> LinesOf(const std::string& text)
 {
@@ -50,7 +50,7 @@ protected:
         EXPECT_THAT(outcome.err, AllOf(HasSubstr("damaged.jsonl:" + line + ": "), HasSubstr(what)));
     }
 
-    /// The number of the first line in which this stands.
+    /// The number of the first line that contains this.
     static std::size_t LineWith(const std::vector<std::string>& lines, const std::string& text)
     {
         std::size_t number = 1;
@@ -68,60 +68,60 @@ private:
     std::string m_file = PathFor("session.jsonl");
 };
 
-TEST_F(ReplayTrouble, DepartsWithAnotherCall)
+TEST_F(ReplayTrouble, DiffersByAnotherCall)
 {
     const Outcome outcome = Run({"networks", "--replay", File()});
     const std::string line = std::to_string(LineWith(LinesOf(Recorded()), "\"WlanGetProfileList\""));
-    EXPECT_EQ(kDeparted, outcome.exitCode);
-    EXPECT_THAT(outcome.err, AllOf(HasSubstr("session.jsonl:" + line + ": the program departs from the recording here"),
+    EXPECT_EQ(kDiffers, outcome.exitCode);
+    EXPECT_THAT(outcome.err, AllOf(HasSubstr("session.jsonl:" + line + ": the program differs from the recording here"),
                                    HasSubstr("it calls WlanGetAvailableNetworkList {"),
                                    HasSubstr("the recording has WlanGetProfileList {")));
 }
 
-TEST_F(ReplayTrouble, DepartsWithOtherArguments)
+TEST_F(ReplayTrouble, DiffersByOtherArguments)
 {
     const Outcome outcome = Run({"profiles", "list", "--interface", "2", "--replay", File(), "--json"});
-    EXPECT_EQ(kDeparted, outcome.exitCode);
+    EXPECT_EQ(kDiffers, outcome.exitCode);
     EXPECT_THAT(outcome.err, AllOf(HasSubstr(std::string("it calls WlanGetProfileList {\"client\":1,\"interface\":\"") +
                                              kAdapterBText),
                                    HasSubstr(kAdapterAText)));
     EXPECT_THAT(outcome.out, HasSubstr("\"exitCode\": 5"));
 }
 
-TEST_F(ReplayTrouble, DepartsAtTheEndOfTheSession)
+TEST_F(ReplayTrouble, DiffersAtTheEndOfTheSession)
 {
     RunOn(RichWorld(), {"watch", "--for", "1", "--record", File()});
     const Outcome longer = Run({"watch", "--for", "2", "--replay", File()});
-    EXPECT_EQ(kDeparted, longer.exitCode);
+    EXPECT_EQ(kDiffers, longer.exitCode);
     EXPECT_THAT(longer.err, HasSubstr("it calls Sleep {\"milliseconds\":100}; the recording has"));
     RunOn(RichWorld(), {"watch", "--for", "2", "--record", File()});
     const Outcome shorter = Run({"watch", "--for", "1", "--replay", File()});
-    EXPECT_EQ(kDeparted, shorter.exitCode);
+    EXPECT_EQ(kDiffers, shorter.exitCode);
     EXPECT_THAT(shorter.err, HasSubstr("the recording has Sleep {\"milliseconds\":100}"));
 }
 
-TEST_F(ReplayTrouble, DepartsWhereCallsAreLeftOver)
+TEST_F(ReplayTrouble, DiffersWhenRecordedCallsRemain)
 {
     std::vector<std::string> lines = LinesOf(Recorded());
     const std::string more = R"({"call":"IsPwrSuspendAllowed","in":{},"out":{"result":1}})";
     lines.insert(lines.end() - 1, more);
     lines.back() = "{\"end\":" + std::to_string(lines.size() - 1) + "}";
     const Outcome outcome = ReplayOf(Joined(lines));
-    EXPECT_EQ(kDeparted, outcome.exitCode);
+    EXPECT_EQ(kDiffers, outcome.exitCode);
     EXPECT_THAT(outcome.err, HasSubstr("it ends; the recording has IsPwrSuspendAllowed {}"));
 }
 
-TEST_F(ReplayTrouble, IsNoRecording)
+TEST_F(ReplayTrouble, IsNotARecording)
 {
     ExpectDamage("", "1", "the file is empty");
-    ExpectDamage("Hello\n", "1", "this is no recording");
-    ExpectDamage("[1]\n", "1", "this is no recording");
-    ExpectDamage("{\"adapters\":[]}\n", "1", "this is no recording");
-    ExpectDamage("{\"calvixRecording\":\"1\"}\n", "1", "its version is no number");
-    ExpectDamage("{\"calvixRecording\":0}\n", "1", "its version is no number");
-    ExpectDamage("{\"calvixRecording\":1}\n", "1", "it does not tell of the session");
-    ExpectDamage("{\"calvixRecording\":2,\"simulated\":true,\"anonymised\":false}\n", "1", "of version 2");
-    ExpectDamage("{\"calvixRecording\":1,\"simulated\":1,\"anonymised\":false}\n", "1", "it does not tell");
+    ExpectDamage("Hello\n", "1", "this is not a recording");
+    ExpectDamage("[1]\n", "1", "this is not a recording");
+    ExpectDamage("{\"adapters\":[]}\n", "1", "this is not a recording");
+    ExpectDamage("{\"calvixRecording\":\"1\"}\n", "1", "its version is not a number");
+    ExpectDamage("{\"calvixRecording\":0}\n", "1", "its version is not a number");
+    ExpectDamage("{\"calvixRecording\":1}\n", "1", "it does not describe the session");
+    ExpectDamage("{\"calvixRecording\":2,\"simulated\":true,\"anonymised\":false}\n", "1", "has version 2");
+    ExpectDamage("{\"calvixRecording\":1,\"simulated\":1,\"anonymised\":false}\n", "1", "it does not describe");
 }
 
 TEST_F(ReplayTrouble, IsADamagedLine)
@@ -142,11 +142,11 @@ TEST_F(ReplayTrouble, IsABrokenOffRecording)
     const std::string whole = Recorded();
     const std::vector<std::string> lines = LinesOf(whole);
     const std::string count = std::to_string(lines.size());
-    ExpectDamage(whole.substr(0, whole.size() - 2), count, "breaks off in this line");
-    ExpectDamage(whole.substr(0, whole.find('\n') + 5), "2", "breaks off in this line");
+    ExpectDamage(whole.substr(0, whole.size() - 2), count, "ends in the middle of this line");
+    ExpectDamage(whole.substr(0, whole.find('\n') + 5), "2", "ends in the middle of this line");
     for (std::size_t kept = 1; kept < lines.size(); ++kept)
         ExpectDamage(Joined({lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(kept)}), std::to_string(kept),
-                     "breaks off after this line");
+                     "ends after this line");
 }
 
 TEST_F(ReplayTrouble, LacksLines)
@@ -178,12 +178,12 @@ TEST_F(ReplayTrouble, IsADamagedField)
     ExpectDamage(damaged("\"result\":0", "\"result\":4294967296"), line, "\"result\" is not a number that fits");
     ExpectDamage(damaged("\"result\":0", "\"result\":-1"), line, "\"result\" is not a number that fits");
     ExpectDamage(damaged("\"result\":0", "\"resilt\":0"), line, "\"result\" is missing");
-    ExpectDamage(damaged("\"list\":[", "\"list\":7,\"other\":["), line, "\"list\" is no list");
-    ExpectDamage(damaged("\"list\":[", "\"list\":[7,"), line, "\"list\" has an element that is no object");
+    ExpectDamage(damaged("\"list\":[", "\"list\":7,\"other\":["), line, "\"list\" is not a list");
+    ExpectDamage(damaged("\"list\":[", "\"list\":[7,"), line, "\"list\" has an element that is not an object");
     ExpectDamage(damaged("\"isState\"", "\"isSlate\""), line, "\"isState\" is missing");
-    ExpectDamage(damaged(kAdapterAText, "{A00}"), line, "\"InterfaceGuid\" is no GUID");
+    ExpectDamage(damaged(kAdapterAText, "{A00}"), line, "\"InterfaceGuid\" is not a GUID");
     ExpectDamage(damaged("\"Wireless Adapter A\"", "{\"units\":\"XYZ\"}"), line,
-                 "\"strInterfaceDescription\" is no text");
+                 "\"strInterfaceDescription\" is not a text");
     ExpectDamage(damaged("Wireless Adapter A", std::string(300, 'w')), line, "\"strInterfaceDescription\" is too long");
 }
 

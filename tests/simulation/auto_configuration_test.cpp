@@ -95,7 +95,7 @@ TEST_F(AutoConfiguration, NotWhileItIsSwitchedOff)
     EXPECT_EQ(ConnectedBy(), L"Train");
 }
 
-TEST_F(AutoConfiguration, NotAfterSomebodyDisconnected)
+TEST_F(AutoConfiguration, NotAfterARequestToDisconnect)
 {
     Start();
     ASSERT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);

@@ -36,7 +36,7 @@ protected:
     }
 };
 
-TEST_F(BssList, AnEntryTellsOfItsAccessPoint)
+TEST_F(BssList, AnEntryDescribesItsAccessPoint)
 {
     AccessPoint& point = scenario.accessPoints[1];
     point.frequencyKhz = 5180000;

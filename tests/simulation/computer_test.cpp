@@ -1,4 +1,4 @@
-// The computer as a whole: what makes it, and what it tells about itself.
+// The computer as a whole: how it is made, and what it reports about itself.
 #include "service_fixture.h"
 
 namespace calvix::simulation::computer_test
@@ -11,7 +11,7 @@ using std::chrono::seconds;
 
 using WholeComputer = ServiceTest;
 
-TEST_F(WholeComputer, ASnapshotIsTheComputerAsItStands)
+TEST_F(WholeComputer, ASnapshotIsThePresentComputer)
 {
     scenario.description = "a home";
     scenario.codePage = 65001;

@@ -22,7 +22,7 @@ class ConnectionOutcome : public ServiceTest
 protected:
     void SetUp() override { scenario.accessPoints.resize(1); }
 
-    /// What the auto-configuration module tells of a connection by HomeNet's profile in `duration`.
+    /// The notifications of the auto-configuration module about a connection by HomeNet's profile in `duration`.
     Lines Try(milliseconds duration = seconds(10))
     {
         Start();
@@ -46,7 +46,7 @@ protected:
     NotificationRecorder recorder;
 };
 
-TEST_F(ConnectionOutcome, SuccessIsToldOnce)
+TEST_F(ConnectionOutcome, SuccessIsReportedOnce)
 {
     EXPECT_EQ(Try(), (Lines{"acm 9", "acm 10"}));
     EXPECT_EQ(InterfaceState(), wlan_interface_state_connected);

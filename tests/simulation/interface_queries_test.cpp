@@ -32,7 +32,7 @@ TEST_F(InterfaceQueries, AComputerMayHaveNoAdapter)
     Wlan().WlanFreeMemory(list);
 }
 
-TEST_F(InterfaceQueries, RadioStateTellsEverySwitch)
+TEST_F(InterfaceQueries, RadioStateHasEverySwitch)
 {
     scenario.adapters[0].phys[0].hardware = RadioSwitch::off;
     scenario.adapters[0].phys[1].software = RadioSwitch::off;
@@ -160,7 +160,7 @@ INSTANTIATE_TEST_SUITE_P(InterfaceQueries,
                                            ChannelCase{5955000, 1},
                                            ChannelCase{6415000, 93}));
 
-TEST_F(InterfaceQueries, TellWhetherTheValueCanBeSet)
+TEST_F(InterfaceQueries, ShowWhetherTheValueCanBeSet)
 {
     Start();
     const auto typeOf = [&](WLAN_INTF_OPCODE opcode)

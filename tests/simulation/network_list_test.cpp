@@ -25,7 +25,7 @@ ProfileSettings Settings(const std::string& name, const std::string& ssid)
     return settings;
 }
 
-TEST_F(NetworkList, AnEntryTellsOfItsWholeNetwork)
+TEST_F(NetworkList, AnEntryDescribesItsWholeNetwork)
 {
     scenario.accessPoints[1].phyType = 10;
     Start();

@@ -10,7 +10,7 @@
 namespace calvix::simulation
 {
 
-/// A client's callback that writes down what it is told: "acm 10", and behind it the reason if it is not 0.
+/// A client's callback that writes down its notifications: "acm 10", then the reason if it is not 0.
 class NotificationRecorder
 {
 public:
@@ -19,7 +19,7 @@ public:
         static_cast<NotificationRecorder*>(context)->Record(*data);
     }
 
-    /// What was told so far, and begins anew.
+    /// The notifications so far; begins anew.
     std::vector<std::string> Take()
     {
         const std::lock_guard lock(m_mutex);

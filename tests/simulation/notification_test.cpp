@@ -1,4 +1,4 @@
-// What clients are told, and in which order.
+// The notifications of clients, and their order.
 #include "notification_recorder.h"
 #include "service_fixture.h"
 
@@ -83,7 +83,7 @@ TEST_F(Notifications, ANewConnectionTakesTheOldOneDownFirst)
     EXPECT_EQ(Told(), Lines{"acm 10"});
 }
 
-TEST_F(Notifications, DisconnectingIsToldByBothModules)
+TEST_F(Notifications, BothModulesReportADisconnection)
 {
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
     StartListening();
@@ -94,7 +94,7 @@ TEST_F(Notifications, DisconnectingIsToldByBothModules)
     EXPECT_EQ(Told(), Lines{}) << "there was nothing left to end";
 }
 
-TEST_F(Notifications, ScansAreToldWhenTheyAreDone)
+TEST_F(Notifications, ScansAreReportedWhenTheyAreDone)
 {
     StartListening();
     ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
@@ -117,7 +117,7 @@ TEST_F(Notifications, AScanThatTheRadioEndsHasFailed)
     EXPECT_EQ(Told(), (Lines{"acm 7", "acm 26", "acm 19"}));
 }
 
-TEST_F(Notifications, SettingsAreToldWhenTheyChange)
+TEST_F(Notifications, SettingsAreReportedWhenTheyChange)
 {
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
     StartListening();
@@ -133,7 +133,7 @@ TEST_F(Notifications, SettingsAreToldWhenTheyChange)
     EXPECT_EQ(Told(), (Lines{"acm 2", "acm 1", "acm 4", "acm 3", "acm 6", "msm 7"}));
 }
 
-TEST_F(Notifications, ProfileChangesAreTold)
+TEST_F(Notifications, ProfileChangesAreReported)
 {
     StartListening();
     ASSERT_EQ(SetProfile(MakeProfile("New", "New")), ERROR_SUCCESS);
@@ -143,7 +143,7 @@ TEST_F(Notifications, ProfileChangesAreTold)
     EXPECT_EQ(Told(), (Lines{"acm 15", "acm 15", "acm 15"}));
 }
 
-TEST_F(Notifications, SignalQualityIsToldAsItChanges)
+TEST_F(Notifications, SignalQualityIsReportedAsItChanges)
 {
     scenario.accessPoints[0].timetable = {{0, -50}, {10'000, -60}};
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", scenario.accessPoints[0].bssid};
@@ -154,7 +154,7 @@ TEST_F(Notifications, SignalQualityIsToldAsItChanges)
     EXPECT_EQ(Told().size(), 7u) << "down to -60 and no further";
 }
 
-TEST_F(Notifications, AStoppedServiceTellsNothing)
+TEST_F(Notifications, AStoppedServiceReportsNothing)
 {
     StartListening();
     computer->SetServiceRunning(false);
@@ -199,7 +199,7 @@ TEST_F(Notifications, DuplicatesAreLeftOutWhenAsked)
     }
 }
 
-TEST_F(Notifications, EveryClientIsToldForItself)
+TEST_F(Notifications, EveryClientIsNotifiedSeparately)
 {
     StartListening();
     DWORD version = 0;

@@ -129,7 +129,7 @@ TEST_F(NotificationThreads, ReplacingWaitsForARunningCallback)
     EXPECT_EQ(Unregister(), ERROR_SUCCESS);
 }
 
-/// Makes news whenever it hears some, so that the service always has more to tell.
+/// Causes a notification for each that it receives, so that the service always has more to deliver.
 struct Gossip
 {
     NotificationThreads* test;
@@ -282,12 +282,12 @@ TEST_F(NotificationThreads, RegisteringAnewWhileTheServiceKeepsNotifying)
         one = -1;
         Stir();
         ASSERT_EQ(Unregister(), ERROR_SUCCESS);
-        EXPECT_EQ(one, -1) << "nobody counts there any more";
+        EXPECT_EQ(one, -1) << "no counter is there any more";
         heard += two;
     }
     done = true;
     world.join();
-    EXPECT_GT(heard, 0) << "nobody was notified at all";
+    EXPECT_GT(heard, 0) << "no client was notified";
 }
 
 TEST_F(NotificationThreads, SeveralThreadsMayUseTheComputer)

@@ -53,7 +53,7 @@ protected:
     }
 };
 
-TEST_F(PowerSchemes, AreListedByIndexUntilThereIsNoMore)
+TEST_F(PowerSchemes, AreListedByIndexToTheLast)
 {
     std::vector<std::string> names;
     GUID guid{};
@@ -63,7 +63,7 @@ TEST_F(PowerSchemes, AreListedByIndexUntilThereIsNoMore)
     EXPECT_EQ(Enumerate(3, guid), ERROR_NO_MORE_ITEMS);
 }
 
-TEST_F(PowerSchemes, ListingTellsTheSizeItNeeds)
+TEST_F(PowerSchemes, ListingReturnsTheSizeItNeeds)
 {
     GUID guid{};
     DWORD size = 15;

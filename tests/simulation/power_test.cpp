@@ -67,7 +67,7 @@ TEST_F(PowerTest, EachPermissionIsItsOwn)
     EXPECT_EQ(capabilities.SystemS5, 0);
 }
 
-TEST_F(PowerTest, ModernStandbyStandsInThePlaceOfTheThirdSleepState)
+TEST_F(PowerTest, ModernStandbyReplacesTheThirdSleepState)
 {
     scenario.power.modernStandby = true;
     scenario.power.battery = true;
@@ -128,7 +128,7 @@ TEST_F(PowerTest, SleepingTakesTheShutdownPrivilege)
     EXPECT_EQ(Power().SetSuspendState(FALSE, TRUE, FALSE), 0);
 }
 
-TEST_F(PowerTest, WithoutTokensNobodyNeedsAPrivilege)
+TEST_F(PowerTest, WithoutTokensNoPrivilegeIsNeeded)
 {
     scenario.tokens = false;
     EXPECT_EQ(Power().SetSuspendState(FALSE, TRUE, FALSE), 1);

@@ -143,7 +143,7 @@ TEST_F(ProcessTest, WaitingLetsTheProcesssTimePass)
     CloseStarted();
 }
 
-TEST_F(ProcessTest, AWaitThatEndsWithTheProcessIsNoTimeout)
+TEST_F(ProcessTest, AWaitThatEndsWithTheProcessDoesNotTimeOut)
 {
     EXPECT_TRUE(Create("C:\\Tools\\report.exe"));
     EXPECT_EQ(Processes().WaitForSingleObject(started.hProcess, 10'000), WAIT_OBJECT_0);
@@ -182,7 +182,7 @@ TEST_F(ProcessTest, AProcessIsEndedByItsNumber)
     EXPECT_EQ(Machine().RunningProcesses().front().id, 44u);
     EXPECT_FALSE(Processes().TerminateProcess(process, 7));
     EXPECT_EQ(LastError(), ERROR_ACCESS_DENIED);
-    // As long as somebody holds it, it can be opened still.
+    // It can be opened as long as a handle is open.
     const HANDLE again = Processes().OpenProcess(PROCESS_TERMINATE, FALSE, 40);
     EXPECT_NE(again, nullptr);
     EXPECT_TRUE(Processes().CloseHandle(again));
@@ -208,7 +208,7 @@ TEST_F(ProcessTest, AProgramThatEndsItselfIsADefect)
     EXPECT_EQ(Defects(), (std::vector<std::string>{"TerminateProcess: the program ends itself"}));
 }
 
-TEST_F(ProcessTest, ProcessesThatAreNotThereOrSomebodyElses)
+TEST_F(ProcessTest, ProcessesThatDoNotExistOrBelongToOthers)
 {
     for (const DWORD id : {DWORD{0}, DWORD{41}})
     {
@@ -299,7 +299,7 @@ TEST_F(Wow64Test, TheFunctionSaysWhatTheScenarioSays)
     EXPECT_FALSE(answer);
 }
 
-TEST_F(Wow64Test, AnEmulatedProcessIsToldSo)
+TEST_F(Wow64Test, AnEmulatedProcessLearnsThatItIs)
 {
     scenario.wow64 = true;
     BOOL answer = FALSE;

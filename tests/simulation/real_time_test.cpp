@@ -49,11 +49,11 @@ TEST(RealTime, AWrongSpeedIsNamed)
     }
     catch (const std::runtime_error& problem)
     {
-        EXPECT_STREQ(problem.what(), "CALVIX_SPEED: \"0\" is no whole number from 1 to 100000");
+        EXPECT_STREQ(problem.what(), "CALVIX_SPEED: \"0\" is not a whole number from 1 to 100000");
     }
 }
 
-TEST(RealTime, PassesAsFastAsItIsTold)
+TEST(RealTime, PassesAtTheGivenSpeed)
 {
     Computer computer{Scenario()};
     const Clock::time_point before = Clock::now();

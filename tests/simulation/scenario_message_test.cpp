@@ -185,7 +185,7 @@ TEST(ScenarioMessages, AFileThatCannotBeReadIsNamed)
     }
 }
 
-TEST(ScenarioMessages, DeepNestingIsNoTrouble)
+TEST(ScenarioMessages, DeepNestingIsReported)
 {
     const std::string open(20000, '[');
     EXPECT_EQ(MessageFor(open + std::string(20000, ']')).substr(0, 15), "office.json: /:");

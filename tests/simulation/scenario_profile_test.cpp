@@ -64,7 +64,7 @@ TEST(ScenarioProfile, IsTheWholeDocument)
               "</WLANProfile>\r\n");
 }
 
-TEST(ScenarioProfile, WithoutKeyThereIsNoSharedKey)
+TEST(ScenarioProfile, WithoutAKeyTheProfileHasNone)
 {
     EXPECT_FALSE(Holds(MakeProfileXml(Settings("Home")), "sharedKey"));
 }

@@ -93,7 +93,7 @@ TEST_F(ScenarioPlay, TheTravellersHotspotCarriesTheMarker)
     EXPECT_TRUE(manager().SpecialSoftAP());
 }
 
-TEST_F(ScenarioPlay, AHardwareSwitchIsNoProgramsToTurn)
+TEST_F(ScenarioPlay, ProgramsCannotTurnAHardwareSwitch)
 {
     Play("radio-off.json");
     EXPECT_EQ(manager().RadioTurnOn(&guid), 0);

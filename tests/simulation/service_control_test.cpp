@@ -26,7 +26,7 @@ protected:
     SimulatedServiceControl m_control{m_lastError, m_handles, m_running};
 };
 
-TEST_F(ServiceControlTest, TellsWhetherTheServiceRuns)
+TEST_F(ServiceControlTest, ShowsWhetherTheServiceRuns)
 {
     const SC_HANDLE manager = OpenManager();
     const SC_HANDLE service = OpenWlan(manager);
@@ -63,7 +63,7 @@ TEST_F(ServiceControlTest, TheManagerMayBeClosedFirst)
     EXPECT_TRUE(m_defects.empty());
 }
 
-TEST_F(ServiceControlTest, KnowsItsServiceByNameWhateverTheCase)
+TEST_F(ServiceControlTest, KnowsItsServiceByNameInAnyCase)
 {
     const SC_HANDLE manager = OpenManager();
     EXPECT_NE(m_control.OpenServiceA(manager, "WLANSVC", SERVICE_ALL_ACCESS), nullptr);

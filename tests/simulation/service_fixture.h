@@ -16,7 +16,7 @@ namespace calvix::simulation
 {
 
 /// A computer with two adapters and the homely network HomeNet, for the tests of its WLAN service. A test changes `scenario`
-/// and then starts it; whatever it takes from the service goes back when it ends, and its accounts must be clear then.
+/// and then starts it; everything that it takes from the service goes back when it ends, and its accounts must be clear then.
 class ServiceTest : public ::testing::Test
 {
 protected:

@@ -27,7 +27,7 @@ protected:
         Start();
     }
 
-    /// What the auto-configuration module tells of while `action` runs.
+    /// The notifications of the auto-configuration module while `action` runs.
     template <typename Action>
     Lines ToldDuring(const Action& action)
     {
@@ -291,7 +291,7 @@ TEST_F(StationFunctions, AStationAnswersWhatSamplesAskFor)
     EXPECT_EQ(countries.dwNumberOfItems, 1u);
 }
 
-TEST_F(StationFunctions, SettingsOfAnAdapterAreToldAsTheyWereSet)
+TEST_F(StationFunctions, SettingsOfAnAdapterAreReturnedAsSet)
 {
     Start();
     const auto set = [&](WLAN_INTF_OPCODE opcode, auto value)
@@ -308,7 +308,7 @@ TEST_F(StationFunctions, SettingsOfAnAdapterAreToldAsTheyWereSet)
     EXPECT_EQ(set(wlan_intf_opcode_current_operation_mode, ULONG{2}), ERROR_INVALID_PARAMETER);
 }
 
-TEST_F(StationFunctions, AutoConfigurationIsToldAsItWasSet)
+TEST_F(StationFunctions, AutoConfigurationIsReturnedAsSet)
 {
     Start();
     const auto set = [&](WLAN_AUTOCONF_OPCODE opcode, auto value)

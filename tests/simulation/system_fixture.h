@@ -51,7 +51,7 @@ protected:
         EXPECT_TRUE(Security().LookupPrivilegeValueA(nullptr, privilege, &luid)) << privilege;
         return luid;
     }
-    /// Enables or disables a privilege, and tells the last error that this leaves.
+    /// Enables or disables a privilege, and returns the last error.
     DWORD Adjust(const char* privilege, bool enable)
     {
         const HANDLE token = OpenToken(TOKEN_ADJUST_PRIVILEGES);

@@ -30,7 +30,7 @@ TEST_F(WlanProfiles, NewOnesGoOnTopAndOverwrittenOnesStay)
     EXPECT_NE(ProfileXml(L"B", 0).find(L"<name>Changed</name>"), std::wstring::npos);
 }
 
-TEST_F(WlanProfiles, TheListTellsTheirFlags)
+TEST_F(WlanProfiles, TheListHasTheirFlags)
 {
     EXPECT_EQ(SetProfile(MakeProfile("Mine", "Mine"), false, WLAN_PROFILE_USER), ERROR_SUCCESS);
     WLAN_PROFILE_INFO_LIST* list = nullptr;
@@ -83,7 +83,7 @@ TEST_F(WlanProfiles, KeysAreTheCallersToAskFor)
         << "what was handed out can be stored again";
 }
 
-TEST_F(WlanProfiles, WhatGettingTellsBesides)
+TEST_F(WlanProfiles, FlagsAndAccessOfAProfile)
 {
     wchar_t* text = nullptr;
     DWORD flags = WLAN_PROFILE_GET_PLAINTEXT_KEY;

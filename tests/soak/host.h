@@ -27,7 +27,7 @@ public:
     unsigned Below(unsigned limit) { return static_cast<unsigned>(random() % limit); }
     /// The first adapter mostly, sometimes the other, now and then one that is not there.
     const GUID* Adapter() override;
-    /// A name of a network of ours, rarely one that nobody has.
+    /// A name of one of our networks, rarely an unknown one.
     std::string Name();
     DOT11_SSID Ssid() override;
     WLAN_CONNECTION_ATTRIBUTES Connection() override { return connection; }

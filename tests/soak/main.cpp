@@ -1,4 +1,4 @@
-// Lives through many simulated days with the library and tells whether the process holds more at their end than at their
+// Lives through many simulated days with the library and checks whether the process holds more at their end than at their
 // beginning. See the usage text below.
 
 #include "soak/host.h"

@@ -69,7 +69,7 @@ std::uint64_t Threads()
     return threads;
 }
 
-/// Wine does not count handles, but tells of each value whether it is one.
+/// Wine does not count handles, but says for each value whether it is one.
 std::uint64_t Handles()
 {
     constexpr std::uintptr_t kHighest = 0x8000;

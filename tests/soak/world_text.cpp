@@ -10,7 +10,7 @@ namespace
 {
 
 constexpr std::uint32_t kHour = 3'600'000;
-/// Timetables count 32 bits of milliseconds; behind their end everything stays as it is.
+/// Timetables count 32 bits of milliseconds; after their end nothing changes.
 constexpr unsigned kLongestTimetable = 45;
 
 /// Every day: this strength until noon, another until ten in the evening, and then the night's; 0 is off the air.

@@ -19,7 +19,7 @@ private:
     std::size_t m_start;
 };
 
-/// Blocks that operator new gave out and nobody has given back, in the whole process.
+/// Blocks that operator new has allocated and that are not freed yet, in the whole process.
 std::ptrdiff_t HeldHeapBlocks();
 
 /// Allocations of the current thread fail while this object lives: `times` of them, from the `from`-th on that would be

@@ -16,7 +16,7 @@ struct AnswerChanges
     std::function<void(WLAN_AVAILABLE_NETWORK_LIST&)> networks = {};
     std::function<void(WLAN_PROFILE_INFO_LIST&)> profiles = {};
     std::function<void(WLAN_BSS_LIST&)> bss = {};
-    /// A query's record and its size; the opcode tells which record it is.
+    /// A query's record and its size; the opcode says which record it is.
     std::function<void(WLAN_INTF_OPCODE, PVOID, DWORD&)> query = {};
     /// The size of a WlanQueryAutoConfigParameter's answer.
     std::function<void(DWORD&)> parameter = {};

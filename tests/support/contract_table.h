@@ -32,7 +32,7 @@ struct FailureRow
     std::function<long long(CWirelessManage&)> call;
     std::string failingOperation = {}; ///< empty: none is made to fail, the world does it
     long long expected = 0;
-    /// All trace lines, in order, those of releases included; "%u" stands for the error, "%d" for it with a sign. Empty: nothing traced.
+    /// All trace lines, in order, those of releases included; "%u" is the error, "%d" the signed error. Empty: nothing traced.
     std::vector<std::string> traced = {};
     TraceBuffer buffer = TraceBuffer::shared;
     unsigned error = 5;

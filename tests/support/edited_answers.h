@@ -50,7 +50,7 @@ struct ServiceEdits
 /// Text conversion that can be made to take what the platform refuses.
 struct ConversionEdits
 {
-    /// Whether UTF-8 is converted whatever the flags for narrow code pages say.
+    /// Whether UTF-8 is converted with any flags for narrow code pages.
     bool takesAllFlagsForUtf8 = false;
     /// The same for narrow code pages and the flags that belong to the other direction.
     bool takesAllFlagsForNarrow = false;

@@ -9,7 +9,7 @@
 namespace calvix::test
 {
 
-/// What a fatal caller error becomes while a FatalErrorsCaught stands.
+/// What a fatal caller error becomes while a FatalErrorsCaught exists.
 class FatalError : public std::runtime_error
 {
 public:

@@ -63,7 +63,7 @@ std::map<std::string, Documented> ReadReference()
     return reference;
 }
 
-/// What a method calls where nothing fails, in the order of the first time; trace lines are not told.
+/// What a method calls where nothing fails, in the order of the first time; trace lines are left out.
 Operations Made(const sweep::World& world, const methods::Method& method)
 {
     Operations made;

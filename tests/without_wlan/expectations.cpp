@@ -19,7 +19,7 @@ using namespace std::string_literals;
 using methods::Method;
 using methods::Outcome;
 
-/// The error number that stands for the missing wlanapi.dll, that of an operation that Wine exports without having
+/// The error number of the missing wlanapi.dll, that of an operation that Wine exports without having
 /// written it, and any other.
 constexpr long long kNoLibrary = ERROR_MOD_NOT_FOUND;
 constexpr long long kUnwritten = ERROR_CALL_NOT_IMPLEMENTED;

@@ -1,4 +1,4 @@
-// A computer without wlanapi.dll: a Windows Server on which nobody has added the wireless feature.
+// A computer without wlanapi.dll: a Windows Server without the wireless feature.
 
 #include "without_wlan/expectations.h"
 

@@ -18,7 +18,7 @@ ShutdownQuestion FindShutdownQuestion()
 {
     const HMODULE system = ::GetModuleHandleW(L"ntdll.dll");
     const FARPROC address = system != nullptr ? ::GetProcAddress(system, "RtlDllShutdownInProgress") : nullptr;
-    // A detour through void(*)() tells the compiler that the change of the function's type is meant.
+    // The cast through void(*)() shows the compiler that the change of the function's type is intended.
     return reinterpret_cast<ShutdownQuestion>(reinterpret_cast<void (*)()>(address));
 }
 

@@ -35,7 +35,7 @@ void Report(const char* problem)
     ::OutputDebugStringW(forms::WideFromUtf8(line).c_str());
 }
 
-// Nobody destroys it: its threads run until the process ends, and end with it wherever they are.
+// It is never destroyed: its threads run until the process ends, and end with it wherever they are.
 RunningComputer* Start()
 {
     try

@@ -18,7 +18,7 @@ namespace
 
 using nlohmann::ordered_json;
 
-/// Shorter names are replaced where they stand alone, not inside of words.
+/// Shorter names are replaced as whole words only.
 constexpr std::size_t kLongEnoughToStandOut = 4;
 
 std::size_t CharactersOf(std::string_view bytes)

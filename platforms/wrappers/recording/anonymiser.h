@@ -14,10 +14,10 @@
 namespace calvix::recording
 {
 
-/// Puts made-up names in the place of those that tell where a recording was made: SSIDs, profile names, addresses of
+/// Replaces the names that reveal where a recording was made by invented ones: SSIDs, profile names, addresses of
 /// access points, GUIDs and descriptions of adapters. The same name always becomes the same one, of the same length
 /// where that can be, so that tables keep their columns. Names are learned first and replaced when all are known, because
-/// a text may mention a name before the service has told of it.
+/// a text may mention a name before the service does.
 class Anonymiser
 {
 public:
@@ -27,7 +27,7 @@ public:
     /// "{...}"
     void LearnGuid(std::string_view text);
 
-    /// Replaces what was learned in all lines, which stand in the order of the recording.
+    /// Replaces what was learned in all lines, which are in the order of the recording.
     void Apply(std::vector<nlohmann::ordered_json>& lines);
     /// The same in a text: in a name or a profile's document at any time, in a sentence after that.
     std::string InText(const std::string& text) const;
@@ -48,7 +48,7 @@ private:
     std::vector<std::pair<std::string, std::string>> m_longestFirst;
 };
 
-/// The information elements that tell no names: rates, channel, country, security and what the radio can do, and nothing
+/// The information elements that contain no names: rates, channel, country, security and what the radio can do, and nothing
 /// of a vendor's.
 std::string ElementsWithoutNames(const std::string& elements);
 

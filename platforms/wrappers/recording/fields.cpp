@@ -29,7 +29,7 @@ std::basic_string_view<Character> GivenView(const Character* text, int length)
     return length < 0 ? View(text) : View(text, static_cast<std::size_t>(length));
 }
 
-/// Without a key, whatever that costs: a text with a key in it need not come back whole.
+/// Without a key in any case: a text that contains a key may come back incomplete.
 ordered_json WithoutKeys(KeyMask& keys, std::wstring_view text)
 {
     const std::string utf8 = forms::Utf8FromWide(text);
@@ -219,7 +219,7 @@ void Fields::Array(const char* name, wchar_t* text, std::size_t size, Meaning me
         m_surroundings.names->LearnAdapter(forms::Utf8FromWide(told));
 }
 
-/// A length that no SSID can have is told beside the bytes.
+/// A length that no SSID can have is written beside the bytes.
 void Fields::Ssid(const char* name, DOT11_SSID& ssid)
 {
     if (!isReading())
@@ -259,7 +259,7 @@ void Fields::Address(const char* name, UCHAR* address)
     text.erase(std::remove(text.begin(), text.end(), ':'), text.end());
     std::string read;
     if (!ReadHex(text, read) || read.size() != bytes.size())
-        throw Damage(name, "is no address");
+        throw Damage(name, "is not an address");
     std::copy(read.begin(), read.end(), address);
 }
 
@@ -272,7 +272,7 @@ void Fields::Guid(const char* name, GUID& guid)
     }
     const std::optional<GUID> read = forms::GuidFromText(BytesFrom(At(name), name));
     if (!read)
-        throw Damage(name, "is no GUID");
+        throw Damage(name, "is not a GUID");
     guid = *read;
 }
 
@@ -289,7 +289,7 @@ Fields Fields::Object(const char* name)
     if (!isReading())
         object = ordered_json::object();
     else if (!object.is_object())
-        throw Damage(name, "is no object");
+        throw Damage(name, "is not an object");
     return {object, m_direction, m_surroundings};
 }
 
@@ -299,7 +299,7 @@ std::size_t Fields::Count(const char* name, std::size_t count)
     if (!isReading())
         array = ordered_json::array();
     else if (!array.is_array())
-        throw Damage(name, "is no list");
+        throw Damage(name, "is not a list");
     return isReading() ? array.size() : count;
 }
 
@@ -309,7 +309,7 @@ Fields Fields::Element(const char* name, std::size_t index)
     if (!isReading())
         array.push_back(ordered_json::object());
     else if (!array[index].is_object())
-        throw Damage(name, "has an element that is no object");
+        throw Damage(name, "has an element that is not an object");
     return {isReading() ? array[index] : array.back(), m_direction, m_surroundings};
 }
 

@@ -26,7 +26,7 @@ class KeyMask;
 ///         fields.Number("dwFlags", profile.dwFlags);
 ///     }
 ///
-/// Writing, it tells what stands in the variables; reading, it fills them, and throws Damage for a field that is missing
+/// Writing, it records the variables; reading, it fills them, and throws Damage for a field that is missing
 /// or of another type. Numbers have the width that they have on Windows, and text has no width at all, so that what one
 /// system wrote means the same on another.
 class Fields
@@ -37,7 +37,7 @@ public:
     {
         Holdings& holdings;
         KeyMask* keys = nullptr;     ///< null while reading
-        Anonymiser* names = nullptr; ///< told of names; null while reading, and where none are to be hidden
+        Anonymiser* names = nullptr; ///< receives names; null while reading, and if none are to be hidden
     };
 
     enum class Direction
@@ -74,7 +74,7 @@ public:
         if (value != nullptr)
             Number(name, *value);
     }
-    /// A number that is told and never read back: an argument.
+    /// A number that is written and never read back: an argument.
     template <typename Integer>
     void Given(const char* name, Integer value)
     {
@@ -107,12 +107,12 @@ public:
     /// Raw bytes, always in hexadecimal.
     void Bytes(const char* name, std::string& bytes);
 
-    /// Bytes that stand in a buffer of the caller's, `size` of them.
+    /// Bytes in a buffer of the caller, `size` of them.
     void Into(const char* name, void* buffer, std::size_t size);
     /// A terminated text in a buffer of the caller's; a longer one is cut.
     void TerminatedInto(const char* name, wchar_t* buffer, std::size_t capacity);
 
-    /// The information elements of an access point. Where names are hidden, those that may tell some are left out.
+    /// The information elements of an access point. If names are hidden, elements that may contain names are left out.
     void Elements(const char* name, std::string& elements);
 
     /// The name of a profile, in an array that is terminated unless it is full.
@@ -150,7 +150,7 @@ public:
     }
 
     bool Has(const char* name) const;
-    /// For what may be missing: writes that it is, or tells whether it is.
+    /// For what may be missing: writes whether it is, or reads it.
     template <typename Pointer>
     bool IsNull(const char* name, Pointer pointer)
     {
@@ -161,7 +161,7 @@ public:
         return pointer == nullptr;
     }
     Fields Object(const char* name);
-    /// Begins an array while writing; tells how long it is while reading.
+    /// Begins an array while writing; returns its length while reading.
     std::size_t Count(const char* name, std::size_t count);
     /// The next element while writing, the one at `index` while reading.
     Fields Element(const char* name, std::size_t index);

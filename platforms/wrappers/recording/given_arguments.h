@@ -12,7 +12,7 @@ namespace calvix::recording
 // What operations are given, written into a recording: one overload for each role, or for what it derives from. Roles that
 // mean nothing elsewhere write nothing.
 
-/// Records whose fields stand among those of the call.
+/// Records whose fields are among those of the call.
 void GiveFields(Fields& fields, const WLAN_CONNECTION_PARAMETERS* parameters);
 void GiveFields(Fields& fields, const STARTUPINFOA* startup);
 void GiveFields(Fields& fields, const TOKEN_PRIVILEGES* privileges);

@@ -27,7 +27,7 @@ struct CallOnTape
     TapedCall& call;
 };
 
-/// Records whose fields stand among those of the call.
+/// Records whose fields are among those of the call.
 void DescribeFields(Fields& fields, SERVICE_STATUS& status);
 void DescribeFields(Fields& fields, PROCESS_INFORMATION& information);
 void DescribeFields(Fields& fields, LUID& luid);
@@ -93,7 +93,7 @@ void DescribeResult(Fields& fields, Result& result, const Values& values, platfo
 
 /// What is only given.
 void Describe(const auto&, const operations::Given&, const auto&, const operations::AnyPlace&) {}
-// These are told together with a neighbour.
+// These are written together with a neighbour.
 void Describe(const auto&, const operations::AnswerSize&, const auto&, const operations::AnyPlace&) {}
 void Describe(const auto&, const operations::BytesOut&, const auto&, const operations::AnyPlace&) {}
 void Describe(const auto&, const operations::Buffer&, const auto&, const operations::AnyPlace&) {}

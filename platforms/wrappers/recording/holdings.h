@@ -19,7 +19,7 @@ public:
     enum class Source
     {
         platform, ///< handles and blocks are those of another platform
-        recording ///< they are made up here, from the numbers
+        recording ///< they are invented here, from the numbers
     };
 
     explicit Holdings(Source source) : m_source(source) {}
@@ -32,7 +32,7 @@ public:
     int Keep(const void* block);
     /// A new block of zeroes, and its number.
     void* Make(std::size_t size);
-    /// 0 is null, -1 a block that nobody has handed out.
+    /// 0 is null, -1 a block that was never handed out.
     int NumberOfBlock(const void* block) const;
     /// After this the block is known no more, and gone if it was made here.
     void Release(const void* block);

@@ -27,7 +27,7 @@ bool IsSpace(char c)
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
-/// Whether what stands at `position` is the element's name in a tag, with a prefix or without; `closing` says which tag.
+/// Whether the text at `position` is the element's name in a tag, with a prefix or without; `closing` says which tag.
 bool IsInTag(const std::string& lowered, std::size_t position, bool& closing)
 {
     std::size_t at = position;
@@ -42,7 +42,7 @@ bool IsInTag(const std::string& lowered, std::size_t position, bool& closing)
     return closing || lowered[at - 1] == '<';
 }
 
-/// The key itself, where it stands escaped in a document.
+/// The key itself, as escaped in a document.
 std::string WithoutEntities(std::string text)
 {
     for (const auto& [entity, character] : {std::pair("&lt;", "<"), std::pair("&gt;", ">"), std::pair("&quot;", "\""),

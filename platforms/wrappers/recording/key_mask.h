@@ -7,7 +7,7 @@
 namespace calvix::recording
 {
 
-/// What stands in place of a key.
+/// What replaces a key.
 inline constexpr std::string_view kMaskedKey = "********";
 
 /// Takes keys out of texts: the content of every keyMaterial element of a profile, whole or in pieces, and the same keys

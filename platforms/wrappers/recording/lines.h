@@ -3,14 +3,14 @@
 namespace calvix::recording
 {
 
-/// What the lines of a recording consist of; docs/recordings.md tells of it. A change that older programs cannot read
+/// What the lines of a recording consist of; docs/recordings.md describes it. A change that older programs cannot read
 /// makes a new version.
 inline constexpr unsigned kRecordingVersion = 1;
 
 namespace key
 {
 
-/// The first line: the version, and what is told of the whole.
+/// The first line: the version, and facts about the session.
 inline constexpr const char* header = "calvixRecording";
 inline constexpr const char* simulated = "simulated";
 inline constexpr const char* anonymised = "anonymised";

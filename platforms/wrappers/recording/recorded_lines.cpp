@@ -35,9 +35,9 @@ public:
         const bool whole = !m_stream.eof();
         line = ordered_json::parse(text, nullptr, false);
         if (!line.is_object())
-            Fail(!whole          ? "the recording breaks off in this line"
-                 : m_number == 1 ? "this is no recording: its first line is no header"
-                                 : "this line is damaged: it is no JSON object");
+            Fail(!whole          ? "the recording ends in the middle of this line"
+                 : m_number == 1 ? "this is not a recording: its first line is not a header"
+                                 : "this line is damaged: it is not a JSON object");
         return true;
     }
 
@@ -55,15 +55,15 @@ bool IsFlag(const ordered_json& line, const char* name)
 Header ReadHeader(LineReader& reader, const ordered_json& line)
 {
     if (!line.contains(key::header))
-        reader.Fail("this is no recording: its first line is no header");
+        reader.Fail("this is not a recording: its first line is not a header");
     const ordered_json& version = line[key::header];
     if (!version.is_number_unsigned() || version == 0)
-        reader.Fail("the header is damaged: its version is no number");
+        reader.Fail("the header is damaged: its version is not a number");
     if (version > kRecordingVersion)
-        reader.Fail("the recording is of version " + version.dump() + "; this program reads recordings up to version " +
+        reader.Fail("the recording has version " + version.dump() + "; this program reads recordings up to version " +
                     std::to_string(kRecordingVersion));
     if (!IsFlag(line, key::simulated) || !IsFlag(line, key::anonymised))
-        reader.Fail("the header is damaged: it does not tell of the session");
+        reader.Fail("the header is damaged: it does not describe the session");
     return {line[key::simulated].get<bool>(), line[key::anonymised].get<bool>()};
 }
 
@@ -103,7 +103,7 @@ RecordedLines ReadRecording(std::istream& recording, const std::string& name)
     RecordedLines result;
     ordered_json line;
     if (!reader.Next(line))
-        throw RecordingError(name + ":1: this is no recording: the file is empty");
+        throw RecordingError(name + ":1: this is not a recording: the file is empty");
     result.header = ReadHeader(reader, line);
     result.lastLine = reader.number();
     while (!result.complete && reader.Next(line))
@@ -112,7 +112,7 @@ RecordedLines ReadRecording(std::istream& recording, const std::string& name)
         if (line.contains(key::end))
             ReadEnd(reader, line, result);
         else if (!IsWellFormed(line))
-            reader.Fail("this line is damaged: it is no call, no notification and no mark");
+            reader.Fail("this line is damaged: it is not a call, a notification or a mark");
         else if (!IsRemark(line))
             result.lines.push_back({reader.number(), std::move(line)});
     }

@@ -9,7 +9,7 @@
 namespace calvix::recording
 {
 
-/// A line of a recording, and where it stands.
+/// A line of a recording, and its place.
 struct RecordedLine
 {
     std::size_t number = 0;

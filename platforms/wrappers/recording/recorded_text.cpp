@@ -55,7 +55,7 @@ std::wstring WideFromUnits(const std::string& units, const char* name)
     for (std::uint32_t unit = 0; stream >> std::hex >> unit;)
         AppendUnit(text, unit);
     if (!stream.eof())
-        throw Damage(name, "is no text");
+        throw Damage(name, "is not a text");
     return text;
 }
 
@@ -121,7 +121,7 @@ std::string BytesFrom(const ordered_json& value, const char* name)
     std::string bytes;
     const std::string* const hex = OnlyMember(value, "bytes");
     if (hex == nullptr || !ReadHex(*hex, bytes))
-        throw Damage(name, "is no text");
+        throw Damage(name, "is not a text");
     return bytes;
 }
 
@@ -131,7 +131,7 @@ std::wstring WideFrom(const ordered_json& value, const char* name)
         return forms::WideFromUtf8(value.get<std::string>());
     if (const std::string* const units = OnlyMember(value, "units"))
         return WideFromUnits(*units, name);
-    throw Damage(name, "is no text");
+    throw Damage(name, "is not a text");
 }
 
 } // namespace calvix::recording

@@ -23,7 +23,7 @@ using nlohmann::ordered_json;
 
 constexpr std::chrono::seconds kPatience(1);
 
-/// Whether this thread is telling a notification. What its callback calls is under way inside of another call.
+/// Whether this thread is delivering a notification. The calls of its callback are inside of another call.
 thread_local int t_callbacks = 0;
 
 /// Writing a file must not change what the program's GetLastError says.

@@ -9,16 +9,16 @@
 namespace calvix::recording
 {
 
-/// What the first line of a recording tells.
+/// The content of the first line of a recording.
 struct Header
 {
     bool simulated = false;  ///< of a simulated computer
-    bool anonymised = false; ///< names and addresses are made up
+    bool anonymised = false; ///< names and addresses are invented
 };
 
 /// Writes every call that passes a platform down, with its arguments and results, and the notifications between them, one
-/// line each (docs/recordings.md tells the form). Keys are masked always. An anonymised recording is written at the end,
-/// when all names are known; any other line by line, so that what a crash leaves behind can be used.
+/// line each (docs/recordings.md describes the form). Keys are masked always. An anonymised recording is written at the end,
+/// when all names are known; any other line by line, so that it is useful after a crash.
 ///
 /// Calls may come from any thread, but only a session of one thread can be replayed for certain. A notification that comes
 /// while no call is under way waits for the next one, a second at most, so that its place in the recording is a certain
@@ -35,7 +35,7 @@ public:
     /// The platform for the program that is recorded. It must not be used after this object's end.
     platform::Platform& platform();
 
-    /// Notes something that came from outside, which a replay tells at the same place (Replay::AtMark).
+    /// Notes an event from outside, which a replay reports at the same place (Replay::AtMark).
     void Mark(const std::string& text);
 
     /// A text of the program's, such as its command line, with the names that an anonymised recording has once it is finished.

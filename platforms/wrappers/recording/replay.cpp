@@ -53,7 +53,7 @@ struct Replay::Parts final : Tape
         return true;
     }
 
-    /// The recorded call that is this one; null after a departure.
+    /// The recorded call that is this one; null after a difference.
     const RecordedLine* TakeCall(TapedCall& call)
     {
         ordered_json asked = ordered_json::object();
@@ -72,7 +72,7 @@ struct Replay::Parts final : Tape
         const std::string does = "it calls " + CallText(call.operation(), asked);
         lock.unlock();
         if (next != nullptr || recorded.complete)
-            Depart(does, next);
+            EndWithDifference(does, next);
         else
             BreakOff();
         return nullptr;
@@ -170,20 +170,20 @@ struct Replay::Parts final : Tape
     void Remark(TapedCall&, const char*) override {}
 
     /// `line` is what the recording has there; null: its end.
-    void Depart(const std::string& does, const RecordedLine* line)
+    void EndWithDifference(const std::string& does, const RecordedLine* line)
     {
         const std::string has = line == nullptr        ? "the end of the session"
                                 : line->Has(key::call) ? CallText(line->content)
                                                        : line->content.dump(-1, ' ', true);
-        End({ReplayTrouble::Kind::departed, At(line != nullptr ? line->number : recorded.lastLine) +
-                                                "the program departs from the recording here: " + does +
-                                                "; the recording has " + has});
+        End({ReplayTrouble::Kind::differs, At(line != nullptr ? line->number : recorded.lastLine) +
+                                               "the program differs from the recording here: " + does +
+                                               "; the recording has " + has});
     }
 
     void BreakOff()
     {
         End({ReplayTrouble::Kind::damaged,
-             At(recorded.lastLine) + "the recording breaks off after this line, before the end of the session"});
+             At(recorded.lastLine) + "the recording ends after this line, before the end of the session"});
     }
 
     void BeDamaged(std::size_t line, const std::string& what)
@@ -253,7 +253,7 @@ std::optional<ReplayTrouble> Replay::Finish()
     if (const auto trouble = Trouble())
         return trouble;
     if (const RecordedLine* const next = m_parts->Next())
-        m_parts->Depart("it ends", next);
+        m_parts->EndWithDifference("it ends", next);
     else if (!m_parts->recorded.complete)
         m_parts->BreakOff();
     return Trouble();

@@ -25,12 +25,12 @@ struct ReplayTrouble
 {
     enum class Kind
     {
-        departed, ///< the program does something else than the recorded one did
-        damaged   ///< the recording cannot be read any further
+        differs, ///< the program makes another call than the recorded one
+        damaged  ///< the recording cannot be read any further
     };
 
-    Kind kind = Kind::departed;
-    std::string text; ///< "session.jsonl:12: the program departs from the recording here: ..."
+    Kind kind = Kind::differs;
+    std::string text; ///< "session.jsonl:12: the program differs from the recording here: ..."
 };
 
 /// Answers every call from a recording, on any system. Waiting takes no time. Notifications come, in the calls in which
@@ -53,14 +53,14 @@ public:
     /// The platform for the program, for as long as this object lives.
     platform::Platform& platform();
 
-    /// Has `action` called, once, when the program departs from the recording or it proves to be damaged.
+    /// Has `action` called, once, when the program differs from the recording or the recording is damaged.
     void AtTrouble(std::function<void()> action);
-    /// Has `action` called with the text of each mark, after the call behind which it stands (Recorder::Mark).
+    /// Calls `action` with the text of each mark, after the call that it follows (Recorder::Mark).
     void AtMark(std::function<void(const std::string&)> action);
 
     /// What ended the replay so far.
     std::optional<ReplayTrouble> Trouble() const;
-    /// To be asked when the program is done: that the recording goes on is a departure too.
+    /// Call it when the program is done: a recording that goes on is a difference, too.
     std::optional<ReplayTrouble> Finish();
 
 private:

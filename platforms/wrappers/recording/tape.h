@@ -24,7 +24,7 @@ private:
     const char* m_operation;
 };
 
-/// What stands behind a taped platform: a recorder, which makes the calls and writes them down, or a replay, which answers
+/// What handles the calls of a taped platform: a recorder, which makes the calls and writes them down, or a replay, which answers
 /// them from a recording.
 class Tape
 {
@@ -46,7 +46,7 @@ public:
     /// registered in the listener's place.
     virtual Listener Listen(HANDLE client, const Listener& listener) = 0;
 
-    /// A text for the debugger, which a recording tells of and a replay does without: a session may be replayed with
+    /// A text for the debugger, which a recording contains and a replay ignores: a session may be replayed with
     /// tracing on that was recorded with tracing off.
     virtual void Remark(TapedCall& call, const char* text) = 0;
 

@@ -8,7 +8,7 @@ namespace calvix::recording
 namespace
 {
 
-/// An array of numbers of which the first `count` tell something.
+/// An array of numbers of which the first `count` are used.
 template <typename Integer, std::size_t Size>
 void DescribeNumbers(Fields& fields, const char* name, Integer (&numbers)[Size], std::size_t count)
 {

@@ -26,7 +26,7 @@ void Describe(Fields& fields, WLAN_CONNECTION_NOTIFICATION_DATA& data);
 void Describe(Fields& fields, DOT11_SSID& ssid);
 
 void Describe(Fields& fields, operations::Long& number);
-/// Single numbers that stand in the place of a record.
+/// Single numbers in place of a record.
 template <typename Number>
 requires std::is_integral_v<Number> || std::is_enum_v<Number>
 void Describe(Fields& fields, Number& number)

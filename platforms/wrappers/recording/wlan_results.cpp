@@ -25,17 +25,17 @@ List* MakeList(Fields& fields, std::size_t size)
 
 void NumberBlock(Fields& fields, const void* block)
 {
-    // The number follows from the order of the calls; it is told for who reads the file.
+    // The number follows from the order of the calls; it is there for readers of the file.
     if (!fields.isReading() && block != nullptr)
         fields.Given("block", fields.holdings().Keep(block));
 }
 
 std::size_t CountItems(Fields& fields, std::size_t count)
 {
-    const std::size_t told = fields.Count("list", count);
-    if (told > kMostItems)
+    const std::size_t listed = fields.Count("list", count);
+    if (listed > kMostItems)
         throw Damage("list", "is too long");
-    return told;
+    return listed;
 }
 
 /// `first` finds the items in a list; SDKs differ in how they declare them.
@@ -84,7 +84,7 @@ void WriteBssList(Fields& fields, WLAN_BSS_LIST& list)
     }
 }
 
-/// The entries, and behind them their elements.
+/// The entries, then their elements.
 WLAN_BSS_LIST* ReadBssList(Fields& fields)
 {
     const std::size_t count = CountItems(fields, 0);
@@ -113,7 +113,7 @@ WLAN_BSS_LIST* ReadBssList(Fields& fields)
     return list;
 }
 
-/// A block of bytes whose form nobody knows.
+/// A block of bytes of unknown form.
 void DescribeRaw(Fields& fields, const char* name, DWORD& size, PVOID& data)
 {
     std::string bytes;
@@ -152,12 +152,12 @@ void DescribeStatistics(Fields& fields, DWORD& size, PVOID& data)
         fields.isReading() ? !fields.Has("bytes") : data != nullptr && size >= head + sizeof(WLAN_PHY_FRAME_STATISTICS);
     if (!whole)
         return DescribeRaw(fields, "bytes", size, data);
-    const std::size_t told = fields.isReading() ? 0 : (size - head) / sizeof(WLAN_PHY_FRAME_STATISTICS);
-    const std::size_t count = fields.Count("phys", told);
+    const std::size_t present = fields.isReading() ? 0 : (size - head) / sizeof(WLAN_PHY_FRAME_STATISTICS);
+    const std::size_t count = fields.Count("phys", present);
     if (fields.isReading())
     {
         if (count == 0 || count > kMostItems)
-            throw Damage("phys", "is no list of PHYs");
+            throw Damage("phys", "is not a list of PHYs");
         size = static_cast<DWORD>(head + count * sizeof(WLAN_PHY_FRAME_STATISTICS));
         data = fields.holdings().Make(size);
     }
@@ -203,14 +203,14 @@ void DescribeConnectionData(Fields& fields, DWORD& size, PVOID& data)
     constexpr std::size_t least = offsetof(WLAN_CONNECTION_NOTIFICATION_DATA, dwFlags);
     WLAN_CONNECTION_NOTIFICATION_DATA cut{};
     DWORD cutSize = sizeof(cut);
-    PVOID told = &cut;
+    PVOID shortened = &cut;
     if (fields.isReading())
         return DescribeRecord<WLAN_CONNECTION_NOTIFICATION_DATA>(fields, size, data);
     if (data == nullptr || size < least)
         return DescribeRaw(fields, "bytes", size, data);
     std::memcpy(&cut, data,
                 (std::min)(static_cast<std::size_t>(size), offsetof(WLAN_CONNECTION_NOTIFICATION_DATA, strProfileXml)));
-    DescribeRecord<WLAN_CONNECTION_NOTIFICATION_DATA>(fields, cutSize, told);
+    DescribeRecord<WLAN_CONNECTION_NOTIFICATION_DATA>(fields, cutSize, shortened);
 }
 
 void DescribeAcmData(Fields& fields, DWORD code, DWORD& size, PVOID& data)

@@ -15,7 +15,7 @@ void DescribeList(Fields& fields, WLAN_BSS_LIST** list);
 
 void DescribeText(Fields& fields, wchar_t** xml);
 
-/// The answer to a question about an interface. An answer whose form is not known is told as bytes, which mean the same
+/// The answer to a question about an interface. An answer of unknown form is written as bytes, which mean the same
 /// only where records have the same layout.
 void DescribeAnswer(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD* size, PVOID* data);
 void DescribeAnswer(Fields& fields, WLAN_AUTOCONF_OPCODE opcode, DWORD* size, PVOID* data);

@@ -265,7 +265,7 @@ TEST_F(SmartSwitchTest, AnSsidThatIsNotUtf8EndsIt)
     EXPECT_EQ(0u, callCount("WlanGetProfileList"));
 }
 
-TEST_F(SmartSwitchTest, AFailedConversionIsTracedWhateverTheLastError)
+TEST_F(SmartSwitchTest, AFailedConversionIsTracedWithAnyLastError)
 {
     FailOn("MultiByteToWideChar", 0);
     EXPECT_EQ(0, Smart(manager())) << "the last error is the result";

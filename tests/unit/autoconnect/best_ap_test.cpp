@@ -187,7 +187,7 @@ TEST_F(BestApTest, AnEmptyBssListEndsItWithoutATrace)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-TEST_F(BestApTest, AProfileThatCannotBeReadIsNoCandidate)
+TEST_F(BestApTest, AProfileThatCannotBeReadIsNotACandidate)
 {
     FailOn("WlanGetProfile", 5, 2, 1);
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
@@ -197,7 +197,7 @@ TEST_F(BestApTest, AProfileThatCannotBeReadIsNoCandidate)
 }
 
 // Only 1 means automatic: the codes below zero do not.
-TEST_F(BestApTest, AProfileWithoutAModeIsNoCandidate)
+TEST_F(BestApTest, AProfileWithoutAModeIsNotACandidate)
 {
     EditedAnswers edited;
     edited.service.SetProfileText(L"Plain", L"");                    // -5

@@ -102,7 +102,7 @@ TEST_F(CandidateRankingTest, ChannelsOfTwoPointFourGigahertzEarnNothing)
     EXPECT_FALSE(EarnsBonus(2484000));
 }
 
-TEST_F(CandidateRankingTest, WhatIsNoChannelBelowThatEarnsNothing)
+TEST_F(CandidateRankingTest, InvalidChannelsEarnNoBonus)
 {
     for (const unsigned long frequency : {0ul, 1ul, 2411000ul, 2413000ul, 2473000ul, 2483000ul})
         EXPECT_FALSE(EarnsBonus(frequency)) << frequency;
@@ -290,7 +290,7 @@ TEST_F(CandidateRankingTest, ThirtyTwoEqualScoresKeepTheirOrder)
     EXPECT_EQ(names, Order());
 }
 
-// Among more than 32 the order of equals is anybody's; the scores ascend and nobody is lost.
+// Among more than 32 the order of equals is undefined; the scores ascend and none is lost.
 TEST_F(CandidateRankingTest, ManyCandidatesAreSortedCompletely)
 {
     for (const unsigned count : {33u, 34u, 100u, 1000u})
@@ -309,7 +309,7 @@ TEST_F(CandidateRankingTest, ManyCandidatesAreSortedCompletely)
     }
 }
 
-TEST_F(CandidateRankingTest, NobodyCanBeRankedToo)
+TEST_F(CandidateRankingTest, AnEmptyListCanBeRanked)
 {
     BssEntries entries;
     entries.Add("Net", 5180000);

@@ -182,7 +182,7 @@ TEST_F(ConnectAutoModeTest, AProfileThatCannotBeReadIsNotUsed)
 }
 
 // Deliberate: only the first 1023 characters of a profile are looked at.
-TEST_F(ConnectAutoModeTest, AModeThatStandsTooFarBackIsNotSeen)
+TEST_F(ConnectAutoModeTest, AModeTooFarBackIsNotFound)
 {
     const std::string end = "</connectionMode>";
     for (const auto& [room, expected] : {std::pair{1023u, 0}, std::pair{1022u, -9}})

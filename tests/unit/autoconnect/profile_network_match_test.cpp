@@ -74,7 +74,7 @@ TEST(NetworksByProfileTest, NamesMatchExactly)
     EXPECT_THAT(networks.PlacesOf(L"NET"), IsEmpty());
 }
 
-TEST(NetworksByProfileTest, WhatStandsBehindTheTerminatorDoesNotCount)
+TEST(NetworksByProfileTest, TextAfterTheTerminatorIsIgnored)
 {
     const Networks networks({std::wstring(L"Net\0rest", 8)});
     EXPECT_THAT(networks.PlacesOf(std::wstring(L"Net\0else", 8)), ElementsAre(0));
@@ -112,7 +112,7 @@ TEST(NetworksByProfileTest, ProfilesMayBeAskedForInAnyOrderAndWalksMayBeLeft)
     EXPECT_THAT(placesOf(L"B", 9), ElementsAre(1, 4));
 }
 
-TEST(NetworksByProfileTest, ManyNamesAreToldApart)
+TEST(NetworksByProfileTest, ManyNamesAreDistinguished)
 {
     std::vector<std::wstring> names;
     for (int index = 0; index < 3000; ++index)

@@ -22,7 +22,7 @@ inline std::vector<std::string> RequestedProfiles(const LibraryTest& test)
     return profiles;
 }
 
-/// The standard request as the call log tells it: by the profile, any access point.
+/// The standard request in the call log: by the profile, any access point.
 inline std::string StandardRequest(const std::string& profile, const std::string& bssType = "infrastructure")
 {
     return std::string("WlanConnect(client=1, interface=") + kAdapterAText + ", parameters={mode=profile, profile=\"" +

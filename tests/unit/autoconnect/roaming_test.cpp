@@ -164,7 +164,7 @@ TEST_F(RoamingTest, ThePickIsTheLastAccessPointThatBeatsTheFirst)
     }
 }
 
-TEST_F(RoamingTest, WhereThePickIsTheCurrentAccessPointThereIsNoMove)
+TEST_F(RoamingTest, DoesNotMoveToTheCurrentAccessPoint)
 {
     for (const std::vector<unsigned>& qualities : {std::vector{50u}, std::vector{90u, 50u, 60u}, std::vector{60u, 60u}})
     {

@@ -41,7 +41,7 @@ public:
 
 } // namespace
 
-TEST_F(SmartConnectingTest, AsksForTheFirstProfileInViewAndTellsItsName)
+TEST_F(SmartConnectingTest, RequestsTheFirstProfileInViewAndReturnsItsName)
 {
     char name[128] = "marked";
     EXPECT_EQ(0, manager().SmartConnecting(&kAdapterA, name));

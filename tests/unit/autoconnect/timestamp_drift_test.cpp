@@ -164,7 +164,7 @@ TEST_F(TimestampDriftTest, AFailedConversionLeavesOnlyItsOwnPairOut)
                                       "ullHostTimestamp offset(0 sec)"));
 }
 
-TEST_F(TimestampDriftTest, AccessPointsAreToldApartByTheirWholeAddress)
+TEST_F(TimestampDriftTest, AccessPointsAreDistinguishedByTheirWholeAddress)
 {
     UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50), Heard("Net", 2437000, -60)}));
     EditedAnswers edited;
@@ -286,7 +286,7 @@ TEST_F(TimestampDriftTest, TheLastProblemIsTheResult)
         << "a problem of one network does not keep the others from being followed";
 }
 
-TEST_F(TimestampDriftTest, NothingInViewIsNoProblem)
+TEST_F(TimestampDriftTest, AnEmptyListIsAccepted)
 {
     UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(-1, Run());

@@ -60,7 +60,7 @@ long long ResetA(CWirelessManage& manager)
     return manager.ResetConnection(&kAdapterA);
 }
 
-/// A network as both kinds of records tell of it. What the records hold besides is not to be looked at.
+/// A network in both kinds of records. Their other members are not read.
 struct Remembered
 {
     std::string ssid = "HomeNet";

@@ -304,7 +304,7 @@ TEST_F(CurrentConnectionTest, TakesTheSsidAsUtf8)
     EXPECT_STREQ("Caf\xE9", ssid) << "in the active code page, 1252";
 }
 
-TEST_F(CurrentConnectionTest, AnSsidThatCannotBeConvertedIsNoFailure)
+TEST_F(CurrentConnectionTest, AnSsidThatCannotBeConvertedIsNotAFailure)
 {
     WLAN_CONNECTION_ATTRIBUTES record = Marked();
     for (const char* operation : {"MultiByteToWideChar", "WideCharToMultiByte"})

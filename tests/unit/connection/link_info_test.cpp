@@ -69,7 +69,7 @@ long long AskUntouched(CWirelessManage& manager)
     return code;
 }
 
-/// Attributes as a host keeps them: of HomeNet, whatever the adapter does now.
+/// Attributes as a host keeps them: of HomeNet, even if the adapter is not connected to it.
 WLAN_CONNECTION_ATTRIBUTES KeptAttributes(const std::string& ssid = "HomeNet", BOOL secured = TRUE)
 {
     WLAN_CONNECTION_ATTRIBUTES record{};
@@ -132,7 +132,7 @@ TEST_F(LinkInfoTest, CutsTheSsidToTheRoomThereIs)
     EXPECT_EQ(kHomeNet24, info.Bssid());
 }
 
-TEST_F(LinkInfoTest, AnSsidThatCannotBeConvertedIsNoFailure)
+TEST_F(LinkInfoTest, AnSsidThatCannotBeConvertedIsNotAFailure)
 {
     FailOn("MultiByteToWideChar");
     LinkInfo info;
@@ -219,7 +219,7 @@ TEST_F(CurrentWiFiTest, TracesTheReleaseJustBeforeIt)
     EXPECT_EQ(kRelease, lines[3]);
 }
 
-TEST_F(CurrentWiFiTest, TheNetworkIsThatOfTheRecordWhateverTheAdapterIsConnectedTo)
+TEST_F(CurrentWiFiTest, TheNetworkIsThatOfTheRecord)
 {
     WLAN_CONNECTION_ATTRIBUTES cafe = KeptAttributes("CafeNet", FALSE);
     EXPECT_EQ(1, manager().GetCurrentWiFi(&kAdapterB, &cafe));
@@ -233,7 +233,7 @@ TEST_F(CurrentWiFiTest, TheNetworkIsThatOfTheRecordWhateverTheAdapterIsConnected
     EXPECT_EQ("independent", call("WlanGetNetworkBssList", 2)["bssType"]);
 }
 
-TEST_F(CurrentWiFiTest, OutOfRangeIsNoFailure)
+TEST_F(CurrentWiFiTest, OutOfRangeIsNotAFailure)
 {
     WLAN_CONNECTION_ATTRIBUTES gone = KeptAttributes("GoneNet");
     EXPECT_EQ(0, manager().GetCurrentWiFi(&kAdapterA, &gone));

@@ -281,7 +281,7 @@ TEST_F(SavedConnectionTest, AManualConnectionIsNeverRecovered)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-// Deliberate: an empty memory is not told apart from a saved connection.
+// Deliberate: an empty memory is not distinguished from a saved connection.
 TEST_F(SavedConnectionTest, AnEmptyMemoryAsksForTheEmptySsid)
 {
     EXPECT_EQ(-5, Recover(manager()));

@@ -170,7 +170,7 @@ TEST_F(ManagerTest, DeleteClosesAClientThatHasNoInstance)
     EXPECT_EQ(client, ManagerInternals::Client());
 }
 
-// Kept on purpose: the closed handle's value stays, and who uses it is told by the service.
+// Deliberate: the closed handle's value stays, and the service refuses it.
 TEST_F(ManagerTest, DeleteLeavesAStaleClientBehind)
 {
     const HANDLE client = ManagerInternals::Client();

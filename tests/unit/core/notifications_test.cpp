@@ -67,7 +67,7 @@ class NotificationsTest : public LibraryTest
 public:
     int Register(Listener& listener) { return manager().RegisterNotification(Listener::Callback, &listener); }
 
-    /// Has adapter A look for networks, and everybody told.
+    /// Scans with adapter A, and delivers the notifications.
     void Scan()
     {
         unsigned long error = 0;
@@ -116,7 +116,7 @@ TEST_F(NotificationsTest, RegistersForTheAutoConfigurationModule)
 }
 
 // Deliberate: whichever callback is named, the one registered is meant.
-TEST_F(NotificationsTest, UnregistersWhateverIsRegistered)
+TEST_F(NotificationsTest, UnregistersEveryCallback)
 {
     EXPECT_EQ(0, manager().UnRegisterNotification(NeverCalled, &m_first)) << "nothing is registered";
     EXPECT_THAT(callLines(), ElementsAre("WlanRegisterNotification(client=1, source=0, ignoreDuplicate=false, "
@@ -196,7 +196,7 @@ TEST_F(NotificationsTest, TheClientHearsOfAScanOnAThreadOfTheService)
 TEST_F(NotificationsTest, OtherModulesAreNotHeard)
 {
     Register(m_first);
-    EXPECT_EQ(0, manager().RadioTurnOff(&kAdapterA)) << "the media-specific module tells of this";
+    EXPECT_EQ(0, manager().RadioTurnOff(&kAdapterA)) << "the media-specific module reports this";
     Advance(1s);
     computer().WaitForNotifications();
     for (const Heard& heard : m_first.All())

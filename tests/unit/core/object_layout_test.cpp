@@ -50,7 +50,7 @@ TEST_F(ObjectLayoutTest, TheMembersStandInTheirOrder)
     EXPECT_TRUE(std::is_sorted(offsets.begin(), offsets.end()));
 }
 
-TEST_F(ObjectLayoutTest, TheInstanceStandsAtTheHostsOffsets)
+TEST_F(ObjectLayoutTest, TheInstanceHasTheHostsOffsets)
 {
     if constexpr (sizeof(wchar_t) != 2 || sizeof(unsigned long) != 4 || sizeof(void*) != 8)
         GTEST_SKIP() << "the offsets are those of 64-bit Windows; here the platform's records have other sizes";

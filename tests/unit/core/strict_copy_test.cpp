@@ -18,7 +18,7 @@ TEST(StrictCopyTest, CopiesWhatFits)
     EXPECT_EQ("xycd#", std::string(destination, sizeof destination));
 }
 
-TEST(StrictCopyTest, NothingToCopyIsNoError)
+TEST(StrictCopyTest, NothingToCopyIsNotAnError)
 {
     char destination[] = "kept";
     StrictCopy(destination, 4, nullptr, 0, "Method");

@@ -105,7 +105,7 @@ TEST(FormatTraceTest, FormatsWideTextOfAnyLength)
     EXPECT_EQ(L"[\u6771\u6771", std::wstring(room.data()));
 }
 
-// More than a million characters are formatted for nobody.
+// More than a million characters are not formatted.
 TEST(FormatTraceTest, WideTextThatCannotBeFormattedIsReportedAsCut)
 {
     wchar_t wide[] = L"gone";

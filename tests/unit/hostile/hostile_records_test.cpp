@@ -317,7 +317,7 @@ TEST_F(HostileRecordsTest, AConnectionLongerThanItsRecordIsNotSaved)
     ExpectFatal([&] { manager().SaveCurrentConnectionAttributes(&kAdapterA); }, "SaveCurrentConnectionAttributes");
 }
 
-// Whoever reads a member that did not come has not been answered; nobody reads past the answer.
+// A method that needs a missing member treats the call as failed; none reads past the answer.
 TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
 {
     using Record = WLAN_CONNECTION_ATTRIBUTES;

@@ -13,7 +13,7 @@ TEST(ChannelTest, CountsTheTwoPointFourGigahertzBandFromZero)
     EXPECT_EQ(13u, ChannelOfFrequency(2484));
 }
 
-TEST(ChannelTest, GivesFourteenForWhatIsNoChannelUpThere)
+TEST(ChannelTest, ReturnsFourteenForInvalidChannelsAbove)
 {
     for (const unsigned long frequency : {0ul, 1ul, 1000ul, 2400ul, 2407ul, 2411ul, 2413ul, 2473ul, 2477ul, 2483ul})
         EXPECT_EQ(14u, ChannelOfFrequency(frequency)) << frequency;

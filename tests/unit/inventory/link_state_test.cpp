@@ -49,7 +49,7 @@ AnswerChanges Twins(const GUID& guid, WLAN_INTERFACE_STATE first, WLAN_INTERFACE
 
 } // namespace
 
-TEST_F(LinkStateTest, TellsAConnectedAdapterFromADisconnectedOne)
+TEST_F(LinkStateTest, DistinguishesConnectedFromDisconnectedAdapters)
 {
     EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
     EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterA));
@@ -126,7 +126,7 @@ TEST_F(LinkStateTest, TheLastEntryOfTheInterfaceDecides)
     EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterA));
 }
 
-// Deliberate: whoever asks cannot tell a missing connection from a missing service.
+// Deliberate: the result does not distinguish a missing connection from a missing service.
 TEST_F(LinkStateTest, EveryFailureReadsAsNo)
 {
     const auto local = TraceBuffer::local;

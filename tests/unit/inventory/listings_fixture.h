@@ -55,7 +55,7 @@ public:
     }
 };
 
-/// The line behind a label that ends its own.
+/// The line after a label that ends its own.
 inline std::string After(const Lines& lines, const std::string& label)
 {
     const auto found = std::find(lines.begin(), lines.end(), label);

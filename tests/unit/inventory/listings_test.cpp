@@ -170,7 +170,7 @@ TEST_F(ListingsTest, EveryEntryHasItsNumber)
         EXPECT_TRUE(AnyStartsWith(bss, "SSID" + number));
         EXPECT_TRUE(AnyStartsWith(bss, "PhyId" + number));
     }
-    EXPECT_EQ(8, std::count(networks.begin(), networks.end(), "")) << "two behind each entry, two at the end";
+    EXPECT_EQ(8, std::count(networks.begin(), networks.end(), "")) << "two after each entry, two at the end";
     EXPECT_EQ(8, std::count(bss.begin(), bss.end(), ""));
 }
 
@@ -286,7 +286,7 @@ TEST_F(ListingsTest, EveryWayToFail)
     CheckFailures(*this, {
                              {"GetAvailableNetwork", ListNetworks, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
                              {"GetNetworkBss", ListBss, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
-                             // Deliberate: only the trace tells that there was nothing to walk.
+                             // Deliberate: only the trace shows that the list was empty.
                              {"GetAvailableNetwork", ListNetworks, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
                              {"GetNetworkBss", ListBss, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
                              {"GetAvailableNetwork", ListNetworks, "WlanGetAvailableNetworkList", 1,

@@ -104,7 +104,7 @@ TEST_F(NetworkCountsTest, CountsANetworkOnceForEachMatchingProfile)
     EXPECT_EQ(7, manager().GetAvailableNetworkCount(&kAdapterA));
 }
 
-TEST_F(NetworkCountsTest, SilenceIsNoFailure)
+TEST_F(NetworkCountsTest, AnEmptyAirspaceIsNotAFailure)
 {
     UseWorld(SilentWorld());
     EXPECT_EQ(0, manager().GetAvailableNetworkCount(&kAdapterA));
@@ -141,7 +141,7 @@ TEST_F(NetworkCountsTest, CountsVisibleNetworksWithAStoredProfile)
     EXPECT_EQ(1, manager().GetConnectableNetworkCount(&kAdapterB)) << "CafeNet, which adapter B alone has a profile of";
 }
 
-TEST_F(NetworkCountsTest, CountsAProfileNameOnceForEachEntryThatItStandsOn)
+TEST_F(NetworkCountsTest, CountsAProfileNameOnceForEachOfItsEntries)
 {
     const AlteredAnswers altered({.networks = NameNetworks({L"Twin", L"Other", L"Twin", L"", L"Twin"}),
                                   .profiles = NameProfiles({L"Twin", L"Elsewhere"})});
@@ -176,7 +176,7 @@ TEST_F(NetworkCountsTest, NeitherSsidNorConnectableFlagDecides)
     EXPECT_EQ(6, manager().GetConnectableNetworkCount(&kAdapterA));
 }
 
-TEST_F(NetworkCountsTest, NoMatchIsNoFailure)
+TEST_F(NetworkCountsTest, NoMatchIsNotAFailure)
 {
     const AlteredAnswers altered({.networks = NameNetworks({})});
     EXPECT_EQ(0, manager().GetConnectableNetworkCount(&kAdapterA));

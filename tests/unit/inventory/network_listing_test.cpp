@@ -66,7 +66,7 @@ TEST_F(NetworkListingTest, TheDbmAreEstimatedFromTheQuality)
 
 TEST_F(NetworkListingTest, EveryAuthenticationHasItsText)
 {
-    // Deliberate: no blank behind RSNA with PSK.
+    // Deliberate: no blank after RSNA with PSK.
     const NamedValue rows[] = {{1, "802.11 Open (1)"},
                                {2, "802.11 Shared (2)"},
                                {3, "WPA (3)"},

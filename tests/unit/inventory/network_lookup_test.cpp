@@ -89,7 +89,7 @@ TEST_F(NetworkLookupTest, ComparesLengthAndBytesOfTheSsid)
     EXPECT_EQ(-4, Find("homenet"));
     EXPECT_EQ(-4, Find(std::string("HomeNet\0", 8))) << "a zero byte is a byte of the SSID";
     EXPECT_EQ(-4, Find("GoneNet"));
-    EXPECT_EQ(-4, Find("HiddenNet")) << "its beacons do not tell the SSID";
+    EXPECT_EQ(-4, Find("HiddenNet")) << "its beacons do not contain the SSID";
 }
 
 TEST_F(NetworkLookupTest, NotFoundIsTracedWithTheReleaseOnly)
@@ -140,7 +140,7 @@ TEST_F(NetworkLookupTest, AnSsidOf32BytesIsFoundAndALongerOneIsNot)
 
 // --- GetNotConnectableReason ---
 
-TEST_F(NetworkLookupTest, TellsThatANetworkCanBeJoined)
+TEST_F(NetworkLookupTest, ReportsThatANetworkCanBeJoined)
 {
     EXPECT_EQ(0, Explain("HomeNet"));
     EXPECT_EQ(1, m_connectable);
@@ -150,7 +150,7 @@ TEST_F(NetworkLookupTest, TellsThatANetworkCanBeJoined)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-TEST_F(NetworkLookupTest, TellsTheServicesReason)
+TEST_F(NetworkLookupTest, ReportsTheServicesReason)
 {
     const auto refuse = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     {

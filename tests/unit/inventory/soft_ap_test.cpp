@@ -164,7 +164,7 @@ TEST_F(SoftApTest, EmptyingTheVectorKeepsItsRoom)
     EXPECT_EQ(room, names.capacity());
 }
 
-TEST_F(SoftApTest, TheSsidEndsAtItsFirstZeroByteWhateverItsLength)
+TEST_F(SoftApTest, TheSsidEndsAtItsFirstZeroByte)
 {
     EXPECT_THAT(LenientList({std::string("LC\0#", 4), std::string("LC#\0Net", 7), std::string("\0LC#", 4)}),
                 ElementsAre("LC#"));
@@ -243,7 +243,7 @@ TEST_F(SoftApTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
 
 // --- SpecialSoftAP ---
 
-TEST_F(SoftApTest, TheProfileNameTells)
+TEST_F(SoftApTest, TheProfileNameDecides)
 {
     struct
     {
@@ -268,7 +268,7 @@ TEST_F(SoftApTest, TheNameEndsAtItsTerminatorOrWithTheRecord)
     EXPECT_TRUE(manager().SpecialSoftAP()) << "256 characters and no terminator";
 }
 
-TEST_F(SoftApTest, TheSsidDoesNotTell)
+TEST_F(SoftApTest, TheSsidDoesNotDecide)
 {
     const auto change = [](WLAN_INTF_OPCODE, PVOID data, DWORD&)
     { static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.dot11Ssid = MakeSsid("MyLC#Net"); };

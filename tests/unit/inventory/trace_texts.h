@@ -3,7 +3,7 @@
 namespace calvix::test
 {
 
-/// The trace lines of the methods that ask about networks and connections; "%u" stands for the platform's error.
+/// The trace lines of the methods about networks and connections; "%u" is the platform's error.
 inline constexpr const char* kOpenFailed = "WlanOpenHandle failed with error: %u";
 inline constexpr const char* kScanFailed = "WlanScan failed with error: %u";
 inline constexpr const char* kEnumFailed = "WlanEnumInterfaces failed with error: %u";
@@ -24,7 +24,7 @@ inline constexpr const char* kBssReleased = "WlanFreeMemory(pBssList)";
 inline constexpr const char* kConnectionReleased = "WlanFreeMemory(pConnectInfo)";
 inline constexpr const char* kRssiReleased = "WlanFreeMemory(pRssi)";
 
-/// A release as the call log tells it.
+/// A release in the call log.
 inline constexpr const char* kRelease = "WlanFreeMemory(memory=non-null)";
 
 } // namespace calvix::test

@@ -155,7 +155,7 @@ TEST_F(ProfileXmlTest, OnlyTheExactSsidTagIsFound)
     EXPECT_EQ(0, IsThisSsid(L"<SSID><name>A</Name></SSID>", L"A"));
 }
 
-TEST_F(ProfileXmlTest, WhatIsNoProfileIsOfNoSsid)
+TEST_F(ProfileXmlTest, OtherDocumentsHaveNoSsid)
 {
     EXPECT_EQ(0, IsThisSsid(L"", L"A"));
     EXPECT_EQ(0, IsThisSsid(L"", L""));
@@ -210,7 +210,7 @@ TEST_F(ProfileXmlTest, ModesOfTheProfilesThatTheServiceKeeps)
     EXPECT_EQ(-4, manager().IsAutoConnMode2(&kAdapterB, L"HomeNet"));
 }
 
-TEST_F(ProfileXmlTest, AStoredProfileWithoutAModeIsTold)
+TEST_F(ProfileXmlTest, AStoredProfileWithoutAModeIsReported)
 {
     simulation::Scenario scenario = DisconnectedWorld();
     std::string& xml = scenario.adapters[0].profiles[0].xml;

@@ -63,7 +63,7 @@ struct SlowRadio
     }
 };
 
-/// The calls of one phase: the switch, then polls, each in vain but the last with a pause behind it.
+/// The calls of one phase: the switch, then polls, each unsuccessful one followed by a pause.
 void AddPhase(std::vector<std::string>& calls, unsigned arrival, bool refused)
 {
     calls.push_back("WlanSetInterface");
@@ -96,7 +96,7 @@ public:
         AddPhase(expected, offAt, GetParam() == InVain::refusal);
         AddPhase(expected, onAt, GetParam() == InVain::refusal);
         EXPECT_EQ(expected, calls());
-        EXPECT_EQ(1000ms * (offAt + onAt), computer().Now() - before) << "a second after each poll in vain";
+        EXPECT_EQ(1000ms * (offAt + onAt), computer().Now() - before) << "a second after each unsuccessful poll";
         EXPECT_EQ(offAt + onAt, callCount("Sleep"));
         for (unsigned sleep = 1; sleep <= offAt + onAt; ++sleep)
             ASSERT_EQ("1000", call("Sleep", sleep)["milliseconds"]);

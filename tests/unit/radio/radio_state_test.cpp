@@ -93,7 +93,7 @@ const RadioMethod kMethods[] = {
 
 } // namespace
 
-// Only the state off counts as off; unknown and numbers nobody knows yet do not.
+// Only the state off counts as off; unknown and undefined numbers do not.
 TEST_F(RadioStateTest, OffIsWhatOneOfTheTwoSwitchesSays)
 {
     for (const unsigned software : {kUnknown, kOn, kOff, 3U})
@@ -158,7 +158,7 @@ TEST_F(RadioStateTest, TheInterfaceIsTheCallers)
     EXPECT_EQ(0, manager().PhyRadioIsOn(&kAdapterA));
 }
 
-// A radio that nobody can ask about is neither on nor off.
+// A radio whose state cannot be read is neither on nor off.
 TEST_F(RadioStateTest, EveryWayToFail)
 {
     for (const RadioMethod& method : kMethods)

@@ -47,7 +47,7 @@ long long OnByItsOtherName(CWirelessManage& manager)
 /// An error number of the service's own: it has the highest of its 32 bits set.
 constexpr unsigned kPowerState = 2150899714;
 
-/// TurnOnSoftwareRadio that has to tell the error of the row.
+/// TurnOnSoftwareRadio, which must return the error of the row.
 long long OnWithError(CWirelessManage& manager)
 {
     unsigned long error = kUnseen;
@@ -150,7 +150,7 @@ TEST_F(RadioSwitchTest, EveryWayForASwitchToFail)
                          });
 }
 
-TEST_F(RadioSwitchTest, LargeErrorsAreToldWhole)
+TEST_F(RadioSwitchTest, LargeErrorsAreReportedWhole)
 {
     FailOn("WlanSetInterface", 0x80342002);
     unsigned long error = kUnseen;
@@ -173,7 +173,7 @@ TEST_F(RadioSwitchTest, ResetPausesHalfASecondBetweenOffAndOn)
 }
 
 // Deliberate: what becomes of the two switches is only traced.
-TEST_F(RadioSwitchTest, ResetSwitchesOnThroughTheClientHandleAsItThenStands)
+TEST_F(RadioSwitchTest, ResetSwitchesOnThroughTheCurrentClientHandle)
 {
     const HANDLE before = ManagerInternals::Client();
     HANDLE other = nullptr;

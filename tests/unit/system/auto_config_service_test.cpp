@@ -78,7 +78,7 @@ TEST_F(AutoConfigServiceTest, GoesOnWithoutTheService)
     ExpectSilence();
 }
 
-TEST_F(AutoConfigServiceTest, StartsAServiceThatDoesNotTellItsState)
+TEST_F(AutoConfigServiceTest, StartsAServiceOfUnknownState)
 {
     FailOn("QueryServiceStatus");
     manager().CheckAutoConfig();

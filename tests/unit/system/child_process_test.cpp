@@ -179,7 +179,7 @@ TEST_F(ChildProcessTest, TheFolderOfTheHostIsWrittenDownAgain)
     EXPECT_STREQ("C:\\Tools\\", path);
 }
 
-TEST_F(ChildProcessTest, WithoutAFolderTheNameStandsAlone)
+TEST_F(ChildProcessTest, WithoutAFolderTheNameIsUsedAlone)
 {
     FailOn("GetModuleFileNameA", 126);
     EXPECT_EQ(0, RunProgram("worker.exe"));

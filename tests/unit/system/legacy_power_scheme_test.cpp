@@ -103,7 +103,7 @@ TEST_F(LegacyPowerSchemeTest, ThePolicyIsRememberedAsItWas)
     EXPECT_EQ(600u, Saved().user.IdleTimeoutDc);
 }
 
-// The record has many fields that are nobody's business here.
+// The record has many fields that do not matter here.
 TEST_F(LegacyPowerSchemeTest, NothingButTheIdleTimeoutsChanges)
 {
     POWER_POLICY full{};

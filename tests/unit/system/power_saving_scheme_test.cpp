@@ -91,7 +91,7 @@ TEST_F(PowerSavingSchemeTest, OnlyTheValuesForMainsPowerDifferFromTheCopied)
     EXPECT_EQ(UnlistedSchemes().power.schemes[1], Schemes()[1]) << "the copied scheme stays as it was";
 }
 
-// Deliberate: the name goes to the platform as it stands in memory, one byte a character.
+// Deliberate: the name goes to the platform as it is in memory, one byte per character.
 TEST_F(PowerSavingSchemeTest, TheNameIsHandedOverInEightBitCharacters)
 {
     constexpr char name[260] = "Super energy-saving";

@@ -62,7 +62,7 @@ TEST_F(PrivilegesTest, APrivilegeThatIsNotHeldCountsAsEnabled)
     ExpectSilence();
 }
 
-TEST_F(PrivilegesTest, APlatformWithoutTokensIsNoHindrance)
+TEST_F(PrivilegesTest, APlatformWithoutTokensIsAccepted)
 {
     simulation::Scenario world = RichWorld();
     world.tokens = false;
@@ -135,7 +135,7 @@ TEST_F(PrivilegesTest, APrivilegeThatIsNotHeldIsTheOnlyFailure)
 }
 
 // Deliberate: what there is not counts as enabled.
-TEST_F(PrivilegesTest, ANameThatIsNoPrivilegeCountsAsEnabled)
+TEST_F(PrivilegesTest, AnUnknownPrivilegeCountsAsEnabled)
 {
     for (const char* name : {"SeMakeCoffeePrivilege", "", "seshutdown privilege"})
     {

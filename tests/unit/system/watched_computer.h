@@ -1,6 +1,6 @@
 #pragma once
 
-// What the library hands over that the call log does not tell, seen on its way to the computer.
+// Arguments that the call log does not show, seen on their way to the computer.
 //
 //     WatchedComputer watched;
 //     watched.watchedPower.written = [](UINT scheme, const POWER_POLICY& policy) { ... };
@@ -22,7 +22,7 @@ struct PowerWatch
     std::function<void(const UCHAR*, DWORD)> named;
     /// Edits what was read.
     std::function<void(POWER_POLICY&)> read;
-    /// Sees what stands where the GUID of the copy is to go.
+    /// Sees the memory that receives the GUID of the copy.
     std::function<void(const GUID*)> duplicated;
     /// Sees the buffer of a question before it is asked, and may answer it; a status other than 0 is the answer.
     std::function<NTSTATUS(PVOID, ULONG)> queried;

@@ -20,7 +20,7 @@ constexpr bool kFromStart = true;
 class HexTextTest : public LibraryTest
 {
 protected:
-    /// The bytes of a destination of `length` places, as upper-case digits, and whether the guard behind them stood.
+    /// The bytes of a destination of `length` places, as upper-case digits, and whether the guard after them is intact.
     std::string ToHex(const std::string& text, int length, bool reversed)
     {
         std::vector<unsigned char> room(static_cast<std::size_t>(length) + 1, 0x5A);
@@ -97,7 +97,7 @@ TEST_F(HexTextTest, TextBecomesBytes)
     EXPECT_THAT(timeline(), IsEmpty());
 }
 
-// Kept on purpose: what is no hexadecimal digit gives whatever the arithmetic gives, modulo 256.
+// Deliberate: other characters than hexadecimal digits give the result of the arithmetic, modulo 256.
 TEST_F(HexTextTest, OtherCharactersGiveBytesToo)
 {
     const struct
@@ -188,7 +188,7 @@ TEST_F(HexTextTest, BytesBecomeTextFromTheStart)
     EXPECT_EQ("0A0.######", ToText({0x0A}, 4, kFromStart));
 }
 
-// Kept on purpose: from the start all digits are written whatever the capacity says.
+// Deliberate: from the start all digits are written, whatever the capacity.
 TEST_F(HexTextTest, FromTheStartTheCapacityDoesNotCut)
 {
     EXPECT_EQ("010203####", ToText({1, 2, 3}, 4, kFromStart));

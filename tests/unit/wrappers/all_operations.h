@@ -10,7 +10,7 @@
 namespace calvix::test
 {
 
-/// Every operation of the platform, with null for whatever it takes; `call` gives the result as a number.
+/// Every operation of the platform, with null for all arguments; `call` gives the result as a number.
 struct Operation
 {
     const char* name;

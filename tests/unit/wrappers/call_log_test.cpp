@@ -102,7 +102,7 @@ TEST_F(CallLogTest, QuotesSsidsWithTheirLength)
     EXPECT_EQ("false", m_log.Calls().at(1)["securityEnabled"]);
 }
 
-TEST_F(CallLogTest, TellsRecordSizesByName)
+TEST_F(CallLogTest, ShowsRecordSizesByName)
 {
     DWORD size = sizeof(WLAN_CONNECTION_ATTRIBUTES);
     wlan().WlanQueryInterface(m_client, nullptr, wlan_intf_opcode_current_connection, nullptr, &size, nullptr, nullptr);
@@ -117,7 +117,7 @@ TEST_F(CallLogTest, TellsRecordSizesByName)
     EXPECT_THAT(Line(), ::testing::HasSubstr("opcode=805306369, reserved=null, dataSize=null"));
 }
 
-TEST_F(CallLogTest, TellsWhatAnInterfaceIsSetTo)
+TEST_F(CallLogTest, ShowsWhatAnInterfaceIsSetTo)
 {
     WLAN_PHY_RADIO_STATE radio{};
     radio.dwPhyIndex = 2;
@@ -136,7 +136,7 @@ TEST_F(CallLogTest, TellsWhatAnInterfaceIsSetTo)
     EXPECT_THAT(Line(), ::testing::HasSubstr("data=non-null,")) << "never read past the given size";
 }
 
-TEST_F(CallLogTest, TellsConnectionParameters)
+TEST_F(CallLogTest, ShowsConnectionParameters)
 {
     DOT11_SSID ssid = MakeSsid("Net");
     struct
@@ -165,7 +165,7 @@ TEST_F(CallLogTest, TellsConnectionParameters)
                                      "bssids=[00:11:22:33:44:55 AA:BB:CC:DD:EE:FF], bssType=infrastructure, flags=1}"));
 }
 
-TEST_F(CallLogTest, TellsProfileNamesAndPresetNumbers)
+TEST_F(CallLogTest, ShowsProfileNamesAndPresetNumbers)
 {
     DWORD flags = 4;
     DWORD access = 0x20001;
@@ -176,7 +176,7 @@ TEST_F(CallLogTest, TellsProfileNamesAndPresetNumbers)
               Line());
 }
 
-TEST_F(CallLogTest, TellsTextByItsLength)
+TEST_F(CallLogTest, ShowsTextByItsLength)
 {
     m_layer.text().MultiByteToWideChar(0, 8, "abcdef", 3, nullptr, 0);
     EXPECT_EQ("MultiByteToWideChar(codePage=0, flags=8, source=\"abc\", sourceLength=3, destination=null, "
@@ -188,7 +188,7 @@ TEST_F(CallLogTest, TellsTextByItsLength)
               Line());
 }
 
-TEST_F(CallLogTest, TellsWhatTheComputerIsAskedFor)
+TEST_F(CallLogTest, ShowsWhatTheComputerIsAskedFor)
 {
     DWORD timeout = 3000;
     m_layer.internet().InternetSetOptionA(nullptr, 2, &timeout, sizeof timeout);

@@ -10,7 +10,7 @@
 namespace calvix::test
 {
 
-/// A provider behind which there is nothing: every call is noted by name, succeeds, and answers with a number of its
+/// A provider without a computer: every call is noted by name, succeeds, and answers with a number of its
 /// own (error numbers and NTSTATUS included), so that a forwarding layer can be seen to forward to the right operation.
 class FakePlatform final : public platform::Platform
 {

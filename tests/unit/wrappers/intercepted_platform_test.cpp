@@ -23,7 +23,7 @@ using wrappers::InterceptorChain;
 namespace
 {
 
-/// Notes what it is told, and fails what it is told to fail.
+/// Notes the calls, and fails the selected ones.
 class Spy final : public Interceptor
 {
 public:
@@ -78,7 +78,7 @@ TEST(InterceptedPlatform, ForwardsEveryOperationToItsNamesakeAndItsResultBack)
         EXPECT_THAT(inner.called(), ElementsAre(operation.name));
         EXPECT_THAT(spy.before, ElementsAre(operation.name));
         EXPECT_THAT(spy.after, ElementsAre(operation.name));
-        EXPECT_EQ(0u, spy.arguments) << "nobody wanted arguments";
+        EXPECT_EQ(0u, spy.arguments) << "no arguments were requested";
     }
 }
 
@@ -169,7 +169,7 @@ TEST(InterceptedPlatform, ForgetsAnInjectedLastErrorAtAnyKindOfOperation)
     }
 }
 
-TEST(InterceptedPlatform, TellsTheResultAfterACall)
+TEST(InterceptedPlatform, ReportsTheResultAfterACall)
 {
     FakePlatform inner;
     Spy spy;
