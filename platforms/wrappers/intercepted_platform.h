@@ -1,14 +1,10 @@
 #pragma once
 
-#include "operations/answered.h"
-#include "wrappers/argument_texts.h"
+#include "platform/platform.h"
 #include "wrappers/handle_numbers.h"
 #include "wrappers/interceptor.h"
 
 #include <atomic>
-#include <cstdint>
-#include <optional>
-#include <type_traits>
 
 namespace calvix::wrappers
 {
@@ -22,101 +18,28 @@ namespace calvix::wrappers
 class InterceptedPlatform final : public platform::Platform
 {
 public:
-    InterceptedPlatform(platform::Platform& inner, Interceptor& interceptor)
-        : Platform(operations::AnsweredBy(*this)), m_inner(inner), m_interceptor(interceptor)
-    {
-    }
+    InterceptedPlatform(platform::Platform& inner, Interceptor& interceptor);
     InterceptedPlatform(const InterceptedPlatform&) = delete;
     InterceptedPlatform& operator=(const InterceptedPlatform&) = delete;
 
     /// Where each of the operations arrives.
     template <typename Description, typename... Arguments>
-    typename Description::Result Answer(const Description& operation, Arguments... arguments)
-    {
-        using Result = typename Description::Result;
-        const Call call = CallOf(operation, arguments...);
-        const std::optional<DWORD> error = m_interceptor.Before(call);
-        if constexpr (std::is_void_v<Result>)
-        {
-            m_lastError = kNone;
-            (m_inner.*Description::member)(arguments...);
-            m_interceptor.After(call, 0);
-        }
-        else
-        {
-            const Result result = error && operation.fails != operations::Fails::never
-                                      ? Fail<Result>(operation, *error)
-                                      : Forward(operation, arguments...);
-            m_interceptor.After(call, AsNumber(result));
-            return result;
-        }
-    }
+    typename Description::Result Answer(const Description& operation, Arguments... arguments);
 
 private:
-    static constexpr long long kNone = -1;
-
-    template <typename Description>
-    static constexpr bool isLastError = std::is_same_v<typename Description::Facility, platform::LastError>;
+    template <typename Description, typename... Arguments>
+    Call CallOf(const Description& operation, const Arguments&... arguments);
 
     template <typename Description, typename... Arguments>
-    Call CallOf(const Description& operation, const Arguments&... arguments)
-    {
-        Call call{operation.name, {}, &operation};
-        if (!m_interceptor.WantsArguments())
-            return call;
-        call.arguments.reserve(sizeof...(arguments));
-        operations::ForEachArgument(
-            operation, std::tie(arguments...),
-            [&](const auto& role, const auto& argument, const auto& place) {
-                call.arguments.push_back({role.name, ArgumentText(role, argument, place, m_numbers)});
-            });
-        return call;
-    }
-
-    template <typename Description, typename... Arguments>
-    typename Description::Result Forward(const Description&, Arguments... arguments)
-    {
-        const long long error = m_lastError;
-        if constexpr (isLastError<Description>)
-        {
-            if (error != kNone)
-                return static_cast<DWORD>(error);
-        }
-        else
-            m_lastError = kNone;
-        return (m_inner.*Description::member)(arguments...);
-    }
+    typename Description::Result Forward(const Description& operation, Arguments... arguments);
 
     template <typename Result, typename Description>
-    Result Fail(const Description& operation, DWORD error)
-    {
-        using operations::Fails;
-        if constexpr (!isLastError<Description>)
-            m_lastError = kNone;
-        if constexpr (std::is_integral_v<Result>)
-        {
-            if (operation.fails == Fails::withErrorNumber)
-                return static_cast<Result>(error);
-            if (operation.fails == Fails::withStatus)
-                return static_cast<Result>(static_cast<std::int32_t>(error));
-        }
-        m_lastError = static_cast<long long>(error);
-        return operations::FailedResult<Result>(operation.fails);
-    }
-
-    template <typename Result>
-    static long long AsNumber(Result result)
-    {
-        if constexpr (std::is_pointer_v<Result>)
-            return result != nullptr ? 1 : 0;
-        else
-            return static_cast<long long>(result);
-    }
+    Result Fail(const Description& operation, DWORD error);
 
     platform::Platform& m_inner;
     Interceptor& m_interceptor;
     HandleNumbers m_numbers;
-    std::atomic<long long> m_lastError{kNone};
+    std::atomic<long long> m_lastError; ///< what a failure left, or kNone
 };
 
 } // namespace calvix::wrappers
