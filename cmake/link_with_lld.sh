@@ -17,4 +17,4 @@ for argument in "$@"; do
         *) [ -n "$skip" ] || set -- "$@" "$argument"; skip= ;;
     esac
 done
-exec ld.lld "$@"
+exec ld.lld --stack 2097152 "$@" # the other linker's; its own is half of that
