@@ -1,11 +1,42 @@
 #include "host/host.h"
 
 #include "core/wlan_records.h"
-#include "host/adapter_choice.h"
 #include "output/text_forms.h"
+
+#include <algorithm>
+#include <cctype>
 
 namespace calvix::host
 {
+
+namespace
+{
+
+/// Whether both texts are the same GUID, with braces or without, in letters of any case.
+bool SameGuidText(std::string_view left, std::string_view right)
+{
+    const auto letters = [](std::string_view text)
+    {
+        std::string kept;
+        for (const char c : text)
+            if (c != '{' && c != '}')
+                kept += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        return kept;
+    };
+    return letters(left) == letters(right);
+}
+
+/// The place, from 0, of a number from 1 to `count`; none for any other text.
+std::optional<std::size_t> PlaceOf(const std::string& text, std::size_t count)
+{
+    const bool digits = std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    if (text.empty() || text.size() > 3 || !digits)
+        return std::nullopt;
+    const auto number = static_cast<std::size_t>(std::stoul(text));
+    return number >= 1 && number <= count ? std::optional(number - 1) : std::nullopt;
+}
+
+} // namespace
 
 Host::Host(
     const CommonOptions& options, std::istream& in, std::ostream& out, std::ostream& err, TerminalTraits terminal)

@@ -52,14 +52,6 @@ auto CopyOf(const List& list)
 
 } // namespace
 
-std::vector<HeardAccessPoint> ReadAccessPoints(const WLAN_BSS_LIST& list)
-{
-    std::vector<HeardAccessPoint> heard;
-    for (const WLAN_BSS_ENTRY& entry : Items(list))
-        heard.push_back({entry, ElementsOf(list, entry)});
-    return heard;
-}
-
 ServiceView::ServiceView()
 {
     DWORD version = 0;
@@ -91,7 +83,10 @@ std::vector<HeardAccessPoint> ServiceView::AccessPoints(const GUID* adapter)
     BssList list;
     Require("WlanGetNetworkBssList", wlan().WlanGetNetworkBssList(m_client, adapter, nullptr, dot11_BSS_type_any, FALSE,
                                                                   nullptr, list.Receive()));
-    return ReadAccessPoints(*list);
+    std::vector<HeardAccessPoint> heard;
+    for (const WLAN_BSS_ENTRY& entry : Items(*list))
+        heard.push_back({entry, ElementsOf(*list, entry)});
+    return heard;
 }
 
 void ServiceView::AccessPointsOf(const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& list)

@@ -17,9 +17,6 @@ struct HeardAccessPoint
     std::vector<std::uint8_t> elements;
 };
 
-/// The entries of a list, each with its elements.
-std::vector<HeardAccessPoint> ReadAccessPoints(const WLAN_BSS_LIST& list);
-
 /// The WLAN service as this program looks at it, through a client handle of its own: the lists for the library's
 /// counts and matches. A refused operation is a Failure in words; a missing connection is not one.
 class ServiceView

@@ -13,8 +13,7 @@ namespace
 
 constexpr unsigned kMillisecondsBetweenSamples = 1000;
 
-} // namespace
-
+/// Keeps the access point among those heard, as it was heard last.
 void NoteHeard(std::vector<AirAccessPoint>& heard, const AirAccessPoint& point)
 {
     const auto known =
@@ -47,9 +46,6 @@ void NoteEvent(HistoryFacts& history, const SignalFacts& before, const SignalSam
     }
     history.events.push_back(event);
 }
-
-namespace
-{
 
 void AddSample(Host& host, HistoryFacts& history, unsigned second)
 {

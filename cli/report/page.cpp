@@ -16,20 +16,11 @@ namespace calvix::host
 namespace
 {
 
-std::string OriginText(const RecordingFacts& recording)
-{
-    return "from the recording " + VisibleText(recording.file) +
-           (recording.simulated ? ", of a simulated computer" : "") +
-           (recording.anonymised ? ", with invented names" : "");
-}
-
 std::string SubtitleText(const ReportFacts& report)
 {
     std::string text = report.status ? VisibleText(report.status->adapter.description) : std::string();
     if (!report.heardAt.empty())
         text += (text.empty() ? "" : " \xc2\xb7 ") + ("heard until " + report.heardAt);
-    if (report.recording)
-        text += (text.empty() ? "" : " \xc2\xb7 ") + OriginText(*report.recording);
     return EscapeHtml(text);
 }
 
@@ -59,7 +50,7 @@ std::string ReportPage(const ReportFacts& report)
                                         {"nonce", Nonce(data)},
                                         {"script", kPageScript},
                                         {"data", data},
-                                        {"missing", MissingParts(report) + UnrecordedParts(report)},
+                                        {"missing", MissingParts(report)},
                                         {"keys", KeyFacts(report)},
                                         {"spectrum", SpectrumPicture(report)},
                                         {"signal", SignalSection(report)},

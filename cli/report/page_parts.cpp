@@ -14,8 +14,6 @@ namespace calvix::host
 namespace
 {
 
-constexpr const char* kNotRecorded = "<p>Not recorded.</p>\n";
-
 std::string Named(const char* name, const std::string& html)
 {
     return "<div><dt>" + std::string(name) + "</dt><dd>" + html + "</dd></div>";
@@ -155,18 +153,6 @@ std::string MissingParts(const ReportFacts& report)
            html + "</ul></section>\n";
 }
 
-std::string UnrecordedParts(const ReportFacts& report)
-{
-    if (!report.recording || report.recording->notRecorded.empty())
-        return {};
-    std::string html =
-        "<section class=\"missing\" aria-labelledby=\"unrecorded\"><h2 id=\"unrecorded\">What the recording does not "
-        "contain</h2>\n<ul>\n";
-    for (const std::string& unrecorded : report.recording->notRecorded)
-        html += "<li>" + EscapeHtml(unrecorded) + "</li>\n";
-    return html + "</ul></section>\n";
-}
-
 std::string KeyFacts(const ReportFacts& report)
 {
     std::string html;
@@ -201,9 +187,8 @@ std::string AccessPointRows(const ReportFacts& report)
         rows += AccessPointRow(point);
     if (rows.empty())
         return "<tr><td colspan=\"10\">" +
-               std::string(report.airKnown    ? "No access point is in view."
-                           : report.recording ? "The access points in view were not recorded."
-                                              : "The access points in view are not known.") +
+               std::string(report.airKnown ? "No access point is in view."
+                                           : "The access points in view are not known.") +
                "</td></tr>\n";
     return rows;
 }
@@ -211,7 +196,7 @@ std::string AccessPointRows(const ReportFacts& report)
 std::string AdapterItems(const ReportFacts& report)
 {
     if (report.adapters.empty())
-        return report.recording && !report.recording->hasAdapters ? kNotRecorded : "<p>No adapter is known.</p>\n";
+        return "<p>No adapter is known.</p>\n";
     std::string html = "<ul class=\"adapters\">\n";
     for (const AdapterFacts& adapter : report.adapters)
     {
@@ -227,7 +212,7 @@ std::string AdapterItems(const ReportFacts& report)
 std::string ConnectionItems(const ReportFacts& report)
 {
     if (!report.status)
-        return report.recording ? kNotRecorded : "<p>Not known.</p>\n";
+        return "<p>Not known.</p>\n";
     if (!report.status->connection)
         return "<p>There is no connection.</p>\n";
     const ConnectionFacts& connection = *report.status->connection;
@@ -245,7 +230,7 @@ std::string ConnectionItems(const ReportFacts& report)
 std::string ProfileItems(const ReportFacts& report)
 {
     if (report.profiles.empty())
-        return report.recording && !report.recording->hasProfiles ? kNotRecorded : "<p>No profile is stored.</p>\n";
+        return "<p>No profile is stored.</p>\n";
     const std::string connected =
         report.status && report.status->connection ? report.status->connection->profile : std::string();
     std::string html = "<ol class=\"profiles\">\n";
@@ -263,9 +248,6 @@ std::string ProfileItems(const ReportFacts& report)
 
 std::string ChoiceTable(const ReportFacts& report)
 {
-    if (report.recording)
-        return "<p>Not shown: they decide by the computer's answers, which the recording does not "
-               "contain.</p>\n";
     if (report.choices.empty())
         return "<p>Not known.</p>\n";
     std::string html =

@@ -11,8 +11,6 @@ namespace calvix::host
 
 /// What could not be found out and what to do about it; empty where nothing is missing.
 std::string MissingParts(const ReportFacts& report);
-/// What the recording does not contain; empty if the picture shows this computer.
-std::string UnrecordedParts(const ReportFacts& report);
 /// The most important numbers.
 std::string KeyFacts(const ReportFacts& report);
 /// The rows of the table of the access points.

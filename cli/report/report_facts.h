@@ -65,18 +65,6 @@ struct MissingPart
     FailureReport failure;
 };
 
-/// The recording that the picture was made of.
-struct RecordingFacts
-{
-    std::string file; ///< its name, without the folders
-    bool simulated = false;
-    bool anonymised = false;
-    std::vector<std::string> notRecorded; ///< what it does not contain, in sentences
-    std::string incomplete;               ///< where it ends too early: "session.jsonl:12: ..."; empty: it is complete
-    bool hasAdapters = false;
-    bool hasProfiles = false;
-};
-
 /// Everything that the page shows.
 struct ReportFacts
 {
@@ -91,7 +79,6 @@ struct ReportFacts
     std::vector<ChoiceFacts> choices;
     HistoryFacts history;
     std::vector<MissingPart> missing;
-    std::optional<RecordingFacts> recording; ///< none: the picture is of this computer
 };
 
 } // namespace calvix::host

@@ -59,15 +59,6 @@ JsonRecord Describe(const MissingPart& missing)
         .Add("exitCode", static_cast<int>(missing.failure.exitCode));
 }
 
-JsonRecord Describe(const RecordingFacts& recording)
-{
-    return JsonRecord("The recording that the page shows; null: the page shows this computer")
-        .Add("file", recording.file)
-        .Add("simulated", recording.simulated)
-        .Add("anonymised", recording.anonymised)
-        .Add("notRecorded", recording.notRecorded, {"What it does not contain, in sentences"});
-}
-
 namespace
 {
 
@@ -119,8 +110,7 @@ JsonRecord Describe(const ReportFacts& report)
                             {"type", "object"},
                             {"additionalProperties", {{"type", "array"}, {"items", rssi}}}}})
         .Add("events", report.history.events)
-        .Add("missing", report.missing)
-        .Add("recording", report.recording);
+        .Add("missing", report.missing);
 }
 
 std::string ReportJson(const ReportFacts& report)

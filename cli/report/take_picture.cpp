@@ -1,5 +1,6 @@
 #include "report/take_picture.h"
 
+#include "host/service_view.h"
 #include "view/candidates.h"
 #include "view/describe.h"
 #include "view/profiles.h"
@@ -83,22 +84,6 @@ void TakeAccessPoints(Host& host, ReportFacts& report)
 {
     report.accessPoints = ListAir(host);
     report.airKnown = true;
-    ArrangePicture(report);
-}
-
-} // namespace
-
-AirAccessPoint DescribeHeard(const HeardAccessPoint& heard)
-{
-    AirAccessPoint point;
-    point.facts = DescribeAccessPoint(heard.entry);
-    point.beacon = ReadBeacon(heard.entry, heard.elements);
-    point.hostTime = heard.entry.ullHostTimestamp;
-    return point;
-}
-
-void ArrangePicture(ReportFacts& report)
-{
     std::uint64_t newest = 0;
     for (AirAccessPoint& point : report.accessPoints)
     {
@@ -111,11 +96,19 @@ void ArrangePicture(ReportFacts& report)
     Arrange(report.accessPoints);
 }
 
+} // namespace
+
 std::vector<AirAccessPoint> ListAir(Host& host)
 {
     std::vector<AirAccessPoint> air;
     for (const HeardAccessPoint& heard : host.service().AccessPoints(host.adapterGuid()))
-        air.push_back(DescribeHeard(heard));
+    {
+        AirAccessPoint point;
+        point.facts = DescribeAccessPoint(heard.entry);
+        point.beacon = ReadBeacon(heard.entry, heard.elements);
+        point.hostTime = heard.entry.ullHostTimestamp;
+        air.push_back(point);
+    }
     return air;
 }
 

@@ -20,12 +20,6 @@ SsidFacts DescribeSsid(const DOT11_SSID& ssid)
     return {SsidText(ssid), HexText(SsidBytes(ssid))};
 }
 
-std::string StateText(unsigned long state)
-{
-    const std::string_view text = InterfaceStateText(state);
-    return text.empty() ? "unknown(" + std::to_string(state) + ")" : std::string(text);
-}
-
 AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number)
 {
     AdapterFacts facts;
@@ -33,7 +27,8 @@ AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number)
     facts.guid = forms::GuidText(info.InterfaceGuid);
     facts.description = Narrow(FixedText(info.strInterfaceDescription));
     facts.state = static_cast<unsigned>(info.isState);
-    facts.stateText = StateText(facts.state);
+    const std::string_view text = InterfaceStateText(facts.state);
+    facts.stateText = text.empty() ? "unknown(" + std::to_string(facts.state) + ")" : std::string(text);
     return facts;
 }
 

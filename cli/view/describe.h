@@ -9,8 +9,6 @@ namespace calvix::host
 
 /// From the platform's records to what is shown of them.
 
-/// "connected", or the number of a state that has no name.
-std::string StateText(unsigned long state);
 SsidFacts DescribeSsid(const DOT11_SSID& ssid);
 AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number);
 NetworkFacts DescribeNetwork(const WLAN_AVAILABLE_NETWORK& network);

@@ -15,7 +15,6 @@ struct Entity
     std::string_view text;
 };
 
-/// The ampersand comes last: what it escapes may look like another entity.
 constexpr Entity kEntities[] = {{'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&apos;"}, {'&', "&amp;"}};
 
 } // namespace
@@ -34,14 +33,6 @@ std::string EscapedXml(std::string_view text)
             escaped += character;
     }
     return escaped;
-}
-
-std::string UnescapedXml(std::string text)
-{
-    for (const Entity& entity : kEntities)
-        for (std::size_t at = text.find(entity.text); at != std::string::npos; at = text.find(entity.text, at + 1))
-            text.replace(at, entity.text.size(), 1, entity.character);
-    return text;
 }
 
 } // namespace calvix::forms

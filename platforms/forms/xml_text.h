@@ -8,6 +8,5 @@ namespace calvix::forms
 
 /// Text as written in an element or an attribute, with the five entities that XML has by itself.
 std::string EscapedXml(std::string_view text);
-std::string UnescapedXml(std::string text);
 
 } // namespace calvix::forms

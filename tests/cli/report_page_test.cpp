@@ -42,6 +42,12 @@ json DataOf(const std::string& page)
     return json::parse(Between(page, "<script type=\"application/json\" id=\"data\">", "</script>"));
 }
 
+std::vector<std::string> With(std::vector<std::string> command, const std::vector<std::string>& more)
+{
+    command.insert(command.end(), more.begin(), more.end());
+    return command;
+}
+
 class ReportPage : public CliTest
 {
 protected:
@@ -226,17 +232,40 @@ TEST_F(ReportPage, MarksTheRoamsOfTheOfficeWalk)
     EXPECT_EQ(kBadInput, Run({"report", "-o", "-", "--roam", "1", "--scenario", kWalk}).exitCode);
 }
 
-TEST_F(ReportPage, IsMadeOfARecordingToo)
+TEST_F(ReportPage, OfARecordedWalkIsTheSamePage)
 {
     const std::string recording = PathFor("session.jsonl");
-    std::vector<std::string> command = {"report", "-o", "-", "--for", "5", "--roam", "1"};
-    std::vector<std::string> recorded = command;
-    recorded.insert(recorded.end(), {"--scenario", kWalk, "--record", recording});
-    const std::string page = Run(recorded).out;
-    command.insert(command.end(), {"--replay", recording});
-    const Outcome replayed = Run(command);
+    const std::vector<std::string> walk = {"report", "-o", "-", "--for", "240", "--roam", "1"};
+    const std::string page = Run(With(walk, {"--scenario", kWalk, "--record", recording})).out;
+    const Outcome replayed = Run(With(walk, {"--replay", recording}));
     EXPECT_EQ(kSuccess, replayed.exitCode) << replayed.err;
     EXPECT_EQ(page, replayed.out);
+}
+
+TEST_F(ReportPage, OfAnotherCommandsRecordingIsNotWritten)
+{
+    const std::string recording = PathFor("session.jsonl");
+    const std::string page = FileWith("air.html", "an earlier page");
+    Run({"watch", "--for", "5", "--roam", "1", "--scenario", kWalk, "--record", recording});
+    const Outcome outcome = Run({"report", "-o", page, "--for", "5", "--roam", "1", "--replay", recording});
+    EXPECT_EQ(static_cast<int>(host::ExitCode::differs), outcome.exitCode);
+    EXPECT_THAT(outcome.err, HasSubstr("replay the recorded command with the same options"));
+    EXPECT_EQ("", outcome.out);
+    EXPECT_EQ("an earlier page", Content(page));
+}
+
+TEST_F(ReportPage, OfAnAnonymisedWalkHasNoNamesAndAllElse)
+{
+    const std::string recording = PathFor("session.jsonl");
+    const std::vector<std::string> walk = {"report", "-o", "-", "--for", "240", "--roam", "1"};
+    Run(With(walk, {"--scenario", kWalk, "--record", recording, "--anonymise"}));
+    const std::string page = Run(With(walk, {"--replay", recording})).out;
+    EXPECT_THAT(page, Not(HasSubstr("Brightwater")));
+    const json data = DataOf(page);
+    EXPECT_EQ(241u, data["samples"].size());
+    EXPECT_EQ(2u, data["events"].size());
+    EXPECT_EQ(4u, data["accessPoints"].size()) << "three in view, one gone";
+    EXPECT_EQ("WPA2-PSK/CCMP", data["status"]["connection"]["security"]);
 }
 
 TEST_F(ReportPage, IsWrittenToAFile)
