@@ -14,7 +14,7 @@ struct AnsweredOperation<facility, index, Object, platform::Operation<R(Paramete
 {
     static R Call(void* object, Parameters... arguments)
     {
-        return static_cast<Object*>(object)->Answer(std::get<index>(facility), arguments...);
+        return static_cast<Object*>(object)->Answer(At<index>(facility), arguments...);
     }
 };
 
@@ -22,12 +22,12 @@ template <typename Facility, const auto& descriptions, typename Object>
 Facility AnsweredFacility(Object& object)
 {
     using Descriptions = std::remove_cvref_t<decltype(descriptions)>;
-    constexpr std::size_t count = std::tuple_size_v<Descriptions>;
+    constexpr std::size_t count = Descriptions::size;
     static_assert(sizeof(Facility) == count * sizeof(platform::Operation<void()>),
                   "every operation of a facility has a description");
     const auto answered = [&object]<std::size_t index>(std::integral_constant<std::size_t, index>)
     {
-        using Description = std::tuple_element_t<index, Descriptions>;
+        using Description = std::remove_cvref_t<decltype(At<index>(descriptions))>;
         using Operation = std::remove_cvref_t<decltype(std::declval<Facility&>().*Description::member)>;
         return Operation(&AnsweredOperation<descriptions, index, Object, Operation>::Call, &object);
     };

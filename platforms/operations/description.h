@@ -1,9 +1,9 @@
 #pragma once
 
 #include "operations/roles.h"
+#include "operations/row.h"
 
 #include <cstddef>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -49,7 +49,7 @@ struct Description : Facts
         return index;
     }
 
-    std::tuple<Roles...> roles;
+    Row<Roles...> roles;
 };
 
 constexpr Facility FacilityOf(const platform::WlanService*)
@@ -99,7 +99,7 @@ constexpr Description<operation, Roles...> Describe(const char* name, Fails fail
     using Member = MemberOperation<decltype(operation)>;
     static_assert(sizeof...(Roles) == Member::parameterCount, "a description has one role for each parameter");
     constexpr auto facility = FacilityOf(static_cast<const typename Member::Facility*>(nullptr));
-    return {{name, facility, fails, (Roles::tellsNames || ... || false)}, {roles...}};
+    return {{name, facility, fails, (Roles::tellsNames || ... || false)}, Row<Roles...>(roles...)};
 }
 
 /// The place of an argument for those that do not look at the other arguments, one type for all calls.
@@ -112,35 +112,33 @@ template <typename Operation, std::size_t index, typename... Values>
 class Place : public AnyPlace
 {
 public:
-    explicit Place(const std::tuple<Values&...>& values) : m_values(values) {}
+    explicit Place(const Row<Values&...>& values) : m_values(values) {}
 
     /// The argument before or after, or further away.
     template <int offset>
     auto& Neighbour() const
     {
-        return std::get<static_cast<std::size_t>(static_cast<int>(index) + offset)>(m_values);
+        return At<static_cast<std::size_t>(static_cast<int>(index) + offset)>(m_values);
     }
 
     /// The argument of a role that only one of them has.
     template <typename Role>
     auto& Of() const
     {
-        return std::get<Operation::template IndexOf<Role>()>(m_values);
+        return At<Operation::template IndexOf<Role>()>(m_values);
     }
 
 private:
-    const std::tuple<Values&...>& m_values;
+    const Row<Values&...>& m_values;
 };
 
 /// Calls `visit(role, argument, place)` for every argument of a call, in their order.
 template <auto operation, typename... Roles, typename... Values, typename Visit>
-void ForEachArgument(const Description<operation, Roles...>& description,
-                     const std::tuple<Values&...>& values,
-                     Visit visit)
+void ForEachArgument(const Description<operation, Roles...>& description, const Row<Values&...>& values, Visit visit)
 {
     [&]<std::size_t... index>(std::index_sequence<index...>)
     {
-        (visit(std::get<index>(description.roles), std::get<index>(values),
+        (visit(At<index>(description.roles), At<index>(values),
                Place<Description<operation, Roles...>, index, Values...>(values)),
          ...);
     }

@@ -23,7 +23,7 @@ using platform::WlanService;
 // As few lines for an operation as it takes.
 // clang-format off
 
-inline constexpr std::tuple kWlanService{
+inline constexpr Row kWlanService{
     Describe<&WlanService::WlanOpenHandle>("WlanOpenHandle", Fails::withErrorNumber, Number("clientVersion"),
         Reserved(), NumberOut("negotiatedVersion"), HandleOut<HandleFamily::client>("client")),
     Describe<&WlanService::WlanCloseHandle>("WlanCloseHandle", Fails::withErrorNumber, Client(), Reserved()),
@@ -69,7 +69,7 @@ inline constexpr std::tuple kWlanService{
     Describe<&WlanService::WlanFreeMemory>("WlanFreeMemory", Fails::never, Block("memory")),
 };
 
-inline constexpr std::tuple kServiceControl{
+inline constexpr Row kServiceControl{
     Describe<&ServiceControl::OpenSCManagerA>("OpenSCManagerA", Fails::withNothing, Text("machine"), Text("database"),
         Number("access")),
     Describe<&ServiceControl::OpenServiceA>("OpenServiceA", Fails::withNothing, Service("manager"), Text("name"),
@@ -81,7 +81,7 @@ inline constexpr std::tuple kServiceControl{
     Describe<&ServiceControl::CloseServiceHandle>("CloseServiceHandle", Fails::withNothing, Service("handle")),
 };
 
-inline constexpr std::tuple kPower{
+inline constexpr Row kPower{
     Describe<&Power::CallNtPowerInformation>("CallNtPowerInformation", Fails::withStatus, Opcode("level"),
         Bytes<after>("input"), UnrecordedNumber("inputSize"), InformationOut("output"), InformationRoom("outputSize")),
     Describe<&Power::GetActivePwrScheme>("GetActivePwrScheme", Fails::withNothing, NumberOut("schemeId")),
@@ -116,7 +116,7 @@ inline constexpr std::tuple kPower{
     Describe<&Power::LocalFree>("LocalFree", Fails::never, Block("memory")),
 };
 
-inline constexpr std::tuple kSecurity{
+inline constexpr Row kSecurity{
     Describe<&Security::OpenProcessToken>("OpenProcessToken", Fails::withNothing, Object("process"), Number("access"),
         HandleOut<HandleFamily::object>("token")),
     Describe<&Security::LookupPrivilegeValueA>("LookupPrivilegeValueA", Fails::withNothing, Text("system"),
@@ -126,7 +126,7 @@ inline constexpr std::tuple kSecurity{
         NumberOut("returnLength")),
 };
 
-inline constexpr std::tuple kProcesses{
+inline constexpr Row kProcesses{
     Describe<&Processes::GetCurrentProcess>("GetCurrentProcess", Fails::never),
     Describe<&Processes::CreateProcessA>("CreateProcessA", Fails::withNothing, Text("application"),
         CommandLine("commandLine"), UnrecordedPointer("processAttributes"), UnrecordedPointer("threadAttributes"),
@@ -145,14 +145,14 @@ inline constexpr std::tuple kProcesses{
     Describe<&Processes::GetProcAddress>("GetProcAddress", Fails::withNothing, Module("module"), Text("name")),
 };
 
-inline constexpr std::tuple kInternet{
+inline constexpr Row kInternet{
     Describe<&Internet::InternetSetOptionA>("InternetSetOptionA", Fails::withNothing, Pointer("internet"),
         Number("option"), OptionValue("buffer"), OptionSize("bufferSize")),
     Describe<&Internet::InternetCheckConnectionA>("InternetCheckConnectionA", Fails::withNothing, Text("url"),
         Number("flags"), UnrecordedNumber("reserved")),
 };
 
-inline constexpr std::tuple kText{
+inline constexpr Row kText{
     Describe<&platform::Text::MultiByteToWideChar>("MultiByteToWideChar", Fails::withNothing, Number("codePage"),
         Number("flags"), Source("source"), SourceLength("sourceLength"), DestinationOut("destination"),
         DestinationRoom("destinationLength")),
@@ -163,17 +163,17 @@ inline constexpr std::tuple kText{
         TextOut<after>("text"), Number("capacity")),
 };
 
-inline constexpr std::tuple kClock{
+inline constexpr Row kClock{
     Describe<&Clock::Sleep>("Sleep", Fails::never, Number("milliseconds")),
     Describe<&Clock::FileTimeToSystemTime>("FileTimeToSystemTime", Fails::withNothing, Record("fileTime"),
         RecordOut("systemTime")),
 };
 
-inline constexpr std::tuple kDebuggerOutput{
+inline constexpr Row kDebuggerOutput{
     Describe<&DebuggerOutput::OutputDebugStringA>("OutputDebugStringA", Fails::never, TraceText("text")),
 };
 
-inline constexpr std::tuple kLastError{
+inline constexpr Row kLastError{
     Describe<&LastError::GetLastError>("GetLastError", Fails::withErrorNumber),
 };
 
@@ -184,7 +184,7 @@ template <typename Visit>
 void ForEachOperation(Visit visit)
 {
     const auto visitFacility = [&visit](const auto& facility)
-    { std::apply([&visit](const auto&... descriptions) { (visit(descriptions), ...); }, facility); };
+    { Apply([&visit](const auto&... descriptions) { (visit(descriptions), ...); }, facility); };
     visitFacility(kWlanService);
     visitFacility(kServiceControl);
     visitFacility(kPower);

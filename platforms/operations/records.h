@@ -1,10 +1,10 @@
 #pragma once
 
+#include "operations/row.h"
 #include "platform/platform.h"
 
 #include <cstdint>
 #include <string_view>
-#include <tuple>
 #include <type_traits>
 
 namespace calvix::operations
@@ -29,7 +29,7 @@ struct RecordNumber
 
 // Numbers, not enumerators: some SDKs lack the newer ones.
 
-inline constexpr std::tuple kInterfaceOpcodes{
+inline constexpr Row kInterfaceOpcodes{
     RecordNumber<BOOL, BOOL>{1, "autoconf_enabled"},
     RecordNumber<BOOL, BOOL>{2, "background_scan_enabled"},
     RecordNumber<BOOL, BOOL>{3, "media_streaming_mode"},
@@ -50,7 +50,7 @@ inline constexpr std::tuple kInterfaceOpcodes{
     RecordNumber<Long>{0x10000102, "rssi"},
 };
 
-inline constexpr std::tuple kAutoConfigOpcodes{
+inline constexpr Row kAutoConfigOpcodes{
     RecordNumber<>{1, "show_denied_networks"},
     RecordNumber<WLAN_POWER_SETTING>{2, "power_setting"},
     RecordNumber<>{3, "only_use_gp_profiles_for_allowed_networks"},
@@ -59,7 +59,7 @@ inline constexpr std::tuple kAutoConfigOpcodes{
     RecordNumber<>{6, "allow_virtual_station_extensibility"},
 };
 
-inline constexpr std::tuple kPowerLevels{
+inline constexpr Row kPowerLevels{
     RecordNumber<SYSTEM_POWER_POLICY>{0, "SystemPowerPolicyAc"},
     RecordNumber<SYSTEM_POWER_POLICY>{1, "SystemPowerPolicyDc"},
     RecordNumber<SYSTEM_POWER_CAPABILITIES>{4, "SystemPowerCapabilities"},
@@ -68,7 +68,7 @@ inline constexpr std::tuple kPowerLevels{
     RecordNumber<ULONGLONG>{15, "LastSleepTime"},
 };
 
-inline constexpr std::tuple kConnectionModes{
+inline constexpr Row kConnectionModes{
     RecordNumber<>{0, "profile"},
     RecordNumber<>{1, "temporary_profile"},
     RecordNumber<>{2, "discovery_secure"},
@@ -77,7 +77,7 @@ inline constexpr std::tuple kConnectionModes{
     RecordNumber<>{5, "invalid"},
 };
 
-inline constexpr std::tuple kBssTypes{
+inline constexpr Row kBssTypes{
     RecordNumber<>{1, "infrastructure"},
     RecordNumber<>{2, "independent"},
     RecordNumber<>{3, "any"},
@@ -121,7 +121,7 @@ std::string_view NameOf(Enumeration value)
         if (row.number == static_cast<std::uint32_t>(value))
             name = row.name;
     };
-    std::apply([&](const auto&... rows) { (look(rows), ...); }, NumbersOf(value));
+    Apply([&](const auto&... rows) { (look(rows), ...); }, NumbersOf(value));
     return name;
 }
 
@@ -140,7 +140,7 @@ void VisitRow(Enumeration value, Visit visit)
         known = true;
         visit(row);
     };
-    std::apply([&](const auto&... rows) { (look(rows), ...); }, NumbersOf(value));
+    Apply([&](const auto&... rows) { (look(rows), ...); }, NumbersOf(value));
     if (!known)
         visit(RecordNumber<>{});
 }

@@ -63,7 +63,7 @@ Call InterceptedPlatform::CallOf(const Description& operation, const Arguments&.
         return call;
     call.arguments.reserve(sizeof...(arguments));
     operations::ForEachArgument(
-        operation, std::tie(arguments...),
+        operation, operations::Row<const Arguments&...>(arguments...),
         [&](const auto& role, const auto& argument, const auto& place) {
             call.arguments.push_back({role.name, ArgumentText(role, argument, place, m_numbers)});
         });

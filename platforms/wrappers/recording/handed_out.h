@@ -84,7 +84,7 @@ template <typename Result, typename Values>
 void DescribeResult(Fields& fields, Result& result, const Values& values, platform::Platform* recorded)
 {
     if constexpr (std::is_same_v<Result, FARPROC>)
-        DescribeFunction(fields, std::get<1>(values), result, recorded);
+        DescribeFunction(fields, operations::At<1>(values), result, recorded);
     else if constexpr (std::is_pointer_v<Result>)
         fields.HandedOut("result", FamilyOf(result), result);
     else

@@ -23,7 +23,7 @@ public:
     Result Pass()
     {
         if constexpr (std::is_same_v<typename Description::Facility, platform::DebuggerOutput>)
-            m_tape.Remark(*this, std::get<0>(m_values));
+            m_tape.Remark(*this, operations::At<0>(m_values));
         else if (!m_tape.Pass(*this))
             m_result = NoAnswerOf();
         if constexpr (!std::is_void_v<Result>)
@@ -44,9 +44,9 @@ public:
                                     { Prepare(m_tape, role, argument, place); });
         const auto call = [this](Arguments&... arguments) { return (m_inner->*Description::member)(arguments...); };
         if constexpr (std::is_void_v<Result>)
-            std::apply(call, m_values);
+            operations::Apply(call, m_values);
         else
-            m_result = std::apply(call, m_values);
+            m_result = operations::Apply(call, m_values);
     }
 
     void Describe(Fields& results) override
@@ -75,7 +75,7 @@ private:
     const Description& m_operation;
     Tape& m_tape;
     platform::Platform* m_inner;
-    std::tuple<Arguments&...> m_values;
+    operations::Row<Arguments&...> m_values;
     Held m_result = NoAnswerOf();
 };
 
