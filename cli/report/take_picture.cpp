@@ -1,6 +1,7 @@
 #include "report/take_picture.h"
 
 #include "host/service_view.h"
+#include "output/text_forms.h"
 #include "view/candidates.h"
 #include "view/describe.h"
 #include "view/profiles.h"
