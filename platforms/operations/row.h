@@ -9,6 +9,8 @@ namespace calvix::operations
 template <std::size_t index, typename T>
 struct Cell
 {
+    constexpr explicit Cell(T given) : value(given) {}
+
     T value;
 };
 
@@ -18,7 +20,7 @@ struct Cells;
 template <std::size_t... index, typename... T>
 struct Cells<std::index_sequence<index...>, T...> : Cell<index, T>...
 {
-    constexpr explicit Cells(T... values) : Cell<index, T>{values}... {}
+    constexpr explicit Cells(T... values) : Cell<index, T>(values)... {}
 };
 
 /// Values or references side by side, one type each. A std::tuple would do, but for the hundreds that describe the
