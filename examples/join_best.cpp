@@ -1,4 +1,4 @@
-// Scans, asks for the best network that has an automatic profile, and waits until the connection stands.
+// Scans, asks for the best network that has an automatic profile, and waits until it is connected.
 
 #include <calvix/explain.h>
 #include <calvix/wireless_manage.h>
@@ -26,7 +26,8 @@ void WINAPI TakeNote(PWLAN_NOTIFICATION_DATA data, PVOID context)
     News& news = *static_cast<News*>(context);
     if (data->InterfaceGuid != news.adapter)
         return;
-    if (data->NotificationCode == wlan_notification_acm_scan_complete)
+    if (data->NotificationCode == wlan_notification_acm_scan_complete ||
+        data->NotificationCode == wlan_notification_acm_scan_fail)
         news.scanEnded = true;
     if (data->NotificationCode == wlan_notification_acm_connection_complete)
     {

@@ -69,7 +69,7 @@ StoredProfile CaptureProfile(Host& host, const GUID& guid, const wchar_t* name)
     const std::string xml = Narrow(host.service().ProfileDocument(&guid, name));
     simulation::ProfileRefusal refusal{};
     if (!simulation::ParseProfile(xml, refusal))
-        throw BadInput("a simulated computer does not take it: " + Narrow(simulation::ReasonText(refusal.reason)));
+        throw BadInput("the simulated computer rejects it: " + Narrow(simulation::ReasonText(refusal.reason)));
     return {recording::KeyMask().InText(xml)};
 }
 

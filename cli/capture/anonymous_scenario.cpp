@@ -1,4 +1,5 @@
-#include "capture/computer_capture.h"
+#include "capture/anonymous_scenario.h"
+
 #include "output/text_forms.h"
 #include "simulation/profile_document.h"
 #include "wrappers/recording/anonymiser.h"

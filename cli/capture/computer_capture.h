@@ -10,7 +10,4 @@ namespace calvix::host
 /// the scenario changes as the air did. What cannot be read is left out with a warning.
 MadeScenario CaptureComputer(Host& host, unsigned seconds);
 
-/// Replaces names, addresses and GUIDs with invented ones, as recordings do.
-void Anonymise(simulation::Scenario& scenario);
-
 } // namespace calvix::host

@@ -94,7 +94,7 @@ AccessPoint DescribePoint(const HeardAccessPoint& heard, const Networks& network
 void AddPoint(std::vector<SignalPoint>& timetable, const SignalPoint& next)
 {
     const std::size_t count = timetable.size();
-    // Of a time in which nothing changes its beginning and its end are enough.
+    // A stretch without changes needs only its first and its last point.
     if (count >= 2 && timetable[count - 2].rssi == next.rssi && timetable[count - 1].rssi == next.rssi)
         timetable.pop_back();
     timetable.push_back(next);

@@ -1,3 +1,4 @@
+#include "capture/anonymous_scenario.h"
 #include "capture/computer_capture.h"
 #include "commands/commands.h"
 

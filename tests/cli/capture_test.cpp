@@ -227,15 +227,14 @@ TEST_F(CaptureCommand, LeavesOutProfilesThatCannotBeRead)
                                        "its profile\n"));
 }
 
-TEST_F(CaptureCommand, LeavesOutProfilesThatNoSimulatedComputerTakes)
+TEST_F(CaptureCommand, LeavesOutProfilesThatTheSimulatedComputerRejects)
 {
     Use(RichWorld());
     ChangedPlatform changed;
     changed.After<&WlanService::WlanGetProfile>(
         [](DWORD, HANDLE, const GUID*, const wchar_t*, PVOID, wchar_t** xml, DWORD*, DWORD*) { **xml = L'?'; });
     EXPECT_THAT(CaptureIt().err,
-                HasSubstr("warning: the profile \"HomeNet\" is left out: a simulated computer does not "
-                          "take it: "));
+                HasSubstr("warning: the profile \"HomeNet\" is left out: the simulated computer rejects it: "));
 }
 
 TEST_F(CaptureCommand, FailsWhereThereIsNoWlan)
