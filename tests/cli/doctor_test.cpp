@@ -17,7 +17,6 @@ namespace
 
 using nlohmann::json;
 using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 struct Case
 {
@@ -139,43 +138,6 @@ TEST(DoctorCases, HaveEveryScenarioOfTheGallery)
                                 [&](const Case& row)
                                 { return entry.path().stem() == row.scenario && row.operation == nullptr; }))
             << entry.path();
-}
-
-class DoctorCommand : public CliTest
-{
-};
-
-TEST_F(DoctorCommand, WarnsOfProfilesThatAreNotInView)
-{
-    simulation::Scenario world = NoProfileWorld();
-    world.adapters[0].profiles = {MakeProfile("Far Away")};
-    const Outcome outcome = RunOn(world, {"doctor", "--interface", "1"});
-    EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
-    EXPECT_THAT(outcome.out, HasSubstr("\nwarning  Profiles      1 stored, none in view\n"
-                                       "  What to do: scan first, or store a profile for a network in view.\n"));
-}
-
-TEST_F(DoctorCommand, WarnsOfAWeakSignal)
-{
-    simulation::Scenario world = RichWorld();
-    for (simulation::AccessPoint& accessPoint : world.accessPoints)
-        accessPoint.rssi = -86;
-    const Outcome outcome = RunOn(world, {"doctor"});
-    EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
-    EXPECT_THAT(outcome.out, HasSubstr("\nwarning  Connection    HomeNet at 02:11:00:00:24:06, signal 28%"));
-}
-
-TEST_F(DoctorCommand, AsksAboutTheAdapterThatIsNamed)
-{
-    const std::string scenario = CALVIX_SOURCE_DIR "/scenarios/two-adapters.json";
-    const Outcome second = Run({"doctor", "--interface", "2", "--scenario", scenario});
-    EXPECT_EQ(kSuccess, second.exitCode) << second.err;
-    EXPECT_THAT(second.out, HasSubstr("\nok       Adapter 2     Calvix Simulated USB Wi-Fi 7 Adapter, connected\n"));
-    EXPECT_THAT(second.out, ::testing::Not(HasSubstr("Adapter 1")));
-    const Outcome first = Run({"doctor", "--interface", "1", "--scenario", scenario});
-    EXPECT_EQ(kFailed, first.exitCode);
-    EXPECT_THAT(first.err, StartsWith("calvix: 1 check of 6 failed.\n"));
-    EXPECT_EQ(kBadInput, Run({"doctor", "--interface", "3", "--scenario", scenario}).exitCode);
 }
 
 } // namespace

@@ -16,8 +16,6 @@ namespace
 using nlohmann::json;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
-using ::testing::Not;
-using ::testing::StartsWith;
 
 constexpr const char* kOfficeWalk = CALVIX_SOURCE_DIR "/scenarios/office-walk.json";
 constexpr const char* kTrain = CALVIX_SOURCE_DIR "/scenarios/train.json";
@@ -82,91 +80,6 @@ TEST_F(RoamCommand, TheOfficeWalkRoamsTwice)
     ASSERT_EQ(2u, moves.size());
     EXPECT_EQ("02:B8:00:12:00:02", moves[0]["to"]);
     EXPECT_EQ("02:B8:00:13:00:02", moves[1]["to"]);
-}
-
-TEST_F(RoamCommand, SaysInTextWhatItDecides)
-{
-    const Outcome outcome = Run({"roam", "--every", "1", "--for", "240", "--scenario", kOfficeWalk});
-    EXPECT_THAT(outcome.out, HasSubstr(" s  stay: the signal is good enough to stay\n"));
-    EXPECT_THAT(outcome.out, HasSubstr(" s  roam: from 02:B8:00:11:00:02 to 02:B8:00:12:00:02\n"));
-    EXPECT_THAT(outcome.out, HasSubstr(" s  moved from 02:B8:00:12:00:02 to 02:B8:00:13:00:02\n"));
-    EXPECT_THAT(outcome.out, EndsWith("Moved 2 times in 240 seconds.\n"));
-}
-
-/// Connected to the weaker of two access points.
-simulation::Scenario WorthRoaming()
-{
-    simulation::Scenario world = RichWorld();
-    world.adapters[0].connection = {{"HomeNet", kHomeNet6}};
-    return world;
-}
-
-TEST_F(RoamCommand, MovesAndWaits)
-{
-    const json roam = json::parse(RunOn(WorthRoaming(), {"roam", "--json"}).out);
-    EXPECT_EQ("roam", roam["roam"]["decision"]);
-    EXPECT_EQ(0, roam["roam"]["code"]);
-    EXPECT_EQ("02:11:00:00:60:01", roam["roam"]["from"]);
-    EXPECT_EQ("02:11:00:00:24:06", roam["roam"]["to"]);
-    EXPECT_EQ("02:11:00:00:24:06", roam["status"]["connection"]["bssid"]);
-}
-
-TEST_F(RoamCommand, DryRunDecidesOnly)
-{
-    const Outcome outcome = RunOn(WorthRoaming(), {"roam", "--dry-run"});
-    EXPECT_EQ(kSuccess, outcome.exitCode);
-    EXPECT_THAT(outcome.out, StartsWith("Would move from 02:11:00:00:60:01 to 02:11:00:00:24:06.\n"));
-    EXPECT_THAT(outcome.out, HasSubstr("BSSID:          02:11:00:00:60:01\n"));
-    EXPECT_THAT(RunOn(WorthRoaming(), {"roam", "--dry-run", "--trace"}).err, Not(HasSubstr("WlanConnect failed")));
-}
-
-TEST_F(RoamCommand, StayingIsASuccess)
-{
-    const Outcome outcome = RunOn(RichWorld(), {"roam"});
-    EXPECT_EQ(kSuccess, outcome.exitCode);
-    EXPECT_THAT(outcome.out, StartsWith("Stays at 02:11:00:00:24:06: the signal is good enough to stay.\n"));
-    EXPECT_EQ("stay", json::parse(RunOn(RichWorld(), {"roam", "--dry-run", "--json"}).out)["roam"]["decision"]);
-}
-
-TEST_F(RoamCommand, NeedsAConnection)
-{
-    const Outcome outcome = RunOn(DisconnectedWorld(), {"roam"});
-    EXPECT_EQ(kFailed, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("Roaming returned -4."));
-    EXPECT_THAT(RunOn(DisconnectedWorld(), {"roam", "--dry-run"}).err, HasSubstr("PreRoaming returned -4."));
-}
-
-TEST_F(RoamCommand, ForGoesWithEvery)
-{
-    EXPECT_EQ(kBadInput, RunOn(RichWorld(), {"roam", "--for", "10"}).exitCode);
-}
-
-TEST_F(WatchCommand, ShowsTheTwoRoamsOfTheOfficeWalk)
-{
-    const Outcome outcome = Run({"watch", "--roam", "1", "--for", "240", "--scenario", kOfficeWalk});
-    EXPECT_EQ(kSuccess, outcome.exitCode);
-    EXPECT_THAT(outcome.out, StartsWith("    0.0 s  #### 100%  -45 dBm  Brightwater Staff  02:B8:00:11:00:02\n"));
-    EXPECT_THAT(outcome.out, HasSubstr(" s  connection start: Brightwater Staff\n"));
-    EXPECT_THAT(outcome.out, HasSubstr(" s  connection complete: Brightwater Staff\n"));
-    EXPECT_THAT(outcome.out, EndsWith("Moved 2 times in 240 seconds.\n"));
-}
-
-TEST_F(WatchCommand, ShowsTheTrainsNetworkVanishAndComeBack)
-{
-    const Outcome outcome = Run({"watch", "--for", "190", "--json", "--scenario", kTrain});
-    std::vector<std::string> names;
-    for (const json& notice : EventsNamed(outcome.out, "notification"))
-        names.push_back(notice["name"]);
-    EXPECT_THAT(names, ::testing::IsSupersetOf({"disconnected", "connection start", "connection complete"}));
-    std::size_t samples = 0;
-    bool wasAway = false;
-    for (const json& signal : EventsNamed(outcome.out, "signal"))
-    {
-        ++samples;
-        wasAway = wasAway || !signal["connected"].get<bool>();
-    }
-    EXPECT_EQ(191u, samples) << "one at the beginning and one a second";
-    EXPECT_TRUE(wasAway);
 }
 
 TEST_F(WatchCommand, NamesTheReasonOfALoss)

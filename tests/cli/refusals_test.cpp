@@ -67,23 +67,6 @@ TEST_F(Refusals, BestNeverAsksMoreThanTheLibraryDoes)
     EXPECT_EQ(1u, m_computer.CallCount("WlanConnect"));
 }
 
-TEST_F(Refusals, BestShowsThatEveryRequestWasRefused)
-{
-    m_computer.Fail("WlanConnect", 0x80342002);
-    const Outcome outcome = Run({"best", "--json"});
-    EXPECT_EQ(kFailed, outcome.exitCode);
-    const json result = json::parse(outcome.out);
-    ASSERT_EQ(2u, result["candidates"].size());
-    for (const json& candidate : result["candidates"])
-    {
-        EXPECT_EQ("refused", candidate["outcome"]);
-        EXPECT_EQ(0x80342002u, candidate["error"].get<std::uint32_t>());
-    }
-    EXPECT_EQ(-12, result["error"]["code"]);
-    EXPECT_THAT(outcome.err, HasSubstr("refused WlanConnect (the radio is off, 0x80342002)"));
-    EXPECT_THAT(outcome.err, HasSubstr("switch the radio on"));
-}
-
 /// Both profiles have the name of the first, and so have the networks.
 TEST_F(Refusals, BestShowsACandidateForEachTimeItsProfileIsStored)
 {
@@ -176,14 +159,6 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedCase{{"best"}, "WlanGetAvailableNetworkList", Gave("ConnectBestAP", Cause::networkListFailed), 1},
         RefusedCase{{"best"}, "WlanGetNetworkBssList", Gave("ConnectBestAP", Cause::bssListFailed), 1}));
 
-TEST_F(Refusals, AServiceThatStopsMeanwhileIsUnavailable)
-{
-    m_computer.Fail("WlanGetAvailableNetworkList", 1062);
-    const Outcome outcome = Run({"networks"});
-    EXPECT_EQ(kUnavailable, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("sc start WlanSvc"));
-}
-
 TEST_F(Refusals, StatusLeavesOutWhatTheDriverDoesNotReport)
 {
     ASSERT_EQ(kSuccess, Run({"best"}).exitCode);
@@ -201,13 +176,6 @@ TEST_F(Refusals, StatusLeavesOutWhatTheDriverDoesNotReport)
     EXPECT_TRUE(connection["rssi"].is_null());
     EXPECT_TRUE(connection["framesSent"].is_null());
     EXPECT_EQ(1, connection["accessPoints"]);
-}
-
-TEST_F(Refusals, SavingNeedsAComputerOfTheProgramsOwn)
-{
-    const Outcome outcome = Run({"adapters", "--save", PathFor("saved.json")});
-    EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("--save needs a simulated computer"));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "output/table.h"
 #include "output/words.h"
+#include "report/channel_load.h"
 
 #include <gtest/gtest.h>
 
@@ -102,6 +103,14 @@ TEST(Channels, AreNumberedAsPeopleDo)
     EXPECT_EQ("2.4 GHz", BandText(2484000));
     EXPECT_EQ("5 GHz", BandText(5885000));
     EXPECT_EQ("6 GHz", BandText(5955000));
+}
+
+TEST(Channels, HaveAListForEachBand)
+{
+    std::vector<std::size_t> channels;
+    for (const BandLoad& band : MeasureBands({}))
+        channels.push_back(band.channels.size());
+    EXPECT_EQ((std::vector<std::size_t>{13, 28, 59}), channels);
 }
 
 std::string Printed(const Table& table, TerminalTraits terminal)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <sstream>
+#include <string_view>
 
 namespace calvix::test
 {
@@ -9,18 +10,26 @@ namespace calvix::test
 namespace
 {
 
-/// "<!-- on FILE -->" or "<!-- on FILE: OPERATION fails with NUMBER -->"
-TranscriptComputer ComputerOf(const std::string& comment)
+constexpr std::string_view kOn = "<!-- on ";
+constexpr std::string_view kEcho = "$ echo ";
+
+/// A change is "WHAT = VALUE" or "WHAT fails with VALUE".
+TranscriptChange ChangeOf(const std::string& text)
 {
-    std::istringstream words(comment);
-    std::string word;
-    TranscriptComputer computer;
-    words >> word >> word >> computer.scenario;
-    if (computer.scenario.ends_with(':'))
-    {
-        computer.scenario.pop_back();
-        words >> computer.operation >> word >> word >> computer.error;
-    }
+    const std::string sign = text.starts_with('/') ? " = " : " fails with ";
+    const std::size_t at = text.find(sign);
+    return {text.substr(0, at), text.substr(at + sign.size())};
+}
+
+/// "<!-- on SCENARIO -->" or "<!-- on SCENARIO: CHANGE; CHANGE -->"
+TranscriptComputer ComputerOf(const std::string& comment, std::size_t line)
+{
+    const std::string text = comment.substr(kOn.size(), comment.rfind(" -->") - kOn.size());
+    const std::size_t colon = text.find(": ");
+    TranscriptComputer computer{line + 1, text.substr(0, colon), {}};
+    std::istringstream changes(colon != std::string::npos ? text.substr(colon + 1) : "");
+    for (std::string change; std::getline(changes >> std::ws, change, ';');)
+        computer.changes.push_back(ChangeOf(change));
     return computer;
 }
 
@@ -43,9 +52,9 @@ public:
                 inSession = !inSession;
                 m_first = m_transcript.commands.size();
             }
-            else if (line.starts_with("<!-- on "))
-                m_computer = ComputerOf(line);
-            else if (inSession)
+            else if (line.starts_with(kOn))
+                m_computer = ComputerOf(line, i);
+            else if (inSession && !line.starts_with("<!-- "))
                 TakeLine(i);
         }
     }
@@ -59,6 +68,11 @@ private:
             TranscriptCommand command;
             command.computer = m_computer;
             command.line = line.substr(2);
+            if (const std::size_t pipe = line.find(" | "); line.starts_with(kEcho) && pipe != std::string::npos)
+            {
+                command.answer = line.substr(kEcho.size(), pipe - kEcho.size()) + "\n";
+                command.line = line.substr(pipe + 3);
+            }
             command.firstLine = i + 1;
             m_transcript.commands.push_back(command);
         }

@@ -9,10 +9,12 @@
 #include "shell/output_schema.h"
 
 #include <calvix/testing/computer.h>
+#include <nlohmann/json.hpp>
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <map>
+#include <memory>
 
 namespace calvix::test::transcripts_test
 {
@@ -21,6 +23,7 @@ namespace
 
 namespace files = std::filesystem;
 using calvix::testing::Computer;
+using nlohmann::json;
 
 /// Leaves the file as it would be right now in the build, from where script/update-transcripts takes it.
 void LeaveForUpdate(const std::string& path, const std::string& text)
@@ -30,6 +33,18 @@ void LeaveForUpdate(const std::string& path, const std::string& text)
     std::ofstream(copy, std::ios::binary) << text;
 }
 
+/// A world of test_worlds.h, or a scenario file.
+simulation::Scenario WorldNamed(const std::string& name)
+{
+    static const std::map<std::string, simulation::Scenario (*)()> worlds{{"RichWorld", RichWorld},
+                                                                          {"DisconnectedWorld", DisconnectedWorld},
+                                                                          {"SilentWorld", SilentWorld},
+                                                                          {"NoAdapterWorld", NoAdapterWorld},
+                                                                          {"NoProfileWorld", NoProfileWorld}};
+    const auto found = worlds.find(name);
+    return found != worlds.end() ? found->second() : simulation::LoadScenario(name);
+}
+
 /// Paths in the files are those of the repository.
 class TranscriptFile : public CliTest, public ::testing::WithParamInterface<const char*>
 {
@@ -37,17 +52,33 @@ protected:
     TranscriptFile() : m_before(files::current_path()) { files::current_path(CALVIX_SOURCE_DIR); }
     ~TranscriptFile() override { files::current_path(m_before); }
 
+    void Use(const TranscriptComputer& wanted)
+    {
+        if (wanted.line == m_line)
+            return;
+        m_line = wanted.line;
+        m_computer.reset();
+        if (wanted.line == 0)
+            return;
+        json scenario = json::parse(simulation::WriteScenario(WorldNamed(wanted.scenario)));
+        for (const TranscriptChange& change : wanted.changes)
+            if (change.what.starts_with('/'))
+                scenario[json::json_pointer(change.what)] = json::parse(change.value);
+        m_computer = std::make_unique<Computer>(scenario.dump());
+        for (const TranscriptChange& change : wanted.changes)
+            if (!change.what.starts_with('/'))
+                m_computer->Fail(change.what, std::stoul(change.value, nullptr, 0));
+    }
+
     std::string Printed(const TranscriptCommand& command)
     {
-        std::unique_ptr<Computer> computer;
-        if (const TranscriptComputer& wanted = command.computer; !wanted.scenario.empty())
-            computer.reset(new Computer(Computer::FromFile(wanted.scenario)));
-        if (!command.computer.operation.empty())
-            computer->Fail(command.computer.operation, command.computer.error);
+        Use(command.computer);
+        Answer(command.answer);
         std::vector<std::string> words = ShellWords(command.line);
         EXPECT_EQ("calvix", words.front()) << "only this program can be shown";
         words.erase(words.begin());
         const Outcome outcome = RunTogether(words);
+        EXPECT_TRUE(m_computer == nullptr || m_computer->Held().Nothing()) << command.line;
         std::string printed = outcome.out;
         // The service's documents have line ends of their own.
         std::erase(printed, '\r');
@@ -60,6 +91,8 @@ protected:
 
 private:
     files::path m_before;
+    std::size_t m_line = 0;
+    std::unique_ptr<Computer> m_computer;
 };
 
 TEST_P(TranscriptFile, ShowsWhatIsPrinted)

@@ -61,44 +61,6 @@ class HostProgram : public CliTest
 {
 };
 
-TEST_F(Usage, IsBadWithoutACommand)
-{
-    const Outcome outcome = Run({});
-    EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_EQ("", outcome.out);
-    EXPECT_THAT(outcome.err, HasSubstr("--help"));
-}
-
-TEST_F(Usage, IsBadWithUnknownWords)
-{
-    EXPECT_EQ(kBadInput, Run({"frobnicate"}).exitCode);
-    EXPECT_EQ(kBadInput, Run({"adapters", "--frobnicate"}).exitCode);
-    EXPECT_EQ(kBadInput, Run({"profiles"}).exitCode);
-    EXPECT_EQ(kBadInput, Run({"profiles", "show"}).exitCode);
-    EXPECT_EQ(kBadInput, Run({"profiles", "move", "Home", "--to", "first"}).exitCode);
-    EXPECT_EQ(kBadInput, Run({"profiles", "move", "Home"}).exitCode);
-    EXPECT_EQ(kBadInput, Run({"scan", "--timeout", "soon"}).exitCode);
-}
-
-TEST_F(Usage, ListsTheCommandsAndExitCodes)
-{
-    const Outcome outcome = Run({"--help"});
-    EXPECT_EQ(kSuccess, outcome.exitCode);
-    for (const char* command :
-         {"adapters", "scan",  "networks", "bss",     "profiles", "status", "connect",  "disconnect", "reconnect",
-          "reset",    "auto",  "switch",   "roam",    "watch",    "radio",  "settings", "ihv",        "list",
-          "softap",   "match", "best",     "explain", "import",   "power",  "run",      "online"})
-        EXPECT_THAT(outcome.out, HasSubstr(std::string("\n  ") + command + " ")) << command;
-    EXPECT_THAT(outcome.out, HasSubstr("3  no adapter, or the WLAN service cannot be reached"));
-}
-
-TEST_F(Usage, ShowsTheVersion)
-{
-    const Outcome outcome = Run({"--version"});
-    EXPECT_EQ(kSuccess, outcome.exitCode);
-    EXPECT_EQ("calvix 1.0.0\n", outcome.out);
-}
-
 TEST_F(CommonOptions, MayStandBeforeTheCommand)
 {
     const std::string scenario = FileWith("world.json", simulation::WriteScenario(RichWorld()));
@@ -107,40 +69,6 @@ TEST_F(CommonOptions, MayStandBeforeTheCommand)
     EXPECT_EQ(kSuccess, before.exitCode) << before.err;
     EXPECT_EQ(before.out, behind.out);
     EXPECT_EQ(kSuccess, Run({"profiles", "--scenario", scenario, "list"}).exitCode);
-}
-
-TEST_F(CommonOptions, ChooseTheAdapter)
-{
-    for (const char* name :
-         {"2", "Wireless Adapter B", "{B0000002-0002-4002-8002-00000000000B}", "b0000002-0002-4002-8002-00000000000b"})
-    {
-        const Outcome outcome = RunOn(RichWorld(), {"status", "--interface", name});
-        EXPECT_EQ("Adapter:  Wireless Adapter B\nState:    disconnected\n", outcome.out) << name << outcome.err;
-    }
-}
-
-TEST_F(CommonOptions, RefuseAnUnknownAdapter)
-{
-    for (const char* name : {"3", "0", "wireless adapter b", "{C0000003-0003-4003-8003-00000000000C}"})
-    {
-        const Outcome outcome = RunOn(RichWorld(), {"status", "--interface", name});
-        EXPECT_EQ(kBadInput, outcome.exitCode) << name;
-        EXPECT_THAT(outcome.err, HasSubstr(std::string("there is no adapter \"") + name + "\"."));
-        EXPECT_THAT(outcome.err, HasSubstr("calvix adapters"));
-    }
-}
-
-TEST_F(CommonOptions, RefuseAScenarioThatCannotBeUsed)
-{
-    const Outcome missing = Run({"adapters", "--scenario", PathFor("missing.json")});
-    EXPECT_EQ(kBadInput, missing.exitCode);
-    EXPECT_THAT(missing.err, HasSubstr("missing.json"));
-
-    const std::string broken = FileWith("broken.json", R"({"adapters": 7})");
-    const Outcome outcome = Run({"adapters", "--scenario", broken});
-    EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("broken.json"));
-    EXPECT_THAT(outcome.err, HasSubstr("adapters"));
 }
 
 TEST_F(CommonOptions, ShareOneWorldThroughSavedScenarios)
@@ -160,29 +88,6 @@ TEST_F(CommonOptions, SaveAlsoWhatAFailedCommandLeft)
     const std::string saved = PathFor("saved.json");
     EXPECT_EQ(kFailed, RunOn(NoProfileWorld(), {"best", "--save", saved}).exitCode);
     EXPECT_NO_THROW(simulation::LoadScenario(saved));
-}
-
-TEST_F(CommonOptions, RefuseToSaveWhereNothingIsSimulated)
-{
-    const Outcome outcome = Run({"explain", "--save", PathFor("saved.json")});
-    EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("--save"));
-    EXPECT_EQ("", Content(PathFor("saved.json")));
-}
-
-TEST_F(CommonOptions, SaySoWhenSavingFails)
-{
-    const Outcome outcome = RunOn(RichWorld(), {"adapters", "--save", PathFor("no/such/folder.json")});
-    EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr("cannot be written"));
-}
-
-TEST_F(CommonOptions, ShowTheTraceOnStandardError)
-{
-    const Outcome traced = RunOn(DisconnectedWorld(), {"networks", "--interface", "Wireless", "--trace"});
-    EXPECT_EQ(kBadInput, traced.exitCode);
-    EXPECT_THAT(RunOn(NoProfileWorld(), {"match", "--trace"}).err, HasSubstr("trace: No network profile: "));
-    EXPECT_THAT(RunOn(NoProfileWorld(), {"match"}).err, Not(HasSubstr("trace:")));
 }
 
 TEST_F(Usage, ShowsEveryCommandsOptionsWithAnExample)
@@ -219,29 +124,6 @@ TEST_F(Usage, ShowsTheSameBeforeAndAfterHelp)
     EXPECT_EQ(Run({"radio", "--help"}).out, Run({"help", "radio"}).out);
     EXPECT_EQ(Run({"--help"}).out, Run({"help"}).out);
     EXPECT_EQ(kSuccess, Run({"help", "scan"}).exitCode);
-    EXPECT_EQ(kBadInput, Run({"help", "scna"}).exitCode);
-}
-
-TEST_F(Usage, SuggestsWhatWasProbablyMeant)
-{
-    const auto errorOf = [this](const std::string& line) { return Run(WordsOf(line)).err; };
-    EXPECT_THAT(errorOf("netwroks"), HasSubstr("did you mean networks?"));
-    EXPECT_THAT(errorOf("prof list"), HasSubstr("did you mean profiles?"));
-    EXPECT_THAT(errorOf("radio restrat"), HasSubstr("radio has no command \"restrat\"."));
-    EXPECT_THAT(errorOf("radio restrat"), HasSubstr("did you mean restart?"));
-    EXPECT_THAT(errorOf("bss --chrat"), HasSubstr("bss has no option --chrat."));
-    EXPECT_THAT(errorOf("bss --chrat"), HasSubstr("did you mean --chart?"));
-    EXPECT_THAT(errorOf("bss --scenari=x.json"), HasSubstr("did you mean --scenario?"));
-    EXPECT_THAT(errorOf("qqqqqq"), Not(HasSubstr("did you mean")));
-}
-
-TEST_F(Usage, IsAnErrorInJsonToo)
-{
-    const Outcome outcome = Run({"scan", "--json", "--timout", "5"});
-    EXPECT_EQ(kBadInput, outcome.exitCode);
-    EXPECT_THAT(outcome.out, HasSubstr("\"message\": \"scan has no option --timout\""));
-    EXPECT_THAT(outcome.out, HasSubstr("\"exitCode\": 2"));
-    EXPECT_THAT(outcome.err, HasSubstr("calvix: scan has no option --timout."));
 }
 
 TEST_F(Usage, EndsWithTheExitCodesOfThePage)
@@ -320,16 +202,6 @@ TEST(Console, GetsColoursOnlyWhereTheyAreWelcome)
     EXPECT_FALSE(host::TraitsOf(piped).color);
     EXPECT_TRUE(host::TraitsOf(piped).errorColor);
     EXPECT_FALSE(host::TraitsOf({}).color);
-}
-
-TEST_F(CommonOptions, SayWhichOfSeveralAdaptersIsUsed)
-{
-    const Outcome first = RunOn(RichWorld(), {"status"});
-    EXPECT_EQ("calvix: using the first of 2 adapters, \"Wireless Adapter A\"; --interface 2 selects the second (calvix "
-              "adapters lists them).\n",
-              first.err);
-    EXPECT_EQ("", RunOn(RichWorld(), {"status", "--interface", "1"}).err);
-    EXPECT_EQ("", RunOn(NoProfileWorld(), {"adapters"}).err);
 }
 
 int RunProgram(const std::string& arguments)
