@@ -61,7 +61,9 @@ TEST_P(PowerContract, CapabilitiesNeedTheirRecord)
     EXPECT_EQ(Query(SystemPowerCapabilities, &capabilities, sizeof capabilities - 1), kBufferTooSmall);
     EXPECT_EQ(Query(SystemPowerCapabilities, &capabilities, 1), kBufferTooSmall);
     std::array<BYTE, sizeof capabilities + 64> larger{};
+    larger.back() = 7;
     EXPECT_EQ(Query(SystemPowerCapabilities, larger.data(), larger.size()), 0u) << "more room is no fault";
+    EXPECT_EQ(larger.back(), 7);
 }
 
 TEST_P(PowerContract, CapabilitiesTakeNoInput)

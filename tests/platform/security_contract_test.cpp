@@ -11,6 +11,11 @@ namespace
 
 constexpr DWORD kAdjustAndQuery = TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY;
 
+constexpr DWORD SizeOf(DWORD privileges)
+{
+    return static_cast<DWORD>(offsetof(TOKEN_PRIVILEGES, Privileges) + privileges * sizeof(LUID_AND_ATTRIBUTES));
+}
+
 class SecurityContract : public PlatformContract
 {
 protected:
@@ -52,6 +57,7 @@ protected:
         LeaveUnlikelyError();
         EXPECT_TRUE(Security().AdjustTokenPrivileges(token, FALSE, &wanted, sizeof previous, &previous, &length));
         EXPECT_EQ(LastError(), Error(ERROR_SUCCESS));
+        EXPECT_EQ(length, SizeOf(previous.PrivilegeCount));
         return previous;
     }
 };
@@ -79,7 +85,7 @@ TEST_P(SecurityContract, PrivilegesHaveTheNumbersOfEveryWindows)
 
 TEST_P(SecurityContract, UnknownPrivilegesAreMissed)
 {
-    for (const char* name : {"CalvixNoSuchPrivilege", "SeShutdown", ""})
+    for (const char* name : {"CalvixNoSuchPrivilege", "SeShutdown", "SeShutdownPrivilege ", ""})
     {
         LUID luid{};
         EXPECT_EQ(ErrorOf([&] { return Security().LookupPrivilegeValueA(nullptr, name, &luid); }),
@@ -160,9 +166,12 @@ TEST_P(SecurityContract, TooLittleRoomForTheStateBeforeChangesNothing)
     TOKEN_PRIVILEGES wanted = One("SeShutdownPrivilege", SE_PRIVILEGE_ENABLED);
     TOKEN_PRIVILEGES previous{};
     DWORD length = 0;
-    EXPECT_EQ(ErrorOf([&] { return Security().AdjustTokenPrivileges(token, FALSE, &wanted, 8, &previous, &length); }),
-              Error(ERROR_INSUFFICIENT_BUFFER));
-    EXPECT_EQ(length, offsetof(TOKEN_PRIVILEGES, Privileges) + sizeof(LUID_AND_ATTRIBUTES));
+    const DWORD needed = SizeOf(1);
+    EXPECT_EQ(
+        ErrorOf([&]
+                { return Security().AdjustTokenPrivileges(token, FALSE, &wanted, needed - 1, &previous, &length); }),
+        Error(ERROR_INSUFFICIENT_BUFFER));
+    EXPECT_EQ(length, needed);
     EXPECT_EQ(Switch(token, One("SeShutdownPrivilege", 0)).PrivilegeCount, 0u);
     Close(token);
 }
@@ -222,7 +231,7 @@ TEST_P(SecurityContract, AllCanBeDisabledAtOnceAndGivenBack)
     EXPECT_TRUE(Security().AdjustTokenPrivileges(token, TRUE, nullptr, sizeof room, previous, &length));
     EXPECT_EQ(LastError(), Error(ERROR_SUCCESS));
     EXPECT_GE(previous->PrivilegeCount, 2u) << "this one, and passing through folders, which everybody may";
-    EXPECT_EQ(length, offsetof(TOKEN_PRIVILEGES, Privileges) + previous->PrivilegeCount * sizeof(LUID_AND_ATTRIBUTES));
+    EXPECT_EQ(length, SizeOf(previous->PrivilegeCount));
     const TOKEN_PRIVILEGES after = Switch(token, One("SeShutdownPrivilege", SE_PRIVILEGE_ENABLED));
     EXPECT_EQ(after.PrivilegeCount, 1u) << "it was disabled";
     EXPECT_TRUE(Security().AdjustTokenPrivileges(token, FALSE, previous, 0, nullptr, nullptr));

@@ -56,8 +56,9 @@ TEST_P(ServiceControlContract, ThereIsNoOtherDatabase)
 
 TEST_P(ServiceControlContract, UnknownServicesAreMissed)
 {
-    EXPECT_EQ(ErrorOf([&] { return Open("CalvixNoSuchService", SERVICE_QUERY_STATUS); }),
-              Error(ERROR_SERVICE_DOES_NOT_EXIST));
+    for (const char* name : {"CalvixNoSuchService", "WlanSvc2", "Wlan"})
+        EXPECT_EQ(ErrorOf([&] { return Open(name, SERVICE_QUERY_STATUS); }), Error(ERROR_SERVICE_DOES_NOT_EXIST))
+            << name;
 }
 
 TEST_P(ServiceControlContract, NamesThatNoServiceCanHaveAreInvalid)

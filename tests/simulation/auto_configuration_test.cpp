@@ -26,16 +26,8 @@ protected:
 
     std::wstring ConnectedBy()
     {
-        DWORD error = ERROR_SUCCESS;
-        const auto connection = Connection(&error);
+        const auto connection = Connection();
         return connection ? connection->strProfileName : L"";
-    }
-
-    DWORD SetAutoConfiguration(bool enabled)
-    {
-        const BOOL value = enabled ? TRUE : FALSE;
-        return Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_autoconf_enabled, sizeof(value), &value,
-                                       nullptr);
     }
 };
 
@@ -86,11 +78,11 @@ TEST_F(AutoConfiguration, ManualProfilesAreNotUsed)
 TEST_F(AutoConfiguration, NotWhileItIsSwitchedOff)
 {
     Start();
-    ASSERT_EQ(SetAutoConfiguration(false), ERROR_SUCCESS);
+    ASSERT_EQ(Set(wlan_intf_opcode_autoconf_enabled, BOOL{FALSE}), ERROR_SUCCESS);
     computer->Advance(seconds(90));
     EXPECT_EQ(ConnectedBy(), L"");
     EXPECT_FALSE(computer->Snapshot().adapters[0].autoConfiguration);
-    ASSERT_EQ(SetAutoConfiguration(true), ERROR_SUCCESS);
+    ASSERT_EQ(Set(wlan_intf_opcode_autoconf_enabled, BOOL{TRUE}), ERROR_SUCCESS);
     computer->Advance(seconds(90));
     EXPECT_EQ(ConnectedBy(), L"Train");
 }

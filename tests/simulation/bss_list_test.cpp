@@ -1,7 +1,5 @@
 #include "service_fixture.h"
 
-#include "simulation/host_time.h"
-
 #include <algorithm>
 
 namespace calvix::simulation::bss_list_test
@@ -10,7 +8,6 @@ namespace calvix::simulation::bss_list_test
 namespace
 {
 
-using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 class BssList : public ServiceTest
@@ -63,12 +60,12 @@ TEST_F(BssList, AnEntryDescribesItsAccessPoint)
 
 TEST_F(BssList, EntriesCarryTheTimeOfTheirScan)
 {
+    constexpr std::uint64_t kJanuary2026 = 134'116'992'000'000'000; // in units of 100 ns since 1601
     Start();
-    EXPECT_EQ(ListStations().at(0).ullHostTimestamp, HostTime(milliseconds(0)));
+    EXPECT_EQ(ListStations().at(0).ullHostTimestamp, kJanuary2026);
     computer->Advance(seconds(5));
-    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-    computer->Advance(seconds(10));
-    EXPECT_EQ(ListStations().at(0).ullHostTimestamp, HostTime(seconds(7)));
+    Scan(seconds(10));
+    EXPECT_EQ(ListStations().at(0).ullHostTimestamp, kJanuary2026 + 70'000'000);
     EXPECT_EQ(ListStations().at(0).ullTimestamp, 7'000'000u);
 }
 

@@ -1,5 +1,4 @@
 // How connections fail, and what the service does about it.
-#include "notification_recorder.h"
 #include "service_fixture.h"
 
 namespace calvix::simulation::connection_outcome_test
@@ -10,7 +9,6 @@ namespace
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
-using Lines = std::vector<std::string>;
 
 std::string With(const char* event, DWORD reason)
 {
@@ -26,56 +24,69 @@ protected:
     Lines Try(milliseconds duration = seconds(10))
     {
         Start();
-        EXPECT_EQ(Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_ACM, FALSE,
-                                                  &NotificationRecorder::Callback, &recorder, nullptr, nullptr),
-                  ERROR_SUCCESS);
+        EXPECT_EQ(Register(WLAN_NOTIFICATION_SOURCE_ACM), ERROR_SUCCESS);
         EXPECT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
         computer->Advance(duration);
-        computer->WaitForNotifications();
-        return recorder.Take();
+        return Told();
     }
-
-    static Lines Failure(DWORD reason) { return {"acm 9", With("acm 11", reason), With("acm 10", reason)}; }
-
-    void TearDown() override
-    {
-        ServiceTest::TearDown();
-        computer.reset();
-    }
-
-    NotificationRecorder recorder;
 };
 
-TEST_F(ConnectionOutcome, SuccessIsReportedOnce)
+struct Case
 {
-    EXPECT_EQ(Try(), (Lines{"acm 9", "acm 10"}));
-    EXPECT_EQ(InterfaceState(), wlan_interface_state_connected);
+    const char* what;
+    void (*change)(AccessPoint&);
+    DWORD reason;
+};
+
+void PrintTo(const Case& outcome, std::ostream* out)
+{
+    *out << outcome.what;
 }
 
-TEST_F(ConnectionOutcome, ANetworkThatIsNotThere)
+class ConnectionOutcomes : public ConnectionOutcome, public ::testing::WithParamInterface<Case>
 {
-    scenario.accessPoints.clear();
-    EXPECT_EQ(Try(), Failure(WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE));
+};
+
+TEST_P(ConnectionOutcomes, AreReportedOnce)
+{
+    GetParam().change(scenario.accessPoints[0]);
+    const DWORD reason = GetParam().reason;
+    if (reason == WLAN_REASON_CODE_SUCCESS)
+        EXPECT_EQ(Try(), (Lines{"acm 9", "acm 10"}));
+    else
+        EXPECT_EQ(Try(), (Lines{"acm 9", With("acm 11", reason), With("acm 10", reason)}));
+    EXPECT_EQ(InterfaceState(),
+              reason == WLAN_REASON_CODE_SUCCESS ? wlan_interface_state_connected : wlan_interface_state_disconnected);
 }
 
-TEST_F(ConnectionOutcome, AWrongKey)
-{
-    scenario.accessPoints[0].key = "another horse";
-    EXPECT_EQ(Try(), Failure(WLAN_REASON_CODE_MSMSEC_PSK_MISMATCH_SUSPECTED));
-    EXPECT_EQ(InterfaceState(), wlan_interface_state_disconnected);
-}
+const Case kOutcomes[] = {
+    {"as it is", [](AccessPoint&) {}, WLAN_REASON_CODE_SUCCESS},
+    {"the right key", [](AccessPoint& point) { point.key = "correct horse"; }, WLAN_REASON_CODE_SUCCESS},
+    {"a wrong key", [](AccessPoint& point) { point.key = "another horse"; },
+     WLAN_REASON_CODE_MSMSEC_PSK_MISMATCH_SUSPECTED},
+    {"just in reach", [](AccessPoint& point) { point.rssi = -90; }, WLAN_REASON_CODE_SUCCESS},
+    {"too faint", [](AccessPoint& point) { point.rssi = -91; }, WLAN_REASON_CODE_NO_VISIBLE_AP},
+    {"vanishes meanwhile",
+     [](AccessPoint& point) {
+         point.timetable = {{0, -50}, {700, std::nullopt}};
+     },
+     WLAN_REASON_CODE_NO_VISIBLE_AP},
+    {"another SSID", [](AccessPoint& point) { point.ssid.push_back('2'); }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+    {"another BSS type", [](AccessPoint& point) { point.bssType = 2; }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+    {"another authentication", [](AccessPoint& point) { point.authentication = "WPA3SAE"; },
+     WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+    {"another encryption", [](AccessPoint& point) { point.encryption = "TKIP"; },
+     WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+    {"hidden", [](AccessPoint& point) { point.hidden = true; }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+};
+
+INSTANTIATE_TEST_SUITE_P(AccessPoints, ConnectionOutcomes, ::testing::ValuesIn(kOutcomes));
 
 TEST_F(ConnectionOutcome, AWrongKeyShowsWhileAuthenticating)
 {
     scenario.accessPoints[0].key = "another horse";
     EXPECT_EQ(Try(milliseconds(999)), Lines{"acm 9"});
     EXPECT_EQ(InterfaceState(), wlan_interface_state_authenticating);
-}
-
-TEST_F(ConnectionOutcome, TheRightKey)
-{
-    scenario.accessPoints[0].key = "correct horse";
-    EXPECT_EQ(Try(), (Lines{"acm 9", "acm 10"}));
 }
 
 TEST_F(ConnectionOutcome, AnAccessPointThatDoesNotAnswer)
@@ -85,27 +96,8 @@ TEST_F(ConnectionOutcome, AnAccessPointThatDoesNotAnswer)
     EXPECT_EQ(InterfaceState(), wlan_interface_state_associating);
     computer->Advance(milliseconds(1));
     EXPECT_EQ(InterfaceState(), wlan_interface_state_disconnected);
-    computer->WaitForNotifications();
     const DWORD reason = WLAN_REASON_CODE_ASSOCIATION_TIMEOUT;
-    EXPECT_EQ(recorder.Take(), (Lines{With("acm 11", reason), With("acm 10", reason)}));
-}
-
-TEST_F(ConnectionOutcome, AnAccessPointThatIsTooFaint)
-{
-    scenario.accessPoints[0].rssi = -91;
-    EXPECT_EQ(Try(), Failure(WLAN_REASON_CODE_NO_VISIBLE_AP));
-}
-
-TEST_F(ConnectionOutcome, AFaintOneJustInReach)
-{
-    scenario.accessPoints[0].rssi = -90;
-    EXPECT_EQ(Try(), (Lines{"acm 9", "acm 10"}));
-}
-
-TEST_F(ConnectionOutcome, AnAccessPointThatVanishesMeanwhile)
-{
-    scenario.accessPoints[0].timetable = {{0, -50}, {700, std::nullopt}};
-    EXPECT_EQ(Try(), Failure(WLAN_REASON_CODE_NO_VISIBLE_AP));
+    EXPECT_EQ(Told(), (Lines{With("acm 11", reason), With("acm 10", reason)}));
 }
 
 TEST_F(ConnectionOutcome, TheNextAccessPointIsTriedAfterAFailure)
@@ -134,8 +126,7 @@ TEST_F(ConnectionOutcome, AnAttemptThatIsReplacedIsCancelled)
     Try(milliseconds(500));
     ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
     computer->Advance(seconds(1));
-    computer->WaitForNotifications();
-    EXPECT_EQ(recorder.Take(), (Lines{With("acm 10", WLAN_REASON_CODE_USER_CANCELLED), "acm 9", "acm 10"}));
+    EXPECT_EQ(Told(), (Lines{With("acm 10", WLAN_REASON_CODE_USER_CANCELLED), "acm 9", "acm 10"}));
 }
 
 } // namespace

@@ -65,20 +65,14 @@ TEST_F(InterfaceQueries, RadioSettingsThatMakeNoSense)
     Start();
     EXPECT_EQ(SetSoftwareRadio(2, dot11_radio_state_on), ERROR_INVALID_PARAMETER);
     EXPECT_EQ(SetSoftwareRadio(0, dot11_radio_state_unknown), ERROR_INVALID_PARAMETER);
-    const BOOL value = TRUE;
-    EXPECT_EQ(Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_radio_state, sizeof(value), &value, nullptr),
-              ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(Set(wlan_intf_opcode_radio_state, BOOL{TRUE}), ERROR_INVALID_PARAMETER);
 }
 
 TEST_F(InterfaceQueries, SettingsThatCannotBeSet)
 {
     Start();
-    const BOOL value = TRUE;
-    const auto set = [&](WLAN_INTF_OPCODE opcode)
-    { return Wlan().WlanSetInterface(client, &first, opcode, sizeof(value), &value, nullptr); };
-    EXPECT_EQ(set(wlan_intf_opcode_statistics), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_autoconf_enabled, 1, &value, nullptr),
-              ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(Set(wlan_intf_opcode_statistics, BOOL{TRUE}), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(Set(wlan_intf_opcode_autoconf_enabled, 'x'), ERROR_INVALID_PARAMETER);
 }
 
 TEST_F(InterfaceQueries, StatisticsCountUnicastFrames)

@@ -33,16 +33,14 @@ TEST_F(InternetTest, WhatCanBeReachedIsReachedAtOnce)
 TEST_F(InternetTest, NamesThatCannotBeResolved)
 {
     scenario.internet = InternetAccess::unresolved;
-    EXPECT_FALSE(Check());
-    EXPECT_EQ(LastError(), 12007u);
+    EXPECT_EQ(ErrorOf(Check()), 12007u);
 }
 
 TEST_F(InternetTest, WhereNothingAnswersTheConnectTimeoutPasses)
 {
     scenario.internet = InternetAccess::unreachable;
     EXPECT_TRUE(SetConnectTimeout(3000));
-    EXPECT_FALSE(Check());
-    EXPECT_EQ(LastError(), 12029u);
+    EXPECT_EQ(ErrorOf(Check()), 12029u);
     EXPECT_EQ(Machine().Now(), std::chrono::milliseconds(3000));
     Machine().SetInternet(InternetAccess::reachable);
     EXPECT_TRUE(Check());
@@ -88,8 +86,7 @@ TEST_F(InternetTest, RefusedArguments)
 {
     EXPECT_FALSE(Internet().InternetCheckConnectionA("http://example.org/", FLAG_ICC_FORCE_CONNECTION, 1));
     EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
-    EXPECT_FALSE(Internet().InternetCheckConnectionA("http://example.org/", 2, 0));
-    EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ErrorOf(Internet().InternetCheckConnectionA("http://example.org/", 2, 0)), ERROR_INVALID_PARAMETER);
     EXPECT_TRUE(Internet().InternetCheckConnectionA("HTTP://example.org/", 0, 0));
 }
 

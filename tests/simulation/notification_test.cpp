@@ -1,5 +1,4 @@
 // The notifications of clients, and their order.
-#include "notification_recorder.h"
 #include "service_fixture.h"
 
 #include <cstring>
@@ -12,37 +11,18 @@ namespace
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
-using Lines = std::vector<std::string>;
 
 class Notifications : public ServiceTest
 {
 protected:
-    DWORD Register(DWORD sources, bool ignoreDuplicates = false, DWORD* previous = nullptr)
-    {
-        return Wlan().WlanRegisterNotification(client, sources, ignoreDuplicates ? TRUE : FALSE,
-                                               &NotificationRecorder::Callback, &recorder, nullptr, previous);
-    }
-
-    Lines Told()
-    {
-        computer->WaitForNotifications();
-        return recorder.Take();
-    }
-
     void StartListening(DWORD sources = WLAN_NOTIFICATION_SOURCE_ALL)
     {
         Start();
         ASSERT_EQ(Register(sources), ERROR_SUCCESS);
     }
-
-    void TearDown() override
-    {
-        ServiceTest::TearDown();
-        computer.reset(); // before the recorder
-    }
-
-    NotificationRecorder recorder;
 };
+
+const std::string cancelled = " reason " + std::to_string(WLAN_REASON_CODE_USER_CANCELLED);
 
 TEST_F(Notifications, AConnectionGoesThroughAllItsStages)
 {
@@ -77,7 +57,6 @@ TEST_F(Notifications, ANewConnectionTakesTheOldOneDownFirst)
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
     StartListening(WLAN_NOTIFICATION_SOURCE_ACM);
     ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
-    const std::string cancelled = " reason " + std::to_string(WLAN_REASON_CODE_USER_CANCELLED);
     EXPECT_EQ(Told(), (Lines{"acm 20" + cancelled, "acm 21" + cancelled, "acm 9"}));
     computer->Advance(seconds(1));
     EXPECT_EQ(Told(), Lines{"acm 10"});
@@ -88,7 +67,6 @@ TEST_F(Notifications, BothModulesReportADisconnection)
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
     StartListening();
     ASSERT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
-    const std::string cancelled = " reason " + std::to_string(WLAN_REASON_CODE_USER_CANCELLED);
     EXPECT_EQ(Told(), (Lines{"acm 20" + cancelled, "msm 9" + cancelled, "msm 10" + cancelled, "acm 21" + cancelled}));
     ASSERT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
     EXPECT_EQ(Told(), Lines{}) << "there was nothing left to end";
@@ -97,8 +75,7 @@ TEST_F(Notifications, BothModulesReportADisconnection)
 TEST_F(Notifications, ScansAreReportedWhenTheyAreDone)
 {
     StartListening();
-    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-    computer->Advance(milliseconds(1999));
+    Scan(milliseconds(1999));
     EXPECT_EQ(Told(), Lines{});
     computer->Advance(milliseconds(1));
     EXPECT_EQ(Told(), Lines{"acm 7"});
@@ -108,7 +85,7 @@ TEST_F(Notifications, AScanThatTheRadioEndsHasFailed)
 {
     scenario.adapters[0].phys.resize(1);
     StartListening(WLAN_NOTIFICATION_SOURCE_ACM);
-    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
+    Scan(milliseconds(0));
     ASSERT_EQ(SetSoftwareRadio(0, dot11_radio_state_off), ERROR_SUCCESS);
     EXPECT_EQ(Told(), (Lines{"acm 8", "acm 26", "acm 18"}))
         << "the list is empty, and no network is available any more";
@@ -121,13 +98,10 @@ TEST_F(Notifications, SettingsAreReportedWhenTheyChange)
 {
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
     StartListening();
-    const auto set = [&](WLAN_INTF_OPCODE opcode, BOOL value)
-    { ASSERT_EQ(Wlan().WlanSetInterface(client, &first, opcode, sizeof(value), &value, nullptr), ERROR_SUCCESS); };
-    set(wlan_intf_opcode_autoconf_enabled, TRUE);
-    set(wlan_intf_opcode_autoconf_enabled, FALSE);
-    set(wlan_intf_opcode_autoconf_enabled, TRUE);
-    set(wlan_intf_opcode_background_scan_enabled, FALSE);
-    set(wlan_intf_opcode_background_scan_enabled, TRUE);
+    for (const BOOL enabled : {TRUE, FALSE, TRUE})
+        ASSERT_EQ(Set(wlan_intf_opcode_autoconf_enabled, enabled), ERROR_SUCCESS);
+    for (const BOOL enabled : {FALSE, TRUE})
+        ASSERT_EQ(Set(wlan_intf_opcode_background_scan_enabled, enabled), ERROR_SUCCESS);
     computer->SetPowerSetting(wlan_power_setting_low_saving);
     ASSERT_EQ(SetSoftwareRadio(1, dot11_radio_state_off), ERROR_SUCCESS);
     EXPECT_EQ(Told(), (Lines{"acm 2", "acm 1", "acm 4", "acm 3", "acm 6", "msm 7"}));
@@ -175,9 +149,7 @@ TEST_F(Notifications, OnlyFromTheSourcesAskedFor)
     EXPECT_EQ(previous, WLAN_NOTIFICATION_SOURCE_MSM);
     computer->Advance(seconds(1));
     EXPECT_EQ(Told(), Lines{"acm 10"});
-    EXPECT_EQ(Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_NONE, FALSE, nullptr, nullptr, nullptr,
-                                              &previous),
-              ERROR_SUCCESS);
+    EXPECT_EQ(Register(WLAN_NOTIFICATION_SOURCE_NONE, false, &previous), ERROR_SUCCESS);
     EXPECT_EQ(previous, WLAN_NOTIFICATION_SOURCE_ACM);
     ASSERT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
     EXPECT_EQ(Told(), Lines{});
@@ -191,8 +163,7 @@ TEST_F(Notifications, DuplicatesAreLeftOutWhenAsked)
         ASSERT_EQ(Register(WLAN_NOTIFICATION_SOURCE_ACM, ignored), ERROR_SUCCESS);
         ASSERT_EQ(SetProfile(MakeProfile("New", "New"), true), ERROR_SUCCESS);
         ASSERT_EQ(SetProfile(MakeProfile("New", "New"), true), ERROR_SUCCESS);
-        ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-        computer->Advance(seconds(2));
+        Scan();
         ASSERT_EQ(SetProfile(MakeProfile("New", "New"), true), ERROR_SUCCESS);
         EXPECT_EQ(Told(),
                   ignored ? (Lines{"acm 15", "acm 7", "acm 15"}) : (Lines{"acm 15", "acm 15", "acm 7", "acm 15"}));
@@ -216,19 +187,6 @@ TEST_F(Notifications, EveryClientIsNotifiedSeparately)
     computer->Advance(seconds(1));
     computer->WaitForNotifications();
     EXPECT_EQ(otherRecorder.Take(), Lines{});
-}
-
-TEST_F(Notifications, RefusedRegistrations)
-{
-    Start();
-    const auto callback = &NotificationRecorder::Callback;
-    const auto run = [&](HANDLE handle, WLAN_NOTIFICATION_CALLBACK function, PVOID reserved)
-    { return Wlan().WlanRegisterNotification(handle, 8, FALSE, function, &recorder, reserved, nullptr); };
-    EXPECT_EQ(run(nullptr, callback, nullptr), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(run(client, callback, &recorder), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(run(client, nullptr, nullptr), ERROR_INVALID_PARAMETER);
-    computer->SetServiceRunning(false);
-    EXPECT_EQ(run(client, callback, nullptr), ERROR_SERVICE_NOT_ACTIVE);
 }
 
 void WINAPI KeepRecords(L2_NOTIFICATION_DATA* data, PVOID context)

@@ -9,13 +9,10 @@ namespace
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-class Scan : public ServiceTest
+class Scanning : public ServiceTest
 {
 protected:
-    DWORD StartScan(const DOT11_SSID* ssid = nullptr)
-    {
-        return Wlan().WlanScan(client, &first, ssid, nullptr, nullptr);
-    }
+    DWORD ScanFor(const DOT11_SSID* ssid) { return Wlan().WlanScan(client, &first, ssid, nullptr, nullptr); }
     bool IsListed(const std::string& ssid)
     {
         for (const auto& network : ListNetworks())
@@ -25,45 +22,42 @@ protected:
     }
 };
 
-TEST_F(Scan, AComputerKnowsTheAirWhenItStarts)
+TEST_F(Scanning, AComputerKnowsTheAirWhenItStarts)
 {
     Start();
     EXPECT_TRUE(IsListed("HomeNet"));
 }
 
-TEST_F(Scan, NewsAreListedWhenAScanIsDone)
+TEST_F(Scanning, NewsAreListedWhenAScanIsDone)
 {
     Start();
     computer->air().push_back(MakeAccessPoint("New", 9, -40));
-    ASSERT_EQ(StartScan(), ERROR_SUCCESS);
-    computer->Advance(milliseconds(1999));
+    Scan(milliseconds(1999));
     EXPECT_FALSE(IsListed("New"));
     computer->Advance(milliseconds(1));
     EXPECT_TRUE(IsListed("New"));
 }
 
-TEST_F(Scan, WhatIsGoneIsGoneWithTheNextScan)
+TEST_F(Scanning, WhatIsGoneIsGoneWithTheNextScan)
 {
     Start();
     computer->air().clear();
-    ASSERT_EQ(StartScan(), ERROR_SUCCESS);
+    Scan(milliseconds(0));
     EXPECT_TRUE(IsListed("HomeNet"));
     computer->Advance(seconds(2));
     EXPECT_FALSE(IsListed("HomeNet"));
 }
 
-TEST_F(Scan, ASecondRequestJoinsTheScanUnderWay)
+TEST_F(Scanning, ASecondRequestJoinsTheScanUnderWay)
 {
     Start();
     computer->air().push_back(MakeAccessPoint("New", 9, -40));
-    ASSERT_EQ(StartScan(), ERROR_SUCCESS);
-    computer->Advance(milliseconds(1500));
-    EXPECT_EQ(StartScan(), ERROR_SUCCESS);
-    computer->Advance(milliseconds(500));
+    Scan(milliseconds(1500));
+    Scan(milliseconds(500));
     EXPECT_TRUE(IsListed("New"));
 }
 
-TEST_F(Scan, TheServiceScansByItselfEveryMinute)
+TEST_F(Scanning, TheServiceScansByItselfEveryMinute)
 {
     Start();
     computer->air().push_back(MakeAccessPoint("New", 9, -40));
@@ -76,7 +70,7 @@ TEST_F(Scan, TheServiceScansByItselfEveryMinute)
     EXPECT_FALSE(IsListed("New"));
 }
 
-TEST_F(Scan, AStoppedServiceDoesNotScanByItself)
+TEST_F(Scanning, AStoppedServiceDoesNotScanByItself)
 {
     Start();
     computer->air().push_back(MakeAccessPoint("New", 9, -40));
@@ -86,61 +80,52 @@ TEST_F(Scan, AStoppedServiceDoesNotScanByItself)
     EXPECT_FALSE(IsListed("New"));
 }
 
-TEST_F(Scan, WithoutAutoConfigurationTheServiceDoesNotScanByItself)
+TEST_F(Scanning, WithoutAutoConfigurationTheServiceDoesNotScanByItself)
 {
     Start();
-    const BOOL off = FALSE;
-    ASSERT_EQ(Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_autoconf_enabled, sizeof(off), &off, nullptr),
-              ERROR_SUCCESS);
+    ASSERT_EQ(Set(wlan_intf_opcode_autoconf_enabled, BOOL{FALSE}), ERROR_SUCCESS);
     EXPECT_EQ(Query<BOOL>(wlan_intf_opcode_autoconf_enabled), FALSE);
     computer->air().push_back(MakeAccessPoint("New", 9, -40));
     computer->Advance(seconds(90));
     EXPECT_FALSE(IsListed("New"));
 }
 
-TEST_F(Scan, BackgroundScanningIsSetWhileConnectedOnly)
+TEST_F(Scanning, BackgroundScanningIsSetWhileConnectedOnly)
 {
     Start();
-    const BOOL off = FALSE;
-    const auto set = [&]
-    {
-        return Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_background_scan_enabled, sizeof(off), &off,
-                                       nullptr);
-    };
-    EXPECT_EQ(set(), ERROR_INVALID_STATE);
+    EXPECT_EQ(Set(wlan_intf_opcode_background_scan_enabled, BOOL{FALSE}), ERROR_INVALID_STATE);
     ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
     computer->Advance(seconds(1));
-    EXPECT_EQ(set(), ERROR_SUCCESS);
+    EXPECT_EQ(Set(wlan_intf_opcode_background_scan_enabled, BOOL{FALSE}), ERROR_SUCCESS);
     computer->air().push_back(MakeAccessPoint("New", 9, -40));
     computer->Advance(seconds(90));
     EXPECT_FALSE(IsListed("New"));
 }
 
-TEST_F(Scan, AHiddenNetworkAnswersToItsName)
+TEST_F(Scanning, AHiddenNetworkAnswersToItsName)
 {
     scenario.accessPoints.push_back(MakeAccessPoint("Secret", 9, -60));
     scenario.accessPoints.back().hidden = true;
     Start();
     EXPECT_FALSE(IsListed("Secret"));
     const DOT11_SSID wrong = SsidOf("Secrets");
-    ASSERT_EQ(StartScan(&wrong), ERROR_SUCCESS);
+    ASSERT_EQ(ScanFor(&wrong), ERROR_SUCCESS);
     computer->Advance(seconds(2));
     EXPECT_FALSE(IsListed("Secret"));
     const DOT11_SSID right = SsidOf("Secret");
-    ASSERT_EQ(StartScan(&right), ERROR_SUCCESS);
+    ASSERT_EQ(ScanFor(&right), ERROR_SUCCESS);
     computer->Advance(seconds(2));
     EXPECT_TRUE(IsListed("Secret"));
-    ASSERT_EQ(StartScan(), ERROR_SUCCESS);
-    computer->Advance(seconds(2));
+    Scan();
     EXPECT_FALSE(IsListed("Secret"));
 }
 
-TEST_F(Scan, LimitsOfWhatIsAskedWith)
+TEST_F(Scanning, LimitsOfWhatIsAskedWith)
 {
     Start();
     DOT11_SSID tooLong{};
     tooLong.uSSIDLength = 33;
-    EXPECT_EQ(StartScan(&tooLong), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ScanFor(&tooLong), ERROR_INVALID_PARAMETER);
     WLAN_RAW_DATA data{};
     data.dwDataSize = 241;
     EXPECT_EQ(Wlan().WlanScan(client, &first, nullptr, &data, nullptr), ERROR_INVALID_PARAMETER);
@@ -148,7 +133,7 @@ TEST_F(Scan, LimitsOfWhatIsAskedWith)
     EXPECT_EQ(Wlan().WlanScan(client, &first, nullptr, &data, nullptr), ERROR_SUCCESS);
 }
 
-TEST_F(Scan, ARadioThatComesOnKnowsNothingUntilItHasScanned)
+TEST_F(Scanning, ARadioThatComesOnKnowsNothingUntilItHasScanned)
 {
     scenario.adapters[0].phys.resize(1);
     Start();
@@ -160,11 +145,11 @@ TEST_F(Scan, ARadioThatComesOnKnowsNothingUntilItHasScanned)
     EXPECT_TRUE(IsListed("HomeNet"));
 }
 
-TEST_F(Scan, ARadioSwitchedOffEndsTheScanUnderWay)
+TEST_F(Scanning, ARadioSwitchedOffEndsTheScanUnderWay)
 {
     scenario.adapters[0].phys.resize(1);
     Start();
-    ASSERT_EQ(StartScan(), ERROR_SUCCESS);
+    Scan(milliseconds(0));
     computer->SetRadio(0, 0, RadioSwitch::on, RadioSwitch::off);
     computer->Advance(milliseconds(1500));
     computer->SetRadio(0, 0, RadioSwitch::on, RadioSwitch::on);

@@ -93,13 +93,31 @@ DWORD ServiceTest::SetProfile(const std::string& xml, bool overwrite, DWORD flag
                                  &reason);
 }
 
-DWORD ServiceTest::Connect(const wchar_t* profile, DOT11_BSS_TYPE bssType)
+DWORD ServiceTest::Connect(const wchar_t* profile)
 {
     WLAN_CONNECTION_PARAMETERS parameters{};
     parameters.wlanConnectionMode = wlan_connection_mode_profile;
     parameters.strProfile = profile;
-    parameters.dot11BssType = bssType;
+    parameters.dot11BssType = dot11_BSS_type_infrastructure;
     return Wlan().WlanConnect(client, &first, &parameters, nullptr);
+}
+
+void ServiceTest::Scan(std::chrono::milliseconds duration)
+{
+    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
+    computer->Advance(duration);
+}
+
+DWORD ServiceTest::Register(DWORD sources, bool ignoreDuplicates, DWORD* previous)
+{
+    return Wlan().WlanRegisterNotification(client, sources, ignoreDuplicates ? TRUE : FALSE,
+                                           &NotificationRecorder::Callback, &recorder, nullptr, previous);
+}
+
+ServiceTest::Lines ServiceTest::Told()
+{
+    computer->WaitForNotifications();
+    return recorder.Take();
 }
 
 DWORD ServiceTest::SetSoftwareRadio(DWORD phy, DOT11_RADIO_STATE state)
@@ -107,7 +125,7 @@ DWORD ServiceTest::SetSoftwareRadio(DWORD phy, DOT11_RADIO_STATE state)
     WLAN_PHY_RADIO_STATE record{};
     record.dwPhyIndex = phy;
     record.dot11SoftwareRadioState = state;
-    return Wlan().WlanSetInterface(client, &first, wlan_intf_opcode_radio_state, sizeof(record), &record, nullptr);
+    return Set(wlan_intf_opcode_radio_state, record);
 }
 
 WLAN_INTERFACE_STATE ServiceTest::InterfaceState()

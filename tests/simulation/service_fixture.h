@@ -1,5 +1,6 @@
 #pragma once
 
+#include "notification_recorder.h"
 #include "simulation/computer.h"
 
 #include "platform/records/error_numbers.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +32,7 @@ protected:
 
     using Networks = std::vector<WLAN_AVAILABLE_NETWORK>;
     using Stations = std::vector<WLAN_BSS_ENTRY>;
+    using Lines = std::vector<std::string>;
 
     Networks ListNetworks(DWORD flags = 0);
     Stations
@@ -37,9 +40,14 @@ protected:
     std::vector<std::wstring> ProfileNames();
     std::wstring ProfileXml(const wchar_t* name, DWORD flags);
     DWORD SetProfile(const std::string& xml, bool overwrite = false, DWORD flags = 0);
-    DWORD Connect(const wchar_t* profile, DOT11_BSS_TYPE bssType = dot11_BSS_type_infrastructure);
+    DWORD Connect(const wchar_t* profile);
+    /// Scans, and lets time pass: a scan takes two seconds.
+    void Scan(std::chrono::milliseconds duration = std::chrono::seconds(2));
     DWORD SetSoftwareRadio(DWORD phy, DOT11_RADIO_STATE state);
     WLAN_INTERFACE_STATE InterfaceState();
+    DWORD Register(DWORD sources, bool ignoreDuplicates = false, DWORD* previous = nullptr);
+    /// The notifications since the last time.
+    Lines Told();
     /// The connection, or nothing and the error.
     std::optional<WLAN_CONNECTION_ATTRIBUTES> Connection(DWORD* error = nullptr);
 
@@ -51,21 +59,45 @@ protected:
         const DWORD result = Wlan().WlanQueryInterface(client, &first, opcode, nullptr, &size, &data, nullptr);
         if (error != nullptr)
             *error = result;
-        if (result != ERROR_SUCCESS)
-            return std::nullopt;
-        EXPECT_EQ(size, sizeof(Record));
-        const Record record = *static_cast<const Record*>(data);
-        Wlan().WlanFreeMemory(data);
-        return record;
+        return Take<Record>(size, data);
+    }
+
+    template <typename Value>
+    std::optional<Value> QueryService(WLAN_AUTOCONF_OPCODE opcode)
+    {
+        DWORD size = 0;
+        PVOID data = nullptr;
+        Wlan().WlanQueryAutoConfigParameter(client, opcode, nullptr, &size, &data, nullptr);
+        return Take<Value>(size, data);
+    }
+
+    template <typename Value>
+    DWORD Set(WLAN_INTF_OPCODE opcode, const Value& value)
+    {
+        return Wlan().WlanSetInterface(client, &first, opcode, sizeof(value), &value, nullptr);
     }
 
     Scenario scenario;
+    NotificationRecorder recorder;
     std::unique_ptr<Computer> computer;
     HANDLE client = nullptr;
 
     const GUID first = {0xA0000001, 1, 1, {1, 1, 1, 1, 1, 1, 1, 1}};
     const GUID second = {0xB0000002, 2, 2, {2, 2, 2, 2, 2, 2, 2, 2}};
     const GUID missing = {0xC0000003, 3, 3, {3, 3, 3, 3, 3, 3, 3, 3}};
+
+private:
+    /// The record of an answer, which goes back, or nothing if there is none.
+    template <typename Record>
+    std::optional<Record> Take(DWORD size, void* data)
+    {
+        if (data == nullptr)
+            return std::nullopt;
+        EXPECT_EQ(size, sizeof(Record));
+        const Record record = *static_cast<const Record*>(data);
+        Wlan().WlanFreeMemory(data);
+        return record;
+    }
 };
 
 Bytes BytesOf(const std::string& text);

@@ -1,5 +1,4 @@
 // What the WLAN API has beside the operations that the library calls.
-#include "notification_recorder.h"
 #include "service_fixture.h"
 
 #include "simulation/wlan_service.h"
@@ -12,7 +11,6 @@ namespace
 
 using std::chrono::seconds;
 using Names = std::vector<std::wstring>;
-using Lines = std::vector<std::string>;
 
 class StationFunctions : public ServiceTest
 {
@@ -31,14 +29,11 @@ protected:
     template <typename Action>
     Lines ToldDuring(const Action& action)
     {
-        NotificationRecorder recorder;
-        Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_ACM, FALSE, &NotificationRecorder::Callback,
-                                        &recorder, nullptr, nullptr);
+        Register(WLAN_NOTIFICATION_SOURCE_ACM);
         action();
-        computer->WaitForNotifications();
-        Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_NONE, FALSE, nullptr, nullptr, nullptr,
-                                        nullptr);
-        return recorder.Take();
+        const Lines told = Told();
+        Register(WLAN_NOTIFICATION_SOURCE_NONE);
+        return told;
     }
 
     DWORD Arrange(std::vector<const wchar_t*> names)
@@ -60,21 +55,21 @@ protected:
     DWORD ConnectTemporarily(const std::string& xml)
     {
         const std::wstring wide(xml.begin(), xml.end());
-        WLAN_CONNECTION_PARAMETERS parameters{};
-        parameters.wlanConnectionMode = wlan_connection_mode_temporary_profile;
-        parameters.strProfile = wide.c_str();
-        parameters.dot11BssType = dot11_BSS_type_infrastructure;
-        const DWORD error = Wlan().WlanConnect(client, &first, &parameters, nullptr);
-        computer->Advance(seconds(5));
-        return error;
+        return ConnectAndWait(wlan_connection_mode_temporary_profile, wide.c_str(), nullptr);
     }
 
     DWORD Discover(const std::string& name, WLAN_CONNECTION_MODE mode)
     {
         DOT11_SSID ssid = SsidOf(name);
+        return ConnectAndWait(mode, nullptr, &ssid);
+    }
+
+    DWORD ConnectAndWait(WLAN_CONNECTION_MODE mode, const wchar_t* profile, DOT11_SSID* ssid)
+    {
         WLAN_CONNECTION_PARAMETERS parameters{};
         parameters.wlanConnectionMode = mode;
-        parameters.pDot11Ssid = &ssid;
+        parameters.strProfile = profile;
+        parameters.pDot11Ssid = ssid;
         parameters.dot11BssType = dot11_BSS_type_infrastructure;
         const DWORD error = Wlan().WlanConnect(client, &first, &parameters, nullptr);
         computer->Advance(seconds(5));
@@ -257,11 +252,7 @@ TEST_F(StationFunctions, DiscoveryCannotAskForAKey)
 TEST_F(StationFunctions, TheListIsRefreshedWhenItChanges)
 {
     Start();
-    const auto scan = [&]
-    {
-        ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-        computer->Advance(seconds(2));
-    };
+    const auto scan = [&] { Scan(); };
     EXPECT_EQ(ToldDuring(scan), (Lines{"acm 7"}));
     computer->air()[0].rssi = -80;
     EXPECT_EQ(ToldDuring(scan), (Lines{"acm 7"})) << "a list of the same access points";
@@ -294,18 +285,16 @@ TEST_F(StationFunctions, AStationAnswersWhatSamplesAskFor)
 TEST_F(StationFunctions, SettingsOfAnAdapterAreReturnedAsSet)
 {
     Start();
-    const auto set = [&](WLAN_INTF_OPCODE opcode, auto value)
-    { return Wlan().WlanSetInterface(client, &first, opcode, sizeof(value), &value, nullptr); };
     EXPECT_EQ(Query<BOOL>(wlan_intf_opcode_media_streaming_mode), FALSE);
-    EXPECT_EQ(set(wlan_intf_opcode_media_streaming_mode, BOOL{TRUE}), ERROR_SUCCESS);
+    EXPECT_EQ(Set(wlan_intf_opcode_media_streaming_mode, BOOL{TRUE}), ERROR_SUCCESS);
     EXPECT_EQ(Query<BOOL>(wlan_intf_opcode_media_streaming_mode), TRUE);
-    const auto setType = [&] { EXPECT_EQ(set(wlan_intf_opcode_bss_type, dot11_BSS_type_any), ERROR_SUCCESS); };
+    const auto setType = [&] { EXPECT_EQ(Set(wlan_intf_opcode_bss_type, dot11_BSS_type_any), ERROR_SUCCESS); };
     EXPECT_EQ(ToldDuring(setType), (Lines{"acm 5"}));
     EXPECT_EQ(Query<DOT11_BSS_TYPE>(wlan_intf_opcode_bss_type), dot11_BSS_type_any);
-    EXPECT_EQ(set(wlan_intf_opcode_bss_type, std::uint32_t{4}), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(set(wlan_intf_opcode_current_operation_mode, ULONG{4}), ERROR_SUCCESS);
-    EXPECT_EQ(set(wlan_intf_opcode_current_operation_mode, ULONG{0x80000000}), ERROR_NOT_SUPPORTED);
-    EXPECT_EQ(set(wlan_intf_opcode_current_operation_mode, ULONG{2}), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(Set(wlan_intf_opcode_bss_type, std::uint32_t{4}), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(Set(wlan_intf_opcode_current_operation_mode, ULONG{4}), ERROR_SUCCESS);
+    EXPECT_EQ(Set(wlan_intf_opcode_current_operation_mode, ULONG{0x80000000}), ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(Set(wlan_intf_opcode_current_operation_mode, ULONG{2}), ERROR_INVALID_PARAMETER);
 }
 
 TEST_F(StationFunctions, AutoConfigurationIsReturnedAsSet)
@@ -317,13 +306,7 @@ TEST_F(StationFunctions, AutoConfigurationIsReturnedAsSet)
     EXPECT_EQ(set(wlan_autoconf_opcode_show_denied_networks, BOOL{TRUE}), ERROR_SUCCESS);
     EXPECT_EQ(set(wlan_autoconf_opcode_show_denied_networks, 'x'), ERROR_INVALID_PARAMETER);
     EXPECT_EQ(set(wlan_autoconf_opcode_power_setting, DWORD{1}), ERROR_INVALID_PARAMETER);
-    DWORD size = 0;
-    PVOID data = nullptr;
-    ASSERT_EQ(
-        Wlan().WlanQueryAutoConfigParameter(client, wlan_autoconf_opcode_block_period, nullptr, &size, &data, nullptr),
-        ERROR_SUCCESS);
-    EXPECT_EQ(*static_cast<const DWORD*>(data), 60u);
-    Wlan().WlanFreeMemory(data);
+    EXPECT_EQ(QueryService<DWORD>(wlan_autoconf_opcode_block_period), 60u);
 }
 
 TEST_F(StationFunctions, SecuritySettingsAreHandedBack)

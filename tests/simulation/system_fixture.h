@@ -37,6 +37,13 @@ protected:
     platform::Processes& Processes() { return Machine().processes(); }
     platform::Internet& Internet() { return Machine().internet(); }
     DWORD LastError() { return Machine().errors().GetLastError(); }
+    /// The last error of an operation, whose result is FALSE, 0 or null.
+    template <typename Result>
+    DWORD ErrorOf(Result result)
+    {
+        EXPECT_FALSE(result);
+        return LastError();
+    }
 
     /// A handle to the token with these rights.
     HANDLE OpenToken(DWORD access)

@@ -1,13 +1,5 @@
-// What can be asked of the simulated computer only. Everything else about texts is in tests/platform.
-
-#include "simulation/text.h"
-
-#include "platform/records/error_numbers.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
+// Texts on computers with different active code pages. Everything else about texts is in tests/platform.
+#include "system_fixture.h"
 
 namespace calvix::simulation::text_test
 {
@@ -15,63 +7,37 @@ namespace calvix::simulation::text_test
 namespace
 {
 
-class TextTest : public ::testing::Test
+TEST(ActiveCodePage, IsTheScenarios)
 {
-protected:
-    std::wstring Decode(UINT codePage, const std::string& bytes)
+    const struct
     {
-        std::vector<wchar_t> room(256, L'#');
-        const int size =
-            m_text.MultiByteToWideChar(codePage, 0, bytes.data(), static_cast<int>(bytes.size()), room.data(), 256);
-        return {room.data(), static_cast<std::size_t>(size)};
-    }
-
-    std::string Encode(UINT codePage, const std::wstring& text, BOOL* used = nullptr)
+        std::uint32_t codePage;
+        const char* bytes;
+        const wchar_t* text;
+    } cases[] = {{1252, "\x80\xE9", L"\u20AC\u00E9"},
+                 {932, "\x93\x8C", L"\u6771"},
+                 {936, "\xB6\xAB\x80", L"\u4E1C\u20AC"},
+                 {65001, "\xE6\x9D\xB1", L"\u6771"}};
+    for (const auto& each : cases)
     {
-        std::vector<char> room(256, '#');
-        const int size = m_text.WideCharToMultiByte(codePage, 0, text.data(), static_cast<int>(text.size()),
-                                                    room.data(), 256, nullptr, used);
-        return {room.data(), static_cast<std::size_t>(size)};
+        Scenario scenario;
+        scenario.codePage = each.codePage;
+        Computer computer(scenario);
+        wchar_t text[8] = {};
+        EXPECT_GT(computer.text().MultiByteToWideChar(CP_ACP, 0, each.bytes, -1, text, 8), 0) << each.codePage;
+        EXPECT_STREQ(text, each.text) << each.codePage;
     }
-
-    LastErrorCell m_lastError;
-    std::uint32_t m_codePage = 1252;
-    SimulatedText m_text{m_lastError, m_codePage};
-};
-
-TEST_F(TextTest, CodePageZeroIsTheActiveOne)
-{
-    EXPECT_EQ(Decode(CP_ACP, "\x80\xE9"), L"\u20AC\u00E9");
-    m_codePage = 932;
-    EXPECT_EQ(Decode(CP_ACP, "\x93\x8C"), L"\u6771");
-    m_codePage = 936;
-    EXPECT_EQ(Decode(CP_ACP, "\xB6\xAB\x80"), L"\u4E1C\u20AC");
-    m_codePage = CP_UTF8;
-    EXPECT_EQ(Decode(CP_ACP, "\xE6\x9D\xB1"), L"\u6771");
 }
 
-TEST_F(TextTest, Utf8HasNoDefaultCharacterWhereItIsTheActiveCodePageEither)
+using ActiveUtf8 = SystemTest;
+
+TEST_F(ActiveUtf8, HasNoDefaultCharacterEither)
 {
+    scenario.codePage = 65001;
+    char bytes[4] = {};
     BOOL used = FALSE;
-    m_codePage = CP_UTF8;
-    EXPECT_EQ(Encode(CP_ACP, L"a", &used), "");
-    EXPECT_EQ(m_lastError, ERROR_INVALID_PARAMETER);
-}
-
-TEST_F(TextTest, LongTextsAreConvertedWhole)
-{
-    std::wstring text;
-    std::string bytes;
-    for (int count = 0; count < 80; ++count)
-    {
-        text += L"\u6771a";
-        bytes += "\x93\x8C"
-                 "a";
-    }
-    EXPECT_EQ(Encode(932, text), bytes);
-    EXPECT_EQ(Decode(932, bytes), text);
-    text[101] = L'\u0E01';
-    EXPECT_EQ(Encode(932, text).size(), bytes.size());
+    EXPECT_EQ(Machine().text().WideCharToMultiByte(CP_ACP, 0, L"a", 1, bytes, 4, nullptr, &used), 0);
+    EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
 }
 
 } // namespace

@@ -81,17 +81,14 @@ TEST_F(Fading, ScansHearWhatThereIsAtTheirTime)
     Start();
     computer->Advance(seconds(5));
     EXPECT_EQ(ListStations().at(0).lRssi, -50) << "as of the last scan";
-    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-    computer->Advance(seconds(5));
+    Scan(seconds(5));
     const Stations stations = ListStations();
     ASSERT_EQ(stations.size(), 2u);
     EXPECT_EQ(stations[0].lRssi, -64) << "the scan was done after 7 seconds";
     EXPECT_EQ(stations[0].uLinkQuality, 72u);
     EXPECT_EQ(stations[1].lRssi, -54);
-    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-    computer->Advance(seconds(12));
-    ASSERT_EQ(Wlan().WlanScan(client, &first, nullptr, nullptr, nullptr), ERROR_SUCCESS);
-    computer->Advance(seconds(2));
+    Scan(seconds(12));
+    Scan();
     EXPECT_EQ(ListStations().size(), 1u);
 }
 
