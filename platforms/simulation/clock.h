@@ -1,25 +1,19 @@
 #pragma once
 
 #include "platform/clock.h"
-#include "simulation/event_queue.h"
-#include "simulation/last_error_cell.h"
+#include "simulation/facility.h"
 
 namespace calvix::simulation
 {
 
 /// A clock that waits by letting simulated time pass at once.
-class SimulatedClock final
+class SimulatedClock final : Facility
 {
 public:
-    /// `lastError` receives the reason of a failure; both outlive this object.
-    SimulatedClock(LastErrorCell& lastError, EventQueue& time) : m_lastError(lastError), m_time(time) {}
+    using Facility::Facility;
 
     void Sleep(DWORD milliseconds);
     BOOL FileTimeToSystemTime(const FILETIME* fileTime, SYSTEMTIME* systemTime);
-
-private:
-    LastErrorCell& m_lastError;
-    EventQueue& m_time;
 };
 
 } // namespace calvix::simulation

@@ -1,29 +1,24 @@
 #pragma once
 
 #include "platform/debugger_output.h"
-
-#include <string>
-#include <vector>
+#include "simulation/facility.h"
 
 namespace calvix::simulation
 {
 
 /// A debugger that stores its output, one element per call.
-class SimulatedDebuggerOutput final
+class SimulatedDebuggerOutput final : Facility
 {
 public:
-    /// `lines` receives the texts; it outlives this object.
-    explicit SimulatedDebuggerOutput(std::vector<std::string>& lines) : m_lines(lines) {}
+    using Facility::Facility;
 
     /// A null text says nothing and is not kept.
     void OutputDebugStringA(const char* text)
     {
+        const std::lock_guard lock(m_machine.mutex);
         if (text != nullptr)
-            m_lines.emplace_back(text);
+            m_machine.debuggerLines.emplace_back(text);
     }
-
-private:
-    std::vector<std::string>& m_lines;
 };
 
 } // namespace calvix::simulation

@@ -1,5 +1,7 @@
 #include "simulation/facilities.h"
 
+#include "operations/bound.h"
+
 namespace calvix::simulation
 {
 
@@ -38,11 +40,11 @@ platform::WlanService WlanServiceOf(Facilities& computer)
 platform::ServiceControl ServiceControlOf(Facilities& computer)
 {
     return {
-        .OpenSCManagerA = LockedCallsTo<&SimulatedServiceControl::OpenSCManagerA>(computer.services),
-        .OpenServiceA = LockedCallsTo<&SimulatedServiceControl::OpenServiceA>(computer.services),
-        .QueryServiceStatus = LockedCallsTo<&SimulatedServiceControl::QueryServiceStatus>(computer.services),
-        .StartServiceA = LockedCallsTo<&SimulatedServiceControl::StartServiceA>(computer.services),
-        .CloseServiceHandle = LockedCallsTo<&SimulatedServiceControl::CloseServiceHandle>(computer.services),
+        .OpenSCManagerA = CallsTo<&SimulatedServiceControl::OpenSCManagerA>(computer.services),
+        .OpenServiceA = CallsTo<&SimulatedServiceControl::OpenServiceA>(computer.services),
+        .QueryServiceStatus = CallsTo<&SimulatedServiceControl::QueryServiceStatus>(computer.services),
+        .StartServiceA = CallsTo<&SimulatedServiceControl::StartServiceA>(computer.services),
+        .CloseServiceHandle = CallsTo<&SimulatedServiceControl::CloseServiceHandle>(computer.services),
     };
 }
 
@@ -114,7 +116,7 @@ platform::Text TextOf(Facilities& computer)
 platform::Clock ClockOf(Facilities& computer)
 {
     return {
-        .Sleep = CallsTo<&WaitingProgram::Sleep>(computer.waiting),
+        .Sleep = CallsTo<&SimulatedClock::Sleep>(computer.clock),
         .FileTimeToSystemTime = CallsTo<&SimulatedClock::FileTimeToSystemTime>(computer.clock),
     };
 }
@@ -122,14 +124,14 @@ platform::Clock ClockOf(Facilities& computer)
 platform::DebuggerOutput DebuggerOutputOf(Facilities& computer)
 {
     return {
-        .OutputDebugStringA = LockedCallsTo<&SimulatedDebuggerOutput::OutputDebugStringA>(computer.debugger),
+        .OutputDebugStringA = CallsTo<&SimulatedDebuggerOutput::OutputDebugStringA>(computer.debugger),
     };
 }
 
 platform::LastError LastErrorOf(Facilities& computer)
 {
     return {
-        .GetLastError = CallsTo<&SimulatedLastError::GetLastError>(computer.errors),
+        .GetLastError = CallsTo<&LastErrorCell::GetLastError>(computer.machine.lastError),
     };
 }
 

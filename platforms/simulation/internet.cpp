@@ -2,7 +2,6 @@
 
 #include "platform/records/error_numbers.h"
 #include "simulation/ascii_case.h"
-#include "simulation/passing_time.h"
 
 #include <cstring>
 #include <string_view>
@@ -33,12 +32,6 @@ DWORD AddressError(std::string_view url)
 }
 
 } // namespace
-
-BOOL SimulatedInternet::Fail(DWORD error)
-{
-    m_machine.lastError = error;
-    return FALSE;
-}
 
 BOOL SimulatedInternet::InternetSetOptionA(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize)
 {
@@ -73,7 +66,7 @@ BOOL SimulatedInternet::InternetCheckConnectionA(const char* url, DWORD flags, D
         return Fail(kNameNotResolved);
     if (access == InternetAccess::reachable)
         return TRUE;
-    PassTime(m_machine, std::chrono::milliseconds(timeout));
+    PassTime(std::chrono::milliseconds(timeout));
     return Fail(kCannotConnect);
 }
 

@@ -21,7 +21,7 @@ public:
         return *this;
     }
 
-    operator DWORD() const
+    DWORD GetLastError()
     {
         const std::lock_guard lock(m_mutex);
         const auto known = m_errors.find(ThisThread());
@@ -38,7 +38,7 @@ private:
         return number;
     }
 
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::map<std::uint64_t, DWORD> m_errors;
 };
 

@@ -1,7 +1,6 @@
 #include "simulation/power.h"
 
 #include "platform/records/error_numbers.h"
-#include "simulation/passing_time.h"
 #include "simulation/power_information.h"
 
 #include <cstdint>
@@ -56,12 +55,6 @@ GUID* NewGuid(Blocks& blocks, const GUID& guid)
 }
 
 } // namespace
-
-BOOLEAN SimulatedPower::Fail(DWORD error)
-{
-    m_machine.lastError = error;
-    return 0;
-}
 
 // Chosen: the policies are changed through their schemes and not here, so that nothing takes an input.
 NTSTATUS
@@ -279,7 +272,7 @@ BOOLEAN SimulatedPower::SetSuspendState(BOOLEAN hibernate, BOOLEAN, BOOLEAN wake
         m_machine.power.lastSleepTime = m_machine.InterruptTime();
         sleep = std::chrono::milliseconds(m_machine.power.sleepMilliseconds);
     }
-    PassTime(m_machine, sleep);
+    PassTime(sleep);
     const std::lock_guard lock(m_machine.mutex);
     m_machine.power.lastWakeTime = m_machine.InterruptTime();
     // Without wake-up events only its user can wake it.

@@ -1,18 +1,17 @@
 #pragma once
 
 #include "platform/power.h"
-#include "simulation/machine.h"
+#include "simulation/facility.h"
 
 namespace calvix::simulation
 {
 
 /// Power management: the two kinds of power schemes, what the computer can do, and sleeping. Everybody has every right to
 /// the schemes; putting the computer to sleep takes the shutdown privilege.
-class SimulatedPower final
+class SimulatedPower final : Facility
 {
 public:
-    /// `machine` outlives this object.
-    explicit SimulatedPower(Machine& machine) : m_machine(machine) {}
+    using Facility::Facility;
 
     NTSTATUS
     CallNtPowerInformation(POWER_INFORMATION_LEVEL level, PVOID input, ULONG inputSize, PVOID output, ULONG outputSize);
@@ -45,10 +44,7 @@ public:
     void LocalFree(PVOID memory);
 
 private:
-    BOOLEAN Fail(DWORD error);
     DWORD SuspendError(bool hibernate) const;
-
-    Machine& m_machine;
 };
 
 } // namespace calvix::simulation

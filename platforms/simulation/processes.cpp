@@ -3,7 +3,6 @@
 #include "platform/records/error_numbers.h"
 #include "simulation/ascii_case.h"
 #include "simulation/command_line_names.h"
-#include "simulation/passing_time.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -51,18 +50,6 @@ std::string FolderOf(const std::string& path)
 }
 
 } // namespace
-
-BOOL SimulatedProcesses::Fail(DWORD error)
-{
-    m_machine.lastError = error;
-    return FALSE;
-}
-
-DWORD SimulatedProcesses::FailWait(DWORD error)
-{
-    m_machine.lastError = error;
-    return WAIT_FAILED;
-}
 
 HANDLE SimulatedProcesses::GetCurrentProcess()
 {
@@ -155,9 +142,12 @@ DWORD SimulatedProcesses::WaitForSingleObject(HANDLE handle, DWORD milliseconds)
     {
         const std::lock_guard lock(m_machine.mutex);
         if (const DWORD error = PlanWait(handle, milliseconds, wait); error != ERROR_SUCCESS)
-            return FailWait(error);
+        {
+            Fail(error);
+            return WAIT_FAILED;
+        }
     }
-    PassTime(m_machine, wait.duration);
+    PassTime(wait.duration);
     return wait.result;
 }
 
@@ -173,10 +163,7 @@ HANDLE SimulatedProcesses::OpenProcess(DWORD access, BOOL, DWORD processId)
 {
     const std::lock_guard lock(m_machine.mutex);
     if (const DWORD error = OpeningError(processId); error != ERROR_SUCCESS)
-    {
-        Fail(error);
-        return nullptr;
-    }
+        return Fail(error);
     return OpenHandle(HandleKind::process, processId, access);
 }
 
@@ -228,9 +215,9 @@ DWORD SimulatedProcesses::GetModuleFileNameA(HMODULE module, char* fileName, DWO
     const std::lock_guard lock(m_machine.mutex);
     const std::optional<std::string> path = ModulePath(module);
     if (!path)
-        return static_cast<DWORD>(Fail(ERROR_MOD_NOT_FOUND));
+        return Fail(ERROR_MOD_NOT_FOUND);
     if (fileName == nullptr || size == 0)
-        return static_cast<DWORD>(Fail(ERROR_INSUFFICIENT_BUFFER));
+        return Fail(ERROR_INSUFFICIENT_BUFFER);
     const std::size_t copied = path->copy(fileName, size - 1);
     fileName[copied] = '\0';
     if (copied == path->size())
@@ -245,8 +232,7 @@ HMODULE SimulatedProcesses::GetModuleHandleA(const char* moduleName)
         return kHostModule;
     if (SameButForCase(moduleName, "kernel32") || SameButForCase(moduleName, "kernel32.dll"))
         return kKernelModule;
-    Fail(ERROR_MOD_NOT_FOUND);
-    return nullptr;
+    return Fail(ERROR_MOD_NOT_FOUND);
 }
 
 FARPROC SimulatedProcesses::GetProcAddress(HMODULE module, const char* name)
@@ -254,10 +240,7 @@ FARPROC SimulatedProcesses::GetProcAddress(HMODULE module, const char* name)
     const std::lock_guard lock(m_machine.mutex);
     const bool isName = reinterpret_cast<UINT_PTR>(name) >= kFirstNameAddress;
     if (module != kKernelModule || !isName || std::string_view(name) != "IsWow64Process" || !m_machine.wow64)
-    {
-        Fail(ERROR_PROC_NOT_FOUND);
-        return nullptr;
-    }
+        return Fail(ERROR_PROC_NOT_FOUND);
     const auto function = *m_machine.wow64 ? &IsWow64ProcessSayingYes : &IsWow64ProcessSayingNo;
     // The cast through void(*)() shows the compiler that the change of the function's type is intended.
     return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/processes.h"
-#include "simulation/machine.h"
+#include "simulation/facility.h"
 
 #include <optional>
 #include <string>
@@ -10,11 +10,10 @@ namespace calvix::simulation
 {
 
 /// Processes and modules. A process is a span of simulated time and an exit code; waiting for one lets that time pass.
-class SimulatedProcesses final
+class SimulatedProcesses final : Facility
 {
 public:
-    /// `machine` outlives this object.
-    explicit SimulatedProcesses(Machine& machine) : m_machine(machine) {}
+    using Facility::Facility;
 
     HANDLE GetCurrentProcess();
     BOOL CreateProcessA(const char* application,
@@ -43,16 +42,12 @@ private:
         DWORD result = WAIT_OBJECT_0;
     };
 
-    BOOL Fail(DWORD error);
-    DWORD FailWait(DWORD error);
     const Program* FindProgram(const std::string& name) const;
     const Program* FindCommand(const std::string& commandLine) const;
     HANDLE OpenHandle(HandleKind kind, DWORD processId, DWORD rights);
     DWORD OpeningError(DWORD processId);
     DWORD PlanWait(HANDLE handle, DWORD milliseconds, Wait& wait);
     std::optional<std::string> ModulePath(HMODULE module) const;
-
-    Machine& m_machine;
 };
 
 } // namespace calvix::simulation

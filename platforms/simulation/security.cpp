@@ -22,12 +22,6 @@ std::size_t SizeOfPrivileges(std::size_t count)
 
 } // namespace
 
-BOOL SimulatedSecurity::Fail(DWORD error)
-{
-    m_machine.lastError = error;
-    return FALSE;
-}
-
 BOOL SimulatedSecurity::OpenProcessToken(HANDLE process, DWORD access, HANDLE* token)
 {
     const std::lock_guard lock(m_machine.mutex);

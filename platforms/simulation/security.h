@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/security.h"
-#include "simulation/machine.h"
+#include "simulation/facility.h"
 
 #include <map>
 #include <optional>
@@ -10,11 +10,10 @@ namespace calvix::simulation
 {
 
 /// The token of the programs that use the computer, and its privileges. All handles to it are handles to the same token.
-class SimulatedSecurity final
+class SimulatedSecurity final : Facility
 {
 public:
-    /// `machine` outlives this object.
-    explicit SimulatedSecurity(Machine& machine) : m_machine(machine) {}
+    using Facility::Facility;
 
     BOOL OpenProcessToken(HANDLE process, DWORD access, HANDLE* token);
     BOOL LookupPrivilegeValueA(const char* system, const char* name, LUID* luid);
@@ -33,12 +32,10 @@ private:
         bool allHeld = true;
     };
 
-    BOOL Fail(DWORD error);
     DWORD TokenError(HANDLE token, bool wantsPrevious);
     Change PlanChange(const TOKEN_PRIVILEGES* newState) const;
     void WritePrevious(const Change& change, TOKEN_PRIVILEGES& previous) const;
 
-    Machine& m_machine;
     std::map<HANDLE, DWORD> m_rights; ///< by token handle, which never comes again
 };
 

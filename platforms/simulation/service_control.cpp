@@ -29,47 +29,36 @@ bool CanBeServiceName(const char* name)
 
 } // namespace
 
-BOOL SimulatedServiceControl::Fail(DWORD error)
-{
-    m_lastError = error;
-    return FALSE;
-}
-
 SC_HANDLE SimulatedServiceControl::OpenSCManagerA(const char* machine, const char* database, DWORD)
 {
+    const std::lock_guard lock(m_machine.mutex);
     if (GivenAndNot(machine, "localhost"))
-    {
-        Fail(kNoSuchMachine);
-        return nullptr;
-    }
+        return Fail(kNoSuchMachine);
     if (GivenAndNot(database, "ServicesActive"))
-    {
-        Fail(SameButForCase(database, "ServicesFailed") ? kNoSuchDatabase : kInvalidName);
-        return nullptr;
-    }
-    return static_cast<SC_HANDLE>(m_handles.Open(HandleKind::serviceManager));
+        return Fail(SameButForCase(database, "ServicesFailed") ? kNoSuchDatabase : kInvalidName);
+    return static_cast<SC_HANDLE>(m_machine.handles.Open(HandleKind::serviceManager));
 }
 
 SC_HANDLE SimulatedServiceControl::OpenServiceA(SC_HANDLE manager, const char* name, DWORD access)
 {
-    if (!m_handles.Use(manager, HandleKind::serviceManager, "OpenServiceA"))
-    {
-        Fail(ERROR_INVALID_HANDLE);
-        return nullptr;
-    }
-    if (name == nullptr || !CanBeServiceName(name) || !SameButForCase(name, "WlanSvc"))
-    {
-        Fail(name == nullptr ? kInvalidAddress : !CanBeServiceName(name) ? kInvalidName : ERROR_SERVICE_DOES_NOT_EXIST);
-        return nullptr;
-    }
-    const SC_HANDLE service = static_cast<SC_HANDLE>(m_handles.Open(HandleKind::service));
+    const std::lock_guard lock(m_machine.mutex);
+    if (!m_machine.handles.Use(manager, HandleKind::serviceManager, "OpenServiceA"))
+        return Fail(ERROR_INVALID_HANDLE);
+    if (name == nullptr)
+        return Fail(kInvalidAddress);
+    if (!CanBeServiceName(name))
+        return Fail(kInvalidName);
+    if (!SameButForCase(name, "WlanSvc"))
+        return Fail(ERROR_SERVICE_DOES_NOT_EXIST);
+    const SC_HANDLE service = static_cast<SC_HANDLE>(m_machine.handles.Open(HandleKind::service));
     m_access.emplace(service, access);
     return service;
 }
 
 BOOL SimulatedServiceControl::QueryServiceStatus(SC_HANDLE service, SERVICE_STATUS* status)
 {
-    if (!m_handles.Use(service, HandleKind::service, "QueryServiceStatus"))
+    const std::lock_guard lock(m_machine.mutex);
+    if (!m_machine.handles.Use(service, HandleKind::service, "QueryServiceStatus"))
         return Fail(ERROR_INVALID_HANDLE);
     if (status == nullptr)
         return Fail(kInvalidAddress);
@@ -77,29 +66,33 @@ BOOL SimulatedServiceControl::QueryServiceStatus(SC_HANDLE service, SERVICE_STAT
         return Fail(ERROR_ACCESS_DENIED);
     *status = SERVICE_STATUS{};
     status->dwServiceType = SERVICE_WIN32_OWN_PROCESS;
-    status->dwCurrentState = m_serviceRunning ? SERVICE_RUNNING : SERVICE_STOPPED;
-    status->dwControlsAccepted = m_serviceRunning ? kAcceptsStopAndShutdown : 0;
+    status->dwCurrentState = m_machine.serviceRunning ? SERVICE_RUNNING : SERVICE_STOPPED;
+    status->dwControlsAccepted = m_machine.serviceRunning ? kAcceptsStopAndShutdown : 0;
     return TRUE;
 }
 
 BOOL SimulatedServiceControl::StartServiceA(SC_HANDLE service, DWORD, const char**)
 {
-    if (!m_handles.Use(service, HandleKind::service, "StartServiceA"))
+    const std::lock_guard lock(m_machine.mutex);
+    if (!m_machine.handles.Use(service, HandleKind::service, "StartServiceA"))
         return Fail(ERROR_INVALID_HANDLE);
     if (!MayDo(service, SERVICE_START))
         return Fail(ERROR_ACCESS_DENIED);
-    if (m_serviceRunning)
+    if (m_machine.serviceRunning)
         return Fail(ERROR_SERVICE_ALREADY_RUNNING);
-    m_serviceRunning = true;
+    m_machine.serviceRunning = true;
     return TRUE;
 }
 
 BOOL SimulatedServiceControl::CloseServiceHandle(SC_HANDLE handle)
 {
+    const std::lock_guard lock(m_machine.mutex);
     const HandleKind kind =
-        m_handles.IsOpen(handle, HandleKind::serviceManager) ? HandleKind::serviceManager : HandleKind::service;
+        m_machine.handles.IsOpen(handle, HandleKind::serviceManager) ? HandleKind::serviceManager : HandleKind::service;
     m_access.erase(handle);
-    return m_handles.Close(handle, kind, "CloseServiceHandle") ? TRUE : Fail(ERROR_INVALID_HANDLE);
+    if (!m_machine.handles.Close(handle, kind, "CloseServiceHandle"))
+        return Fail(ERROR_INVALID_HANDLE);
+    return TRUE;
 }
 
 bool SimulatedServiceControl::MayDo(SC_HANDLE service, DWORD right) const

@@ -114,19 +114,13 @@ bool IsKnown(std::uint32_t codePage)
 
 } // namespace
 
-int SimulatedText::Fail(DWORD error)
-{
-    m_lastError = error;
-    return 0;
-}
-
 /// The code page of a number: the low numbers are roles of a code page.
 std::uint32_t SimulatedText::Resolve(UINT codePage) const
 {
     if (codePage == CP_ACP || codePage == kThreadCodePage)
-        return m_codePage;
+        return m_machine.codePage;
     if (codePage == CP_OEMCP)
-        return m_codePage == kLatin1 ? kLatin1Oem : m_codePage;
+        return m_machine.codePage == kLatin1 ? kLatin1Oem : m_machine.codePage;
     return codePage;
 }
 
@@ -149,7 +143,9 @@ int SimulatedText::MultiByteToWideChar(
         return Fail(ERROR_NO_UNICODE_TRANSLATION);
     int size = 0;
     const DWORD error = Deliver(actual, text, destination, destinationLength, size);
-    return error == ERROR_SUCCESS ? size : Fail(error);
+    if (error != ERROR_SUCCESS)
+        return Fail(error);
+    return size;
 }
 
 int SimulatedText::WideCharToMultiByte(UINT codePage,
@@ -184,7 +180,9 @@ int SimulatedText::WideCharToMultiByte(UINT codePage,
         *usedDefaultCharacter = replaced ? TRUE : FALSE;
     int size = 0;
     const DWORD error = Deliver(actual, bytes, destination, destinationLength, size);
-    return error == ERROR_SUCCESS ? size : Fail(error);
+    if (error != ERROR_SUCCESS)
+        return Fail(error);
+    return size;
 }
 
 int SimulatedText::StringFromGUID2(const GUID& guid, wchar_t* text, int capacity)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
-#include "simulation/last_error_cell.h"
+#include "simulation/facility.h"
 
 #include <cstdint>
 
@@ -12,14 +12,10 @@ namespace calvix::simulation
 ///
 /// Composing and decomposing (MB_COMPOSITE, WC_COMPOSITECHECK and what goes with it) is not furnished: those flags are
 /// refused as invalid ones are.
-class SimulatedText final
+class SimulatedText final : Facility
 {
 public:
-    /// `lastError` receives the reason of a failure, `codePage` is the active code page; both outlive this object.
-    SimulatedText(LastErrorCell& lastError, const std::uint32_t& codePage)
-        : m_lastError(lastError), m_codePage(codePage)
-    {
-    }
+    using Facility::Facility;
 
     int MultiByteToWideChar(
         UINT codePage, DWORD flags, const char* source, int sourceLength, wchar_t* destination, int destinationLength);
@@ -34,11 +30,7 @@ public:
     int StringFromGUID2(const GUID& guid, wchar_t* text, int capacity);
 
 private:
-    int Fail(DWORD error);
     std::uint32_t Resolve(UINT codePage) const;
-
-    LastErrorCell& m_lastError;
-    const std::uint32_t& m_codePage;
 };
 
 } // namespace calvix::simulation

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/wlan_service.h"
-#include "simulation/machine.h"
+#include "simulation/facility.h"
 
 #include <initializer_list>
 
@@ -9,12 +9,11 @@ namespace calvix::simulation
 {
 
 /// The WLAN client service of a simulated computer. Every caller has every right but for what needs an administrator.
-/// Any thread may call any operation, notification callbacks included; each is done under the machine's mutex.
-class SimulatedWlanService
+/// Notification callbacks may call any operation.
+class SimulatedWlanService : Facility
 {
 public:
-    /// `machine` outlives this object.
-    explicit SimulatedWlanService(Machine& machine) : m_machine(machine) {}
+    using Facility::Facility;
     virtual ~SimulatedWlanService() = default;
 
     DWORD WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client);
@@ -136,8 +135,6 @@ private:
 
     /// Waits until no callback of the client is running. Not to be called under the mutex.
     void WaitForCallback(const Notifier::Replaced& replaced, const char* operation);
-
-    Machine& m_machine;
 };
 
 } // namespace calvix::simulation
