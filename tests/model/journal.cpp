@@ -3,6 +3,8 @@
 #include "support/test_worlds.h"
 #include "testing/manager_internals.h"
 
+#include <utility>
+
 namespace calvix::test
 {
 
@@ -25,10 +27,10 @@ Journal::Journal(const World& world) : m_world(world)
     ConvertAsTheWorldSays();
 }
 
-void Journal::Clear()
+std::vector<Event> Journal::TakeEvents()
 {
-    m_events.clear();
     m_requests = 0;
+    return std::exchange(m_events, {});
 }
 
 Event& Journal::Note(std::string_view operation, HANDLE client, const GUID* interfaceGuid, PVOID reserved)

@@ -14,9 +14,8 @@ class Journal final : public ChangedPlatform
 public:
     explicit Journal(const World& world);
 
-    /// Begins a new page.
-    void Clear();
-    const std::vector<Event>& Events() const { return m_events; }
+    /// The calls since the last one; the world begins to refuse requests anew.
+    std::vector<Event> TakeEvents();
 
 private:
     void NoteLists();

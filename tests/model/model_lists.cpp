@@ -16,90 +16,103 @@ static bool SaysAutomatic(const std::wstring& xml)
 
 bool Model::IsAutomatic(int adapter, const std::wstring& profile)
 {
-    std::wstring xml;
-    return m_service.ProfileText(adapter, profile, xml) == 0 && SaysAutomatic(xml);
+    const Answer<std::wstring>& xml = m_service.ProfileText(adapter, profile);
+    return xml.error == 0 && SaysAutomatic(xml.data);
 }
 
-Outcome Model::Collect(int adapter, Filter filter, bool wantsNames)
+DWORD Model::ListProfiles(int adapter)
+{
+    const auto& profiles = m_service.Profiles(adapter);
+    m_profiles = profiles.data;
+    return profiles.error;
+}
+
+DWORD Model::ListNetworks(int adapter)
+{
+    const auto& networks = m_service.Networks(adapter);
+    m_networks = networks.data;
+    return networks.error;
+}
+
+std::optional<Outcome> Model::FailureToList(int adapter)
+{
+    if (ListProfiles(adapter) != 0)
+        return Failed(Cause::profileListFailed);
+    if (m_profiles.empty())
+        return Failed(Cause::noProfile);
+    if (ListNetworks(adapter) != 0)
+        return Failed(Cause::networkListFailed);
+    if (m_networks.empty())
+        return Failed(Cause::networkListEmpty);
+    return std::nullopt;
+}
+
+std::vector<Network> Model::Matches() const
+{
+    std::vector<Network> matches;
+    for (const std::wstring& profile : m_profiles)
+        for (const Network& network : m_networks)
+            if (network.profile == profile)
+                matches.push_back(network);
+    return matches;
+}
+
+Outcome Model::Collect(Adapter which, Filter filter, const Take& take)
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    if (adapter < 0)
+    int adapter = m_world.asked;
+    if (which == Adapter::first)
     {
-        std::vector<int> adapters;
-        if (m_service.Adapters(adapters) != 0)
+        const Answer<std::vector<int>> adapters = m_service.Adapters();
+        if (adapters.error != 0)
             return Failed(Cause::enumerationFailed);
-        if (adapters.empty())
+        if (adapters.data.empty())
             return Failed(Cause::noAdapter);
-        adapter = adapters[0];
+        adapter = adapters.data[0];
     }
-    std::vector<std::wstring> profiles;
-    if (m_service.Profiles(adapter, profiles) != 0)
-        return Failed(Cause::profileListFailed);
-    if (profiles.empty())
-        return Failed(Cause::noProfile);
-    std::vector<Network> networks;
-    if (m_service.Networks(adapter, networks) != 0)
-        return Failed(Cause::networkListFailed);
-    if (networks.empty())
-        return Failed(Cause::networkListEmpty);
+    if (const auto failure = FailureToList(adapter))
+        return *failure;
+    std::size_t count = 0;
+    for (const Network& network : Matches())
+    {
+        const bool isFree =
+            filter == Filter::none || (filter == Filter::automaticOrNamed && network.profile == m_world.name);
+        if (!isFree && !IsAutomatic(adapter, network.profile))
+            continue;
+        const auto& list = m_service.Entries(adapter, network.ssid, network.bssType, network.secured);
+        if (list.error == 0)
+            count += take(network, list.data);
+    }
+    return Ended(static_cast<long long>(count));
+}
 
-    long long count = 0;
+Outcome Model::CollectEntries(Adapter which, Filter filter)
+{
     std::vector<Heard> entries;
-    std::vector<std::wstring> names;
-    for (const std::wstring& profile : profiles)
-        for (const Network& network : networks)
-        {
-            if (network.profile != profile)
-                continue;
-            const bool isFree =
-                filter == Filter::none || (filter == Filter::automaticOrNamed && profile == m_world.name);
-            if (!isFree && !IsAutomatic(adapter, profile))
-                continue;
-            std::vector<Heard> list;
-            if (m_service.Entries(adapter, network.ssid, network.bssType, network.secured, list) != 0)
-                continue;
-            if (wantsNames && !list.empty())
-            {
-                names.push_back(profile);
-                count += 1;
-            }
-            if (!wantsNames)
-                for (const Heard& entry : list)
-                {
-                    entries.push_back(entry);
-                    count += 1;
-                }
-        }
-    Outcome outcome = Ended(count);
+    Outcome outcome = Collect(which, filter,
+                              [&entries](const Network&, const std::vector<Heard>& list)
+                              {
+                                  entries.insert(entries.end(), list.begin(), list.end());
+                                  return list.size();
+                              });
     outcome.entries = entries;
-    outcome.names = names;
     return outcome;
 }
 
-Outcome Model::GetMatchAPList()
+Outcome Model::CollectNames(Filter inModeOne)
 {
-    return Collect(m_world.asked, Filter::none, false);
-}
-
-Outcome Model::GetConnectableAPList()
-{
-    return Collect(m_world.asked, Filter::automaticOrNamed, false);
-}
-
-Outcome Model::GetConnectableAPListOfFirst()
-{
-    return Collect(-1, Filter::automaticOrNamed, false);
-}
-
-Outcome Model::GetMatchAPCount()
-{
-    return Collect(m_world.asked, m_world.mode == 1 ? Filter::automatic : Filter::none, true);
-}
-
-Outcome Model::GetMatchAPCountWithName()
-{
-    return Collect(m_world.asked, m_world.mode == 1 ? Filter::automaticOrNamed : Filter::none, true);
+    std::vector<std::wstring> names;
+    Outcome outcome = Collect(Adapter::asked, m_world.mode == 1 ? inModeOne : Filter::none,
+                              [&names](const Network& network, const std::vector<Heard>& list)
+                              {
+                                  if (list.empty())
+                                      return std::size_t{0};
+                                  names.push_back(network.profile);
+                                  return std::size_t{1};
+                              });
+    outcome.names = names;
+    return outcome;
 }
 
 } // namespace calvix::test

@@ -17,17 +17,17 @@ Outcome Model::Roam(bool connects)
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    Link link;
-    if (m_service.Connection(m_world.asked, link) != 0)
+    const auto& [failure, link] = m_service.Connection(m_world.asked);
+    if (failure != 0)
         return Failed(Cause::notConnected);
     if (link.quality > 79)
         return Failed(Cause::signalGoodEnough);
-    std::vector<Heard> entries;
-    if (m_service.Entries(m_world.asked, link.ssid, link.bssType, link.secured, entries) != 0)
+    const auto& entries = m_service.Entries(m_world.asked, link.ssid, link.bssType, link.secured);
+    if (entries.error != 0)
         return Failed(Cause::bssListFailed);
-    if (entries.empty())
+    if (entries.data.empty())
         return Failed(Cause::noBssInView);
-    const Heard& pick = PickOf(entries);
+    const Heard& pick = PickOf(entries.data);
     if (pick.bssid == link.bssid)
         return Failed(Cause::alreadyThere);
     if (!connects)
@@ -36,28 +36,18 @@ Outcome Model::Roam(bool connects)
     return error == 0 ? Ended(0) : Failed(Cause::requestRefused);
 }
 
-Outcome Model::PreRoaming()
-{
-    return Roam(false);
-}
-
-Outcome Model::Roaming()
-{
-    return Roam(true);
-}
-
 Outcome Model::Reconnect()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    std::vector<Heard> entries;
-    if (m_service.Entries(m_world.asked, m_world.rememberedSsid, m_world.rememberedBssType, m_world.rememberedSecured,
-                          entries) != 0)
+    const auto& entries =
+        m_service.Entries(m_world.asked, m_world.rememberedSsid, m_world.rememberedBssType, m_world.rememberedSecured);
+    if (entries.error != 0)
         return Failed(Cause::bssListFailed);
-    if (entries.empty())
+    if (entries.data.empty())
         return Failed(Cause::accessPointNotJoined);
-    const DWORD error =
-        m_service.Connect(m_world.asked, m_world.rememberedProfile, m_world.rememberedBssType, PickOf(entries).bssid);
+    const DWORD error = m_service.Connect(m_world.asked, m_world.rememberedProfile, m_world.rememberedBssType,
+                                          PickOf(entries.data).bssid);
     return error == 0 ? Ended(0) : Failed(Cause::accessPointNotJoined);
 }
 

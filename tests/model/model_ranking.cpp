@@ -76,61 +76,36 @@ Outcome Model::Rank(bool byList, bool byName, bool automaticOnly)
     const int adapter = m_world.asked;
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    std::vector<std::wstring> profiles;
-    if (m_service.Profiles(adapter, profiles) != 0)
-        return Failed(Cause::profileListFailed);
-    if (profiles.empty())
-        return Failed(Cause::noProfile);
-    std::vector<Network> networks;
-    if (m_service.Networks(adapter, networks) != 0)
-        return Failed(Cause::networkListFailed);
-    if (networks.empty())
-        return Failed(Cause::networkListEmpty);
-
+    if (const auto failure = FailureToList(adapter))
+        return *failure;
     std::vector<Network> candidates;
-    for (const std::wstring& profile : profiles)
+    for (const Network& network : Matches())
     {
-        if (byName && profile == m_world.name)
+        if (byName && network.profile == m_world.name)
             continue;
-        for (const Network& network : networks)
-        {
-            if (network.profile != profile)
-                continue;
-            if (automaticOnly && !IsAutomatic(adapter, profile))
-                continue;
-            if (byList && IsExcluded(network))
-                continue;
+        if (automaticOnly && !IsAutomatic(adapter, network.profile))
+            continue;
+        if (!byList || !IsExcluded(network))
             candidates.push_back(network);
-        }
     }
     if (candidates.empty())
         return Failed(automaticOnly ? Cause::noCandidate : Cause::nothingMatches);
 
-    const Network& last = networks.back();
-    std::vector<Heard> entries;
-    if (m_service.Entries(adapter, last.ssid, last.bssType, last.secured, entries) != 0)
+    const Network& last = m_networks.back();
+    const auto& entries = m_service.Entries(adapter, last.ssid, last.bssType, last.secured);
+    if (entries.error != 0)
         return Failed(Cause::bssListFailed);
-    if (entries.empty())
+    if (entries.data.empty())
         return Failed(Cause::bssListEmpty);
     std::vector<Network> withoutBonus = candidates;
     InsertionSort(withoutBonus);
-    AddBonus(candidates, entries);
+    AddBonus(candidates, entries.data);
     InsertionSort(candidates);
     m_bonusChangedTheOrder = NamesOf(candidates) != NamesOf(withoutBonus);
     for (const Network& candidate : candidates)
         if (m_service.Connect(adapter, candidate.profile, candidate.bssType) == 0)
             return Ended(0);
     return Failed(Cause::everyRequestRefused);
-}
-
-Outcome Model::ConnectBestAP(bool byList, bool byName)
-{
-    return Rank(byList, byName, true);
-}
-
-Outcome Model::AutoConnectEx()
-{
-    return Rank(false, false, false);
 }
 
 } // namespace calvix::test

@@ -1,7 +1,8 @@
 // The methods that match, rank, walk and pick, in many small made-up worlds, against a model that does the same in the
 // plainest way there is: equal results, equal outputs, and equal questions to the service in the same order.
 
-#include "model/library_outcomes.h"
+#include "model/caller.h"
+#include "model/journal.h"
 #include "model/model.h"
 #include "simulation/computer.h"
 #include "testing/test_computer.h"
@@ -20,11 +21,14 @@ namespace
 
 using host::Cause;
 
+using Adapter = Model::Adapter;
+using Filter = Model::Filter;
+
 struct Method
 {
     std::string name;
     std::function<Outcome(Model&)> expected;
-    std::function<Outcome(Library&)> actual;
+    std::function<long long(CWirelessManage&, Caller&)> actual;
     std::set<long long> results;    ///< that are no codes; the worlds have to lead to them, or they are worth nothing
     std::set<Cause> elsewhere = {}; ///< causes of its codes that the worlds do not lead to
 
@@ -32,46 +36,93 @@ struct Method
 };
 
 const std::vector<Method> kMethods = {
-    {"GetMatchAPList", &Model::GetMatchAPList, &Library::GetMatchAPList, {0, 1, 2, 3, 4}},
+    {"GetMatchAPList",
+     [](Model& model) { return model.CollectEntries(Adapter::asked, Filter::none); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.GetMatchAPList(caller.adapter, &caller.entries); },
+     {0, 1, 2, 3, 4}},
     {"GetConnectableAPList",
-     &Model::GetConnectableAPList,
-     &Library::GetConnectableAPList,
+     [](Model& model) { return model.CollectEntries(Adapter::asked, Filter::automaticOrNamed); },
+     [](CWirelessManage& manager, Caller& caller)
+     { return manager.GetConnectableAPList(caller.adapter, caller.name.data(), &caller.entries); },
      {0, 1, 2, 3, 4},
      {Cause::enumerationFailed, Cause::noAdapter}},
     {"GetConnectableAPList(first)",
-     &Model::GetConnectableAPListOfFirst,
-     &Library::GetConnectableAPListOfFirst,
+     [](Model& model) { return model.CollectEntries(Adapter::first, Filter::automaticOrNamed); },
+     [](CWirelessManage& manager, Caller& caller)
+     { return manager.GetConnectableAPList(caller.name.data(), &caller.entries); },
      {0, 1, 2, 3, 4}},
-    {"GetMatchAPCount", &Model::GetMatchAPCount, &Library::GetMatchAPCount, {0, 1, 2, 3}},
-    {"GetMatchAPCount(name)", &Model::GetMatchAPCountWithName, &Library::GetMatchAPCountWithName, {0, 1, 2, 3}},
+    {"GetMatchAPCount",
+     [](Model& model) { return model.CollectNames(Filter::automatic); },
+     [](CWirelessManage& manager, Caller& caller)
+     { return manager.GetMatchAPCount(caller.adapter, &caller.names, caller.mode); },
+     {0, 1, 2, 3}},
+    {"GetMatchAPCount(name)",
+     [](Model& model) { return model.CollectNames(Filter::automaticOrNamed); },
+     [](CWirelessManage& manager, Caller& caller)
+     { return manager.GetMatchAPCount(caller.adapter, &caller.names, caller.name.c_str(), caller.mode); },
+     {0, 1, 2, 3}},
     {"ConnectBestAP(list, name)",
      [](Model& model) { return model.ConnectBestAP(true, true); },
-     [](Library& library) { return library.ConnectBestAP(true, true); },
+     [](CWirelessManage& manager, Caller& caller)
+     { return manager.ConnectBestAP(caller.adapter, &caller.excluded, caller.name.c_str()); },
      {0}},
     {"ConnectBestAP(list)",
      [](Model& model) { return model.ConnectBestAP(true, false); },
-     [](Library& library) { return library.ConnectBestAP(true, false); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.ConnectBestAP(caller.adapter, &caller.excluded); },
      {0}},
     {"ConnectBestAP(name)",
      [](Model& model) { return model.ConnectBestAP(false, true); },
-     [](Library& library) { return library.ConnectBestAP(false, true); },
+     [](CWirelessManage& manager, Caller& caller)
+     { return manager.ConnectBestAP(caller.adapter, caller.name.c_str()); },
      {0}},
     {"ConnectBestAP",
      [](Model& model) { return model.ConnectBestAP(false, false); },
-     [](Library& library) { return library.ConnectBestAP(false, false); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.ConnectBestAP(caller.adapter); },
      {0}},
-    {"AutoConnectEx", &Model::AutoConnectEx, &Library::AutoConnectEx, {0}},
-    {"AutoConnect", &Model::AutoConnect, &Library::AutoConnect, {0}},
-    {"AutoSwitch", &Model::AutoSwitch, &Library::AutoSwitch, {0}},
-    {"SmartSwitch", &Model::SmartSwitch, &Library::SmartSwitch, {0, 1001, 1004, 1113}},
-    {"SmartConnecting", &Model::SmartConnecting, &Library::SmartConnecting, {0, 1001}},
-    {"ConnectAutoMode", &Model::ConnectAutoMode, &Library::ConnectAutoMode, {0}},
-    {"PreRoaming", &Model::PreRoaming, &Library::PreRoaming, {0}, {Cause::signalGoodEnough}},
-    {"Roaming", &Model::Roaming, &Library::Roaming, {0}, {Cause::signalGoodEnough}},
-    {"Reconnect(attributes)", &Model::Reconnect, &Library::ReconnectByAttributes, {0}},
-    {"Reconnect(notification)", &Model::Reconnect, &Library::ReconnectByNotification, {0}},
+    {"AutoConnectEx",
+     [](Model& model) { return model.AutoConnectEx(); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.AutoConnectEx(caller.adapter); },
+     {0}},
+    {"AutoConnect",
+     [](Model& model) { return model.AutoConnect(); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.AutoConnect(caller.adapter); },
+     {0}},
+    {"AutoSwitch",
+     [](Model& model) { return model.AutoSwitch(); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.AutoSwitch(caller.adapter); },
+     {0}},
+    {"SmartSwitch",
+     [](Model& model) { return model.SmartSwitch(); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.SmartSwitch(caller.adapter); },
+     {0, 1001, 1004, 1113}},
+    {"SmartConnecting",
+     [](Model& model) { return model.SmartConnecting(); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.SmartConnecting(caller.adapter, caller.text); },
+     {0, 1001}},
+    {"ConnectAutoMode",
+     [](Model& model) { return model.ConnectAutoMode(); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.ConnectAutoMode(caller.adapter); },
+     {0}},
+    {"PreRoaming",
+     [](Model& model) { return model.Roam(false); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.PreRoaming(caller.adapter); },
+     {0},
+     {Cause::signalGoodEnough}},
+    {"Roaming",
+     [](Model& model) { return model.Roam(true); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.Roaming(caller.adapter); },
+     {0},
+     {Cause::signalGoodEnough}},
+    {"Reconnect(attributes)",
+     [](Model& model) { return model.Reconnect(); },
+     [](CWirelessManage& manager, Caller& caller) { return manager.Reconnect(caller.adapter, &caller.attributes, 20); },
+     {0}},
+    {"Reconnect(notification)",
+     [](Model& model) { return model.Reconnect(); },
+     [](CWirelessManage& manager, Caller& caller)
+     { return manager.Reconnect(caller.adapter, &caller.notification, 20); },
+     {0}},
 };
-
 /// The results that the worlds must produce. None of them passes null.
 std::set<long long> ResultsOf(const Method& method)
 {
@@ -94,36 +145,36 @@ void ForgetTextOfOddNames(Outcome& outcome)
                 outcome.text.clear();
 }
 
-/// A computer of the world, the journal of its calls, and the library on top.
+/// A computer of the world with a caller of the library on it, and a journal of its calls.
 class Laboratory
 {
 public:
-    explicit Laboratory(const World& world) : m_world(world), m_computer(world.scenario)
+    explicit Laboratory(const World& world)
+        : m_world(world), m_computer(world.scenario), m_manager(m_computer.Manager()),
+          m_plainService(world, m_computer.computer().wlan()), m_caller(world), m_journal(world)
     {
-        m_computer.Manager();
-        DWORD version = 0;
-        Wlan().WlanOpenHandle(2, nullptr, &version, &m_modelsClient);
     }
 
-    Model MakeModel(const std::string& method) { return {m_world, Wlan(), m_modelsClient, method}; }
+    Model MakeModel(const std::string& method) { return {m_world, m_plainService, method}; }
 
     Outcome Actual(const Method& method)
     {
         if (!m_world.clientIsOpen)
             m_computer.CloseClient();
-        Journal journal(m_world);
-        Library library(m_world, journal);
-        return method.actual(library);
+        m_caller.ForgetAnswers();
+        const long long code = method.actual(m_manager, m_caller);
+        return m_caller.Answers(code, m_journal.TakeEvents());
     }
 
     simulation::Accounts Audit() { return m_computer.Audit(); }
 
 private:
-    platform::WlanService& Wlan() { return m_computer.computer().wlan(); }
-
     const World& m_world;
     TestComputer m_computer;
-    HANDLE m_modelsClient = nullptr;
+    CWirelessManage& m_manager;
+    PlainService m_plainService;
+    Caller m_caller;
+    Journal m_journal;
 };
 
 /// What the worlds led to, to see that they hold what the comparison is about.

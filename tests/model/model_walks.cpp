@@ -51,76 +51,57 @@ DWORD Model::SsidText(const std::string& ssid, std::wstring& text) const
     return ReadUtf8(ssid, text) ? 0 : kNoUnicodeTranslation;
 }
 
-bool Model::Walk(const std::vector<std::wstring>& profiles, const std::vector<Network>& networks)
+Outcome Model::Walk()
 {
-    bool attempted = false;
-    for (const std::wstring& profile : profiles)
-        for (const Network& network : networks)
-        {
-            if (network.profile != profile)
-                continue;
-            attempted = true;
-            if (m_service.Connect(m_world.asked, network.profile, network.bssType) == 0)
-                return true;
-        }
-    return attempted;
+    const std::vector<Network> matches = Matches();
+    for (const Network& network : matches)
+        if (m_service.Connect(m_world.asked, network.profile, network.bssType) == 0)
+            break;
+    return matches.empty() ? Failed(Cause::nothingMatches) : Ended(0);
 }
 
 Outcome Model::AutoConnect()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    std::vector<std::wstring> profiles;
-    if (m_service.Profiles(m_world.asked, profiles) != 0)
-        return Failed(Cause::profileListFailed);
-    if (profiles.empty())
-        return Failed(Cause::noProfile);
-    std::vector<Network> networks;
-    if (m_service.Networks(m_world.asked, networks) != 0)
-        return Failed(Cause::networkListFailed);
-    if (networks.empty())
-        return Failed(Cause::networkListEmpty);
-    return Walk(profiles, networks) ? Ended(0) : Failed(Cause::nothingMatches);
+    if (const auto failure = FailureToList(m_world.asked))
+        return *failure;
+    return Walk();
 }
 
 Outcome Model::AutoSwitch()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    Link link;
-    if (m_service.Connection(m_world.asked, link) != 0)
+    const Answer<Link>& link = m_service.Connection(m_world.asked);
+    if (link.error != 0)
         return Failed(Cause::notConnected);
-    std::vector<std::wstring> profiles;
-    if (m_service.Profiles(m_world.asked, profiles) != 0)
+    if (ListProfiles(m_world.asked) != 0)
         return Failed(Cause::profileListFailed);
-    if (profiles.size() > 1 && m_service.Move(m_world.asked, link.profile, profiles.size() - 1) != 0)
+    if (m_profiles.size() > 1 && m_service.Move(m_world.asked, link.data.profile, m_profiles.size() - 1) != 0)
         return Failed(Cause::profileNotMoved);
-    std::vector<Network> networks;
-    if (m_service.Networks(m_world.asked, networks) != 0)
+    if (ListNetworks(m_world.asked) != 0)
         return Failed(Cause::networkListFailed);
-    return Walk(profiles, networks) ? Ended(0) : Failed(Cause::nothingMatches);
+    return Walk();
 }
 
 Outcome Model::SmartSwitch()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    Link link;
-    if (const DWORD error = m_service.Connection(m_world.asked, link))
-        return EndedBy(error);
+    const auto& [failure, link] = m_service.Connection(m_world.asked);
+    if (failure != 0)
+        return EndedBy(failure);
     std::wstring currentSsid;
     if (const DWORD error = SsidText(link.ssid, currentSsid))
         return EndedBy(error);
-    std::vector<std::wstring> profiles;
-    if (const DWORD error = m_service.Profiles(m_world.asked, profiles))
+    if (const DWORD error = ListProfiles(m_world.asked))
         return EndedBy(error);
-    std::vector<Network> networks;
-    if (const DWORD error = m_service.Networks(m_world.asked, networks))
+    if (const DWORD error = ListNetworks(m_world.asked))
         return EndedBy(error);
-    for (const std::wstring& profile : profiles)
-        for (const Network& network : networks)
-            if (network.profile == profile && network.profile != currentSsid && link.quality < network.quality)
-                return EndedBy(m_service.Connect(m_world.asked, network.profile, network.bssType));
+    for (const Network& network : Matches())
+        if (network.profile != currentSsid && link.quality < network.quality)
+            return EndedBy(m_service.Connect(m_world.asked, network.profile, network.bssType));
     return Failed(Cause::nothingBetter);
 }
 
@@ -128,57 +109,45 @@ Outcome Model::SmartConnecting()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    std::vector<int> adapters;
-    if (const DWORD error = m_service.Adapters(adapters))
-        return EndedBy(error);
-    if (adapters.empty())
+    const Answer<std::vector<int>> adapters = m_service.Adapters();
+    if (adapters.error != 0)
+        return EndedBy(adapters.error);
+    if (adapters.data.empty())
         return Ended(0);
-    std::vector<std::wstring> profiles;
-    if (const DWORD error = m_service.Profiles(adapters[0], profiles))
+    if (const DWORD error = ListProfiles(adapters.data[0]))
         return EndedBy(error);
-    std::vector<Network> networks;
-    if (const DWORD error = m_service.Networks(adapters[0], networks))
+    if (const DWORD error = ListNetworks(adapters.data[0]))
         return EndedBy(error);
-    for (const std::wstring& profile : profiles)
-        for (const Network& network : networks)
-        {
-            if (network.profile != profile)
-                continue;
-            const DWORD error = m_service.Connect(adapters[0], network.profile, network.bssType);
-            Outcome outcome = EndedBy(error);
-            if (error == 0)
-                for (const wchar_t unit : profile)
-                    if (outcome.text.size() < 127)
-                        outcome.text += static_cast<char>(unit);
-            return outcome;
-        }
-    return Failed(Cause::nothingMatches);
+    const std::vector<Network> matches = Matches();
+    if (matches.empty())
+        return Failed(Cause::nothingMatches);
+    const DWORD error = m_service.Connect(adapters.data[0], matches[0].profile, matches[0].bssType);
+    Outcome outcome = EndedBy(error);
+    if (error == 0)
+    {
+        outcome.text.clear();
+        for (const wchar_t unit : matches[0].profile.substr(0, 127))
+            outcome.text += static_cast<char>(unit);
+    }
+    return outcome;
 }
 
 Outcome Model::ConnectAutoMode()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    std::vector<std::wstring> profiles;
-    if (m_service.Profiles(m_world.asked, profiles) != 0)
-        return Failed(Cause::profileListFailed);
-    if (profiles.empty())
-        return Failed(Cause::noProfile);
-    std::vector<Network> networks;
-    if (m_service.Networks(m_world.asked, networks) != 0)
-        return Failed(Cause::networkListFailed);
-    if (networks.empty())
-        return Failed(Cause::networkListEmpty);
+    if (const auto failure = FailureToList(m_world.asked))
+        return *failure;
     bool attempted = false;
-    for (const std::wstring& profile : profiles)
+    for (const std::wstring& profile : m_profiles)
     {
-        std::wstring xml;
-        if (m_service.ProfileText(m_world.asked, profile, xml) != 0)
+        const Answer<std::wstring>& xml = m_service.ProfileText(m_world.asked, profile);
+        if (xml.error != 0)
             continue;
         // The buffer for the text ends here.
-        if (xml.substr(0, 1023).find(L">auto</connectionMode>") == std::wstring::npos)
+        if (xml.data.substr(0, 1023).find(L">auto</connectionMode>") == std::wstring::npos)
             continue;
-        for (const Network& network : networks)
+        for (const Network& network : m_networks)
         {
             std::wstring ssid;
             if (SsidText(network.ssid, ssid) != 0)

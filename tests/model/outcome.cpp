@@ -12,6 +12,16 @@ std::string BytesOf(const DOT11_SSID& ssid)
     return {reinterpret_cast<const char*>(ssid.ucSSID), ssid.uSSIDLength};
 }
 
+std::string BytesOf(const DOT11_MAC_ADDRESS& address)
+{
+    return {reinterpret_cast<const char*>(&address[0]), sizeof address};
+}
+
+Heard HeardIn(const WLAN_BSS_ENTRY& entry)
+{
+    return {BytesOf(entry.dot11Ssid), BytesOf(entry.dot11Bssid), entry.ulChCenterFrequency, entry.uLinkQuality};
+}
+
 std::string Describe(const Outcome& outcome)
 {
     std::ostringstream text;
@@ -24,8 +34,7 @@ std::string Describe(const Outcome& outcome)
         text << "  entry ssid=\"" << Readable(entry.ssid) << "\" bssid=" << Readable(entry.bssid) << '\n';
     for (const std::wstring& name : outcome.names)
         text << "  name \"" << Readable(name) << "\"\n";
-    if (!outcome.text.empty())
-        text << "  text \"" << outcome.text << "\"\n";
+    text << "  text \"" << outcome.text << "\"\n";
     return text.str();
 }
 

@@ -35,20 +35,22 @@ struct Heard
     bool operator==(const Heard&) const = default;
 };
 
-/// What a method did.
+/// The bytes of a network's name and of an address, as events and entries hold them.
+std::string BytesOf(const DOT11_SSID& ssid);
+std::string BytesOf(const DOT11_MAC_ADDRESS& address);
+Heard HeardIn(const WLAN_BSS_ENTRY& entry);
+
+/// What a method did. What it leaves untouched is as the caller passes it: an empty entry, an old name and text.
 struct Outcome
 {
     long long code = 0;
     std::vector<Event> events{};
-    std::vector<Heard> entries{};
-    std::vector<std::wstring> names{};
-    std::string text{};
+    std::vector<Heard> entries = {HeardIn({})};
+    std::vector<std::wstring> names = {L"old"};
+    std::string text = "old";
 
     bool operator==(const Outcome&) const = default;
 };
-
-/// The bytes of a network's name, as events and entries hold them.
-std::string BytesOf(const DOT11_SSID& ssid);
 
 std::string Describe(const Outcome& outcome);
 

@@ -4,6 +4,10 @@
 #include "model/world.h"
 #include "platform/wlan_service.h"
 
+#include <map>
+#include <optional>
+#include <tuple>
+
 namespace calvix::test
 {
 
@@ -28,35 +32,54 @@ struct Link
     bool secured = false;
 };
 
-/// The service as the model sees it: plain data in place of lists and records, errors returned as they are, and every
-/// question written down as the library has to ask it.
+template <typename Data>
+struct Answer
+{
+    DWORD error = 0;
+    Data data{};
+};
+
+/// The service as the model sees it: plain data in place of lists and records, and every question written down as the
+/// library has to ask it. The computer stays the same, so what it answers once it answers always.
 class PlainService
 {
 public:
-    PlainService(const World& world, platform::WlanService& service, HANDLE client)
-        : m_world(world), m_service(service), m_client(client)
-    {
-    }
+    PlainService(const World& world, platform::WlanService& service);
 
     /// Opens the client handle where it is not open.
     DWORD Open();
-    DWORD Adapters(std::vector<int>& adapters);
-    DWORD Profiles(int adapter, std::vector<std::wstring>& names);
-    DWORD Networks(int adapter, std::vector<Network>& networks);
-    DWORD Entries(int adapter, const std::string& ssid, unsigned bssType, bool secured, std::vector<Heard>& entries);
-    DWORD Connection(int adapter, Link& link);
-    DWORD ProfileText(int adapter, const std::wstring& name, std::wstring& xml);
+    /// The numbers of the adapters.
+    Answer<std::vector<int>> Adapters();
+    const Answer<std::vector<std::wstring>>& Profiles(int adapter);
+    const Answer<std::vector<Network>>& Networks(int adapter);
+    const Answer<std::vector<Heard>>& Entries(int adapter, const std::string& ssid, unsigned bssType, bool secured);
+    const Answer<Link>& Connection(int adapter);
+    const Answer<std::wstring>& ProfileText(int adapter, const std::wstring& name);
     DWORD Move(int adapter, const std::wstring& name, std::size_t position);
     DWORD Connect(int adapter, const std::wstring& profile, unsigned bssType, const std::string& bssid = "");
 
-    const std::vector<Event>& Events() const { return m_events; }
+    /// The questions since the last call.
+    std::vector<Event> TakeEvents();
 
 private:
+    Answer<std::vector<std::wstring>> AskProfiles(const GUID& adapter);
+    Answer<std::vector<Network>> AskNetworks(const GUID& adapter);
+    Answer<std::vector<Heard>> AskEntries(const GUID& adapter, const Event& question);
+    Answer<Link> AskConnection(const GUID& adapter);
+    Answer<std::wstring> AskProfileText(const GUID& adapter, const std::wstring& name);
+
     const World& m_world;
     platform::WlanService& m_service;
-    HANDLE m_client; ///< the model's own
+    HANDLE m_client = nullptr; ///< the model's own
     std::vector<Event> m_events;
     unsigned m_requests = 0;
+
+    // By adapter and what else is asked for; nothing until it is asked for.
+    std::map<int, std::optional<Answer<std::vector<std::wstring>>>> m_profiles;
+    std::map<int, std::optional<Answer<std::vector<Network>>>> m_networks;
+    std::map<std::tuple<int, std::string, unsigned, bool>, std::optional<Answer<std::vector<Heard>>>> m_entries;
+    std::map<int, std::optional<Answer<Link>>> m_connections;
+    std::map<std::pair<int, std::wstring>, std::optional<Answer<std::wstring>>> m_texts;
 };
 
 } // namespace calvix::test

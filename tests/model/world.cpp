@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <sstream>
+#include <tuple>
 
 namespace calvix::test
 {
@@ -103,6 +104,16 @@ simulation::AccessPoint MakeHeard(Dice& dice, const Ssids& ssids, std::uint8_t n
     return point;
 }
 
+/// The text of a profile, which takes longer to write than to keep: the worlds have few hundred different ones.
+const std::string& ProfileXml(const simulation::ProfileSettings& profile)
+{
+    static std::map<std::tuple<std::string, simulation::Bytes, std::string>, std::string> texts;
+    std::string& text = texts[{profile.name, profile.ssid, profile.mode}];
+    if (text.empty())
+        text = simulation::MakeProfileXml(profile);
+    return text;
+}
+
 std::vector<simulation::ProfileSettings> MakeProfiles(Dice& dice, const Ssids& ssids, unsigned most)
 {
     std::vector<simulation::ProfileSettings> profiles;
@@ -138,10 +149,8 @@ void AddProfiles(Dice& dice, const Ssids& ssids, unsigned most, World& world)
     for (simulation::AdapterDescription& adapter : world.scenario.adapters)
     {
         const std::vector<simulation::ProfileSettings> profiles = MakeProfiles(dice, ssids, most);
-        adapter.profiles.clear();
-        adapter.connection.reset();
         for (const simulation::ProfileSettings& profile : profiles)
-            adapter.profiles.push_back({simulation::MakeProfileXml(profile)});
+            adapter.profiles.push_back({ProfileXml(profile)});
         for (const simulation::ProfileSettings& profile : profiles)
         {
             const simulation::AccessPoint* const partner = PartnerOf(dice, profile, world.scenario.accessPoints);
@@ -154,7 +163,12 @@ void AddProfiles(Dice& dice, const Ssids& ssids, unsigned most, World& world)
 
 const simulation::Scenario& TwoAdapters()
 {
-    static const simulation::Scenario scenario = SilentWorld();
+    static const simulation::Scenario scenario = []
+    {
+        simulation::Scenario world = NoProfileWorld();
+        world.accessPoints.clear();
+        return world;
+    }();
     return scenario;
 }
 
