@@ -142,7 +142,7 @@ private:
     Input& m_input;
     Failures m_failures;
     test::TestComputer m_computer;
-    std::optional<test::AlteredAnswers> m_hostile;
+    std::optional<test::EditedAnswers> m_hostile;
 };
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "input.h"
 
-#include "support/altered_answers.h"
+#include "support/edited_answers.h"
 
 namespace calvix::fuzz::session
 {

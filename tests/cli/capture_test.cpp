@@ -5,7 +5,7 @@
 #include "forms/hex_text.h"
 #include "platform/platform.h"
 #include "simulation/timetable.h"
-#include "support/altered_answers.h"
+#include "support/edited_answers.h"
 #include "testing/computer_internals.h"
 
 #include <cstdlib>
@@ -248,7 +248,7 @@ TEST_F(CaptureCommand, FailsWhereThereIsNoWlan)
 TEST_F(CaptureCommand, LeavesOutAConnectionWhoseAccessPointIsNotListed)
 {
     Use(RichWorld());
-    const AlteredAnswers altered({.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; }});
+    const EditedAnswers altered({.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; }});
     EXPECT_THAT(CaptureIt().err,
                 HasSubstr("the connection to \"HomeNet\" is left out: its access point is not listed\n"));
     EXPECT_FALSE(Loaded().adapters[0].connection);
@@ -265,7 +265,7 @@ TEST_F(CaptureCommand, AHiddenNetworkHasTheNameThatItsConnectionKnows)
                 list.wlanBssEntries[i].dot11Ssid = {};
     };
     Use(world);
-    const AlteredAnswers altered({.bss = hide});
+    const EditedAnswers altered({.bss = hide});
     EXPECT_THAT(CaptureIt().err, IsEmpty());
     const AccessPoint named = CapturedPoint(kHiddenNet);
     EXPECT_TRUE(named.hidden);
@@ -299,7 +299,7 @@ TEST_F(CaptureCommand, NamesTheNearestSecurityOfTheServicesNumbers)
         }
     };
     Use(NoProfileWorld());
-    const AlteredAnswers altered({.networks = number});
+    const EditedAnswers altered({.networks = number});
     const Outcome outcome = CaptureIt();
     EXPECT_EQ("WPA2PSK", CapturedPoint(kOfficeNet).authentication);
     EXPECT_EQ("WEP", CapturedPoint(kHomeNet24).encryption);

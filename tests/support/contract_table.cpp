@@ -2,7 +2,9 @@
 
 #include "core/trace.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <set>
 
 namespace calvix::test
 {
@@ -60,6 +62,14 @@ void Arrange(LibraryTest& test, const FailureRow& row, bool tracing)
         test.FailOn(row.failingOperation, row.error, row.fromCall);
 }
 
+std::string LastBeforeReleases(const std::vector<std::string>& calls)
+{
+    static const std::set<std::string> releases = {"WlanFreeMemory", "LocalFree", "CloseHandle"};
+    const auto last = std::find_if(calls.rbegin(), calls.rend(),
+                                   [](const std::string& operation) { return !releases.contains(operation); });
+    return last != calls.rend() ? *last : std::string();
+}
+
 /// The service's own error numbers have the highest of their 32 bits set.
 constexpr unsigned kHighError = 0x80342002;
 
@@ -87,6 +97,8 @@ void RunOnce(LibraryTest& test, const FailureRow& row, bool tracing)
         EXPECT_GE(test.InjectedFailures(), 1u)
             << "call " << row.fromCall << " of " << row.failingOperation << " was never made, so nothing failed";
     }
+    if (row.ends)
+        EXPECT_EQ(row.failingOperation, LastBeforeReleases(test.calls())) << "nothing comes after the failure";
     EXPECT_EQ(tracing ? ExpectedLines(row) : std::vector<std::string>(), test.traced());
     CheckSharedBuffer(test, row);
     test.ExpectNothingHeld();
@@ -108,7 +120,7 @@ void CheckFailure(LibraryTest& test, const FailureRow& row)
         test.UseWorld(world);
         RunOnce(test, row, tracing);
     }
-    if (!row.failingOperation.empty() && (row.error == FailureRow{}.error || row.expected == row.error))
+    if (!row.failingOperation.empty() && (row.error == kSomeError || row.expected == row.error))
     {
         test.UseWorld(world);
         RunOnce(test, WithHighError(row), true);

@@ -26,6 +26,9 @@ enum class TraceBuffer
     local   ///< the method's own: the shared one stays as it was
 };
 
+/// An error like any other.
+inline constexpr unsigned kSomeError = 5;
+
 struct FailureRow
 {
     std::string method; ///< names the row in messages
@@ -35,8 +38,9 @@ struct FailureRow
     /// All trace lines, in order, those of releases included; "%u" is the error, "%d" the signed error. Empty: nothing traced.
     std::vector<std::string> traced = {};
     TraceBuffer buffer = TraceBuffer::shared;
-    unsigned error = 5;
+    unsigned error = kSomeError;
     unsigned fromCall = 1; ///< which call of the operation fails, and all after it
+    bool ends = false;     ///< whether the method calls nothing but releases after it
     std::function<void(LibraryTest&)> prepare = {};
 };
 

@@ -123,6 +123,13 @@ bool LibraryTest::sharedTraceUntouched() const
     return std::memcmp(g_szTraceBuf, kMarker, sizeof kMarker) == 0 && g_szTraceBuf[kSharedTraceCapacity - 1] == '#';
 }
 
+void LibraryTest::ExpectSilence()
+{
+    EXPECT_THAT(traced(), ::testing::IsEmpty());
+    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectNothingHeld();
+}
+
 void LibraryTest::ClearCalls()
 {
     m_computer->ForgetCalls();

@@ -71,6 +71,8 @@ public:
     /// What the shared trace buffer holds.
     std::string sharedTrace() const;
     bool sharedTraceUntouched() const;
+    /// Fails the test when anything was traced, or is held.
+    void ExpectSilence();
 
     /// Forgets calls and traces and marks the shared trace buffer anew.
     void ClearCalls();

@@ -57,11 +57,10 @@ public:
 private:
     void EmptyLists()
     {
-        m_answers.service.interfaceList = For<WLAN_INTERFACE_INFO_LIST>("WlanEnumInterfaces");
-        m_answers.service.profileList = For<WLAN_PROFILE_INFO_LIST>("WlanGetProfileList");
-        m_answers.service.networkList = For<WLAN_AVAILABLE_NETWORK_LIST>("WlanGetAvailableNetworkList");
-        m_answers.service.bssList = [empty = For<WLAN_BSS_LIST>("WlanGetNetworkBssList")](WLAN_BSS_LIST& list, unsigned)
-        { empty(list); };
+        m_answers.service.interfaces = For<WLAN_INTERFACE_INFO_LIST>("WlanEnumInterfaces");
+        m_answers.service.profiles = For<WLAN_PROFILE_INFO_LIST>("WlanGetProfileList");
+        m_answers.service.networks = For<WLAN_AVAILABLE_NETWORK_LIST>("WlanGetAvailableNetworkList");
+        m_answers.service.bss = For<WLAN_BSS_LIST>("WlanGetNetworkBssList");
     }
 
     template <typename List>
@@ -143,7 +142,7 @@ Reference Record(const simulation::Scenario& world, const Method& method)
     Reference reference;
     {
         EditedAnswers answers;
-        answers.service.bssList = [&reference](const WLAN_BSS_LIST& list, unsigned)
+        answers.service.bss = [&reference](const WLAN_BSS_LIST& list)
         { reference.bssEntries.push_back(static_cast<unsigned>(list.dwNumberOfItems)); };
         reference.first = bench.Call(method);
     }

@@ -313,7 +313,7 @@ TEST_F(ApListsTest, NamesThatDifferInCaseAreDifferentProfiles)
 TEST_F(ApListsTest, ANetworkIsMatchedByItsProfileName)
 {
     EditedAnswers edited;
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     {
         for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
             (list.Network + i)->strProfileName[0] = L'\0';
@@ -326,7 +326,7 @@ TEST_F(ApListsTest, ANetworkIsMatchedByItsProfileName)
 TEST_F(ApListsTest, AProfileMayMatchSeveralNetworks)
 {
     EditedAnswers edited;
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     {
         for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
             std::copy_n(L"HomeNet", 8, (list.Network + i)->strProfileName);
@@ -459,9 +459,9 @@ TEST_F(ApListsTest, InModeOneAProfileThatCannotBeReadDoesNotCount)
 TEST_F(ApListsTest, ANetworkWithoutAccessPointsIsTracedAndNotCounted)
 {
     EditedAnswers edited;
-    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned number)
+    edited.service.bss = [number = 0u](WLAN_BSS_LIST& list) mutable
     {
-        if (number == 2)
+        if (++number == 2)
             list.dwNumberOfItems = 0;
     };
     EXPECT_THAT(MatchingNames(0), ElementsAre(L"HomeNet", L"AdHocNet"));
@@ -472,7 +472,7 @@ TEST_F(ApListsTest, ANetworkWithoutAccessPointsIsTracedAndNotCounted)
 TEST_F(ApListsTest, AnEmptyListAddsNoEntriesWithoutATrace)
 {
     EditedAnswers edited;
-    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
+    edited.service.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; };
     EXPECT_THAT(MatchingEntries(), IsEmpty());
     EXPECT_THAT(ConnectableEntries(L"HomeNet"), IsEmpty());
     EXPECT_TRUE(traced().empty());

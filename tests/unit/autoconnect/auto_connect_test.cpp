@@ -80,7 +80,7 @@ TEST_F(AutoConnectTest, ARefusedRequestIsFollowedByTheNextProfile)
 TEST_F(AutoConnectTest, AProfileIsTriedWithEachOfItsNetworks)
 {
     EditedAnswers edited;
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     {
         std::copy_n(L"First", 6, list.Network[1].strProfileName);
         list.Network[1].dot11BssType = dot11_BSS_type_independent;
@@ -100,7 +100,7 @@ TEST_F(AutoConnectTest, ProfilesMatchByTheirNameNotBySsid)
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Profile"));
 
     EditedAnswers edited;
-    edited.service.profileList = [](WLAN_PROFILE_INFO_LIST& list)
+    edited.service.profiles = [](WLAN_PROFILE_INFO_LIST& list)
     { std::copy_n(L"profile", 8, list.ProfileInfo[0].strProfileName); };
     EXPECT_EQ(-9, Auto(manager())) << "names are compared exactly";
 }
@@ -215,7 +215,7 @@ TEST_F(AutoConnectExTest, Failures)
 TEST_F(AutoConnectExTest, AnEmptyBssListEndsItWithoutATrace)
 {
     EditedAnswers edited;
-    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
+    edited.service.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; };
     EXPECT_EQ(-11, AutoEx(manager()));
     EXPECT_THAT(RequestedProfiles(*this), IsEmpty());
     EXPECT_TRUE(traced().empty());

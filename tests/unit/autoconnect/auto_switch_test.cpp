@@ -61,7 +61,7 @@ public:
     {
         EditedAnswers edited;
         edited.conversion.takesAllFlagsForUtf8 = true;
-        edited.service.networkList = [quality](WLAN_AVAILABLE_NETWORK_LIST& list)
+        edited.service.networks = [quality](WLAN_AVAILABLE_NETWORK_LIST& list)
         { list.Network[1].wlanSignalQuality = quality; };
         const int code = manager().SmartSwitch(&kAdapterA);
         Advance(std::chrono::seconds(5)); // what was requested is connected to then
@@ -171,12 +171,12 @@ TEST_F(AutoSwitchTest, WhereNothingMatchesItIsMinusSevenWithoutATrace)
         EXPECT_TRUE(sharedTraceUntouched()) << what;
     };
     EditedAnswers edited;
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list) { list.dwNumberOfItems = 0; };
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list) { list.dwNumberOfItems = 0; };
     expectNoMatch("no network");
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     { list.Network[0].strProfileName[0] = list.Network[1].strProfileName[0] = L'X'; };
     expectNoMatch("no match");
-    edited.service.profileList = [](WLAN_PROFILE_INFO_LIST& list) { list.dwNumberOfItems = 0; };
+    edited.service.profiles = [](WLAN_PROFILE_INFO_LIST& list) { list.dwNumberOfItems = 0; };
     expectNoMatch("no profile");
     EXPECT_EQ(0u, callCount("WlanSetProfilePosition"));
 }
@@ -285,10 +285,10 @@ TEST_F(SmartSwitchTest, NothingToSwitchTo)
 {
     EditedAnswers edited;
     edited.conversion.takesAllFlagsForUtf8 = true;
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list) { list.dwNumberOfItems = 0; };
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list) { list.dwNumberOfItems = 0; };
     EXPECT_EQ(-2, manager().SmartSwitch(&kAdapterA));
-    edited.service.networkList = {};
-    edited.service.profileList = [](WLAN_PROFILE_INFO_LIST& list) { list.dwNumberOfItems = 0; };
+    edited.service.networks = {};
+    edited.service.profiles = [](WLAN_PROFILE_INFO_LIST& list) { list.dwNumberOfItems = 0; };
     EXPECT_EQ(-2, manager().SmartSwitch(&kAdapterA));
     EXPECT_EQ(2u, callCount("WlanGetAvailableNetworkList"));
     EXPECT_TRUE(traced().empty());

@@ -180,7 +180,7 @@ TEST_F(BestApTest, WithoutACandidateNothingMoreIsAsked)
 TEST_F(BestApTest, AnEmptyBssListEndsItWithoutATrace)
 {
     EditedAnswers edited;
-    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
+    edited.service.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; };
     EXPECT_EQ(-11, manager().ConnectBestAP(&kAdapterA));
     EXPECT_EQ(0u, callCount("WlanConnect"));
     EXPECT_TRUE(traced().empty());
@@ -344,12 +344,12 @@ TEST_F(BestApTest, TwoProfilesOfOneNameShareTheScoreOfTheirNetwork)
     UseWorld(WorldOf({Profile("Twice"), Profile("Again"), Profile("Once")},
                      {Heard("Once", 2412000, -62), Heard("Twice", 5180000, -70)}));
     EditedAnswers edited;
-    edited.service.profileList = [](WLAN_PROFILE_INFO_LIST& list)
+    edited.service.profiles = [](WLAN_PROFILE_INFO_LIST& list)
     {
         WLAN_PROFILE_INFO* const profiles = list.ProfileInfo;
         std::copy_n(L"Twice", 6, profiles[1].strProfileName);
     };
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     {
         WLAN_AVAILABLE_NETWORK* const networks = list.Network;
         EXPECT_EQ(60u, networks[1].wlanSignalQuality);

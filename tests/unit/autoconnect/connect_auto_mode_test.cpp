@@ -79,7 +79,7 @@ TEST_F(ConnectAutoModeTest, ANetworkWhoseSsidIsNotUtf8IsPassedOver)
 {
     EditedAnswers edited;
     edited.conversion.takesAllFlagsForUtf8 = true;
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     { list.Network[1].dot11Ssid = MakeSsid("First\xE9"); };
     EXPECT_EQ(0, manager().ConnectAutoMode(&kAdapterA));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Second")) << "First's has its name and is passed over";
@@ -143,7 +143,7 @@ TEST_F(ConnectAutoModeTest, AnSsidThatStatesMoreThan64BytesReadsAsEmpty)
     EditedAnswers edited;
     edited.conversion.takesAllFlagsForUtf8 = true;
     ULONG stated = 65;
-    edited.service.networkList = [&stated](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [&stated](WLAN_AVAILABLE_NETWORK_LIST& list)
     {
         list.dwNumberOfItems = 1;
         list.Network[0].dot11Ssid = MakeSsid(std::string(32, 's'));

@@ -53,9 +53,9 @@ const Method kMethods[] = {{"PreRoaming", [](CWirelessManage& m) -> long long { 
                            {"Roaming", [](CWirelessManage& m) -> long long { return m.Roaming(&kAdapterA); }}};
 
 /// Gives the access points their link qualities.
-std::function<void(WLAN_BSS_LIST&, unsigned)> WithQualities(std::vector<unsigned> qualities)
+std::function<void(WLAN_BSS_LIST&)> WithQualities(std::vector<unsigned> qualities)
 {
-    return [qualities](WLAN_BSS_LIST& list, unsigned)
+    return [qualities](WLAN_BSS_LIST& list)
     {
         ASSERT_EQ(qualities.size(), list.dwNumberOfItems);
         for (std::size_t i = 0; i < qualities.size(); ++i)
@@ -157,7 +157,7 @@ TEST_F(RoamingTest, ThePickIsTheLastAccessPointThatBeatsTheFirst)
         SCOPED_TRACE(::testing::PrintToString(qualities));
         UseWorld(NetFrom(qualities.size()));
         EditedAnswers edited;
-        edited.service.bssList = WithQualities(qualities);
+        edited.service.bss = WithQualities(qualities);
         EXPECT_EQ(0, manager().PreRoaming(&kAdapterA));
         EXPECT_EQ(0, manager().Roaming(&kAdapterA));
         EXPECT_EQ(RequestFor("02:00:00:00:00:0" + std::to_string(picked)), call("WlanConnect").line);
@@ -171,7 +171,7 @@ TEST_F(RoamingTest, DoesNotMoveToTheCurrentAccessPoint)
         SCOPED_TRACE(::testing::PrintToString(qualities));
         UseWorld(NetFrom(qualities.size()));
         EditedAnswers edited;
-        edited.service.bssList = WithQualities(qualities);
+        edited.service.bss = WithQualities(qualities);
         for (const auto& [name, method] : kMethods)
             EXPECT_EQ(-8, method(manager())) << name;
         EXPECT_EQ(0u, callCount("WlanConnect"));
@@ -186,8 +186,7 @@ TEST_F(RoamingTest, AccessPointsAreTheSameWhenAllSixBytesAre)
     {
         UseWorld(NetFrom(1));
         EditedAnswers edited;
-        edited.service.bssList = [byte](WLAN_BSS_LIST& list, unsigned)
-        { list.wlanBssEntries[0].dot11Bssid[byte] ^= 0x80; };
+        edited.service.bss = [byte](WLAN_BSS_LIST& list) { list.wlanBssEntries[0].dot11Bssid[byte] ^= 0x80; };
         EXPECT_EQ(0, manager().PreRoaming(&kAdapterA)) << "byte " << byte;
     }
 }
@@ -213,7 +212,7 @@ TEST_F(RoamingTest, ExactlyOneAccessPointIsDesired)
 TEST_F(RoamingTest, NoAccessPointInView)
 {
     EditedAnswers edited;
-    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned) { list.dwNumberOfItems = 0; };
+    edited.service.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; };
     for (const auto& [name, method] : kMethods)
         EXPECT_EQ(-7, method(manager())) << name;
     EXPECT_TRUE(traced().empty());

@@ -94,7 +94,7 @@ TEST_F(SmartConnectingTest, TheNameIsCutToWhatTheTextHolds)
 TEST_F(SmartConnectingTest, TheFirstNetworkOfTheProfileIsTaken)
 {
     EditedAnswers edited;
-    edited.service.networkList = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
     {
         std::copy_n(L"First", 6, list.Network[0].strProfileName);
         list.Network[0].dot11BssType = dot11_BSS_type_independent;

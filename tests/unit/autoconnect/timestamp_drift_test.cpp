@@ -40,8 +40,8 @@ public:
     std::vector<std::string> OffsetsBetween(std::uint64_t first, std::uint64_t later)
     {
         EditedAnswers edited;
-        edited.service.bssList = [=](WLAN_BSS_LIST& list, unsigned number)
-        { list.wlanBssEntries[0].ullHostTimestamp = number == 1 ? first : later; };
+        edited.service.bss = [heard = first, later](WLAN_BSS_LIST& list) mutable
+        { list.wlanBssEntries[0].ullHostTimestamp = std::exchange(heard, later); };
         ClearCalls();
         EXPECT_EQ(-1, Run());
         std::vector<std::string> lines = traced();
@@ -53,9 +53,9 @@ public:
     int RunWithEmptyLists(const std::function<bool(unsigned)>& isEmpty)
     {
         EditedAnswers edited;
-        edited.service.bssList = [&](WLAN_BSS_LIST& list, unsigned number)
+        edited.service.bss = [&isEmpty, number = 0u](WLAN_BSS_LIST& list) mutable
         {
-            if (isEmpty(number))
+            if (isEmpty(++number))
                 list.dwNumberOfItems = 0;
         };
         return Run();
@@ -168,8 +168,9 @@ TEST_F(TimestampDriftTest, AccessPointsAreDistinguishedByTheirWholeAddress)
 {
     UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50), Heard("Net", 2437000, -60)}));
     EditedAnswers edited;
-    edited.service.bssList = [](WLAN_BSS_LIST& list, unsigned number)
+    edited.service.bss = [number = 0u](WLAN_BSS_LIST& list) mutable
     {
+        ++number;
         WLAN_BSS_ENTRY* const entries = list.wlanBssEntries;
         entries[0].ullHostTimestamp = At(12, 0, number == 1 ? 0 : 3);
         (entries + 1)->ullHostTimestamp = At(12, 0, number == 1 ? 0 : 7);

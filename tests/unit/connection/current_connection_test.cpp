@@ -1,13 +1,11 @@
-#include "support/altered_answers.h"
-#include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
-#include <iterator>
 
 namespace calvix::test::current_connection_test
 {
@@ -17,18 +15,11 @@ using ::testing::ElementsAre;
 namespace
 {
 
-const std::string kA = kAdapterAText;
 const char* const kEnumeration = "WlanEnumInterfaces(client=1, reserved=null, list=non-null)";
-const std::string kConnectionQuery =
-    "WlanQueryInterface(client=1, interface=" + kA +
-    ", opcode=current_connection, reserved=null, dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, "
-    "valueType=null)";
 
 class CurrentConnectionTest : public LibraryTest
 {
 };
-
-using CurrentConnectionDeathTest = CurrentConnectionTest;
 
 /// A record that shows what was written to it.
 WLAN_CONNECTION_ATTRIBUTES Marked()
@@ -60,60 +51,6 @@ void ExpectHomeNet(const WLAN_CONNECTION_ATTRIBUTES& record)
     EXPECT_TRUE(record.wlanSecurityAttributes.bSecurityEnabled);
 }
 
-// The calls of the failure tables: each has to leave its outputs alone.
-
-long long Connection(CWirelessManage& manager)
-{
-    WLAN_CONNECTION_ATTRIBUTES record = Marked();
-    const int code = manager.GetCurrentConnection(&kAdapterA, &record);
-    EXPECT_TRUE(IsMarked(record));
-    return code;
-}
-
-long long FirstConnection(CWirelessManage& manager)
-{
-    WLAN_CONNECTION_ATTRIBUTES record = Marked();
-    const int code = manager.GetCurrentConnection(&record);
-    EXPECT_TRUE(IsMarked(record));
-    return code;
-}
-
-long long FirstSsid(CWirelessManage& manager)
-{
-    char ssid[8] = "marked";
-    const int code = manager.GetCurrentSSID(ssid, sizeof ssid);
-    EXPECT_STREQ("marked", ssid);
-    return code;
-}
-
-long long FirstSsidAndRecord(CWirelessManage& manager)
-{
-    char ssid[8] = "marked";
-    WLAN_CONNECTION_ATTRIBUTES record = Marked();
-    const int code = manager.GetCurrentSSID(ssid, sizeof ssid, &record);
-    EXPECT_STREQ("marked", ssid);
-    EXPECT_TRUE(IsMarked(record));
-    return code;
-}
-
-void UseNoConnection(LibraryTest& test)
-{
-    test.UseWorld(DisconnectedWorld());
-}
-
-void UseNoAdapter(LibraryTest& test)
-{
-    test.UseWorld(NoAdapterWorld());
-}
-
-/// Only the second of the two adapters is connected.
-void UseSecondConnected(LibraryTest& test)
-{
-    simulation::Scenario world = DisconnectedWorld();
-    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
-    test.UseWorld(world);
-}
-
 /// The service states another size for the record of the current connection.
 AnswerChanges WithSize(DWORD stated)
 {
@@ -122,19 +59,9 @@ AnswerChanges WithSize(DWORD stated)
 
 AnswerChanges WithSsid(const DOT11_SSID& ssid)
 {
-    return {.query = [ssid](WLAN_INTF_OPCODE, PVOID data, DWORD&)
-            { static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.dot11Ssid = ssid; }};
+    return {.currentConnection = [ssid](WLAN_CONNECTION_ATTRIBUTES& connection)
+            { connection.wlanAssociationAttributes.dot11Ssid = ssid; }};
 }
-
-struct FirstInterfaceMethod
-{
-    const char* name;
-    long long (*call)(CWirelessManage&);
-};
-
-const FirstInterfaceMethod kFirstInterfaceMethods[] = {{"GetCurrentConnection(record)", FirstConnection},
-                                                       {"GetCurrentSSID(text)", FirstSsid},
-                                                       {"GetCurrentSSID(text, record)", FirstSsidAndRecord}};
 
 } // namespace
 
@@ -146,9 +73,8 @@ TEST_F(CurrentConnectionTest, GivesTheWholeRecordOfTheNamedInterface)
     EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &record));
     ExpectHomeNet(record);
     EXPECT_EQ(100u, record.wlanAssociationAttributes.wlanSignalQuality);
-    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery, kRelease));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(callLines(), ElementsAre(ConnectionQuery(), kRelease));
+    ExpectSilence();
 }
 
 TEST_F(CurrentConnectionTest, GivesTheWholeRecordOfTheFirstInterface)
@@ -156,15 +82,14 @@ TEST_F(CurrentConnectionTest, GivesTheWholeRecordOfTheFirstInterface)
     WLAN_CONNECTION_ATTRIBUTES record = Marked();
     EXPECT_EQ(0, manager().GetCurrentConnection(&record));
     ExpectHomeNet(record);
-    EXPECT_THAT(callLines(), ElementsAre(kEnumeration, kConnectionQuery, kRelease, kRelease));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(callLines(), ElementsAre(kEnumeration, ConnectionQuery(), kRelease, kRelease));
+    ExpectSilence();
 }
 
 TEST_F(CurrentConnectionTest, CopiesAsManyBytesAsTheServiceStates)
 {
     constexpr DWORD stated = offsetof(WLAN_CONNECTION_ATTRIBUTES, wlanSecurityAttributes);
-    const AlteredAnswers altered(WithSize(stated));
+    const EditedAnswers altered(WithSize(stated));
     WLAN_CONNECTION_ATTRIBUTES records[] = {Marked(), Marked(), Marked()};
     char ssid[33] = {};
     EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &records[0]));
@@ -179,7 +104,7 @@ TEST_F(CurrentConnectionTest, CopiesAsManyBytesAsTheServiceStates)
 
 TEST_F(CurrentConnectionTest, MoreThanTheRecordHoldsIsFatal)
 {
-    const AlteredAnswers altered(WithSize(sizeof(WLAN_CONNECTION_ATTRIBUTES) + 1));
+    const EditedAnswers altered(WithSize(sizeof(WLAN_CONNECTION_ATTRIBUTES) + 1));
     WLAN_CONNECTION_ATTRIBUTES record = Marked();
     char ssid[33] = {};
     ExpectFatal([&] { manager().GetCurrentConnection(&kAdapterA, &record); }, "GetCurrentConnection");
@@ -203,56 +128,19 @@ TEST_F(CurrentConnectionTest, ANullRecordDoesNotMatterWithoutAConnection)
     EXPECT_EQ(-4, manager().GetCurrentConnection(nullptr));
 }
 
-TEST_F(CurrentConnectionDeathTest, AFatalCallerErrorEndsTheProcessVisibly)
-{
-    EXPECT_DEATH(manager().GetCurrentConnection(&kAdapterA, nullptr), "GetCurrentConnection");
-}
-
-TEST_F(CurrentConnectionTest, EveryWayToFail)
-{
-    CheckFailures(*this, {{"GetCurrentConnection(guid)", Connection, "WlanOpenHandle", -1, {kOpenFailed}},
-                          {"GetCurrentConnection(guid)", Connection, "WlanQueryInterface", -4, {kQueryFailed}},
-                          {.method = "GetCurrentConnection(guid), not connected",
-                           .call = Connection,
-                           .expected = -4,
-                           .traced = {kNotConnected},
-                           .prepare = UseNoConnection},
-                          {.method = "GetCurrentConnection(null guid)",
-                           .call =
-                               [](auto& m)
-                           {
-                               WLAN_CONNECTION_ATTRIBUTES record = Marked();
-                               const GUID* const none = nullptr;
-                               return m.GetCurrentConnection(none, &record);
-                           },
-                           .expected = -4,
-                           .traced = {"WlanQueryInterface failed with error: 87"}}});
-}
-
-TEST_F(CurrentConnectionTest, EveryWayToFailOnTheFirstInterface)
-{
-    for (const auto& [name, call] : kFirstInterfaceMethods)
-    {
-        CheckFailures(
-            *this,
-            {{name, call, "WlanOpenHandle", -1, {kOpenFailed}},
-             {name, call, "WlanEnumInterfaces", -2, {kEnumFailed}},
-             {.method = name, .call = call, .expected = -3, .traced = {kNoAdapterText}, .prepare = UseNoAdapter},
-             {name, call, "WlanQueryInterface", -4, {kQueryFailed}},
-             {.method = name, .call = call, .expected = -4, .traced = {kNotConnected}, .prepare = UseNoConnection}});
-    }
-}
-
 TEST_F(CurrentConnectionTest, LaterInterfacesAreNeverAsked)
 {
-    for (const auto& [name, call] : kFirstInterfaceMethods)
-    {
-        UseSecondConnected(*this);
-        EXPECT_EQ(-4, call(manager())) << name;
-        EXPECT_EQ(1u, callCount("WlanQueryInterface")) << name;
-        EXPECT_EQ(kA, this->call("WlanQueryInterface")["interface"]) << name;
-    }
+    simulation::Scenario world = DisconnectedWorld();
+    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseWorld(world);
     WLAN_CONNECTION_ATTRIBUTES record = Marked();
+    char ssid[33] = {};
+    EXPECT_EQ(-4, manager().GetCurrentConnection(&record));
+    EXPECT_EQ(-4, manager().GetCurrentSSID(ssid, sizeof ssid));
+    EXPECT_EQ(-4, manager().GetCurrentSSID(ssid, sizeof ssid, &record));
+    EXPECT_EQ(3u, callCount("WlanQueryInterface"));
+    EXPECT_EQ(kAdapterAText, call("WlanQueryInterface", 3)["interface"]);
+    EXPECT_TRUE(IsMarked(record));
     EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterB, &record)) << "by its GUID it is found";
     EXPECT_EQ("CafeNet", Ssid(record));
 }
@@ -267,9 +155,8 @@ TEST_F(CurrentConnectionTest, GivesTheSsidAsText)
     EXPECT_STREQ("HomeNet", ssid);
     EXPECT_THAT(calls(), ElementsAre("WlanEnumInterfaces", "WlanQueryInterface", "MultiByteToWideChar",
                                      "WideCharToMultiByte", "WlanFreeMemory", "WlanFreeMemory"));
-    EXPECT_EQ(kConnectionQuery, callLines()[1]);
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_EQ(ConnectionQuery(), callLines()[1]);
+    ExpectSilence();
 }
 
 TEST_F(CurrentConnectionTest, GivesTheSsidAsTextAndTheRecord)
@@ -298,7 +185,7 @@ TEST_F(CurrentConnectionTest, CutsTheSsidToTheRoomThereIs)
 
 TEST_F(CurrentConnectionTest, TakesTheSsidAsUtf8)
 {
-    const AlteredAnswers altered(WithSsid(MakeSsid("Caf\xC3\xA9")));
+    const EditedAnswers altered(WithSsid(MakeSsid("Caf\xC3\xA9")));
     char ssid[33] = {};
     EXPECT_EQ(0, manager().GetCurrentSSID(ssid, sizeof ssid));
     EXPECT_STREQ("Caf\xE9", ssid) << "in the active code page, 1252";
@@ -325,7 +212,7 @@ TEST_F(CurrentConnectionTest, AnSsidThatCannotBeIsFatal)
 {
     DOT11_SSID tooLong = MakeSsid("HomeNet");
     tooLong.uSSIDLength = 65;
-    const AlteredAnswers altered(WithSsid(tooLong));
+    const EditedAnswers altered(WithSsid(tooLong));
     char ssid[33] = {};
     ExpectFatal([&] { manager().GetCurrentSSID(ssid, sizeof ssid); }, "GetSSID");
 }
@@ -334,7 +221,5 @@ TEST_F(CurrentConnectionTest, ANullSsidBufferIsLeftAlone)
 {
     EXPECT_EQ(0, manager().GetCurrentSSID(nullptr, 33));
 }
-
-// --- All ---
 
 } // namespace calvix::test::current_connection_test

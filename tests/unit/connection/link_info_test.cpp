@@ -1,7 +1,7 @@
-#include "support/altered_answers.h"
-#include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -14,8 +14,6 @@ using ::testing::ElementsAre;
 
 namespace
 {
-
-const std::string kA = kAdapterAText;
 
 /// GetCurrentLinkInfo with outputs that show what was written.
 struct LinkInfo
@@ -43,8 +41,6 @@ class LinkInfoTest : public LibraryTest
 {
 };
 
-using LinkInfoDeathTest = LinkInfoTest;
-
 class CurrentWiFiTest : public LibraryTest
 {
 public:
@@ -57,18 +53,6 @@ public:
     }
 };
 
-/// The call of the failure table: it has to leave its outputs alone.
-long long AskUntouched(CWirelessManage& manager)
-{
-    LinkInfo info;
-    const int code = info.Ask(manager);
-    EXPECT_EQ(77, info.state);
-    EXPECT_EQ(78, info.bssType);
-    EXPECT_STREQ("#########", info.ssid);
-    EXPECT_EQ('#', info.bssid[0]);
-    return code;
-}
-
 /// Attributes as a host keeps them: of HomeNet, even if the adapter is not connected to it.
 WLAN_CONNECTION_ATTRIBUTES KeptAttributes(const std::string& ssid = "HomeNet", BOOL secured = TRUE)
 {
@@ -77,12 +61,6 @@ WLAN_CONNECTION_ATTRIBUTES KeptAttributes(const std::string& ssid = "HomeNet", B
     record.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_infrastructure;
     record.wlanSecurityAttributes.bSecurityEnabled = secured;
     return record;
-}
-
-long long CountHomeNet(CWirelessManage& manager)
-{
-    WLAN_CONNECTION_ATTRIBUTES record = KeptAttributes();
-    return manager.GetCurrentWiFi(&kAdapterA, &record);
 }
 
 } // namespace
@@ -100,23 +78,17 @@ TEST_F(LinkInfoTest, SumsUpTheConnection)
     EXPECT_EQ('#', info.bssid[6]) << "six bytes and no terminator";
     EXPECT_THAT(calls(),
                 ElementsAre("WlanQueryInterface", "MultiByteToWideChar", "WideCharToMultiByte", "WlanFreeMemory"));
-    EXPECT_EQ("WlanQueryInterface(client=1, interface=" + kA +
-                  ", opcode=current_connection, reserved=null, dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), "
-                  "data=non-null, valueType=null)",
-              callLines()[0]);
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_EQ(ConnectionQuery(), callLines()[0]);
+    ExpectSilence();
 }
 
 TEST_F(LinkInfoTest, ReportsStateAndBssTypeAsTheyAre)
 {
-    const auto strange = [](WLAN_INTF_OPCODE, PVOID data, DWORD&)
-    {
-        auto& record = *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data);
-        record.isState = wlan_interface_state_authenticating;
-        record.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_independent;
-    };
-    const AlteredAnswers altered({.query = strange});
+    const EditedAnswers altered({.currentConnection = [](WLAN_CONNECTION_ATTRIBUTES& connection)
+                                 {
+                                     connection.isState = wlan_interface_state_authenticating;
+                                     connection.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_independent;
+                                 }});
     LinkInfo info;
     EXPECT_EQ(0, info.Ask(manager()));
     EXPECT_EQ(7, info.state);
@@ -163,56 +135,21 @@ TEST_F(LinkInfoTest, ANullBssidIsFatal)
     EXPECT_EQ(78, info.bssType);
 }
 
-TEST_F(LinkInfoDeathTest, ANullBssidEndsTheProcessVisibly)
-{
-    LinkInfo info;
-    EXPECT_DEATH(manager().GetCurrentLinkInfo(&kAdapterA, &info.state, &info.bssType, info.ssid, 10, nullptr),
-                 "GetCurrentLinkInfo");
-}
-
-// Deliberate: the platform's own numbers, where the other queries give -1 and -4.
-TEST_F(LinkInfoTest, FailuresAreThePlatformsNumbers)
-{
-    const auto local = TraceBuffer::local;
-    CheckFailures(
-        *this,
-        {{"GetCurrentLinkInfo", AskUntouched, "WlanOpenHandle", 5, {kOpenFailed}, local},
-         {"GetCurrentLinkInfo", AskUntouched, "WlanOpenHandle", 1062, {kOpenFailed}, local, 1062},
-         {"GetCurrentLinkInfo", AskUntouched, "WlanQueryInterface", 5, {kQueryFailed}, local},
-         {"GetCurrentLinkInfo", AskUntouched, "WlanQueryInterface", -2144067582, {kQueryFailed}, local, 0x80342002},
-         {.method = "GetCurrentLinkInfo, not connected",
-          .call = AskUntouched,
-          .expected = 5023,
-          .traced = {kNotConnected},
-          .buffer = local,
-          .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
-}
-
-TEST_F(LinkInfoTest, ANullInterfaceIsTheServicesToRefuse)
-{
-    LinkInfo info;
-    EXPECT_EQ(87, info.Ask(manager(), nullptr));
-    EXPECT_EQ(87, info.Ask(manager(), &kNoAdapter));
-    EXPECT_EQ(77, info.state);
-}
-
 // --- GetCurrentWiFi ---
 
 TEST_F(CurrentWiFiTest, CountsTheAccessPointsOfTheNetwork)
 {
     WLAN_CONNECTION_ATTRIBUTES record = Current();
     EXPECT_EQ(3, manager().GetCurrentWiFi(&kAdapterA, &record));
-    EXPECT_THAT(callLines(), ElementsAre("WlanGetNetworkBssList(client=1, interface=" + kA +
-                                             ", ssid=\"HomeNet\"/7, bssType=infrastructure, securityEnabled=true, "
-                                             "reserved=null, list=non-null)",
-                                         kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"HomeNet\"/7", "infrastructure", "true"), kRelease));
     EXPECT_THAT(traced(), ElementsAre(kBssReleased));
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
 TEST_F(CurrentWiFiTest, TracesTheReleaseJustBeforeIt)
 {
-    CountHomeNet(manager());
+    WLAN_CONNECTION_ATTRIBUTES record = KeptAttributes();
+    manager().GetCurrentWiFi(&kAdapterA, &record);
     const std::vector<std::string> lines = timeline();
     ASSERT_EQ(4u, lines.size());
     EXPECT_THAT(lines[1], ::testing::HasSubstr(kBssReleased));
@@ -239,22 +176,6 @@ TEST_F(CurrentWiFiTest, OutOfRangeIsNotAFailure)
     EXPECT_EQ(0, manager().GetCurrentWiFi(&kAdapterA, &gone));
     EXPECT_THAT(traced(), ElementsAre(kBssReleased));
     EXPECT_TRUE(sharedTraceUntouched());
-}
-
-TEST_F(CurrentWiFiTest, EveryWayToFail)
-{
-    CheckFailures(*this, {{"GetCurrentWiFi", CountHomeNet, "WlanOpenHandle", -1, {kOpenFailed}},
-                          {"GetCurrentWiFi", CountHomeNet, "WlanGetNetworkBssList", -4, {kBssFailed}}});
-}
-
-TEST_F(CurrentWiFiTest, NullArguments)
-{
-    EXPECT_EQ(-14, manager().GetCurrentWiFi(&kAdapterA, nullptr));
-    EXPECT_TRUE(calls().empty()) << "nothing to ask for";
-
-    WLAN_CONNECTION_ATTRIBUTES record = KeptAttributes();
-    EXPECT_EQ(-4, manager().GetCurrentWiFi(nullptr, &record));
-    EXPECT_EQ("WlanGetNetworkBssList failed with error: 87", sharedTrace());
 }
 
 } // namespace calvix::test::link_info_test

@@ -1,6 +1,6 @@
-#include "support/altered_answers.h"
-#include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cstddef>
@@ -16,18 +16,6 @@ namespace
 class StatisticsTest : public LibraryTest
 {
 };
-
-/// The call of the failure table: it has to leave the record alone.
-long long Ask(CWirelessManage& manager)
-{
-    _WIFI_TXRX_COUNT count{7, 7, 7, 7};
-    const int code = manager.GetWlanStatistics(&kAdapterA, &count);
-    EXPECT_EQ(7u, count.ullTransmitted);
-    EXPECT_EQ(7u, count.ullSpare1);
-    EXPECT_EQ(7u, count.ullSpare2);
-    EXPECT_EQ(7u, count.ullReceived);
-    return code;
-}
 
 } // namespace
 
@@ -50,12 +38,8 @@ TEST_F(StatisticsTest, WritesTheUnicastFramesOnly)
     EXPECT_EQ(7u, count.ullSpare1);
     EXPECT_EQ(7u, count.ullSpare2);
     EXPECT_EQ(56789u, count.ullReceived);
-    EXPECT_THAT(callLines(), ElementsAre("WlanQueryInterface(client=1, interface=" + std::string(kAdapterAText) +
-                                             ", opcode=statistics, reserved=null, dataSize=sizeof(WLAN_STATISTICS), "
-                                             "data=non-null, valueType=null)",
-                                         kRelease));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(callLines(), ElementsAre(QueryLine("statistics", "WLAN_STATISTICS"), kRelease));
+    ExpectSilence();
 }
 
 TEST_F(StatisticsTest, ReadsTheUnicastCountersAmongAllOthers)
@@ -71,7 +55,7 @@ TEST_F(StatisticsTest, ReadsTheUnicastCountersAmongAllOthers)
         statistics.PhyCounters[0].ullTransmittedFrameCount = 14;
         statistics.PhyCounters[0].ullReceivedFrameCount = 15;
     };
-    const AlteredAnswers altered({.query = fill});
+    const EditedAnswers altered({.query = fill});
     _WIFI_TXRX_COUNT count{};
     EXPECT_EQ(0, manager().GetWlanStatistics(&kAdapterA, &count));
     EXPECT_EQ(0xFEDCBA9876543210, count.ullTransmitted);
@@ -86,28 +70,6 @@ TEST_F(StatisticsTest, NeedsNoConnection)
     EXPECT_EQ(0, manager().GetWlanStatistics(&kAdapterB, &count));
     EXPECT_EQ(0u, count.ullTransmitted);
     EXPECT_EQ(0u, count.ullReceived);
-}
-
-TEST_F(StatisticsTest, EveryWayToFail)
-{
-    CheckFailures(*this, {{"GetWlanStatistics", Ask, "WlanOpenHandle", -1, {kOpenFailed}},
-                          {"GetWlanStatistics", Ask, "WlanQueryInterface", -4, {kQueryFailed}},
-                          {.method = "GetWlanStatistics, not supported",
-                           .call = Ask,
-                           .failingOperation = "WlanQueryInterface",
-                           .expected = -4,
-                           .traced = {"WlanQueryInterface failed with error: 50"},
-                           .error = 50}});
-}
-
-TEST_F(StatisticsTest, NullArguments)
-{
-    EXPECT_EQ(-13, manager().GetWlanStatistics(&kAdapterA, nullptr));
-    EXPECT_TRUE(calls().empty()) << "nowhere to write to";
-
-    _WIFI_TXRX_COUNT count{7, 7, 7, 7};
-    EXPECT_EQ(-4, manager().GetWlanStatistics(nullptr, &count));
-    EXPECT_EQ("WlanQueryInterface failed with error: 87", sharedTrace());
 }
 
 } // namespace calvix::test::statistics_test

@@ -11,83 +11,50 @@ namespace calvix::test::bounded_copy_test
 namespace
 {
 
-template <typename Character>
-class BoundedCopyTest : public ::testing::Test
+/// What a copy leaves in a room of ten characters, with its terminators written as '0'.
+template <typename Character, typename Copy>
+std::string RoomAfter(Copy copy)
 {
-protected:
-    static constexpr Character kHomeNet[] = {'H', 'o', 'm', 'e', 'N', 'e', 't', 0};
+    Character room[10];
+    std::fill_n(room, 10, Character('#'));
+    const Character text[] = {'H', 'o', 'm', 'e', 'N', 'e', 't', 0};
+    copy(room, text);
+    std::string shown;
+    for (const Character each : room)
+        shown += each == 0 ? '0' : static_cast<char>(each);
+    return shown;
+}
 
-    BoundedCopyTest() { std::fill_n(m_room, 10, Character('#')); }
-
-    /// What a copy leaves in a room of ten characters, with its terminators written as '0'.
-    std::string Room() const
+template <typename Character>
+void CheckCopies()
+{
+    const struct
     {
-        std::string shown;
-        for (const Character each : m_room)
-            shown += each == 0 ? '0' : static_cast<char>(each);
-        return shown;
+        int capacity;
+        const char* room;
+    } cases[] = {{10, "HomeNet0##"}, {8, "HomeNet0##"}, {7, "HomeNe0###"},
+                 {5, "Home0#####"},  {1, "0#########"}, {0, "##########"}};
+    for (const auto& each : cases)
+    {
+        SCOPED_TRACE(each.capacity);
+        EXPECT_EQ(each.room,
+                  RoomAfter<Character>([&](auto* room, const auto* text)
+                                       { CopyTruncating(room, static_cast<std::size_t>(each.capacity), text); }));
+        EXPECT_EQ(each.room, RoomAfter<Character>([&](auto* room, const auto* text)
+                                                  { CopyTruncatingToCaller(room, each.capacity, text); }));
     }
-
-    Character m_room[10];
-};
-
-using Characters = ::testing::Types<char, wchar_t>;
+    EXPECT_EQ("0#########",
+              RoomAfter<Character>([](auto* room, const auto* text) { CopyTruncatingToCaller(room, -1, text); }));
+    Character* const nowhere = nullptr;
+    RoomAfter<Character>([=](auto*, const auto* text) { CopyTruncating(nowhere, 10, text); });
+}
 
 } // namespace
 
-TYPED_TEST_SUITE(BoundedCopyTest, Characters);
-
-TYPED_TEST(BoundedCopyTest, CopiesTextThatFits)
+TEST(BoundedCopyTest, CutsSilentlyAndTerminates)
 {
-    CopyTruncating(this->m_room, 10, this->kHomeNet);
-    EXPECT_EQ("HomeNet0##", this->Room()) << "what follows the terminator is left alone";
-}
-
-TYPED_TEST(BoundedCopyTest, TheTerminatorNeedsAPlace)
-{
-    CopyTruncating(this->m_room, 8, this->kHomeNet);
-    EXPECT_EQ("HomeNet0##", this->Room());
-    CopyTruncating(this->m_room, 7, this->kHomeNet);
-    EXPECT_EQ("HomeNe00##", this->Room());
-}
-
-TYPED_TEST(BoundedCopyTest, CutsSilently)
-{
-    CopyTruncating(this->m_room, 5, this->kHomeNet);
-    EXPECT_EQ("Home0#####", this->Room());
-}
-
-TYPED_TEST(BoundedCopyTest, ACapacityOfOneTakesTheTerminatorOnly)
-{
-    CopyTruncating(this->m_room, 1, this->kHomeNet);
-    EXPECT_EQ("0#########", this->Room());
-}
-
-TYPED_TEST(BoundedCopyTest, ACapacityOfNothingWritesNothing)
-{
-    CopyTruncating(this->m_room, 0, this->kHomeNet);
-    CopyTruncatingToCaller(this->m_room, 0, this->kHomeNet);
-    EXPECT_EQ("##########", this->Room());
-}
-
-TYPED_TEST(BoundedCopyTest, ACallersNegativeCapacityGivesTheEmptyText)
-{
-    CopyTruncatingToCaller(this->m_room, -1, this->kHomeNet);
-    EXPECT_EQ("0#########", this->Room());
-}
-
-TYPED_TEST(BoundedCopyTest, ACallersCapacityCutsLikeAnyOther)
-{
-    CopyTruncatingToCaller(this->m_room, 5, this->kHomeNet);
-    EXPECT_EQ("Home0#####", this->Room());
-}
-
-TYPED_TEST(BoundedCopyTest, WithoutADestinationNothingHappens)
-{
-    TypeParam* const nowhere = nullptr;
-    CopyTruncating(nowhere, 10, this->kHomeNet);
-    CopyTruncatingToCaller(nowhere, -1, this->kHomeNet);
-    EXPECT_EQ("##########", this->Room());
+    CheckCopies<char>();
+    CheckCopies<wchar_t>();
 }
 
 } // namespace calvix::test::bounded_copy_test

@@ -1,5 +1,4 @@
-#include "support/contract_table.h"
-#include "unit/inventory/trace_texts.h"
+#include "support/library_test.h"
 
 #include <atomic>
 #include <future>
@@ -91,16 +90,6 @@ private:
     unsigned m_setting = 0;
 };
 
-long long RegisterSomething(CWirelessManage& manager)
-{
-    return manager.RegisterNotification(NeverCalled, nullptr);
-}
-
-long long Unregister(CWirelessManage& manager)
-{
-    return manager.UnRegisterNotification(NeverCalled, nullptr);
-}
-
 } // namespace
 
 // --- The calls ---
@@ -132,44 +121,6 @@ TEST_F(NotificationsTest, TheTraceIsFormattedWithTracingOff)
     EXPECT_EQ(0, Register(m_first));
     EXPECT_EQ("WlanRegisterNotification: 0", sharedTrace());
     EXPECT_THAT(traced(), IsEmpty());
-}
-
-TEST_F(NotificationsTest, EveryWayToFail)
-{
-    CheckFailures(*this, {
-                             {.method = "RegisterNotification",
-                              .call = RegisterSomething,
-                              .failingOperation = "WlanOpenHandle",
-                              .expected = 1722,
-                              .traced = {kOpenFailed},
-                              .error = 1722},
-                             {.method = "RegisterNotification",
-                              .call = RegisterSomething,
-                              .failingOperation = "WlanRegisterNotification",
-                              .expected = 5,
-                              .traced = {"WlanRegisterNotification: %d"}},
-                             {.method = "UnRegisterNotification",
-                              .call = Unregister,
-                              .failingOperation = "WlanOpenHandle",
-                              .expected = 1722,
-                              .traced = {kOpenFailed},
-                              .error = 1722},
-                             {.method = "UnRegisterNotification",
-                              .call = Unregister,
-                              .failingOperation = "WlanRegisterNotification",
-                              .expected = 5,
-                              .traced = {"WlanUnRegisterNotification: %d"}},
-                         });
-}
-
-// The result and the traced number are signed.
-TEST_F(NotificationsTest, LargeErrorsAreNegative)
-{
-    FailOn("WlanRegisterNotification", 0x80070005);
-    EXPECT_EQ(-2147024891, Register(m_first));
-    EXPECT_EQ(-2147024891, manager().UnRegisterNotification(nullptr, nullptr));
-    EXPECT_THAT(traced(),
-                ElementsAre("WlanRegisterNotification: -2147024891", "WlanUnRegisterNotification: -2147024891"));
 }
 
 TEST_F(NotificationsTest, ANullCallbackIsTheServicesToRefuse)
@@ -295,8 +246,8 @@ struct AskingListener
 
 TEST_F(NotificationsTest, WhatEndsARegistrationWaitsForTheRunningCallback)
 {
-    const std::function<void()> ends[] = {[this] { Unregister(manager()); }, [this] { Register(m_second); },
-                                          [] { CWirelessManage::Delete(); }};
+    const std::function<void()> ends[] = {[this] { manager().UnRegisterNotification(NeverCalled, nullptr); },
+                                          [this] { Register(m_second); }, [] { CWirelessManage::Delete(); }};
     for (const auto& end : ends)
     {
         SlowListener listener;
@@ -366,7 +317,7 @@ TEST_F(NotificationsTest, ACallbackMayCallTheLibrary)
         EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
     }
     computer().WaitForNotifications();
-    EXPECT_EQ(0, Unregister(manager()));
+    EXPECT_EQ(0, manager().UnRegisterNotification(NeverCalled, nullptr));
     EXPECT_EQ(20u, listener.connected.load());
 }
 

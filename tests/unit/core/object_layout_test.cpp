@@ -65,15 +65,4 @@ TEST_F(ObjectLayoutTest, TheInstanceHasTheHostsOffsets)
     EXPECT_EQ(2104u, OffsetOf(ManagerInternals::AppPath(object)));
 }
 
-TEST_F(ObjectLayoutTest, TheFrameCounterRecordIsFourNumbers)
-{
-    EXPECT_EQ(32u, sizeof(_WIFI_TXRX_COUNT));
-    _WIFI_TXRX_COUNT count{1, 2, 3, 4};
-    const auto* const numbers = reinterpret_cast<const unsigned long long*>(&count);
-    EXPECT_EQ(1u, numbers[0]);
-    EXPECT_EQ(4u, numbers[3]);
-    EXPECT_EQ(&count.ullTransmitted, numbers);
-    EXPECT_EQ(&count.ullReceived, numbers + 3);
-}
-
 } // namespace calvix::test::object_layout_test

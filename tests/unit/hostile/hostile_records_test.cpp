@@ -2,7 +2,6 @@
 // their answer to a failed call; nothing is read beyond the records, which the sanitizers watch, and nothing is left held.
 
 #include "methods/method.h"
-#include "support/altered_answers.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/result_code.h"
@@ -178,7 +177,7 @@ TEST_F(HostileRecordsTest, NoRecordBringsAMethodDown)
     {
         SCOPED_TRACE(spoiling.name);
         UseWorld(Furnished(RichWorld()));
-        const AlteredAnswers altered(std::move(spoiling.changes));
+        const EditedAnswers altered(std::move(spoiling.changes));
         CallEverything();
     }
 }
@@ -297,7 +296,7 @@ TEST_F(HostileRecordsTest, SuccessWithoutAResultIsAFailedCall)
 
 TEST_F(HostileRecordsTest, AnAnswerShorterThanItsRecordIsAFailedQuery)
 {
-    const AlteredAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = 0; }});
+    const EditedAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = 0; }});
     EXPECT_EQ(-4, Result("GetRssi"));
     EXPECT_EQ(-5, Result("SupportedSafeMode"));
     EXPECT_EQ(-4, Result("PhyRadioIsOn2"));
@@ -313,7 +312,7 @@ AnswerChanges ConnectionOf(std::size_t bytes)
 
 TEST_F(HostileRecordsTest, AConnectionLongerThanItsRecordIsNotSaved)
 {
-    const AlteredAnswers altered(ConnectionOf(sizeof(WLAN_CONNECTION_ATTRIBUTES) + 1));
+    const EditedAnswers altered(ConnectionOf(sizeof(WLAN_CONNECTION_ATTRIBUTES) + 1));
     ExpectFatal([&] { manager().SaveCurrentConnectionAttributes(&kAdapterA); }, "SaveCurrentConnectionAttributes");
 }
 
@@ -351,12 +350,12 @@ TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
         const std::string refusal = "WlanQueryInterface failed with error: 24";
         UseWorld(WeakWorld());
         {
-            const AlteredAnswers altered(ConnectionOf(each.needed - 1));
+            const EditedAnswers altered(ConnectionOf(each.needed - 1));
             EXPECT_EQ(each.refused, Result(each.method));
             EXPECT_THAT(traced(), Contains(refusal));
         }
         ClearCalls();
-        const AlteredAnswers altered(ConnectionOf(each.needed));
+        const EditedAnswers altered(ConnectionOf(each.needed));
         Result(each.method);
         EXPECT_THAT(traced(), ::testing::Not(Contains(refusal)));
     }
@@ -364,7 +363,7 @@ TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
 
 TEST_F(HostileRecordsTest, APowerSettingThatDidNotComeWholeIsAFailedQuery)
 {
-    const AlteredAnswers altered({.parameter = [](DWORD& size) { size = sizeof(WLAN_POWER_SETTING) - 1; }});
+    const EditedAnswers altered({.parameter = [](DWORD& size) { size = sizeof(WLAN_POWER_SETTING) - 1; }});
     EXPECT_EQ((Outcome{0, "", {methods::kUntouched}}), Ask(methods::FindMethod("GetPowerSetting")));
     EXPECT_THAT(traced(), ::testing::ElementsAre("WlanQueryAutoConfigParameter failed! err is 24"));
 }
@@ -373,7 +372,7 @@ TEST_F(HostileRecordsTest, AnRssiOfFourBytesIsWhole)
 {
     for (const DWORD bytes : {3UL, 4UL})
     {
-        const AlteredAnswers altered(ConnectionOf(bytes));
+        const EditedAnswers altered(ConnectionOf(bytes));
         EXPECT_EQ(bytes == 4 ? 0 : -4, Result("GetRssi")) << bytes;
     }
     EXPECT_EQ("sizeof(LONG)", call("WlanQueryInterface")["dataSize"]) << "which has 4 bytes on the platform";
@@ -392,6 +391,7 @@ TEST_F(HostileRecordsTest, NullRecordsAreRefusedBeforeAnythingElse)
     const Case cases[] = {{"GetWlanInterface", Role::list, -13},
                           {"GetSoftAPList", Role::list, -13},
                           {"GetWlanStatistics", Role::record, -13},
+                          {"GetProfile(GUID const*, wchar_t const*, wchar_t*", Role::room, -13},
                           {"GetMatchAPList", Role::list, -13},
                           {"GetConnectableAPList", Role::list, -13},
                           {"GetMatchAPCount", Role::list, -13},
@@ -445,10 +445,10 @@ TEST_F(HostileRecordsTest, RadioStateWithoutItsFirstPhyHasNone)
     constexpr DWORD kWithPhy = kCountOnly + sizeof(WLAN_PHY_RADIO_STATE);
     for (const DWORD told : {kCountOnly, kWithPhy - 1})
     {
-        const AlteredAnswers altered({.query = [told](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = told; }});
+        const EditedAnswers altered({.query = [told](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = told; }});
         EXPECT_EQ(-5, Result("PhyRadioIsOn2")) << told;
     }
-    const AlteredAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = kWithPhy; }});
+    const EditedAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID, DWORD& size) { size = kWithPhy; }});
     EXPECT_EQ(1, Result("PhyRadioIsOn2"));
 }
 
@@ -456,7 +456,7 @@ TEST_F(HostileRecordsTest, RadioStateWithoutItsFirstPhyHasNone)
 
 TEST_F(HostileRecordsTest, FullNamesAreWholeNames)
 {
-    const AlteredAnswers altered(FullNames());
+    const EditedAnswers altered(FullNames());
     GUID guid{};
     EXPECT_EQ(0, manager().GetWlanInterfaceGuid(kFullWideName.c_str(), guid));
     EXPECT_EQ(kFullName.substr(1), manager().GetWlanInterfaceDesc(&kAdapterA)) << "cut to what the text holds";
@@ -473,7 +473,7 @@ TEST_F(HostileRecordsTest, FullNamesReachThePlatformTerminated)
     remembered.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_infrastructure;
     remembered.wlanAssociationAttributes.dot11Ssid = MakeSsid("HomeNet");
     remembered.wlanSecurityAttributes.bSecurityEnabled = TRUE;
-    const AlteredAnswers altered(FullNames());
+    const EditedAnswers altered(FullNames());
     EditedAnswers edited;
     std::vector<std::wstring> asked;
     edited.service.connectRequest = [&asked](const WLAN_CONNECTION_PARAMETERS& parameters)
@@ -491,7 +491,7 @@ TEST_F(HostileRecordsTest, FullNamesReachThePlatformTerminated)
 
 TEST_F(HostileRecordsTest, FullNamesAreReadAndMovedTerminated)
 {
-    const AlteredAnswers altered(FullNames());
+    const EditedAnswers altered(FullNames());
     Result("SetCurrentWiFiToLast");
     Result("AutoSwitch");
     Result("SaveCurrentConnectionAttributes");
@@ -515,7 +515,7 @@ TEST_F(HostileRecordsTest, QualitiesComeOutAsTheyAre)
 {
     const auto with = [this](std::uint32_t quality, const char* method)
     {
-        const AlteredAnswers altered(
+        const EditedAnswers altered(
             {.networks = [quality](auto& list)
              { ChangeEach(list, [quality](auto& each) { each.wlanSignalQuality = quality; }); },
              .query =
@@ -538,7 +538,7 @@ TEST_F(HostileRecordsTest, ListingsShowNumbersAtTheirLimits)
     const auto listed = [this](Spoiling spoiling)
     {
         ClearCalls();
-        const AlteredAnswers altered(std::move(spoiling.changes));
+        const EditedAnswers altered(std::move(spoiling.changes));
         EXPECT_EQ(0, manager().GetNetworkBss());
         return traced();
     };

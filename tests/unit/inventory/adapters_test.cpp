@@ -194,7 +194,7 @@ TEST_F(AdaptersTest, AllSixteenBytesOfTheGuidCount)
 TEST_F(AdaptersTest, WithDuplicatesTheLastStateWins)
 {
     EditedAnswers edited;
-    edited.service.interfaceList = DuplicateGuid;
+    edited.service.interfaces = DuplicateGuid;
     computer().SetInterfaceState(1, wlan_interface_state_discovering);
     EXPECT_EQ(6, manager().GetWlanStatus(&kAdapterA));
     computer().SetInterfaceState(1, wlan_interface_state_not_ready);
@@ -293,7 +293,7 @@ TEST_F(AdaptersTest, NotFindingADescriptionIsNotKept)
 TEST_F(AdaptersTest, WithDuplicatesTheLastDescriptionWins)
 {
     EditedAnswers edited;
-    edited.service.interfaceList = DuplicateGuid;
+    edited.service.interfaces = DuplicateGuid;
     EXPECT_STREQ("Wireless Adapter B", manager().GetWlanInterfaceDesc(&kAdapterA));
     EXPECT_THAT(traced(), ElementsAre("Wlan Interface Describe: Wireless Adapter A",
                                       "Wlan Interface Describe: Wireless Adapter B"));
@@ -331,7 +331,7 @@ TEST_F(AdaptersTest, ADescriptionLongerThanItsTextStaysInsideIt)
 TEST_F(AdaptersTest, ADescriptionMayFillItsArray)
 {
     EditedAnswers edited;
-    edited.service.interfaceList = [](WLAN_INTERFACE_INFO_LIST& list)
+    edited.service.interfaces = [](WLAN_INTERFACE_INFO_LIST& list)
     {
         std::fill(std::begin(list.InterfaceInfo[1].strInterfaceDescription),
                   std::end(list.InterfaceInfo[1].strInterfaceDescription), L'D');

@@ -1,5 +1,5 @@
-#include "support/altered_answers.h"
 #include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/inventory/trace_texts.h"
 
@@ -117,11 +117,11 @@ TEST_F(LinkStateTest, TheLastEntryOfTheInterfaceDecides)
     const auto connected = wlan_interface_state_connected;
     const auto disconnected = wlan_interface_state_disconnected;
     {
-        const AlteredAnswers altered(Twins(kAdapterA, connected, disconnected));
+        const EditedAnswers altered(Twins(kAdapterA, connected, disconnected));
         EXPECT_EQ(0, manager().WiFiIsConnected(&kAdapterA));
         EXPECT_EQ(1, manager().WiFiIsDisconnected(&kAdapterA));
     }
-    const AlteredAnswers altered(Twins(kAdapterA, disconnected, connected));
+    const EditedAnswers altered(Twins(kAdapterA, disconnected, connected));
     EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
     EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterA));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/altered_answers.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ public:
     Lines Networks(AnswerChanges changes = {})
     {
         ClearCalls();
-        const AlteredAnswers altered(std::move(changes));
+        const EditedAnswers altered(std::move(changes));
         EXPECT_EQ(0, manager().GetAvailableNetwork());
         return traced();
     }
@@ -44,7 +44,7 @@ public:
     Lines Bss(AnswerChanges changes = {})
     {
         ClearCalls();
-        const AlteredAnswers altered(std::move(changes));
+        const EditedAnswers altered(std::move(changes));
         EXPECT_EQ(0, manager().GetNetworkBss());
         return traced();
     }

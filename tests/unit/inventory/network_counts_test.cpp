@@ -1,5 +1,5 @@
-#include "support/altered_answers.h"
 #include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/inventory/trace_texts.h"
 
@@ -143,22 +143,22 @@ TEST_F(NetworkCountsTest, CountsVisibleNetworksWithAStoredProfile)
 
 TEST_F(NetworkCountsTest, CountsAProfileNameOnceForEachOfItsEntries)
 {
-    const AlteredAnswers altered({.networks = NameNetworks({L"Twin", L"Other", L"Twin", L"", L"Twin"}),
-                                  .profiles = NameProfiles({L"Twin", L"Elsewhere"})});
+    const EditedAnswers altered({.networks = NameNetworks({L"Twin", L"Other", L"Twin", L"", L"Twin"}),
+                                 .profiles = NameProfiles({L"Twin", L"Elsewhere"})});
     EXPECT_EQ(3, manager().GetConnectableNetworkCount(&kAdapterA));
 }
 
 TEST_F(NetworkCountsTest, CountsEveryPairOfEqualNames)
 {
-    const AlteredAnswers altered({.networks = NameNetworks({L"Twin", L"Twin", L"Other"}),
-                                  .profiles = NameProfiles({L"Twin", L"Other", L"Twin"})});
+    const EditedAnswers altered({.networks = NameNetworks({L"Twin", L"Twin", L"Other"}),
+                                 .profiles = NameProfiles({L"Twin", L"Other", L"Twin"})});
     EXPECT_EQ(5, manager().GetConnectableNetworkCount(&kAdapterA));
 }
 
 TEST_F(NetworkCountsTest, ComparesProfileNamesExactly)
 {
-    const AlteredAnswers altered({.networks = NameNetworks({L"homenet", L"HomeNe", L"HomeNet ", L"HomeNet"}),
-                                  .profiles = NameProfiles({L"HomeNet"})});
+    const EditedAnswers altered({.networks = NameNetworks({L"homenet", L"HomeNe", L"HomeNet ", L"HomeNet"}),
+                                 .profiles = NameProfiles({L"HomeNet"})});
     EXPECT_EQ(1, manager().GetConnectableNetworkCount(&kAdapterA));
 }
 
@@ -172,13 +172,13 @@ TEST_F(NetworkCountsTest, NeitherSsidNorConnectableFlagDecides)
             list.Network[i].bNetworkConnectable = FALSE;
         }
     };
-    const AlteredAnswers altered({.networks = strange});
+    const EditedAnswers altered({.networks = strange});
     EXPECT_EQ(6, manager().GetConnectableNetworkCount(&kAdapterA));
 }
 
 TEST_F(NetworkCountsTest, NoMatchIsNotAFailure)
 {
-    const AlteredAnswers altered({.networks = NameNetworks({})});
+    const EditedAnswers altered({.networks = NameNetworks({})});
     EXPECT_EQ(0, manager().GetConnectableNetworkCount(&kAdapterA));
     EXPECT_TRUE(traced().empty());
 }

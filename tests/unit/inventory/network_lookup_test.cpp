@@ -1,5 +1,5 @@
-#include "support/altered_answers.h"
 #include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/inventory/trace_texts.h"
 
@@ -112,7 +112,7 @@ TEST_F(NetworkLookupTest, AnEmptySsidIsNeverFound)
         for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
             hasEmptySsid = hasEmptySsid || list.Network[i].dot11Ssid.uSSIDLength == 0;
     };
-    const AlteredAnswers altered({.networks = look});
+    const EditedAnswers altered({.networks = look});
     EXPECT_EQ(-4, Find(""));
     EXPECT_TRUE(hasEmptySsid);
     EXPECT_THAT(calls(), ElementsAre("WlanGetAvailableNetworkList", "WlanFreeMemory"));
@@ -160,7 +160,7 @@ TEST_F(NetworkLookupTest, ReportsTheServicesReason)
             list.Network[i].wlanNotConnectableReason = 0x30000 + i;
         }
     };
-    const AlteredAnswers altered({.networks = refuse});
+    const EditedAnswers altered({.networks = refuse});
     EXPECT_EQ(0, Explain("OfficeNet"));
     EXPECT_EQ(0, m_connectable);
     EXPECT_EQ(0x30001u, m_reason) << "OfficeNet is the second network that was heard";
@@ -185,8 +185,8 @@ TEST_F(NetworkLookupTest, TheBssTypeIsComparedAsANumber)
         EXPECT_TRUE(OutputsUntouched());
     }
 
-    const AlteredAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
-                                  { std::memset(&list.Network[0].dot11BssType, 0xFF, sizeof(DOT11_BSS_TYPE)); }});
+    const EditedAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+                                 { std::memset(&list.Network[0].dot11BssType, 0xFF, sizeof(DOT11_BSS_TYPE)); }});
     EXPECT_EQ(0, Explain("HomeNet", 0xFFFFFFFFUL));
 }
 
@@ -212,7 +212,7 @@ TEST_F(NetworkLookupTest, TheFirstMatchingEntryCounts)
             list.Network[i].wlanNotConnectableReason = i;
         }
     };
-    const AlteredAnswers altered({.networks = twins});
+    const EditedAnswers altered({.networks = twins});
     EXPECT_EQ(0, Explain("Twin"));
     EXPECT_EQ(1, m_connectable);
     EXPECT_EQ(1u, m_reason);

@@ -1,5 +1,5 @@
-#include "support/altered_answers.h"
 #include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/inventory/trace_texts.h"
 
@@ -188,7 +188,7 @@ TEST_F(SignalTest, RssiHasNoBounds)
 {
     for (const int value : {-113, 0, 12})
     {
-        const AlteredAnswers altered(
+        const EditedAnswers altered(
             {.query = [value](WLAN_INTF_OPCODE, PVOID data, DWORD&) { *static_cast<std::int32_t*>(data) = value; }});
         int rssi = 77;
         EXPECT_EQ(0, manager().GetRssi(&kAdapterA, rssi));
@@ -241,7 +241,7 @@ TEST_F(SignalTest, CurrentRssiComparesAllSixBytes)
 {
     for (const int byte : {0, 5})
     {
-        const AlteredAnswers altered(
+        const EditedAnswers altered(
             {.bss = [byte](WLAN_BSS_LIST& list) { list.wlanBssEntries[0].dot11Bssid[byte] ^= 1; }});
         EXPECT_EQ(-7, CurrentRssi(manager())) << "byte " << byte;
     }
@@ -261,7 +261,7 @@ TEST_F(SignalTest, TheFirstEntryOfTheAccessPointCounts)
             list.wlanBssEntries[i].lRssi = -10 - i;
         }
     };
-    const AlteredAnswers altered({.bss = twins});
+    const EditedAnswers altered({.bss = twins});
     int rssi = 77;
     EXPECT_EQ(0, manager().GetCurrentRSSI(&kAdapterA, rssi));
     EXPECT_EQ(-11, rssi);
@@ -321,7 +321,7 @@ TEST_F(SignalTest, WiFiRssiHalvesTheQualityInWholeNumbers)
     } const rows[] = {{0, -100}, {1, -100}, {2, -99}, {3, -99}, {50, -75}, {80, -60}, {98, -51}, {99, -51}, {100, -50}};
     for (const auto& row : rows)
     {
-        const AlteredAnswers altered(WithFirstQuality(row.quality));
+        const EditedAnswers altered(WithFirstQuality(row.quality));
         EXPECT_EQ(row.rssi, WiFiRssi("HomeNet")) << "quality " << row.quality;
     }
 }
@@ -346,7 +346,7 @@ TEST_F(SignalTest, WiFiRssiTakesTheFirstNetworkThatBeginsWithTheSsid)
 // Deliberate: nothing to compare is equal to everything.
 TEST_F(SignalTest, WiFiRssiOfAnEmptySsidIsTheFirstNetworks)
 {
-    const AlteredAnswers altered(WithFirstQuality(40));
+    const EditedAnswers altered(WithFirstQuality(40));
     EXPECT_EQ(-80, WiFiRssi(""));
 }
 
@@ -393,7 +393,7 @@ TEST_F(SignalTest, QualityIsGivenAsItIs)
             static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.wlanSignalQuality =
                 static_cast<ULONG>(value);
         };
-        const AlteredAnswers altered({.query = change});
+        const EditedAnswers altered({.query = change});
         EXPECT_EQ(value, manager().GetSignalQuality(&kAdapterA));
     }
 }

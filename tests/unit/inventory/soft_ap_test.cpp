@@ -1,6 +1,6 @@
-#include "support/altered_answers.h"
 #include "support/changed_platform.h"
 #include "support/contract_table.h"
+#include "support/edited_answers.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cwchar>
@@ -170,12 +170,12 @@ TEST_F(SoftApTest, TheSsidEndsAtItsFirstZeroByte)
                 ElementsAre("LC#"));
 
     const LenientPlatform lenient;
-    const AlteredAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
-                                  {
-                                      DOT11_SSID& ssid = list.Network[0].dot11Ssid;
-                                      ssid = MakeSsid("NetLC#");
-                                      ssid.uSSIDLength = 2;
-                                  }});
+    const EditedAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+                                 {
+                                     DOT11_SSID& ssid = list.Network[0].dot11Ssid;
+                                     ssid = MakeSsid("NetLC#");
+                                     ssid.uSSIDLength = 2;
+                                 }});
     EXPECT_THAT(List(), ElementsAre("NetLC#", "LC#")) << "the stated length is not used";
 }
 
@@ -189,11 +189,11 @@ TEST_F(SoftApTest, OneNameForEachEntry)
 {
     UseWorld(WorldOf({"MyLC#Net", "LC#Two"}));
     const LenientPlatform lenient;
-    const AlteredAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
-                                  {
-                                      ASSERT_EQ(2u, list.dwNumberOfItems);
-                                      list.Network[1].dot11Ssid = list.Network[0].dot11Ssid;
-                                  }});
+    const EditedAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+                                 {
+                                     ASSERT_EQ(2u, list.dwNumberOfItems);
+                                     list.Network[1].dot11Ssid = list.Network[0].dot11Ssid;
+                                 }});
     EXPECT_THAT(List(), ElementsAre("MyLC#Net", "MyLC#Net"));
 }
 
@@ -253,7 +253,7 @@ TEST_F(SoftApTest, TheProfileNameDecides)
                       {L"lc#net", false},     {L"LC", false}, {L"", false},    {L"L C#", false}, {L"LC\u266F", false}};
     for (const auto& row : rows)
     {
-        const AlteredAnswers altered(WithProfileName(row.name));
+        const EditedAnswers altered(WithProfileName(row.name));
         EXPECT_EQ(row.special, manager().SpecialSoftAP()) << ::testing::PrintToString(std::wstring(row.name));
     }
 }
@@ -261,10 +261,10 @@ TEST_F(SoftApTest, TheProfileNameDecides)
 TEST_F(SoftApTest, TheNameEndsAtItsTerminatorOrWithTheRecord)
 {
     {
-        const AlteredAnswers altered(WithProfileName(std::wstring(L"LC\0LC#", 6)));
+        const EditedAnswers altered(WithProfileName(std::wstring(L"LC\0LC#", 6)));
         EXPECT_FALSE(manager().SpecialSoftAP());
     }
-    const AlteredAnswers altered(WithProfileName(std::wstring(253, L'x') + L"LC#"));
+    const EditedAnswers altered(WithProfileName(std::wstring(253, L'x') + L"LC#"));
     EXPECT_TRUE(manager().SpecialSoftAP()) << "256 characters and no terminator";
 }
 
@@ -272,7 +272,7 @@ TEST_F(SoftApTest, TheSsidDoesNotDecide)
 {
     const auto change = [](WLAN_INTF_OPCODE, PVOID data, DWORD&)
     { static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.dot11Ssid = MakeSsid("MyLC#Net"); };
-    const AlteredAnswers altered({.query = change});
+    const EditedAnswers altered({.query = change});
     EXPECT_FALSE(manager().SpecialSoftAP());
 }
 

@@ -1,6 +1,6 @@
-#include "support/contract_table.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <string>
@@ -13,8 +13,6 @@ using ::testing::ElementsAre;
 
 namespace
 {
-
-constexpr const char* kMoveFailed = "WlanSetProfilePosition failed with error: %u";
 
 class PreferenceOrderTest : public LibraryTest
 {
@@ -32,11 +30,6 @@ public:
     }
 };
 
-long long MoveToLast(CWirelessManage& manager)
-{
-    return manager.SetCurrentWiFiToLast();
-}
-
 simulation::Scenario ConnectedWorld(std::vector<simulation::StoredProfile> profiles, const std::string& connected)
 {
     simulation::Scenario world = WorldOf(std::move(profiles), {Heard("Net", 2412000, -50)});
@@ -49,17 +42,12 @@ simulation::Scenario ConnectedWorld(std::vector<simulation::StoredProfile> profi
 TEST_F(PreferenceOrderTest, TheConnectedNetworksProfileGoesToTheLastPlace)
 {
     EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
-    const std::string start = std::string("(client=1, interface=") + kAdapterAText;
     EXPECT_THAT(callLines(),
-                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
-                            "WlanGetProfileList" + start + ", reserved=null, list=non-null)",
-                            "WlanQueryInterface" + start +
-                                ", opcode=current_connection, reserved=null, "
-                                "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, valueType=null)",
-                            "WlanSetProfilePosition" + start + ", name=\"HomeNet\", position=4, reserved=null)",
-                            kRelease, kRelease, kRelease));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)", ProfilesLine(),
+                            ConnectionQuery(),
+                            CallForA("WlanSetProfilePosition", "name=\"HomeNet\", position=4, reserved=null"), kRelease,
+                            kRelease, kRelease));
+    ExpectSilence();
     EXPECT_THAT(Order(), ElementsAre(L"OfficeNet", L"HiddenNet", L"AdHocNet", L"GoneNet", L"HomeNet"));
 }
 
@@ -105,33 +93,6 @@ TEST_F(PreferenceOrderTest, OnlyTheFirstInterfaceIsLookedAt)
     EXPECT_EQ(5023, manager().SetCurrentWiFiToLast());
     EXPECT_EQ(1u, callCount("WlanQueryInterface"));
     EXPECT_EQ(kAdapterAText, call("WlanQueryInterface")["interface"]);
-}
-
-TEST_F(PreferenceOrderTest, Failures)
-{
-    const char* const name = "SetCurrentWiFiToLast";
-    CheckFailures(*this, {{name, MoveToLast, "WlanOpenHandle", -1, {kOpenFailed}, TraceBuffer::local},
-                          {name, MoveToLast, "WlanEnumInterfaces", 5, {kEnumFailed}, TraceBuffer::local},
-                          {name, MoveToLast, "WlanGetProfileList", 5, {kProfilesFailed}, TraceBuffer::local},
-                          {name, MoveToLast, "WlanQueryInterface", 5, {kQueryFailed}, TraceBuffer::local},
-                          {name, MoveToLast, "WlanSetProfilePosition", 5, {kMoveFailed}, TraceBuffer::local},
-                          {.method = "SetCurrentWiFiToLast, not connected",
-                           .call = MoveToLast,
-                           .expected = 5023,
-                           .traced = {kNotConnected},
-                           .buffer = TraceBuffer::local,
-                           .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
-}
-
-// Deliberate: no adapter reads as success.
-TEST_F(PreferenceOrderTest, WithoutAnAdapterThereIsNothingToDo)
-{
-    CheckFailures(*this, {{.method = "SetCurrentWiFiToLast",
-                           .call = MoveToLast,
-                           .expected = 0,
-                           .traced = {kNoAdapterText},
-                           .buffer = TraceBuffer::local,
-                           .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }}});
 }
 
 TEST_F(PreferenceOrderTest, AFailedMoveMovesNothing)

@@ -1,6 +1,7 @@
-#include "support/contract_table.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
+#include "unit/call_lines.h"
+#include "unit/inventory/trace_texts.h"
 
 #include <string>
 
@@ -11,9 +12,6 @@ using ::testing::ElementsAre;
 
 namespace
 {
-
-constexpr const char* kOpenFailed = "WlanOpenHandle failed with error: %u";
-constexpr const char* kListFailed = "WlanGetProfileList failed with error: %u";
 
 std::wstring Wide(const std::string& ascii)
 {
@@ -51,23 +49,6 @@ public:
     }
 };
 
-class ProfileListDeathTest : public ProfileListTest
-{
-};
-
-FailureRow Row(const char* method,
-               std::function<long long(CWirelessManage&)> call,
-               const char* operation,
-               long long expected,
-               const char* traced,
-               TraceBuffer buffer)
-{
-    FailureRow row{method, std::move(call), operation, expected, {traced}, buffer};
-    if (expected > 0)
-        row.error = static_cast<unsigned>(expected);
-    return row;
-}
-
 } // namespace
 
 // --- GetWlanProfile ---------------------------------------------------------------------------------------------
@@ -75,14 +56,8 @@ FailureRow Row(const char* method,
 TEST_F(ProfileListTest, GetWlanProfileConvertsTheNameThenSearchesTheList)
 {
     EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterA, "GoneNet"));
-    EXPECT_THAT(callLines(),
-                ElementsAre("MultiByteToWideChar(codePage=0, flags=9, source=\"GoneNet\", sourceLength=-1, "
-                            "destination=non-null, destinationLength=256)",
-                            std::string("WlanGetProfileList(client=1, interface=") + kAdapterAText +
-                                ", reserved=null, list=non-null)",
-                            "WlanFreeMemory(memory=non-null)"));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(callLines(), ElementsAre(NameLine("GoneNet"), ProfilesLine(), kRelease));
+    ExpectSilence();
 }
 
 TEST_F(ProfileListTest, GetWlanProfileFindsEveryProfileOfItsOwnInterfaceOnly)
@@ -117,30 +92,6 @@ TEST_F(ProfileListTest, GetWlanProfileReadsTheNameInTheActiveCodePage)
     UseProfiles({"Caf\xC3\xA9"});
     EXPECT_EQ(0, manager().GetWlanProfile(&kAdapterA, "Caf\xE9"));
     EXPECT_EQ(-1, manager().GetWlanProfile(&kAdapterA, "Cafe"));
-}
-
-// Deliberate: the failing step's own error number, that of the client handle included.
-TEST_F(ProfileListTest, GetWlanProfileFailures)
-{
-    const auto call = [](CWirelessManage& m) { return m.GetWlanProfile(&kAdapterA, "HomeNet"); };
-    CheckFailures(
-        *this, {Row("GetWlanProfile", call, "WlanOpenHandle", 1234, kOpenFailed, TraceBuffer::local),
-                Row("GetWlanProfile", call, "MultiByteToWideChar", 1234, "Profile Name error: %u", TraceBuffer::local),
-                Row("GetWlanProfile", call, "WlanGetProfileList", 1234, kListFailed, TraceBuffer::local)});
-}
-
-TEST_F(ProfileListTest, GetWlanProfileGivesUpAtTheFirstFailure)
-{
-    ForgetClient();
-    FailOn("WlanOpenHandle", 1062);
-    EXPECT_EQ(1062, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle"));
-
-    ClearFailures();
-    ClearCalls();
-    FailOn("MultiByteToWideChar", 1113);
-    EXPECT_EQ(1113, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "MultiByteToWideChar"));
 }
 
 TEST_F(ProfileListTest, GetWlanProfileReportsInvalidCharacters)
@@ -183,22 +134,6 @@ TEST_F(ProfileListTest, GetWlanProfileEndsTheProcessOverAnUnusableName)
     ExpectFatal([&] { manager().GetWlanProfile(&kAdapterA, nullptr); }, "GetWlanProfile");
 }
 
-TEST_F(ProfileListDeathTest, TooLongANameIsNeverCut)
-{
-    const std::string name(128, 'n');
-    EXPECT_DEATH(manager().GetWlanProfile(&kAdapterA, name.c_str()), "GetWlanProfile");
-}
-
-TEST_F(ProfileListTest, NullInterfacesAreTheServicesToRefuse)
-{
-    EXPECT_EQ(87, manager().GetWlanProfile(nullptr, "HomeNet"));
-    EXPECT_EQ(-4, manager().GetProfileCount(nullptr));
-    EXPECT_EQ(87, manager().ResetProfilePosition(nullptr, "HomeNet"));
-    EXPECT_EQ(87, manager().SetProfilePosition(nullptr, L"HomeNet"));
-    EXPECT_EQ(-4, manager().DeleteProfile(nullptr, "HomeNet"));
-    EXPECT_EQ(-4, manager().DeleteProfile(nullptr, L"HomeNet"));
-}
-
 // --- GetProfileCount --------------------------------------------------------------------------------------------
 
 TEST_F(ProfileListTest, GetProfileCountIsTheCountItself)
@@ -214,13 +149,6 @@ TEST_F(ProfileListTest, GetProfileCountIsTheCountItself)
     ExpectNothingHeld();
 }
 
-TEST_F(ProfileListTest, GetProfileCountFailures)
-{
-    const auto call = [](CWirelessManage& m) { return m.GetProfileCount(&kAdapterA); };
-    CheckFailures(*this, {Row("GetProfileCount", call, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::shared),
-                          Row("GetProfileCount", call, "WlanGetProfileList", -4, kListFailed, TraceBuffer::shared)});
-}
-
 // --- Preference order -------------------------------------------------------------------------------------------
 
 // Deliberate: the second place, never the first.
@@ -228,13 +156,9 @@ TEST_F(ProfileListTest, ResetProfilePositionMovesToTheSecondPlace)
 {
     UseProfiles({"A", "B", "C"});
     EXPECT_EQ(0, manager().ResetProfilePosition(&kAdapterA, "C"));
-    EXPECT_THAT(callLines(), ElementsAre(std::string("WlanGetProfileList(client=1, interface=") + kAdapterAText +
-                                             ", reserved=null, list=non-null)",
-                                         "MultiByteToWideChar(codePage=0, flags=9, source=\"C\", sourceLength=-1, "
-                                         "destination=non-null, destinationLength=256)",
-                                         std::string("WlanSetProfilePosition(client=1, interface=") + kAdapterAText +
-                                             ", name=\"C\", position=1, reserved=null)",
-                                         "WlanFreeMemory(memory=non-null)"));
+    EXPECT_THAT(callLines(),
+                ElementsAre(ProfilesLine(), NameLine("C"),
+                            CallForA("WlanSetProfilePosition", "name=\"C\", position=1, reserved=null"), kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_THAT(StoredNames(), ElementsAre(L"A", L"C", L"B"));
 
@@ -276,27 +200,6 @@ TEST_F(ProfileListTest, FewerThanTwoProfilesHaveNoOrder)
     }
 }
 
-TEST_F(ProfileListTest, ResetProfilePositionFailures)
-{
-    const auto call = [](CWirelessManage& m) { return m.ResetProfilePosition(&kAdapterA, "HomeNet"); };
-    const char* const method = "ResetProfilePosition";
-    CheckFailures(*this, {Row(method, call, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::local),
-                          Row(method, call, "WlanGetProfileList", 1234, kListFailed, TraceBuffer::local),
-                          Row(method, call, "MultiByteToWideChar", 1234, "Profile Name error: %u", TraceBuffer::local),
-                          Row(method, call, "WlanSetProfilePosition", 1234,
-                              "WlanSetProfilePosition failed with error: %u", TraceBuffer::local)});
-}
-
-TEST_F(ProfileListTest, SetProfilePositionFailures)
-{
-    const auto call = [](CWirelessManage& m) { return m.SetProfilePosition(&kAdapterA, L"HomeNet"); };
-    const char* const method = "SetProfilePosition";
-    CheckFailures(*this, {Row(method, call, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::local),
-                          Row(method, call, "WlanGetProfileList", 1234, kListFailed, TraceBuffer::local),
-                          Row(method, call, "WlanSetProfilePosition", 1234,
-                              "WlanSetProfilePosition failed with error: %u", TraceBuffer::local)});
-}
-
 TEST_F(ProfileListTest, UnknownNamesAreTheServicesToRefuse)
 {
     EXPECT_EQ(1168, manager().ResetProfilePosition(&kAdapterA, "homenet"));
@@ -325,9 +228,8 @@ TEST_F(ProfileListTest, DeleteProfileDeletesByNarrowOrWideName)
 {
     EXPECT_EQ(0, manager().DeleteProfile(&kAdapterA, "OfficeNet"));
     EXPECT_EQ(0, manager().DeleteProfile(&kAdapterA, L"GoneNet"));
-    const std::string start = std::string("WlanDeleteProfile(client=1, interface=") + kAdapterAText;
-    EXPECT_THAT(callLines(), ElementsAre(start + ", name=\"OfficeNet\", reserved=null)",
-                                         start + ", name=\"GoneNet\", reserved=null)"));
+    EXPECT_THAT(callLines(), ElementsAre(CallForA("WlanDeleteProfile", "name=\"OfficeNet\", reserved=null"),
+                                         CallForA("WlanDeleteProfile", "name=\"GoneNet\", reserved=null")));
     EXPECT_TRUE(traced().empty());
     EXPECT_THAT(StoredNames(), ElementsAre(L"HomeNet", L"HiddenNet", L"AdHocNet"));
 }
@@ -367,17 +269,6 @@ TEST_F(ProfileListTest, DeleteProfileKeepsTheBytesOfANarrowName)
     EXPECT_EQ(0u, callCount("MultiByteToWideChar"));
 }
 
-TEST_F(ProfileListTest, DeleteProfileFailures)
-{
-    const auto narrow = [](CWirelessManage& m) { return m.DeleteProfile(&kAdapterA, "HomeNet"); };
-    const auto wide = [](CWirelessManage& m) { return m.DeleteProfile(&kAdapterA, L"HomeNet"); };
-    constexpr const char* failed = "WlanDeleteProfile failed with error: %u";
-    CheckFailures(*this, {Row("DeleteProfile(narrow)", narrow, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::shared),
-                          Row("DeleteProfile(narrow)", narrow, "WlanDeleteProfile", -4, failed, TraceBuffer::shared),
-                          Row("DeleteProfile(wide)", wide, "WlanOpenHandle", -1, kOpenFailed, TraceBuffer::shared),
-                          Row("DeleteProfile(wide)", wide, "WlanDeleteProfile", -4, failed, TraceBuffer::shared)});
-}
-
 TEST_F(ProfileListTest, DeleteProfileOfAnUnknownOrNullNameIsRefused)
 {
     EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, "homenet"));
@@ -387,7 +278,5 @@ TEST_F(ProfileListTest, DeleteProfileOfAnUnknownOrNullNameIsRefused)
     EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, static_cast<const wchar_t*>(nullptr)));
     EXPECT_EQ(5u, StoredNames().size());
 }
-
-// --- The client handle and cost ---------------------------------------------------------------------------------
 
 } // namespace calvix::test::profile_list_test

@@ -1,7 +1,8 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
+#include "unit/call_lines.h"
+#include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
 #include <cstring>
@@ -16,10 +17,6 @@ using ::testing::ElementsAre;
 namespace
 {
 
-constexpr const char* kOpenFailed = "WlanOpenHandle failed with error: %u";
-constexpr const char* kGetFailed = "WlanGetProfile failed with error: %u";
-constexpr const char* kSetFailed = "WlanSetProfile failed with error: %u";
-
 class ProfileTextTest : public LibraryTest
 {
 public:
@@ -32,16 +29,6 @@ public:
     }
 };
 
-class ProfileTextDeathTest : public ProfileTextTest
-{
-};
-
-std::string ReadCall(const char* name)
-{
-    return std::string("WlanGetProfile(client=1, interface=") + kAdapterAText + ", name=\"" + name +
-           "\", reserved=null, xml=non-null, flags=4, grantedAccess=131073)";
-}
-
 } // namespace
 
 // --- GetProfile into wide characters ----------------------------------------------------------------------------
@@ -53,9 +40,8 @@ TEST_F(ProfileTextTest, WideTextIsReadWithItsKeyInPlainText)
     EXPECT_EQ(WideXml(), text.data());
     EXPECT_NE(std::wstring::npos, std::wstring(text.data()).find(L"<keyMaterial>HomeNet key</keyMaterial>"));
     EXPECT_EQ(L'#', text[WideXml().size() + 1]) << "nothing is written past the terminator";
-    EXPECT_THAT(callLines(), ElementsAre(ReadCall("HomeNet"), "WlanFreeMemory(memory=non-null)"));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(callLines(), ElementsAre(ReadProfileLine("HomeNet"), kRelease));
+    ExpectSilence();
 }
 
 TEST_F(ProfileTextTest, WideTextIsCutToTheBuffer)
@@ -100,9 +86,8 @@ TEST_F(ProfileTextTest, NarrowTextIsTheWholeText)
     EXPECT_EQ(0, manager().GetProfile(&kAdapterA, L"HomeNet", text.data(), static_cast<int>(xml.size()) + 1));
     EXPECT_EQ(xml, text.data());
     EXPECT_EQ('#', text.back());
-    EXPECT_THAT(callLines(), ElementsAre(ReadCall("HomeNet"), "WlanFreeMemory(memory=non-null)"));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    EXPECT_THAT(callLines(), ElementsAre(ReadProfileLine("HomeNet"), kRelease));
+    ExpectSilence();
 }
 
 TEST_F(ProfileTextTest, NarrowTextHasAQuestionMarkForWhatTheLocaleLacks)
@@ -124,67 +109,16 @@ TEST_F(ProfileTextTest, NarrowTextThatDoesNotFitEndsTheProcess)
     ExpectFatal([&] { manager().GetProfile(&kAdapterA, L"HomeNet", static_cast<char*>(nullptr), 2048); }, "GetProfile");
 }
 
-TEST_F(ProfileTextDeathTest, NarrowTextIsNeverCut)
-{
-    char text[10];
-    EXPECT_DEATH(manager().GetProfile(&kAdapterA, L"HomeNet", text, 10), "GetProfile");
-}
-
 // --- GetProfile as a question -----------------------------------------------------------------------------------
 
 TEST_F(ProfileTextTest, WithoutABufferReadingIsATest)
 {
     EXPECT_EQ(0, manager().GetProfile(&kAdapterA, L"HomeNet"));
-    EXPECT_THAT(callLines(), ElementsAre(ReadCall("HomeNet"), "WlanFreeMemory(memory=non-null)"));
+    EXPECT_THAT(callLines(), ElementsAre(ReadProfileLine("HomeNet"), kRelease));
     EXPECT_TRUE(traced().empty());
 
     EXPECT_EQ(-4, manager().GetProfile(&kAdapterA, L"homenet"));
     EXPECT_EQ("WlanGetProfile failed with error: 1168", sharedTrace());
-}
-
-// --- Failures of reading ----------------------------------------------------------------------------------------
-
-TEST_F(ProfileTextTest, ReadingFailures)
-{
-    const auto wide = [](CWirelessManage& m)
-    {
-        wchar_t text[] = L"untouched";
-        const int result = m.GetProfile(&kAdapterA, L"HomeNet", text, 10);
-        EXPECT_STREQ(L"untouched", text);
-        return result;
-    };
-    const auto narrow = [](CWirelessManage& m)
-    {
-        char text[] = "untouched";
-        const int result = m.GetProfile(&kAdapterA, L"HomeNet", text, 10);
-        EXPECT_STREQ("untouched", text);
-        return result;
-    };
-    const auto question = [](CWirelessManage& m) { return m.GetProfile(&kAdapterA, L"HomeNet"); };
-    CheckFailures(*this,
-                  {{"GetProfile(wide)", wide, "WlanOpenHandle", -1, {kOpenFailed}, TraceBuffer::local},
-                   {"GetProfile(wide)", wide, "WlanGetProfile", -4, {kGetFailed}, TraceBuffer::local},
-                   {"GetProfile(narrow)", narrow, "WlanOpenHandle", -1, {kOpenFailed}, TraceBuffer::local},
-                   {"GetProfile(narrow)", narrow, "WlanGetProfile", -4, {kGetFailed}, TraceBuffer::local},
-                   {"GetProfile(no buffer)", question, "WlanOpenHandle", -1, {kOpenFailed}, TraceBuffer::shared},
-                   {"GetProfile(no buffer)", question, "WlanGetProfile", -4, {kGetFailed}, TraceBuffer::shared}});
-}
-
-TEST_F(ProfileTextTest, NullInputsAreTheServicesToRefuse)
-{
-    wchar_t wide[16] = {};
-    char narrow[16] = {};
-    EXPECT_EQ(-4, manager().GetProfile(nullptr, L"HomeNet"));
-    EXPECT_EQ(-4, manager().GetProfile(&kAdapterA, nullptr));
-    EXPECT_EQ(-4, manager().GetProfile(&kAdapterA, nullptr, wide, 16));
-    EXPECT_EQ(-4, manager().GetProfile(nullptr, L"HomeNet", narrow, 16));
-    EXPECT_THAT(traced(), ::testing::Each("WlanGetProfile failed with error: 87"));
-}
-
-TEST_F(ProfileTextTest, ANullWideBufferIsRefused)
-{
-    EXPECT_EQ(-13, manager().GetProfile(&kAdapterA, L"HomeNet", static_cast<wchar_t*>(nullptr), 16));
-    EXPECT_TRUE(calls().empty());
 }
 
 // --- SetProfile -------------------------------------------------------------------------------------------------
@@ -219,25 +153,15 @@ TEST_F(ProfileTextTest, SetProfileReplacesTheProfileOfThatName)
 
 TEST_F(ProfileTextTest, SetProfileHandsInAZeroReasonAndKeepsTheServicesToItself)
 {
-    EditedAnswers edited;
+    ChangedPlatform changed;
     std::vector<unsigned> reasons;
-    edited.service.reasonCodeOfSetProfile = [&](DWORD reason) { reasons.push_back(static_cast<unsigned>(reason)); };
+    changed.Before<&WlanService::WlanSetProfile>([&](auto, auto, auto, auto, auto, auto, auto, DWORD* reason)
+                                                 { reasons.push_back(static_cast<unsigned>(*reason)); });
     EXPECT_EQ(-4, manager().SetProfile(&kAdapterA, L"<no profile/>"));
     EXPECT_EQ(-4, manager().SetProfile(&kAdapterA, L"<no profile/>"));
     EXPECT_THAT(reasons, ElementsAre(0u, 0u));
     EXPECT_THAT(traced(),
                 ElementsAre("WlanSetProfile failed with error: 1206", "WlanSetProfile failed with error: 1206"));
 }
-
-TEST_F(ProfileTextTest, SetProfileFailures)
-{
-    const auto call = [](CWirelessManage& m) { return m.SetProfile(&kAdapterA, L"<WLANProfile/>"); };
-    const auto null = [](CWirelessManage& m) { return m.SetProfile(&kAdapterA, nullptr); };
-    CheckFailures(*this, {{"SetProfile", call, "WlanOpenHandle", -1, {kOpenFailed}, TraceBuffer::local},
-                          {"SetProfile", call, "WlanSetProfile", -4, {kSetFailed}, TraceBuffer::local},
-                          {"SetProfile(null)", null, "", -4, {kSetFailed}, TraceBuffer::local, 87}});
-}
-
-// --- The client handle and cost ---------------------------------------------------------------------------------
 
 } // namespace calvix::test::profile_text_test

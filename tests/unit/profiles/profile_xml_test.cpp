@@ -1,6 +1,7 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/call_lines.h"
+#include "unit/inventory/trace_texts.h"
 
 #include <string>
 #include <vector>
@@ -185,8 +186,7 @@ TEST_F(ProfileXmlTest, ModeOfAText)
         EXPECT_EQ(row.ofText, ModeOf(row.xml)) << ::testing::PrintToString(row.xml);
     EXPECT_EQ(0, manager().IsAutoConnMode(nullptr));
     EXPECT_TRUE(calls().empty());
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
 }
 
 // Deliberate: unlike a text in hand, a stored profile's damage has codes of its own.
@@ -197,8 +197,7 @@ TEST_F(ProfileXmlTest, ModeOfAStoredProfile)
         EXPECT_EQ(row.ofStored, StoredModeOf(row.xml)) << ::testing::PrintToString(row.xml);
         ExpectNothingHeld();
     }
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
 }
 
 TEST_F(ProfileXmlTest, ModesOfTheProfilesThatTheServiceKeeps)
@@ -225,24 +224,7 @@ TEST_F(ProfileXmlTest, AStoredProfileWithoutAModeIsReported)
 TEST_F(ProfileXmlTest, AStoredProfileIsReadWithItsKeyInPlainText)
 {
     EXPECT_EQ(1, manager().IsAutoConnMode2(&kAdapterA, L"GoneNet"));
-    EXPECT_THAT(callLines(), ElementsAre(std::string("WlanGetProfile(client=1, interface=") + kAdapterAText +
-                                             ", name=\"GoneNet\", reserved=null, xml=non-null, flags=4, "
-                                             "grantedAccess=131073)",
-                                         "WlanFreeMemory(memory=non-null)"));
-}
-
-TEST_F(ProfileXmlTest, ModeOfAStoredProfileFailures)
-{
-    const auto call = [](CWirelessManage& m) { return m.IsAutoConnMode2(&kAdapterA, L"HomeNet"); };
-    const auto noName = [](CWirelessManage& m) { return m.IsAutoConnMode2(&kAdapterA, nullptr); };
-    const auto noInterface = [](CWirelessManage& m) { return m.IsAutoConnMode2(nullptr, L"HomeNet"); };
-    constexpr const char* openFailed = "WlanOpenHandle failed with error: %u";
-    constexpr const char* readFailed = "WlanGetProfile failed with error: %u";
-    CheckFailures(*this,
-                  {{"IsAutoConnMode2", call, "WlanOpenHandle", -1, {openFailed}, TraceBuffer::local},
-                   {"IsAutoConnMode2", call, "WlanGetProfile", -4, {readFailed}, TraceBuffer::local},
-                   {"IsAutoConnMode2(no name)", noName, "", -4, {readFailed}, TraceBuffer::local, 87},
-                   {"IsAutoConnMode2(no interface)", noInterface, "", -4, {readFailed}, TraceBuffer::local, 87}});
+    EXPECT_THAT(callLines(), ElementsAre(ReadProfileLine("GoneNet"), kRelease));
 }
 
 } // namespace calvix::test::profile_xml_test

@@ -1,5 +1,6 @@
-#include "support/altered_answers.h"
-#include "support/contract_table.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cstring>
@@ -14,9 +15,6 @@ namespace
 {
 
 constexpr unsigned long kUnseen = 77;
-constexpr const char* kAutoCfgFailed = "Enable auto config failed! err is %u";
-constexpr const char* kBackgroundScanFailed = "Enable background scan failed! err is %u";
-constexpr const char* kSettingFailed = "WlanQueryAutoConfigParameter failed! err is %u";
 
 const std::string kSettingQuery = "WlanQueryAutoConfigParameter(client=1, opcode=power_setting, reserved=null, "
                                   "dataSize=sizeof(WLAN_POWER_SETTING), data=non-null, valueType=null)";
@@ -45,29 +43,10 @@ public:
     }
 };
 
-long long AutoCfg(CWirelessManage& manager)
-{
-    return manager.EnableAutoCfg(&kAdapterA);
-}
-
-long long BackgroundScan(CWirelessManage& manager)
-{
-    return manager.EnableBackgroundScan(&kAdapterA);
-}
-
-/// GetPowerSetting that has to leave the level alone.
-long long PowerSetting(CWirelessManage& manager)
-{
-    unsigned long level = kUnseen;
-    const int code = manager.GetPowerSetting(level);
-    EXPECT_EQ(kUnseen, level);
-    return code;
-}
-
 std::string SetLine(const char* opcode)
 {
-    return std::string("WlanSetInterface(client=1, interface=") + kAdapterAText + ", opcode=" + opcode +
-           ", dataSize=sizeof(BOOL), data=1, reserved=null)";
+    return CallForA("WlanSetInterface",
+                    std::string("opcode=") + opcode + ", dataSize=sizeof(BOOL), data=1, reserved=null");
 }
 
 } // namespace
@@ -79,8 +58,7 @@ TEST_F(InterfaceSettingsTest, AutomaticConfigurationIsSwitchedOn)
     Disable(wlan_intf_opcode_autoconf_enabled);
     EXPECT_EQ(0, manager().EnableAutoCfg(&kAdapterA));
     EXPECT_THAT(callLines(), ElementsAre(SetLine("autoconf_enabled")));
-    EXPECT_THAT(traced(), IsEmpty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
     EXPECT_TRUE(IsEnabled(wlan_intf_opcode_autoconf_enabled));
 
     EXPECT_EQ(0, manager().EnableAutoCfg(&kAdapterA)) << "once more changes nothing";
@@ -92,8 +70,7 @@ TEST_F(InterfaceSettingsTest, BackgroundScanningIsSwitchedOn)
     Disable(wlan_intf_opcode_background_scan_enabled);
     EXPECT_EQ(0, manager().EnableBackgroundScan(&kAdapterA));
     EXPECT_THAT(callLines(), ElementsAre(SetLine("background_scan_enabled")));
-    EXPECT_THAT(traced(), IsEmpty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
     EXPECT_TRUE(IsEnabled(wlan_intf_opcode_background_scan_enabled));
 }
 
@@ -101,44 +78,17 @@ TEST_F(InterfaceSettingsTest, BackgroundScanningIsSwitchedOn)
 TEST_F(InterfaceSettingsTest, TheSettingIsFourBytes)
 {
     int seen = 0;
-    const AlteredAnswers altered({.set = [&seen](WLAN_INTF_OPCODE, DWORD size, const void* data)
-                                  {
-                                      ASSERT_EQ(4u, size);
-                                      std::uint32_t value = 0;
-                                      std::memcpy(&value, data, sizeof(value));
-                                      EXPECT_EQ(1u, value);
-                                      ++seen;
-                                  }});
-    AutoCfg(manager());
-    BackgroundScan(manager());
+    const EditedAnswers altered({.set = [&seen](WLAN_INTF_OPCODE, DWORD size, const void* data)
+                                 {
+                                     ASSERT_EQ(4u, size);
+                                     std::uint32_t value = 0;
+                                     std::memcpy(&value, data, sizeof(value));
+                                     EXPECT_EQ(1u, value);
+                                     ++seen;
+                                 }});
+    manager().EnableAutoCfg(&kAdapterA);
+    manager().EnableBackgroundScan(&kAdapterA);
     EXPECT_EQ(2, seen);
-}
-
-TEST_F(InterfaceSettingsTest, EveryWayForTheSwitchesToFail)
-{
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this,
-                  {
-                      {"EnableAutoCfg", AutoCfg, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
-                      {"EnableAutoCfg", AutoCfg, "WlanSetInterface", 87, {kAutoCfgFailed}, local, 87},
-                      {"EnableBackgroundScan", BackgroundScan, "WlanOpenHandle", 5, {kOpenFailed}, local},
-                      {"EnableBackgroundScan", BackgroundScan, "WlanSetInterface", 5, {kBackgroundScanFailed}, local},
-                      {.method = "EnableBackgroundScan, not connected",
-                       .call = BackgroundScan,
-                       .expected = 5023,
-                       .traced = {"Enable background scan failed! err is 5023"},
-                       .buffer = local,
-                       .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }},
-                  });
-}
-
-TEST_F(InterfaceSettingsTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
-{
-    for (const GUID* none : {&kNoAdapter, static_cast<const GUID*>(nullptr)})
-    {
-        EXPECT_EQ(87, manager().EnableAutoCfg(none));
-        EXPECT_EQ(87, manager().EnableBackgroundScan(none));
-    }
 }
 
 // --- GetPowerSetting, SetPowerSetting ---
@@ -154,21 +104,9 @@ TEST_F(InterfaceSettingsTest, ThePowerSettingIsTheServices)
         EXPECT_EQ(0, manager().GetPowerSetting(level));
         EXPECT_EQ(setting, level);
         EXPECT_THAT(callLines(), ElementsAre(kSettingQuery, kRelease));
-        EXPECT_THAT(traced(), IsEmpty());
-        EXPECT_TRUE(sharedTraceUntouched());
+        ExpectSilence();
     }
     EXPECT_EQ(4u, sizeof(WLAN_POWER_SETTING));
-}
-
-// Deliberate: a refused query gives 0 like an answered one; only the open error comes out.
-TEST_F(InterfaceSettingsTest, EveryWayForThePowerSettingToFail)
-{
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this,
-                  {
-                      {"GetPowerSetting", PowerSetting, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
-                      {"GetPowerSetting", PowerSetting, "WlanQueryAutoConfigParameter", 0, {kSettingFailed}, local},
-                  });
 }
 
 TEST_F(InterfaceSettingsTest, SettingThePowerLevelDoesNothing)

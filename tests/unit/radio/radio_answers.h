@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/altered_answers.h"
+#include "support/edited_answers.h"
 #include "support/library_test.h"
 
 namespace calvix::test

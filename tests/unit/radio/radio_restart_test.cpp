@@ -87,8 +87,8 @@ public:
         ClearFailures();
         SlowRadio radio{offAt, onAt, GetParam()};
         FailWhen([&radio](const Call& call) { return radio.Hear(call.operation); });
-        const AlteredAnswers altered({.query = [&radio](WLAN_INTF_OPCODE, PVOID data, DWORD&)
-                                      { radio.Answer(*static_cast<WLAN_RADIO_STATE*>(data)); }});
+        const EditedAnswers altered({.query = [&radio](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+                                     { radio.Answer(*static_cast<WLAN_RADIO_STATE*>(data)); }});
         const auto before = computer().Now();
         manager().RestartWiFiRadio(&kAdapterA);
 

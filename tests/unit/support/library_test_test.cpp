@@ -148,6 +148,20 @@ TEST(FailureTable, ReportsAFailureThatWasNeverMet)
     EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("call 1 of WlanConnect was never made"));
 }
 
+TEST(FailureTable, ReportsWhatComesAfterAFailureThatEndsTheMethod)
+{
+    FailureRow row = RescanRow();
+    row.ends = true;
+    EXPECT_EQ("", ReportOf(row));
+    row.call = [](auto& m)
+    {
+        const long long result = m.Rescan();
+        m.GetWiFiAdapterCount();
+        return result;
+    };
+    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("nothing comes after the failure"));
+}
+
 TEST(FailureTable, NamesTheRowAndTheTracing)
 {
     FailureRow row = RescanRow();

@@ -12,14 +12,6 @@ using ::testing::Not;
 
 class AutoConfigServiceTest : public LibraryTest
 {
-protected:
-    /// Nothing of what happened may show.
-    void ExpectSilence()
-    {
-        EXPECT_THAT(traced(), IsEmpty());
-        EXPECT_TRUE(sharedTraceUntouched());
-        ExpectNothingHeld();
-    }
 };
 
 TEST_F(AutoConfigServiceTest, LeavesARunningServiceAlone)

@@ -1,5 +1,5 @@
-#include "unit/system/system_test.h"
-#include "unit/system/watched_computer.h"
+#include "support/changed_platform.h"
+#include "support/library_test.h"
 
 #include <cstring>
 
@@ -46,10 +46,10 @@ std::string Quoted(const std::string& text)
     return quoted + "\"";
 }
 
-class ChildProcessTest : public SystemTest
+class ChildProcessTest : public LibraryTest
 {
 public:
-    ChildProcessTest() : SystemTest(ToolBox()) {}
+    ChildProcessTest() : LibraryTest(ToolBox()) {}
 
     void RunCommand(std::string commandLine) { manager().CreateProcRunCmd(commandLine.data()); }
     int RunProgram(std::string fileName) { return manager().CreateProcRunExe(fileName.data()); }
@@ -162,15 +162,6 @@ TEST_F(ChildProcessTest, AProgramThatIsNotThereIsNotStarted)
     ExpectSilence();
 }
 
-TEST_F(ChildProcessTest, AProgramThatIsNotStartedIsNotAwaited)
-{
-    FailOn("CreateProcessA", 193);
-    EXPECT_EQ(0, RunProgram("worker.exe"));
-    EXPECT_EQ(1u, InjectedFailures());
-    EXPECT_THAT(calls(), ElementsAre("GetModuleFileNameA", "CreateProcessA"));
-    ExpectSilence();
-}
-
 TEST_F(ChildProcessTest, TheFolderOfTheHostIsWrittenDownAgain)
 {
     char(&path)[512] = ManagerInternals::AppPath(manager());
@@ -218,16 +209,17 @@ TEST_F(ChildProcessTest, AWaitThatFailsLeavesNothingOpen)
 TEST_F(ChildProcessTest, TheRecordsBeginAsZero)
 {
     unsigned seen = 0;
-    WatchedComputer watched;
-    watched.watchedProcesses.started = [&seen](const STARTUPINFOA& startup, const PROCESS_INFORMATION& information)
-    {
-        STARTUPINFOA onlySize{};
-        onlySize.cb = sizeof(onlySize);
-        EXPECT_EQ(0, std::memcmp(&onlySize, &startup, sizeof(startup)));
-        const PROCESS_INFORMATION zero{};
-        EXPECT_EQ(0, std::memcmp(&zero, &information, sizeof(information)));
-        ++seen;
-    };
+    ChangedPlatform changed;
+    changed.Before<&Processes::CreateProcessA>(
+        [&seen](auto, auto, auto, auto, auto, auto, auto, auto, STARTUPINFOA* startup, PROCESS_INFORMATION* information)
+        {
+            STARTUPINFOA onlySize{};
+            onlySize.cb = sizeof(onlySize);
+            EXPECT_EQ(0, std::memcmp(&onlySize, startup, sizeof(onlySize)));
+            const PROCESS_INFORMATION zero{};
+            EXPECT_EQ(0, std::memcmp(&zero, information, sizeof(zero)));
+            ++seen;
+        });
     RunProgram("worker.exe");
     RunCommand("C:\\Windows\\elsewhere.exe");
     EXPECT_EQ(2u, seen);

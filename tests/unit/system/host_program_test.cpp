@@ -1,5 +1,5 @@
-#include "unit/system/system_test.h"
-#include "unit/system/watched_computer.h"
+#include "support/changed_platform.h"
+#include "support/library_test.h"
 
 #include <cstring>
 
@@ -10,7 +10,7 @@ namespace
 
 using ::testing::ElementsAre;
 
-class HostProgramTest : public SystemTest
+class HostProgramTest : public LibraryTest
 {
 public:
     void UseProgram(const std::string& path)
@@ -56,12 +56,13 @@ TEST_F(HostProgramTest, WithoutABackslashTheTextIsEmpty)
     for (const char* answer : {"host.exe", "C:/Tools/host.exe", ""})
     {
         std::strcpy(Member(), "C:\\Earlier\\");
-        WatchedComputer watched;
-        watched.watchedProcesses.moduleFileName = [answer](char* fileName, DWORD)
-        {
-            std::strcpy(fileName, answer);
-            return static_cast<DWORD>(std::strlen(answer));
-        };
+        ChangedPlatform changed;
+        changed.Instead<&Processes::GetModuleFileNameA>(
+            [answer](auto, char* fileName, auto)
+            {
+                std::strcpy(fileName, answer);
+                return static_cast<DWORD>(std::strlen(answer));
+            });
         EXPECT_STREQ("", manager().GetAppPath()) << answer;
     }
 }
@@ -85,13 +86,14 @@ TEST_F(HostProgramTest, ACutPathIsTerminated)
     } const rows[] = {{100, 101}, {510, 511}, {511, 0}};
     for (const auto& row : rows)
     {
-        WatchedComputer watched;
-        watched.watchedProcesses.moduleFileName = [&row](char* fileName, DWORD size)
-        {
-            std::memset(fileName, 'x', size);
-            fileName[row.backslash] = '\\';
-            return size;
-        };
+        ChangedPlatform changed;
+        changed.Instead<&Processes::GetModuleFileNameA>(
+            [&row](auto, char* fileName, DWORD size)
+            {
+                std::memset(fileName, 'x', size);
+                fileName[row.backslash] = '\\';
+                return size;
+            });
         EXPECT_EQ(row.length, std::strlen(manager().GetAppPath())) << row.backslash;
     }
 }

@@ -1,6 +1,5 @@
-#include "support/contract_table.h"
-#include "unit/system/system_test.h"
-#include "unit/system/watched_computer.h"
+#include "support/changed_platform.h"
+#include "support/library_test.h"
 
 #include <cstring>
 
@@ -54,10 +53,18 @@ POWER_POLICY WithoutIdleTimeouts(POWER_POLICY policy)
     return policy;
 }
 
-class LegacyPowerSchemeTest : public SystemTest
+/// Notes the policies that are written and activated.
+void SeePolicies(ChangedPlatform& changed, std::vector<POWER_POLICY>& seen)
+{
+    changed.Before<&Power::WritePwrScheme>([&seen](auto, auto, auto, POWER_POLICY* policy)
+                                           { seen.push_back(*policy); });
+    changed.Before<&Power::SetActivePwrScheme>([&seen](auto, auto, POWER_POLICY* policy) { seen.push_back(*policy); });
+}
+
+class LegacyPowerSchemeTest : public LibraryTest
 {
 public:
-    LegacyPowerSchemeTest() : SystemTest(TwoSchemes()) {}
+    LegacyPowerSchemeTest() : LibraryTest(TwoSchemes()) {}
 
     POWER_POLICY PolicyOf(UINT scheme) { return computer().LegacyPowerPolicy(scheme).value(); }
     POWER_POLICY& Saved() { return ManagerInternals::SavedPowerPolicy(manager()); }
@@ -68,16 +75,6 @@ public:
         EXPECT_EQ(battery, PolicyOf(scheme).user.IdleTimeoutDc) << scheme;
     }
 };
-
-long long Set(CWirelessManage& manager)
-{
-    return manager.SetPowerScheme();
-}
-
-long long Reset(CWirelessManage& manager)
-{
-    return manager.ResetPowerScheme();
-}
 
 // --- SetPowerScheme ---
 
@@ -109,14 +106,9 @@ TEST_F(LegacyPowerSchemeTest, NothingButTheIdleTimeoutsChanges)
     POWER_POLICY full{};
     std::memset(&full, 0x5A, sizeof(full));
     std::vector<POWER_POLICY> seen;
-    WatchedComputer watched;
-    watched.watchedPower.read = [&full](POWER_POLICY& policy) { policy = full; };
-    watched.watchedPower.written = [&seen](UINT scheme, const POWER_POLICY& policy)
-    {
-        EXPECT_EQ(kActive, scheme);
-        seen.push_back(policy);
-    };
-    watched.watchedPower.activated = watched.watchedPower.written;
+    ChangedPlatform changed;
+    changed.After<&Power::ReadPwrScheme>([&full](auto, auto, POWER_POLICY* policy) { *policy = full; });
+    SeePolicies(changed, seen);
     manager().SetPowerScheme();
     ASSERT_EQ(2u, seen.size());
     for (const POWER_POLICY& policy : seen)
@@ -127,54 +119,31 @@ TEST_F(LegacyPowerSchemeTest, NothingButTheIdleTimeoutsChanges)
 // The platform may store a written scheme under another number.
 TEST_F(LegacyPowerSchemeTest, TheSchemeIsActivatedUnderTheNumberThatWritingGaveIt)
 {
-    WatchedComputer watched;
-    watched.watchedPower.numberOnceWritten = kOther;
-    for (const auto change : {Set, Reset})
-    {
-        ClearCalls();
-        EXPECT_EQ(0, change(manager()));
-        EXPECT_EQ(Write(change == Set ? kActive : kOther), call("WritePwrScheme").line);
-        EXPECT_EQ(Activate(kOther), call("SetActivePwrScheme").line);
-    }
+    ChangedPlatform changed;
+    changed.After<&Power::WritePwrScheme>([](auto, UINT* scheme, auto, auto, auto) { *scheme = kOther; });
+    EXPECT_EQ(0, manager().SetPowerScheme());
+    EXPECT_EQ(Write(kActive), call("WritePwrScheme", 1).line);
+    EXPECT_EQ(Activate(kOther), call("SetActivePwrScheme", 1).line);
+    EXPECT_EQ(0, manager().ResetPowerScheme());
+    EXPECT_EQ(Write(kOther), call("WritePwrScheme", 2).line);
+    EXPECT_EQ(Activate(kOther), call("SetActivePwrScheme", 2).line);
 }
 
-TEST_F(LegacyPowerSchemeTest, EveryWayForTheSwitchToFail)
+TEST_F(LegacyPowerSchemeTest, WhatWasReadIsSavedEvenIfTheSwitchFails)
 {
-    CheckFailures(*this, {
-                             {"SetPowerScheme", Set, "IsPwrSuspendAllowed", -1},
-                             {"SetPowerScheme", Set, "GetActivePwrScheme", -2},
-                             {"SetPowerScheme", Set, "ReadPwrScheme", -3},
-                             {"SetPowerScheme", Set, "WritePwrScheme", -4},
-                             {"SetPowerScheme", Set, "SetActivePwrScheme", -5},
-                         });
+    FailOn("WritePwrScheme");
+    EXPECT_EQ(-4, manager().SetPowerScheme());
+    EXPECT_EQ(1800u, Saved().user.IdleTimeoutAc);
+    ExpectIdleTimeouts(kActive, 1800, 600);
+    EXPECT_EQ(-3, manager().ResetPowerScheme());
+    EXPECT_EQ(1800u, Saved().user.IdleTimeoutAc);
 }
 
-TEST_F(LegacyPowerSchemeTest, AFailureEndsTheSwitch)
+TEST_F(LegacyPowerSchemeTest, NothingIsSavedUnlessItWasRead)
 {
-    struct
-    {
-        const char* operation;
-        std::size_t callsMade;
-        bool saved;
-        ULONG idleTimeout;
-    } const rows[] = {{"IsPwrSuspendAllowed", 1, false, 1800},
-                      {"GetActivePwrScheme", 2, false, 1800},
-                      {"ReadPwrScheme", 3, false, 1800},
-                      {"WritePwrScheme", 4, true, 1800},
-                      {"SetActivePwrScheme", 5, true, 0}};
-    for (const auto& row : rows)
-    {
-        SCOPED_TRACE(row.operation);
-        Restart();
-        FailOn(row.operation);
-        EXPECT_GT(0, manager().SetPowerScheme());
-        EXPECT_EQ(1u, InjectedFailures());
-        EXPECT_EQ(row.callsMade, calls().size());
-        EXPECT_EQ(row.saved, !IsZero(Saved()));
-        EXPECT_EQ(row.saved ? 1800u : 0u, Saved().user.IdleTimeoutAc) << "what is saved is what was read";
-        EXPECT_EQ(row.idleTimeout, PolicyOf(kActive).user.IdleTimeoutAc);
-        ExpectSilence();
-    }
+    FailOn("ReadPwrScheme");
+    EXPECT_EQ(-3, manager().SetPowerScheme());
+    EXPECT_TRUE(IsZero(Saved()));
 }
 
 TEST_F(LegacyPowerSchemeTest, AComputerThatCannotBeSuspendedIsLeftAlone)
@@ -215,46 +184,12 @@ TEST_F(LegacyPowerSchemeTest, TheRememberedPolicyComesBack)
     ExpectIdleTimeouts(kActive, 1800, 600);
 }
 
-TEST_F(LegacyPowerSchemeTest, EveryWayForTheReturnToFail)
-{
-    CheckFailures(*this, {
-                             {"ResetPowerScheme", Reset, "IsPwrSuspendAllowed", -1},
-                             {"ResetPowerScheme", Reset, "GetActivePwrScheme", -2},
-                             {"ResetPowerScheme", Reset, "WritePwrScheme", -3},
-                             {"ResetPowerScheme", Reset, "SetActivePwrScheme", -4},
-                         });
-}
-
-TEST_F(LegacyPowerSchemeTest, AFailureEndsTheReturnAndKeepsWhatIsRemembered)
-{
-    struct
-    {
-        const char* operation;
-        std::size_t callsMade;
-    } const rows[] = {
-        {"IsPwrSuspendAllowed", 1}, {"GetActivePwrScheme", 2}, {"WritePwrScheme", 3}, {"SetActivePwrScheme", 4}};
-    for (const auto& row : rows)
-    {
-        SCOPED_TRACE(row.operation);
-        Restart();
-        ASSERT_EQ(0, manager().SetPowerScheme());
-        const POWER_POLICY remembered = Saved();
-        ClearCalls();
-        FailOn(row.operation);
-        EXPECT_GT(0, manager().ResetPowerScheme());
-        EXPECT_EQ(row.callsMade, calls().size());
-        EXPECT_TRUE(Same(remembered, Saved()));
-        ExpectSilence();
-    }
-}
-
 // Deliberate: what was never saved is written all the same.
 TEST_F(LegacyPowerSchemeTest, WithoutASaveAPolicyOfZerosIsWritten)
 {
     std::vector<POWER_POLICY> seen;
-    WatchedComputer watched;
-    watched.watchedPower.written = [&seen](UINT, const POWER_POLICY& policy) { seen.push_back(policy); };
-    watched.watchedPower.activated = watched.watchedPower.written;
+    ChangedPlatform changed;
+    SeePolicies(changed, seen);
     EXPECT_EQ(0, manager().ResetPowerScheme());
     ASSERT_EQ(2u, seen.size());
     EXPECT_TRUE(IsZero(seen[0]));

@@ -1,5 +1,5 @@
-#include "unit/system/system_test.h"
-#include "unit/system/watched_computer.h"
+#include "support/changed_platform.h"
+#include "support/library_test.h"
 
 #include <algorithm>
 
@@ -9,7 +9,6 @@ namespace
 {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 /// STATUS_ACCESS_DENIED, as the methods and the fault injection have it.
 constexpr DWORD kDenied = 0xC0000022;
@@ -21,7 +20,7 @@ std::string Query(const std::string& level, const std::string& record)
            record + "))";
 }
 
-class PowerFactsTest : public SystemTest
+class PowerFactsTest : public LibraryTest
 {
 public:
     void UsePower(const simulation::PowerDescription& power)
@@ -47,18 +46,16 @@ struct Question
     std::function<long long(CWirelessManage&)> ask;
     std::string line;
     std::string succeeded;
-    std::string failed;
 };
 
 std::vector<Question> Questions()
 {
     return {{"IsSurpportAoAc", [](CWirelessManage& m) -> long long { return m.IsSurpportAoAc(); },
-             Query("SystemPowerCapabilities", "SYSTEM_POWER_CAPABILITIES"), "SYSTEM_POWER_CAPABILITIES succeed",
-             "SYSTEM_POWER_CAPABILITIES fail"},
+             Query("SystemPowerCapabilities", "SYSTEM_POWER_CAPABILITIES"), "SYSTEM_POWER_CAPABILITIES succeed"},
             {"GetLastWakeTime", [](CWirelessManage& m) { return static_cast<long long>(m.GetLastWakeTime()); },
-             Query("LastWakeTime", "ULONGLONG"), "GetLastWakeTime succeed", "GetLastWakeTime fail"},
+             Query("LastWakeTime", "ULONGLONG"), "GetLastWakeTime succeed"},
             {"GetLastSleepTime", [](CWirelessManage& m) { return static_cast<long long>(m.GetLastSleepTime()); },
-             Query("LastSleepTime", "ULONGLONG"), "GetLastSleepTime succeed", "GetLastSleepTime fail"}};
+             Query("LastSleepTime", "ULONGLONG"), "GetLastSleepTime succeed"}};
 }
 
 simulation::PowerDescription SleptOnce()
@@ -83,43 +80,17 @@ TEST_F(PowerFactsTest, EachAsksOnceAndTracesItsSuccess)
     }
 }
 
-TEST_F(PowerFactsTest, AFailureGivesZeroAndItsTrace)
-{
-    for (const Question& question : Questions())
-    {
-        SCOPED_TRACE(question.method);
-        UsePower(SleptOnce());
-        FailOn("CallNtPowerInformation", kDenied);
-        EXPECT_EQ(0, question.ask(manager()));
-        EXPECT_EQ(1u, InjectedFailures());
-        EXPECT_THAT(callLines(), ElementsAre(question.line));
-        ExpectTraced({question.failed});
-    }
-}
-
-TEST_F(PowerFactsTest, TheLineIsFormattedWithTracingOffToo)
-{
-    SetTracing(false);
-    for (const Question& question : Questions())
-    {
-        ClearCalls();
-        question.ask(manager());
-        EXPECT_THAT(traced(), IsEmpty());
-        EXPECT_EQ(question.succeeded, sharedTrace());
-    }
-}
-
 TEST_F(PowerFactsTest, WhatIsAskedForBeginsAsZero)
 {
     unsigned seen = 0;
-    WatchedComputer watched;
-    watched.watchedPower.queried = [&seen](PVOID output, ULONG size) -> NTSTATUS
-    {
-        const auto* const bytes = static_cast<const unsigned char*>(output);
-        EXPECT_TRUE(std::all_of(bytes, bytes + size, [](unsigned char byte) { return byte == 0; }));
-        ++seen;
-        return 0;
-    };
+    ChangedPlatform changed;
+    changed.Before<&Power::CallNtPowerInformation>(
+        [&seen](auto, auto, auto, PVOID output, ULONG size)
+        {
+            const auto* const bytes = static_cast<const unsigned char*>(output);
+            EXPECT_TRUE(std::all_of(bytes, bytes + size, [](unsigned char byte) { return byte == 0; }));
+            ++seen;
+        });
     for (const Question& question : Questions())
         question.ask(manager());
     manager().GetSystemPowerPolicy();
@@ -212,29 +183,6 @@ TEST_F(PowerFactsTest, TheAnswerAboutHibernationIsWhetherTheComputerWokeByItself
                                                 "IsPwrSuspendAllowed()", "IsSystemResumeAutomatic()"));
             ExpectSilence();
         }
-    }
-}
-
-TEST_F(PowerFactsTest, OnlyTheLastOfItsQuestionsMatters)
-{
-    struct
-    {
-        const char* operation;
-        bool expected;
-    } const rows[] = {{"IsPwrHibernateAllowed", true},
-                      {"IsPwrShutdownAllowed", true},
-                      {"IsPwrSuspendAllowed", true},
-                      {"IsSystemResumeAutomatic", false}};
-    for (const auto& row : rows)
-    {
-        simulation::PowerDescription power = SleptOnce();
-        power.resumesAutomatically = true;
-        UsePower(power);
-        FailOn(row.operation);
-        EXPECT_EQ(row.expected, manager().IsPowerHibernateAllowed() != 0) << row.operation;
-        EXPECT_EQ(1u, InjectedFailures());
-        EXPECT_EQ(4u, calls().size());
-        ExpectSilence();
     }
 }
 

@@ -1,5 +1,5 @@
-#include "unit/system/system_test.h"
-#include "unit/system/watched_computer.h"
+#include "support/changed_platform.h"
+#include "support/library_test.h"
 
 #include <cstring>
 
@@ -36,10 +36,10 @@ simulation::Scenario UnlistedSchemes()
     return world;
 }
 
-class PowerSavingSchemeTest : public SystemTest
+class PowerSavingSchemeTest : public LibraryTest
 {
 public:
-    PowerSavingSchemeTest() : SystemTest(UnlistedSchemes()) {}
+    PowerSavingSchemeTest() : LibraryTest(UnlistedSchemes()) {}
 
     std::vector<simulation::PowerScheme> Schemes() { return computer().Snapshot().power.schemes; }
 
@@ -96,13 +96,14 @@ TEST_F(PowerSavingSchemeTest, TheNameIsHandedOverInEightBitCharacters)
 {
     constexpr char name[260] = "Super energy-saving";
     int seen = 0;
-    WatchedComputer watched;
-    watched.watchedPower.named = [&](const UCHAR* buffer, DWORD size)
-    {
-        ASSERT_EQ(sizeof(name), size);
-        EXPECT_EQ(0, std::memcmp(name, buffer, sizeof(name)));
-        ++seen;
-    };
+    ChangedPlatform changed;
+    changed.Before<&Power::PowerWriteFriendlyName>(
+        [&](auto, auto, auto, auto, const UCHAR* buffer, DWORD size)
+        {
+            ASSERT_EQ(sizeof(name), size);
+            EXPECT_EQ(0, std::memcmp(name, buffer, sizeof(name)));
+            ++seen;
+        });
     ASSERT_EQ(0, manager().GetPowerScheme());
     EXPECT_EQ(1, seen);
     EXPECT_EQ("260", call("PowerWriteFriendlyName")["bufferSize"]);
@@ -115,12 +116,13 @@ TEST_F(PowerSavingSchemeTest, TheNameIsHandedOverInEightBitCharacters)
 TEST_F(PowerSavingSchemeTest, ThePlatformChoosesTheGuidOfTheCopy)
 {
     int seen = 0;
-    WatchedComputer watched;
-    watched.watchedPower.duplicated = [&seen](const GUID* preset)
-    {
-        EXPECT_EQ(nullptr, preset);
-        ++seen;
-    };
+    ChangedPlatform changed;
+    changed.Before<&Power::PowerDuplicateScheme>(
+        [&seen](auto, auto, GUID** preset)
+        {
+            EXPECT_EQ(nullptr, *preset);
+            ++seen;
+        });
     ASSERT_EQ(0, manager().GetPowerScheme());
     EXPECT_EQ(1, seen);
 }
@@ -137,39 +139,29 @@ TEST_F(PowerSavingSchemeTest, EveryCallMakesAnotherScheme)
 
 // --- failures ---
 
-TEST_F(PowerSavingSchemeTest, EveryWayToFail)
+TEST_F(PowerSavingSchemeTest, AFailureReleasesBothGuidsAndLeavesTheActiveScheme)
 {
-    struct
+    for (const char* operation : {"PowerWriteFriendlyName", "PowerWriteACValueIndex", "PowerSetActiveScheme"})
     {
-        const char* operation;
-        unsigned fromCall;
-        long expected;
-        std::vector<std::string> released; ///< the last calls, of LocalFree
-        std::size_t schemes;               ///< in the store afterwards
-    } const rows[] = {
-        {"PowerGetActiveScheme", 1, -1, {"null"}, 2},
-        {"PowerDuplicateScheme", 1, -2, {"null", "non-null"}, 2},
-        {"PowerWriteFriendlyName", 1, -3, {"non-null", "non-null"}, 3},
-        {"PowerWriteACValueIndex", 1, -4, {"non-null", "non-null"}, 3},
-        {"PowerWriteACValueIndex", 2, -4, {"non-null", "non-null"}, 3},
-        {"PowerSetActiveScheme", 1, -5, {"non-null", "non-null"}, 3},
-    };
-    for (const auto& row : rows)
-    {
-        SCOPED_TRACE(std::string(row.operation) + " from call " + std::to_string(row.fromCall));
+        SCOPED_TRACE(operation);
         Restart();
-        FailOn(row.operation, 5, row.fromCall);
-        EXPECT_EQ(row.expected, manager().GetPowerScheme());
-        EXPECT_EQ(1u, InjectedFailures());
-        std::vector<std::string> released;
-        for (std::size_t i = 1; i <= callCount("LocalFree"); ++i)
-            released.emplace_back(call("LocalFree", i)["memory"]);
-        EXPECT_THAT(released, ::testing::UnorderedElementsAreArray(row.released));
-        EXPECT_EQ(row.operation, calls()[calls().size() - released.size() - 1]) << "nothing comes after the failure";
+        FailOn(operation);
+        EXPECT_GT(0, manager().GetPowerScheme());
+        EXPECT_EQ(2u, callCount("LocalFree"));
+        EXPECT_EQ("non-null", call("LocalFree", 1)["memory"]);
+        EXPECT_EQ("non-null", call("LocalFree", 2)["memory"]);
         EXPECT_EQ(kSaver, computer().Snapshot().power.activeScheme);
-        EXPECT_EQ(row.schemes, Schemes().size());
-        ExpectSilence();
+        EXPECT_EQ(3u, Schemes().size()) << "the copy stays";
     }
+}
+
+TEST_F(PowerSavingSchemeTest, ACopyThatIsNotMadeIsReleasedAsNull)
+{
+    FailOn("PowerDuplicateScheme");
+    EXPECT_EQ(-2, manager().GetPowerScheme());
+    EXPECT_EQ(2u, callCount("LocalFree"));
+    EXPECT_EQ("null", call("LocalFree", 1)["memory"]);
+    EXPECT_EQ("non-null", call("LocalFree", 2)["memory"]);
 }
 
 TEST_F(PowerSavingSchemeTest, AComputerWithoutAnActiveSchemeHasNothingToCopy)

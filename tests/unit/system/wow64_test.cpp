@@ -1,5 +1,5 @@
-#include "unit/system/system_test.h"
-#include "unit/system/watched_computer.h"
+#include "support/changed_platform.h"
+#include "support/library_test.h"
 
 namespace calvix::test::wow64_test
 {
@@ -8,7 +8,7 @@ namespace
 
 using ::testing::ElementsAre;
 
-class Wow64Test : public SystemTest
+class Wow64Test : public LibraryTest
 {
 public:
     void UseAnswer(std::optional<bool> wow64)
@@ -40,16 +40,6 @@ TEST_F(Wow64Test, APlatformWithoutTheFunctionHasNoEmulation)
     ExpectSilence();
 }
 
-TEST_F(Wow64Test, AFunctionThatIsNotFoundIsNotCalled)
-{
-    UseAnswer(true);
-    FailOn("GetProcAddress", 127);
-    EXPECT_EQ(0, manager().IsWow64());
-    EXPECT_EQ(1u, InjectedFailures());
-    EXPECT_EQ(0u, callCount("GetCurrentProcess"));
-    ExpectSilence();
-}
-
 TEST_F(Wow64Test, AModuleThatIsNotFoundIsPassedOn)
 {
     UseAnswer(true);
@@ -76,16 +66,18 @@ BOOL WINAPI FailsWithAnAnswer(HANDLE, BOOL* answer)
     return FALSE;
 }
 
-FARPROC AsProcedure(BOOL(WINAPI* function)(HANDLE, BOOL*))
+/// Has the platform find this function.
+void AnswerWith(ChangedPlatform& changed, BOOL(WINAPI* function)(HANDLE, BOOL*))
 {
-    return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function));
+    changed.Instead<&Processes::GetProcAddress>(
+        [function](auto...) { return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function)); });
 }
 
 TEST_F(Wow64Test, TheFlagBeginsAsZero)
 {
     g_preset = -1;
-    WatchedComputer watched;
-    watched.watchedProcesses.procedure = AsProcedure(&FailsWithoutAnAnswer);
+    ChangedPlatform changed;
+    AnswerWith(changed, FailsWithoutAnAnswer);
     EXPECT_EQ(0, manager().IsWow64());
     EXPECT_EQ(0, g_preset);
     EXPECT_EQ(computer().processes().GetCurrentProcess(), g_asked);
@@ -94,8 +86,8 @@ TEST_F(Wow64Test, TheFlagBeginsAsZero)
 // Deliberate: whether the call succeeded is not looked at.
 TEST_F(Wow64Test, TheFlagComesOutAsItIs)
 {
-    WatchedComputer watched;
-    watched.watchedProcesses.procedure = AsProcedure(&FailsWithAnAnswer);
+    ChangedPlatform changed;
+    AnswerWith(changed, FailsWithAnAnswer);
     EXPECT_EQ(7, manager().IsWow64());
 }
 
