@@ -6,7 +6,7 @@
 #include "host/service_view.h"
 #include "import/captured_air.h"
 #include "import/made_profile.h"
-#include "import/netsh_interfaces.h"
+#include "import/read_capture.h"
 #include "output/text_forms.h"
 #include "simulation/profile_document.h"
 #include "simulation/reason_texts.h"

@@ -19,17 +19,13 @@ bool MeansUnavailable(std::uint32_t error)
            error == ERROR_SERVICE_DOES_NOT_EXIST || error == ERROR_MOD_NOT_FOUND;
 }
 
-std::string RefusalText(const std::string& operation, std::uint32_t error, bool bySystem = false)
-{
-    return (bySystem ? "the system refused " : "the WLAN service refused ") + operation + " (" +
-           DescribePlatformError(error) + ")";
-}
-
 void AddRefusal(FailureReport& report, const Refusal& refusal)
 {
     report.operation = refusal.operation;
     report.platformError = refusal.error;
-    report.message += ": " + RefusalText(refusal.operation, refusal.error, refusal.bySystem);
+    report.message += (report.message.empty() ? "" : ": ") +
+                      std::string(refusal.bySystem ? "the system" : "the WLAN service") + " refused " +
+                      refusal.operation + " (" + DescribePlatformError(refusal.error) + ")";
     if (refusal.reasonCode != 0)
     {
         report.reasonCode = static_cast<std::uint32_t>(refusal.reasonCode);
@@ -92,12 +88,7 @@ Failure MethodFailureInWords(const char* method, long code, const Refusal& refus
 Failure ServiceFailure(const char* operation, std::uint32_t error)
 {
     FailureReport report;
-    report.operation = operation;
-    report.platformError = error;
-    report.message = RefusalText(operation, error);
-    report.advice = AdviseOnPlatformError(error, operation);
-    if (MeansUnavailable(error))
-        report.exitCode = ExitCode::unavailable;
+    AddRefusal(report, {operation, error});
     return Failure(report);
 }
 

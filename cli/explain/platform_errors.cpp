@@ -63,7 +63,6 @@ constexpr PlatformError kErrors[] = {
     {1220, "too many open handles",
      "a program opens client handles of the WLAN service and never closes them: end it, or restart the service"},
     {1223, "cancelled", "try again"},
-    {1314, "a required privilege is not held", "run as administrator"},
     {1460, "timed out", "try again; check that the adapter answers"},
     {1630, "unsupported type", ""},
     {5023, "not in the right state for this", "connect first"},
@@ -116,24 +115,30 @@ std::string NumberText(std::uint32_t number)
 
 constexpr const char* kOfThisSession =
     "run as administrator, or in the session of a signed-in user: this account may not ask the WLAN service";
+constexpr const char* kAsAdministrator = "run as administrator";
+constexpr const char* kChangeProfile = "run as administrator, or get the right to change this profile";
 
-/// These operations reveal the location of the computer.
-bool TellsTheLocation(std::string_view operation)
+struct DeniedOperation
 {
-    return operation == "WlanScan" || operation == "WlanGetAvailableNetworkList" ||
-           operation == "WlanGetNetworkBssList" || operation == "WlanQueryInterface";
-}
+    std::string_view name;
+    const char* advice;
+};
 
-/// Operations that change what is stored need rights.
-bool ChangesTheStore(std::string_view operation)
-{
-    return operation == "WlanSetProfile" || operation == "WlanDeleteProfile" || operation == "WlanSetProfilePosition";
-}
-
-bool SetsWhatIsGuarded(std::string_view operation)
-{
-    return operation == "WlanSetInterface" || operation == "WlanSetSecuritySettings";
-}
+/// Operations that are denied for other reasons than the account.
+constexpr DeniedOperation kDenied[] = {
+    {"WlanScan", kAllowLocation},
+    {"WlanGetAvailableNetworkList", kAllowLocation},
+    {"WlanGetNetworkBssList", kAllowLocation},
+    {"WlanQueryInterface", kAllowLocation},
+    {"WlanSetProfile", kChangeProfile},
+    {"WlanDeleteProfile", kChangeProfile},
+    {"WlanSetProfilePosition", kChangeProfile},
+    {"WlanGetProfile", kOfAnotherUser},
+    {"WlanConnect", kOfAnotherUser},
+    {"WlanIhvControl", "run as administrator, or let ordinary users send requests to drivers: calvix ihv --grant"},
+    {"WlanSetInterface", kAsAdministrator},
+    {"WlanSetSecuritySettings", kAsAdministrator},
+};
 
 } // namespace
 
@@ -146,16 +151,13 @@ std::string DescribePlatformError(std::uint32_t error)
 std::string AdviseOnPlatformError(std::uint32_t error, const std::string& operation)
 {
     constexpr std::uint32_t accessDenied = 5;
-    if (error == accessDenied && ChangesTheStore(operation))
-        return "run as administrator, or get the right to change this profile";
-    if (error == accessDenied && (operation == "WlanGetProfile" || operation == "WlanConnect"))
-        return kOfAnotherUser;
-    if (error == accessDenied && operation == "WlanIhvControl")
-        return "run as administrator, or let ordinary users send requests to drivers: calvix ihv --grant";
-    if (error == accessDenied && SetsWhatIsGuarded(operation))
-        return "run as administrator";
     if (error == accessDenied && !operation.empty())
-        return TellsTheLocation(operation) ? kAllowLocation : kOfThisSession;
+    {
+        const auto* const denied =
+            std::find_if(std::begin(kDenied), std::end(kDenied),
+                         [&operation](const DeniedOperation& each) { return each.name == operation; });
+        return denied != std::end(kDenied) ? denied->advice : kOfThisSession;
+    }
     const PlatformError* const known = Find(error);
     return known != nullptr ? known->advice : "";
 }

@@ -8,16 +8,6 @@
 namespace calvix::host
 {
 
-namespace
-{
-
-char LowerCase(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-} // namespace
-
 std::string_view Trim(std::string_view text)
 {
     // The last ones are those of French and East Asian texts (no-break, narrow no-break, figure and ideographic), and a mark.
@@ -48,12 +38,6 @@ std::vector<std::string_view> LinesOf(std::string_view text)
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     }
     return lines;
-}
-
-bool SameWord(std::string_view one, std::string_view other)
-{
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                      [](char a, char b) { return LowerCase(a) == LowerCase(b); });
 }
 
 bool HasWord(std::string_view text, std::string_view word)

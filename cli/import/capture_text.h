@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/text_encoding.h"
+#include "simulation/ascii_case.h"
 
 #include <cstddef>
 #include <string>
@@ -19,6 +20,13 @@ struct CaptureWarnings
     void Warn(std::size_t line, const std::string& what)
     {
         warnings.push_back(source + ":" + std::to_string(line) + ": " + what);
+    }
+
+    /// Throws CaptureError, with the first warning if there is any, unless something could be used.
+    void RefuseUnless(bool isUseful) const
+    {
+        if (!isUseful && !warnings.empty())
+            throw CaptureError(warnings.front());
     }
 
     /// Runs `read`. What it complains of costs no more than the `loss`, which the warning names.
@@ -42,8 +50,7 @@ std::string_view Trim(std::string_view text);
 /// The lines of a text, without their ends.
 std::vector<std::string_view> LinesOf(std::string_view text);
 
-/// Compares without regard to the case of ASCII letters.
-bool SameWord(std::string_view one, std::string_view other);
+using simulation::SameButForCase;
 
 /// Whether the words of a text, set apart by blanks, include this one.
 bool HasWord(std::string_view text, std::string_view word);

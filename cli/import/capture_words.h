@@ -9,6 +9,9 @@
 namespace calvix::host
 {
 
+/// capture_words.txt, which the build compiles in: what the words of each language mean.
+extern const char* const kCaptureWords;
+
 /// Words that the user explains: as the capture has them, and what they mean.
 using ExplainedWords = std::vector<std::pair<std::string, std::string>>;
 

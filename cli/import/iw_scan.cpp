@@ -1,7 +1,7 @@
-#include "import/iw_scan.h"
-
 #include "forms/address_text.h"
 #include "forms/hex_text.h"
+#include "import/capture_values.h"
+#include "import/read_capture.h"
 
 #include <algorithm>
 #include <charconv>
@@ -223,15 +223,14 @@ private:
 
     void Ssid(std::string_view value, std::size_t number)
     {
-        const std::string bytes = Unescape(value);
+        const simulation::Bytes bytes = host::Ssid(Unescape(value), number);
         simulation::AccessPoint& accessPoint = m_found.back().accessPoint;
-        if (bytes.size() > 32)
-            throw LineError(number, "this SSID is longer than 32 bytes");
         // A beacon that hides its name has none, or zeros in its place; the probe response may have it all the same.
-        if (!accessPoint.hidden || bytes.find_first_not_of('\0') == std::string::npos)
+        const bool isName = std::any_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte != 0; });
+        if (!accessPoint.hidden || !isName)
             return;
         accessPoint.hidden = false;
-        accessPoint.ssid.assign(bytes.begin(), bytes.end());
+        accessPoint.ssid = bytes;
     }
 
     /// " * Pairwise ciphers: CCMP TKIP"
@@ -278,43 +277,17 @@ private:
 
 } // namespace
 
-bool LooksLikeIwScan(std::string_view text)
+bool ReadIwScan(std::string_view text, NetworksCapture& capture)
 {
     const std::vector<std::string_view> lines = LinesOf(text);
-    return std::any_of(lines.begin(), lines.end(), [](std::string_view line) { return StartOf(line).has_value(); });
-}
-
-NetworksCapture ParseIwScan(std::string_view text, const std::string& source)
-{
-    NetworksCapture capture;
-    capture.source = source;
+    if (std::none_of(lines.begin(), lines.end(), [](std::string_view line) { return StartOf(line).has_value(); }))
+        return false;
     IwReader reader(capture);
-    const std::vector<std::string_view> lines = LinesOf(text);
     for (std::size_t i = 0; i < lines.size(); ++i)
         reader.ReadLine(lines[i], i + 1);
     reader.Finish();
-    capture.RefuseUseless();
-    return capture;
-}
-
-std::uint32_t OldPhyType(std::uint32_t frequencyKhz, int highestRate)
-{
-    constexpr std::uint32_t kOfdm = 4;
-    constexpr std::uint32_t kDsssAtHighRate = 5;
-    constexpr std::uint32_t kErp = 6;
-    constexpr std::uint32_t kDmg = 9;
-    if (frequencyKhz >= 45000000)
-        return kDmg;
-    if (frequencyKhz >= 3000000)
-        return kOfdm;
-    return highestRate > 11 ? kErp : kDsssAtHighRate;
-}
-
-std::uint32_t FrequencyFromMegahertz(std::string_view text)
-{
-    // Newer versions of iw print a fraction, which is zero for every channel of these bands.
-    const int megahertz = WholeNumber(text.substr(0, text.find_first_of(". ")));
-    return megahertz >= 2400 && megahertz <= 71000 ? static_cast<std::uint32_t>(megahertz) * 1000 : 0;
+    capture.RefuseUnless(!capture.accessPoints.empty());
+    return true;
 }
 
 } // namespace calvix::host

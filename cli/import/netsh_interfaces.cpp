@@ -1,9 +1,8 @@
-#include "import/netsh_interfaces.h"
-
 #include "forms/hex_text.h"
 #include "import/capture_encoding.h"
+#include "import/capture_values.h"
 #include "import/netsh_lines.h"
-#include "import/netsh_values.h"
+#include "import/read_capture.h"
 
 #include <algorithm>
 
@@ -40,7 +39,7 @@ bool BeginsAdapter(CaptureFields fields, std::size_t index)
     const CaptureField& name = fields[index];
     const bool isAboveGuid = index + 2 < fields.size() && fields[index + 1].hasColon && IsGuid(fields[index + 2].value);
     return name.hasColon && !name.value.empty() &&
-           (SameWord(name.name, "Name") || (name.beginsParagraph && isAboveGuid));
+           (SameButForCase(name.name, "Name") || (name.beginsParagraph && isAboveGuid));
 }
 
 /// Sets the keys of one adapter's lines, from its name on.
@@ -240,7 +239,7 @@ CapturedConnection ReadConnection(const CaptureRecord& record, const Vocabulary&
     // Newer systems call it "AP BSSID".
     const CaptureField* bssid = record.Find("AP BSSID");
     accessPoint.bssid = Address(bssid != nullptr ? *bssid : record.Need("BSSID"));
-    accessPoint.ssid = Ssid(ssid);
+    accessPoint.ssid = Ssid(ssid.value, ssid.line);
     accessPoint.bssType = BssType(record.Need("Network type"), vocabulary);
     ReadSecurity(record.Need("Authentication"), record.Need("Cipher"), vocabulary, accessPoint);
     Hear(record, accessPoint);
@@ -259,8 +258,9 @@ bool HasConnection(const CaptureRecord& record)
     constexpr std::string_view kOthers[] = {"disconnected", "associating",    "disconnecting",
                                             "discovering",  "authenticating", "not ready"};
     const CaptureField* state = record.Find("State");
-    const bool isOther = state != nullptr && std::any_of(std::begin(kOthers), std::end(kOthers),
-                                                         [&](auto& each) { return SameWord(state->value, each); });
+    const bool isOther =
+        state != nullptr && std::any_of(std::begin(kOthers), std::end(kOthers),
+                                        [&](auto& each) { return SameButForCase(state->value, each); });
     return !isOther &&
            (record.Find("SSID") != nullptr || record.Find("BSSID") != nullptr || record.Find("AP BSSID") != nullptr);
 }
@@ -338,6 +338,17 @@ private:
     InterfacesCapture& m_capture;
 };
 
+/// A GUID and, in the next line, an address: no language has that otherwise.
+bool LooksLikeInterfaces(CaptureFields fields)
+{
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        if (fields[i].name == kNoAdapter || SameButForCase(fields[i].name, "Physical address") ||
+            (fields[i].hasColon && SameButForCase(fields[i].name, "GUID")) ||
+            (IsGuid(fields[i].value) && i + 1 < fields.size() && IsAddress(fields[i + 1].value)))
+            return true;
+    return false;
+}
+
 } // namespace
 
 CapturedInterface MadeUpInterface(const std::string& name, std::size_t index)
@@ -351,28 +362,15 @@ CapturedInterface MadeUpInterface(const std::string& name, std::size_t index)
     return madeUp;
 }
 
-/// A GUID and, in the next line, an address: no language has that otherwise.
-bool LooksLikeInterfaces(std::string_view text)
+bool ReadNetshInterfaces(std::string_view text, const ExplainedWords& explained, InterfacesCapture& capture)
 {
-    const std::vector<CaptureField> fields = ReadFields(text);
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        if (fields[i].name == kNoAdapter || SameWord(fields[i].name, "Physical address") ||
-            (fields[i].hasColon && SameWord(fields[i].name, "GUID")) ||
-            (IsGuid(fields[i].value) && i + 1 < fields.size() && IsAddress(fields[i + 1].value)))
-            return true;
-    return false;
-}
-
-InterfacesCapture ParseInterfaces(std::string_view text, const std::string& source, const ExplainedWords& explained)
-{
-    InterfacesCapture capture;
-    capture.source = source;
     std::vector<CaptureField> fields = ReadFields(text);
+    if (!LooksLikeInterfaces(fields))
+        return false;
     JoinBrokenDescriptions(fields);
     InterfacesReader(fields, explained, capture).Read();
-    if (capture.adapters.empty() && !capture.warnings.empty())
-        throw CaptureError(capture.warnings.front());
-    return capture;
+    capture.RefuseUnless(!capture.adapters.empty());
+    return true;
 }
 
 } // namespace calvix::host

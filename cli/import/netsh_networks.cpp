@@ -1,8 +1,7 @@
-#include "import/netsh_networks.h"
-
 #include "import/capture_encoding.h"
+#include "import/capture_values.h"
 #include "import/netsh_lines.h"
-#include "import/netsh_values.h"
+#include "import/read_capture.h"
 
 #include <algorithm>
 
@@ -81,7 +80,7 @@ private:
 
     bool NamesAdapter(const CaptureField& field) const
     {
-        return field.hasColon && (SameWord(field.name, "Interface name") || field.name == m_adapterLabel);
+        return field.hasColon && (SameButForCase(field.name, "Interface name") || field.name == m_adapterLabel);
     }
 
     std::size_t SectionEnd(std::size_t at) const
@@ -135,7 +134,7 @@ private:
         if (!start.hasColon)
             throw LineError(start.line, "\"" + start.name + "\" has no value");
         m_common = {};
-        m_common.ssid = Ssid(start);
+        m_common.ssid = Ssid(start.value, start.line);
         m_common.hidden = m_common.ssid.empty();
         m_common.bssType = 1;
         record.WarnOfTwice(m_capture);
@@ -242,31 +241,18 @@ void NetworksCapture::AddConnection(const simulation::AccessPoint& accessPoint)
         connections.push_back({ssid, ssid, true, accessPoint, 0, 0});
 }
 
-void NetworksCapture::RefuseUseless() const
+bool ReadNetshNetworks(std::string_view text, const ExplainedWords& explained, NetworksCapture& capture)
 {
-    if (accessPoints.empty() && !warnings.empty())
-        throw CaptureError(warnings.front());
-}
-
-bool LooksLikeNetworks(std::string_view text)
-{
-    const std::vector<CaptureField> fields = ReadFields(text);
+    std::vector<CaptureField> fields = ReadFields(text);
     const bool hasNone = fields.size() == 2 && fields[0].hasColon && !fields[0].value.empty() &&
                          FirstNumber(fields[1].Text()) == 0 && fields[1].value.size() <= 2;
-    return hasNone || std::any_of(fields.begin(), fields.end(),
-                                  [](const CaptureField& field) {
-                                      return BeginsEither(field) || field.name.ends_with("networks currently visible.");
-                                  });
-}
-
-NetworksCapture ParseNetworks(std::string_view text, const std::string& source, const ExplainedWords& explained)
-{
-    NetworksCapture capture;
-    capture.source = source;
-    std::vector<CaptureField> fields = ReadFields(text);
-    ReadingFrom(source, [&] { NetworksReader(fields, explained, capture).Read(); });
-    capture.RefuseUseless();
-    return capture;
+    const auto belongsToList = [](const CaptureField& field)
+    { return BeginsEither(field) || field.name.ends_with("networks currently visible."); };
+    if (!hasNone && std::none_of(fields.begin(), fields.end(), belongsToList))
+        return false;
+    NetworksReader(fields, explained, capture).Read();
+    capture.RefuseUnless(!capture.accessPoints.empty());
+    return true;
 }
 
 } // namespace calvix::host

@@ -1,11 +1,9 @@
-#include "import/nmcli_list.h"
-
 #include "forms/address_text.h"
 #include "forms/hex_text.h"
 #include "forms/utf8.h"
 #include "import/capture_encoding.h"
-#include "import/iw_scan.h"
-#include "import/netsh_values.h"
+#include "import/capture_values.h"
+#include "import/read_capture.h"
 #include "output/text_forms.h"
 
 #include <algorithm>
@@ -218,7 +216,7 @@ private:
         accessPoint.phyType = PhyTypeOf(row, accessPoint.frequencyKhz);
         accessPoint.ssid = Ssid(row);
         accessPoint.hidden = accessPoint.ssid.empty();
-        accessPoint.bssType = SameWord(Cell(row, "MODE").substr(0, 2), "ad") ? 2 : 1;
+        accessPoint.bssType = SameButForCase(Cell(row, "MODE").substr(0, 2), "ad") ? 2 : 1;
         SetSecurity(row, accessPoint);
         m_capture.accessPoints.push_back(accessPoint);
         m_capture.AddAdapterName(Cell(row, "DEVICE"));
@@ -254,15 +252,11 @@ private:
     simulation::Bytes Ssid(const ValueRow& row)
     {
         const std::string name = Cell(row, "SSID") == "--" ? "" : Cell(row, "SSID");
-        auto bytes = forms::BytesFromHex(Cell(row, "SSID-HEX")).value_or(simulation::Bytes());
-        if (bytes.empty())
-        {
-            bytes.assign(name.begin(), name.end());
-            WarnOfMisread(name, row.line, m_capture);
-        }
-        if (bytes.size() > 32)
-            throw LineError(row.line, "this SSID is longer than 32 bytes");
-        return bytes;
+        const auto bytes = forms::BytesFromHex(Cell(row, "SSID-HEX")).value_or(simulation::Bytes());
+        if (!bytes.empty())
+            return host::Ssid(std::string(bytes.begin(), bytes.end()), row.line);
+        WarnOfMisread(name, row.line, m_capture);
+        return host::Ssid(name, row.line);
     }
 
     void SetSecurity(const ValueRow& row, simulation::AccessPoint& accessPoint)
@@ -308,18 +302,12 @@ private:
 
 } // namespace
 
-bool LooksLikeNmcliList(std::string_view text)
+bool ReadNmcliList(std::string_view text, NetworksCapture& capture)
 {
-    return ListIn(text).has_value();
-}
-
-NetworksCapture ParseNmcliList(std::string_view text, const std::string& source)
-{
-    NetworksCapture capture;
-    capture.source = source;
     const std::optional<ValueTable> table = ListIn(text);
-    ReadingFrom(source, [&] { NmcliReader(capture, *table).Read(); });
-    return capture;
+    if (table)
+        NmcliReader(capture, *table).Read();
+    return table.has_value();
 }
 
 } // namespace calvix::host

@@ -18,7 +18,7 @@ namespace files = std::filesystem;
 
 bool IsXmlFile(const files::directory_entry& entry)
 {
-    return entry.is_regular_file() && SameWord(PathText(entry.path().extension()), ".xml");
+    return entry.is_regular_file() && SameButForCase(PathText(entry.path().extension()), ".xml");
 }
 
 std::vector<files::path> XmlFiles(const std::string& folder)

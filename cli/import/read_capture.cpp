@@ -1,8 +1,6 @@
 #include "import/read_capture.h"
 
 #include "import/capture_encoding.h"
-#include "import/iw_scan.h"
-#include "import/nmcli_list.h"
 
 #include <algorithm>
 
@@ -58,14 +56,16 @@ void ReadCapture(std::string_view bytes, const std::string& source, const Captur
     Add(captures.warnings, encoding.warnings);
     if (LooksLikeProfile(text) && text.find(kWiredProfile) == std::string::npos)
         return void(captures.profiles.push_back(ParseExportedProfile(text, source)));
-    if (LooksLikeIwScan(text))
-        return Set(captures.networks, ParseIwScan(text, source), "networks", captures.warnings);
-    if (LooksLikeNetworks(text))
-        return Set(captures.networks, ParseNetworks(text, source, hints.words), "networks", captures.warnings);
-    if (LooksLikeInterfaces(text))
-        return Set(captures.interfaces, ParseInterfaces(text, source, hints.words), "interfaces", captures.warnings);
-    if (LooksLikeNmcliList(text))
-        return Set(captures.networks, ParseNmcliList(text, source), "networks", captures.warnings);
+    NetworksCapture networks;
+    InterfacesCapture interfaces;
+    networks.source = interfaces.source = source;
+    const auto is = [&](auto read) { return ReadingFrom(source, read); };
+    if (is([&] { return ReadIwScan(text, networks) || ReadNetshNetworks(text, hints.words, networks); }))
+        return Set(captures.networks, std::move(networks), "networks", captures.warnings);
+    if (is([&] { return ReadNetshInterfaces(text, hints.words, interfaces); }))
+        return Set(captures.interfaces, std::move(interfaces), "interfaces", captures.warnings);
+    if (is([&] { return ReadNmcliList(text, networks); }))
+        return Set(captures.networks, std::move(networks), "networks", captures.warnings);
     RefuseWithRemedy(text, source);
     throw CaptureError(
         source + ":1: this is not output of \"netsh wlan show networks mode=bssid\" or \"netsh wlan show "

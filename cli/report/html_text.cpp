@@ -1,5 +1,7 @@
 #include "report/html_text.h"
 
+#include "forms/xml_text.h"
+
 #include <cmath>
 #include <stdexcept>
 
@@ -8,34 +10,13 @@ namespace calvix::host
 
 std::string EscapeHtml(std::string_view text)
 {
-    std::string escaped;
+    std::string allowed;
     for (const char c : text)
-    {
-        switch (c)
-        {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        case '\'':
-            escaped += "&#39;";
-            break;
-        default:
-            if (static_cast<unsigned char>(c) < 0x20 || c == 0x7f)
-                escaped += c == '\n' || c == '\t' ? " " : "\xef\xbf\xbd";
-            else
-                escaped += c;
-        }
-    }
-    return escaped;
+        if (static_cast<unsigned char>(c) >= 0x20 && c != 0x7f)
+            allowed += c;
+        else
+            allowed += c == '\n' || c == '\t' ? " " : "\xef\xbf\xbd";
+    return forms::EscapedXml(allowed);
 }
 
 std::string SsidName(const SsidFacts& ssid)

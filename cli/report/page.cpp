@@ -3,10 +3,7 @@
 #include "output/text_forms.h"
 #include "report/html_text.h"
 #include "report/page_parts.h"
-#include "report/page_texts.h"
 #include "report/report_json.h"
-#include "report/signal_picture.h"
-#include "report/spectrum_picture.h"
 
 #include <functional>
 

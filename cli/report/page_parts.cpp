@@ -2,7 +2,6 @@
 
 #include "output/text_forms.h"
 #include "report/html_text.h"
-#include "report/spectrum_picture.h"
 #include "view/describe.h"
 
 #include <algorithm>

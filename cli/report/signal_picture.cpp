@@ -1,9 +1,6 @@
-#include "report/signal_picture.h"
-
 #include "report/html_text.h"
-#include "report/picture_labels.h"
-#include "report/spectrum.h"
-#include "report/spectrum_picture.h"
+#include "report/page_parts.h"
+#include "report/picture_parts.h"
 #include "view/describe.h"
 
 #include <algorithm>
@@ -14,28 +11,14 @@ namespace calvix::host
 namespace
 {
 
-constexpr double kSignalWidth = 1280;
-constexpr double kSignalHeight = 300;
-constexpr double kSignalLeft = 44;
-constexpr double kSignalRight = kSignalWidth - 14;
-constexpr double kSignalTop = 30;
-constexpr double kSignalBottom = kSignalHeight - 40;
-
-/// Where moments and signals lie.
-struct TimeScale
+/// Where moments lie.
+struct TimeScale : SignalPanel
 {
+    explicit TimeScale(unsigned lastSecond) : SignalPanel{1280}, last(lastSecond) {}
+
     unsigned last;
 
-    double X(unsigned second) const
-    {
-        return kSignalLeft + (kSignalRight - kSignalLeft) * second / (std::max)(last, 1U);
-    }
-    static double Y(long dbm)
-    {
-        const long shown = std::clamp(dbm, kWeakestShown, kStrongestShown);
-        return kSignalTop + (kSignalBottom - kSignalTop) * static_cast<double>(kStrongestShown - shown) /
-                                static_cast<double>(kStrongestShown - kWeakestShown);
-    }
+    double XOf(unsigned second) const { return X(static_cast<double>(second) / (std::max)(last, 1U)); }
     /// Seconds between two marks of the time axis.
     unsigned Step() const
     {
@@ -46,22 +29,6 @@ struct TimeScale
     }
 };
 
-std::string At(double x, double y)
-{
-    return DecimalText(x) + "," + DecimalText(y);
-}
-
-std::string Stroke(const char* kind, double x1, double y1, double x2, double y2)
-{
-    return std::string("<path class=\"") + kind + "\" d=\"M" + At(x1, y1) + "L" + At(x2, y2) + "\"/>";
-}
-
-std::string Words(const char* kind, double x, double y, const std::string& text)
-{
-    return std::string("<text class=\"") + kind + "\" x=\"" + DecimalText(x) + "\" y=\"" + DecimalText(y) + "\">" +
-           EscapeHtml(text) + "</text>";
-}
-
 std::string TimeText(unsigned second)
 {
     if (second < 60)
@@ -70,23 +37,12 @@ std::string TimeText(unsigned second)
     return std::to_string(second / 60) + ":" + (rest.size() < 2 ? "0" : "") + rest;
 }
 
-std::string Axes(const TimeScale& scale)
+std::string TimeAxes(const TimeScale& scale)
 {
-    std::string svg;
-    for (long dbm = kWeakestShown; dbm <= kStrongestShown; dbm += 10)
-    {
-        svg += Stroke(dbm == kWeakestShown ? "axis" : "grid", kSignalLeft, TimeScale::Y(dbm), kSignalRight,
-                      TimeScale::Y(dbm));
-        if (dbm % 20 == 0)
-            svg += Words("dbm", kSignalLeft - 8, TimeScale::Y(dbm) + 4, std::to_string(dbm));
-    }
+    std::string svg = scale.SignalAxis();
     for (unsigned second = 0; second <= scale.last; second += scale.Step())
-    {
-        svg += Stroke("tick", scale.X(second), kSignalBottom, scale.X(second), kSignalBottom + 5);
-        svg += Words("channel", scale.X(second), kSignalBottom + 18, TimeText(second));
-    }
-    return svg + Words("unit", kSignalLeft - 8, kSignalTop - 10, "dBm") +
-           Words("axisname", (kSignalLeft + kSignalRight) / 2, kSignalHeight - 6, "Time");
+        svg += TimeScale::Tick(scale.XOf(second), TimeText(second));
+    return svg + scale.AxisName("Time");
 }
 
 const AirAccessPoint* AccessPointOf(const ReportFacts& report, const std::string& bssid)
@@ -113,7 +69,7 @@ class BrokenLine
 public:
     void Add(double x, double y)
     {
-        m_path += (m_open ? "L" : "M") + At(x, y);
+        m_path += (m_open ? "L" : "M") + PointText(x, y);
         // A moment alone is a dot.
         if (!m_open)
             m_path += "h0.1";
@@ -147,7 +103,7 @@ HeardLine(const HistoryFacts& history, const std::string& bssid, const std::stri
         const auto heard = std::find_if(sample.air.begin(), sample.air.end(),
                                         [&bssid](const auto& point) { return point.first == bssid; });
         if (heard != sample.air.end())
-            line.Add(scale.X(sample.second), TimeScale::Y(heard->second));
+            line.Add(scale.XOf(sample.second), TimeScale::Y(heard->second));
         else
             line.Break();
     }
@@ -161,7 +117,7 @@ LinkLine(const HistoryFacts& history, const std::string& bssid, const std::strin
     BrokenLine line;
     for (const SignalSample& sample : history.samples)
         if (sample.link.connected && sample.link.bssid == bssid && sample.link.rssi)
-            line.Add(scale.X(sample.second), TimeScale::Y(*sample.link.rssi));
+            line.Add(scale.XOf(sample.second), TimeScale::Y(*sample.link.rssi));
         else
             line.Break();
     return line.Draw("link " + kind);
@@ -178,20 +134,20 @@ std::string EventWords(const LinkEvent& event)
 
 std::string EventMarks(const HistoryFacts& history, const TimeScale& scale)
 {
-    LabelPlacing placing(kSignalLeft, kSignalWidth - 4, 2, kSignalBottom);
+    LabelPlacing placing(TimeScale::kLeft, scale.width - 4, 2, TimeScale::kBottom);
     std::string svg;
     for (const LinkEvent& event : history.events)
     {
-        const double x = scale.X(event.second);
+        const double x = scale.XOf(event.second);
         const bool lost = event.to.empty();
         const char* const kind = lost ? "mark lost" : "mark";
-        svg += Stroke(kind, x, kSignalTop - 6, x, kSignalBottom);
+        svg += SvgLine(kind, x, TimeScale::kTop - 6, x, TimeScale::kBottom);
         const std::string text = std::string(lost                 ? "\xe2\x9c\x95 lost"
                                              : event.from.empty() ? "\xe2\x97\x8f connected"
                                                                   : "\xe2\x97\x86 roam") +
                                  " " + TimeText(event.second);
-        const LabelPlace place = placing.Place(x, kSignalTop - 6, LabelWidth(text));
-        svg += Words(lost ? "marked lost" : "marked", place.x, place.y, text);
+        const LabelPlace place = placing.Place(x, TimeScale::kTop - 6, LabelWidth(text));
+        svg += SvgText(lost ? "marked lost" : "marked", place.x, place.y, text);
     }
     return svg;
 }
@@ -230,7 +186,7 @@ std::string EventList(const HistoryFacts& history)
 std::string SignalPicture(const ReportFacts& report)
 {
     const HistoryFacts& history = report.history;
-    const TimeScale scale{history.samples.back().second};
+    const TimeScale scale(history.samples.back().second);
     const std::vector<std::string> used = UsedAccessPoints(history);
     std::string lines;
     for (std::size_t place = 0; place < used.size(); ++place)
@@ -243,10 +199,10 @@ std::string SignalPicture(const ReportFacts& report)
                                     Counted(history.events.size(), "event") + ", which the list below names.";
     return "<figure class=\"panel time\"><div class=\"scroll\" role=\"region\" tabindex=\"0\" "
            "aria-label=\"Signal over time\"><svg viewBox=\"0 0 " +
-           DecimalText(kSignalWidth) + " " + DecimalText(kSignalHeight) +
+           DecimalText(scale.width) + " " + DecimalText(TimeScale::kHeight) +
            "\" role=\"img\" aria-labelledby=\"time-title time-desc\"><title id=\"time-title\">Signal over time</title>"
            "<desc id=\"time-desc\">" +
-           description + "</desc>\n" + Axes(scale) + "\n" + lines + "\n</svg></div>\n<figcaption>" +
+           description + "</desc>\n" + TimeAxes(scale) + "\n" + lines + "\n</svg></div>\n<figcaption>" +
            Legend(report, used) + "</figcaption></figure>\n" + EventList(history);
 }
 

@@ -1,5 +1,7 @@
 #include "report/spectrum.h"
 
+#include "forms/channel.h"
+
 namespace calvix::host
 {
 
@@ -15,18 +17,24 @@ constexpr unsigned kChannels6[] = {1,   13,  25,  37,  49,  61,  73,  85,  97,  
 
 const std::array<SpectrumBand, 3>& SpectrumBands()
 {
-    static constexpr std::array<SpectrumBand, 3> bands = {{{"2.4 GHz", 2397, 2499, 2407, kChannels24},
-                                                           {"5 GHz", 5150, 5905, 5000, kChannels5},
-                                                           {"6 GHz", 5930, 7130, 5950, kChannels6}}};
+    static constexpr std::array<SpectrumBand, 3> bands = {
+        {{"2.4 GHz", 2397, 2499, kChannels24}, {"5 GHz", 5150, 5905, kChannels5}, {"6 GHz", 5930, 7130, kChannels6}}};
     return bands;
 }
 
 unsigned CentreMhz(const SpectrumBand& band, unsigned channel)
 {
-    constexpr unsigned channel14 = 2484; // lies apart from the others
-    if (band.firstMhz < 3000 && channel == 14)
-        return channel14;
-    return band.baseMhz + 5 * channel;
+    const std::string_view name(band.name);
+    return *forms::ChannelFrequency(name.substr(0, name.find(' ')), channel) / 1000;
+}
+
+std::vector<const AirAccessPoint*> InBand(const std::vector<AirAccessPoint>& accessPoints, const SpectrumBand& band)
+{
+    std::vector<const AirAccessPoint*> points;
+    for (const AirAccessPoint& point : accessPoints)
+        if (point.facts.band == band.name)
+            points.push_back(&point);
+    return points;
 }
 
 } // namespace calvix::host

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "report/report_facts.h"
+
 #include <array>
 #include <span>
-#include <string>
 
 namespace calvix::host
 {
@@ -17,7 +18,6 @@ struct SpectrumBand
     const char* name; ///< as BandText gives it
     unsigned firstMhz;
     unsigned lastMhz;
-    unsigned baseMhz;                   ///< channel numbers count steps of 5 MHz from here
     std::span<const unsigned> channels; ///< that are written below
 };
 
@@ -26,5 +26,8 @@ const std::array<SpectrumBand, 3>& SpectrumBands();
 
 /// Centre of a channel in MHz.
 unsigned CentreMhz(const SpectrumBand& band, unsigned channel);
+
+/// Those of the access points that are heard in the band.
+std::vector<const AirAccessPoint*> InBand(const std::vector<AirAccessPoint>& accessPoints, const SpectrumBand& band);
 
 } // namespace calvix::host

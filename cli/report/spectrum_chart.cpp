@@ -149,10 +149,7 @@ void PrintSpectrum(Output& output, const std::vector<AirAccessPoint>& accessPoin
     std::string silent;
     for (const SpectrumBand& band : SpectrumBands())
     {
-        std::vector<const AirAccessPoint*> points;
-        for (const AirAccessPoint& point : accessPoints)
-            if (point.facts.band == band.name)
-                points.push_back(&point);
+        const std::vector<const AirAccessPoint*> points = InBand(accessPoints, band);
         if (!points.empty())
             PrintBand(output, band, points);
         else

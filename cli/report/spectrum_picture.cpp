@@ -1,7 +1,6 @@
-#include "report/spectrum_picture.h"
-
 #include "report/html_text.h"
-#include "report/picture_labels.h"
+#include "report/page_parts.h"
+#include "report/picture_parts.h"
 #include "report/spectrum.h"
 #include "view/describe.h"
 
@@ -13,78 +12,37 @@ namespace calvix::host
 namespace
 {
 
-constexpr unsigned kColours = 10;
-constexpr double kPanelHeight = 300;
-constexpr double kBelow = 40; ///< for the channel numbers
-constexpr double kAbove = 26;
-constexpr double kBefore = 44; ///< for the dBm
-constexpr double kBehind = 14;
-
-/// Where frequencies and signals lie in a panel.
-struct PanelScale
-{
-    const SpectrumBand& band;
-    double width;
-
-    double X(double mhz) const
-    {
-        return kBefore + (mhz - band.firstMhz) / (band.lastMhz - band.firstMhz) * (width - kBefore - kBehind);
-    }
-    static double Y(long dbm)
-    {
-        const long shown = std::clamp(dbm, kWeakestShown, kStrongestShown);
-        const auto part = static_cast<double>(kStrongestShown - shown) / (kStrongestShown - kWeakestShown);
-        return kAbove + part * (Bottom() - kAbove);
-    }
-    static double Bottom() { return kPanelHeight - kBelow; }
-};
-
 double WidthOf(const SpectrumBand& band)
 {
     const unsigned span = band.lastMhz - band.firstMhz;
     return span < 200 ? 520 : span < 1000 ? 740 : 1280;
 }
 
-std::string Attribute(const char* name, double value)
+/// Where frequencies lie.
+struct BandScale : SignalPanel
 {
-    return std::string(" ") + name + "=\"" + DecimalText(value) + "\"";
-}
+    explicit BandScale(const SpectrumBand& shown) : SignalPanel{WidthOf(shown)}, band(shown) {}
 
-std::string Line(const char* kind, double x1, double y1, double x2, double y2)
-{
-    return std::string("<line class=\"") + kind + "\"" + Attribute("x1", x1) + Attribute("y1", y1) +
-           Attribute("x2", x2) + Attribute("y2", y2) + "/>";
-}
+    const SpectrumBand& band;
 
-std::string Text(const char* kind, double x, double y, const std::string& text)
-{
-    return std::string("<text class=\"") + kind + "\"" + Attribute("x", x) + Attribute("y", y) + ">" +
-           EscapeHtml(text) + "</text>";
-}
+    double XOf(double mhz) const { return X((mhz - band.firstMhz) / (band.lastMhz - band.firstMhz)); }
+};
 
-std::string SignalGrid(const PanelScale& scale)
+std::string ChannelAxes(const BandScale& scale)
 {
-    std::string svg;
-    for (long dbm = kWeakestShown; dbm <= kStrongestShown; dbm += 10)
-    {
-        const double y = PanelScale::Y(dbm);
-        svg += Line(dbm == kWeakestShown ? "axis" : "grid", kBefore, y, scale.width - kBehind, y);
-        if (dbm % 20 == 0)
-            svg += Text("dbm", kBefore - 8, y + 4, std::to_string(dbm));
-    }
-    return svg + Text("unit", kBefore - 8, kAbove - 10, "dBm");
-}
-
-std::string ChannelGrid(const PanelScale& scale)
-{
-    std::string svg;
+    std::string svg = scale.SignalAxis();
     for (const unsigned channel : scale.band.channels)
-    {
-        const double x = scale.X(CentreMhz(scale.band, channel));
-        svg += Line("tick", x, PanelScale::Bottom(), x, PanelScale::Bottom() + 5);
-        svg += Text("channel", x, PanelScale::Bottom() + 18, std::to_string(channel));
-    }
-    return svg + Text("axisname", (kBefore + scale.width - kBehind) / 2, kPanelHeight - 6, "Channel");
+        svg += BandScale::Tick(scale.XOf(CentreMhz(scale.band, channel)), std::to_string(channel));
+    return svg + scale.AxisName("Channel");
+}
+
+/// "Lindenhof, 02:1A:..., -55 dBm, channel 36, 80 MHz wide": an access point in words.
+std::string InWords(const AirAccessPoint& point)
+{
+    return SsidName(point.facts.ssid) + ", " + point.facts.bssid + ", " + std::to_string(point.facts.rssi) +
+           " dBm, channel " + std::to_string(point.facts.channel) + ", " + std::to_string(point.beacon.widthMhz) +
+           " MHz wide, " + point.beacon.security + (point.inUse ? ", in use" : "") +
+           (point.inView ? "" : ", not heard any more");
 }
 
 /// An arch from side to side of the channel, its top level where the signal is.
@@ -92,10 +50,10 @@ std::string ArchPath(double left, double right, double top, double bottom)
 {
     const double width = right - left;
     const double middle = left + width / 2;
-    const auto point = [](double x, double y) { return DecimalText(x) + "," + DecimalText(y); };
-    return "M" + point(left, bottom) + "C" + point(left + width * 0.06, top) + " " + point(left + width * 0.22, top) +
-           " " + point(middle, top) + "C" + point(right - width * 0.22, top) + " " + point(right - width * 0.06, top) +
-           " " + point(right, bottom) + "Z";
+    return "M" + PointText(left, bottom) + "C" + PointText(left + width * 0.06, top) + " " +
+           PointText(left + width * 0.22, top) + " " + PointText(middle, top) + "C" +
+           PointText(right - width * 0.22, top) + " " + PointText(right - width * 0.06, top) + " " +
+           PointText(right, bottom) + "Z";
 }
 
 std::string LabelOf(const AirAccessPoint& point)
@@ -112,40 +70,31 @@ std::string Label(const AirAccessPoint& point, double x, double y, LabelPlacing&
     const LabelPlace place = placing.Place(x, y, LabelWidth(text));
     std::string svg;
     if (place.y < y - LabelPlacing::kLineHeight)
-        svg += Line("leader", x, y - 2, place.x, place.y + 3);
-    return svg + Text("name", place.x, place.y, text);
+        svg += SvgLine("leader", x, y - 2, place.x, place.y + 3);
+    return svg + SvgText("name", place.x, place.y, text);
 }
 
-std::string Arch(const AirAccessPoint& point, const PanelScale& scale, LabelPlacing& placing, bool first)
+std::string Arch(const AirAccessPoint& point, const BandScale& scale, LabelPlacing& placing, bool first)
 {
     // A frequency outside the band is drawn at its edge.
     const double centre = std::clamp(static_cast<double>(point.beacon.centreKhz) / 1000,
                                      static_cast<double>(scale.band.firstMhz), static_cast<double>(scale.band.lastMhz));
     const double half = point.beacon.widthMhz / 2.0;
-    const double x = scale.X(centre);
-    const double y = PanelScale::Y(point.facts.rssi);
+    const double x = scale.XOf(centre);
+    const double y = BandScale::Y(point.facts.rssi);
     const std::string number = std::to_string(point.number);
     std::string svg = "<g class=\"ap " + ColourClass(point) + (point.inUse ? " used" : "") +
                       (point.inView ? "" : " off") + "\" id=\"arch-" + number + "\" data-ap=\"" + number +
                       "\" role=\"img\" tabindex=\"" + (first ? "0" : "-1") + "\" aria-label=\"" +
                       EscapeHtml(InWords(point)) + "\">";
-    svg += "<path d=\"" + ArchPath(scale.X(centre - half), scale.X(centre + half), y, PanelScale::Bottom()) + "\"/>";
+    svg += "<path d=\"" + ArchPath(scale.XOf(centre - half), scale.XOf(centre + half), y, BandScale::kBottom) + "\"/>";
     return svg + Label(point, x, y, placing) + "</g>";
 }
 
-std::vector<const AirAccessPoint*> InBand(const ReportFacts& report, const SpectrumBand& band)
-{
-    std::vector<const AirAccessPoint*> points;
-    for (const AirAccessPoint& point : report.accessPoints)
-        if (point.facts.band == band.name)
-            points.push_back(&point);
-    return points;
-}
-
 /// The weaker arches are in front of the stronger ones, so that the pointer reaches each.
-std::string Arches(const std::vector<const AirAccessPoint*>& points, const PanelScale& scale)
+std::string Arches(const std::vector<const AirAccessPoint*>& points, const BandScale& scale)
 {
-    LabelPlacing placing(kBefore, scale.width - 2, 2, PanelScale::Bottom() - 2);
+    LabelPlacing placing(BandScale::kLeft, scale.width - 2, 2, BandScale::kBottom - 2);
     std::string svg;
     for (const AirAccessPoint* point : points)
         svg += Arch(*point, scale, placing, point == points.front()) + "\n";
@@ -174,23 +123,24 @@ std::string Summary(const std::vector<const AirAccessPoint*>& points, const Spec
 
 std::string Drawing(const std::vector<const AirAccessPoint*>& points, const SpectrumBand& band)
 {
-    const PanelScale scale{band, WidthOf(band)};
+    const BandScale scale(band);
     const std::string id = PanelId(band);
     return "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"" + std::string(band.name) +
-           " spectrum\"><svg viewBox=\"0 0 " + DecimalText(scale.width) + " " + DecimalText(kPanelHeight) +
+           " spectrum\"><svg viewBox=\"0 0 " + DecimalText(scale.width) + " " + DecimalText(BandScale::kHeight) +
            "\" data-strongest=\"" + std::to_string(kStrongestShown) + "\" data-weakest=\"" +
-           std::to_string(kWeakestShown) + "\" data-top=\"" + DecimalText(kAbove) + "\" data-bottom=\"" +
-           DecimalText(PanelScale::Bottom()) + "\" role=\"group\" aria-labelledby=\"" + id + "-title " + id +
+           std::to_string(kWeakestShown) + "\" data-top=\"" + DecimalText(BandScale::kTop) + "\" data-bottom=\"" +
+           DecimalText(BandScale::kBottom) + "\" role=\"group\" aria-labelledby=\"" + id + "-title " + id +
            "-desc\"><title id=\"" + id + "-title\">" + band.name + " band</title><desc id=\"" + id + "-desc\">" +
-           EscapeHtml(Summary(points, band)) + "</desc>\n" + "<g aria-hidden=\"true\">" + SignalGrid(scale) +
-           ChannelGrid(scale) + "</g>\n" + Arches(points, scale) +
-           (points.empty() ? Text("nothing", scale.width / 2, kPanelHeight / 2, kNothingHeard) : "") + "</svg></div>";
+           EscapeHtml(Summary(points, band)) + "</desc>\n" + "<g aria-hidden=\"true\">" + ChannelAxes(scale) +
+           "</g>\n" + Arches(points, scale) +
+           (points.empty() ? SvgText("nothing", scale.width / 2, BandScale::kHeight / 2, kNothingHeard) : "") +
+           "</svg></div>";
 }
 
 /// The band that most computers hear nothing in takes less room then.
 std::string Panel(const ReportFacts& report, const SpectrumBand& band)
 {
-    const std::vector<const AirAccessPoint*> points = InBand(report, band);
+    const std::vector<const AirAccessPoint*> points = InBand(report.accessPoints, band);
     const auto inView =
         std::count_if(points.begin(), points.end(), [](const AirAccessPoint* point) { return point->inView; });
     const bool isShort = points.empty() && WidthOf(band) > 1000;
@@ -201,16 +151,9 @@ std::string Panel(const ReportFacts& report, const SpectrumBand& band)
 
 } // namespace
 
-std::string InWords(const AirAccessPoint& point)
-{
-    return SsidName(point.facts.ssid) + ", " + point.facts.bssid + ", " + std::to_string(point.facts.rssi) +
-           " dBm, channel " + std::to_string(point.facts.channel) + ", " + std::to_string(point.beacon.widthMhz) +
-           " MHz wide, " + point.beacon.security + (point.inUse ? ", in use" : "") +
-           (point.inView ? "" : ", not heard any more");
-}
-
 std::string ColourClass(const AirAccessPoint& point)
 {
+    constexpr unsigned kColours = 10;
     return point.network ? "c" + std::to_string(*point.network % kColours) : "hidden-name";
 }
 

@@ -14,20 +14,6 @@
 namespace calvix::host
 {
 
-namespace
-{
-
-std::string SsidArgument(const std::string& text)
-{
-    const auto bytes = BytesOfSsidArgument(text);
-    if (!bytes)
-        throw BadInput("\"" + text + "\" is not a valid SSID: hex: needs pairs of hexadecimal digits",
-                       "write it like hex:436166E9; calvix networks --json shows the bytes as ssidHex");
-    return *bytes;
-}
-
-} // namespace
-
 int ConnectBest(Host& host, const Exclusions& excluded)
 {
     const GUID* const adapter = host.adapterGuid();
@@ -35,9 +21,11 @@ int ConnectBest(Host& host, const Exclusions& excluded)
     std::vector<WLAN_BSS_ENTRY> networks;
     for (const std::string& ssid : excluded.ssids)
     {
-        WLAN_BSS_ENTRY entry{};
-        entry.dot11Ssid = MakeSsid(SsidArgument(ssid));
-        networks.push_back(entry);
+        const auto bytes = BytesOfSsidArgument(ssid);
+        if (!bytes)
+            throw BadInput("\"" + ssid + "\" is not a valid SSID: hex: needs pairs of hexadecimal digits",
+                           "write it like hex:436166E9; calvix networks --json shows the bytes as ssidHex");
+        networks.emplace_back().dot11Ssid = MakeSsid(*bytes);
     }
     CWirelessManage& library = host.manager();
     if (name.empty())
@@ -48,13 +36,6 @@ int ConnectBest(Host& host, const Exclusions& excluded)
 
 namespace
 {
-
-/// Every candidate in the order in which the library would ask for it. The library itself says so: it goes through all
-/// of them when each request is refused.
-std::vector<ConnectRequest> Rehearse(Host& host, const Exclusions& excluded)
-{
-    return host.Rehearse([&] { ConnectBest(host, excluded); });
-}
 
 bool IsAskedFor(const WLAN_AVAILABLE_NETWORK& network, const ConnectRequest& request)
 {
@@ -114,7 +95,8 @@ CandidateFacts DescribeCandidate(const WLAN_AVAILABLE_NETWORK& network, unsigned
 std::vector<CandidateFacts> BestCandidates(Host& host, const Exclusions& excluded)
 {
     std::vector<CandidateFacts> facts;
-    const std::vector<ConnectRequest> requests = Rehearse(host, excluded);
+    // The library itself says the order: it goes through all of them when each request is refused.
+    const std::vector<ConnectRequest> requests = host.Rehearse([&] { ConnectBest(host, excluded); });
     if (requests.empty())
         return facts;
     const std::vector<WLAN_AVAILABLE_NETWORK> networks = host.service().Networks(host.adapterGuid());

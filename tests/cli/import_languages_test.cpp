@@ -34,11 +34,6 @@ constexpr Language kLanguages[] = {
     {"chinese-traditional", 950, 950},
 };
 
-std::string Sample(const std::string& language, const std::string& file)
-{
-    return ReadWholeFile(DataPath("languages/" + language + "/" + file));
-}
-
 std::string Utf16(const std::string& text, bool bigEndian)
 {
     std::string bytes;
@@ -67,7 +62,7 @@ MadeScenario ImportBoth(const Language& language, const Encode& encode, const Ca
 {
     Captures captures;
     for (const char* file : {"networks.txt", "interfaces.txt"})
-        ReadCapture(encode(Sample(language.name, file)), file, hints, captures);
+        ReadCapture(encode(Sample("languages/" + std::string(language.name) + "/" + file)), file, hints, captures);
     return AssembleScenario(captures, false);
 }
 
@@ -127,7 +122,7 @@ TEST(ImportLanguages, TheCodePagesOfEachLanguageAreGuessedAndCanBeNamed)
             EXPECT_EQ(ImportBoth(language, encode, hints).scenario, Expected()) << language.name << " " << codePage;
             for (const char* file : {"networks.txt", "interfaces.txt"})
             {
-                const std::string text = Sample(language.name, file);
+                const std::string text = Sample("languages/" + std::string(language.name) + "/" + file);
                 // Several code pages can give the same text.
                 const std::uint32_t likely = LikelyCodePage(encode(text));
                 EXPECT_TRUE(WithCarriageReturns(DecodeNarrowText(likely, encode(text)).text) == text)
@@ -142,7 +137,7 @@ TEST(ImportLanguages, AFileOfTheConsolesCodePageIsReadWithAWarning)
 {
     if (!simulation::HasNarrowEncoding(850))
         GTEST_SKIP() << "this computer has no converter for code page 850";
-    const Captures captures = Read(Sample("german", "networks-oem.txt"));
+    const Captures captures = Read(Sample("languages/german/networks-oem.txt"));
     EXPECT_EQ(captures.warnings,
               std::vector<std::string>{"file: this is not Unicode and was read as code page 850, the "
                                        "most likely one; give another with --code-page"});
@@ -151,21 +146,17 @@ TEST(ImportLanguages, AFileOfTheConsolesCodePageIsReadWithAWarning)
 
 TEST(ImportLanguages, WaysThatTextsAreLaidOutDoNotMatter)
 {
-    const auto all = [](std::string text, const std::string& from, const std::string& to)
-    {
-        for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
-            text.replace(at, from.size(), to);
-        return text;
-    };
     const std::pair<const char*, Encode> layouts[] = {
-        {"plain line ends", [&](const std::string& text) { return all(text, "\r\n", "\n"); }},
-        {"wide colons", [&](const std::string& text) { return all(text, " : ", "\xEF\xBC\x9A"); }},
-        {"no-break spaces before colons", [&](const std::string& text) { return all(text, " : ", "\xC2\xA0: "); }},
-        {"no-break spaces before percent signs", [&](const std::string& text) { return all(text, "%", "\xC2\xA0%"); }},
-        {"blanks at the ends", [&](const std::string& text) { return all(text, "\r\n", " \t \r\n"); }},
-        {"lists broken in two", [&](const std::string& text) { return all(text, "48 54", "\r\n48 54"); }},
+        {"plain line ends", [](const std::string& text) { return AllReplaced(text, "\r\n", "\n"); }},
+        {"wide colons", [](const std::string& text) { return AllReplaced(text, " : ", "\xEF\xBC\x9A"); }},
+        {"no-break spaces before colons",
+         [](const std::string& text) { return AllReplaced(text, " : ", "\xC2\xA0: "); }},
+        {"no-break spaces before percent signs",
+         [](const std::string& text) { return AllReplaced(text, "%", "\xC2\xA0%"); }},
+        {"blanks at the ends", [](const std::string& text) { return AllReplaced(text, "\r\n", " \t \r\n"); }},
+        {"lists broken in two", [](const std::string& text) { return AllReplaced(text, "48 54", "\r\n48 54"); }},
         {"descriptions broken in two",
-         [&](const std::string& text) { return all(text, "Sample USB", "Sample\r\nUSB"); }},
+         [](const std::string& text) { return AllReplaced(text, "Sample USB", "Sample\r\nUSB"); }},
     };
     for (const Language& language : kLanguages)
         for (const auto& [what, encode] : layouts)

@@ -1,26 +1,20 @@
+#include "cli_test.h"
 #include "import/profile_folder.h"
 #include "import_samples.h"
 
-#include <gtest/gtest.h>
-
-namespace calvix::host::test::import_profiles_test
+namespace calvix::test::import_profiles_test
 {
-
 namespace
 {
 
-/// The profile in the bytes of one of the encodings that files have.
-std::string AsUtf16(const std::string& ascii)
+using namespace host::test;
+using host::ParseExportedProfile;
+
+class ImportProfiles : public CliTest
 {
-    std::string bytes = "\xFF\xFE";
-    for (const char letter : ascii)
-        bytes += {letter, '\0'};
-    return bytes;
-}
+};
 
-} // namespace
-
-TEST(ImportProfiles, EveryEncodingAndLineEndGivesTheSameProfile)
+TEST_F(ImportProfiles, EveryEncodingAndLineEndGivesTheSameProfile)
 {
     const std::string returns = WithCarriageReturns(kProfile);
     EXPECT_EQ(ParseExportedProfile(kProfile, "a/Wi-Fi-Juniper.xml").xml, kProfile);
@@ -31,10 +25,10 @@ TEST(ImportProfiles, EveryEncodingAndLineEndGivesTheSameProfile)
     EXPECT_EQ(ParseExportedProfile(kProfile, "a/Wi-Fi-Juniper.xml").fileName, "Wi-Fi-Juniper.xml");
 }
 
-TEST(ImportProfiles, AFolderIsReadInTheOrderOfItsFileNames)
+TEST_F(ImportProfiles, AFolderIsReadInTheOrderOfItsFileNames)
 {
     std::vector<std::string> names;
-    for (const ExportedProfile& profile : ReadProfileFolder(DataPath("home/profiles")))
+    for (const host::ExportedProfile& profile : host::ReadProfileFolder(DataPath("home/profiles")))
         names.push_back(profile.fileName + " " + profile.name);
     EXPECT_EQ(names, (std::vector<std::string>{"Baeckerei.xml B\xC3\xA4"
                                                "ckerei S\xC3\xBC\xC3\x9F",
@@ -42,62 +36,47 @@ TEST(ImportProfiles, AFolderIsReadInTheOrderOfItsFileNames)
                                                "Wi-Fi-Juniper Lane.xml Juniper Lane"}));
 }
 
-namespace
+TEST_F(ImportProfiles, DamagedOnesAreRefusedWithTheFile)
 {
-
-struct Damage
-{
-    const char* from;
-    const char* to;
-    const char* complaint;
-};
-
-class DamagedProfiles : public ::testing::TestWithParam<Damage>
-{
-};
-
-} // namespace
-
-TEST_P(DamagedProfiles, AreRefusedWithTheFile)
-{
-    TemporaryFolder folder;
-    folder.Write("good.xml", kProfile);
-    const std::string bad = folder.Write("ugly.XML", Replaced(kProfile, GetParam().from, GetParam().to));
-    EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder.path()); }),
-              bad + ": this profile cannot be used: " + GetParam().complaint);
+    struct Damage
+    {
+        const char* from;
+        const char* to;
+        const char* complaint;
+    };
+    FileWith("good.xml", kProfile);
+    for (const Damage& damage :
+         {Damage{"</WLANProfile>", "", "The profile is not in the form required."},
+          Damage{"WLANProfile xmlns", "Profile xmlns", "The profile is not in the form required."},
+          Damage{"<name>Juniper</name>\n", "<name></name>\n", "The profile's name is not valid."},
+          Damage{"4A756E", "4A756", "The network's name in the profile is not valid."},
+          Damage{">ESS<", ">NESS<", "The profile's network type is not valid."},
+          Damage{">ESS<", ">IBSS<", "Ad hoc networks cannot be joined automatically."},
+          Damage{">auto<", ">always<", "The profile is not in the form required."},
+          Damage{">AES<", ">none<", "This authentication and this encryption do not go together."},
+          Damage{"under the juniper", "short", "The passphrase in the profile is too short or too long."}})
+    {
+        const std::string bad = FileWith("ugly.XML", Replaced(kProfile, damage.from, damage.to));
+        EXPECT_EQ(Complaint([&] { host::ReadProfileFolder(PathFor("")); }),
+                  bad + ": this profile cannot be used: " + damage.complaint);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Import,
-    DamagedProfiles,
-    ::testing::Values(Damage{"</WLANProfile>", "", "The profile is not in the form required."},
-                      Damage{"WLANProfile xmlns", "Profile xmlns", "The profile is not in the form required."},
-                      Damage{"<name>Juniper</name>\n", "<name></name>\n", "The profile's name is not valid."},
-                      Damage{"4A756E", "4A756", "The network's name in the profile is not valid."},
-                      Damage{">ESS<", ">NESS<", "The profile's network type is not valid."},
-                      Damage{">ESS<", ">IBSS<", "Ad hoc networks cannot be joined automatically."},
-                      Damage{">auto<", ">always<", "The profile is not in the form required."},
-                      Damage{">AES<", ">none<", "This authentication and this encryption do not go together."},
-                      Damage{"under the juniper", "short", "The passphrase in the profile is too short or too long."}));
-
-TEST(ImportProfiles, AFileInAnotherEncodingIsRefusedWithTheLine)
+TEST_F(ImportProfiles, AFileInAnotherEncodingIsRefusedWithTheLine)
 {
-    TemporaryFolder folder;
-    const std::string path = folder.Write("p.xml", Replaced(kProfile, "<name>Juniper", "<name>Caf\xE9"));
-    EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder.path()); }),
+    const std::string path = FileWith("p.xml", Replaced(kProfile, "<name>Juniper", "<name>Caf\xE9"));
+    EXPECT_EQ(Complaint([&] { host::ReadProfileFolder(PathFor("")); }),
               path + ":3: this is not UTF-8: capture it again after the command \"chcp 65001\"");
 }
 
-TEST(ImportProfiles, AFolderMustExistAndHoldProfiles)
+TEST_F(ImportProfiles, AFolderMustExistAndHoldProfiles)
 {
-    TemporaryFolder folder;
-    folder.Write("notes.txt", "nothing to see");
-    EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder.path()); }),
-              folder.path() + ": this folder has no profile (*.xml)");
-    EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder / "absent"); }),
-              (folder / "absent") + ": this folder cannot be read");
-    EXPECT_EQ(Complaint([&] { ReadProfileFolder(folder / "notes.txt"); }),
-              (folder / "notes.txt") + ": this folder cannot be read");
+    FileWith("notes.txt", "nothing to see");
+    EXPECT_EQ(Complaint([&] { host::ReadProfileFolder(PathFor("")); }),
+              PathFor("") + ": this folder has no profile (*.xml)");
+    for (const std::string& name : {PathFor("absent"), PathFor("notes.txt")})
+        EXPECT_EQ(Complaint([&] { host::ReadProfileFolder(name); }), name + ": this folder cannot be read");
 }
 
-} // namespace calvix::host::test::import_profiles_test
+} // namespace
+} // namespace calvix::test::import_profiles_test

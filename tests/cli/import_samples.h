@@ -1,16 +1,12 @@
 #pragma once
 
 #include "files/file_path.h"
+#include "forms/address_text.h"
 #include "import/import.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <atomic>
-#include <chrono>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -22,6 +18,15 @@ inline std::string DataPath(const std::string& name)
     return std::string(CALVIX_SOURCE_DIR) + "/tests/data/captures/" + name;
 }
 
+inline std::string Sample(const std::string& name)
+{
+    return ReadWholeFile(DataPath(name));
+}
+
+inline const std::string kNetworks = Sample("plain/networks.txt");
+inline const std::string kInterfaces = Sample("plain/interfaces.txt");
+inline const std::string kProfile = Sample("plain/profile.xml");
+
 /// `text` with its first `from` replaced by `to`, which must be there.
 inline std::string Replaced(std::string text, const std::string& from, const std::string& to)
 {
@@ -30,12 +35,26 @@ inline std::string Replaced(std::string text, const std::string& from, const std
     return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
 
+/// `text` with every `from` replaced by `to`.
+inline std::string AllReplaced(std::string text, const std::string& from, const std::string& to)
+{
+    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
+        text.replace(at, from.size(), to);
+    return text;
+}
+
 inline std::string WithCarriageReturns(const std::string& text)
 {
-    std::string result;
-    for (const char letter : text)
-        result += letter == '\n' ? "\r\n" : std::string(1, letter);
-    return result;
+    return AllReplaced(text, "\n", "\r\n");
+}
+
+/// ASCII in UTF-16, with a byte order mark.
+inline std::string AsUtf16(const std::string& ascii)
+{
+    std::string bytes = "\xFF\xFE";
+    for (const char letter : ascii)
+        bytes += {letter, '\0'};
+    return bytes;
 }
 
 /// What `read` complains about, empty if it does not.
@@ -61,14 +80,40 @@ inline Captures Read(const std::string& bytes, const CaptureHints& hints = {})
     return captures;
 }
 
-inline NetworksCapture ReadNetworks(const std::string& bytes, const CaptureHints& hints = {})
+inline NetworksCapture ReadNetworks(const std::string& bytes)
 {
-    return Read(bytes, hints).networks.value();
+    return Read(bytes).networks.value();
+}
+
+inline InterfacesCapture ReadInterfaces(const std::string& bytes)
+{
+    return Read(bytes).interfaces.value();
 }
 
 inline MadeScenario Import(const std::string& bytes, const CaptureHints& hints = {})
 {
     return AssembleScenario(Read(bytes, hints), false);
+}
+
+/// "02:00:00:00:00:01 Juniper, 5180000 kHz, -60 dBm, PHY 10, BSS 1, WPA2PSK AES, 100 TU"
+inline std::string Summary(const simulation::AccessPoint& heard)
+{
+    const std::string name = heard.hidden ? "(hidden)" : std::string(heard.ssid.begin(), heard.ssid.end());
+    const std::string width = heard.channelWidth != 0 ? ", " + std::to_string(heard.channelWidth) + " MHz" : "";
+    return forms::AddressText(heard.bssid) + " " + name + ", " + std::to_string(heard.frequencyKhz) + " kHz, " +
+           std::to_string(heard.rssi) + " dBm, PHY " + std::to_string(heard.phyType) + ", BSS " +
+           std::to_string(heard.bssType) + ", " + heard.authentication + " " + heard.encryption + ", " +
+           std::to_string(heard.beaconPeriod) + " TU" + width;
+}
+
+/// The access points in the order of their addresses.
+inline std::vector<std::string> Summaries(const std::vector<simulation::AccessPoint>& air)
+{
+    std::vector<std::string> summaries;
+    for (const simulation::AccessPoint& heard : air)
+        summaries.push_back(Summary(heard));
+    std::sort(summaries.begin(), summaries.end());
+    return summaries;
 }
 
 /// Whether one of the warnings begins like this.
@@ -77,121 +122,5 @@ inline bool Warns(const std::vector<std::string>& warnings, const std::string& b
     return std::any_of(warnings.begin(), warnings.end(),
                        [&](const std::string& warning) { return warning.starts_with(beginning); });
 }
-
-/// A folder that is gone after the test.
-class TemporaryFolder
-{
-public:
-    TemporaryFolder()
-    {
-        static std::atomic<unsigned> number{0};
-        const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-        m_path = std::filesystem::temp_directory_path() /
-                 ("calvix-import-" + std::to_string(now) + "-" + std::to_string(++number));
-        std::filesystem::create_directories(m_path);
-    }
-    ~TemporaryFolder()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    std::string path() const { return PathText(m_path); }
-    std::string operator/(const std::string& name) const { return PathText(m_path / name); }
-
-    /// Writes a file into the folder and returns its path.
-    std::string Write(const std::string& name, const std::string& bytes) const
-    {
-        std::ofstream(m_path / name, std::ios::binary) << bytes;
-        return *this / name;
-    }
-
-    std::size_t FileCount() const
-    {
-        const std::filesystem::directory_iterator files(m_path);
-        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
-    }
-
-private:
-    std::filesystem::path m_path;
-};
-
-/// Line 1 is blank, as in what the tool prints.
-inline const std::string kNetworks = R"(
-Interface name : Wi-Fi
-There are 2 networks currently visible.
-
-SSID 1 : Juniper
-    Network type            : Infrastructure
-    Authentication          : WPA2-Personal
-    Encryption              : CCMP
-    BSSID 1                 : 02:00:00:00:00:01
-         Signal             : 80%
-         Radio type         : 802.11ax
-         Band               : 5 GHz
-         Channel            : 36
-         Other rates (Mbps) : 9 18 36 48 54
-    BSSID 2                 : 02:00:00:00:00:02
-         Signal             : 61%
-         Radio type         : 802.11n
-         Channel            : 6
-
-SSID 2 : Open: all day
-    Network type            : Infrastructure
-    Authentication          : Open
-    Encryption              : None
-    BSSID 1                 : 02:00:00:00:00:03
-         Signal             : 40%
-         Radio type         : 802.11g
-         Channel            : 11
-)";
-
-inline const std::string kInterfaces = R"(
-There are 2 interfaces on the system:
-
-    Name                   : Wi-Fi
-    Description            : First: the inner one
-    GUID                   : 11111111-2222-3333-4444-55556666abcd
-    Physical address       : 02:00:00:00:10:01
-    State                  : connected
-    SSID                   : Juniper
-    AP BSSID               : 02:00:00:00:00:01
-    Band                   : 5 GHz
-    Channel                : 36
-    Network type           : Infrastructure
-    Radio type             : 802.11ax
-    Authentication         : WPA2-Personal
-    Cipher                 : CCMP
-    Connection mode        : Auto Connect
-    Signal                 : 82%
-    Profile                : Juniper
-
-    Name                   : Wi-Fi 2
-    Description            : Second
-    GUID                   : 11111111-2222-3333-4444-55556666abce
-    Physical address       : 02:00:00:00:10:02
-    State                  : disconnected
-    Radio status           : Hardware On
-                             Software Off
-)";
-
-inline const std::string kProfile = R"(<?xml version="1.0"?>
-<WLANProfile xmlns="http://www.microsoft.com/networking/WLAN/profile/v1">
-	<name>Juniper</name>
-	<SSIDConfig><SSID><hex>4A756E69706572</hex><name>Juniper</name></SSID></SSIDConfig>
-	<connectionType>ESS</connectionType>
-	<connectionMode>auto</connectionMode>
-	<MSM><security>
-		<authEncryption>
-			<authentication>WPA2PSK</authentication><encryption>AES</encryption><useOneX>false</useOneX>
-		</authEncryption>
-		<sharedKey>
-			<keyType>passPhrase</keyType><protected>false</protected><keyMaterial>under the juniper</keyMaterial>
-		</sharedKey>
-	</security></MSM>
-</WLANProfile>
-)";
 
 } // namespace calvix::host::test

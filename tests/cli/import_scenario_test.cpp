@@ -14,16 +14,16 @@ using simulation::Scenario;
 Captures BothCaptures()
 {
     Captures captures;
-    captures.networks = ParseNetworks(kNetworks, "some/folder/networks.txt");
-    captures.interfaces = ParseInterfaces(kInterfaces, "interfaces.txt");
+    ReadCapture(kNetworks, "some/folder/networks.txt", {}, captures);
+    ReadCapture(kInterfaces, "interfaces.txt", {}, captures);
     return captures;
 }
 
 Captures Folder(const std::string& name)
 {
     Captures captures;
-    captures.networks = ParseNetworks(ToUtf8(ReadWholeFile(name + "/networks.txt")), "networks.txt");
-    captures.interfaces = ParseInterfaces(ToUtf8(ReadWholeFile(name + "/interfaces.txt")), "interfaces.txt");
+    for (const char* file : {"/networks.txt", "/interfaces.txt"})
+        ReadCapture(ReadWholeFile(name + file), file, {}, captures);
     captures.profiles = ReadProfileFolder(name + "/profiles");
     return captures;
 }
@@ -86,17 +86,6 @@ TEST(ImportScenario, WhatIsWrittenReadsBackTheSame)
         }
 }
 
-TEST(ImportScenario, CountsWhatItHolds)
-{
-    const ScenarioCounts home = CountScenario(AssembleScenario(Folder(DataPath("home")), false).scenario);
-    EXPECT_EQ(home.adapters, 2u);
-    EXPECT_EQ(home.accessPoints, 11u);
-    EXPECT_EQ(home.networks, 7u);
-    EXPECT_EQ(home.hidden, 2u);
-    // Two are the first adapter's, one the second's, and one everybody's.
-    EXPECT_EQ(home.profiles, 5u);
-}
-
 TEST(ImportScenario, ExportedProfilesGoToTheAdapterThatTheirFilesName)
 {
     const Scenario home = AssembleScenario(Folder(DataPath("home")), false).scenario;
@@ -132,9 +121,7 @@ TEST(ImportScenario, TheSecondProfileOfANameIsLeftOutAloud)
 
 TEST(ImportScenario, WithoutInterfacesOneAdapterIsMadeUp)
 {
-    Captures captures;
-    captures.networks = ParseNetworks(kNetworks, "networks.txt");
-    const Scenario scenario = AssembleScenario(captures, false).scenario;
+    const Scenario scenario = Import(kNetworks).scenario;
     ASSERT_EQ(scenario.adapters.size(), 1u);
     EXPECT_FALSE(scenario.adapters[0].connection);
     EXPECT_TRUE(scenario.adapters[0].profiles.empty());
@@ -144,9 +131,7 @@ TEST(ImportScenario, WithoutInterfacesOneAdapterIsMadeUp)
 
 TEST(ImportScenario, WithoutNetworksTheAirIsWhatAdaptersAreConnectedTo)
 {
-    Captures captures;
-    captures.interfaces = ParseInterfaces(kInterfaces, "interfaces.txt");
-    const MadeScenario imported = AssembleScenario(captures, false);
+    const MadeScenario imported = Import(kInterfaces);
     ASSERT_EQ(imported.scenario.accessPoints.size(), 1u);
     EXPECT_EQ(imported.scenario.accessPoints[0].rssi, -59);
     ASSERT_TRUE(imported.scenario.adapters[0].connection);
@@ -157,7 +142,7 @@ TEST(ImportScenario, WithoutNetworksTheAirIsWhatAdaptersAreConnectedTo)
 TEST(ImportScenario, AConnectionToAnAccessPointThatIsNotInTheListIsLeftOutAloud)
 {
     Captures captures = BothCaptures();
-    captures.networks = ParseNetworks(Replaced(kNetworks, "02:00:00:00:00:01", "02:00:00:00:00:09"), "networks.txt");
+    captures.networks = ReadNetworks(Replaced(kNetworks, "02:00:00:00:00:01", "02:00:00:00:00:09"));
     const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_EQ(imported.scenario.accessPoints.size(), 3u);
     EXPECT_FALSE(imported.scenario.adapters[0].connection);
@@ -169,7 +154,7 @@ TEST(ImportScenario, AConnectionToAnAccessPointThatIsNotInTheListIsLeftOutAloud)
 TEST(ImportScenario, AConnectionWhoseProfileDoesNotFitIsLeftOutAloud)
 {
     Captures captures = BothCaptures();
-    captures.networks = ParseNetworks(Replaced(kNetworks, "WPA2-Personal", "WPA3-Personal"), "networks.txt");
+    captures.networks = ReadNetworks(Replaced(kNetworks, "WPA2-Personal", "WPA3-Personal"));
     captures.profiles.push_back(ParseExportedProfile(kProfile, "Wi-Fi-Juniper.xml"));
     const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_FALSE(imported.scenario.adapters[0].connection);
@@ -180,7 +165,7 @@ TEST(ImportScenario, AConnectionWhoseProfileDoesNotFitIsLeftOutAloud)
 TEST(ImportScenario, AConnectionHasTheNameOfAHiddenAccessPoint)
 {
     Captures captures = BothCaptures();
-    captures.networks = ParseNetworks(Listing("", "02:00:00:00:00:01", 60), "networks.txt");
+    captures.networks = ReadNetworks(Listing("", "02:00:00:00:00:01", 60));
     const Scenario scenario = AssembleScenario(captures, false).scenario;
     ASSERT_EQ(scenario.accessPoints.size(), 1u);
     EXPECT_TRUE(scenario.accessPoints[0].hidden);
@@ -192,26 +177,48 @@ TEST(ImportScenario, AConnectionHasTheNameOfAHiddenAccessPoint)
 TEST(ImportScenario, AnAccessPointThatIsListedTwiceIsOne)
 {
     const std::string address = "02:00:00:00:00:07";
-    Captures captures;
-    captures.networks = ParseNetworks("Interface name : A\n" + Listing("Twice", address, 40) + "Interface name : B\n" +
-                                          Listing("Twice", address, 80),
-                                      "file");
-    const Scenario heardByTwo = AssembleScenario(captures, false).scenario;
-    ASSERT_EQ(heardByTwo.accessPoints.size(), 1u);
-    EXPECT_EQ(heardByTwo.accessPoints[0].rssi, -60);
-    EXPECT_FALSE(heardByTwo.accessPoints[0].hidden);
-
-    for (const auto& [first, second] : {std::pair("", "Twice"), std::pair("Twice", "")})
+    struct Listed
     {
-        captures.networks = ParseNetworks("Interface name : A\n" + Listing(first, address, 40) +
-                                              "Interface name : B\n" + Listing(second, address, 30),
-                                          "file");
-        const Scenario answered = AssembleScenario(captures, false).scenario;
-        ASSERT_EQ(answered.accessPoints.size(), 1u);
-        EXPECT_TRUE(answered.accessPoints[0].hidden);
-        EXPECT_EQ(answered.accessPoints[0].ssid.size(), 5u);
-        EXPECT_EQ(answered.accessPoints[0].rssi, -80);
+        const char* first;
+        const char* second;
+        int signal; ///< of the second; that of the first is 40 %
+        std::int32_t rssi;
+    };
+    for (const Listed& each :
+         {Listed{"Twice", "Twice", 80, -60}, Listed{"", "Twice", 30, -80}, Listed{"Twice", "", 30, -80}})
+    {
+        const std::vector<simulation::AccessPoint> air =
+            Import("Interface name : A\n" + Listing(each.first, address, 40) + "Interface name : B\n" +
+                   Listing(each.second, address, each.signal))
+                .scenario.accessPoints;
+        ASSERT_EQ(air.size(), 1u);
+        EXPECT_EQ(air[0].rssi, each.rssi);
+        EXPECT_EQ(air[0].ssid.size(), 5u);
+        EXPECT_EQ(air[0].hidden, each.first != std::string(each.second)) << "it answered a computer that knew the name";
     }
+}
+
+TEST(ImportScenario, CapturesOfTwoLanguagesGoTogether)
+{
+    Captures captures;
+    ReadCapture(Sample("languages/japanese/networks.txt"), "n", {}, captures);
+    ReadCapture(Sample("languages/russian/interfaces.txt"), "i", {}, captures);
+    const MadeScenario imported = AssembleScenario(captures, false);
+    EXPECT_TRUE(imported.scenario.adapters.at(0).connection);
+    EXPECT_EQ(imported.warnings, std::vector<std::string>());
+    EXPECT_FALSE(
+        Import(Sample("languages/german/networks.txt") + Sample("languages/french/networks.txt")).warnings.empty());
+}
+
+TEST(ImportScenario, TheSummaryCountsWhatIsListed)
+{
+    Scenario scenario = Import(kNetworks).scenario;
+    EXPECT_EQ(CountScenario(scenario).networks, 2u);
+    scenario.accessPoints[0].hidden = true;
+    EXPECT_EQ(CountScenario(scenario).networks, 3u) << "those that hide their names are an entry of their own";
+    scenario.adapters[0].phys[0].hardware = simulation::RadioSwitch::off;
+    scenario.accessPoints.clear();
+    EXPECT_EQ(CountScenario(scenario).networks, 0u);
 }
 
 TEST(ImportScenario, ProfilesCanBeMadeForTheNamedNetworksThatHaveNone)
@@ -229,9 +236,7 @@ TEST(ImportScenario, ProfilesCanBeMadeForTheNamedNetworksThatHaveNone)
 
 TEST(ImportScenario, NoProfileIsMadeForSecurityThatNoProfileCanAskFor)
 {
-    Captures captures;
-    captures.networks = ParseNetworks(Replaced(kNetworks, "CCMP", "WEP"), "file");
-    const MadeScenario imported = AssembleScenario(captures, true);
+    const MadeScenario imported = AssembleScenario(Read(Replaced(kNetworks, "CCMP", "WEP")), true);
     EXPECT_EQ(imported.scenario.adapters.at(0).profiles.size(), 1u);
     ASSERT_FALSE(imported.warnings.empty());
     EXPECT_EQ(imported.warnings[0], "the profile \"Juniper\" cannot be made: no profile has WPA2PSK with WEP");

@@ -1,4 +1,4 @@
-#include "import/netsh_values.h"
+#include "import/capture_values.h"
 #include "import_samples.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 
 #include "output/dot_canvas.h"
 #include "output/text_forms.h"
-#include "report/picture_labels.h"
+#include "report/picture_parts.h"
 
 #include <sstream>
 

@@ -1,5 +1,6 @@
 #include "cli_test.h"
 
+#include "output/failure.h"
 #include "report/html_text.h"
 
 #include <nlohmann/json.hpp>
@@ -114,7 +115,7 @@ TEST_F(ReportPage, NamesArePutInAsText)
 
 TEST(HtmlText, EscapesWhatHasAMeaning)
 {
-    EXPECT_EQ("&lt;a href=&quot;x&quot; b=&#39;y&#39;&gt;&amp;amp;", host::EscapeHtml("<a href=\"x\" b='y'>&amp;"));
+    EXPECT_EQ("&lt;a href=&quot;x&quot; b=&apos;y&apos;&gt;&amp;amp;", host::EscapeHtml("<a href=\"x\" b='y'>&amp;"));
     EXPECT_EQ("a\xef\xbf\xbd b\xef\xbf\xbd", host::EscapeHtml(std::string("a\0\nb\x7f", 5)));
     EXPECT_EQ("1 {{b}} 2", host::FillTemplate("{{a}} 2", {{"a", "1 {{b}}"}, {"b", "never"}}));
     EXPECT_THROW(host::FillTemplate("{{c}}", {{"a", ""}}), std::logic_error);
@@ -225,7 +226,7 @@ TEST_F(ReportPage, MarksTheRoamsOfTheOfficeWalk)
     EXPECT_EQ("02:B8:00:11:00:02", data["events"][0]["from"]);
     EXPECT_EQ("02:B8:00:12:00:02", data["events"][0]["to"]);
     EXPECT_EQ("02:B8:00:13:00:02", data["events"][1]["to"]);
-    EXPECT_EQ(2u, Count(page, "<path class=\"mark\""));
+    EXPECT_EQ(2u, Count(page, "<line class=\"mark\""));
     EXPECT_THAT(page, HasSubstr("moved from 02:B8:00:11:00:02 to 02:B8:00:12:00:02"));
     EXPECT_EQ(1u, Count(page, ">gone<")) << "the first access point is out of reach at the end";
     EXPECT_EQ(241u, data["heard"]["02:B8:00:11:00:02"].size());

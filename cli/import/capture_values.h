@@ -19,7 +19,7 @@ bool IsBand(std::string_view text);
 bool IsAddress(std::string_view text);
 bool IsGuid(std::string_view text);
 
-/// What the words and numbers of netsh mean. Every function throws LineError, with the field's line, for a value that it
+/// What the words and numbers of the tools mean. Every function throws LineError, with the field's line, for a value that it
 /// does not know.
 
 /// "Infrastructure" or "Adhoc" as DOT11_BSS_TYPE.
@@ -39,8 +39,8 @@ simulation::MacAddress Address(const CaptureField& field);
 /// A GUID with or without braces, as "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" in capitals.
 std::string GuidText(const CaptureField& field);
 
-/// An SSID, whose 32 bytes at most are those of its UTF-8 text; empty for a network that hides its name.
-simulation::Bytes Ssid(const CaptureField& field);
+/// An SSID of 32 bytes at most; empty for a network that hides its name.
+simulation::Bytes Ssid(std::string_view bytes, std::size_t line);
 
 /// Sets what the record says of how an access point is heard: its strength, PHY type and frequency. "Rssi" is exact; newer
 /// systems print it beside the percentage, of which 0 to 100 % are -100 to -50 dBm by the service's rule.
@@ -52,5 +52,11 @@ std::uint32_t RateKbps(const CaptureField* field);
 /// The centre frequency in kHz of a channel of the band "2.4", "5" or "6". An empty band is 2.4 or 5, as systems that leave
 /// it out know nothing of 6 GHz. None for a channel that captures of the band cannot hold.
 std::optional<std::uint32_t> CapturedFrequency(std::string_view band, int channel);
+
+/// The frequency in kHz of a megahertz value that a tool printed, 0 for one that no channel has.
+std::uint32_t FrequencyFromMegahertz(std::string_view text);
+
+/// The PHY type of an access point of which nothing newer is known: by its band and its highest rate.
+std::uint32_t OldPhyType(std::uint32_t frequencyKhz, int highestRate);
 
 } // namespace calvix::host

@@ -6,6 +6,33 @@
 namespace calvix::host
 {
 
+/// What the pictures of signals are made of, as SVG.
+
+std::string PointText(double x, double y);
+std::string SvgLine(const char* kind, double x1, double y1, double x2, double y2);
+std::string SvgText(const char* kind, double x, double y, const std::string& text);
+
+/// Signals in dBm by something else, which runs from left to right.
+struct SignalPanel
+{
+    static constexpr double kHeight = 300;
+    static constexpr double kLeft = 44; ///< before it, the dBm
+    static constexpr double kTop = 30;
+    static constexpr double kBottom = kHeight - 40; ///< below it, what runs from left to right
+
+    double width;
+
+    double Right() const { return width - 14; }
+    /// Where a part of the way from left to right ends, 0 to 1.
+    double X(double part) const { return kLeft + part * (Right() - kLeft); }
+    static double Y(long dbm);
+
+    std::string SignalAxis() const;
+    /// A mark of the other axis.
+    static std::string Tick(double x, const std::string& text);
+    std::string AxisName(const char* name) const;
+};
+
 /// The place of a label: the middle of its text's base line.
 struct LabelPlace
 {

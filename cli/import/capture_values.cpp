@@ -1,4 +1,4 @@
-#include "import/netsh_values.h"
+#include "import/capture_values.h"
 
 #include "forms/address_text.h"
 #include "forms/channel.h"
@@ -66,7 +66,7 @@ std::string_view BandIn(std::string_view text)
     for (const auto& [number, band] : kBands)
     {
         const std::string_view unit = text.starts_with(number) ? Trim(text.substr(number.size())) : "";
-        if (SameWord(unit, "GHz") || unit == "ГГц")
+        if (SameButForCase(unit, "GHz") || unit == "ГГц")
             return band;
     }
     return {};
@@ -93,7 +93,7 @@ std::uint32_t PhyType(const CaptureField& field)
     constexpr std::pair<std::string_view, std::uint32_t> kTypes[] = {{"a", 4u},  {"b", 5u},  {"g", 6u},   {"n", 7u},
                                                                      {"ac", 8u}, {"ad", 9u}, {"ax", 10u}, {"be", 11u}};
     for (const auto& [letters, type] : kTypes)
-        if (IsRadioType(field.value) && SameWord(Trim(std::string_view(field.value).substr(6)), letters))
+        if (IsRadioType(field.value) && SameButForCase(Trim(std::string_view(field.value).substr(6)), letters))
             return type;
     throw Unusable(field, "a known radio type (802.11a, b, g, n, ac, ad, ax or be)");
 }
@@ -137,7 +137,7 @@ std::string Encryption(const CaptureField& field, const Vocabulary& vocabulary)
     if (std::string known = vocabulary.MeaningOf(field.value, {"none"}); !known.empty())
         return known;
     for (const auto& [name, cipher] : kCiphers)
-        if (SameWord(name, field.value))
+        if (SameButForCase(name, field.value))
             return cipher;
     const bool couldBeCipher =
         field.value.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-") == std::string::npos;
@@ -210,11 +210,11 @@ std::string GuidText(const CaptureField& field)
     throw Unusable(field, "a GUID");
 }
 
-simulation::Bytes Ssid(const CaptureField& field)
+simulation::Bytes Ssid(std::string_view bytes, std::size_t line)
 {
-    if (field.value.size() > 32)
-        throw LineError(field.line, "this SSID is longer than 32 bytes");
-    return simulation::Bytes(field.value.begin(), field.value.end());
+    if (bytes.size() > 32)
+        throw LineError(line, "this SSID is longer than 32 bytes");
+    return simulation::Bytes(bytes.begin(), bytes.end());
 }
 
 void Hear(const CaptureRecord& record, simulation::AccessPoint& accessPoint)
@@ -251,6 +251,26 @@ std::optional<std::uint32_t> CapturedFrequency(std::string_view band, int channe
     if (channel < 0 || (band == "5" && !is5))
         return std::nullopt;
     return forms::ChannelFrequency(band, static_cast<std::uint32_t>(channel));
+}
+
+std::uint32_t OldPhyType(std::uint32_t frequencyKhz, int highestRate)
+{
+    constexpr std::uint32_t kOfdm = 4;
+    constexpr std::uint32_t kDsssAtHighRate = 5;
+    constexpr std::uint32_t kErp = 6;
+    constexpr std::uint32_t kDmg = 9;
+    if (frequencyKhz >= 45000000)
+        return kDmg;
+    if (frequencyKhz >= 3000000)
+        return kOfdm;
+    return highestRate > 11 ? kErp : kDsssAtHighRate;
+}
+
+std::uint32_t FrequencyFromMegahertz(std::string_view text)
+{
+    // Newer versions of iw print a fraction, which is zero for every channel of these bands.
+    const int megahertz = WholeNumber(text.substr(0, text.find_first_of(". ")));
+    return megahertz >= 2400 && megahertz <= 71000 ? static_cast<std::uint32_t>(megahertz) * 1000 : 0;
 }
 
 } // namespace calvix::host
