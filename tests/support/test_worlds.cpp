@@ -65,26 +65,27 @@ std::vector<AccessPoint> RichAirspace()
     };
 }
 
+/// A profile of the network of its name.
+StoredProfile Stored(ProfileSettings settings)
+{
+    settings.ssid = BytesOf(settings.name);
+    return {simulation::MakeProfileXml(settings)};
+}
+
 StoredProfile MakeOpenProfile(const std::string& name, std::uint32_t bssType)
 {
-    ProfileSettings settings;
-    settings.name = name;
-    settings.ssid = BytesOf(name);
-    settings.mode = "manual";
-    settings.authentication = "open";
-    settings.encryption = "none";
-    settings.bssType = bssType;
-    return {simulation::MakeProfileXml(settings)};
+    return Stored({.name = name,
+                   .ssid = {},
+                   .mode = "manual",
+                   .authentication = "open",
+                   .encryption = "none",
+                   .key = {},
+                   .bssType = bssType});
 }
 
 StoredProfile MakeHiddenProfile(const std::string& name)
 {
-    ProfileSettings settings;
-    settings.name = name;
-    settings.ssid = BytesOf(name);
-    settings.key = name + " key";
-    settings.hidden = true;
-    return {simulation::MakeProfileXml(settings)};
+    return Stored({.name = name, .ssid = {}, .key = name + " key", .hidden = true});
 }
 
 AdapterDescription MakeAdapterA()
@@ -114,11 +115,6 @@ AdapterDescription MakeAdapterB()
     adapter.profiles = {MakeOpenProfile("CafeNet", 1)};
     return adapter;
 }
-
-} // namespace
-
-namespace
-{
 
 Scenario MakeRichWorld()
 {
@@ -166,6 +162,13 @@ Scenario NoProfileWorld()
     return world;
 }
 
+Scenario WorldInCodePage(std::uint32_t codePage)
+{
+    Scenario world = RichWorld();
+    world.codePage = codePage;
+    return world;
+}
+
 Scenario Furnished(Scenario world)
 {
     constexpr std::uint32_t kNoMoreItems = 259;
@@ -196,12 +199,7 @@ MakeAccessPoint(const std::string& ssid, const MacAddress& bssid, std::uint32_t 
 
 StoredProfile MakeProfile(const std::string& name, const std::string& mode)
 {
-    ProfileSettings settings;
-    settings.name = name;
-    settings.ssid = BytesOf(name);
-    settings.mode = mode;
-    settings.key = name + " key";
-    return {simulation::MakeProfileXml(settings)};
+    return Stored({.name = name, .ssid = {}, .mode = mode, .key = name + " key"});
 }
 
 } // namespace calvix::test

@@ -61,6 +61,9 @@ simulation::Scenario NoAdapterWorld();
 /// RichWorld without any stored profile, hence without a connection.
 simulation::Scenario NoProfileWorld();
 
+/// RichWorld on a computer with this narrow code page.
+simulation::Scenario WorldInCodePage(std::uint32_t codePage);
+
 /// The world with what the methods ask beside the radio: power, programs, processes, an answer of the first adapter's
 /// driver. Listing the power schemes fails, or GetPowerScheme would never end.
 simulation::Scenario Furnished(simulation::Scenario world);

@@ -1,3 +1,4 @@
+#include "methods/method.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
@@ -53,12 +54,10 @@ public:
     }
 };
 
-/// Attributes as a host keeps them: of HomeNet, even if the adapter is not connected to it.
+/// Attributes as a host keeps them: of a network, even if the adapter is not connected to it.
 WLAN_CONNECTION_ATTRIBUTES KeptAttributes(const std::string& ssid = "HomeNet", BOOL secured = TRUE)
 {
-    WLAN_CONNECTION_ATTRIBUTES record{};
-    record.wlanAssociationAttributes.dot11Ssid = MakeSsid(ssid);
-    record.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_infrastructure;
+    WLAN_CONNECTION_ATTRIBUTES record = methods::ConnectionWith(ssid);
     record.wlanSecurityAttributes.bSecurityEnabled = secured;
     return record;
 }

@@ -107,13 +107,4 @@ TEST_F(StrictCopyDeathTest, EndsTheProcessWhenAHandlerReturns)
         "handled calvix: fatal caller error in Method: a mistake");
 }
 
-TEST_F(StrictCopyDeathTest, TheConversionsEndTheProcess)
-{
-    char text[32];
-    const DOT11_SSID tooLong{65, {}};
-    EXPECT_DEATH(manager().GetBSSID(nullptr, text, 32), "GetBSSID: null source");
-    EXPECT_DEATH(manager().WideCharToChar(L"HomeNet", text, 7), "WideCharToChar: the destination is too small");
-    EXPECT_DEATH(manager().GetSSID(&tooLong, text, 32), "GetSSID: the SSID is longer than 64 bytes");
-}
-
 } // namespace calvix::test::strict_copy_test

@@ -50,24 +50,18 @@ TEST(FormatTraceTest, SaysWhetherTheTextFitted)
     }
 }
 
-TEST(FormatTraceTest, RefusesACapacityOfNothingAndWritesNothing)
+// One beyond the largest empties the text, none at all leaves it.
+TEST(FormatTraceTest, RefusesCapacitiesThatAreNone)
 {
-    char buffer[] = "kept";
-    EXPECT_EQ(kBadCapacity, FormatTrace(buffer, 0, "%d", 1));
-    EXPECT_STREQ("kept", buffer);
-    wchar_t wide[] = L"kept";
-    EXPECT_EQ(kBadCapacity, FormatTraceW(wide, 0, L"%d", 1));
-    EXPECT_STREQ(L"kept", wide);
-}
-
-TEST(FormatTraceTest, RefusesACapacityBeyondTheLargestAndEmptiesTheText)
-{
-    char buffer[] = "gone";
-    EXPECT_EQ(kBadCapacity, FormatTrace(buffer, 0x80000000u, "%d", 1));
-    EXPECT_STREQ("", buffer);
-    wchar_t wide[] = L"gone";
-    EXPECT_EQ(kBadCapacity, FormatTraceW(wide, 0x80000000u, L"%d", 1));
-    EXPECT_STREQ(L"", wide);
+    for (const auto& [capacity, left] : {std::pair(0u, 'g'), std::pair(0x80000000u, '\0')})
+    {
+        char buffer[] = "gone";
+        EXPECT_EQ(kBadCapacity, FormatTrace(buffer, capacity, "%d", 1));
+        EXPECT_EQ(left, buffer[0]);
+        wchar_t wide[] = L"gone";
+        EXPECT_EQ(kBadCapacity, FormatTraceW(wide, capacity, L"%d", 1));
+        EXPECT_EQ(left, static_cast<char>(wide[0]));
+    }
 }
 
 TEST(FormatTraceTest, CutsALineAtTheSharedBuffersLastPlace)

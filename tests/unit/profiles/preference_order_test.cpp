@@ -2,6 +2,7 @@
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
+#include "unit/profiles/profile_names.h"
 
 #include <string>
 #include <vector>
@@ -17,17 +18,7 @@ namespace
 class PreferenceOrderTest : public LibraryTest
 {
 public:
-    /// Names of adapter A's profiles, in preference order.
-    std::vector<std::wstring> Order()
-    {
-        std::vector<std::wstring> names;
-        WLAN_PROFILE_INFO_LIST* list = nullptr;
-        EXPECT_EQ(0u, computer().wlan().WlanGetProfileList(ManagerInternals::Client(), &kAdapterA, nullptr, &list));
-        for (DWORD i = 0; i < list->dwNumberOfItems; ++i)
-            names.emplace_back(list->ProfileInfo[i].strProfileName);
-        computer().wlan().WlanFreeMemory(list);
-        return names;
-    }
+    std::vector<std::wstring> Order() { return ProfileNames(*this); }
 };
 
 simulation::Scenario ConnectedWorld(std::vector<simulation::StoredProfile> profiles, const std::string& connected)

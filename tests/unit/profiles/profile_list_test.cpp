@@ -1,7 +1,9 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
+#include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
+#include "unit/profiles/profile_names.h"
 
 #include <string>
 
@@ -21,31 +23,15 @@ std::wstring Wide(const std::string& ascii)
 class ProfileListTest : public LibraryTest
 {
 public:
-    /// Names of adapter A's profiles as the service lists them now.
-    std::vector<std::wstring> StoredNames()
-    {
-        WLAN_PROFILE_INFO_LIST* list = nullptr;
-        EXPECT_EQ(0u, computer().wlan().WlanGetProfileList(ManagerInternals::Client(), &kAdapterA, nullptr, &list));
-        std::vector<std::wstring> names;
-        for (DWORD i = 0; list != nullptr && i < list->dwNumberOfItems; ++i)
-            names.emplace_back(list->ProfileInfo[i].strProfileName);
-        computer().wlan().WlanFreeMemory(list);
-        return names;
-    }
+    std::vector<std::wstring> StoredNames() { return ProfileNames(*this); }
 
     /// A disconnected adapter A with these profiles, all of the network HomeNet.
     void UseProfiles(const std::vector<std::string>& names)
     {
-        simulation::Scenario scenario = DisconnectedWorld();
-        scenario.adapters[0].profiles.clear();
+        std::vector<simulation::StoredProfile> profiles;
         for (const std::string& name : names)
-        {
-            simulation::ProfileSettings settings;
-            settings.name = name;
-            settings.ssid = {'H', 'o', 'm', 'e', 'N', 'e', 't'};
-            scenario.adapters[0].profiles.push_back({simulation::MakeProfileXml(settings)});
-        }
-        UseWorld(scenario);
+            profiles.push_back(ProfileFor(name, "HomeNet"));
+        UseWorld(WorldOf(std::move(profiles), {}));
     }
 };
 
@@ -96,9 +82,7 @@ TEST_F(ProfileListTest, GetWlanProfileReadsTheNameInTheActiveCodePage)
 
 TEST_F(ProfileListTest, GetWlanProfileReportsInvalidCharacters)
 {
-    simulation::Scenario scenario = RichWorld();
-    scenario.codePage = 932;
-    UseWorld(scenario);
+    UseWorld(WorldInCodePage(932));
     EXPECT_EQ(1113, manager().GetWlanProfile(&kAdapterA, "Home\x81")); // a lead byte alone
     EXPECT_THAT(traced(), ElementsAre("Profile Name error: 1113"));
     EXPECT_THAT(calls(), ElementsAre("MultiByteToWideChar"));
@@ -113,9 +97,7 @@ TEST_F(ProfileListTest, AnErrorFromEarlierIsNotTheNames)
 
 TEST_F(ProfileListTest, GetWlanProfileReportsTheRefusalOfAUtf8CodePage)
 {
-    simulation::Scenario scenario = RichWorld();
-    scenario.codePage = 65001;
-    UseWorld(scenario);
+    UseWorld(WorldInCodePage(65001));
     EXPECT_EQ(1004, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
     EXPECT_THAT(traced(), ElementsAre("Profile Name error: 1004"));
 }

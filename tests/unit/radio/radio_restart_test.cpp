@@ -1,5 +1,5 @@
-#include "unit/inventory/trace_texts.h"
-#include "unit/radio/radio_answers.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
 
 #include <algorithm>
 

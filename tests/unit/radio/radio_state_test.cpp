@@ -1,9 +1,8 @@
 #include "methods/method.h"
+#include "support/edited_answers.h"
+#include "support/library_test.h"
 #include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
-#include "unit/radio/radio_answers.h"
-
-#include <functional>
 
 namespace calvix::test::radio_state_test
 {
@@ -68,7 +67,13 @@ TEST_F(RadioStateTest, OffIsWhatOneOfTheTwoSwitchesSays)
         for (const unsigned hardware : {kUnknown, kOn, kOff, 3U})
         {
             SCOPED_TRACE("software " + std::to_string(software) + ", hardware " + std::to_string(hardware));
-            const EditedAnswers altered(WithFirstPhy(software, hardware));
+            const EditedAnswers altered({.query = [software, hardware](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+                                         {
+                                             WLAN_PHY_RADIO_STATE& first =
+                                                 static_cast<WLAN_RADIO_STATE*>(data)->PhyRadioState[0];
+                                             first.dot11SoftwareRadioState = static_cast<DOT11_RADIO_STATE>(software);
+                                             first.dot11HardwareRadioState = static_cast<DOT11_RADIO_STATE>(hardware);
+                                         }});
             const int off = software == kOff || hardware == kOff ? 1 : 0;
             Switches seen;
             EXPECT_EQ(1 - off, manager().PhyRadioIsOn(&kAdapterA));
@@ -109,13 +114,19 @@ TEST_F(RadioStateTest, TheInterfaceIsTheCallers)
     EXPECT_EQ(0, manager().PhyRadioIsOn(&kAdapterA));
 }
 
+// What lies where the first PHY would be says off.
 TEST_F(RadioStateTest, AnAdapterWithoutAnyPhy)
 {
+    const EditedAnswers altered({.query = [](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+                                 {
+                                     auto& radio = *static_cast<WLAN_RADIO_STATE*>(data);
+                                     radio.dwNumberOfPhys = 0;
+                                     radio.PhyRadioState[0].dot11SoftwareRadioState = dot11_radio_state_off;
+                                 }});
     for (const RadioMethod& method : kMethods)
     {
         SCOPED_TRACE(method.name);
         ClearCalls();
-        const EditedAnswers altered(WithoutPhy());
         EXPECT_EQ(method.noPhy, Ask(method.name));
         EXPECT_THAT(traced(), ElementsAre(kNoPhyText));
         EXPECT_EQ(method.traceIsShared, !sharedTraceUntouched());

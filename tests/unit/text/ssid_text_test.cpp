@@ -18,13 +18,6 @@ DOT11_SSID MakeSsidOfLength(const std::string& bytes, ULONG length)
     return ssid;
 }
 
-simulation::Scenario WorldOfCodePage(std::uint32_t codePage)
-{
-    simulation::Scenario world = RichWorld();
-    world.codePage = codePage;
-    return world;
-}
-
 } // namespace
 
 class SsidTextTest : public LibraryTest
@@ -104,7 +97,7 @@ TEST_F(SsidTextTest, TheBytesAreTakenAsUtf8)
     };
     for (const auto& each : cases)
     {
-        UseWorld(WorldOfCodePage(each.codePage));
+        UseWorld(WorldInCodePage(each.codePage));
         EXPECT_EQ(each.narrow, Narrow(MakeSsid(each.ssid))) << each.codePage;
         EXPECT_EQ(each.wide, Wide(MakeSsid(each.ssid))) << each.codePage;
     }
@@ -178,30 +171,10 @@ TEST_F(SsidTextTest, TheCapacityCutsSilently)
     }
 }
 
-TEST_F(SsidTextTest, AFailedConversionGivesZero)
-{
-    const DOT11_SSID ssid = MakeSsid("HomeNet");
-    FailOn("MultiByteToWideChar", 1113);
-    EXPECT_EQ(0, manager().GetSSID(&ssid, m_narrow, 128));
-    EXPECT_EQ(0, manager().GetSSID(&ssid, m_wide, 128));
-    EXPECT_EQ(2u, InjectedFailures());
-    EXPECT_EQ(0u, callCount("WideCharToMultiByte"));
-
-    ClearFailures();
-    FailOn("WideCharToMultiByte", 1113);
-    EXPECT_EQ(0, manager().GetSSID(&ssid, m_narrow, 128));
-    EXPECT_EQ(1u, InjectedFailures());
-    EXPECT_EQ(1, manager().GetSSID(&ssid, m_wide, 128)) << "the wide form needs no narrow text";
-
-    EXPECT_EQ('#', m_narrow[0]) << "the destination is left as it was";
-    EXPECT_THAT(traced(), IsEmpty());
-    EXPECT_TRUE(sharedTraceUntouched());
-}
-
 // Thirty-two replacement characters are 96 bytes of UTF-8, more than the 64 that the conversion has room for.
 TEST_F(SsidTextTest, TextBeyond64NarrowBytesGivesZero)
 {
-    UseWorld(WorldOfCodePage(65001));
+    UseWorld(WorldInCodePage(65001));
     const DOT11_SSID ssid = MakeSsid(std::string(32, '\xFF'));
     EXPECT_EQ(0, manager().GetSSID(&ssid, m_narrow, 128));
     EXPECT_EQ('#', m_narrow[0]);
