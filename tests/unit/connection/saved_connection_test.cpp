@@ -276,30 +276,6 @@ TEST_F(SavedConnectionTest, ANullNotificationEmptiesTheMemoryAndIsFatal)
 
 // --- RecoverConnNotificationData --------------------------------------------------------------------------------
 
-TEST_F(SavedConnectionTest, ReconnectsWithTheSavedNotification)
-{
-    SaveNotificationFirst(*this);
-    EXPECT_EQ(0, RecoverNotification(manager()));
-    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"HomeNet\"/7", "infrastructure", "true"),
-                                         ConnectLine("HomeNet", "[02:11:00:00:24:06]"), kRelease));
-    ExpectSilence();
-}
-
-TEST_F(SavedConnectionTest, TheAccessPointIsTheLastThatBeatsTheFirst)
-{
-    SaveNotificationFirst(*this);
-    EditedAnswers edited;
-    edited.service.bss = [](WLAN_BSS_LIST& list)
-    {
-        ASSERT_EQ(3u, list.dwNumberOfItems);
-        list.wlanBssEntries[0].uLinkQuality = 50;
-        list.wlanBssEntries[1].uLinkQuality = 90;
-        list.wlanBssEntries[2].uLinkQuality = 51;
-    };
-    EXPECT_EQ(0, RecoverNotification(manager()));
-    EXPECT_EQ(ConnectLine("HomeNet", "[02:11:00:00:60:01]"), call("WlanConnect").line);
-}
-
 TEST_F(SavedConnectionTest, TheSavedModeDoesNotMatterToNotifications)
 {
     SaveNotificationFirst(*this);

@@ -80,14 +80,6 @@ TEST_F(ProfileListTest, GetWlanProfileReadsTheNameInTheActiveCodePage)
     EXPECT_EQ(-1, manager().GetWlanProfile(&kAdapterA, "Cafe"));
 }
 
-TEST_F(ProfileListTest, GetWlanProfileReportsInvalidCharacters)
-{
-    UseWorld(WorldInCodePage(932));
-    EXPECT_EQ(1113, manager().GetWlanProfile(&kAdapterA, "Home\x81")); // a lead byte alone
-    EXPECT_THAT(traced(), ElementsAre("Profile Name error: 1113"));
-    EXPECT_THAT(calls(), ElementsAre("MultiByteToWideChar"));
-}
-
 // The precomposed flag is none that UTF-8 takes.
 TEST_F(ProfileListTest, AnErrorFromEarlierIsNotTheNames)
 {

@@ -107,61 +107,48 @@ TEST_F(ProfileXmlTest, TheSsidsNameIsComparedExactly)
         EXPECT_EQ(0, IsThisSsid(xml, other)) << ::testing::PrintToString(std::wstring(other));
 }
 
-TEST_F(ProfileXmlTest, CaseMatters)
+TEST_F(ProfileXmlTest, TheFirstNameAfterTheSsidTagIsTheSsids)
 {
-    EXPECT_EQ(0, IsThisSsid(InSsid(L"<name>A</name>"), L"a"));
-    EXPECT_EQ(1, IsThisSsid(InSsid(L"<name>A</name>"), L"A"));
-}
-
-TEST_F(ProfileXmlTest, EntitiesAreNotDecoded)
-{
-    EXPECT_EQ(1, IsThisSsid(InSsid(L"<name>A&amp;B</name>"), L"A&amp;B"));
-    EXPECT_EQ(0, IsThisSsid(InSsid(L"<name>A&amp;B</name>"), L"A&B"));
-}
-
-TEST_F(ProfileXmlTest, WhiteSpaceIsPartOfTheName)
-{
-    EXPECT_EQ(0, IsThisSsid(InSsid(L"<name> A </name>"), L"A"));
-    EXPECT_EQ(1, IsThisSsid(InSsid(L"<name> A </name>"), L" A "));
-    EXPECT_EQ(1, IsThisSsid(InSsid(L"<name></name>"), L"")) << "an empty name is a name";
-}
-
-TEST_F(ProfileXmlTest, TheFirstNameAfterTheSsidTagCounts)
-{
-    EXPECT_EQ(1, IsThisSsid(InSsid(L"<name>One</name><name>Two</name>"), L"One"));
-    EXPECT_EQ(0, IsThisSsid(InSsid(L"<name>One</name><name>Two</name>"), L"Two"));
-    EXPECT_EQ(1, IsThisSsid(L"<SSID><name>One</name></SSID><SSID><name>Two</name></SSID>", L"One"));
-    EXPECT_EQ(0, IsThisSsid(L"<SSID><name>One</name></SSID><SSID><name>Two</name></SSID>", L"Two"));
-}
-
-// Deliberate: the search does not end with the element.
-TEST_F(ProfileXmlTest, ANameAfterTheSsidElementIsTakenWhenThereIsNoneInIt)
-{
-    EXPECT_EQ(1, IsThisSsid(L"<SSID><hex>41</hex></SSID><other><name>Later</name></other>", L"Later"));
-    EXPECT_EQ(1, IsThisSsid(L"<SSID><hex>41</hex></SSID>stray</name>", L"stray"));
-    EXPECT_EQ(0, IsThisSsid(L"<SSID><hex>41</hex></SSID>stray</name>", L"41"));
-}
-
-TEST_F(ProfileXmlTest, NamesBeforeTheSsidTagDoNotCount)
-{
-    EXPECT_EQ(0, IsThisSsid(L"<name>A</name><SSID></SSID>", L"A"));
-    EXPECT_EQ(1, IsThisSsid(L"<SSID>A</name>", L"A")) << "the SSID tag itself may be the one before the text";
-}
-
-TEST_F(ProfileXmlTest, OnlyTheExactSsidTagIsFound)
-{
-    EXPECT_EQ(0, IsThisSsid(L"<SSIDConfig><name>A</name></SSIDConfig>", L"A"));
-    EXPECT_EQ(0, IsThisSsid(L"<ssid><name>A</name></ssid>", L"A"));
-    EXPECT_EQ(0, IsThisSsid(L"<SSID ><name>A</name></SSID>", L"A"));
-    EXPECT_EQ(0, IsThisSsid(L"<SSID><name>A</Name></SSID>", L"A"));
-}
-
-TEST_F(ProfileXmlTest, OtherDocumentsHaveNoSsid)
-{
-    EXPECT_EQ(0, IsThisSsid(L"", L"A"));
-    EXPECT_EQ(0, IsThisSsid(L"", L""));
-    EXPECT_EQ(0, IsThisSsid(L"A", L"A"));
-    EXPECT_EQ(0, IsThisSsid(L"<SSID><name>A", L"A"));
+    const std::wstring twoNames = InSsid(L"<name>One</name><name>Two</name>");
+    const std::wstring twoSsids = L"<SSID><name>One</name></SSID><SSID><name>Two</name></SSID>";
+    const std::wstring stray = L"<SSID><hex>41</hex></SSID>stray</name>";
+    const struct
+    {
+        std::wstring xml;
+        std::wstring ssid;
+        int expected;
+    } rows[] = {
+        // Case and white space matter, entities are not decoded, and an empty name is a name.
+        {InSsid(L"<name>A</name>"), L"A", 1},
+        {InSsid(L"<name>A</name>"), L"a", 0},
+        {InSsid(L"<name> A </name>"), L"A", 0},
+        {InSsid(L"<name> A </name>"), L" A ", 1},
+        {InSsid(L"<name></name>"), L"", 1},
+        {InSsid(L"<name>A&amp;B</name>"), L"A&amp;B", 1},
+        {InSsid(L"<name>A&amp;B</name>"), L"A&B", 0},
+        {twoNames, L"One", 1},
+        {twoNames, L"Two", 0},
+        {twoSsids, L"One", 1},
+        {twoSsids, L"Two", 0},
+        // Deliberate: the search does not end with the element.
+        {L"<SSID><hex>41</hex></SSID><other><name>Later</name></other>", L"Later", 1},
+        {stray, L"stray", 1},
+        {stray, L"41", 0},
+        // The SSID tag itself may be the one before the text, but names before it do not count.
+        {L"<SSID>A</name>", L"A", 1},
+        {L"<name>A</name><SSID></SSID>", L"A", 0},
+        // No other tag than this very one.
+        {L"<SSIDConfig><name>A</name></SSIDConfig>", L"A", 0},
+        {L"<ssid><name>A</name></ssid>", L"A", 0},
+        {L"<SSID ><name>A</name></SSID>", L"A", 0},
+        {L"<SSID><name>A</Name></SSID>", L"A", 0},
+        {L"<SSID><name>A", L"A", 0},
+        {L"A", L"A", 0},
+        {L"", L"A", 0},
+        {L"", L"", 0},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(row.expected, IsThisSsid(row.xml, row.ssid)) << ::testing::PrintToString(row.xml);
     wchar_t ssid[] = L"A";
     EXPECT_EQ(0, manager().IsThisSSID(nullptr, ssid));
     EXPECT_EQ(0, manager().IsThisSSID(L"<SSID>A</name>", nullptr));

@@ -53,25 +53,29 @@ std::string SetLine(const char* opcode)
 
 // --- EnableAutoCfg, EnableBackgroundScan ---
 
-TEST_F(InterfaceSettingsTest, AutomaticConfigurationIsSwitchedOn)
+TEST_F(InterfaceSettingsTest, BehavioursAreSwitchedOn)
 {
-    Disable(wlan_intf_opcode_autoconf_enabled);
-    EXPECT_EQ(0, manager().EnableAutoCfg(&kAdapterA));
-    EXPECT_THAT(callLines(), ElementsAre(SetLine("autoconf_enabled")));
-    ExpectSilence();
-    EXPECT_TRUE(IsEnabled(wlan_intf_opcode_autoconf_enabled));
-
-    EXPECT_EQ(0, manager().EnableAutoCfg(&kAdapterA)) << "once more changes nothing";
-    EXPECT_TRUE(IsEnabled(wlan_intf_opcode_autoconf_enabled));
-}
-
-TEST_F(InterfaceSettingsTest, BackgroundScanningIsSwitchedOn)
-{
-    Disable(wlan_intf_opcode_background_scan_enabled);
-    EXPECT_EQ(0, manager().EnableBackgroundScan(&kAdapterA));
-    EXPECT_THAT(callLines(), ElementsAre(SetLine("background_scan_enabled")));
-    ExpectSilence();
-    EXPECT_TRUE(IsEnabled(wlan_intf_opcode_background_scan_enabled));
+    const struct
+    {
+        WLAN_INTF_OPCODE behaviour;
+        const char* opcode;
+        decltype(&CWirelessManage::EnableAutoCfg) enable;
+    } rows[] = {
+        {wlan_intf_opcode_autoconf_enabled, "autoconf_enabled", &CWirelessManage::EnableAutoCfg},
+        {wlan_intf_opcode_background_scan_enabled, "background_scan_enabled", &CWirelessManage::EnableBackgroundScan}};
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.opcode);
+        Disable(row.behaviour);
+        ClearCalls();
+        for (int time = 1; time <= 2; ++time) // once more changes nothing
+        {
+            EXPECT_EQ(0, (manager().*row.enable)(&kAdapterA));
+            EXPECT_TRUE(IsEnabled(row.behaviour));
+        }
+        EXPECT_THAT(callLines(), ElementsAre(SetLine(row.opcode), SetLine(row.opcode)));
+        ExpectSilence();
+    }
 }
 
 // What is handed over is 4 bytes with the value 1 in either world.

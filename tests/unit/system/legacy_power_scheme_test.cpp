@@ -90,16 +90,6 @@ TEST_F(LegacyPowerSchemeTest, AnIdleComputerStaysAwake)
     ExpectSilence();
 }
 
-TEST_F(LegacyPowerSchemeTest, ThePolicyIsRememberedAsItWas)
-{
-    const POWER_POLICY before = PolicyOf(kActive);
-    ASSERT_TRUE(IsZero(Saved()));
-    EXPECT_EQ(0, manager().SetPowerScheme());
-    EXPECT_TRUE(Same(before, Saved()));
-    EXPECT_EQ(1800u, Saved().user.IdleTimeoutAc);
-    EXPECT_EQ(600u, Saved().user.IdleTimeoutDc);
-}
-
 // The record has many fields that do not matter here.
 TEST_F(LegacyPowerSchemeTest, NothingButTheIdleTimeoutsChanges)
 {
@@ -144,27 +134,6 @@ TEST_F(LegacyPowerSchemeTest, NothingIsSavedUnlessItWasRead)
     FailOn("ReadPwrScheme");
     EXPECT_EQ(-3, manager().SetPowerScheme());
     EXPECT_TRUE(IsZero(Saved()));
-}
-
-TEST_F(LegacyPowerSchemeTest, AComputerThatCannotBeSuspendedIsLeftAlone)
-{
-    simulation::Scenario world = TwoSchemes();
-    world.power.suspendAllowed = false;
-    UseWorld(world);
-    EXPECT_EQ(-1, manager().SetPowerScheme());
-    EXPECT_EQ(-1, manager().ResetPowerScheme());
-    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kAllowed));
-    ExpectIdleTimeouts(kActive, 1800, 600);
-}
-
-TEST_F(LegacyPowerSchemeTest, AComputerWithoutAnActiveSchemeIsLeftAlone)
-{
-    simulation::Scenario world = TwoSchemes();
-    world.power.activeLegacyScheme = std::nullopt;
-    UseWorld(world);
-    EXPECT_EQ(-2, manager().SetPowerScheme());
-    EXPECT_EQ(-2, manager().ResetPowerScheme());
-    EXPECT_THAT(timeline(), ElementsAre(kAllowed, kActiveScheme, kAllowed, kActiveScheme));
 }
 
 // --- ResetPowerScheme ---

@@ -164,16 +164,6 @@ TEST_F(PowerSavingSchemeTest, ACopyThatIsNotMadeIsReleasedAsNull)
     EXPECT_EQ("non-null", call("LocalFree", 2)["memory"]);
 }
 
-TEST_F(PowerSavingSchemeTest, AComputerWithoutAnActiveSchemeHasNothingToCopy)
-{
-    simulation::Scenario world = UnlistedSchemes();
-    world.power.activeScheme = std::nullopt;
-    UseWorld(world);
-    EXPECT_EQ(-1, manager().GetPowerScheme());
-    EXPECT_THAT(calls(), ElementsAre("PowerEnumerate", "PowerGetActiveScheme", "LocalFree"));
-    ExpectSilence();
-}
-
 // --- the listing before it ---
 
 // Deliberate: it is the first scheme that is listed, again and again, until that fails.

@@ -62,16 +62,6 @@ TEST_F(PrivilegesTest, APrivilegeThatIsNotHeldCountsAsEnabled)
     ExpectSilence();
 }
 
-TEST_F(PrivilegesTest, APlatformWithoutTokensIsAccepted)
-{
-    simulation::Scenario world = RichWorld();
-    world.tokens = false;
-    UseWorld(world);
-    EXPECT_EQ(1, manager().GetPrivileges());
-    EXPECT_THAT(timeline(), ElementsAre("GetCurrentProcess()", kOpen, "GetLastError()"));
-    ExpectSilence();
-}
-
 TEST_F(PrivilegesTest, TheErrorOfTheTokenDecides)
 {
     struct
