@@ -4,6 +4,7 @@
 #include "forms/utf8.h"
 #include "platform/records/error_numbers.h"
 #include "simulation/notification_records.h"
+#include "simulation/service_records.h"
 #include <calvix/platform_records.h>
 
 #include <algorithm>
@@ -39,15 +40,6 @@ std::vector<std::pair<MacAddress, Bytes>> Listed(const std::vector<HeardBss>& he
 bool IsOn(const PhyDescription& phy)
 {
     return phy.software == RadioSwitch::on && phy.hardware == RadioSwitch::on;
-}
-
-WLAN_PHY_RADIO_STATE RadioRecord(DWORD index, const PhyDescription& phy)
-{
-    WLAN_PHY_RADIO_STATE record{};
-    record.dwPhyIndex = index;
-    record.dot11SoftwareRadioState = phy.software == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
-    record.dot11HardwareRadioState = phy.hardware == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
-    return record;
 }
 
 } // namespace
@@ -142,7 +134,7 @@ void Adapter::SetRadio(std::size_t phy, RadioSwitch software, RadioSwitch hardwa
     if (isChanged)
     {
         Notify(WLAN_NOTIFICATION_SOURCE_MSM, wlan_notification_msm_radio_state_change,
-               RecordBytes(RadioRecord(static_cast<DWORD>(phy), changed)));
+               RecordBytes(RadioRecord(phy, changed)));
     }
     if (wasOn && !IsRadioOn())
     {
@@ -248,36 +240,31 @@ const IhvAnswer* Adapter::AnswerIhv(const Bytes& request) const
     return known != m_description.ihv.end() ? &known->second : nullptr;
 }
 
+DWORD Adapter::NotifyChange(DWORD error, DWORD code) const
+{
+    if (error == ERROR_SUCCESS)
+        Notify(WLAN_NOTIFICATION_SOURCE_ACM, code);
+    return error;
+}
+
 DWORD Adapter::StoreProfile(Profile profile, bool overwrite)
 {
-    const DWORD error = m_profiles.Store(std::move(profile), overwrite);
-    if (error == ERROR_SUCCESS)
-        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
-    return error;
+    return NotifyChange(m_profiles.Store(std::move(profile), overwrite), wlan_notification_acm_profile_change);
 }
 
 DWORD Adapter::MoveProfile(const std::wstring& name, DWORD position)
 {
-    const DWORD error = m_profiles.Move(name, position);
-    if (error == ERROR_SUCCESS)
-        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
-    return error;
+    return NotifyChange(m_profiles.Move(name, position), wlan_notification_acm_profile_change);
 }
 
 DWORD Adapter::ArrangeProfiles(const std::vector<std::wstring>& names)
 {
-    const DWORD error = m_profiles.Arrange(names);
-    if (error == ERROR_SUCCESS)
-        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
-    return error;
+    return NotifyChange(m_profiles.Arrange(names), wlan_notification_acm_profile_change);
 }
 
 DWORD Adapter::RenameProfile(const std::wstring& name, const std::wstring& newName)
 {
-    const DWORD error = m_profiles.Rename(name, newName);
-    if (error == ERROR_SUCCESS)
-        Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_name_change);
-    return error;
+    return NotifyChange(m_profiles.Rename(name, newName), wlan_notification_acm_profile_name_change);
 }
 
 // Chosen: from then on the connection is one of the stored profile.
@@ -301,11 +288,8 @@ DWORD Adapter::DeleteProfile(const std::wstring& name)
 {
     const bool isInUse =
         (m_link && m_link->Profile().name == name) || (m_attempt && m_attempt->request.profile->document.name == name);
-    const DWORD error = m_profiles.Delete(name);
-    if (error != ERROR_SUCCESS)
-        return error;
-    Notify(WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_profile_change);
-    if (isInUse)
+    const DWORD error = NotifyChange(m_profiles.Delete(name), wlan_notification_acm_profile_change);
+    if (error == ERROR_SUCCESS && isInUse)
         TakeDown(WLAN_REASON_CODE_PROFILE_CHANGED_OR_DELETED);
     return error;
 }

@@ -112,7 +112,7 @@ public:
     /// The connection that is up, or null.
     const Link* CurrentLink() const { return m_link ? &*m_link : nullptr; }
     /// Signal strength of the connection: as heard now, or when it was heard last.
-    std::int32_t LinkRssi() const;
+    std::int32_t LinkRssi() const { return LinkSignal().value_or(m_link->accessPoint.rssi); }
 
     /// Ends the connection and starts a new one; the result comes with time.
     void Connect(ConnectionRequest request);
@@ -161,6 +161,7 @@ private:
     void MeasureLink(std::int32_t rssi);
     void LoseLink();
     bool Roam();
+    std::optional<std::int32_t> LinkSignal() const;
     void NoticeLostLink();
     void HearLink();
 
@@ -168,6 +169,8 @@ private:
     const AccessPoint* FindTarget() const;
 
     void Notify(DWORD source, DWORD code, Bytes data = {}) const;
+    /// Notifies of a change unless it failed, and returns its error.
+    DWORD NotifyChange(DWORD error, DWORD code) const;
     void NotifyConnection(DWORD code, const ConnectionRequest& request, DWORD reason) const;
     void NotifyMedia(DWORD code, const ConnectionRequest& request, const MacAddress& bssid, DWORD reason = 0) const;
 

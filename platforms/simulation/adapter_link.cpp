@@ -74,18 +74,16 @@ void Adapter::LoseLink()
     NotifyConnection(wlan_notification_acm_disconnected, link.request, reason);
 }
 
-std::int32_t Adapter::LinkRssi() const
+/// How strong the connection's access point is now, or nothing while it is off the air.
+std::optional<std::int32_t> Adapter::LinkSignal() const
 {
     const auto found = FindBssid(m_around.air, m_link->accessPoint.bssid);
-    const auto signal = found != m_around.air.end() ? SignalAt(*found, m_around.time.Now()) : std::nullopt;
-    return signal.value_or(m_link->accessPoint.rssi);
+    return found != m_around.air.end() ? SignalAt(*found, m_around.time.Now()) : std::nullopt;
 }
 
 const std::vector<HeardBss>& Adapter::Heard()
 {
-    const auto found = m_link ? FindBssid(m_around.air, m_link->accessPoint.bssid) : m_around.air.end();
-    const auto signal = found != m_around.air.end() ? SignalAt(*found, m_around.time.Now()) : std::nullopt;
-    if (signal)
+    if (const auto signal = m_link ? LinkSignal() : std::nullopt)
     {
         m_link->accessPoint.rssi = *signal;
         HearLink();
@@ -119,8 +117,7 @@ void Adapter::NoticeLostLink()
 {
     if (!m_link)
         return;
-    const auto found = FindBssid(m_around.air, m_link->accessPoint.bssid);
-    const auto signal = found != m_around.air.end() ? SignalAt(*found, m_around.time.Now()) : std::nullopt;
+    const auto signal = LinkSignal();
     if (signal)
     {
         MeasureLink(*signal);

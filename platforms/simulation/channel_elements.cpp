@@ -57,13 +57,6 @@ struct Primary
     std::uint32_t base;
 };
 
-void AppendElement(Bytes& elements, ChannelElementId id, const Bytes& content)
-{
-    elements.push_back(id);
-    elements.push_back(static_cast<std::uint8_t>(content.size()));
-    elements.insert(elements.end(), content.begin(), content.end());
-}
-
 void AppendExtension(Bytes& elements, ExtensionId id, Bytes content)
 {
     content.insert(content.begin(), id);
@@ -102,6 +95,11 @@ void AppendVht(Bytes& elements, const Primary& primary, std::uint32_t width)
     AppendElement(elements, vhtOperation, operation);
 }
 
+std::uint8_t WidthCode(std::uint32_t width)
+{
+    return width >= 320 ? 4 : width >= 160 ? 3 : width >= 80 ? 2 : width >= 40 ? 1 : 0;
+}
+
 void AppendHe(Bytes& elements, const Primary& primary, std::uint32_t width)
 {
     Bytes capabilities(17);
@@ -114,20 +112,15 @@ void AppendHe(Bytes& elements, const Primary& primary, std::uint32_t width)
     if (primary.IsIn6GhzBand())
     {
         const std::uint32_t told = (std::min)(width, 160u);
-        const auto code = static_cast<std::uint8_t>(told >= 160 ? 3 : told >= 80 ? 2 : told >= 40 ? 1 : 0);
         const std::uint8_t second = told >= 160 ? primary.Centre(160) : std::uint8_t{0};
-        operation.insert(operation.end(), {primary.Number(), code, primary.Centre((std::min)(told, 80u)), second, 6});
+        operation.insert(operation.end(),
+                         {primary.Number(), WidthCode(told), primary.Centre((std::min)(told, 80u)), second, 6});
     }
     AppendExtension(elements, heOperation, operation);
 }
 
 void AppendEht(Bytes& elements, const Primary& primary, std::uint32_t width)
 {
-    const auto code = static_cast<std::uint8_t>(width >= 320   ? 4
-                                                : width >= 160 ? 3
-                                                : width >= 80  ? 2
-                                                : width >= 40  ? 1
-                                                               : 0);
     Bytes capabilities(11);
     capabilities[2] = static_cast<std::uint8_t>(width >= 320 ? 0x02 : 0);
     capabilities.insert(capabilities.end(), 3, 0x22); // two streams at every modulation
@@ -137,11 +130,19 @@ void AppendEht(Bytes& elements, const Primary& primary, std::uint32_t width)
         capabilities.insert(capabilities.end(), 3, 0x22);
     AppendExtension(elements, ehtCapabilities, capabilities);
     const std::uint8_t second = width >= 160 ? primary.Centre(width) : std::uint8_t{0};
-    AppendExtension(elements, ehtOperation,
-                    {0x01, 0x44, 0x44, 0x44, 0x44, code, primary.Centre(width >= 160 ? width / 2 : width), second});
+    AppendExtension(
+        elements, ehtOperation,
+        {0x01, 0x44, 0x44, 0x44, 0x44, WidthCode(width), primary.Centre(width >= 160 ? width / 2 : width), second});
 }
 
 } // namespace
+
+void AppendElement(Bytes& elements, std::uint8_t id, const Bytes& content)
+{
+    elements.push_back(id);
+    elements.push_back(static_cast<std::uint8_t>(content.size()));
+    elements.insert(elements.end(), content.begin(), content.end());
+}
 
 Bytes ChannelElements(const AccessPoint& accessPoint)
 {

@@ -9,4 +9,7 @@ namespace calvix::simulation
 /// streams each: those of HT, VHT, HE and EHT as far as its PHY has them. None if the scenario has no width.
 Bytes ChannelElements(const AccessPoint& accessPoint);
 
+/// Appends one element: its number, its length and its content.
+void AppendElement(Bytes& elements, std::uint8_t id, const Bytes& content);
+
 } // namespace calvix::simulation

@@ -30,20 +30,13 @@ bool IsIn24GhzBand(const AccessPoint& accessPoint)
     return accessPoint.frequencyKhz < 3'000'000;
 }
 
-void Append(Bytes& elements, ElementId id, const Bytes& content)
-{
-    elements.push_back(id);
-    elements.push_back(static_cast<std::uint8_t>(content.size()));
-    elements.insert(elements.end(), content.begin(), content.end());
-}
-
 void AppendRates(Bytes& elements, const Bytes& rates)
 {
     const std::size_t first = rates.size() < mostRates ? rates.size() : mostRates;
     const auto split = rates.begin() + static_cast<std::ptrdiff_t>(first);
-    Append(elements, ratesElement, Bytes(rates.begin(), split));
+    AppendElement(elements, ratesElement, Bytes(rates.begin(), split));
     if (split != rates.end())
-        Append(elements, extendedRatesElement, Bytes(split, rates.end()));
+        AppendElement(elements, extendedRatesElement, Bytes(split, rates.end()));
 }
 
 // The numbers of 802.11's RSN element, after its OUI.
@@ -99,12 +92,12 @@ void AppendSecurity(Bytes& elements, SecuritySuite security)
         Bytes content = {0x00, 0x50, 0xf2, 1};
         const Bytes rest = SecurityContent({0x00, 0x50, 0xf2}, cipherSuite, *keyManagement);
         content.insert(content.end(), rest.begin(), rest.end());
-        Append(elements, vendorElement, content);
+        AppendElement(elements, vendorElement, content);
         return;
     }
     Bytes content = SecurityContent({0x00, 0x0f, 0xac}, cipherSuite, *keyManagement);
     content.insert(content.end(), {0, 0}); // RSN capabilities
-    Append(elements, rsnElement, content);
+    AppendElement(elements, rsnElement, content);
 }
 
 } // namespace
@@ -120,12 +113,12 @@ Bytes InformationElements(const HeardBss& bss)
     if (!bss.accessPoint.informationElements.empty())
         return bss.accessPoint.informationElements;
     Bytes elements;
-    Append(elements, ssidElement, bss.Ssid());
+    AppendElement(elements, ssidElement, bss.Ssid());
     AppendRates(elements, SupportedRates(bss.accessPoint));
     if (IsIn24GhzBand(bss.accessPoint))
     {
-        Append(elements, channelElement,
-               {static_cast<std::uint8_t>(forms::ChannelNumber(bss.accessPoint.frequencyKhz))});
+        AppendElement(elements, channelElement,
+                      {static_cast<std::uint8_t>(forms::ChannelNumber(bss.accessPoint.frequencyKhz))});
     }
     AppendSecurity(elements, bss.security);
     const Bytes channel = ChannelElements(bss.accessPoint);

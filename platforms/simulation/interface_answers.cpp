@@ -17,11 +17,6 @@ Record* NewAnswer(Blocks& blocks, std::size_t size = sizeof(Record))
     return NewRecord<Record>(blocks, size, "query result");
 }
 
-DOT11_RADIO_STATE RadioState(RadioSwitch radio)
-{
-    return radio == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
-}
-
 // Chosen: the best rate that each kind of PHY commonly reaches with two antennas, in kbit/s, and the worst of all
 // for others.
 ULONG LinkRate(std::uint32_t phyType)
@@ -95,10 +90,8 @@ InterfaceAnswer AnswerRadioState(Blocks& blocks, const Adapter& adapter)
     auto* const answer = NewAnswer<WLAN_RADIO_STATE>(blocks);
     for (const PhyDescription& phy : adapter.Phys())
     {
-        WLAN_PHY_RADIO_STATE& state = answer->PhyRadioState[answer->dwNumberOfPhys];
-        state.dwPhyIndex = answer->dwNumberOfPhys++;
-        state.dot11SoftwareRadioState = RadioState(phy.software);
-        state.dot11HardwareRadioState = RadioState(phy.hardware);
+        answer->PhyRadioState[answer->dwNumberOfPhys] = RadioRecord(answer->dwNumberOfPhys, phy);
+        ++answer->dwNumberOfPhys;
     }
     return {answer, sizeof(*answer)};
 }

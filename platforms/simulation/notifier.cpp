@@ -1,21 +1,9 @@
 #include "simulation/notifier.h"
 
-#include <cstring>
 #include <utility>
 
 namespace calvix::simulation
 {
-
-namespace
-{
-
-bool IsSame(const Notification& left, const Notification& right)
-{
-    return left.source == right.source && left.code == right.code &&
-           std::memcmp(&left.interfaceGuid, &right.interfaceGuid, sizeof(GUID)) == 0 && left.data == right.data;
-}
-
-} // namespace
 
 Notifier::~Notifier()
 {
@@ -59,7 +47,7 @@ void Notifier::Post(const Notification& notification)
     {
         const bool isWanted = (client.registration.sources & notification.source) != 0;
         // No notification has source 0, so that the first one is never taken for a duplicate.
-        const bool isIgnored = client.registration.ignoreDuplicates && IsSame(client.last, notification);
+        const bool isIgnored = client.registration.ignoreDuplicates && client.last == notification;
         if (isWanted && !isIgnored)
         {
             client.last = notification;

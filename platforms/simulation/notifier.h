@@ -22,6 +22,8 @@ struct Notification
     DWORD code = 0;
     GUID interfaceGuid{};
     Bytes data{}; ///< the record that goes with the code, or nothing
+
+    bool operator==(const Notification&) const = default;
 };
 
 /// What a client wants to receive, and how.

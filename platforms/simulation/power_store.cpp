@@ -161,12 +161,6 @@ void PowerStore::SetAcValue(Scheme& scheme, const GUID& subgroup, const GUID& se
     scheme.values.push_back({{subgroup, setting}, {value, 0}});
 }
 
-PowerStore::LegacyScheme* PowerStore::FindLegacy(UINT id)
-{
-    const auto found = m_legacy.find(id);
-    return found != m_legacy.end() ? &found->second : nullptr;
-}
-
 const PowerStore::LegacyScheme* PowerStore::FindLegacy(UINT id) const
 {
     const auto found = m_legacy.find(id);

@@ -54,7 +54,6 @@ public:
     static void SetAcValue(Scheme& scheme, const GUID& subgroup, const GUID& setting, DWORD value);
 
     /// The legacy scheme of this number, or null.
-    LegacyScheme* FindLegacy(UINT id);
     const LegacyScheme* FindLegacy(UINT id) const;
     void WriteLegacy(UINT id, LegacyScheme scheme) { m_legacy[id] = std::move(scheme); }
     /// A number that no legacy scheme has.

@@ -15,6 +15,9 @@
 namespace calvix::simulation
 {
 
+/// The handle that every process has of itself: a constant of the platform, which is why asking for it cannot fail.
+inline const HANDLE kOwnProcess = reinterpret_cast<HANDLE>(~UINT_PTR{0});
+
 /// The programs that are installed, the processes that run or ran, and the handles that programs have to them. Paths are
 /// compared without regard to the case of ASCII letters.
 class ProcessTable

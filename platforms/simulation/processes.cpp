@@ -18,30 +18,19 @@ constexpr DWORD kSynchronizeRight = 0x00100000;
 constexpr DWORD kEveryRight = 0x001FFFFF;
 constexpr UINT_PTR kFirstNameAddress = 0x10000; // a smaller number is an ordinal
 
-const HANDLE kOwnProcess = reinterpret_cast<HANDLE>(~UINT_PTR{0});
-
 // Modules are known by the addresses at which they usually lie.
 const HMODULE kHostModule = reinterpret_cast<HMODULE>(UINT_PTR{0x400000});
 const HMODULE kKernelModule = reinterpret_cast<HMODULE>(UINT_PTR{0x7FF80000});
 constexpr const char* kKernelPath = "C:\\Windows\\System32\\kernel32.dll";
 
-BOOL AnswerWow64(BOOL* wow64, BOOL answer)
+// A program that has the function's address calls it directly.
+template <BOOL answer>
+BOOL WINAPI IsWow64Process(HANDLE, BOOL* wow64)
 {
     if (wow64 == nullptr)
         return FALSE;
     *wow64 = answer;
     return TRUE;
-}
-
-// A program that has the function's address calls it directly.
-BOOL WINAPI IsWow64ProcessSayingYes(HANDLE, BOOL* wow64)
-{
-    return AnswerWow64(wow64, TRUE);
-}
-
-BOOL WINAPI IsWow64ProcessSayingNo(HANDLE, BOOL* wow64)
-{
-    return AnswerWow64(wow64, FALSE);
 }
 
 std::string FolderOf(const std::string& path)
@@ -53,7 +42,6 @@ std::string FolderOf(const std::string& path)
 
 HANDLE SimulatedProcesses::GetCurrentProcess()
 {
-    // A constant on the platform, which is why it has no way to fail.
     return kOwnProcess;
 }
 
@@ -241,7 +229,7 @@ FARPROC SimulatedProcesses::GetProcAddress(HMODULE module, const char* name)
     const bool isName = reinterpret_cast<UINT_PTR>(name) >= kFirstNameAddress;
     if (module != kKernelModule || !isName || std::string_view(name) != "IsWow64Process" || !m_machine.wow64)
         return Fail(ERROR_PROC_NOT_FOUND);
-    const auto function = *m_machine.wow64 ? &IsWow64ProcessSayingYes : &IsWow64ProcessSayingNo;
+    const auto function = *m_machine.wow64 ? &IsWow64Process<TRUE> : &IsWow64Process<FALSE>;
     // The cast through void(*)() shows the compiler that the change of the function's type is intended.
     return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function));
 }

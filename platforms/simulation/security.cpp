@@ -13,8 +13,6 @@ namespace
 
 constexpr DWORD kNoSuchSystem = 1722;
 
-const HANDLE kCurrentProcess = reinterpret_cast<HANDLE>(~UINT_PTR{0});
-
 std::size_t SizeOfPrivileges(std::size_t count)
 {
     return offsetof(TOKEN_PRIVILEGES, Privileges) + count * sizeof(LUID_AND_ATTRIBUTES);
@@ -29,7 +27,7 @@ BOOL SimulatedSecurity::OpenProcessToken(HANDLE process, DWORD access, HANDLE* t
         return Fail(ERROR_CALL_NOT_IMPLEMENTED);
     if (token == nullptr)
         return Fail(ERROR_INVALID_PARAMETER);
-    if (process != kCurrentProcess)
+    if (process != kOwnProcess)
     {
         if (!m_machine.handles.Use(process, HandleKind::process, "OpenProcessToken"))
             return Fail(ERROR_INVALID_HANDLE);

@@ -30,6 +30,15 @@ void CopyText(const std::wstring& text, wchar_t (&field)[capacity])
     field[text.copy(field, capacity - 1)] = L'\0';
 }
 
+inline WLAN_PHY_RADIO_STATE RadioRecord(std::size_t index, const PhyDescription& phy)
+{
+    WLAN_PHY_RADIO_STATE record{};
+    record.dwPhyIndex = static_cast<DWORD>(index);
+    record.dot11SoftwareRadioState = phy.software == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
+    record.dot11HardwareRadioState = phy.hardware == RadioSwitch::on ? dot11_radio_state_on : dot11_radio_state_off;
+    return record;
+}
+
 /// A copy of a text in a block of the service's allocator.
 inline wchar_t* NewText(Blocks& blocks, const std::wstring& text, const char* what)
 {

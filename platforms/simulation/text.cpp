@@ -77,22 +77,6 @@ std::size_t SizeOfWholeCharacters(std::uint32_t codePage, const std::basic_strin
     return size;
 }
 
-/// Hands out `text`, or its size to who came without room; ERROR_INSUFFICIENT_BUFFER gets the characters that fit all
-/// the same.
-template <typename Character>
-DWORD Deliver(
-    std::uint32_t codePage, const std::basic_string<Character>& text, Character* destination, int room, int& size)
-{
-    size = static_cast<int>(text.size());
-    if (room == 0)
-        return ERROR_SUCCESS;
-    const bool isEnough = size <= room;
-    std::copy_n(text.data(),
-                isEnough ? text.size() : SizeOfWholeCharacters(codePage, text, static_cast<std::size_t>(room)),
-                destination);
-    return isEnough ? ERROR_SUCCESS : ERROR_INSUFFICIENT_BUFFER;
-}
-
 DWORD RefusedDecodingFlags(std::uint32_t codePage, DWORD flags)
 {
     const DWORD forUtf8 = MB_ERR_INVALID_CHARS;
@@ -124,6 +108,26 @@ std::uint32_t SimulatedText::Resolve(UINT codePage) const
     return codePage;
 }
 
+/// Hands out `text`, or its size to who came without room; ERROR_INSUFFICIENT_BUFFER gets the characters that fit all
+/// the same.
+template <typename Character>
+int SimulatedText::Deliver(std::uint32_t codePage,
+                           const std::basic_string<Character>& text,
+                           Character* destination,
+                           int room)
+{
+    const int size = static_cast<int>(text.size());
+    if (room == 0)
+        return size;
+    if (size > room)
+    {
+        std::copy_n(text.data(), SizeOfWholeCharacters(codePage, text, static_cast<std::size_t>(room)), destination);
+        return Fail(ERROR_INSUFFICIENT_BUFFER);
+    }
+    std::copy_n(text.data(), text.size(), destination);
+    return size;
+}
+
 int SimulatedText::MultiByteToWideChar(
     UINT codePage, DWORD flags, const char* source, int sourceLength, wchar_t* destination, int destinationLength)
 {
@@ -141,11 +145,7 @@ int SimulatedText::MultiByteToWideChar(
         actual == CP_UTF8 ? forms::WideFromUtf8(bytes, &illFormed) : DecodeNarrow(actual, bytes, illFormed);
     if (illFormed && (flags & MB_ERR_INVALID_CHARS) != 0)
         return Fail(ERROR_NO_UNICODE_TRANSLATION);
-    int size = 0;
-    const DWORD error = Deliver(actual, text, destination, destinationLength, size);
-    if (error != ERROR_SUCCESS)
-        return Fail(error);
-    return size;
+    return Deliver(actual, text, destination, destinationLength);
 }
 
 int SimulatedText::WideCharToMultiByte(UINT codePage,
@@ -178,11 +178,7 @@ int SimulatedText::WideCharToMultiByte(UINT codePage,
         return Fail(ERROR_NO_UNICODE_TRANSLATION);
     if (usedDefaultCharacter != nullptr)
         *usedDefaultCharacter = replaced ? TRUE : FALSE;
-    int size = 0;
-    const DWORD error = Deliver(actual, bytes, destination, destinationLength, size);
-    if (error != ERROR_SUCCESS)
-        return Fail(error);
-    return size;
+    return Deliver(actual, bytes, destination, destinationLength);
 }
 
 int SimulatedText::StringFromGUID2(const GUID& guid, wchar_t* text, int capacity)

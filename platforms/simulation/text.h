@@ -4,6 +4,7 @@
 #include "simulation/facility.h"
 
 #include <cstdint>
+#include <string>
 
 namespace calvix::simulation
 {
@@ -31,6 +32,8 @@ public:
 
 private:
     std::uint32_t Resolve(UINT codePage) const;
+    template <typename Character>
+    int Deliver(std::uint32_t codePage, const std::basic_string<Character>& text, Character* destination, int room);
 };
 
 } // namespace calvix::simulation

@@ -21,17 +21,37 @@ constexpr DWORD mostIeData = 240;
 
 } // namespace
 
-DWORD SimulatedWlanService::Check(const char* operation,
-                                  HANDLE client,
-                                  std::initializer_list<const void*> required,
-                                  const void* reserved)
+SimulatedWlanService::Request::Request(Machine& machine,
+                                       const char* operation,
+                                       HANDLE client,
+                                       std::initializer_list<const void*> required,
+                                       const void* reserved)
+    : m_lock(machine.mutex)
 {
     const bool anyMissing = std::find(required.begin(), required.end(), nullptr) != required.end();
     if (client == nullptr || anyMissing || reserved != nullptr)
-        return ERROR_INVALID_PARAMETER;
-    if (!m_machine.handles.Use(client, HandleKind::wlanClient, operation))
-        return ERROR_INVALID_HANDLE;
-    return m_machine.serviceRunning ? ERROR_SUCCESS : ERROR_SERVICE_NOT_ACTIVE;
+        error = ERROR_INVALID_PARAMETER;
+    else if (!machine.handles.Use(client, HandleKind::wlanClient, operation))
+        error = ERROR_INVALID_HANDLE;
+    else if (!machine.serviceRunning)
+        error = ERROR_SERVICE_NOT_ACTIVE;
+}
+
+SimulatedWlanService::Request::Request(Machine& machine,
+                                       const char* operation,
+                                       HANDLE client,
+                                       const GUID* interfaceGuid,
+                                       std::initializer_list<const void*> required,
+                                       const void* reserved)
+    : Request(machine, operation, client, required, reserved)
+{
+    if (interfaceGuid == nullptr)
+        error = ERROR_INVALID_PARAMETER;
+    if (error != ERROR_SUCCESS)
+        return;
+    adapter = machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr)
+        error = ERROR_INVALID_PARAMETER;
 }
 
 DWORD SimulatedWlanService::WlanOpenHandle(DWORD clientVersion,
@@ -56,9 +76,9 @@ DWORD SimulatedWlanService::WlanOpenHandle(DWORD clientVersion,
 
 DWORD SimulatedWlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanEnumInterfaces", client, {list}, reserved))
-        return error;
+    const Request request(m_machine, "WlanEnumInterfaces", client, {list}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     const auto& adapters = m_machine.adapters;
     const std::size_t size =
         offsetof(WLAN_INTERFACE_INFO_LIST, InterfaceInfo) + adapters.size() * sizeof(WLAN_INTERFACE_INFO);
@@ -78,19 +98,18 @@ DWORD SimulatedWlanService::WlanEnumInterfaces(HANDLE client, PVOID reserved, WL
 DWORD SimulatedWlanService::WlanScan(
     HANDLE client, const GUID* interfaceGuid, const DOT11_SSID* ssid, const WLAN_RAW_DATA* ieData, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanScan", client, {interfaceGuid}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    const Request request(m_machine, "WlanScan", client, interfaceGuid, {}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     const bool isSsidTooLong = ssid != nullptr && ssid->uSSIDLength > DOT11_SSID_MAX_LENGTH;
     const bool isDataTooLong = ieData != nullptr && ieData->dwDataSize > mostIeData;
-    if (adapter == nullptr || isSsidTooLong || isDataTooLong)
+    if (isSsidTooLong || isDataTooLong)
         return ERROR_INVALID_PARAMETER;
     if (!m_machine.locationConsent)
         return ERROR_ACCESS_DENIED;
-    if (!adapter->IsRadioOn())
+    if (!request.adapter->IsRadioOn())
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
-    adapter->StartScan(ssid != nullptr ? std::optional(SsidBytes(*ssid)) : std::nullopt);
+    request.adapter->StartScan(ssid != nullptr ? std::optional(SsidBytes(*ssid)) : std::nullopt);
     return ERROR_SUCCESS;
 }
 

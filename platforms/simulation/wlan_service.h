@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/records/error_numbers.h"
 #include "platform/wlan_service.h"
 #include "simulation/facility.h"
 
@@ -126,12 +127,30 @@ public:
                                           DWORD* grantedAccess);
 
 private:
-    /// What every operation looks at first, in this order: arguments that must not be null, the reserved one that
-    /// must be, the client handle, the service.
-    DWORD Check(const char* operation,
+    /// What every operation does first, in this order: it takes the machine's mutex, which it holds as long as this lives,
+    /// and looks at the arguments that must not be null, the reserved one that must be, the client handle, the service,
+    /// and the interface, if it takes one.
+    class Request
+    {
+    public:
+        Request(Machine& machine,
+                const char* operation,
                 HANDLE client,
                 std::initializer_list<const void*> required,
                 const void* reserved = nullptr);
+        Request(Machine& machine,
+                const char* operation,
+                HANDLE client,
+                const GUID* interfaceGuid,
+                std::initializer_list<const void*> required,
+                const void* reserved = nullptr);
+
+        DWORD error = ERROR_SUCCESS;
+        Adapter* adapter = nullptr; ///< of the interface
+
+    private:
+        std::lock_guard<std::mutex> m_lock;
+    };
 
     /// Waits until no callback of the client is running. Not to be called under the mutex.
     void WaitForCallback(const Notifier::Replaced& replaced, const char* operation);

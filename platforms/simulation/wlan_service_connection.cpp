@@ -119,34 +119,29 @@ DWORD SimulatedWlanService::WlanConnect(HANDLE client,
                                         const WLAN_CONNECTION_PARAMETERS* parameters,
                                         PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanConnect", client, {interfaceGuid, parameters}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    const auto [profile, refusal] = FindRequested(*adapter, *parameters);
+    const Request request(m_machine, "WlanConnect", client, interfaceGuid, {parameters}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    const auto [profile, refusal] = FindRequested(*request.adapter, *parameters);
     if (refusal != ERROR_SUCCESS)
         return refusal;
     if (profile->document.bssType != parameters->dot11BssType || !IsSsidOf(profile->document, parameters->pDot11Ssid))
         return ERROR_INVALID_PARAMETER;
-    if (!adapter->IsRadioOn())
+    if (!request.adapter->IsRadioOn())
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID; // chosen, as for the lists
-    adapter->Connect({profile, DesiredBssids(parameters->pDesiredBssidList),
-                      (parameters->dwFlags & WLAN_CONNECTION_HIDDEN_NETWORK) != 0, parameters->wlanConnectionMode});
+    request.adapter->Connect({profile, DesiredBssids(parameters->pDesiredBssidList),
+                              (parameters->dwFlags & WLAN_CONNECTION_HIDDEN_NETWORK) != 0,
+                              parameters->wlanConnectionMode});
     return ERROR_SUCCESS;
 }
 
 // Chosen: it succeeds without a connection, too.
 DWORD SimulatedWlanService::WlanDisconnect(HANDLE client, const GUID* interfaceGuid, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanDisconnect", client, {interfaceGuid}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    adapter->Disconnect();
+    const Request request(m_machine, "WlanDisconnect", client, interfaceGuid, {}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    request.adapter->Disconnect();
     return ERROR_SUCCESS;
 }
 

@@ -63,9 +63,9 @@ DWORD SimulatedWlanService::WlanQueryAutoConfigParameter(HANDLE client,
                                                          PVOID* data,
                                                          WLAN_OPCODE_VALUE_TYPE* valueType)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanQueryAutoConfigParameter", client, {dataSize, data}, reserved))
-        return error;
+    const Request request(m_machine, "WlanQueryAutoConfigParameter", client, {dataSize, data}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     const auto answer = Answer(m_machine, m_machine.wlanBlocks, opcode);
     if (!answer)
         return ERROR_INVALID_PARAMETER;
@@ -79,9 +79,9 @@ DWORD SimulatedWlanService::WlanQueryAutoConfigParameter(HANDLE client,
 DWORD SimulatedWlanService::WlanSetAutoConfigParameter(
     HANDLE client, WLAN_AUTOCONF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSetAutoConfigParameter", client, {data}, reserved))
-        return error;
+    const Request request(m_machine, "WlanSetAutoConfigParameter", client, {data}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     switch (static_cast<unsigned int>(opcode))
     {
     case wlan_autoconf_opcode_show_denied_networks:
@@ -107,15 +107,14 @@ DWORD SimulatedWlanService::WlanIhvControl(HANDLE client,
                                            PVOID output,
                                            DWORD* bytesReturned)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanIhvControl", client, {interfaceGuid, bytesReturned}))
-        return error;
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    const Request request(m_machine, "WlanIhvControl", client, interfaceGuid, {bytesReturned});
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     const bool isMissing = (input == nullptr && inputSize != 0) || (output == nullptr && outputSize != 0);
-    if (adapter == nullptr || isMissing || type > wlan_ihv_control_type_driver)
+    if (isMissing || type > wlan_ihv_control_type_driver)
         return ERROR_INVALID_PARAMETER;
     const bool isForDriver = type == wlan_ihv_control_type_driver;
-    const IhvAnswer* const answer = isForDriver ? adapter->AnswerIhv(RequestBytes(input, inputSize)) : nullptr;
+    const IhvAnswer* const answer = isForDriver ? request.adapter->AnswerIhv(RequestBytes(input, inputSize)) : nullptr;
     if (answer == nullptr)
         return ERROR_NOT_SUPPORTED;
     if (answer->error != 0)
@@ -131,9 +130,9 @@ DWORD SimulatedWlanService::WlanIhvControl(HANDLE client,
 // The text is remembered and not judged: nothing in this computer is opened or closed by it.
 DWORD SimulatedWlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABLE_OBJECT object, const wchar_t* sddl)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSetSecuritySettings", client, {sddl}))
-        return error;
+    const Request request(m_machine, "WlanSetSecuritySettings", client, {sddl});
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     if (object > wlan_secure_hosted_network_elevated_access || sddl[0] == L'\0')
         return ERROR_INVALID_PARAMETER;
     if (!m_machine.administrator)
@@ -149,9 +148,9 @@ DWORD SimulatedWlanService::WlanGetSecuritySettings(HANDLE client,
                                                     wchar_t** sddl,
                                                     DWORD* grantedAccess)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanGetSecuritySettings", client, {sddl, grantedAccess}))
-        return error;
+    const Request request(m_machine, "WlanGetSecuritySettings", client, {sddl, grantedAccess});
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     if (object > wlan_secure_hosted_network_elevated_access)
         return ERROR_INVALID_PARAMETER;
     const auto set = m_machine.securitySettings.find(object);

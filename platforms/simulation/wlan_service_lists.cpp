@@ -43,17 +43,14 @@ std::vector<const HeardBss*> Choose(const std::vector<HeardBss>& heard, const Bs
 DWORD SimulatedWlanService::WlanGetAvailableNetworkList(
     HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanGetAvailableNetworkList", client, {interfaceGuid, list}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
+    const Request request(m_machine, "WlanGetAvailableNetworkList", client, interfaceGuid, {list}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     if (!m_machine.locationConsent)
         return ERROR_ACCESS_DENIED;
-    if (!adapter->IsRadioOn())
+    if (!request.adapter->IsRadioOn())
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
-    const NetworkListInput input{adapter->Heard(), adapter->Profiles(), adapter->CurrentLink(),
+    const NetworkListInput input{request.adapter->Heard(), request.adapter->Profiles(), request.adapter->CurrentLink(),
                                  (flags & WLAN_AVAILABLE_NETWORK_INCLUDE_ALL_ADHOC_PROFILES) != 0,
                                  (flags & WLAN_AVAILABLE_NETWORK_INCLUDE_ALL_MANUAL_HIDDEN_PROFILES) != 0};
     *list = MakeNetworkList(m_machine.wlanBlocks, input);
@@ -68,9 +65,9 @@ DWORD SimulatedWlanService::WlanGetNetworkBssList(HANDLE client,
                                                   PVOID reserved,
                                                   WLAN_BSS_LIST** list)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanGetNetworkBssList", client, {interfaceGuid, list}, reserved))
-        return error;
+    const Request request(m_machine, "WlanGetNetworkBssList", client, {interfaceGuid, list}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     if (ssid != nullptr && ssid->uSSIDLength > DOT11_SSID_MAX_LENGTH)
         return ERROR_INVALID_PARAMETER;
     // Alone among the operations this one says "not found" when there is no such interface.

@@ -18,9 +18,9 @@ DWORD SimulatedWlanService::WlanRegisterNotification(HANDLE client,
 {
     Notifier::Replaced replaced;
     {
-        const std::lock_guard lock(m_machine.mutex);
-        if (const DWORD error = Check("WlanRegisterNotification", client, {}, reserved))
-            return error;
+        const Request request(m_machine, "WlanRegisterNotification", client, {}, reserved);
+        if (request.error != ERROR_SUCCESS)
+            return request.error;
         if (source != WLAN_NOTIFICATION_SOURCE_NONE && callback == nullptr)
             return ERROR_INVALID_PARAMETER;
         replaced = m_machine.notifier.Register(client, {source, ignoreDuplicate != FALSE, callback, context});

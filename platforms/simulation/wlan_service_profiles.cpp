@@ -21,13 +21,10 @@ DWORD SimulatedWlanService::WlanGetProfileList(HANDLE client,
                                                PVOID reserved,
                                                WLAN_PROFILE_INFO_LIST** list)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanGetProfileList", client, {interfaceGuid, list}, reserved))
-        return error;
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    const auto& profiles = adapter->Profiles().InOrder();
+    const Request request(m_machine, "WlanGetProfileList", client, interfaceGuid, {list}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    const auto& profiles = request.adapter->Profiles().InOrder();
     const std::size_t size =
         offsetof(WLAN_PROFILE_INFO_LIST, ProfileInfo) + profiles.size() * sizeof(WLAN_PROFILE_INFO);
     *list = NewRecord<WLAN_PROFILE_INFO_LIST>(m_machine.wlanBlocks, size, "profile list");
@@ -52,13 +49,10 @@ DWORD SimulatedWlanService::WlanGetProfile(HANDLE client,
                                            DWORD* flags,
                                            DWORD* grantedAccess)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanGetProfile", client, {interfaceGuid, name, xml}, reserved))
-        return error;
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    const auto profile = adapter->Profiles().Find(name);
+    const Request request(m_machine, "WlanGetProfile", client, interfaceGuid, {name, xml}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    const auto profile = request.adapter->Profiles().Find(name);
     if (profile == nullptr)
         return ERROR_NOT_FOUND;
     const DWORD plainKey = flags != nullptr ? *flags & WLAN_PROFILE_GET_PLAINTEXT_KEY : 0;
@@ -80,11 +74,10 @@ DWORD SimulatedWlanService::WlanSetProfile(HANDLE client,
                                            PVOID reserved,
                                            DWORD* reasonCode)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSetProfile", client, {interfaceGuid, xml, reasonCode}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr || (flags & ~knownProfileFlags) != 0)
+    const Request request(m_machine, "WlanSetProfile", client, interfaceGuid, {xml, reasonCode}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    if ((flags & ~knownProfileFlags) != 0)
         return ERROR_INVALID_PARAMETER;
     ProfileRefusal refusal{};
     auto profile = ReadProfile(xml, flags, refusal);
@@ -94,7 +87,7 @@ DWORD SimulatedWlanService::WlanSetProfile(HANDLE client,
         return refusal.error;
     }
     *reasonCode = WLAN_REASON_CODE_SUCCESS;
-    return adapter->StoreProfile(std::move(*profile), overwrite != FALSE);
+    return request.adapter->StoreProfile(std::move(*profile), overwrite != FALSE);
 }
 
 DWORD SimulatedWlanService::WlanDeleteProfile(HANDLE client,
@@ -102,46 +95,42 @@ DWORD SimulatedWlanService::WlanDeleteProfile(HANDLE client,
                                               const wchar_t* name,
                                               PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanDeleteProfile", client, {interfaceGuid, name}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    return adapter != nullptr ? adapter->DeleteProfile(name) : ERROR_INVALID_PARAMETER;
+    const Request request(m_machine, "WlanDeleteProfile", client, interfaceGuid, {name}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    return request.adapter->DeleteProfile(name);
 }
 
 DWORD SimulatedWlanService::WlanSetProfilePosition(
     HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD position, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSetProfilePosition", client, {interfaceGuid, name}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    return adapter != nullptr ? adapter->MoveProfile(name, position) : ERROR_INVALID_PARAMETER;
+    const Request request(m_machine, "WlanSetProfilePosition", client, interfaceGuid, {name}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    return request.adapter->MoveProfile(name, position);
 }
 
 DWORD SimulatedWlanService::WlanSetProfileList(
     HANDLE client, const GUID* interfaceGuid, DWORD count, const wchar_t** names, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSetProfileList", client, {interfaceGuid, names}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    const Request request(m_machine, "WlanSetProfileList", client, interfaceGuid, {names}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     const bool isAnyMissing = std::find(names, names + count, nullptr) != names + count;
-    if (adapter == nullptr || count == 0 || isAnyMissing)
+    if (count == 0 || isAnyMissing)
         return ERROR_INVALID_PARAMETER;
-    return adapter->ArrangeProfiles({names, names + count});
+    return request.adapter->ArrangeProfiles({names, names + count});
 }
 
 DWORD SimulatedWlanService::WlanRenameProfile(
     HANDLE client, const GUID* interfaceGuid, const wchar_t* name, const wchar_t* newName, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanRenameProfile", client, {interfaceGuid, name, newName}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr || !IsProfileName(newName))
+    const Request request(m_machine, "WlanRenameProfile", client, interfaceGuid, {name, newName}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    if (!IsProfileName(newName))
         return ERROR_INVALID_PARAMETER;
-    return adapter->RenameProfile(name, newName);
+    return request.adapter->RenameProfile(name, newName);
 }
 
 // The security descriptor is not looked at, as in WlanSetProfile.
@@ -153,30 +142,26 @@ DWORD SimulatedWlanService::WlanSaveTemporaryProfile(HANDLE client,
                                                      BOOL overwrite,
                                                      PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSaveTemporaryProfile", client, {interfaceGuid}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    const Request request(m_machine, "WlanSaveTemporaryProfile", client, interfaceGuid, {}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     const bool needsName = (flags & WLAN_PROFILE_CONNECTION_MODE_AUTO) != 0;
     const bool isName = name != nullptr ? IsProfileName(name) : !needsName;
-    if (adapter == nullptr || !isName || (flags & ~knownSaveFlags) != 0)
+    if (!isName || (flags & ~knownSaveFlags) != 0)
         return ERROR_INVALID_PARAMETER;
-    return adapter->SaveTemporaryProfile(name, flags & WLAN_PROFILE_USER, overwrite != FALSE);
+    return request.adapter->SaveTemporaryProfile(name, flags & WLAN_PROFILE_USER, overwrite != FALSE);
 }
 
 DWORD SimulatedWlanService::WlanGetProfileCustomUserData(
     HANDLE client, const GUID* interfaceGuid, const wchar_t* name, PVOID reserved, DWORD* dataSize, BYTE** data)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error =
-            Check("WlanGetProfileCustomUserData", client, {interfaceGuid, name, dataSize, data}, reserved))
-        return error;
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    if (adapter->Profiles().Find(name) == nullptr)
+    const Request request(m_machine, "WlanGetProfileCustomUserData", client, interfaceGuid, {name, dataSize, data},
+                          reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    if (request.adapter->Profiles().Find(name) == nullptr)
         return ERROR_NOT_FOUND; // chosen
-    const Bytes kept = adapter->Profiles().CustomData(name);
+    const Bytes kept = request.adapter->Profiles().CustomData(name);
     if (kept.empty())
         return ERROR_FILE_NOT_FOUND;
     *data = NewRecord<BYTE>(m_machine.wlanBlocks, kept.size(), "custom data of a profile");
@@ -189,15 +174,14 @@ DWORD SimulatedWlanService::WlanGetProfileCustomUserData(
 DWORD SimulatedWlanService::WlanSetProfileCustomUserData(
     HANDLE client, const GUID* interfaceGuid, const wchar_t* name, DWORD dataSize, const BYTE* data, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSetProfileCustomUserData", client, {interfaceGuid, name}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr || (data == nullptr) != (dataSize == 0))
+    const Request request(m_machine, "WlanSetProfileCustomUserData", client, interfaceGuid, {name}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    if ((data == nullptr) != (dataSize == 0))
         return ERROR_INVALID_PARAMETER;
-    if (adapter->Profiles().Find(name) == nullptr)
+    if (request.adapter->Profiles().Find(name) == nullptr)
         return ERROR_NOT_FOUND; // chosen
-    adapter->SetCustomData(name, data != nullptr ? Bytes(data, data + dataSize) : Bytes());
+    request.adapter->SetCustomData(name, data != nullptr ? Bytes(data, data + dataSize) : Bytes());
     return ERROR_SUCCESS;
 }
 

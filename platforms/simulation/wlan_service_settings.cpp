@@ -1,6 +1,7 @@
 #include "simulation/interface_answers.h"
 #include "simulation/wlan_service.h"
 
+#include <algorithm>
 #include <cstring>
 #include <optional>
 
@@ -22,22 +23,6 @@ bool NeedsConnection(WLAN_INTF_OPCODE opcode)
 {
     return opcode == wlan_intf_opcode_current_connection || opcode == wlan_intf_opcode_rssi ||
            opcode == wlan_intf_opcode_channel_number;
-}
-
-bool CanBeSet(WLAN_INTF_OPCODE opcode)
-{
-    switch (static_cast<unsigned int>(opcode))
-    {
-    case wlan_intf_opcode_autoconf_enabled:
-    case wlan_intf_opcode_background_scan_enabled:
-    case wlan_intf_opcode_media_streaming_mode:
-    case wlan_intf_opcode_radio_state:
-    case wlan_intf_opcode_bss_type:
-    case wlan_intf_opcode_current_operation_mode:
-        return true;
-    default:
-        return false;
-    }
 }
 
 BOOL Boolean(bool value)
@@ -97,43 +82,29 @@ std::optional<InterfaceAnswer> Answer(Blocks& blocks, const Adapter& adapter, WL
     }
 }
 
-std::optional<bool> ReadBoolean(DWORD size, const void* data)
+DWORD SetAutoConfiguration(Adapter& adapter, BOOL enabled)
 {
-    BOOL value = FALSE;
-    if (size != sizeof(value))
-        return std::nullopt;
-    std::memcpy(&value, data, sizeof(value));
-    return value != FALSE;
-}
-
-template <void (Adapter::*set)(bool)>
-DWORD SetSwitch(Adapter& adapter, DWORD size, const void* data)
-{
-    const auto value = ReadBoolean(size, data);
-    if (!value)
-        return ERROR_INVALID_PARAMETER;
-    (adapter.*set)(*value);
+    adapter.SetAutoConfiguration(enabled != FALSE);
     return ERROR_SUCCESS;
 }
 
 // Only a connected adapter takes this setting.
-DWORD SetBackgroundScan(Adapter& adapter, DWORD size, const void* data)
+DWORD SetBackgroundScan(Adapter& adapter, BOOL enabled)
 {
-    const auto value = ReadBoolean(size, data);
-    if (!value)
-        return ERROR_INVALID_PARAMETER;
     if (!IsConnected(adapter))
         return ERROR_INVALID_STATE;
-    adapter.SetBackgroundScan(*value);
+    adapter.SetBackgroundScan(enabled != FALSE);
     return ERROR_SUCCESS;
 }
 
-DWORD SetBssType(Adapter& adapter, DWORD size, const void* data)
+DWORD SetMediaStreaming(Adapter& adapter, BOOL enabled)
 {
-    DOT11_BSS_TYPE type{};
-    if (size != sizeof(type))
-        return ERROR_INVALID_PARAMETER;
-    std::memcpy(&type, data, sizeof(type));
+    adapter.SetMediaStreaming(enabled != FALSE);
+    return ERROR_SUCCESS;
+}
+
+DWORD SetBssType(Adapter& adapter, DOT11_BSS_TYPE type)
+{
     if (type < dot11_BSS_type_infrastructure || type > dot11_BSS_type_any)
         return ERROR_INVALID_PARAMETER;
     adapter.SetBssType(type);
@@ -141,24 +112,16 @@ DWORD SetBssType(Adapter& adapter, DWORD size, const void* data)
 }
 
 // There is no adapter that could listen to everybody's frames.
-DWORD SetOperationMode(DWORD size, const void* data)
+DWORD SetOperationMode(Adapter&, ULONG mode)
 {
-    ULONG mode = 0;
-    if (size != sizeof(mode))
-        return ERROR_INVALID_PARAMETER;
-    std::memcpy(&mode, data, sizeof(mode));
     if (mode == networkMonitor)
         return ERROR_NOT_SUPPORTED;
     return mode == extensibleStation ? ERROR_SUCCESS : ERROR_INVALID_PARAMETER;
 }
 
 // Only the software switch can be thrown; what the record says of the hardware is not looked at.
-DWORD SetRadio(Adapter& adapter, DWORD size, const void* data)
+DWORD SetRadio(Adapter& adapter, WLAN_PHY_RADIO_STATE state)
 {
-    WLAN_PHY_RADIO_STATE state{};
-    if (size != sizeof(state))
-        return ERROR_INVALID_PARAMETER;
-    std::memcpy(&state, data, sizeof(state));
     const bool isOn = state.dot11SoftwareRadioState == dot11_radio_state_on;
     const bool isOff = state.dot11SoftwareRadioState == dot11_radio_state_off;
     if (state.dwPhyIndex >= adapter.Phys().size() || (!isOn && !isOff))
@@ -166,6 +129,39 @@ DWORD SetRadio(Adapter& adapter, DWORD size, const void* data)
     const RadioSwitch hardware = adapter.Phys()[state.dwPhyIndex].hardware;
     adapter.SetRadio(state.dwPhyIndex, isOn ? RadioSwitch::on : RadioSwitch::off, hardware);
     return ERROR_SUCCESS;
+}
+
+template <typename Value, DWORD (*set)(Adapter&, Value)>
+DWORD SetFrom(Adapter& adapter, DWORD size, const void* data)
+{
+    Value value{};
+    if (size != sizeof(value))
+        return ERROR_INVALID_PARAMETER;
+    std::memcpy(&value, data, sizeof(value));
+    return set(adapter, value);
+}
+
+/// What programs can set.
+struct Setting
+{
+    WLAN_INTF_OPCODE opcode;
+    DWORD (*set)(Adapter& adapter, DWORD size, const void* data);
+};
+
+constexpr Setting settings[] = {
+    {wlan_intf_opcode_autoconf_enabled, SetFrom<BOOL, SetAutoConfiguration>},
+    {wlan_intf_opcode_background_scan_enabled, SetFrom<BOOL, SetBackgroundScan>},
+    {wlan_intf_opcode_media_streaming_mode, SetFrom<BOOL, SetMediaStreaming>},
+    {wlan_intf_opcode_radio_state, SetFrom<WLAN_PHY_RADIO_STATE, SetRadio>},
+    {wlan_intf_opcode_bss_type, SetFrom<DOT11_BSS_TYPE, SetBssType>},
+    {wlan_intf_opcode_current_operation_mode, SetFrom<ULONG, SetOperationMode>},
+};
+
+const Setting* FindSetting(WLAN_INTF_OPCODE opcode)
+{
+    const auto* const found = std::find_if(std::begin(settings), std::end(settings),
+                                           [opcode](const Setting& setting) { return setting.opcode == opcode; });
+    return found != std::end(settings) ? found : nullptr;
 }
 
 } // namespace
@@ -178,51 +174,33 @@ DWORD SimulatedWlanService::WlanQueryInterface(HANDLE client,
                                                PVOID* data,
                                                WLAN_OPCODE_VALUE_TYPE* valueType)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanQueryInterface", client, {interfaceGuid, dataSize, data}, reserved))
-        return error;
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
+    const Request request(m_machine, "WlanQueryInterface", client, interfaceGuid, {dataSize, data}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
     // Of the queries only this one would reveal where the computer is.
     if (opcode == wlan_intf_opcode_current_connection && !m_machine.locationConsent)
         return ERROR_ACCESS_DENIED;
-    if (NeedsConnection(opcode) && !IsConnected(*adapter))
+    if (NeedsConnection(opcode) && !IsConnected(*request.adapter))
         return ERROR_INVALID_STATE;
-    const auto answer = Answer(m_machine.wlanBlocks, *adapter, opcode);
+    const auto answer = Answer(m_machine.wlanBlocks, *request.adapter, opcode);
     if (!answer)
         return ERROR_NOT_SUPPORTED;
     *data = answer->data;
     *dataSize = static_cast<DWORD>(answer->size);
     if (valueType != nullptr)
-        *valueType = CanBeSet(opcode) ? wlan_opcode_value_type_set_by_user : wlan_opcode_value_type_query_only;
+        *valueType =
+            FindSetting(opcode) != nullptr ? wlan_opcode_value_type_set_by_user : wlan_opcode_value_type_query_only;
     return ERROR_SUCCESS;
 }
 
 DWORD SimulatedWlanService::WlanSetInterface(
     HANDLE client, const GUID* interfaceGuid, WLAN_INTF_OPCODE opcode, DWORD dataSize, const void* data, PVOID reserved)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanSetInterface", client, {interfaceGuid, data}, reserved))
-        return error;
-    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr || !CanBeSet(opcode))
-        return ERROR_INVALID_PARAMETER;
-    switch (static_cast<unsigned int>(opcode))
-    {
-    case wlan_intf_opcode_autoconf_enabled:
-        return SetSwitch<&Adapter::SetAutoConfiguration>(*adapter, dataSize, data);
-    case wlan_intf_opcode_background_scan_enabled:
-        return SetBackgroundScan(*adapter, dataSize, data);
-    case wlan_intf_opcode_radio_state:
-        return SetRadio(*adapter, dataSize, data);
-    case wlan_intf_opcode_media_streaming_mode:
-        return SetSwitch<&Adapter::SetMediaStreaming>(*adapter, dataSize, data);
-    case wlan_intf_opcode_bss_type:
-        return SetBssType(*adapter, dataSize, data);
-    default:
-        return SetOperationMode(dataSize, data);
-    }
+    const Request request(m_machine, "WlanSetInterface", client, interfaceGuid, {data}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    const Setting* const setting = FindSetting(opcode);
+    return setting != nullptr ? setting->set(*request.adapter, dataSize, data) : ERROR_INVALID_PARAMETER;
 }
 
 DWORD SimulatedWlanService::WlanGetInterfaceCapability(HANDLE client,
@@ -230,13 +208,10 @@ DWORD SimulatedWlanService::WlanGetInterfaceCapability(HANDLE client,
                                                        PVOID reserved,
                                                        WLAN_INTERFACE_CAPABILITY** capability)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (const DWORD error = Check("WlanGetInterfaceCapability", client, {interfaceGuid, capability}, reserved))
-        return error;
-    const Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
-    if (adapter == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    *capability = MakeCapability(m_machine.wlanBlocks, *adapter);
+    const Request request(m_machine, "WlanGetInterfaceCapability", client, interfaceGuid, {capability}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    *capability = MakeCapability(m_machine.wlanBlocks, *request.adapter);
     return ERROR_SUCCESS;
 }
 
