@@ -65,9 +65,7 @@ TEST_F(AutoConfiguration, AFailingProfileIsPassedOver)
 
 TEST_F(AutoConfiguration, ManualProfilesAreNotUsed)
 {
-    ProfileSettings settings;
-    settings.name = "Second";
-    settings.ssid = BytesOf("Second");
+    ProfileSettings settings = MakeSettings("Second", "Second");
     settings.mode = "manual";
     scenario.adapters[0].profiles[1] = {MakeProfileXml(settings)};
     Start();

@@ -71,9 +71,7 @@ TEST_F(BssList, EntriesCarryTheTimeOfTheirScan)
 
 TEST_F(BssList, TheFiltersNarrowIt)
 {
-    scenario.accessPoints.push_back(MakeAccessPoint("HomeNet", 3, -60));
-    scenario.accessPoints.back().authentication = "open";
-    scenario.accessPoints.back().encryption = "none";
+    scenario.accessPoints.push_back(MakeOpenPoint("HomeNet", 3, -60));
     scenario.accessPoints.push_back(MakeAccessPoint("HomeNet", 4, -60));
     scenario.accessPoints.back().bssType = 2;
     scenario.accessPoints.push_back(MakeAccessPoint("Other", 5, -60));
@@ -104,9 +102,7 @@ TEST_F(BssList, AHiddenNetworkShowsItsSsidOnlyWhileConnected)
 {
     scenario.accessPoints = {MakeAccessPoint("Secret", 9, -60)};
     scenario.accessPoints[0].hidden = true;
-    ProfileSettings settings;
-    settings.name = "Secret";
-    settings.ssid = BytesOf("Secret");
+    ProfileSettings settings = MakeSettings("Secret", "Secret");
     settings.hidden = true;
     scenario.adapters[0].profiles = {{MakeProfileXml(settings)}};
     Start();
@@ -143,12 +139,9 @@ TEST_F(BssList, InformationElementsAreMadeUpWhereTheScenarioHasNone)
 
 TEST_F(BssList, MadeUpElementsOfAnOpenHiddenNetworkAt5GHz)
 {
-    scenario.accessPoints = {MakeAccessPoint("AB", 1, -50)};
-    AccessPoint& point = scenario.accessPoints[0];
-    point.hidden = true;
-    point.frequencyKhz = 5180000;
-    point.authentication = "open";
-    point.encryption = "none";
+    scenario.accessPoints = {MakeOpenPoint("AB", 1, -50)};
+    scenario.accessPoints[0].hidden = true;
+    scenario.accessPoints[0].frequencyKhz = 5180000;
     Start();
     const Bytes expected = {0, 0, 1, 8, 0x8c, 18, 0x98, 36, 0xb0, 72, 96, 108};
     EXPECT_EQ(ListElements(), std::vector<Bytes>{expected});

@@ -1,5 +1,6 @@
 // The computer as a whole: how it is made, and what it reports about itself.
 #include "service_fixture.h"
+#include "system_fixture.h"
 
 namespace calvix::simulation::computer_test
 {
@@ -82,15 +83,8 @@ TEST_F(WholeComputer, ScenariosThatContradictThemselvesAreRefused)
     {
         Scenario spoiled = scenario;
         each.spoil(spoiled);
-        try
-        {
-            const Computer refused(spoiled);
-            ADD_FAILURE() << each.message;
-        }
-        catch (const ScenarioError& error)
-        {
-            EXPECT_NE(std::string(error.what()).find(each.message), std::string::npos) << error.what();
-        }
+        const std::string problem = ProblemOf([&] { const Computer refused(spoiled); });
+        EXPECT_NE(problem.find(each.message), std::string::npos) << each.message << ", not " << problem;
     }
 }
 

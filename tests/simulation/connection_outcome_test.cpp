@@ -31,56 +31,44 @@ protected:
     }
 };
 
-struct Case
+TEST_F(ConnectionOutcome, IsReportedOnce)
 {
-    const char* what;
-    void (*change)(AccessPoint&);
-    DWORD reason;
-};
-
-void PrintTo(const Case& outcome, std::ostream* out)
-{
-    *out << outcome.what;
+    const struct
+    {
+        const char* what;
+        void (*change)(AccessPoint&);
+        DWORD reason;
+    } cases[] = {
+        {"as it is", [](AccessPoint&) {}, WLAN_REASON_CODE_SUCCESS},
+        {"the right key", [](AccessPoint& point) { point.key = "correct horse"; }, WLAN_REASON_CODE_SUCCESS},
+        {"a wrong key", [](AccessPoint& point) { point.key = "another horse"; },
+         WLAN_REASON_CODE_MSMSEC_PSK_MISMATCH_SUSPECTED},
+        {"just in reach", [](AccessPoint& point) { point.rssi = -90; }, WLAN_REASON_CODE_SUCCESS},
+        {"too faint", [](AccessPoint& point) { point.rssi = -91; }, WLAN_REASON_CODE_NO_VISIBLE_AP},
+        {"vanishes meanwhile",
+         [](AccessPoint& point) {
+             point.timetable = {{0, -50}, {700, std::nullopt}};
+         },
+         WLAN_REASON_CODE_NO_VISIBLE_AP},
+        {"another SSID", [](AccessPoint& point) { point.ssid.push_back('2'); }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+        {"another BSS type", [](AccessPoint& point) { point.bssType = 2; }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+        {"another authentication", [](AccessPoint& point) { point.authentication = "WPA3SAE"; },
+         WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+        {"another encryption", [](AccessPoint& point) { point.encryption = "TKIP"; },
+         WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+        {"hidden", [](AccessPoint& point) { point.hidden = true; }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
+    };
+    for (const auto& [what, change, reason] : cases)
+    {
+        SCOPED_TRACE(what);
+        scenario.accessPoints = {MakeAccessPoint("HomeNet", 1, -50)};
+        change(scenario.accessPoints[0]);
+        const Lines failure = {"acm 9", With("acm 11", reason), With("acm 10", reason)};
+        const bool succeeds = reason == WLAN_REASON_CODE_SUCCESS;
+        EXPECT_EQ(Try(), succeeds ? (Lines{"acm 9", "acm 10"}) : failure);
+        EXPECT_EQ(InterfaceState(), succeeds ? wlan_interface_state_connected : wlan_interface_state_disconnected);
+    }
 }
-
-class ConnectionOutcomes : public ConnectionOutcome, public ::testing::WithParamInterface<Case>
-{
-};
-
-TEST_P(ConnectionOutcomes, AreReportedOnce)
-{
-    GetParam().change(scenario.accessPoints[0]);
-    const DWORD reason = GetParam().reason;
-    if (reason == WLAN_REASON_CODE_SUCCESS)
-        EXPECT_EQ(Try(), (Lines{"acm 9", "acm 10"}));
-    else
-        EXPECT_EQ(Try(), (Lines{"acm 9", With("acm 11", reason), With("acm 10", reason)}));
-    EXPECT_EQ(InterfaceState(),
-              reason == WLAN_REASON_CODE_SUCCESS ? wlan_interface_state_connected : wlan_interface_state_disconnected);
-}
-
-const Case kOutcomes[] = {
-    {"as it is", [](AccessPoint&) {}, WLAN_REASON_CODE_SUCCESS},
-    {"the right key", [](AccessPoint& point) { point.key = "correct horse"; }, WLAN_REASON_CODE_SUCCESS},
-    {"a wrong key", [](AccessPoint& point) { point.key = "another horse"; },
-     WLAN_REASON_CODE_MSMSEC_PSK_MISMATCH_SUSPECTED},
-    {"just in reach", [](AccessPoint& point) { point.rssi = -90; }, WLAN_REASON_CODE_SUCCESS},
-    {"too faint", [](AccessPoint& point) { point.rssi = -91; }, WLAN_REASON_CODE_NO_VISIBLE_AP},
-    {"vanishes meanwhile",
-     [](AccessPoint& point) {
-         point.timetable = {{0, -50}, {700, std::nullopt}};
-     },
-     WLAN_REASON_CODE_NO_VISIBLE_AP},
-    {"another SSID", [](AccessPoint& point) { point.ssid.push_back('2'); }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
-    {"another BSS type", [](AccessPoint& point) { point.bssType = 2; }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
-    {"another authentication", [](AccessPoint& point) { point.authentication = "WPA3SAE"; },
-     WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
-    {"another encryption", [](AccessPoint& point) { point.encryption = "TKIP"; },
-     WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
-    {"hidden", [](AccessPoint& point) { point.hidden = true; }, WLAN_REASON_CODE_NETWORK_NOT_AVAILABLE},
-};
-
-INSTANTIATE_TEST_SUITE_P(AccessPoints, ConnectionOutcomes, ::testing::ValuesIn(kOutcomes));
 
 TEST_F(ConnectionOutcome, AWrongKeyShowsWhileAuthenticating)
 {

@@ -149,57 +149,42 @@ TEST_F(Connecting, ANewRequestReplacesTheOneThatIsBeingTried)
 
 TEST_F(Connecting, RefusesWhatItCannotUse)
 {
-    Start();
     const std::wstring longName(256, L'x');
-    const DOT11_SSID otherSsid = SsidOf("Other");
+    DOT11_SSID other = SsidOf("Other");
+    constexpr auto byProfile = wlan_connection_mode_profile;
+    constexpr auto byTemporary = wlan_connection_mode_temporary_profile;
+    constexpr auto infrastructure = dot11_BSS_type_infrastructure;
     const struct
     {
         const char* what;
-        void (*spoil)(WLAN_CONNECTION_PARAMETERS&, const std::wstring&, const DOT11_SSID&);
-        DWORD error;
+        WLAN_CONNECTION_MODE mode;
+        const wchar_t* profile;
+        DOT11_SSID* ssid;
+        DOT11_BSS_TYPE bssType;
+        DWORD error = ERROR_INVALID_PARAMETER;
     } cases[] = {
-        {"null name", [](auto& p, auto&, auto&) { p.strProfile = nullptr; }, ERROR_INVALID_PARAMETER},
-        {"empty name", [](auto& p, auto&, auto&) { p.strProfile = L""; }, ERROR_INVALID_PARAMETER},
-        {"long name", [](auto& p, auto& name, auto&) { p.strProfile = name.c_str(); }, ERROR_INVALID_PARAMETER},
-        {"unknown name", [](auto& p, auto&, auto&) { p.strProfile = L"homenet"; }, ERROR_NOT_FOUND},
-        {"automatic mode", [](auto& p, auto&, auto&) { p.wlanConnectionMode = wlan_connection_mode_auto; },
-         ERROR_INVALID_PARAMETER},
-        {"invalid mode", [](auto& p, auto&, auto&) { p.wlanConnectionMode = wlan_connection_mode_invalid; },
-         ERROR_INVALID_PARAMETER},
-        {"temporary profile that is none",
-         [](auto& p, auto&, auto&) { p.wlanConnectionMode = wlan_connection_mode_temporary_profile; },
-         ERROR_BAD_PROFILE},
-        {"no temporary profile",
-         [](auto& p, auto&, auto&)
-         {
-             p.wlanConnectionMode = wlan_connection_mode_temporary_profile;
-             p.strProfile = nullptr;
-         },
-         ERROR_INVALID_PARAMETER},
-        {"discovery with a profile",
-         [](auto& p, auto&, auto& ssid)
-         {
-             p.wlanConnectionMode = wlan_connection_mode_discovery_secure;
-             p.pDot11Ssid = const_cast<DOT11_SSID*>(&ssid);
-         },
-         ERROR_INVALID_PARAMETER},
-        {"discovery of no network",
-         [](auto& p, auto&, auto&)
-         {
-             p.wlanConnectionMode = wlan_connection_mode_discovery_unsecure;
-             p.strProfile = nullptr;
-         },
-         ERROR_INVALID_PARAMETER},
-        {"another BSS type", [](auto& p, auto&, auto&) { p.dot11BssType = dot11_BSS_type_independent; },
-         ERROR_INVALID_PARAMETER},
-        {"any BSS type", [](auto& p, auto&, auto&) { p.dot11BssType = dot11_BSS_type_any; }, ERROR_INVALID_PARAMETER},
-        {"another SSID", [](auto& p, auto&, auto& ssid) { p.pDot11Ssid = const_cast<DOT11_SSID*>(&ssid); },
-         ERROR_INVALID_PARAMETER},
+        {"null name", byProfile, nullptr, nullptr, infrastructure},
+        {"empty name", byProfile, L"", nullptr, infrastructure},
+        {"long name", byProfile, longName.c_str(), nullptr, infrastructure},
+        {"unknown name", byProfile, L"homenet", nullptr, infrastructure, ERROR_NOT_FOUND},
+        {"automatic mode", wlan_connection_mode_auto, L"HomeNet", nullptr, infrastructure},
+        {"invalid mode", wlan_connection_mode_invalid, L"HomeNet", nullptr, infrastructure},
+        {"temporary profile that is none", byTemporary, L"HomeNet", nullptr, infrastructure, ERROR_BAD_PROFILE},
+        {"no temporary profile", byTemporary, nullptr, nullptr, infrastructure},
+        {"discovery with a profile", wlan_connection_mode_discovery_secure, L"HomeNet", &other, infrastructure},
+        {"discovery of no network", wlan_connection_mode_discovery_unsecure, nullptr, nullptr, infrastructure},
+        {"another BSS type", byProfile, L"HomeNet", nullptr, dot11_BSS_type_independent},
+        {"any BSS type", byProfile, L"HomeNet", nullptr, dot11_BSS_type_any},
+        {"another SSID", byProfile, L"HomeNet", &other, infrastructure},
     };
+    Start();
     for (const auto& each : cases)
     {
-        WLAN_CONNECTION_PARAMETERS parameters = Right();
-        each.spoil(parameters, longName, otherSsid);
+        WLAN_CONNECTION_PARAMETERS parameters{};
+        parameters.wlanConnectionMode = each.mode;
+        parameters.strProfile = each.profile;
+        parameters.pDot11Ssid = each.ssid;
+        parameters.dot11BssType = each.bssType;
         EXPECT_EQ(ConnectWith(parameters), each.error) << each.what;
         EXPECT_EQ(InterfaceState(), wlan_interface_state_disconnected) << each.what;
     }

@@ -123,36 +123,23 @@ TEST_F(InterfaceQueries, TheLinkHasTheRatesOfTheScenario)
     EXPECT_EQ(computer->Snapshot().adapters[0].connection->receiveKbps, 2401900u);
 }
 
-struct ChannelCase
-{
-    std::uint32_t frequencyKhz;
-    ULONG channel;
-};
-
-class Channels : public ServiceTest, public ::testing::WithParamInterface<ChannelCase>
-{
-};
-
-TEST_P(Channels, HaveTheirCustomaryNumbers)
+TEST_F(InterfaceQueries, ChannelsHaveTheirCustomaryNumbers)
 {
     scenario.accessPoints.resize(1);
-    scenario.accessPoints[0].frequencyKhz = GetParam().frequencyKhz;
     scenario.adapters[0].connection = simulation::Connection{"HomeNet", std::nullopt};
-    Start();
-    EXPECT_EQ(Query<ULONG>(wlan_intf_opcode_channel_number), GetParam().channel);
+    const struct
+    {
+        std::uint32_t frequencyKhz;
+        ULONG channel;
+    } cases[] = {{2412000, 1},   {2472000, 13}, {2484000, 14}, {5180000, 36}, {5825000, 165},
+                 {4920000, 184}, {5935000, 2},  {5955000, 1},  {6415000, 93}};
+    for (const auto& each : cases)
+    {
+        scenario.accessPoints[0].frequencyKhz = each.frequencyKhz;
+        Start();
+        EXPECT_EQ(Query<ULONG>(wlan_intf_opcode_channel_number), each.channel) << each.frequencyKhz;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(InterfaceQueries,
-                         Channels,
-                         ::testing::Values(ChannelCase{2412000, 1},
-                                           ChannelCase{2472000, 13},
-                                           ChannelCase{2484000, 14},
-                                           ChannelCase{5180000, 36},
-                                           ChannelCase{5825000, 165},
-                                           ChannelCase{4920000, 184},
-                                           ChannelCase{5935000, 2},
-                                           ChannelCase{5955000, 1},
-                                           ChannelCase{6415000, 93}));
 
 TEST_F(InterfaceQueries, ShowWhetherTheValueCanBeSet)
 {

@@ -16,15 +16,6 @@ protected:
     void AddProfile(ProfileSettings settings) { Adapter().profiles.push_back({MakeProfileXml(settings)}); }
 };
 
-ProfileSettings Settings(const std::string& name, const std::string& ssid)
-{
-    ProfileSettings settings;
-    settings.name = name;
-    settings.ssid = BytesOf(ssid);
-    settings.key = "correct horse";
-    return settings;
-}
-
 TEST_F(NetworkList, AnEntryDescribesItsWholeNetwork)
 {
     scenario.accessPoints[1].phyType = 10;
@@ -79,8 +70,8 @@ TEST_F(NetworkList, SsidTypeAndSecurityMakeANetwork)
 
 TEST_F(NetworkList, ThereIsAnEntryForEachFittingProfileInPreferenceOrder)
 {
-    AddProfile(Settings("Other name", "HomeNet"));
-    ProfileSettings unfit = Settings("Unfit", "HomeNet");
+    AddProfile(MakeSettings("Other name", "HomeNet"));
+    ProfileSettings unfit = MakeSettings("Unfit", "HomeNet");
     unfit.authentication = "WPA3SAE";
     AddProfile(unfit);
     Start();
@@ -103,7 +94,7 @@ TEST_F(NetworkList, ANetworkWithoutAProfileHasAnEmptyName)
 
 TEST_F(NetworkList, TheProfileInUseIsMarkedConnected)
 {
-    AddProfile(Settings("Other name", "HomeNet"));
+    AddProfile(MakeSettings("Other name", "HomeNet"));
     Adapter().connection = simulation::Connection{"Other name", std::nullopt};
     Start();
     const auto networks = ListNetworks();
@@ -123,54 +114,40 @@ TEST_F(NetworkList, SecurityThatTheAdapterCannotDoIsNotConnectable)
     EXPECT_EQ(networks[0].wlanNotConnectableReason, WLAN_REASON_CODE_UNSUPPORTED_SECURITY_SET);
 }
 
-struct Reception
+TEST_F(NetworkList, QualityIsLinearBetweenMinus100AndMinus50)
 {
-    std::int32_t rssi;
-    ULONG quality;
-};
-
-class Quality : public NetworkList, public ::testing::WithParamInterface<Reception>
-{
-};
-
-TEST_P(Quality, IsLinearBetweenMinus100AndMinus50)
-{
-    scenario.accessPoints = {MakeAccessPoint("HomeNet", 1, GetParam().rssi)};
-    Start();
-    EXPECT_EQ(ListNetworks().at(0).wlanSignalQuality, GetParam().quality);
-    EXPECT_EQ(ListStations().at(0).uLinkQuality, GetParam().quality);
-}
-
-INSTANTIATE_TEST_SUITE_P(Signal,
-                         Quality,
-                         ::testing::Values(Reception{-120, 0},
-                                           Reception{-100, 0},
-                                           Reception{-99, 2},
-                                           Reception{-75, 50},
-                                           Reception{-51, 98},
-                                           Reception{-50, 100},
-                                           Reception{-20, 100}));
-
-class PhyTypes : public NetworkList, public ::testing::WithParamInterface<std::uint32_t>
-{
-};
-
-TEST_P(PhyTypes, AreListedUpToEight)
-{
-    scenario.accessPoints.clear();
-    for (std::uint8_t phy = 1; phy <= GetParam(); ++phy)
+    const struct
     {
-        scenario.accessPoints.push_back(MakeAccessPoint("HomeNet", phy, -60));
-        scenario.accessPoints.back().phyType = phy;
+        std::int32_t rssi;
+        ULONG quality;
+    } cases[] = {{-120, 0}, {-100, 0}, {-99, 2}, {-75, 50}, {-51, 98}, {-50, 100}, {-20, 100}};
+    for (const auto& each : cases)
+    {
+        scenario.accessPoints = {MakeAccessPoint("HomeNet", 1, each.rssi)};
+        Start();
+        EXPECT_EQ(ListNetworks().at(0).wlanSignalQuality, each.quality) << each.rssi;
+        EXPECT_EQ(ListStations().at(0).uLinkQuality, each.quality) << each.rssi;
     }
-    Start();
-    const WLAN_AVAILABLE_NETWORK network = ListNetworks().at(0);
-    EXPECT_EQ(network.uNumberOfBssids, GetParam());
-    EXPECT_EQ(network.uNumberOfPhyTypes, std::min<std::uint32_t>(GetParam(), 8));
-    EXPECT_EQ(network.bMorePhyTypes, GetParam() > 8 ? TRUE : FALSE);
 }
 
-INSTANTIATE_TEST_SUITE_P(NetworkList, PhyTypes, ::testing::Values(1u, 8u, 9u, 11u));
+TEST_F(NetworkList, PhyTypesAreListedUpToEight)
+{
+    for (const std::uint32_t count : {1u, 8u, 9u, 11u})
+    {
+        SCOPED_TRACE(count);
+        scenario.accessPoints.clear();
+        for (std::uint8_t phy = 1; phy <= count; ++phy)
+        {
+            scenario.accessPoints.push_back(MakeAccessPoint("HomeNet", phy, -60));
+            scenario.accessPoints.back().phyType = phy;
+        }
+        Start();
+        const WLAN_AVAILABLE_NETWORK network = ListNetworks().at(0);
+        EXPECT_EQ(network.uNumberOfBssids, count);
+        EXPECT_EQ(network.uNumberOfPhyTypes, std::min(count, 8u));
+        EXPECT_EQ(network.bMorePhyTypes, count > 8 ? TRUE : FALSE);
+    }
+}
 
 class HiddenNetworks : public NetworkList
 {
@@ -182,7 +159,7 @@ protected:
         hidden.hidden = true;
     }
 
-    ProfileSettings hidden = Settings("My secret", "Secret");
+    ProfileSettings hidden = MakeSettings("My secret", "Secret");
 };
 
 TEST_F(HiddenNetworks, AreListedWithoutSsid)
@@ -235,7 +212,7 @@ TEST_F(HiddenNetworks, KeepTheirSecretFromProfilesOfOpenlyNamedNetworks)
 
 TEST_F(NetworkList, AdHocProfilesAreListedOnRequestThoughNotHeard)
 {
-    ProfileSettings game = Settings("Game", "Game");
+    ProfileSettings game = MakeSettings("Game", "Game");
     game.bssType = 2;
     game.mode = "manual";
     game.authentication = "open";

@@ -43,9 +43,7 @@ TEST_F(Notifications, AnOpenNetworkDoesNotAuthenticate)
     settings.authentication = "open";
     settings.encryption = "none";
     scenario.adapters[0].profiles = {{MakeProfileXml(settings)}};
-    scenario.accessPoints = {MakeAccessPoint("Cafe", 1, -50)};
-    scenario.accessPoints[0].authentication = "open";
-    scenario.accessPoints[0].encryption = "none";
+    scenario.accessPoints = {MakeOpenPoint("Cafe", 1, -50)};
     StartListening();
     ASSERT_EQ(Connect(L"Cafe"), ERROR_SUCCESS);
     computer->Advance(milliseconds(1000));

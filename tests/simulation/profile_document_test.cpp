@@ -96,31 +96,6 @@ TEST(ProfileDocument, ElementsWithoutAUseArePassedOver)
     Parsed(With("<name>My", "<!-- a <comment> --><name>My"));
 }
 
-struct Refusal
-{
-    std::string part;
-    std::string replacement;
-    WLAN_REASON_CODE reason;
-    DWORD error = ERROR_BAD_PROFILE;
-};
-
-void PrintTo(const Refusal& refusal, std::ostream* out)
-{
-    *out << refusal.part << " -> " << refusal.replacement.substr(0, 60);
-}
-
-class ProfileRefusals : public ::testing::TestWithParam<Refusal>
-{
-};
-
-TEST_P(ProfileRefusals, HaveAReason)
-{
-    ProfileRefusal refusal{};
-    EXPECT_FALSE(ParseProfile(With(GetParam().part, GetParam().replacement), refusal).has_value());
-    EXPECT_EQ(refusal.error, GetParam().error);
-    EXPECT_EQ(refusal.reason, GetParam().reason);
-}
-
 std::string Nested(int depth)
 {
     std::string xml;
@@ -136,37 +111,50 @@ std::string MsmOf(const std::string& xml)
     return xml.substr(begin, xml.find(end) + end.size() - begin);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    ProfileDocument,
-    ProfileRefusals,
-    ::testing::Values(Refusal{good, "", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{good, "no XML", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{good, "<WLANProfile>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{good, "<Profile></Profile>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{good, Nested(200'000), WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{"</MSM>", "</msm>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{"<name>My &amp; home</name>", "", WLAN_REASON_CODE_INVALID_PROFILE_NAME},
-                      Refusal{"My &amp; home", "", WLAN_REASON_CODE_INVALID_PROFILE_NAME},
-                      Refusal{"My &amp; home", std::string(256, 'x'), WLAN_REASON_CODE_INVALID_PROFILE_NAME},
-                      Refusal{"486F6D65", "486", WLAN_REASON_CODE_PROFILE_SSID_INVALID},
-                      Refusal{"486F6D65", "GG", WLAN_REASON_CODE_PROFILE_SSID_INVALID},
-                      Refusal{"486F6D65", "", WLAN_REASON_CODE_PROFILE_SSID_INVALID},
-                      Refusal{"486F6D65", std::string(66, '0'), WLAN_REASON_CODE_PROFILE_SSID_INVALID},
-                      Refusal{"true</nonBroadcast>", "yes</nonBroadcast>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{"<connectionType>ESS</connectionType>", "", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{"<connectionType>ESS", "<connectionType>BSS", WLAN_REASON_CODE_INVALID_BSS_TYPE},
-                      Refusal{"<connectionType>ESS", "<connectionType>IBSS",
-                              WLAN_REASON_CODE_NON_BROADCAST_SET_FOR_ADHOC},
-                      Refusal{"manual", "Auto", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{MsmOf(good), "", WLAN_REASON_CODE_MSM_SECURITY_MISSING},
-                      Refusal{MsmOf(good), "<MSM></MSM>", WLAN_REASON_CODE_MSM_SECURITY_MISSING},
-                      Refusal{MsmOf(good), "<MSM><security></security></MSM>",
-                              WLAN_REASON_CODE_MSMSEC_PROFILE_NO_AUTH_CIPHER_SPECIFIED},
-                      Refusal{"WPA3SAE", "WPA9", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{"AES", "DES", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{"AES", "TKIP", WLAN_REASON_CODE_MSMSEC_PROFILE_INVALID_AUTH_CIPHER, ERROR_NO_MATCH},
-                      Refusal{"passPhrase", "password", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
-                      Refusal{"<protected>false</protected>", "", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA}));
+TEST(ProfileDocument, RefusalsHaveAReason)
+{
+    const struct
+    {
+        std::string part;
+        std::string replacement;
+        WLAN_REASON_CODE reason;
+        DWORD error = ERROR_BAD_PROFILE;
+    } cases[] = {
+        {good, "", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {good, "no XML", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {good, "<WLANProfile>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {good, "<Profile></Profile>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {good, Nested(200'000), WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {"</MSM>", "</msm>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {"<name>My &amp; home</name>", "", WLAN_REASON_CODE_INVALID_PROFILE_NAME},
+        {"My &amp; home", "", WLAN_REASON_CODE_INVALID_PROFILE_NAME},
+        {"My &amp; home", std::string(256, 'x'), WLAN_REASON_CODE_INVALID_PROFILE_NAME},
+        {"486F6D65", "486", WLAN_REASON_CODE_PROFILE_SSID_INVALID},
+        {"486F6D65", "GG", WLAN_REASON_CODE_PROFILE_SSID_INVALID},
+        {"486F6D65", "", WLAN_REASON_CODE_PROFILE_SSID_INVALID},
+        {"486F6D65", std::string(66, '0'), WLAN_REASON_CODE_PROFILE_SSID_INVALID},
+        {"true</nonBroadcast>", "yes</nonBroadcast>", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {"<connectionType>ESS</connectionType>", "", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {"<connectionType>ESS", "<connectionType>BSS", WLAN_REASON_CODE_INVALID_BSS_TYPE},
+        {"<connectionType>ESS", "<connectionType>IBSS", WLAN_REASON_CODE_NON_BROADCAST_SET_FOR_ADHOC},
+        {"manual", "Auto", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {MsmOf(good), "", WLAN_REASON_CODE_MSM_SECURITY_MISSING},
+        {MsmOf(good), "<MSM></MSM>", WLAN_REASON_CODE_MSM_SECURITY_MISSING},
+        {MsmOf(good), "<MSM><security></security></MSM>", WLAN_REASON_CODE_MSMSEC_PROFILE_NO_AUTH_CIPHER_SPECIFIED},
+        {"WPA3SAE", "WPA9", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {"AES", "DES", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {"AES", "TKIP", WLAN_REASON_CODE_MSMSEC_PROFILE_INVALID_AUTH_CIPHER, ERROR_NO_MATCH},
+        {"passPhrase", "password", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA},
+        {"<protected>false</protected>", "", WLAN_REASON_CODE_INVALID_PROFILE_SCHEMA}};
+    for (const auto& each : cases)
+    {
+        SCOPED_TRACE(each.part + " -> " + each.replacement.substr(0, 60));
+        ProfileRefusal refusal{};
+        EXPECT_FALSE(ParseProfile(With(each.part, each.replacement), refusal).has_value());
+        EXPECT_EQ(refusal.error, each.error);
+        EXPECT_EQ(refusal.reason, each.reason);
+    }
+}
 
 TEST(ProfileDocument, NamesMayHave255Characters)
 {
@@ -174,32 +162,23 @@ TEST(ProfileDocument, NamesMayHave255Characters)
     EXPECT_EQ(Parsed(With("My &amp; home", "\xc3\xa9")).name, L"\u00e9");
 }
 
-struct Passphrase
+TEST(ProfileDocument, PassphrasesHaveALength)
 {
-    std::string key;
-    bool isGood;
-};
-
-class Passphrases : public ::testing::TestWithParam<Passphrase>
-{
-};
-
-TEST_P(Passphrases, HaveALength)
-{
-    std::string xml = With("WPA3SAE", "WPA2PSK");
+    const std::string xml = With("WPA3SAE", "WPA2PSK");
     const std::string key = "p&lt;ss word";
-    xml.replace(xml.find(key), key.size(), GetParam().key);
-    ProfileRefusal refusal{};
-    EXPECT_EQ(ParseProfile(xml, refusal).has_value(), GetParam().isGood);
-    EXPECT_EQ(refusal.reason, GetParam().isGood ? 0 : WLAN_REASON_CODE_MSMSEC_PROFILE_PSK_LENGTH);
+    for (const auto& [length, reason] :
+         {std::pair<std::size_t, WLAN_REASON_CODE>{7, WLAN_REASON_CODE_MSMSEC_PROFILE_PSK_LENGTH},
+          {8, WLAN_REASON_CODE_SUCCESS},
+          {63, WLAN_REASON_CODE_SUCCESS},
+          {64, WLAN_REASON_CODE_MSMSEC_PROFILE_PSK_LENGTH}})
+    {
+        ProfileRefusal refusal{};
+        const auto document =
+            ParseProfile(std::string(xml).replace(xml.find(key), key.size(), std::string(length, 'k')), refusal);
+        EXPECT_EQ(document.has_value(), reason == WLAN_REASON_CODE_SUCCESS) << length;
+        EXPECT_EQ(refusal.reason, reason) << length;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(ProfileDocument,
-                         Passphrases,
-                         ::testing::Values(Passphrase{std::string(7, 'k'), false},
-                                           Passphrase{std::string(8, 'k'), true},
-                                           Passphrase{std::string(63, 'k'), true},
-                                           Passphrase{std::string(64, 'k'), false}));
 
 TEST(ProfileDocument, KeysAreProtectedAndPlainAgain)
 {

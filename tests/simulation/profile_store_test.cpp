@@ -85,34 +85,25 @@ TEST(ProfileStore, Deleting)
     EXPECT_EQ(Order(store), L"ac");
 }
 
-struct MoveCase
+TEST(ProfileStore, MovingChangesTheOrder)
 {
-    const wchar_t* name;
-    DWORD position;
-    DWORD error;
-    const wchar_t* order;
-};
-
-class ProfileMoves : public ::testing::TestWithParam<MoveCase>
-{
-};
-
-TEST_P(ProfileMoves, ChangeTheOrder)
-{
-    ProfileStore store = StoreOf(L"abcd");
-    EXPECT_EQ(store.Move(GetParam().name, GetParam().position), GetParam().error);
-    EXPECT_EQ(Order(store), GetParam().order);
+    const struct
+    {
+        const wchar_t* name;
+        DWORD position;
+        DWORD error;
+        const wchar_t* order;
+    } cases[] = {{L"a", 0, ERROR_SUCCESS, L"abcd"},  {L"a", 1, ERROR_SUCCESS, L"bacd"},
+                 {L"a", 3, ERROR_SUCCESS, L"bcda"},  {L"d", 0, ERROR_SUCCESS, L"dabc"},
+                 {L"c", 1, ERROR_SUCCESS, L"acbd"},  {L"a", 4, ERROR_NOT_FOUND, L"abcd"},
+                 {L"x", 0, ERROR_NOT_FOUND, L"abcd"}};
+    for (const auto& each : cases)
+    {
+        ProfileStore store = StoreOf(L"abcd");
+        EXPECT_EQ(store.Move(each.name, each.position), each.error) << each.name << each.position;
+        EXPECT_EQ(Order(store), each.order);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(ProfileStore,
-                         ProfileMoves,
-                         ::testing::Values(MoveCase{L"a", 0, ERROR_SUCCESS, L"abcd"},
-                                           MoveCase{L"a", 1, ERROR_SUCCESS, L"bacd"},
-                                           MoveCase{L"a", 3, ERROR_SUCCESS, L"bcda"},
-                                           MoveCase{L"d", 0, ERROR_SUCCESS, L"dabc"},
-                                           MoveCase{L"c", 1, ERROR_SUCCESS, L"acbd"},
-                                           MoveCase{L"a", 4, ERROR_NOT_FOUND, L"abcd"},
-                                           MoveCase{L"x", 0, ERROR_NOT_FOUND, L"abcd"}));
 
 } // namespace
 

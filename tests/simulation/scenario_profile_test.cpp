@@ -1,28 +1,11 @@
 // The profile documents that short forms become.
-#include "simulation/scenario.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
+#include "service_fixture.h"
 
 namespace calvix::simulation::scenario_profile_test
 {
 
 namespace
 {
-
-Bytes BytesOf(const std::string& text)
-{
-    return {text.begin(), text.end()};
-}
-
-ProfileSettings Settings(const std::string& name)
-{
-    ProfileSettings settings;
-    settings.name = name;
-    settings.ssid = BytesOf(name);
-    return settings;
-}
 
 bool Holds(const std::string& xml, const std::string& part)
 {
@@ -31,8 +14,7 @@ bool Holds(const std::string& xml, const std::string& part)
 
 TEST(ScenarioProfile, IsTheWholeDocument)
 {
-    ProfileSettings settings = Settings("Home");
-    settings.key = "correct horse";
+    ProfileSettings settings = MakeSettings("Home", "Home");
     settings.hidden = true;
     EXPECT_EQ(MakeProfileXml(settings),
               "<?xml version=\"1.0\"?>\r\n"
@@ -66,12 +48,14 @@ TEST(ScenarioProfile, IsTheWholeDocument)
 
 TEST(ScenarioProfile, WithoutAKeyTheProfileHasNone)
 {
-    EXPECT_FALSE(Holds(MakeProfileXml(Settings("Home")), "sharedKey"));
+    ProfileSettings settings = MakeSettings("Home", "Home");
+    settings.key.clear();
+    EXPECT_FALSE(Holds(MakeProfileXml(settings), "sharedKey"));
 }
 
 TEST(ScenarioProfile, MarkupIsEscaped)
 {
-    ProfileSettings settings = Settings("<R&D> \"'");
+    ProfileSettings settings = MakeSettings("<R&D> \"'", "R&D");
     settings.key = "a<b&c>d\"e'f";
     const std::string xml = MakeProfileXml(settings);
     EXPECT_TRUE(Holds(xml, "<name>&lt;R&amp;D&gt; &quot;&apos;</name>"));
@@ -82,7 +66,7 @@ TEST(ScenarioProfile, NamesThatAreNoTextAreGivenInHexadecimalOnly)
 {
     for (const std::string& ssid : {std::string("\xFF\xFE"), std::string("a\0b", 3), std::string("\xE6\x9D")})
     {
-        ProfileSettings settings = Settings("Odd");
+        ProfileSettings settings = MakeSettings("Odd", "Odd");
         settings.ssid = BytesOf(ssid);
         const std::string xml = MakeProfileXml(settings);
         EXPECT_TRUE(Holds(xml, "</hex>\r\n\t\t</SSID>")) << xml;
@@ -91,7 +75,7 @@ TEST(ScenarioProfile, NamesThatAreNoTextAreGivenInHexadecimalOnly)
 
 TEST(ScenarioProfile, KeysThatAreNoPassphraseAreNetworkKeys)
 {
-    ProfileSettings settings = Settings("Home");
+    ProfileSettings settings = MakeSettings("Home", "Home");
     settings.key = std::string(64, 'a');
     EXPECT_TRUE(Holds(MakeProfileXml(settings), "<keyType>networkKey</keyType>"));
     settings.authentication = "open";
@@ -102,14 +86,14 @@ TEST(ScenarioProfile, KeysThatAreNoPassphraseAreNetworkKeys)
 
 TEST(ScenarioProfile, EnterpriseNetworksUseOneX)
 {
-    ProfileSettings settings = Settings("Home");
+    ProfileSettings settings = MakeSettings("Home", "Home");
     settings.authentication = "WPA2";
     EXPECT_TRUE(Holds(MakeProfileXml(settings), "<useOneX>true</useOneX>"));
 }
 
 TEST(ScenarioProfile, AdHocAndManual)
 {
-    ProfileSettings settings = Settings("Game");
+    ProfileSettings settings = MakeSettings("Game", "Game");
     settings.bssType = 2;
     settings.mode = "manual";
     const std::string xml = MakeProfileXml(settings);

@@ -1,7 +1,5 @@
-// Scenario files: what they say of power, privileges, processes and the internet.
-#include "simulation/computer.h"
-
-#include <gtest/gtest.h>
+// Scenario files: what they say beside adapters and access points as such, and of drivers and access points that change.
+#include "system_fixture.h"
 
 namespace calvix::simulation::scenario_system_test
 {
@@ -34,6 +32,20 @@ Scenario Everything()
     scenario.programs = {{"a.exe", 5, 6}, {"b.exe", std::nullopt, 0}, {"c.exe"}};
     scenario.processes = {{1, "a.exe", 2, 3, true}, {4, "b.exe"}};
     scenario.internet = InternetAccess::unresolved;
+    scenario.administrator = false;
+    scenario.powerSetting = 3;
+    AdapterDescription& adapter = scenario.adapters.emplace_back();
+    adapter.guid = kFirstGuid;
+    adapter.description = "Radio";
+    adapter.address = {2, 0, 0, 0, 0, 15};
+    adapter.autoConfiguration = adapter.backgroundScan = false;
+    adapter.ihv = {{{0x01, 0xFF}, {{0xA0}, 0}}, {{}, {{}, 31}}, {{0x02}, {{}, 0}}};
+    AccessPoint& point = scenario.accessPoints.emplace_back();
+    point.ssid = {'A'};
+    point.bssid = {2, 0, 0, 0, 1, 1};
+    point.key = "correct horse";
+    point.answers = false;
+    point.timetable = {{0, -50}, {1, std::nullopt}, {4294967295u, 0}};
     return scenario;
 }
 
@@ -58,7 +70,12 @@ TEST(ScenarioSystem, EveryFieldIsRead)
                      {"path": "c.exe"}],
         "processes": [{"id": 1, "path": "a.exe", "milliseconds": 2, "exitCode": 3, "foreign": true},
                       {"id": 4, "path": "b.exe"}],
-        "internet": "unresolved"})",
+        "internet": "unresolved", "administrator": false, "powerSetting": "maximum",
+        "adapters": [{"guid": "{5CA1AB1E-0001-4000-8000-000000000001}", "description": "Radio",
+            "address": "02:00:00:00:00:0f", "autoConfiguration": false, "backgroundScan": false,
+            "ihv": [{"request": "01fF", "answer": "a0"}, {"request": "", "error": 31}, {"request": "02", "answer": ""}]}],
+        "accessPoints": [{"ssid": "A", "bssid": "02:00:00:00:01:01", "key": "correct horse", "answers": false,
+            "timetable": [{"at": 0, "rssi": -50}, {"at": 1, "rssi": null}, {"at": 4294967295, "rssi": 0}]}]})",
                                             "test");
     EXPECT_EQ(scenario, Everything());
 }
@@ -115,22 +132,25 @@ TEST(ScenarioSystem, ASnapshotIsOfTheMoment)
     Scenario expected = Everything();
     expected.power.upMilliseconds = 10;
     expected.processes[0].milliseconds = 1;
+    expected.accessPoints[0].timetable = {{0, std::nullopt}, {4294967294u, 0}};
     EXPECT_EQ(computer.Snapshot(), expected);
     computer.Advance(std::chrono::milliseconds(1));
     EXPECT_EQ(computer.Snapshot().processes.size(), 1u);
 }
 
-struct RefusedCase
-{
-    std::string text;
-    const char* message;
-};
-
 TEST(ScenarioSystem, RefusedFields)
 {
     const std::string scheme = R"({"guid": "{5CA1AB1E-0001-4000-8000-00000000000a}", "name": "A"})";
     const std::string sameScheme = R"({"guid": "{5CA1AB1E-0001-4000-8000-00000000000A}", "name": "B"})";
-    const RefusedCase cases[] = {
+    const std::string adapter = R"({"adapters": [{"guid": "{5CA1AB1E-0001-4000-8000-000000000001}",
+        "description": "Radio", "address": "02:00:00:00:00:0f", "ihv": [)";
+    const std::string point = R"({"accessPoints": [{"ssid": "A", "bssid": "02:00:00:00:01:01", "timetable": [)";
+    const std::string end = "]}]}";
+    const struct
+    {
+        std::string text;
+        std::string message;
+    } cases[] = {
         {R"({"power": {"sleeps": true}})", "/power: unknown field 'sleeps'"},
         {R"({"power": {"lastWakeTime": -1}})", "/power/lastWakeTime: less than 0"},
         {R"({"power": {"sleepMilliseconds": 86400001}})", "/power/sleepMilliseconds: "},
@@ -162,19 +182,22 @@ TEST(ScenarioSystem, RefusedFields)
         {R"({"processes": [{"id": 1, "path": "a.exe"}, {"id": 1, "path": "b.exe"}]})",
          "/processes/1/id: the same as that of element 0"},
         {R"({"internet": true})", "/internet: "},
+        {R"({"administrator": 1})", "/administrator:"},
+        {R"({"powerSetting": "some"})", "/powerSetting:"},
+        {adapter + R"({"request": "01"})" + end, "/adapters/0/ihv/0:"},
+        {adapter + R"({"request": "01", "answer": "", "error": 5})" + end, "/adapters/0/ihv/0:"},
+        {adapter + R"({"request": "0", "answer": ""})" + end, "/adapters/0/ihv/0/request:"},
+        {adapter + R"({"request": "0a", "error": 5}, {"request": "0A", "error": 6})" + end,
+         "/adapters/0/ihv/1/request:"},
+        {point + R"({"at": 5, "rssi": -50}, {"at": 5, "rssi": -60})" + end, "/accessPoints/0/timetable/1/at:"},
+        {point + R"({"at": 5})" + end, "/accessPoints/0/timetable/0:"},
+        {point + R"({"at": 5, "rssi": -121})" + end, "/accessPoints/0/timetable/0/rssi:"},
+        {point + R"({"at": -1, "rssi": -60})" + end, "/accessPoints/0/timetable/0/at:"},
     };
-    for (const RefusedCase& each : cases)
+    for (const auto& each : cases)
     {
-        try
-        {
-            ParseScenario(each.text, "test");
-            ADD_FAILURE() << each.text;
-        }
-        catch (const ScenarioError& error)
-        {
-            EXPECT_EQ(std::string(error.what()).substr(0, 6 + std::string(each.message).size()),
-                      "test: " + std::string(each.message));
-        }
+        const std::string problem = ProblemOf([&] { ParseScenario(each.text, "test"); });
+        EXPECT_EQ(problem.substr(0, each.message.size() + 6), "test: " + each.message) << each.text;
     }
 }
 

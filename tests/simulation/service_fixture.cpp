@@ -1,6 +1,7 @@
 #include "service_fixture.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace calvix::simulation
 {
@@ -24,6 +25,7 @@ ServiceTest::ServiceTest()
 
 void ServiceTest::Start()
 {
+    TearDown();
     computer = std::make_unique<Computer>(scenario);
     DWORD version = 0;
     const DWORD error = Wlan().WlanOpenHandle(2, nullptr, &version, &client);
@@ -35,7 +37,7 @@ void ServiceTest::TearDown()
     if (computer == nullptr)
         return;
     if (client != nullptr)
-        EXPECT_EQ(Wlan().WlanCloseHandle(client, nullptr), ERROR_SUCCESS);
+        EXPECT_EQ(Wlan().WlanCloseHandle(std::exchange(client, nullptr), nullptr), ERROR_SUCCESS);
     const Accounts accounts = computer->Audit();
     EXPECT_EQ(accounts.liveBlocks, 0u);
     EXPECT_EQ(accounts.openClients, 0u);
@@ -165,13 +167,26 @@ AccessPoint MakeAccessPoint(const std::string& ssid, std::uint8_t lastBssidByte,
     return accessPoint;
 }
 
-std::string MakeProfile(const std::string& name, const std::string& ssid)
+AccessPoint MakeOpenPoint(const std::string& ssid, std::uint8_t lastBssidByte, std::int32_t rssi)
+{
+    AccessPoint accessPoint = MakeAccessPoint(ssid, lastBssidByte, rssi);
+    accessPoint.authentication = "open";
+    accessPoint.encryption = "none";
+    return accessPoint;
+}
+
+ProfileSettings MakeSettings(const std::string& name, const std::string& ssid)
 {
     ProfileSettings settings;
     settings.name = name;
     settings.ssid = BytesOf(ssid);
     settings.key = "correct horse";
-    return MakeProfileXml(settings);
+    return settings;
+}
+
+std::string MakeProfile(const std::string& name, const std::string& ssid)
+{
+    return MakeProfileXml(MakeSettings(name, ssid));
 }
 
 } // namespace calvix::simulation

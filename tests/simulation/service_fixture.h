@@ -25,7 +25,7 @@ protected:
     ServiceTest();
     void TearDown() override;
 
-    /// Starts the computer and opens a client handle.
+    /// Starts the computer and opens a client handle. One that was started before ends as at the end of a test.
     void Start();
 
     platform::WlanService& Wlan() { return computer->wlan(); }
@@ -104,10 +104,12 @@ Bytes BytesOf(const std::string& text);
 DOT11_SSID SsidOf(const std::string& text);
 std::string TextOf(const DOT11_SSID& ssid);
 
-/// An access point of HomeNet's kind.
+/// An access point of HomeNet's kind, or one that is open to all.
 AccessPoint MakeAccessPoint(const std::string& ssid, std::uint8_t lastBssidByte, std::int32_t rssi);
+AccessPoint MakeOpenPoint(const std::string& ssid, std::uint8_t lastBssidByte, std::int32_t rssi);
 
-/// A profile's document, of HomeNet's kind.
+/// A profile's settings and its document, of HomeNet's kind.
+ProfileSettings MakeSettings(const std::string& name, const std::string& ssid);
 std::string MakeProfile(const std::string& name, const std::string& ssid);
 
 } // namespace calvix::simulation

@@ -225,10 +225,7 @@ TEST_F(StationFunctions, NothingTemporaryIsSavedWithoutSuchAConnection)
 
 TEST_F(StationFunctions, DiscoveryFindsOutTheSecurity)
 {
-    AccessPoint cafe = MakeAccessPoint("Cafe", 7, -60);
-    cafe.authentication = "open";
-    cafe.encryption = "none";
-    scenario.accessPoints.push_back(cafe);
+    scenario.accessPoints.push_back(MakeOpenPoint("Cafe", 7, -60));
     StartWith({});
     ASSERT_EQ(Discover("Cafe", wlan_connection_mode_discovery_unsecure), ERROR_SUCCESS);
     EXPECT_STREQ(Connection()->strProfileName, L"Cafe");

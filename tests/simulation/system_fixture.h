@@ -13,6 +13,21 @@
 namespace calvix::simulation
 {
 
+/// What the ScenarioError that `action` throws says; empty if it throws none.
+template <typename Action>
+std::string ProblemOf(const Action& action)
+{
+    try
+    {
+        action();
+    }
+    catch (const ScenarioError& error)
+    {
+        return error.what();
+    }
+    return "";
+}
+
 /// A computer without adapters, for the tests of everything else. A test changes `scenario` before it first uses the
 /// computer; when it ends, nothing may be held and no defect be there but those that it has taken with Defects().
 class SystemTest : public ::testing::Test

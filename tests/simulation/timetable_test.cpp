@@ -18,33 +18,14 @@ AccessPoint Passing()
     return point;
 }
 
-struct Moment
+TEST(Timetable, SaysHowStrongAnAccessPointIs)
 {
-    int at;
-    std::optional<std::int32_t> rssi;
-};
-
-class Timetables : public ::testing::TestWithParam<Moment>
-{
-};
-
-TEST_P(Timetables, SayHowStrongAnAccessPointIs)
-{
-    EXPECT_EQ(SignalAt(Passing(), milliseconds(GetParam().at)), GetParam().rssi) << GetParam().at;
+    const std::pair<int, std::optional<std::int32_t>> cases[] = {
+        {0, -80},    {1000, -80},          {2000, -65},          {2500, -58}, {3000, -50},
+        {3999, -50}, {4000, std::nullopt}, {4999, std::nullopt}, {5000, -60}, {99000, -60}};
+    for (const auto& [at, rssi] : cases)
+        EXPECT_EQ(SignalAt(Passing(), milliseconds(at)), rssi) << at;
 }
-
-INSTANTIATE_TEST_SUITE_P(Moments,
-                         Timetables,
-                         ::testing::Values(Moment{0, -80},
-                                           Moment{1000, -80},
-                                           Moment{2000, -65},
-                                           Moment{2500, -58},
-                                           Moment{3000, -50},
-                                           Moment{3999, -50},
-                                           Moment{4000, std::nullopt},
-                                           Moment{4999, std::nullopt},
-                                           Moment{5000, -60},
-                                           Moment{99000, -60}));
 
 TEST(Timetable, WithoutOneTheStrengthIsAlwaysTheSame)
 {
