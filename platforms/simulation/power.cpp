@@ -1,7 +1,6 @@
 #include "simulation/power.h"
 
 #include "platform/records/error_numbers.h"
-#include "simulation/power_information.h"
 
 #include <cstdint>
 #include <cstring>
@@ -45,6 +44,55 @@ DWORD HandOut(const void* data, std::size_t size, UCHAR* buffer, DWORD& bufferSi
         return ERROR_MORE_DATA;
     std::memcpy(buffer, data, size);
     return ERROR_SUCCESS;
+}
+
+BOOLEAN Flag(bool value)
+{
+    return value ? 1 : 0;
+}
+
+/// What the computer can do.
+SYSTEM_POWER_CAPABILITIES MakeCapabilities(const PowerDescription& description)
+{
+    SYSTEM_POWER_CAPABILITIES capabilities{};
+    capabilities.PowerButtonPresent = 1;
+    capabilities.SleepButtonPresent = Flag(description.suspendAllowed);
+    capabilities.LidPresent = Flag(description.battery);
+    // A computer with Modern Standby has that in place of the state in which all but the memory is off.
+    capabilities.SystemS3 = Flag(description.suspendAllowed && !description.modernStandby);
+    capabilities.SystemS4 = Flag(description.hibernateAllowed);
+    capabilities.SystemS5 = Flag(description.shutdownAllowed);
+    capabilities.HiberFilePresent = Flag(description.hibernateAllowed);
+    capabilities.FullWake = 1;
+    capabilities.ProcessorThrottle = 1;
+    capabilities.ProcessorMinThrottle = 5;
+    capabilities.ProcessorMaxThrottle = 100;
+    SetAoAc(capabilities, Flag(description.modernStandby));
+    capabilities.DiskSpinDown = 1;
+    capabilities.SystemBatteriesPresent = Flag(description.battery);
+    capabilities.RtcWake = description.modernStandby ? PowerSystemWorking : PowerSystemSleeping3;
+    return capabilities;
+}
+
+/// The system's policy on mains power or on battery, taken out of the policy that is in force for both.
+SYSTEM_POWER_POLICY MakeSystemPolicy(const POWER_POLICY& policy, bool onBattery)
+{
+    const USER_POWER_POLICY& user = policy.user;
+    const MACHINE_POWER_POLICY& machine = policy.mach;
+    SYSTEM_POWER_POLICY system{};
+    system.Revision = 1;
+    system.Idle = onBattery ? user.IdleDc : user.IdleAc;
+    system.IdleTimeout = onBattery ? user.IdleTimeoutDc : user.IdleTimeoutAc;
+    system.IdleSensitivity = onBattery ? user.IdleSensitivityDc : user.IdleSensitivityAc;
+    system.MinSleep = onBattery ? machine.MinSleepDc : machine.MinSleepAc;
+    system.MaxSleep = onBattery ? user.MaxSleepDc : user.MaxSleepAc;
+    system.ReducedLatencySleep = onBattery ? machine.ReducedLatencySleepDc : machine.ReducedLatencySleepAc;
+    system.DozeS4Timeout = onBattery ? machine.DozeS4TimeoutDc : machine.DozeS4TimeoutAc;
+    system.VideoTimeout = onBattery ? user.VideoTimeoutDc : user.VideoTimeoutAc;
+    system.SpindownTimeout = onBattery ? user.SpindownTimeoutDc : user.SpindownTimeoutAc;
+    system.FanThrottleTolerance = onBattery ? user.FanThrottleToleranceDc : user.FanThrottleToleranceAc;
+    system.OverThrottled = onBattery ? machine.OverThrottledDc : machine.OverThrottledAc;
+    return system;
 }
 
 GUID* NewGuid(Blocks& blocks, const GUID& guid)
@@ -235,19 +283,19 @@ DWORD SimulatedPower::PowerSetActiveScheme(HKEY root, const GUID* scheme)
 BOOLEAN SimulatedPower::IsPwrSuspendAllowed()
 {
     const std::lock_guard lock(m_machine.mutex);
-    return m_machine.power.suspendAllowed ? 1 : 0;
+    return Flag(m_machine.power.suspendAllowed);
 }
 
 BOOLEAN SimulatedPower::IsPwrHibernateAllowed()
 {
     const std::lock_guard lock(m_machine.mutex);
-    return m_machine.power.hibernateAllowed ? 1 : 0;
+    return Flag(m_machine.power.hibernateAllowed);
 }
 
 BOOLEAN SimulatedPower::IsPwrShutdownAllowed()
 {
     const std::lock_guard lock(m_machine.mutex);
-    return m_machine.power.shutdownAllowed ? 1 : 0;
+    return Flag(m_machine.power.shutdownAllowed);
 }
 
 DWORD SimulatedPower::SuspendError(bool hibernate) const
