@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <map>
 #include <span>
 #include <string_view>
@@ -39,60 +38,50 @@ constexpr std::pair<const char*, const char*> kFirst[] = {
     {"ForceComputerSleep", "GetPrivileges"},
     {"ResetPowerScheme", "SetPowerScheme"}};
 
+template <typename List>
+void Empty(List** list) requires requires
+{
+    (*list)->dwNumberOfItems;
+}
+{
+    (*list)->dwNumberOfItems = 0;
+}
+
+void Empty(auto) {}
+
 /// Changes the answers of the calls that a failure is about: takes the entries out of lists, or adds an error.
-class Altering
+class Altering : public ChangedPlatform
 {
 public:
     explicit Altering(const Failure& failure) : m_failure(failure)
     {
-        if (failure.way == Way::emptied)
-            EmptyLists();
-        else
-            m_answers.service.errorBesideAnswer = [this](std::string_view operation)
-            { return operation == m_failure.operation && Concerns() ? m_failure.fault.error : 0; };
+        operations::ForEachOperation([this]<auto operation, typename... Roles>(
+            const operations::Description<operation, Roles...>& description) {
+            if constexpr ((std::is_base_of_v<operations::BlockOut, Roles> || ...))
+                if (description.name == m_failure.operation)
+                    After<operation>([this](DWORD error, auto... arguments) { return Alter(error, arguments...); });
+        });
     }
 
     unsigned Altered() const { return m_altered; }
 
 private:
-    void EmptyLists()
-    {
-        m_answers.service.interfaces = For<WLAN_INTERFACE_INFO_LIST>("WlanEnumInterfaces");
-        m_answers.service.profiles = For<WLAN_PROFILE_INFO_LIST>("WlanGetProfileList");
-        m_answers.service.networks = For<WLAN_AVAILABLE_NETWORK_LIST>("WlanGetAvailableNetworkList");
-        m_answers.service.bss = For<WLAN_BSS_LIST>("WlanGetNetworkBssList");
-    }
-
-    template <typename List>
-    std::function<void(List&)> For(std::string_view operation)
-    {
-        return [this, concerned = operation == m_failure.operation](List& list)
-        {
-            if (concerned && Concerns())
-                list.dwNumberOfItems = 0;
-        };
-    }
-
-    /// Whether the failure is about this call of its operation.
-    bool Concerns()
+    DWORD Alter(DWORD error, auto... arguments)
     {
         if (!m_failure.Concerns(++m_seen))
-            return false;
+            return error;
         ++m_altered;
-        return true;
+        if (m_failure.way == Way::refusedBesideAnswer)
+            return m_failure.fault.error;
+        if (error == 0)
+            (Empty(arguments), ...);
+        return error;
     }
 
     const Failure& m_failure;
-    EditedAnswers m_answers;
     unsigned m_seen = 0;
     unsigned m_altered = 0;
 };
-
-template <std::size_t Count>
-bool Contains(const std::array<std::string_view, Count>& names, std::string_view name)
-{
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 } // namespace
 

@@ -4,7 +4,10 @@
 #include "testing/test_computer.h"
 #include "wrappers/fault_injection.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace calvix::test::sweep
@@ -27,6 +30,12 @@ public:
 private:
     TestComputer m_computer;
 };
+
+template <std::size_t Count>
+bool Contains(const std::array<std::string_view, Count>& names, std::string_view name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
 
 /// Whether the client handle is closed before the call, so that the method has to open it.
 bool OpensClient(const Method& method);

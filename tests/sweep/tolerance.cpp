@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <map>
+#include <set>
 #include <string_view>
 
 namespace calvix::test::sweep
@@ -26,10 +28,12 @@ enum class Answer
     noText            ///< an empty text, or null
 };
 
+using Operations = std::array<std::string_view, 3>;
+
 struct Tolerance
 {
     std::string_view method;
-    std::string_view operation;
+    Operations operations;
     Answer answer;
     unsigned call = 0; ///< the only call of the operation that it is about; 0: all
 };
@@ -38,180 +42,133 @@ using enum Answer;
 
 constexpr Tolerance kRefusals[] = {
     // A client that cannot be opened yet is opened by the next method.
-    {"Get", "WlanOpenHandle", asEver},
+    {"Get", {"WlanOpenHandle"}, asEver},
 
     // Questions for yes or no have no code for not knowing.
-    {"GetWlanIsLink", "WlanOpenHandle", nothingTold},
-    {"GetWlanIsLink", "WlanEnumInterfaces", nothingTold},
-    {"WiFiIsConnected", "WlanOpenHandle", nothingTold},
-    {"WiFiIsConnected", "WlanEnumInterfaces", nothingTold},
-    {"WiFiIsDisconnected", "WlanOpenHandle", nothingTold},
-    {"WiFiIsDisconnected", "WlanEnumInterfaces", nothingTold},
-    {"IsWiFiDisappear", "WlanOpenHandle", nothingTold},
-    {"IsWiFiDisappear", "WlanQueryInterface", nothingTold},
-    {"IsWiFiDisappear", "WlanGetNetworkBssList", nothingTold},
-    {"PhyRadioIsOn", "WlanOpenHandle", nothingTold},
-    {"PhyRadioIsOn", "WlanQueryInterface", nothingTold},
-    {"PhyRadioTurnedOff", "WlanOpenHandle", nothingTold},
-    {"PhyRadioTurnedOff", "WlanQueryInterface", nothingTold},
-    {"SpecialSoftAP", "WlanOpenHandle", nothingTold},
-    {"SpecialSoftAP", "WlanEnumInterfaces", nothingTold},
-    {"SpecialSoftAP", "WlanQueryInterface", nothingTold},
-    {"IsSurpportAoAc", "CallNtPowerInformation", nothingTold},
-    {"IsWow64", "GetModuleHandleA", nothingTold},
-    {"IsWow64", "GetProcAddress", nothingTold},
-    {"GetPrivileges", "OpenProcessToken", nothingTold},
-    {"GetPrivileges", "LookupPrivilegeValueA", nothingTold},
-    {"GetPrivileges", "AdjustTokenPrivileges", nothingTold},
-    {"ForceComputerSleep", "SetSuspendState", nothingTold},
-    {"UnicodeToAnsi", "WideCharToMultiByte", nothingTold},
-    {"CreateProcRunExe", "GetModuleFileNameA", nothingTold},
-    {"CreateProcRunExe", "CreateProcessA", nothingTold},
-    {"ReasonCode2String", "WideCharToMultiByte", nothingTold},
+    {"GetWlanIsLink", {"WlanOpenHandle", "WlanEnumInterfaces"}, nothingTold},
+    {"WiFiIsConnected", {"WlanOpenHandle", "WlanEnumInterfaces"}, nothingTold},
+    {"WiFiIsDisconnected", {"WlanOpenHandle", "WlanEnumInterfaces"}, nothingTold},
+    {"IsWiFiDisappear", {"WlanOpenHandle", "WlanQueryInterface", "WlanGetNetworkBssList"}, nothingTold},
+    {"PhyRadioIsOn", {"WlanOpenHandle", "WlanQueryInterface"}, nothingTold},
+    {"PhyRadioTurnedOff", {"WlanOpenHandle", "WlanQueryInterface"}, nothingTold},
+    {"SpecialSoftAP", {"WlanOpenHandle", "WlanEnumInterfaces", "WlanQueryInterface"}, nothingTold},
+    {"IsSurpportAoAc", {"CallNtPowerInformation"}, nothingTold},
+    {"IsWow64", {"GetModuleHandleA", "GetProcAddress"}, nothingTold},
+    {"GetPrivileges", {"OpenProcessToken", "LookupPrivilegeValueA", "AdjustTokenPrivileges"}, nothingTold},
+    {"ForceComputerSleep", {"SetSuspendState"}, nothingTold},
+    {"UnicodeToAnsi", {"WideCharToMultiByte"}, nothingTold},
+    {"CreateProcRunExe", {"GetModuleFileNameA", "CreateProcessA"}, nothingTold},
+    {"ReasonCode2String", {"WideCharToMultiByte"}, nothingTold},
 
     // Numbers without a code: 0, or the weakest signal.
-    {"GetSSID", "MultiByteToWideChar", nothingTold},
-    {"GetSSID", "WideCharToMultiByte", nothingTold},
-    {"WideCharToChar", "WideCharToMultiByte", noneAndEmptyText},
-    {"GetLastWakeTime", "CallNtPowerInformation", nothingTold},
-    {"GetLastSleepTime", "CallNtPowerInformation", nothingTold},
-    {"GetSystemPowerPolicy", "CallNtPowerInformation", asEverAlone, 1}, // the second question is the one that decides
-    {"GetWiFiRSSI", "WlanGetAvailableNetworkList", noSignal},
-    {"GetWlanInterfaceDesc", "WlanOpenHandle", noText},
-    {"GetWlanInterfaceDesc", "WlanEnumInterfaces", noText},
-    {"GetWlanInterfaceDesc", "WideCharToMultiByte", noText},
-    {"GetAppPath", "GetModuleFileNameA", noText},
+    {"GetSSID", {"MultiByteToWideChar", "WideCharToMultiByte"}, nothingTold},
+    {"WideCharToChar", {"WideCharToMultiByte"}, noneAndEmptyText},
+    {"GetLastWakeTime", {"CallNtPowerInformation"}, nothingTold},
+    {"GetLastSleepTime", {"CallNtPowerInformation"}, nothingTold},
+    {"GetSystemPowerPolicy", {"CallNtPowerInformation"}, asEverAlone, 1}, // the second question is the one that decides
+    {"GetWiFiRSSI", {"WlanGetAvailableNetworkList"}, noSignal},
+    {"GetWlanInterfaceDesc", {"WlanOpenHandle", "WlanEnumInterfaces", "WideCharToMultiByte"}, noText},
+    {"GetAppPath", {"GetModuleFileNameA"}, noText},
 
     // Lists go on with the next network.
-    {"GetMatchAPList", "WlanGetNetworkBssList", fewer},
-    {"GetMatchAPCount", "WlanGetNetworkBssList", fewer},
-    {"GetMatchAPCount", "WlanGetProfile", fewer},
-    {"GetConnectableAPList", "WlanGetNetworkBssList", fewer},
-    {"GetConnectableAPList", "WlanGetProfile", fewer},
-    {"GetMatchBSSID", "FileTimeToSystemTime", asEver},
-    {"ConnectBestAP", "WlanGetProfile", asEver},
-    {"GetSoftAPList", "MultiByteToWideChar", asEver},
-    {"GetAvailableNetwork", "WlanEnumInterfaces", asEver},
-    {"GetAvailableNetwork", "StringFromGUID2", asEver},
-    {"GetNetworkBss", "WlanEnumInterfaces", asEver},
-    {"GetNetworkBss", "StringFromGUID2", asEver},
+    {"GetMatchAPList", {"WlanGetNetworkBssList"}, fewer},
+    {"GetMatchAPCount", {"WlanGetNetworkBssList", "WlanGetProfile"}, fewer},
+    {"GetConnectableAPList", {"WlanGetNetworkBssList", "WlanGetProfile"}, fewer},
+    {"GetMatchBSSID", {"FileTimeToSystemTime"}, asEver},
+    {"ConnectBestAP", {"WlanGetProfile"}, asEver},
+    {"GetSoftAPList", {"MultiByteToWideChar"}, asEver},
+    {"GetAvailableNetwork", {"WlanEnumInterfaces", "StringFromGUID2"}, asEver},
+    {"GetNetworkBss", {"WlanEnumInterfaces", "StringFromGUID2"}, asEver},
 
     // Walks: those of the ranked candidates need a request that is accepted, the others report success without one.
-    {"AutoConnectEx", "WlanConnect", asEverAlone},
-    {"AutoConnect", "WlanConnect", asEver},
-    {"AutoSwitch", "WlanConnect", asEver},
-    {"ResetWiFiRadio", "WlanSetInterface", asEver},
+    {"AutoConnectEx", {"WlanConnect"}, asEverAlone},
+    {"AutoConnect", {"WlanConnect"}, asEver},
+    {"AutoSwitch", {"WlanConnect"}, asEver},
+    {"ResetWiFiRadio", {"WlanSetInterface"}, asEver},
 
     // What is of no weight beside the rest of the answer.
-    {"GetCurrentSSID", "MultiByteToWideChar", withoutText},
-    {"GetCurrentSSID", "WideCharToMultiByte", withoutText},
-    {"GetCurrentLinkInfo", "MultiByteToWideChar", withoutText},
-    {"GetCurrentLinkInfo", "WideCharToMultiByte", withoutText},
-    {"GetPowerSetting", "WlanQueryAutoConfigParameter", nothingTold},
-    {"ReasonCode2String", "WlanReasonCodeToString", emptyText},
-    {"GetPowerScheme", "PowerEnumerate", asEver},
-    {"IsPowerHibernateAllowed", "IsPwrHibernateAllowed", asEver},
-    {"IsPowerHibernateAllowed", "IsPwrShutdownAllowed", asEver},
-    {"IsPowerHibernateAllowed", "IsPwrSuspendAllowed", asEver},
-    {"IsPowerHibernateAllowed", "IsSystemResumeAutomatic", nothingTold},
-    {"CreateProcRunExe", "WaitForSingleObject", asEver},
-    {"OpenUrl", "InternetSetOptionA", asEver},
+    {"GetCurrentSSID", {"MultiByteToWideChar", "WideCharToMultiByte"}, withoutText},
+    {"GetCurrentLinkInfo", {"MultiByteToWideChar", "WideCharToMultiByte"}, withoutText},
+    {"GetPowerSetting", {"WlanQueryAutoConfigParameter"}, nothingTold},
+    {"ReasonCode2String", {"WlanReasonCodeToString"}, emptyText},
+    {"GetPowerScheme", {"PowerEnumerate"}, asEver},
+    {"IsPowerHibernateAllowed", {"IsPwrHibernateAllowed", "IsPwrShutdownAllowed", "IsPwrSuspendAllowed"}, asEver},
+    {"IsPowerHibernateAllowed", {"IsSystemResumeAutomatic"}, nothingTold},
+    {"CreateProcRunExe", {"WaitForSingleObject"}, asEver},
+    {"OpenUrl", {"InternetSetOptionA"}, asEver},
 
     // Lenient: only the last step decides.
-    {"EnablePriviledge", "OpenProcessToken", asEver},
-    {"EnablePriviledge", "LookupPrivilegeValueA", asEver},
-    {"EnablePriviledge", "AdjustTokenPrivileges", nothingTold},
-    {"EnablePriviledge", "GetLastError", nothingTold},
+    {"EnablePriviledge", {"OpenProcessToken", "LookupPrivilegeValueA"}, asEver},
+    {"EnablePriviledge", {"AdjustTokenPrivileges", "GetLastError"}, nothingTold},
 };
 
 /// Where an empty list is no failure.
 constexpr Tolerance kEmptyLists[] = {
-    {"GetWiFiAdapterCount", "WlanEnumInterfaces", nothingTold},
-    {"GetWlanIsLink", "WlanEnumInterfaces", nothingTold},
-    {"WiFiIsConnected", "WlanEnumInterfaces", nothingTold},
-    {"WiFiIsDisconnected", "WlanEnumInterfaces", nothingTold},
-    {"SpecialSoftAP", "WlanEnumInterfaces", nothingTold},
-    {"SmartConnecting", "WlanEnumInterfaces", nothingTold},
-    {"SetCurrentWiFiToLast", "WlanEnumInterfaces", nothingTold},
-    {"GetWlanInterfaceDesc", "WlanEnumInterfaces", noText},
+    {"GetWiFiAdapterCount", {"WlanEnumInterfaces"}, nothingTold},
+    {"GetWlanIsLink", {"WlanEnumInterfaces"}, nothingTold},
+    {"WiFiIsConnected", {"WlanEnumInterfaces"}, nothingTold},
+    {"WiFiIsDisconnected", {"WlanEnumInterfaces"}, nothingTold},
+    {"SpecialSoftAP", {"WlanEnumInterfaces"}, nothingTold},
+    {"SmartConnecting", {"WlanEnumInterfaces"}, nothingTold},
+    {"SetCurrentWiFiToLast", {"WlanEnumInterfaces"}, nothingTold},
+    {"GetWlanInterfaceDesc", {"WlanEnumInterfaces"}, noText},
 
-    {"GetAvailableNetworkCount", "WlanGetAvailableNetworkList", nothingTold},
-    {"GetNetworkBssCount", "WlanGetNetworkBssList", nothingTold},
-    {"GetProfileCount", "WlanGetProfileList", nothingTold},
-    {"GetCurrentWiFi", "WlanGetNetworkBssList", nothingTold},
-    {"IsWiFiDisappear", "WlanGetNetworkBssList", yes},
-    {"GetWiFiRSSI", "WlanGetAvailableNetworkList", noSignal},
-    {"GetSoftAPList", "WlanGetAvailableNetworkList", asEver}, // no name can be converted as it is asked for
-    {"GetMatchAPList", "WlanGetNetworkBssList", fewer},
-    {"GetMatchAPCount", "WlanGetNetworkBssList", fewer},
-    {"GetConnectableAPList", "WlanGetNetworkBssList", fewer},
+    {"GetAvailableNetworkCount", {"WlanGetAvailableNetworkList"}, nothingTold},
+    {"GetNetworkBssCount", {"WlanGetNetworkBssList"}, nothingTold},
+    {"GetProfileCount", {"WlanGetProfileList"}, nothingTold},
+    {"GetCurrentWiFi", {"WlanGetNetworkBssList"}, nothingTold},
+    {"IsWiFiDisappear", {"WlanGetNetworkBssList"}, yes},
+    {"GetWiFiRSSI", {"WlanGetAvailableNetworkList"}, noSignal},
+    {"GetSoftAPList", {"WlanGetAvailableNetworkList"}, asEver}, // no name can be converted as it is asked for
+    {"GetMatchAPList", {"WlanGetNetworkBssList"}, fewer},
+    {"GetMatchAPCount", {"WlanGetNetworkBssList"}, fewer},
+    {"GetConnectableAPList", {"WlanGetNetworkBssList"}, fewer},
 
     // Listings say so in their traces only; where there is no profile, there is none to be moved.
-    {"GetAvailableNetwork", "WlanEnumInterfaces", asEver},
-    {"GetAvailableNetwork", "WlanGetAvailableNetworkList", asEver},
-    {"GetNetworkBss", "WlanEnumInterfaces", asEver},
-    {"GetNetworkBss", "WlanGetNetworkBssList", asEver},
-    {"ResetProfilePosition", "WlanGetProfileList", nothingTold},
-    {"SetProfilePosition", "WlanGetProfileList", nothingTold},
-    {"SetCurrentWiFiToLast", "WlanGetProfileList", asEver}, // the connection is asked for all the same
+    {"GetAvailableNetwork", {"WlanEnumInterfaces", "WlanGetAvailableNetworkList"}, asEver},
+    {"GetNetworkBss", {"WlanEnumInterfaces", "WlanGetNetworkBssList"}, asEver},
+    {"ResetProfilePosition", {"WlanGetProfileList"}, nothingTold},
+    {"SetProfilePosition", {"WlanGetProfileList"}, nothingTold},
+    {"SetCurrentWiFiToLast", {"WlanGetProfileList"}, asEver}, // the connection is asked for all the same
 };
 
-/// The causes that one method has for the refusal of an operation which the cause does not name.
+using host::Cause;
+
+/// The causes that one method has for the refusal of operations which the cause does not name.
 struct OtherCause
 {
     std::string_view method;
-    std::string_view operation;
-    host::Cause cause;
+    Operations operations;
+    Cause cause;
 };
 
 constexpr OtherCause kOtherCauses[] = {
     // Whether a profile connects automatically, and which network it is for, is then not known: it is no candidate.
-    {"ConnectBestAP", "WlanGetProfile", host::Cause::noCandidate},
-    {"ConnectAutoMode", "WlanGetProfile", host::Cause::noCandidate},
-    {"ConnectAutoMode", "MultiByteToWideChar", host::Cause::noCandidate},
+    {"ConnectBestAP", {"WlanGetProfile"}, Cause::noCandidate},
+    {"ConnectAutoMode", {"WlanGetProfile", "MultiByteToWideChar"}, Cause::noCandidate},
 
-    {"GetAvailableNetwork", "WlanGetAvailableNetworkList", host::Cause::someAdapterRefused},
-    {"GetNetworkBss", "WlanGetNetworkBssList", host::Cause::someAdapterRefused},
+    {"GetAvailableNetwork", {"WlanGetAvailableNetworkList"}, Cause::someAdapterRefused},
+    {"GetNetworkBss", {"WlanGetNetworkBssList"}, Cause::someAdapterRefused},
 
     // The two kinds of power schemes have operations of their own.
-    {"SetPowerScheme", "GetActivePwrScheme", host::Cause::noActiveScheme},
-    {"ResetPowerScheme", "GetActivePwrScheme", host::Cause::noActiveScheme},
-    {"GetPowerScheme", "PowerGetActiveScheme", host::Cause::noActiveScheme},
-    {"SetPowerScheme", "SetActivePwrScheme", host::Cause::schemeNotActivated},
-    {"ResetPowerScheme", "SetActivePwrScheme", host::Cause::schemeNotActivated},
-    {"GetPowerScheme", "PowerSetActiveScheme", host::Cause::schemeNotActivated},
+    {"SetPowerScheme", {"GetActivePwrScheme"}, Cause::noActiveScheme},
+    {"ResetPowerScheme", {"GetActivePwrScheme"}, Cause::noActiveScheme},
+    {"GetPowerScheme", {"PowerGetActiveScheme"}, Cause::noActiveScheme},
+    {"SetPowerScheme", {"SetActivePwrScheme"}, Cause::schemeNotActivated},
+    {"ResetPowerScheme", {"SetActivePwrScheme"}, Cause::schemeNotActivated},
+    {"GetPowerScheme", {"PowerSetActiveScheme"}, Cause::schemeNotActivated},
 };
 
 /// What methods report for want of entries in a list.
-struct Want
-{
-    std::string_view list;
-    host::Cause cause;
-};
-
-constexpr Want kWants[] = {
-    {"WlanEnumInterfaces", host::Cause::noAdapter},
-    {"WlanEnumInterfaces", host::Cause::noSuchInterface},
-    {"WlanEnumInterfaces", host::Cause::noSuchDescription},
-
-    {"WlanGetProfileList", host::Cause::noProfile},
-    {"WlanGetProfileList", host::Cause::profileNotFound},
-    {"WlanGetProfileList", host::Cause::nothingMatches},
-    {"WlanGetProfileList", host::Cause::nothingBetter},
-
-    {"WlanGetAvailableNetworkList", host::Cause::networkListEmpty},
-    {"WlanGetAvailableNetworkList", host::Cause::ssidNotVisible},
-    {"WlanGetAvailableNetworkList", host::Cause::networkNotListed},
-    {"WlanGetAvailableNetworkList", host::Cause::profileNotInView},
-    {"WlanGetAvailableNetworkList", host::Cause::nothingMatches},
-    {"WlanGetAvailableNetworkList", host::Cause::nothingBetter},
-
-    {"WlanGetNetworkBssList", host::Cause::bssListEmpty},
-    {"WlanGetNetworkBssList", host::Cause::noBssInView},
-    {"WlanGetNetworkBssList", host::Cause::firstBssListEmpty},
-    {"WlanGetNetworkBssList", host::Cause::laterBssListEmpty},
-    {"WlanGetNetworkBssList", host::Cause::accessPointNotJoined},
-    {"WlanGetNetworkBssList", host::Cause::savedNotInView},
+const std::map<std::string_view, std::set<Cause>> kWants = {
+    {"WlanEnumInterfaces", {Cause::noAdapter, Cause::noSuchInterface, Cause::noSuchDescription}},
+    {"WlanGetProfileList", {Cause::noProfile, Cause::profileNotFound, Cause::nothingMatches, Cause::nothingBetter}},
+    {"WlanGetAvailableNetworkList",
+     {Cause::networkListEmpty, Cause::ssidNotVisible, Cause::networkNotListed, Cause::profileNotInView,
+      Cause::nothingMatches, Cause::nothingBetter}},
+    {"WlanGetNetworkBssList",
+     {Cause::bssListEmpty, Cause::noBssInView, Cause::firstBssListEmpty, Cause::laterBssListEmpty,
+      Cause::accessPointNotJoined, Cause::savedNotInView}},
 };
 
 bool AreUntouched(const std::vector<std::string>& outputs)
@@ -307,7 +264,7 @@ bool IsTolerated(const Method& method, const Failure& failure, const Outcome& ou
         return outcome == reference.first;
     const auto fits = [&](const Tolerance& tolerance)
     {
-        return tolerance.method == method.Name() && tolerance.operation == failure.operation &&
+        return tolerance.method == method.Name() && Contains(tolerance.operations, failure.operation) &&
                (tolerance.call == 0 || tolerance.call == failure.fault.fromCall) &&
                Is(tolerance.answer, method, failure, outcome, reference);
     };
@@ -319,29 +276,27 @@ bool IsTolerated(const Method& method, const Failure& failure, const Outcome& ou
 bool CanCause(const Method& method, const Failure& failure, host::Cause cause)
 {
     if (failure.way == Way::emptied)
-        return std::any_of(std::begin(kWants), std::end(kWants),
-                           [&](const Want& want) { return want.list == failure.operation && want.cause == cause; });
+        return kWants.at(failure.operation).contains(cause);
     const char* const operation = host::Describe(cause).operation;
     if (operation != nullptr && operation == failure.operation)
         return true;
     return std::any_of(std::begin(kOtherCauses), std::end(kOtherCauses),
                        [&](const OtherCause& other) {
-                           return other.method == method.Name() && other.operation == failure.operation &&
+                           return other.method == method.Name() && Contains(other.operations, failure.operation) &&
                                   other.cause == cause;
                        });
 }
 
 std::vector<std::string> OutputsOfFailure(const Method& method, const Failure& failure, const Outcome& outcome)
 {
-    constexpr std::array<std::string_view, 3> kEmptyTheirList = {"GetMatchAPList", "GetMatchAPCount",
-                                                                 "GetConnectableAPList"};
-    constexpr std::array<std::string_view, 2> kTellTheError = {"Rescan", "TurnOnSoftwareRadio"};
-    const std::string name = method.Name();
+    constexpr std::array<std::string_view, 3> emptyTheirList = {"GetMatchAPList", "GetMatchAPCount",
+                                                                "GetConnectableAPList"};
+    constexpr std::array<std::string_view, 2> tellTheError = {"Rescan", "TurnOnSoftwareRadio"};
     std::string output = methods::kUntouched;
-    if (std::find(kEmptyTheirList.begin(), kEmptyTheirList.end(), name) != kEmptyTheirList.end())
+    if (Contains(emptyTheirList, method.Name()))
         output = "0 entries";
     const unsigned long error = failure.fault.error;
-    if (std::find(kTellTheError.begin(), kTellTheError.end(), name) != kTellTheError.end())
+    if (Contains(tellTheError, method.Name()))
         output = methods::BytesText(&error, sizeof(error));
     return std::vector<std::string>(outcome.outputs.size(), output);
 }
