@@ -38,6 +38,29 @@ inline std::string BssLine(const std::string& ssid, const std::string& bssType, 
                                                  ", reserved=null, list=non-null");
 }
 
+/// The access points of a network; an infrastructure network is secured here, an independent one is open.
+inline std::string NetworkBssLine(const std::string& ssid, const std::string& bssType = "infrastructure")
+{
+    return BssLine('"' + ssid + "\"/" + std::to_string(ssid.size()), bssType,
+                   bssType == "infrastructure" ? "true" : "false");
+}
+
+/// Those of every network.
+inline std::string EveryBssLine()
+{
+    return BssLine("null", "any", "false");
+}
+
+inline std::string NetworksLine()
+{
+    return CallForA("WlanGetAvailableNetworkList", "flags=0, reserved=null, list=non-null");
+}
+
+inline std::string InterfacesLine()
+{
+    return "WlanEnumInterfaces(client=1, reserved=null, list=non-null)";
+}
+
 /// The list of the adapter's profiles.
 inline std::string ProfilesLine()
 {
@@ -57,5 +80,7 @@ inline std::string NameLine(const std::string& name)
     return "MultiByteToWideChar(codePage=0, flags=9, source=\"" + name +
            "\", sourceLength=-1, destination=non-null, destinationLength=256)";
 }
+
+inline constexpr const char* kRelease = "WlanFreeMemory(memory=non-null)";
 
 } // namespace calvix::test

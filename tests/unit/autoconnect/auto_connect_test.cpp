@@ -1,10 +1,9 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "support/result_code.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/trace_texts.h"
+#include "unit/inventory/failures.h"
 
 #include <string>
 
@@ -16,10 +15,6 @@ using ::testing::IsEmpty;
 
 namespace
 {
-
-const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
-const std::string kProfiles = "WlanGetProfileList" + kStart + ", reserved=null, list=non-null)";
-const std::string kNetworks = "WlanGetAvailableNetworkList" + kStart + ", flags=0, reserved=null, list=non-null)";
 
 long long Auto(CWirelessManage& manager)
 {
@@ -38,6 +33,11 @@ simulation::Scenario TwoNetworks()
                    {Heard("Second", 2412000, -55), Heard("Nobody's", 2412000, -60), Heard("First", 2412000, -80)});
 }
 
+simulation::Scenario WithoutMatch()
+{
+    return WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)});
+}
+
 class AutoConnectTest : public LibraryTest
 {
 public:
@@ -53,7 +53,7 @@ using AutoConnectExTest = AutoConnectTest;
 TEST_F(AutoConnectTest, AsksForTheMostPreferredProfileInView)
 {
     EXPECT_EQ(0, Auto(manager()));
-    EXPECT_THAT(callLines(), ElementsAre(kProfiles, kNetworks, StandardRequest("First"), kRelease, kRelease))
+    EXPECT_THAT(callLines(), ElementsAre(ProfilesLine(), NetworksLine(), ConnectLine("First"), kRelease, kRelease))
         << "neither modes nor signal matter";
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
@@ -88,38 +88,20 @@ TEST_F(AutoConnectTest, AProfileIsTriedWithEachOfItsNetworks)
     FailOn("WlanConnect");
     EXPECT_EQ(0, Auto(manager()));
     EXPECT_EQ(3u, callCount("WlanConnect"));
-    EXPECT_EQ(StandardRequest("First", "independent"), call("WlanConnect", 1).line);
-    EXPECT_EQ(StandardRequest("First"), call("WlanConnect", 2).line);
-    EXPECT_EQ(StandardRequest("Second"), call("WlanConnect", 3).line);
-}
-
-TEST_F(AutoConnectTest, ProfilesMatchByTheirNameNotBySsid)
-{
-    UseWorld(WorldOf({ProfileFor("Profile", "Net")}, {Heard("Profile", 2412000, -50), Heard("Net", 2412000, -50)}));
-    EXPECT_EQ(0, Auto(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Profile"));
-
-    EditedAnswers edited;
-    edited.service.profiles = [](WLAN_PROFILE_INFO_LIST& list)
-    { std::copy_n(L"profile", 8, list.ProfileInfo[0].strProfileName); };
-    EXPECT_EQ(-9, Auto(manager())) << "names are compared exactly";
+    EXPECT_EQ(ConnectLine("First", "null", "independent"), call("WlanConnect", 1).line);
+    EXPECT_EQ(ConnectLine("First"), call("WlanConnect", 2).line);
+    EXPECT_EQ(ConnectLine("Second"), call("WlanConnect", 3).line);
 }
 
 TEST_F(AutoConnectTest, Failures)
 {
-    CheckFailures(*this,
-                  {{"AutoConnect", Auto, "WlanOpenHandle", -1, {kOpenFailed}},
-                   {"AutoConnect", Auto, "WlanGetProfileList", -4, {kProfilesFailed}},
-                   {"AutoConnect", Auto, "WlanGetAvailableNetworkList", -6, {kNetworksFailed}},
-                   {.method = "AutoConnect, nothing matches", .call = Auto, .expected = -9, .prepare = [](auto& t) {
-                        t.UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
-                    }}});
-}
-
-// Deliberate: a walk on which every request was refused reports success.
-TEST_F(AutoConnectTest, ARefusedOnlyWalkReportsSuccess)
-{
-    CheckFailures(*this, {{"AutoConnect", Auto, "WlanConnect", 0, {kConnectFailed, kConnectFailed}}});
+    const Failures connect(*this, "AutoConnect", Auto);
+    connect.When("WlanOpenHandle", -1);
+    connect.When("WlanGetProfileList", -4);
+    connect.When("WlanGetAvailableNetworkList", -6);
+    connect.In(WithoutMatch(), -9);
+    // Deliberate: a walk on which every request was refused reports success.
+    connect.When("WlanConnect", 0, {kConnectFailed});
 }
 
 // --- Both -------------------------------------------------------------------------------------------------------
@@ -127,18 +109,10 @@ TEST_F(AutoConnectTest, ARefusedOnlyWalkReportsSuccess)
 // The codes are traced as unsigned numbers.
 TEST_F(AutoConnectTest, NothingToMatch)
 {
-    for (const auto& [name, method] : {std::pair{"AutoConnect", &Auto}, std::pair{"AutoConnectEx", &AutoEx}})
+    for (const Failures& connect : {Failures(*this, "AutoConnect", Auto), Failures(*this, "AutoConnectEx", AutoEx)})
     {
-        CheckFailures(*this, {{.method = name,
-                               .call = method,
-                               .expected = -5,
-                               .traced = {"No network profile: 4294967291"},
-                               .prepare = [](auto& test) { test.UseWorld(NoProfileWorld()); }},
-                              {.method = name,
-                               .call = method,
-                               .expected = -7,
-                               .traced = {"No available network: 4294967289"},
-                               .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }}});
+        connect.In(NoProfileWorld(), -5, {"No network profile: 4294967291"});
+        connect.In(SilentWorld(), -7, {"No available network: 4294967289"});
     }
     UseWorld(NoProfileWorld());
     EXPECT_EQ(-5, Auto(manager()));
@@ -157,37 +131,10 @@ TEST_F(AutoConnectTest, ANullInterfaceIsTheServicesToRefuse)
 TEST_F(AutoConnectExTest, RanksAllMatchingNetworksBySignal)
 {
     EXPECT_EQ(0, AutoEx(manager()));
-    EXPECT_THAT(callLines(), ElementsAre(kProfiles, kNetworks,
-                                         "WlanGetNetworkBssList" + kStart +
-                                             ", ssid=\"First\"/5, bssType=infrastructure, securityEnabled=true, "
-                                             "reserved=null, list=non-null)",
-                                         StandardRequest("First"), kRelease, kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ProfilesLine(), NetworksLine(), NetworkBssLine("First"), ConnectLine("First"),
+                                         kRelease, kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
-}
-
-TEST_F(AutoConnectExTest, TheLowestScoreIsTriedFirst)
-{
-    FailOn("WlanConnect");
-    EXPECT_EQ(-12, AutoEx(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First", "Second"));
-
-    UseWorld(WorldOf({Profile("First"), Profile("Second", "manual")},
-                     {Heard("First", 2412000, -60), Heard("Second", 2412000, -70)}));
-    FailOn("WlanConnect");
-    EXPECT_EQ(-12, AutoEx(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Second", "First")) << "not by preference";
-}
-
-TEST_F(AutoConnectExTest, FiveGigahertzCountsTenMore)
-{
-    for (const auto& [plain, first] : {std::pair{-68, "Plain"}, std::pair{-60, "Boosted"}})
-    {
-        UseWorld(WorldOf({Profile("Plain", "manual"), Profile("Boosted")},
-                         {Heard("Plain", 2412000, plain), Heard("Boosted", 5180000, -70)}));
-        EXPECT_EQ(0, AutoEx(manager()));
-        EXPECT_THAT(RequestedProfiles(*this), ElementsAre(first)) << "60 + 10 against " << 2 * (plain + 100);
-    }
 }
 
 TEST_F(AutoConnectExTest, ARefusedRequestIsFollowedByTheNext)
@@ -200,16 +147,13 @@ TEST_F(AutoConnectExTest, ARefusedRequestIsFollowedByTheNext)
 
 TEST_F(AutoConnectExTest, Failures)
 {
-    const char* const name = "AutoConnectEx";
-    CheckFailures(*this,
-                  {{name, AutoEx, "WlanOpenHandle", -1, {kOpenFailed}},
-                   {name, AutoEx, "WlanGetProfileList", -4, {kProfilesFailed}},
-                   {name, AutoEx, "WlanGetAvailableNetworkList", -6, {kNetworksFailed}},
-                   {name, AutoEx, "WlanGetNetworkBssList", CodeOf(name, host::Cause::bssListFailed), {kBssFailed}},
-                   {name, AutoEx, "WlanConnect", -12, {kConnectFailed, kConnectFailed}},
-                   {.method = name, .call = AutoEx, .expected = -9, .prepare = [](auto& test) {
-                        test.UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
-                    }}});
+    const Failures connect(*this, "AutoConnectEx", AutoEx);
+    connect.When("WlanOpenHandle", -1);
+    connect.When("WlanGetProfileList", -4);
+    connect.When("WlanGetAvailableNetworkList", -6);
+    connect.When("WlanGetNetworkBssList", CodeOf("AutoConnectEx", host::Cause::bssListFailed));
+    connect.When("WlanConnect", -12, {kConnectFailed});
+    connect.In(WithoutMatch(), -9);
 }
 
 TEST_F(AutoConnectExTest, AnEmptyBssListEndsItWithoutATrace)

@@ -1,8 +1,8 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <string>
@@ -15,15 +15,6 @@ using ::testing::IsEmpty;
 
 namespace
 {
-
-constexpr const char* kNameError = "Profile Name error: %u";
-
-const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
-const std::string kConnectionQuery = "WlanQueryInterface" + kStart +
-                                     ", opcode=current_connection, reserved=null, "
-                                     "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, valueType=null)";
-const std::string kProfiles = "WlanGetProfileList" + kStart + ", reserved=null, list=non-null)";
-const std::string kNetworks = "WlanGetAvailableNetworkList" + kStart + ", flags=0, reserved=null, list=non-null)";
 
 /// Connected by "Old"; "Other" is heard better, and preferred less.
 simulation::Scenario SwitchWorld(std::vector<simulation::StoredProfile> profiles = {Profile("Old"), Profile("Other")})
@@ -60,26 +51,28 @@ public:
     int SwitchTo(ULONG quality)
     {
         EditedAnswers edited;
-        edited.conversion.takesAllFlagsForUtf8 = true;
         edited.service.networks = [quality](WLAN_AVAILABLE_NETWORK_LIST& list)
         { list.Network[1].wlanSignalQuality = quality; };
-        const int code = manager().SmartSwitch(&kAdapterA);
-        Advance(std::chrono::seconds(5)); // what was requested is connected to then
-        return code;
+        return SwitchAndConnect();
     }
 
     /// SmartSwitch with another current SSID and quality. Old's network has 70, Other's 80.
     int SwitchFrom(const DOT11_SSID& ssid, ULONG quality)
     {
         EditedAnswers edited;
-        edited.conversion.takesAllFlagsForUtf8 = true;
         edited.service.currentConnection = [&ssid, quality](WLAN_CONNECTION_ATTRIBUTES& connection)
         {
             connection.wlanAssociationAttributes.dot11Ssid = ssid;
             connection.wlanAssociationAttributes.wlanSignalQuality = quality;
         };
-        const int code = manager().SmartSwitch(&kAdapterA);
-        Advance(std::chrono::seconds(5)); // what was requested is connected to then
+        return SwitchAndConnect();
+    }
+
+private:
+    int SwitchAndConnect()
+    {
+        const auto code = static_cast<int>(Smart(manager()));
+        Advance(std::chrono::seconds(5));
         return code;
     }
 };
@@ -93,9 +86,9 @@ TEST_F(AutoSwitchTest, MovesTheCurrentProfileToTheLastPlaceThenWalks)
     FailOn("WlanConnect", 1234, 1, 1);
     EXPECT_EQ(0, Switch(manager()));
     EXPECT_THAT(callLines(),
-                ElementsAre(kConnectionQuery, kProfiles,
-                            "WlanSetProfilePosition" + kStart + ", name=\"Old\", position=1, reserved=null)", kNetworks,
-                            StandardRequest("Old"), StandardRequest("Other"), kRelease, kRelease, kRelease));
+                ElementsAre(ConnectionQuery(), ProfilesLine(),
+                            CallForA("WlanSetProfilePosition", "name=\"Old\", position=1, reserved=null"),
+                            NetworksLine(), ConnectLine("Old"), ConnectLine("Other"), kRelease, kRelease, kRelease));
     EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 1234"));
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -114,17 +107,6 @@ TEST_F(AutoSwitchTest, TheWalkFollowsTheOldOrder)
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Other")) << "by now the move is seen";
 }
 
-TEST_F(AutoSwitchTest, TheProfileIsMovedNotTheSsid)
-{
-    simulation::Scenario scenario = SwitchWorld();
-    scenario.adapters[0].profiles = {Profile("Other"), ProfileFor("Named", "Old"), Profile("Third")};
-    scenario.adapters[0].connection = simulation::Connection{"Named", std::nullopt};
-    UseWorld(scenario);
-    EXPECT_EQ(0, Switch(manager()));
-    EXPECT_EQ("\"Named\"", call("WlanSetProfilePosition")["name"]);
-    EXPECT_EQ("2", call("WlanSetProfilePosition")["position"]);
-}
-
 TEST_F(AutoSwitchTest, ASingleProfileIsNotMovedAndMayBeConnectedAgain)
 {
     UseWorld(SwitchWorld({Profile("Old")}));
@@ -136,26 +118,15 @@ TEST_F(AutoSwitchTest, ASingleProfileIsNotMovedAndMayBeConnectedAgain)
 
 TEST_F(AutoSwitchTest, Failures)
 {
-    const char* const name = "AutoSwitch";
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this, {{name, Switch, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                          {name, Switch, "WlanQueryInterface", -3, {kQueryFailed}, local},
-                          {name, Switch, "WlanGetProfileList", -4, {kProfilesFailed}, local},
-                          {name, Switch, "WlanSetProfilePosition", -5, {kMoveFailed}, local},
-                          {name, Switch, "WlanGetAvailableNetworkList", -6, {kNetworksFailed}, local},
-                          {.method = "AutoSwitch, not connected",
-                           .call = Switch,
-                           .expected = -3,
-                           .traced = {kNotConnected},
-                           .buffer = local,
-                           .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
-}
-
-// Deliberate: a walk on which every request was refused reports success.
-TEST_F(AutoSwitchTest, ARefusedOnlyWalkReportsSuccess)
-{
-    CheckFailures(*this,
-                  {{"AutoSwitch", Switch, "WlanConnect", 0, {kConnectFailed, kConnectFailed}, TraceBuffer::local}});
+    const Failures change(*this, "AutoSwitch", Switch, TraceBuffer::local);
+    change.When("WlanOpenHandle", -1);
+    change.When("WlanQueryInterface", -3);
+    change.When("WlanGetProfileList", -4);
+    change.When("WlanSetProfilePosition", -5);
+    change.When("WlanGetAvailableNetworkList", -6);
+    change.In(DisconnectedWorld(), -3, {kNotConnected});
+    // Deliberate: a walk on which every request was refused reports success.
+    change.When("WlanConnect", 0, {kConnectFailed});
 }
 
 // No list is looked at for being empty: nothing matches, that is all.
@@ -186,8 +157,8 @@ TEST_F(AutoSwitchTest, WhereNothingMatchesItIsMinusSevenWithoutATrace)
 TEST_F(SmartSwitchTest, AsksForANetworkThatIsBetterThanTheCurrentOne)
 {
     EXPECT_EQ(0, Smart(manager()));
-    EXPECT_EQ((std::vector<std::string>{kConnectionQuery, callLines()[1], kProfiles, kNetworks,
-                                        StandardRequest("Other"), kRelease, kRelease, kRelease}),
+    EXPECT_EQ((std::vector<std::string>{ConnectionQuery(), callLines()[1], ProfilesLine(), NetworksLine(),
+                                        ConnectLine("Other"), kRelease, kRelease, kRelease}),
               callLines());
     EXPECT_EQ("65001", call("MultiByteToWideChar")["codePage"]);
     EXPECT_EQ("\"Old\"", call("MultiByteToWideChar")["source"]);
@@ -215,17 +186,6 @@ TEST_F(SmartSwitchTest, OnePointBetterIsEnoughAndAsGoodIsNot)
     EXPECT_TRUE(traced().empty());
     EXPECT_EQ(0, SwitchTo(71));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Other"));
-}
-
-TEST_F(SmartSwitchTest, TheFirstInProfileOrderIsTakenNotTheBest)
-{
-    simulation::Scenario scenario =
-        WorldOf({Profile("Old"), Profile("Good"), Profile("Better")},
-                {Heard("Better", 2412000, -50), Heard("Good", 2412000, -60), Heard("Old", 2412000, -80)});
-    scenario.adapters[0].connection = simulation::Connection{"Old", std::nullopt};
-    UseWorld(scenario);
-    EXPECT_EQ(0, Smart(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Good"));
 }
 
 TEST_F(SmartSwitchTest, ARefusedRequestIsTheEnd)
@@ -296,20 +256,14 @@ TEST_F(SmartSwitchTest, NothingToSwitchTo)
 
 TEST_F(SmartSwitchTest, Failures)
 {
-    const char* const name = "SmartSwitch";
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this, {{name, Smart, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                          {name, Smart, "WlanQueryInterface", 5, {kQueryFailed}, local},
-                          {name, Smart, "MultiByteToWideChar", 5, {kNameError}, local},
-                          {name, Smart, "WlanGetProfileList", 5, {kProfilesFailed}, local},
-                          {name, Smart, "WlanGetAvailableNetworkList", 5, {kNetworksFailed}, local},
-                          {name, Smart, "WlanConnect", 5, {kConnectFailed}, local},
-                          {.method = "SmartSwitch, not connected",
-                           .call = Smart,
-                           .expected = 5023,
-                           .traced = {kNotConnected},
-                           .buffer = local,
-                           .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
+    const Failures change(*this, "SmartSwitch", Smart, TraceBuffer::local);
+    change.When("WlanOpenHandle", -1);
+    change.When("WlanQueryInterface", 5);
+    change.WhenTracing("MultiByteToWideChar", 5, {"Profile Name error: %u"});
+    change.When("WlanGetProfileList", 5);
+    change.When("WlanGetAvailableNetworkList", 5);
+    change.When("WlanConnect", 5);
+    change.In(DisconnectedWorld(), 5023, {kNotConnected});
 }
 
 } // namespace calvix::test::auto_switch_test

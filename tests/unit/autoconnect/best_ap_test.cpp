@@ -1,8 +1,8 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/failures.h"
 
 #include <algorithm>
 #include <string>
@@ -18,8 +18,6 @@ namespace
 {
 
 using Excluded = std::vector<WLAN_BSS_ENTRY>;
-
-constexpr const char* kReadFailed = "WlanGetProfile failed with error: %u";
 
 struct Overload
 {
@@ -66,37 +64,11 @@ public:
 TEST_F(BestApTest, AsksForAConnectionByProfile)
 {
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    const std::string start = std::string("(client=1, interface=") + kAdapterAText;
-    const auto read = [&](const char* name)
-    {
-        return "WlanGetProfile" + start + ", name=\"" + name +
-               "\", reserved=null, xml=non-null, flags=4, grantedAccess=131073)";
-    };
-    const std::string release = "WlanFreeMemory(memory=non-null)";
-    EXPECT_THAT(callLines(),
-                ElementsAre("WlanGetProfileList" + start + ", reserved=null, list=non-null)",
-                            "WlanGetAvailableNetworkList" + start + ", flags=0, reserved=null, list=non-null)",
-                            read("Plain"), release, read("Boosted"), release,
-                            "WlanGetNetworkBssList" + start +
-                                ", ssid=\"Boosted\"/7, bssType=infrastructure, securityEnabled=true, reserved=null, "
-                                "list=non-null)",
-                            "WlanConnect" + start +
-                                ", parameters={mode=profile, profile=\"Boosted\", ssid=null, bssids=null, "
-                                "bssType=infrastructure, flags=0}, reserved=null)",
-                            release, release, release));
+    EXPECT_THAT(callLines(), ElementsAre(ProfilesLine(), NetworksLine(), ReadProfileLine("Plain"), kRelease,
+                                         ReadProfileLine("Boosted"), kRelease, NetworkBssLine("Boosted"),
+                                         ConnectLine("Boosted"), kRelease, kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
-}
-
-TEST_F(BestApTest, TheAcceptedRequestIsTheConnectionThatIsMade)
-{
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_EQ(0, manager().WiFiIsConnected(&kAdapterA)) << "it is not waited for";
-    Advance(std::chrono::seconds(5));
-    ASSERT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
-    char ssid[64] = {};
-    EXPECT_EQ(0, manager().GetCurrentSSID(ssid, sizeof ssid));
-    EXPECT_STREQ("Boosted", ssid) << "the weaker of the two";
 }
 
 TEST_F(BestApTest, AllOverloadsWalkAlike)
@@ -135,46 +107,19 @@ TEST_F(BestApTest, Failures)
 {
     for (const auto& [name, call] : Overloads())
     {
-        CheckFailures(
-            *this,
-            {{name, call, "WlanOpenHandle", -1, {"WlanOpenHandle failed with error: %u"}},
-             {name, call, "WlanGetProfileList", -4, {"WlanGetProfileList failed with error: %u"}},
-             {name, call, "WlanGetAvailableNetworkList", -6, {"WlanGetAvailableNetworkList failed with error: %u"}},
-             {name, call, "WlanGetProfile", -9, {kReadFailed, kReadFailed}, TraceBuffer::local},
-             {name, call, "WlanGetNetworkBssList", -10, {"WlanGetNetworkBssList failed with error: %u"}},
-             {name, call, "WlanConnect", -12, {kConnectFailed, kConnectFailed}}});
+        const Failures best(*this, name, call);
+        best.When("WlanOpenHandle", -1);
+        best.When("WlanGetProfileList", -4);
+        best.When("WlanGetAvailableNetworkList", -6);
+        best.When("WlanGetNetworkBssList", -10);
+        best.When("WlanConnect", -12, {kConnectFailed});
+        // The codes are traced as unsigned numbers.
+        best.In(NoProfileWorld(), -5, {"No network profile: 4294967291"});
+        best.In(SilentWorld(), -7, {"No available network: 4294967289"});
+        best.In(WorldOf({Profile("Net", "manual"), Profile("GoneNet")}, {Heard("Net", 2412000, -50)}), -9);
+        const Failures read(*this, name, call, TraceBuffer::local);
+        read.When("WlanGetProfile", -9, {"WlanGetProfile failed with error: %u"});
     }
-}
-
-// The codes are traced as unsigned numbers.
-TEST_F(BestApTest, FailuresOfTheWorld)
-{
-    for (const auto& [name, call] : Overloads())
-    {
-        CheckFailures(
-            *this,
-            {{.method = name,
-              .call = call,
-              .expected = -5,
-              .traced = {"No network profile: 4294967291"},
-              .prepare = [](auto& test) { test.UseWorld(NoProfileWorld()); }},
-             {.method = name,
-              .call = call,
-              .expected = -7,
-              .traced = {"No available network: 4294967289"},
-              .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }},
-             {.method = name, .call = call, .expected = -9, .buffer = TraceBuffer::local, .prepare = [](auto& test) {
-                  test.UseWorld(WorldOf({Profile("Net", "manual"), Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
-              }}});
-    }
-}
-
-TEST_F(BestApTest, WithoutACandidateNothingMoreIsAsked)
-{
-    UseWorld(WorldOf({Profile("Net", "manual")}, {Heard("Net", 5180000, -50)}));
-    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_EQ(0u, callCount("WlanGetNetworkBssList"));
-    EXPECT_TRUE(traced().empty());
 }
 
 TEST_F(BestApTest, AnEmptyBssListEndsItWithoutATrace)
@@ -222,14 +167,6 @@ TEST_F(BestApTest, NullsAreRefusedBeforeAnything)
 
 // --- Candidates -------------------------------------------------------------------------------------------------
 
-TEST_F(BestApTest, OnlyMatchingNetworksAreAskedAbout)
-{
-    UseWorld(RichWorld());
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("HomeNet"));
-    EXPECT_EQ(3u, callCount("WlanGetProfile")) << "HiddenNet and GoneNet are not in view";
-}
-
 TEST_F(BestApTest, TheExcludedProfileIsPassedOverUnread)
 {
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"Boosted"));
@@ -240,22 +177,6 @@ TEST_F(BestApTest, TheExcludedProfileIsPassedOverUnread)
     ClearCalls();
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"boosted"));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Boosted")) << "names are compared exactly";
-}
-
-TEST_F(BestApTest, WithoutTheOnlyAutomaticProfileThereIsNoCandidate)
-{
-    UseWorld(WorldOf({Profile("Net"), Profile("Other", "manual")},
-                     {Heard("Net", 2412000, -50), Heard("Other", 2412000, -50)}));
-    Excluded nobody;
-    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, L"Net"));
-    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, &nobody, L"Net"));
-}
-
-TEST_F(BestApTest, TheExcludedNameIsTheProfilesNotTheSsid)
-{
-    UseWorld(WorldOf({ProfileFor("Profile", "Net")}, {Heard("Net", 2412000, -50)}));
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"Net"));
-    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, L"Profile"));
 }
 
 TEST_F(BestApTest, NetworksOfTheListAreExcludedAfterTheirProfileIsRead)
@@ -362,13 +283,6 @@ TEST_F(BestApTest, TwoProfilesOfOneNameShareTheScoreOfTheirNetwork)
     FailOn("WlanConnect");
     EXPECT_EQ(-12, manager().AutoConnectEx(&kAdapterA));
     EXPECT_EQ(order, RequestedProfiles(*this));
-}
-
-TEST_F(BestApTest, TheBonusGoesToSsidsThatBeginWithTheLastOnes)
-{
-    UseWorld(WorldOf({Profile("Net5G"), Profile("Plain")},
-                     {Heard("Net5G", 2412000, -70), Heard("Plain", 2412000, -68), Heard("Net", 5180000, -90)}));
-    EXPECT_THAT(Ranking(), ElementsAre("Plain", "Net5G"));
 }
 
 TEST_F(BestApTest, MoreThanThirtyTwoCandidatesAreAllTriedInOrder)

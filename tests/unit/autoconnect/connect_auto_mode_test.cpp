@@ -1,8 +1,8 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <string>
@@ -15,10 +15,6 @@ using ::testing::IsEmpty;
 
 namespace
 {
-
-constexpr const char* kReadFailed = "WlanGetProfile failed with error: %u";
-
-const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
 
 /// On a platform that converts SSIDs with the flags that the method passes.
 long long AutoMode(CWirelessManage& manager)
@@ -44,22 +40,15 @@ public:
 TEST_F(ConnectAutoModeTest, AsksForTheFirstAutomaticProfileInView)
 {
     EXPECT_EQ(0, AutoMode(manager()));
-    const auto read = [](const char* name)
-    {
-        return "WlanGetProfile" + kStart + ", name=\"" + name +
-               "\", reserved=null, xml=non-null, flags=4, grantedAccess=131073)";
-    };
     const auto convert = [](const char* ssid)
     {
         // The flags are 9; the platform of this test has dropped the one that it refuses.
         return "MultiByteToWideChar(codePage=65001, flags=8, source=\"" + std::string(ssid) +
                "\", sourceLength=-1, destination=non-null, destinationLength=128)";
     };
-    EXPECT_THAT(callLines(),
-                ElementsAre("WlanGetProfileList" + kStart + ", reserved=null, list=non-null)",
-                            "WlanGetAvailableNetworkList" + kStart + ", flags=0, reserved=null, list=non-null)",
-                            read("Manual"), kRelease, read("First"), kRelease, convert("Second"), convert("First"),
-                            StandardRequest("First"), kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ProfilesLine(), NetworksLine(), ReadProfileLine("Manual"), kRelease,
+                                         ReadProfileLine("First"), kRelease, convert("Second"), convert("First"),
+                                         ConnectLine("First"), kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -95,13 +84,6 @@ TEST_F(ConnectAutoModeTest, ARefusedRequestIsFollowedByTheNextProfile)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-// Deliberate: a walk on which every request was refused reports success.
-TEST_F(ConnectAutoModeTest, ARefusedOnlyWalkReportsSuccess)
-{
-    CheckFailures(
-        *this, {{"ConnectAutoMode", AutoMode, "WlanConnect", 0, {kConnectFailed, kConnectFailed}, TraceBuffer::local}});
-}
-
 // Deliberate: the request goes by the network's own profile name, which is empty where only the SSID matched.
 TEST_F(ConnectAutoModeTest, ANetworkMatchesByItsSsidToo)
 {
@@ -112,13 +94,6 @@ TEST_F(ConnectAutoModeTest, ANetworkMatchesByItsSsidToo)
     EXPECT_EQ(0, AutoMode(manager()));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre(""));
     EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 87"));
-}
-
-TEST_F(ConnectAutoModeTest, ANetworkMatchesByProfileNameThoughItsSsidDiffers)
-{
-    UseWorld(WorldOf({ProfileFor("Profile", "Net")}, {Heard("Other", 2412000, -50), Heard("Net", 2412000, -50)}));
-    EXPECT_EQ(0, AutoMode(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Profile"));
 }
 
 TEST_F(ConnectAutoModeTest, AnSsidThatReadsLikeAnotherProfileIsRequestedByItsOwnName)
@@ -202,29 +177,18 @@ TEST_F(ConnectAutoModeTest, AModeTooFarBackIsNotFound)
 
 TEST_F(ConnectAutoModeTest, Failures)
 {
-    const char* const name = "ConnectAutoMode";
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this,
-                  {{name, AutoMode, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                   {name, AutoMode, "WlanGetProfileList", -4, {kProfilesFailed}, local},
-                   {name, AutoMode, "WlanGetAvailableNetworkList", -6, {kNetworksFailed}, local},
-                   {name, AutoMode, "WlanGetProfile", -9, {kReadFailed, kReadFailed, kReadFailed}, local},
-                   {name, AutoMode, "MultiByteToWideChar", -9, {}, local},
-                   {.method = name,
-                    .call = AutoMode,
-                    .expected = -5,
-                    .traced = {"No network profile: 4294967291"},
-                    .buffer = local,
-                    .prepare = [](auto& test) { test.UseWorld(NoProfileWorld()); }},
-                   {.method = name,
-                    .call = AutoMode,
-                    .expected = -7,
-                    .traced = {"No available network: 4294967289"},
-                    .buffer = local,
-                    .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }},
-                   {.method = name, .call = AutoMode, .expected = -9, .buffer = local, .prepare = [](auto& test) {
-                        test.UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
-                    }}});
+    const char* const unread = "WlanGetProfile failed with error: %u";
+    const Failures connect(*this, "ConnectAutoMode", AutoMode, TraceBuffer::local);
+    connect.When("WlanOpenHandle", -1);
+    connect.When("WlanGetProfileList", -4);
+    connect.When("WlanGetAvailableNetworkList", -6);
+    connect.When("WlanGetProfile", -9, {unread, unread});
+    connect.WhenTracing("MultiByteToWideChar", -9, {});
+    connect.In(NoProfileWorld(), -5, {"No network profile: 4294967291"});
+    connect.In(SilentWorld(), -7, {"No available network: 4294967289"});
+    connect.In(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}), -9);
+    // Deliberate: a walk on which every request was refused reports success.
+    connect.When("WlanConnect", 0, {kConnectFailed});
 }
 
 } // namespace calvix::test::connect_auto_mode_test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/library_test.h"
+#include "unit/call_lines.h"
 
 #include <string>
 #include <vector>
@@ -20,13 +21,6 @@ inline std::vector<std::string> RequestedProfiles(const LibraryTest& test)
         profiles.push_back(text.substr(start, text.find('"', start) - start));
     }
     return profiles;
-}
-
-/// The standard request in the call log: by the profile, any access point.
-inline std::string StandardRequest(const std::string& profile, const std::string& bssType = "infrastructure")
-{
-    return std::string("WlanConnect(client=1, interface=") + kAdapterAText + ", parameters={mode=profile, profile=\"" +
-           profile + "\", ssid=null, bssids=null, bssType=" + bssType + ", flags=0}, reserved=null)";
 }
 
 inline constexpr const char* kConnectFailed = "WlanConnect failed with error: %u";

@@ -1,8 +1,8 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -18,18 +18,9 @@ using ::testing::ElementsAre;
 namespace
 {
 
-const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
-const std::string kConnectionQuery = "WlanQueryInterface" + kStart +
-                                     ", opcode=current_connection, reserved=null, "
-                                     "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, valueType=null)";
-const std::string kBssQuery = "WlanGetNetworkBssList" + kStart +
-                              ", ssid=\"Net\"/3, bssType=infrastructure, securityEnabled=true, reserved=null, "
-                              "list=non-null)";
-
 std::string RequestFor(const std::string& bssid)
 {
-    return "WlanConnect" + kStart + ", parameters={mode=profile, profile=\"Profile\", ssid=null, bssids=[" + bssid +
-           "], bssType=infrastructure, flags=0}, reserved=null)";
+    return ConnectLine("Profile", "[" + bssid + "]");
 }
 
 /// Net, heard from so many access points; the n-th has the address 02:00:00:00:00:0n, and the first is connected to,
@@ -88,7 +79,7 @@ public:
 TEST_F(RoamingTest, PreRoamingOnlyDecides)
 {
     EXPECT_EQ(0, manager().PreRoaming(&kAdapterA));
-    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery, kBssQuery, kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ConnectionQuery(), NetworkBssLine("Net"), kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -96,8 +87,8 @@ TEST_F(RoamingTest, PreRoamingOnlyDecides)
 TEST_F(RoamingTest, RoamingAsksForTheBetterAccessPointByTheSameProfile)
 {
     EXPECT_EQ(0, manager().Roaming(&kAdapterA));
-    EXPECT_THAT(callLines(),
-                ElementsAre(kConnectionQuery, kBssQuery, RequestFor("02:00:00:00:00:02"), kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ConnectionQuery(), NetworkBssLine("Net"), RequestFor("02:00:00:00:00:02"),
+                                         kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
 
@@ -110,18 +101,17 @@ TEST_F(RoamingTest, RoamingAsksForTheBetterAccessPointByTheSameProfile)
 
 TEST_F(RoamingTest, TheCurrentBssTypeAndSecurityAreAskedFor)
 {
+    EditedAnswers edited;
+    edited.service.currentConnection = [](WLAN_CONNECTION_ATTRIBUTES& connection)
+    {
+        connection.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_independent;
+        connection.wlanSecurityAttributes.bSecurityEnabled = FALSE;
+    };
     for (const auto& [name, method] : kMethods)
     {
-        EditedAnswers edited;
-        edited.service.currentConnection = [](WLAN_CONNECTION_ATTRIBUTES& connection)
-        {
-            connection.wlanAssociationAttributes.dot11BssType = dot11_BSS_type_independent;
-            connection.wlanSecurityAttributes.bSecurityEnabled = FALSE;
-        };
         ClearCalls();
         EXPECT_EQ(-7, method(manager())) << name;
-        EXPECT_EQ("independent", call("WlanGetNetworkBssList")["bssType"]);
-        EXPECT_EQ("false", call("WlanGetNetworkBssList")["securityEnabled"]);
+        EXPECT_EQ(NetworkBssLine("Net", "independent"), call("WlanGetNetworkBssList").line);
     }
 }
 
@@ -164,22 +154,6 @@ TEST_F(RoamingTest, ThePickIsTheLastAccessPointThatBeatsTheFirst)
     }
 }
 
-TEST_F(RoamingTest, DoesNotMoveToTheCurrentAccessPoint)
-{
-    for (const std::vector<unsigned>& qualities : {std::vector{50u}, std::vector{90u, 50u, 60u}, std::vector{60u, 60u}})
-    {
-        SCOPED_TRACE(::testing::PrintToString(qualities));
-        UseWorld(NetFrom(qualities.size()));
-        EditedAnswers edited;
-        edited.service.bss = WithQualities(qualities);
-        for (const auto& [name, method] : kMethods)
-            EXPECT_EQ(-8, method(manager())) << name;
-        EXPECT_EQ(0u, callCount("WlanConnect"));
-        EXPECT_TRUE(traced().empty());
-        EXPECT_TRUE(sharedTraceUntouched());
-    }
-}
-
 TEST_F(RoamingTest, AccessPointsAreTheSameWhenAllSixBytesAre)
 {
     for (std::size_t byte = 0; byte < 6; ++byte)
@@ -189,24 +163,6 @@ TEST_F(RoamingTest, AccessPointsAreTheSameWhenAllSixBytesAre)
         edited.service.bss = [byte](WLAN_BSS_LIST& list) { list.wlanBssEntries[0].dot11Bssid[byte] ^= 0x80; };
         EXPECT_EQ(0, manager().PreRoaming(&kAdapterA)) << "byte " << byte;
     }
-}
-
-TEST_F(RoamingTest, ExactlyOneAccessPointIsDesired)
-{
-    EditedAnswers edited;
-    unsigned requests = 0;
-    edited.service.connectRequest = [&requests](const WLAN_CONNECTION_PARAMETERS& parameters)
-    {
-        ++requests;
-        const DOT11_BSSID_LIST& desired = *parameters.pDesiredBssidList;
-        EXPECT_EQ(0x80, desired.Header.Type);
-        EXPECT_EQ(1, desired.Header.Revision);
-        EXPECT_EQ(sizeof(DOT11_BSSID_LIST), desired.Header.Size);
-        EXPECT_EQ(1u, desired.uNumOfEntries);
-        EXPECT_EQ(1u, desired.uTotalNumOfEntries);
-    };
-    EXPECT_EQ(0, manager().Roaming(&kAdapterA));
-    EXPECT_EQ(1u, requests);
 }
 
 TEST_F(RoamingTest, NoAccessPointInView)
@@ -222,20 +178,15 @@ TEST_F(RoamingTest, NoAccessPointInView)
 
 TEST_F(RoamingTest, Failures)
 {
-    const auto local = TraceBuffer::local;
     for (const auto& [name, method] : kMethods)
     {
-        CheckFailures(*this, {{name, method, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                              {name, method, "WlanQueryInterface", -4, {kQueryFailed}, local},
-                              {name, method, "WlanGetNetworkBssList", -6, {}, local},
-                              {.method = std::string(name) + ", not connected",
-                               .call = method,
-                               .expected = -4,
-                               .traced = {kNotConnected},
-                               .buffer = local,
-                               .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }}});
+        const Failures roam(*this, name, method, TraceBuffer::local);
+        roam.When("WlanOpenHandle", -1);
+        roam.When("WlanQueryInterface", -4);
+        roam.WhenTracing("WlanGetNetworkBssList", -6, {});
+        roam.In(DisconnectedWorld(), -4, {kNotConnected});
     }
-    CheckFailures(*this, {{"Roaming", kMethods[1].call, "WlanConnect", -9, {kConnectFailed}, local}});
+    Failures(*this, "Roaming", kMethods[1].call, TraceBuffer::local).When("WlanConnect", -9);
 }
 
 TEST_F(RoamingTest, ARefusedMoveLeavesTheConnectionAlone)

@@ -1,8 +1,8 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -17,8 +17,6 @@ using ::testing::IsEmpty;
 
 namespace
 {
-
-const std::string kStart = std::string("(client=1, interface=") + kAdapterAText;
 
 /// SmartConnecting, which has to leave the text alone unless it returns 0 with a connection.
 long long ConnectWritingNothing(CWirelessManage& manager)
@@ -46,11 +44,8 @@ TEST_F(SmartConnectingTest, RequestsTheFirstProfileInViewAndReturnsItsName)
     char name[128] = "marked";
     EXPECT_EQ(0, manager().SmartConnecting(&kAdapterA, name));
     EXPECT_STREQ("First", name);
-    EXPECT_THAT(callLines(),
-                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
-                            "WlanGetProfileList" + kStart + ", reserved=null, list=non-null)",
-                            "WlanGetAvailableNetworkList" + kStart + ", flags=0, reserved=null, list=non-null)",
-                            StandardRequest("First"), kRelease, kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), ProfilesLine(), NetworksLine(), ConnectLine("First"),
+                                         kRelease, kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -64,7 +59,7 @@ TEST_F(SmartConnectingTest, WorksOnTheFirstInterfaceWhicheverIsNamed)
         char name[128] = {};
         EXPECT_EQ(0, manager().SmartConnecting(interfaceGuid, name));
         EXPECT_STREQ("HomeNet", name);
-        EXPECT_EQ(StandardRequest("HomeNet"), call("WlanConnect").line);
+        EXPECT_EQ(ConnectLine("HomeNet"), call("WlanConnect").line);
     }
 }
 
@@ -101,15 +96,7 @@ TEST_F(SmartConnectingTest, TheFirstNetworkOfTheProfileIsTaken)
     };
     EXPECT_EQ(87, ConnectWritingNothing(manager())) << "the profile is of another BSS type";
     EXPECT_EQ(1u, callCount("WlanConnect"));
-    EXPECT_EQ(StandardRequest("First", "independent"), call("WlanConnect").line);
-}
-
-TEST_F(SmartConnectingTest, ARefusedRequestIsTheEnd)
-{
-    FailOn("WlanConnect", 0x80342002);
-    EXPECT_EQ(static_cast<int>(0x80342002u), ConnectWritingNothing(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First"));
-    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 2150899714"));
+    EXPECT_EQ(ConnectLine("First", "null", "independent"), call("WlanConnect").line);
 }
 
 TEST_F(SmartConnectingTest, NothingToConnectTo)
@@ -131,24 +118,14 @@ TEST_F(SmartConnectingTest, NothingToConnectTo)
 
 TEST_F(SmartConnectingTest, Failures)
 {
-    const char* const name = "SmartConnecting";
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this, {{name, ConnectWritingNothing, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                          {name, ConnectWritingNothing, "WlanEnumInterfaces", 5, {kEnumFailed}, local},
-                          {name, ConnectWritingNothing, "WlanGetProfileList", 5, {kProfilesFailed}, local},
-                          {name, ConnectWritingNothing, "WlanGetAvailableNetworkList", 5, {kNetworksFailed}, local},
-                          {name, ConnectWritingNothing, "WlanConnect", 5, {kConnectFailed}, local}});
-}
-
-// Deliberate: no adapter reads as success.
-TEST_F(SmartConnectingTest, WithoutAnAdapterItSucceedsAndWritesNothing)
-{
-    CheckFailures(*this, {{.method = "SmartConnecting",
-                           .call = ConnectWritingNothing,
-                           .expected = 0,
-                           .traced = {kNoAdapterText},
-                           .buffer = TraceBuffer::local,
-                           .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }}});
+    const Failures connect(*this, "SmartConnecting", ConnectWritingNothing, TraceBuffer::local);
+    connect.When("WlanOpenHandle", -1);
+    connect.When("WlanEnumInterfaces", 5);
+    connect.When("WlanGetProfileList", 5);
+    connect.When("WlanGetAvailableNetworkList", 5);
+    connect.When("WlanConnect", 5);
+    // Deliberate: no adapter reads as success.
+    connect.In(NoAdapterWorld(), 0, {kNoAdapterText});
 }
 
 } // namespace calvix::test::smart_connecting_test

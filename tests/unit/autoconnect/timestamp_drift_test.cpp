@@ -1,7 +1,8 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/call_lines.h"
+#include "unit/inventory/failures.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -77,21 +78,13 @@ long long Drift(CWirelessManage& manager)
 TEST_F(TimestampDriftTest, LooksThreeTimesASecondApart)
 {
     EXPECT_EQ(-1, Run()) << "deliberate: -1 is what success looks like";
-    const std::string query =
-        std::string("WlanGetNetworkBssList(client=1, interface=") + kAdapterAText +
-        ", ssid=\"Net\"/3, bssType=infrastructure, securityEnabled=true, reserved=null, list=non-null)";
     std::vector<std::string> lines = callLines();
     std::erase_if(lines, [](const std::string& line) { return line.starts_with("FileTimeToSystemTime"); });
-    EXPECT_THAT(lines, ElementsAre(std::string("WlanGetProfileList(client=1, interface=") + kAdapterAText +
-                                       ", reserved=null, list=non-null)",
-                                   std::string("WlanGetAvailableNetworkList(client=1, interface=") + kAdapterAText +
-                                       ", flags=0, reserved=null, list=non-null)",
-                                   query,                                                                //
-                                   "Sleep(milliseconds=1000)", query, "WlanFreeMemory(memory=non-null)", //
-                                   "Sleep(milliseconds=1000)", query, "WlanFreeMemory(memory=non-null)", //
-                                   "Sleep(milliseconds=1000)", query, "WlanFreeMemory(memory=non-null)", //
-                                   "WlanFreeMemory(memory=non-null)", "WlanFreeMemory(memory=non-null)", //
-                                   "WlanFreeMemory(memory=non-null)"));
+    const char* const sleep = "Sleep(milliseconds=1000)";
+    EXPECT_THAT(lines, ElementsAre(ProfilesLine(), NetworksLine(), NetworkBssLine("Net"), //
+                                   sleep, NetworkBssLine("Net"), kRelease,                //
+                                   sleep, NetworkBssLine("Net"), kRelease,                //
+                                   sleep, NetworkBssLine("Net"), kRelease, kRelease, kRelease, kRelease));
     EXPECT_THAT(traced(), ElementsAre("ProfileName(Net)", "Available Network(Net)", "ullHostTimestamp offset(0 sec)",
                                       "ullHostTimestamp offset(0 sec)", "ullHostTimestamp offset(0 sec)"));
     EXPECT_TRUE(sharedTraceUntouched());
@@ -190,34 +183,13 @@ TEST_F(TimestampDriftTest, AccessPointsAreDistinguishedByTheirWholeAddress)
 
 TEST_F(TimestampDriftTest, FailuresOfTheLists)
 {
-    CheckFailures(
-        *this,
-        {{"GetMatchBSSID", Drift, "WlanOpenHandle", -2, {"WlanOpenHandle failed with error: %u"}, TraceBuffer::local},
-         {"GetMatchBSSID",
-          Drift,
-          "WlanGetProfileList",
-          -5,
-          {"WlanGetProfileList failed with error: %u"},
-          TraceBuffer::local},
-         {"GetMatchBSSID",
-          Drift,
-          "WlanGetAvailableNetworkList",
-          -7,
-          {"WlanGetAvailableNetworkList failed with error: %u"},
-          TraceBuffer::local},
-         // Deliberate: signed here, where the other methods trace the codes as unsigned numbers.
-         {.method = "GetMatchBSSID",
-          .call = Drift,
-          .expected = -6,
-          .traced = {"No network profile: -6"},
-          .buffer = TraceBuffer::local,
-          .prepare = [](auto& test) { test.UseWorld(NoProfileWorld()); }},
-         {.method = "GetMatchBSSID",
-          .call = Drift,
-          .expected = -8,
-          .traced = {"No available network: -8"},
-          .buffer = TraceBuffer::local,
-          .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }}});
+    const Failures drift(*this, "GetMatchBSSID", Drift, TraceBuffer::local);
+    drift.When("WlanOpenHandle", -2);
+    drift.When("WlanGetProfileList", -5);
+    drift.When("WlanGetAvailableNetworkList", -7);
+    // Deliberate: signed here, where the other methods trace the codes as unsigned numbers.
+    drift.In(NoProfileWorld(), -6, {"No network profile: -6"});
+    drift.In(SilentWorld(), -8, {"No available network: -8"});
 }
 
 TEST_F(TimestampDriftTest, FailuresOfTheBssLists)

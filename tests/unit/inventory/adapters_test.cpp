@@ -1,6 +1,7 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/inventory/failures.h"
+#include "unit/inventory/trace_texts.h"
 
 namespace calvix::test::adapters_test
 {
@@ -10,15 +11,6 @@ using ::testing::IsEmpty;
 
 namespace
 {
-
-constexpr const char* kNotOpened = "WlanOpenHandle failed with error: %u";
-constexpr const char* kNotListed = "WlanEnumInterfaces failed with error: %u";
-constexpr const char* kNoneThere = "No valid WLAN adapter";
-
-void WithoutAdapters(LibraryTest& test)
-{
-    test.UseWorld(NoAdapterWorld());
-}
 
 /// Adapter B goes by adapter A's GUID as well.
 void DuplicateGuid(WLAN_INTERFACE_INFO_LIST& list)
@@ -68,82 +60,49 @@ class AdaptersTest : public LibraryTest
 
 // --- Failures ---------------------------------------------------------------------------------------------------
 
-TEST_F(AdaptersTest, StatusFailures)
+TEST_F(AdaptersTest, EveryWayToFail)
 {
-    const auto call = [](CWirelessManage& m) { return m.GetWlanStatus(&kAdapterA); };
-    CheckFailures(
-        *this,
-        {{"GetWlanStatus", call, "WlanOpenHandle", -2, {kNotOpened}},
-         {"GetWlanStatus", call, "WlanEnumInterfaces", -3, {kNotListed}},
-         {.method = "GetWlanStatus", .call = call, .expected = -4, .traced = {kNoneThere}, .prepare = WithoutAdapters},
-         {.method = "GetWlanStatus of no adapter",
-          .call = [](CWirelessManage& m) { return m.GetWlanStatus(&kNoAdapter); },
-          .expected = -1}});
+    const Failures status(*this, "GetWlanStatus", [](auto& m) { return m.GetWlanStatus(&kAdapterA); });
+    status.When("WlanOpenHandle", -2);
+    status.When("WlanEnumInterfaces", -3);
+    status.In(NoAdapterWorld(), -4, {kNoAdapterText});
+
+    const Failures link(*this, "GetWlanIsLink", [](auto& m) { return m.GetWlanIsLink(&kAdapterA) ? 1 : 0; });
+    link.When("WlanOpenHandle", 0);
+    link.When("WlanEnumInterfaces", 0);
+    link.In(NoAdapterWorld(), 0, {kNoAdapterText});
+
+    const Failures guid(*this, "GetWlanInterfaceGuid", [](auto& m) { return FindGuid(m, kAdapterADescription); });
+    guid.When("WlanOpenHandle", -1);
+    guid.When("WlanEnumInterfaces", -2);
+    guid.In(NoAdapterWorld(), -3, {kNoAdapterText});
+
+    const Failures description(*this, "GetWlanInterfaceDesc", DescribeFirst, TraceBuffer::local);
+    description.When("WlanOpenHandle", 0);
+    description.When("WlanEnumInterfaces", 0);
+    description.In(NoAdapterWorld(), 0, {kNoAdapterText});
+    description.WhenTracing("WideCharToMultiByte", 0, {"Wlan Interface Describe: "});
+
+    const Failures count(
+        *this, "GetWiFiAdapterCount", [](auto& m) { return m.GetWiFiAdapterCount(); }, TraceBuffer::local);
+    count.When("WlanOpenHandle", -2);
+    count.When("WlanEnumInterfaces", -3);
+    count.In(NoAdapterWorld(), 0, {kInterfacesReleased});
+
+    const Failures list(*this, "GetWlanInterface", ListInto);
+    list.When("WlanOpenHandle", -1);
+    list.When("WlanEnumInterfaces", -2);
+    list.In(NoAdapterWorld(), -3, {kNoAdapterText});
 }
 
-TEST_F(AdaptersTest, LinkFailures)
+TEST_F(AdaptersTest, AnUnknownAdapterIsNotTraced)
 {
-    const auto call = [](CWirelessManage& m) { return m.GetWlanIsLink(&kAdapterA) ? 1LL : 0LL; };
-    CheckFailures(
-        *this,
-        {{"GetWlanIsLink", call, "WlanOpenHandle", 0, {kNotOpened}},
-         {"GetWlanIsLink", call, "WlanEnumInterfaces", 0, {kNotListed}},
-         {.method = "GetWlanIsLink", .call = call, .expected = 0, .traced = {kNoneThere}, .prepare = WithoutAdapters}});
-}
-
-TEST_F(AdaptersTest, GuidFailures)
-{
-    const auto call = [](CWirelessManage& m) { return FindGuid(m, kAdapterADescription); };
-    CheckFailures(*this, {{"GetWlanInterfaceGuid", call, "WlanOpenHandle", -1, {kNotOpened}},
-                          {"GetWlanInterfaceGuid", call, "WlanEnumInterfaces", -2, {kNotListed}},
-                          {.method = "GetWlanInterfaceGuid",
-                           .call = call,
-                           .expected = -3,
-                           .traced = {kNoneThere},
-                           .prepare = WithoutAdapters},
-                          {.method = "GetWlanInterfaceGuid of no adapter",
-                           .call = [](CWirelessManage& m) { return FindGuid(m, L"Wireless Adapter C"); },
-                           .expected = -4}});
-}
-
-TEST_F(AdaptersTest, DescriptionFailures)
-{
-    const std::string method = "GetWlanInterfaceDesc";
-    CheckFailures(*this, {{method, DescribeFirst, "WlanOpenHandle", 0, {kNotOpened}, TraceBuffer::local},
-                          {method, DescribeFirst, "WlanEnumInterfaces", 0, {kNotListed}, TraceBuffer::local},
-                          {.method = method,
-                           .call = DescribeFirst,
-                           .failingOperation = "WideCharToMultiByte",
-                           .expected = 0,
-                           .traced = {"Wlan Interface Describe: "},
-                           .buffer = TraceBuffer::local},
-                          {.method = method,
-                           .call = DescribeFirst,
-                           .expected = 0,
-                           .traced = {kNoneThere},
-                           .buffer = TraceBuffer::local,
-                           .prepare = WithoutAdapters},
-                          {.method = method + " of no adapter",
-                           .call = [](CWirelessManage& m) { return *m.GetWlanInterfaceDesc(&kNoAdapter); },
-                           .expected = 0}});
-}
-
-TEST_F(AdaptersTest, CountFailures)
-{
-    const auto call = [](CWirelessManage& m) { return m.GetWiFiAdapterCount(); };
-    CheckFailures(*this, {{"GetWiFiAdapterCount", call, "WlanOpenHandle", -2, {kNotOpened}, TraceBuffer::local},
-                          {"GetWiFiAdapterCount", call, "WlanEnumInterfaces", -3, {kNotListed}, TraceBuffer::local}});
-}
-
-TEST_F(AdaptersTest, ListFailures)
-{
-    CheckFailures(*this, {{"GetWlanInterface", ListInto, "WlanOpenHandle", -1, {kNotOpened}},
-                          {"GetWlanInterface", ListInto, "WlanEnumInterfaces", -2, {kNotListed}},
-                          {.method = "GetWlanInterface",
-                           .call = ListInto,
-                           .expected = -3,
-                           .traced = {kNoneThere},
-                           .prepare = WithoutAdapters}});
+    EXPECT_EQ(-1, manager().GetWlanStatus(&kNoAdapter));
+    EXPECT_FALSE(manager().GetWlanIsLink(&kNoAdapter));
+    EXPECT_EQ(-4, FindGuid(manager(), L"Wireless Adapter C"));
+    EXPECT_STREQ("", manager().GetWlanInterfaceDesc(&kNoAdapter));
+    EXPECT_TRUE(traced().empty());
+    EXPECT_TRUE(sharedTraceUntouched());
 }
 
 TEST_F(AdaptersTest, AServiceThatCannotBeOpenedIsNotAskedFurther)
@@ -353,17 +312,6 @@ TEST_F(AdaptersTest, CountsTheAdapters)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-TEST_F(AdaptersTest, NoAdapterIsACountNotAFailure)
-{
-    UseWorld(NoAdapterWorld());
-    EXPECT_EQ(0, manager().GetWiFiAdapterCount());
-    EXPECT_THAT(traced(), ElementsAre("WlanFreeMemory(pIfList)"));
-    SetTracing(false);
-    ClearCalls();
-    EXPECT_EQ(0, manager().GetWiFiAdapterCount());
-    EXPECT_THAT(traced(), IsEmpty());
-}
-
 // --- GetWlanInterface -------------------------------------------------------------------------------------------
 
 TEST_F(AdaptersTest, ListsTheAdaptersInOrder)
@@ -385,15 +333,6 @@ TEST_F(AdaptersTest, NoVectorHasItsOwnCode)
 {
     EXPECT_EQ(-13, manager().GetWlanInterface(nullptr));
     EXPECT_THAT(calls(), IsEmpty());
-}
-
-// --- All --------------------------------------------------------------------------------------------------------
-
-TEST_F(AdaptersTest, ErrorNumbersAreTracedWhole)
-{
-    FailOn("WlanEnumInterfaces", 2150899714);
-    EXPECT_EQ(-3, manager().GetWlanStatus(&kAdapterA));
-    EXPECT_EQ("WlanEnumInterfaces failed with error: 2150899714", sharedTrace());
 }
 
 } // namespace calvix::test::adapters_test

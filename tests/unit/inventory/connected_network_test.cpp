@@ -1,5 +1,5 @@
-#include "support/contract_table.h"
 #include "support/library_test.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -11,14 +11,6 @@ using ::testing::ElementsAre;
 
 namespace
 {
-
-const std::string kConnectionQuery =
-    "WlanQueryInterface(client=1, interface=" + std::string(kAdapterAText) +
-    ", opcode=current_connection, reserved=null, dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, "
-    "valueType=null)";
-const std::string kHomeNetBssList = "WlanGetNetworkBssList(client=1, interface=" + std::string(kAdapterAText) +
-                                    ", ssid=\"HomeNet\"/7, bssType=infrastructure, securityEnabled=true, "
-                                    "reserved=null, list=non-null)";
 
 class ConnectedNetworkTest : public LibraryTest
 {
@@ -49,16 +41,6 @@ void LoseHomeNet(LibraryTest& test)
     Lose(test, {kHomeNet24, kHomeNet5, kHomeNet6});
 }
 
-void UseNoConnection(LibraryTest& test)
-{
-    test.UseWorld(DisconnectedWorld());
-}
-
-void UseNoAdapter(LibraryTest& test)
-{
-    test.UseWorld(NoAdapterWorld());
-}
-
 } // namespace
 
 // --- IsWiFiDisappear ---
@@ -66,7 +48,7 @@ void UseNoAdapter(LibraryTest& test)
 TEST_F(ConnectedNetworkTest, ANetworkInViewHasNotDisappeared)
 {
     EXPECT_EQ(0, manager().IsWiFiDisappear(&kAdapterA));
-    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery, kHomeNetBssList, kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ConnectionQuery(), NetworkBssLine("HomeNet"), kRelease, kRelease));
     EXPECT_THAT(traced(), ElementsAre(kConnectionReleased, kBssReleased));
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -89,37 +71,18 @@ TEST_F(ConnectedNetworkTest, AnOpenNetworkIsAskedForAsOne)
     EXPECT_EQ(kAdapterBText, call("WlanGetNetworkBssList")["interface"]);
 }
 
-TEST_F(ConnectedNetworkTest, ANetworkWithoutBssHasDisappeared)
-{
-    CheckFailure(*this, {.method = "IsWiFiDisappear, out of view",
-                         .call = IsGone,
-                         .expected = 1,
-                         .traced = {kNoBss, kConnectionReleased, kBssReleased},
-                         .buffer = TraceBuffer::local,
-                         .prepare = LoseHomeNet});
-}
-
 // Deliberate: a failure answers like a network that is still in view.
 TEST_F(ConnectedNetworkTest, EveryFailureReadsAsStillInView)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this,
-                  {
-                      {"IsWiFiDisappear", IsGone, "WlanOpenHandle", 0, {kOpenFailed}, local},
-                      {"IsWiFiDisappear", IsGone, "WlanQueryInterface", 0, {kQueryFailed}, local},
-                      {"IsWiFiDisappear", IsGone, "WlanGetNetworkBssList", 0, {kBssFailed, kConnectionReleased}, local},
-                      {.method = "IsWiFiDisappear, not connected",
-                       .call = IsGone,
-                       .expected = 0,
-                       .traced = {kNotConnected},
-                       .buffer = local,
-                       .prepare = UseNoConnection},
-                      {.method = "IsWiFiDisappear, null interface",
-                       .call = [](auto& m) { return m.IsWiFiDisappear(nullptr); },
-                       .expected = 0,
-                       .traced = {"WlanQueryInterface failed with error: 87"},
-                       .buffer = local},
-                  });
+    const Failures ask(*this, "IsWiFiDisappear", IsGone, TraceBuffer::local);
+    ask.When("WlanOpenHandle", 0);
+    ask.When("WlanQueryInterface", 0);
+    ask.When("WlanGetNetworkBssList", 0, {kConnectionReleased});
+    ask.In(DisconnectedWorld(), 0, {kNotConnected});
+    ask.After(LoseHomeNet, 1, {kNoBss, kConnectionReleased, kBssReleased});
+
+    EXPECT_EQ(0, manager().IsWiFiDisappear(nullptr));
+    EXPECT_THAT(traced(), ElementsAre("WlanQueryInterface failed with error: 87"));
 }
 
 // --- GetCurrentBSS ---
@@ -127,8 +90,8 @@ TEST_F(ConnectedNetworkTest, EveryFailureReadsAsStillInView)
 TEST_F(ConnectedNetworkTest, TheFirstAdaptersNetworkIsInView)
 {
     EXPECT_EQ(0, manager().GetCurrentBSS());
-    EXPECT_THAT(callLines(), ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)", kConnectionQuery,
-                                         kHomeNetBssList, kRelease, kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), ConnectionQuery(), NetworkBssLine("HomeNet"), kRelease,
+                                         kRelease, kRelease));
     EXPECT_THAT(traced(), ElementsAre(kConnectionReleased, kBssReleased, kInterfacesReleased));
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -147,37 +110,14 @@ TEST_F(ConnectedNetworkTest, EachReleaseIsTracedJustBeforeIt)
 
 TEST_F(ConnectedNetworkTest, EveryWayToFail)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(
-        *this, {
-                   {"GetCurrentBSS", CurrentBss, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                   {"GetCurrentBSS", CurrentBss, "WlanEnumInterfaces", -2, {kEnumFailed}, local},
-                   {.method = "GetCurrentBSS, no adapter",
-                    .call = CurrentBss,
-                    .expected = -3,
-                    .traced = {kInterfacesReleased},
-                    .buffer = local,
-                    .prepare = UseNoAdapter},
-                   {"GetCurrentBSS", CurrentBss, "WlanQueryInterface", -4, {kQueryFailed, kInterfacesReleased}, local},
-                   {.method = "GetCurrentBSS, not connected",
-                    .call = CurrentBss,
-                    .expected = -4,
-                    .traced = {kNotConnected, kInterfacesReleased},
-                    .buffer = local,
-                    .prepare = UseNoConnection},
-                   {"GetCurrentBSS",
-                    CurrentBss,
-                    "WlanGetNetworkBssList",
-                    -5,
-                    {kBssFailed, kConnectionReleased, kInterfacesReleased},
-                    local},
-                   {.method = "GetCurrentBSS, out of view",
-                    .call = CurrentBss,
-                    .expected = -6,
-                    .traced = {kNoBss, kConnectionReleased, kBssReleased, kInterfacesReleased},
-                    .buffer = local,
-                    .prepare = LoseHomeNet},
-               });
+    const Failures ask(*this, "GetCurrentBSS", CurrentBss, TraceBuffer::local);
+    ask.When("WlanOpenHandle", -1);
+    ask.When("WlanEnumInterfaces", -2);
+    ask.In(NoAdapterWorld(), -3, {kInterfacesReleased});
+    ask.When("WlanQueryInterface", -4, {kInterfacesReleased});
+    ask.In(DisconnectedWorld(), -4, {kNotConnected, kInterfacesReleased});
+    ask.When("WlanGetNetworkBssList", -5, {kConnectionReleased, kInterfacesReleased});
+    ask.After(LoseHomeNet, -6, {kNoBss, kConnectionReleased, kBssReleased, kInterfacesReleased});
 }
 
 TEST_F(ConnectedNetworkTest, TheSecondAdapterIsNeverAsked)
@@ -189,7 +129,5 @@ TEST_F(ConnectedNetworkTest, TheSecondAdapterIsNeverAsked)
     EXPECT_EQ(1u, callCount("WlanQueryInterface"));
     EXPECT_EQ(kAdapterAText, call("WlanQueryInterface")["interface"]);
 }
-
-// --- Both ---
 
 } // namespace calvix::test::connected_network_test

@@ -1,6 +1,6 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <iterator>
@@ -25,11 +25,6 @@ long long Connected(CWirelessManage& manager)
 long long Disconnected(CWirelessManage& manager)
 {
     return manager.WiFiIsDisconnected(&kAdapterA);
-}
-
-void UseNoAdapter(LibraryTest& test)
-{
-    test.UseWorld(NoAdapterWorld());
 }
 
 /// The service lists its two interfaces under this GUID, in these states.
@@ -65,7 +60,7 @@ TEST_F(LinkStateTest, AsksForTheInterfacesOnly)
     {
         ClearCalls();
         ask(manager());
-        EXPECT_THAT(callLines(), ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)", kRelease));
+        EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), kRelease));
     }
 }
 
@@ -129,37 +124,17 @@ TEST_F(LinkStateTest, TheLastEntryOfTheInterfaceDecides)
 // Deliberate: the result does not distinguish a missing connection from a missing service.
 TEST_F(LinkStateTest, EveryFailureReadsAsNo)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this, {{"WiFiIsConnected", Connected, "WlanOpenHandle", 0, {kOpenFailed}, local},
-                          {"WiFiIsConnected", Connected, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
-                          {.method = "WiFiIsConnected, no adapter",
-                           .call = Connected,
-                           .expected = 0,
-                           .traced = {kNoAdapterText},
-                           .buffer = local,
-                           .prepare = UseNoAdapter}});
+    const Failures isConnected(*this, "WiFiIsConnected", Connected, TraceBuffer::local);
+    isConnected.When("WlanOpenHandle", 0);
+    isConnected.When("WlanEnumInterfaces", 0);
+    isConnected.In(NoAdapterWorld(), 0, {kNoAdapterText});
 
-    const auto disconnectedA = [](LibraryTest& test) { test.UseWorld(DisconnectedWorld()); };
-    CheckFailures(
-        *this,
-        {{.method = "WiFiIsDisconnected, nothing fails", .call = Disconnected, .expected = 1, .prepare = disconnectedA},
-         {.method = "WiFiIsDisconnected",
-          .call = Disconnected,
-          .failingOperation = "WlanOpenHandle",
-          .expected = 0,
-          .traced = {kOpenFailed},
-          .prepare = disconnectedA},
-         {.method = "WiFiIsDisconnected",
-          .call = Disconnected,
-          .failingOperation = "WlanEnumInterfaces",
-          .expected = 0,
-          .traced = {kEnumFailed},
-          .prepare = disconnectedA},
-         {.method = "WiFiIsDisconnected, no adapter",
-          .call = Disconnected,
-          .expected = 0,
-          .traced = {kNoAdapterText},
-          .prepare = UseNoAdapter}});
+    const Failures isDisconnected(*this, "WiFiIsDisconnected", Disconnected);
+    isDisconnected.In(DisconnectedWorld(), 1);
+    isDisconnected.In(NoAdapterWorld(), 0, {kNoAdapterText});
+    UseWorld(DisconnectedWorld());
+    isDisconnected.When("WlanOpenHandle", 0);
+    isDisconnected.When("WlanEnumInterfaces", 0);
 }
 
 } // namespace calvix::test::link_state_test

@@ -1,4 +1,4 @@
-#include "support/contract_table.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/listings_fixture.h"
 #include "unit/inventory/trace_texts.h"
 
@@ -72,7 +72,9 @@ const Lines kBssBody = {"WLAN_BSS_LIST for this interface",
                         "",
                         "",
                         ""};
-const Lines kReleases = {"WlanFreeMemory(pBssList)", "WlanFreeMemory(pIfList)"};
+const Lines kReleases = {kBssReleased, kInterfacesReleased};
+
+const std::string kTextOfGuid = std::string("StringFromGUID2(guid=") + kAdapterAText + ", text=non-null, capacity=39)";
 
 long long ListNetworks(CWirelessManage& manager)
 {
@@ -96,24 +98,14 @@ AnswerChanges WithInterface(std::function<void(WLAN_INTERFACE_INFO&)> change)
 TEST_F(ListingsTest, TheNetworkListing)
 {
     EXPECT_EQ(kNetworkHead + kNetworkBody + kReleases, Networks());
-    EXPECT_THAT(callLines(),
-                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
-                            std::string("StringFromGUID2(guid=") + kAdapterAText + ", text=non-null, capacity=39)",
-                            std::string("WlanGetAvailableNetworkList(client=1, interface=") + kAdapterAText +
-                                ", flags=0, reserved=null, list=non-null)",
-                            kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), kTextOfGuid, NetworksLine(), kRelease, kRelease));
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
 TEST_F(ListingsTest, TheBssListing)
 {
     EXPECT_EQ(kBssHead + kBssBody + kReleases, Bss());
-    EXPECT_THAT(callLines(),
-                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
-                            std::string("StringFromGUID2(guid=") + kAdapterAText + ", text=non-null, capacity=39)",
-                            std::string("WlanGetNetworkBssList(client=1, interface=") + kAdapterAText +
-                                ", ssid=null, bssType=any, securityEnabled=false, reserved=null, list=non-null)",
-                            kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), kTextOfGuid, EveryBssLine(), kRelease, kRelease));
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
@@ -282,18 +274,16 @@ TEST_F(ListingsTest, TheSsidIsListedByteByByteAndNoFartherThanItReaches)
 
 TEST_F(ListingsTest, EveryWayToFail)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this, {
-                             {"GetAvailableNetwork", ListNetworks, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
-                             {"GetNetworkBss", ListBss, "WlanOpenHandle", 1722, {kOpenFailed}, local, 1722},
-                             // Deliberate: only the trace shows that the list was empty.
-                             {"GetAvailableNetwork", ListNetworks, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
-                             {"GetNetworkBss", ListBss, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
-                             {"GetAvailableNetwork", ListNetworks, "WlanGetAvailableNetworkList", 1,
-                              kNetworkHead + Lines{kNetworksFailed, kInterfacesReleased}, local},
-                             {"GetNetworkBss", ListBss, "WlanGetNetworkBssList", 1,
-                              kBssHead + Lines{kBssFailed, kInterfacesReleased}, local},
-                         });
+    const Failures networks(*this, "GetAvailableNetwork", ListNetworks, TraceBuffer::local);
+    networks.When("WlanOpenHandle", 5);
+    // Deliberate: only the trace shows that the list was empty.
+    networks.When("WlanEnumInterfaces", 0);
+    networks.WhenTracing("WlanGetAvailableNetworkList", 1, kNetworkHead + Lines{kNetworksFailed, kInterfacesReleased});
+
+    const Failures bss(*this, "GetNetworkBss", ListBss, TraceBuffer::local);
+    bss.When("WlanOpenHandle", 5);
+    bss.When("WlanEnumInterfaces", 0);
+    bss.WhenTracing("WlanGetNetworkBssList", 1, kBssHead + Lines{kBssFailed, kInterfacesReleased});
 }
 
 // A refusal of one interface shows in the result, and the others are listed all the same.

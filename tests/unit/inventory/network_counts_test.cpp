@@ -1,6 +1,6 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -31,21 +31,6 @@ long long CountBss(CWirelessManage& manager)
 long long CountConnectable(CWirelessManage& manager)
 {
     return manager.GetConnectableNetworkCount(&kAdapterA);
-}
-
-void UseNoAdapter(LibraryTest& test)
-{
-    test.UseWorld(NoAdapterWorld());
-}
-
-void UseNoProfile(LibraryTest& test)
-{
-    test.UseWorld(NoProfileWorld());
-}
-
-void UseSilence(LibraryTest& test)
-{
-    test.UseWorld(SilentWorld());
 }
 
 template <typename Record>
@@ -85,9 +70,7 @@ TEST_F(NetworkCountsTest, CountsTheAvailableNetworksUnfiltered)
 {
     // HomeNet, OfficeNet, AdHocNet, HomeNet5G, CafeNet, and the hidden one without a name.
     EXPECT_EQ(6, manager().GetAvailableNetworkCount(&kAdapterA));
-    EXPECT_THAT(callLines(), ElementsAre("WlanGetAvailableNetworkList(client=1, interface=" +
-                                             std::string(kAdapterAText) + ", flags=0, reserved=null, list=non-null)",
-                                         kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(NetworksLine(), kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -117,11 +100,7 @@ TEST_F(NetworkCountsTest, AnEmptyAirspaceIsNotAFailure)
 TEST_F(NetworkCountsTest, CountsEveryBssOfEveryNetworkOnTheFirstAdapter)
 {
     EXPECT_EQ(8, manager().GetNetworkBssCount());
-    EXPECT_THAT(callLines(),
-                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
-                            "WlanGetNetworkBssList(client=1, interface=" + std::string(kAdapterAText) +
-                                ", ssid=null, bssType=any, securityEnabled=false, reserved=null, list=non-null)",
-                            kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), EveryBssLine(), kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
 }
 
@@ -131,11 +110,7 @@ TEST_F(NetworkCountsTest, CountsVisibleNetworksWithAStoredProfile)
 {
     // HomeNet, OfficeNet and AdHocNet; HiddenNet is listed without its name, and GoneNet is not on the air.
     EXPECT_EQ(3, manager().GetConnectableNetworkCount(&kAdapterA));
-    EXPECT_THAT(callLines(), ElementsAre("WlanGetProfileList(client=1, interface=" + std::string(kAdapterAText) +
-                                             ", reserved=null, list=non-null)",
-                                         "WlanGetAvailableNetworkList(client=1, interface=" +
-                                             std::string(kAdapterAText) + ", flags=0, reserved=null, list=non-null)",
-                                         kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ProfilesLine(), NetworksLine(), kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
 
     EXPECT_EQ(1, manager().GetConnectableNetworkCount(&kAdapterB)) << "CafeNet, which adapter B alone has a profile of";
@@ -187,48 +162,23 @@ TEST_F(NetworkCountsTest, NoMatchIsNotAFailure)
 
 TEST_F(NetworkCountsTest, EveryWayToFail)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(
-        *this, {
-                   {"GetAvailableNetworkCount", CountNetworks, "WlanOpenHandle", -2, {kOpenFailed}},
-                   {"GetAvailableNetworkCount", CountNetworks, "WlanGetAvailableNetworkList", -5, {kNetworksFailed}},
-                   {"GetNetworkBssCount", CountBss, "WlanOpenHandle", -2, {kOpenFailed}, local},
-                   {"GetNetworkBssCount", CountBss, "WlanEnumInterfaces", -3, {kEnumFailed}, local},
-                   {.method = "GetNetworkBssCount",
-                    .call = CountBss,
-                    .expected = -4,
-                    .traced = {kNoAdapterText},
-                    .buffer = local,
-                    .prepare = UseNoAdapter},
-                   {"GetNetworkBssCount", CountBss, "WlanGetNetworkBssList", -5, {kBssFailed}, local},
-                   {"GetConnectableNetworkCount", CountConnectable, "WlanOpenHandle", -2, {kOpenFailed}, local},
-                   {"GetConnectableNetworkCount", CountConnectable, "WlanGetProfileList", -5, {kProfilesFailed}, local},
-                   {"GetConnectableNetworkCount",
-                    CountConnectable,
-                    "WlanGetAvailableNetworkList",
-                    -7,
-                    {kNetworksFailed},
-                    local},
-               });
-}
+    const Failures networks(*this, "GetAvailableNetworkCount", CountNetworks);
+    networks.When("WlanOpenHandle", -2);
+    networks.When("WlanGetAvailableNetworkList", -5);
 
-// Deliberate: the number in these two lines is the method's own code, printed as an unsigned number.
-TEST_F(NetworkCountsTest, EmptyListsAreTracedWithTheirCode)
-{
-    CheckFailures(*this, {
-                             {.method = "GetConnectableNetworkCount without profiles",
-                              .call = CountConnectable,
-                              .expected = -6,
-                              .traced = {"No network profile: 4294967290"},
-                              .buffer = TraceBuffer::local,
-                              .prepare = UseNoProfile},
-                             {.method = "GetConnectableNetworkCount in silence",
-                              .call = CountConnectable,
-                              .expected = -8,
-                              .traced = {"No available network: 4294967288"},
-                              .buffer = TraceBuffer::local,
-                              .prepare = UseSilence},
-                         });
+    const Failures bss(*this, "GetNetworkBssCount", CountBss, TraceBuffer::local);
+    bss.When("WlanOpenHandle", -2);
+    bss.When("WlanEnumInterfaces", -3);
+    bss.In(NoAdapterWorld(), -4, {kNoAdapterText});
+    bss.When("WlanGetNetworkBssList", -5);
+
+    const Failures connectable(*this, "GetConnectableNetworkCount", CountConnectable, TraceBuffer::local);
+    connectable.When("WlanOpenHandle", -2);
+    connectable.When("WlanGetProfileList", -5);
+    connectable.When("WlanGetAvailableNetworkList", -7);
+    // Deliberate: the number in these two lines is the method's own code, printed as an unsigned number.
+    connectable.In(NoProfileWorld(), -6, {"No network profile: 4294967290"});
+    connectable.In(SilentWorld(), -8, {"No available network: 4294967288"});
 }
 
 TEST_F(NetworkCountsTest, WithoutProfilesTheNetworksAreNotAskedFor)

@@ -1,5 +1,5 @@
-#include "support/contract_table.h"
 #include "support/library_test.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 namespace calvix::test::scan_test
@@ -13,8 +13,6 @@ namespace
 class ScanTest : public LibraryTest
 {
 };
-
-const std::string kScanOfA = std::string("interface=") + kAdapterAText + ", ssid=null, ieData=null, reserved=null)";
 
 /// Rescan(GUID, dwError) that has to store the error.
 long long RescanStoring(CWirelessManage& manager, unsigned long error)
@@ -46,8 +44,8 @@ TEST_F(ScanTest, AsksTheNamedAdapterForAWholeScan)
 TEST_F(ScanTest, WithoutAnInterfaceAsksTheFirstAdapterOnly)
 {
     EXPECT_EQ(0, manager().Rescan());
-    EXPECT_THAT(callLines(), ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
-                                         "WlanScan(client=1, " + kScanOfA, kRelease));
+    EXPECT_THAT(callLines(),
+                ElementsAre(InterfacesLine(), CallForA("WlanScan", "ssid=null, ieData=null, reserved=null"), kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -67,25 +65,19 @@ TEST_F(ScanTest, EveryWayToFail)
 {
     constexpr unsigned kPowerState = 2150899714;
     const auto storing = [](auto& m) { return RescanStoring(m, kPowerState); };
-    const auto shared = TraceBuffer::shared;
-    CheckFailures(*this,
-                  {
-                      {"Rescan(guid)", storing, "WlanOpenHandle", -1, {kOpenFailed}, shared, kPowerState},
-                      {.method = "Rescan(guid)",
-                       .call = storing,
-                       .failingOperation = "WlanScan",
-                       .expected = -4,
-                       .traced = {"WlanScan failed with error: 2150899714"},
-                       .error = kPowerState},
-                      {"Rescan()", RescanFirst, "WlanOpenHandle", -1, {kOpenFailed}},
-                      {"Rescan()", RescanFirst, "WlanEnumInterfaces", -2, {kEnumFailed}},
-                      {"Rescan()", RescanFirst, "WlanScan", -4, {kScanFailed}},
-                      {.method = "Rescan()",
-                       .call = RescanFirst,
-                       .expected = -3,
-                       .traced = {kNoAdapterText},
-                       .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }},
-                  });
+    for (const std::string operation : {"WlanOpenHandle", "WlanScan"})
+        CheckFailure(*this, {.method = "Rescan(guid)",
+                             .call = storing,
+                             .failingOperation = operation,
+                             .expected = operation == "WlanScan" ? -4 : -1,
+                             .traced = {operation + " failed with error: 2150899714"},
+                             .error = kPowerState});
+
+    const Failures scan(*this, "Rescan()", RescanFirst);
+    scan.When("WlanOpenHandle", -1);
+    scan.When("WlanEnumInterfaces", -2);
+    scan.In(NoAdapterWorld(), -3, {kNoAdapterText});
+    scan.When("WlanScan", -4);
 }
 
 TEST_F(ScanTest, PassesOnWhatTheServiceSays)

@@ -1,12 +1,11 @@
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
 #include <climits>
 #include <iterator>
-#include <map>
 
 namespace calvix::test::signal_test
 {
@@ -16,12 +15,6 @@ using ::testing::ElementsAre;
 namespace
 {
 
-const std::string kA = kAdapterAText;
-const std::string kConnectionQuery =
-    "WlanQueryInterface(client=1, interface=" + kA +
-    ", opcode=current_connection, reserved=null, dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, "
-    "valueType=null)";
-
 class SignalTest : public LibraryTest
 {
 public:
@@ -29,12 +22,6 @@ public:
     {
         DOT11_SSID wanted = MakeSsid(ssid);
         return manager().GetWiFiRSSI(&kAdapterA, wanted);
-    }
-
-    void ExpectChannels(const std::map<unsigned long, unsigned long>& channelOf)
-    {
-        for (const auto& [frequency, channel] : channelOf)
-            EXPECT_EQ(channel, manager().GetChannel(frequency)) << "frequency " << frequency;
     }
 };
 
@@ -66,11 +53,6 @@ long long Quality(CWirelessManage& manager)
     return manager.GetSignalQuality(&kAdapterA);
 }
 
-void UseNoConnection(LibraryTest& test)
-{
-    test.UseWorld(DisconnectedWorld());
-}
-
 /// Adapter A still connected to HomeNet, after a scan that did not hear what is gone.
 template <typename Predicate>
 void Lose(LibraryTest& test, Predicate gone)
@@ -100,50 +82,29 @@ AnswerChanges WithFirstQuality(ULONG quality)
 
 // --- GetChannel ---
 
-// Deliberate: one below the customary channel number.
+// Deliberate: in the low band one below the customary channel number.
 TEST_F(SignalTest, ChannelsOfTheLowBandCountFromZero)
 {
-    const unsigned long frequencies[] = {2412, 2417, 2422, 2427, 2432, 2437, 2442,
-                                         2447, 2452, 2457, 2462, 2467, 2472, 2484};
-    unsigned long channel = 0;
-    for (const unsigned long frequency : frequencies)
-        EXPECT_EQ(channel++, manager().GetChannel(frequency)) << frequency << " MHz";
+    for (unsigned long channel = 0; channel <= 12; ++channel)
+        EXPECT_EQ(channel, manager().GetChannel(2412 + 5 * channel));
+    EXPECT_EQ(13u, manager().GetChannel(2484));
+    for (const unsigned long frequency : {0UL, 1UL, 1000UL, 2400UL, 2407UL, 2411UL, 2413UL, 2473UL, 2477UL, 2483UL})
+        EXPECT_EQ(14u, manager().GetChannel(frequency)) << frequency << " MHz is no channel";
     EXPECT_TRUE(timeline().empty()) << "no operation is needed";
 }
 
-TEST_F(SignalTest, NoChannelOfTheLowBandIs14)
-{
-    for (const unsigned long frequency : {0UL, 1UL, 1000UL, 2400UL, 2411UL, 2413UL, 2483UL})
-        EXPECT_EQ(14u, manager().GetChannel(frequency)) << frequency << " MHz";
-}
-
-// There is no rule of its own for 6 GHz, and between the bands the subtraction wraps, in 32 bits in either world.
+// There is no rule of its own for 6 GHz, and between the bands the subtraction wraps, in 32 bits in either world. Finer
+// units are divided until they are below ten thousand.
 TEST_F(SignalTest, ChannelsAbove)
 {
-    ExpectChannels({{2485, 4294966993},
-                    {3995, 4294967295},
-                    {4000, 0},
-                    {4920, 184},
-                    {4995, 199},
-                    {4996, 200},
-                    {4999, 200},
-                    {5000, 0},
-                    {5180, 36},
-                    {5825, 165},
-                    {5955, 191},
-                    {7115, 423}});
-}
-
-TEST_F(SignalTest, FrequenciesInFinerUnits)
-{
-    ExpectChannels({{10000, 1000},
-                    {10001, 14},
-                    {24129, 0},
-                    {2412000, 0},
-                    {2484000, 13},
-                    {5180000, 36},
-                    {5955000, 191},
-                    {2437000000, 5}});
+    const std::pair<unsigned long, unsigned long> channels[] = {
+        {2485, 4294966993}, {3995, 4294967295}, {4000, 0},     {4910, 182},  {4940, 188},     {4995, 199},
+        {4996, 200},        {4999, 200},        {5000, 0},     {5004, 0},    {5005, 1},       {5180, 36},
+        {5320, 64},         {5825, 165},        {5955, 191},   {7115, 423},  {9999, 999},     {10000, 1000},
+        {10001, 14},        {24129, 0},         {24379, 5},    {2412000, 0}, {2437000000, 5}, {2484000, 13},
+        {4920000, 184},     {5180000, 36},      {5955000, 191}};
+    for (const auto& [frequency, channel] : channels)
+        EXPECT_EQ(channel, manager().GetChannel(frequency)) << "frequency " << frequency;
 }
 
 // --- GetSignalStrength ---
@@ -176,10 +137,7 @@ TEST_F(SignalTest, RssiIsTheDrivers)
     int rssi = 77;
     EXPECT_EQ(0, manager().GetRssi(&kAdapterA, rssi));
     EXPECT_EQ(-50, rssi);
-    EXPECT_THAT(callLines(), ElementsAre("WlanQueryInterface(client=1, interface=" + kA +
-                                             ", opcode=rssi, reserved=null, dataSize=sizeof(LONG), data=non-null, "
-                                             "valueType=null)",
-                                         kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(QueryLine("rssi", "LONG"), kRelease));
     EXPECT_THAT(traced(), ElementsAre(kRssiReleased));
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -198,17 +156,10 @@ TEST_F(SignalTest, RssiHasNoBounds)
 
 TEST_F(SignalTest, EveryWayForRssiToFail)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this, {
-                             {"GetRssi", Rssi, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                             {"GetRssi", Rssi, "WlanQueryInterface", -4, {kQueryFailed}, local},
-                             {.method = "GetRssi, not connected",
-                              .call = Rssi,
-                              .expected = -4,
-                              .traced = {kNotConnected},
-                              .buffer = local,
-                              .prepare = UseNoConnection},
-                         });
+    const Failures ask(*this, "GetRssi", Rssi, TraceBuffer::local);
+    ask.When("WlanOpenHandle", -1);
+    ask.When("WlanQueryInterface", -4);
+    ask.In(DisconnectedWorld(), -4, {kNotConnected});
 }
 
 // --- GetCurrentRSSI ---
@@ -218,11 +169,7 @@ TEST_F(SignalTest, CurrentRssiIsThatOfTheConnectedAccessPoint)
     int rssi = 77;
     EXPECT_EQ(0, manager().GetCurrentRSSI(&kAdapterA, rssi));
     EXPECT_EQ(-50, rssi);
-    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery,
-                                         "WlanGetNetworkBssList(client=1, interface=" + kA +
-                                             ", ssid=\"HomeNet\"/7, bssType=infrastructure, securityEnabled=true, "
-                                             "reserved=null, list=non-null)",
-                                         kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ConnectionQuery(), NetworkBssLine("HomeNet"), kRelease, kRelease));
     EXPECT_THAT(traced(), ElementsAre(kConnectionReleased, kBssReleased));
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -269,32 +216,13 @@ TEST_F(SignalTest, TheFirstEntryOfTheAccessPointCounts)
 
 TEST_F(SignalTest, EveryWayForCurrentRssiToFail)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(
-        *this,
-        {
-            {"GetCurrentRSSI", CurrentRssi, "WlanOpenHandle", -1, {kOpenFailed}, local},
-            {"GetCurrentRSSI", CurrentRssi, "WlanQueryInterface", -4, {kQueryFailed}, local},
-            {.method = "GetCurrentRSSI, not connected",
-             .call = CurrentRssi,
-             .expected = -4,
-             .traced = {kNotConnected},
-             .buffer = local,
-             .prepare = UseNoConnection},
-            {"GetCurrentRSSI", CurrentRssi, "WlanGetNetworkBssList", -5, {kBssFailed, kConnectionReleased}, local},
-            {.method = "GetCurrentRSSI, nothing heard",
-             .call = CurrentRssi,
-             .expected = -6,
-             .traced = {kNoBss, kConnectionReleased, kBssReleased},
-             .buffer = local,
-             .prepare = LoseEverything},
-            {.method = "GetCurrentRSSI, access point gone",
-             .call = CurrentRssi,
-             .expected = -7,
-             .traced = {kConnectionReleased, kBssReleased},
-             .buffer = local,
-             .prepare = LoseTheConnectedAccessPoint},
-        });
+    const Failures ask(*this, "GetCurrentRSSI", CurrentRssi, TraceBuffer::local);
+    ask.When("WlanOpenHandle", -1);
+    ask.When("WlanQueryInterface", -4);
+    ask.When("WlanGetNetworkBssList", -5, {kConnectionReleased});
+    ask.In(DisconnectedWorld(), -4, {kNotConnected});
+    ask.After(LoseEverything, -6, {kNoBss, kConnectionReleased, kBssReleased});
+    ask.After(LoseTheConnectedAccessPoint, -7, {kConnectionReleased, kBssReleased});
 }
 
 // --- GetWiFiRSSI ---
@@ -303,12 +231,7 @@ TEST_F(SignalTest, WiFiRssiIsEstimatedFromTheQuality)
 {
     EXPECT_EQ(-50, WiFiRssi("HomeNet")) << "quality 100";
     EXPECT_EQ(-65, WiFiRssi("OfficeNet")) << "quality 70";
-    EXPECT_THAT(callLines(), ElementsAre("WlanGetAvailableNetworkList(client=1, interface=" + kA +
-                                             ", flags=0, reserved=null, list=non-null)",
-                                         kRelease,
-                                         "WlanGetAvailableNetworkList(client=1, interface=" + kA +
-                                             ", flags=0, reserved=null, list=non-null)",
-                                         kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(NetworksLine(), kRelease, NetworksLine(), kRelease));
     EXPECT_TRUE(traced().empty());
 }
 
@@ -360,17 +283,10 @@ TEST_F(SignalTest, WiFiRssiOfAnSsidLongerThanCanBeIsTheFloor)
 // Deliberate: after the handle is open, a failure answers like a network at the floor of the scale.
 TEST_F(SignalTest, WiFiRssiIsTheFloorWhenNothingIsKnown)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this,
-                  {
-                      {"GetWiFiRSSI", HomeNetRssi, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                      {"GetWiFiRSSI", HomeNetRssi, "WlanGetAvailableNetworkList", -100, {kNetworksFailed}, local},
-                      {.method = "GetWiFiRSSI in silence",
-                       .call = HomeNetRssi,
-                       .expected = -100,
-                       .buffer = local,
-                       .prepare = [](auto& test) { test.UseWorld(SilentWorld()); }},
-                  });
+    const Failures ask(*this, "GetWiFiRSSI", HomeNetRssi, TraceBuffer::local);
+    ask.When("WlanOpenHandle", -1);
+    ask.When("WlanGetAvailableNetworkList", -100);
+    ask.In(SilentWorld(), -100);
     EXPECT_EQ(-100, WiFiRssi("GoneNet"));
 }
 
@@ -379,7 +295,7 @@ TEST_F(SignalTest, WiFiRssiIsTheFloorWhenNothingIsKnown)
 TEST_F(SignalTest, QualityIsThatOfTheConnection)
 {
     EXPECT_EQ(100, manager().GetSignalQuality(&kAdapterA));
-    EXPECT_THAT(callLines(), ElementsAre(kConnectionQuery, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(ConnectionQuery(), kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
 }
@@ -400,15 +316,10 @@ TEST_F(SignalTest, QualityIsGivenAsItIs)
 
 TEST_F(SignalTest, EveryWayForQualityToFail)
 {
-    CheckFailures(*this, {
-                             {"GetSignalQuality", Quality, "WlanOpenHandle", -1, {kOpenFailed}},
-                             {"GetSignalQuality", Quality, "WlanQueryInterface", -4, {kQueryFailed}},
-                             {.method = "GetSignalQuality, not connected",
-                              .call = Quality,
-                              .expected = -4,
-                              .traced = {kNotConnected},
-                              .prepare = UseNoConnection},
-                         });
+    const Failures ask(*this, "GetSignalQuality", Quality);
+    ask.When("WlanOpenHandle", -1);
+    ask.When("WlanQueryInterface", -4);
+    ask.In(DisconnectedWorld(), -4, {kNotConnected});
 }
 
 // --- All ---

@@ -1,6 +1,6 @@
 #include "support/changed_platform.h"
-#include "support/contract_table.h"
 #include "support/edited_answers.h"
+#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cwchar>
@@ -18,7 +18,6 @@ namespace
 
 using Names = std::vector<std::string>;
 
-const std::string kA = kAdapterAText;
 const Names kBefore = {"from", "before"};
 
 /// A platform whose conversions take the flags that Windows refuses beside UTF-8.
@@ -123,8 +122,7 @@ TEST_F(SoftApTest, NothingIsListedWherePrecomposedUtf8IsRefused)
     EXPECT_THAT(List(), IsEmpty()) << "what was in the vector is gone all the same";
     EXPECT_THAT(calls(), ElementsAre("WlanGetAvailableNetworkList", "MultiByteToWideChar", "MultiByteToWideChar",
                                      "WlanFreeMemory"));
-    EXPECT_EQ("WlanGetAvailableNetworkList(client=1, interface=" + kA + ", flags=0, reserved=null, list=non-null)",
-              callLines()[0]);
+    EXPECT_EQ(NetworksLine(), callLines()[0]);
     EXPECT_EQ("MultiByteToWideChar(codePage=65001, flags=9, source=\"MyLC#Net\", sourceLength=-1, "
               "destination=non-null, destinationLength=256)",
               callLines()[1]);
@@ -217,13 +215,10 @@ TEST_F(SoftApTest, ANameThatCannotBeConvertedIsPassedOver)
 
 TEST_F(SoftApTest, EveryWayForTheListToFail)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(
-        *this, {
-                   {"GetSoftAPList", FailingList, "WlanOpenHandle", -1, {kOpenFailed}, local},
-                   // Deliberate: the platform's own error number, beside -1 for the handle.
-                   {"GetSoftAPList", FailingList, "WlanGetAvailableNetworkList", 1722, {kNetworksFailed}, local, 1722},
-               });
+    const Failures list(*this, "GetSoftAPList", FailingList, TraceBuffer::local);
+    list.When("WlanOpenHandle", -1);
+    // Deliberate: the platform's own error number, beside -1 for the handle.
+    list.When("WlanGetAvailableNetworkList", 5);
 }
 
 TEST_F(SoftApTest, ANullVectorIsRefused)
@@ -279,35 +274,19 @@ TEST_F(SoftApTest, TheSsidDoesNotDecide)
 TEST_F(SoftApTest, TheFirstInterfaceIsAsked)
 {
     EXPECT_FALSE(manager().SpecialSoftAP());
-    EXPECT_THAT(callLines(), ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)",
-                                         "WlanQueryInterface(client=1, interface=" + kA +
-                                             ", opcode=current_connection, reserved=null, "
-                                             "dataSize=sizeof(WLAN_CONNECTION_ATTRIBUTES), data=non-null, "
-                                             "valueType=null)",
-                                         kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), ConnectionQuery(), kRelease, kRelease));
     EXPECT_THAT(traced(), IsEmpty());
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
 TEST_F(SoftApTest, EveryFailureIsNo)
 {
-    const auto local = TraceBuffer::local;
-    CheckFailures(*this,
-                  {
-                      {"SpecialSoftAP", Special, "WlanOpenHandle", 0, {kOpenFailed}, local},
-                      {"SpecialSoftAP", Special, "WlanEnumInterfaces", 0, {kEnumFailed}, local},
-                      {"SpecialSoftAP", Special, "WlanQueryInterface", 0, {kQueryFailed}, local},
-                      {.method = "SpecialSoftAP, no adapter",
-                       .call = Special,
-                       .traced = {kNoAdapterText},
-                       .buffer = local,
-                       .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }},
-                      {.method = "SpecialSoftAP, not connected",
-                       .call = Special,
-                       .traced = {kNotConnected},
-                       .buffer = local,
-                       .prepare = [](auto& test) { test.UseWorld(DisconnectedWorld()); }},
-                  });
+    const Failures ask(*this, "SpecialSoftAP", Special, TraceBuffer::local);
+    ask.When("WlanOpenHandle", 0);
+    ask.When("WlanEnumInterfaces", 0);
+    ask.When("WlanQueryInterface", 0);
+    ask.In(NoAdapterWorld(), 0, {kNoAdapterText});
+    ask.In(DisconnectedWorld(), 0, {kNotConnected});
 }
 
 } // namespace calvix::test::soft_ap_test

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "unit/call_lines.h"
+
 namespace calvix::test
 {
 
@@ -23,8 +25,5 @@ inline constexpr const char* kNetworksReleased = "WlanFreeMemory(pAvailableList)
 inline constexpr const char* kBssReleased = "WlanFreeMemory(pBssList)";
 inline constexpr const char* kConnectionReleased = "WlanFreeMemory(pConnectInfo)";
 inline constexpr const char* kRssiReleased = "WlanFreeMemory(pRssi)";
-
-/// A release in the call log.
-inline constexpr const char* kRelease = "WlanFreeMemory(memory=non-null)";
 
 } // namespace calvix::test
