@@ -119,9 +119,7 @@ void Best(Host& host, const BestOptions& options)
 void AddBestCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<BestOptions>();
-    commands
-        .Add("best", "Join a network by rank, the lowest score first (usually the weakest network)",
-             [options](Host& host) { Best(host, *options); })
+    commands.Add("best", "Join a network by rank, the lowest score first (usually the weakest network)", options, Best)
         .Text("--exclude-profile", options->excluded.profile, "Do not choose this profile")
         .Takes(ValueKind::profile)
         .Texts(

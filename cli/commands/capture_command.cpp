@@ -33,8 +33,8 @@ void AddCaptureCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<CaptureOptions>();
     commands
-        .Add("capture", "Make a scenario of this computer, its air and its profiles, without their keys",
-             [options](Host& host) { TakeCapture(host, *options); })
+        .Add("capture", "Make a scenario of this computer, its air and its profiles, without their keys", options,
+             TakeCapture)
         .Text("-o,--output", options->output, "Scenario file to write, - for standard output")
         .Takes(ValueKind::scenario)
         .Required()

@@ -175,23 +175,18 @@ void AddPlainCommands(CommandSet& commands)
         .Prints("status", [] { return std::vector{Describe(StatusFacts{})}; })
         .Examples("For the second adapter:\n"
                   "  calvix status --interface 2");
-    AddWaiting(commands.Add("connect", "Connect by a stored profile whose network is in view",
-                            [options](Host& host) { Connect(host, *options); }),
+    AddWaiting(commands.Add("connect", "Connect by a stored profile whose network is in view", options, Connect),
                options)
         .Text("PROFILE", options->profile, "The profile")
         .Takes(ValueKind::profile)
         .Prints("status")
         .Examples("Connect, and wait no longer than a minute:\n"
                   "  calvix connect Office --timeout 60");
-    AddWaiting(
-        commands.Add("disconnect", "Disconnect the adapter", [options](Host& host) { Disconnect(host, *options); }),
-        options)
+    AddWaiting(commands.Add("disconnect", "Disconnect the adapter", options, Disconnect), options)
         .Prints("status")
         .Examples("Until the service or a person connects again:\n"
                   "  calvix disconnect");
-    AddWaiting(
-        commands.Add("reset", "Request the current connection again", [options](Host& host) { Reset(host, *options); }),
-        options)
+    AddWaiting(commands.Add("reset", "Request the current connection again", options, Reset), options)
         .Prints("status")
         .Examples("The connection is up and does not work:\n"
                   "  calvix reset");
@@ -200,9 +195,7 @@ void AddPlainCommands(CommandSet& commands)
 void AddMethodCommands(CommandSet& commands)
 {
     const auto reconnect = std::make_shared<ConnectOptions>();
-    AddWaiting(commands.Add("reconnect", "Disconnect, then connect again",
-                            [reconnect](Host& host) { Reconnect(host, *reconnect); }),
-               reconnect)
+    AddWaiting(commands.Add("reconnect", "Disconnect, then connect again", reconnect, Reconnect), reconnect)
         .OneOf("--method", reconnect->method, {"access-point", "network", "profile"},
                "Back to the best access point (default), to the network, or by the profile")
         .Prints("status")

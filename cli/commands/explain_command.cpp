@@ -149,9 +149,7 @@ void Explain(Host& host, const ExplainOptions& options)
 void AddExplainCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<ExplainOptions>();
-    commands
-        .Add("explain", "Say what a method's result code means and what to do about it",
-             [options](Host& host) { Explain(host, *options); })
+    commands.Add("explain", "Say what a method's result code means and what to do about it", options, Explain)
         .Text("[METHOD]", options->method, "A method of the library; without it all are listed")
         .Takes(ValueKind::method)
         .Text("[CODE]", options->code, "Its result; without it all its codes are listed")

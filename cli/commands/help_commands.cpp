@@ -36,17 +36,17 @@ struct HelpOptions
     std::string shell;
 };
 
-std::vector<CompletionWord> AdapterWords(Host& host)
+std::vector<Word> AdapterWords(Host& host)
 {
-    std::vector<CompletionWord> words;
+    std::vector<Word> words;
     for (const WLAN_INTERFACE_INFO& adapter : host.adapters())
         words.push_back({std::to_string(words.size() + 1), Narrow(FixedText(adapter.strInterfaceDescription))});
     return words;
 }
 
-std::vector<CompletionWord> ProfileWords(Host& host)
+std::vector<Word> ProfileWords(Host& host)
 {
-    std::vector<CompletionWord> words;
+    std::vector<Word> words;
     for (const WLAN_PROFILE_INFO& profile : host.service().Profiles(host.adapterGuid()))
         words.push_back({Narrow(FixedText(profile.strProfileName)), ""});
     return words;
@@ -54,8 +54,7 @@ std::vector<CompletionWord> ProfileWords(Host& host)
 
 /// Names of the computer that the line which is being typed will run on. Whatever stands in the way, nobody is to read
 /// of it while typing.
-std::vector<CompletionWord>
-NamesOnComputer(Host& asking, ValueKind kind, const std::string& scenario, const std::string& adapter)
+std::vector<Word> NamesOnComputer(Host& asking, ValueKind kind, const std::string& scenario, const std::string& adapter)
 {
     CommonOptions options;
     options.scenario = scenario;
@@ -106,8 +105,8 @@ void AddHelpCommands(CommandSet& commands)
         .Takes(ValueKind::command)
         .Examples("The arguments of a command:\n  calvix help profiles move");
     commands
-        .Add("completion", "Print the script by which a shell completes this program's command lines",
-             [options](Host& host) { PrintScript(host, *options); })
+        .Add("completion", "Print the script by which a shell completes this program's command lines", options,
+             PrintScript)
         .OneOf("SHELL", options->shell, {"bash", "zsh", "fish", "powershell"}, "The shell")
         .Prints("completion", [] { return std::vector{ScriptRecord("")}; })
         .Examples("For this session of bash, of zsh, of fish:\n"
@@ -120,8 +119,7 @@ void AddHelpCommands(CommandSet& commands)
         .Prints("manual", [] { return std::vector{ManualRecord("")}; })
         .Examples("Read it:\n  calvix manual | man -l -");
     commands
-        .Add("complete", "List what can complete a command line, for the completion scripts",
-             [options](Host& host) { PrintCompletion(host, *options); })
+        .Add("complete", "List what can complete a command line, for the completion scripts", options, PrintCompletion)
         .Texts("[WORDS]", options->words, "The words before the last")
         .Text("--current", options->current, "The beginning of the last word")
         .Hidden();

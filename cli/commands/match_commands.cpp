@@ -95,9 +95,7 @@ void Match(Host& host, const MatchOptions& options)
 void AddMatchCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<MatchOptions>();
-    commands
-        .Add("match", "Show which access points belong to stored profiles",
-             [options](Host& host) { Match(host, *options); })
+    commands.Add("match", "Show which access points belong to stored profiles", options, Match)
         .Flag("--auto-only", options->autoOnly, "Only profiles that connect automatically")
         .Text("--profile", options->profile, "Profiles that connect automatically, and this one")
         .Takes(ValueKind::profile)

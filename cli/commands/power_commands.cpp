@@ -252,8 +252,8 @@ void AddPowerCommands(CommandSet& commands)
         .Examples("What it can do, for a program:\n"
                   "  calvix power status --json");
     commands
-        .Add("power keep-awake", "Keep the idle computer awake until Ctrl-C, then restore the policy",
-             [options](Host& host) { KeepAwake(host, *options); })
+        .Add("power keep-awake", "Keep the idle computer awake until Ctrl-C, then restore the policy", options,
+             KeepAwake)
         .Number("--for", options->seconds, "Seconds to stay awake; 0: until Ctrl-C, a minute on a simulated computer")
         .Flag("--leave", options->leave, "Return at once, and do not restore the policy")
         .Flag("--yes", options->yes, yesHelp)
@@ -261,29 +261,27 @@ void AddPowerCommands(CommandSet& commands)
         .Examples("For ten minutes, without a question:\n"
                   "  calvix power keep-awake --for 600 --yes");
     commands
-        .Add("power restore", "Write the remembered policy, here one of zeros, to the active power scheme",
-             [options](Host& host) { Restore(host, *options); })
+        .Add("power restore", "Write the remembered policy, here one of zeros, to the active power scheme", options,
+             Restore)
         .Flag("--yes", options->yes, yesHelp)
         .Prints("power")
         .Examples("After keep-awake --leave:\n"
                   "  calvix power restore");
     commands
-        .Add("power saver", "Make and activate a copy of the power scheme that sleeps after a second",
-             [options](Host& host) { SavePower(host, *options); })
+        .Add("power saver", "Make and activate a copy of the power scheme that sleeps after a second", options,
+             SavePower)
         .Flag("--may-not-return", options->mayNotReturn,
               "Even if the power schemes can be listed, in which case the library's method does not return")
         .Flag("--yes", options->yes, yesHelp)
         .Prints("power")
         .Examples("On battery:\n"
                   "  calvix power saver");
-    commands.Add("power sleep", "Put the computer to sleep", [options](Host& host) { PutToSleep(host, *options); })
+    commands.Add("power sleep", "Put the computer to sleep", options, PutToSleep)
         .Flag("--yes", options->yes, yesHelp)
         .Prints("power")
         .Examples("Without a question:\n"
                   "  calvix power sleep --yes");
-    commands
-        .Add("power privilege", "Show whether this account can enable a privilege",
-             [options](Host& host) { EnablePrivilege(host, *options); })
+    commands.Add("power privilege", "Show whether this account can enable a privilege", options, EnablePrivilege)
         .Text("NAME", options->privilege, "The privilege, such as SeShutdownPrivilege")
         .Prints("power-privilege", [] { return std::vector{PrivilegeRecord("")}; })
         .Examples("May this account put the computer to sleep?\n"

@@ -150,9 +150,7 @@ void ShowOnline(Host& host)
 void AddProcessCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<RunOptions>();
-    commands
-        .Add("run", "Start a program and wait until it has ended, or end a process",
-             [options](Host& host) { RunOrEnd(host, *options); })
+    commands.Add("run", "Start a program and wait until it has ended, or end a process", options, RunOrEnd)
         .Texts("[COMMANDLINE]", options->words,
                "The command line: one word as it is, several joined; put -- before one that has options")
         .Takes(ValueKind::file)

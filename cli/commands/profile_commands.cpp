@@ -144,30 +144,26 @@ void AddProfileCommands(CommandSet& commands)
         .Prints("profiles-list", [] { return std::vector{Under("profiles", std::vector<ProfileFacts>{})}; })
         .Examples("In the order in which the service tries them:\n"
                   "  calvix profiles list");
-    commands.Add("profiles show", "Print a profile's document", [options](Host& host) { ShowProfile(host, *options); })
+    commands.Add("profiles show", "Print a profile's document", options, ShowProfile)
         .Text("PROFILE", options->name, "The profile")
         .Takes(ValueKind::profile)
         .Flag("--show-key", options->showKey, "Show the key, too, if the service returns it")
         .Prints("profiles-show", [] { return std::vector{DocumentRecord("", "")}; })
         .Examples("Keep a profile for another computer:\n"
                   "  calvix profiles show Office --show-key > office.xml");
-    commands
-        .Add("profiles add", "Store a profile document, replacing the one of the same name",
-             [options](Host& host) { AddProfile(host, *options); })
+    commands.Add("profiles add", "Store a profile document, replacing the one of the same name", options, AddProfile)
         .Text("FILE", options->file, "A profile document, as the system exports it")
         .Takes(ValueKind::file)
         .Prints("profiles-change", [] { return std::vector{ChangeRecord("", "")}; })
         .Examples("Store what was kept:\n"
                   "  calvix profiles add office.xml");
-    commands.Add("profiles delete", "Delete a profile", [options](Host& host) { DeleteProfile(host, *options); })
+    commands.Add("profiles delete", "Delete a profile", options, DeleteProfile)
         .Text("PROFILE", options->name, "The profile")
         .Takes(ValueKind::profile)
         .Prints("profiles-change")
         .Examples("Quotation marks around blanks:\n"
                   "  calvix profiles delete \"Hotel Lobby\"");
-    commands
-        .Add("profiles move", "Move a profile in the order of preference",
-             [options](Host& host) { MoveProfile(host, *options); })
+    commands.Add("profiles move", "Move a profile in the order of preference", options, MoveProfile)
         .Text("PROFILE", options->name, "The profile")
         .Takes(ValueKind::profile)
         .OneOf("--to", options->place, {"second", "last"}, "The place to move it to")

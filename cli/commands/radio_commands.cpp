@@ -166,7 +166,7 @@ void AddRadioCommands(CommandSet& commands)
                   "  calvix radio reset");
     commands
         .Add("radio restart", "Switch the radio off and on, waiting for both and for the connection to come back",
-             [options](Host& host) { Restart(host, *options); })
+             options, Restart)
         .Number("--timeout", options->seconds, "Maximum seconds to wait for the connection")
         .Prints("radio")
         .Examples("Wait longer for the connection:\n"

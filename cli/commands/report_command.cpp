@@ -55,8 +55,7 @@ void MakeReport(Host& host, const ReportOptions& options)
 void AddReportCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<ReportOptions>();
-    commands
-        .Add("report", "Write a page with a picture of the air", [options](Host& host) { MakeReport(host, *options); })
+    commands.Add("report", "Write a page with a picture of the air", options, MakeReport)
         .Text("-o,--output", options->file, "The page's file, - for standard output (default: air.html)")
         .Takes(ValueKind::file)
         .Text("--title", options->title, "The page's title")

@@ -56,9 +56,7 @@ void RoamCommand(Host& host, const RoamOptions& options)
 void AddRoamCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<RoamOptions>();
-    commands
-        .Add("roam", "Move to a better access point of the current network, if there is one",
-             [options](Host& host) { RoamCommand(host, *options); })
+    commands.Add("roam", "Move to a better access point of the current network, if there is one", options, RoamCommand)
         .Flag("--dry-run", options->live.dryRun, "Decide only, do not move")
         .Number("--every", options->live.roamEvery, "Continue, and decide every N seconds; 0: decide once")
         .Number("--for", options->live.seconds,

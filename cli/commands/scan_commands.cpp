@@ -259,29 +259,27 @@ Command& AddSorting(Command& command, const std::shared_ptr<ScanOptions>& option
 void AddScanCommands(CommandSet& commands)
 {
     const auto options = std::make_shared<ScanOptions>();
-    commands.Add("scan", "Scan, and wait until the scan is done", [options](Host& host) { Scan(host, *options); })
+    commands.Add("scan", "Scan, and wait until the scan is done", options, Scan)
         .Number("--timeout", options->seconds, "Maximum seconds to wait")
         .Prints("scan", [] { return std::vector{Under("scan", ScanFacts{})}; })
         .Examples("For a slow driver:\n"
                   "  calvix scan --timeout 30");
     AddSorting(
         AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
-                                 [options](Host& host) { ListNetworks(host, *options); }),
+                                 options, ListNetworks),
                     options),
         options, {"signal", "name"})
         .Prints("networks", [] { return std::vector{Under("networks", std::vector<NetworkFacts>{})}; })
         .Examples("As they are now, not as they were at the service's last scan:\n"
                   "  calvix networks --scan");
-    AddSorting(AddScanning(commands.Add("bss", "List the access points in view",
-                                        [options](Host& host) { ListAccessPoints(host, *options); }),
-                           options),
+    AddSorting(AddScanning(commands.Add("bss", "List the access points in view", options, ListAccessPoints), options),
                options, {"signal", "channel", "name"})
         .Flag("--chart", options->chart, "Draw the spectrum, an arch for each access point")
         .Prints("bss", [] { return std::vector{Under("accessPoints", std::vector<AirAccessPoint>{})}; })
         .Examples("The spectrum as it is now:\n"
                   "  calvix bss --scan --chart");
     AddScanning(commands.Add("channels", "Show how crowded each channel is, and the least crowded of each band",
-                             [options](Host& host) { ListChannels(host, *options); }),
+                             options, ListChannels),
                 options)
         .Prints("channels", [] { return std::vector{Under("bands", std::vector<BandLoad>{})}; })
         .Examples("Which channel is best for an access point? The country's rules are not checked:\n"

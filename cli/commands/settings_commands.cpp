@@ -132,9 +132,7 @@ void AskDriver(Host& host, const IhvOptions& options)
 void AddSettingsCommands(CommandSet& commands)
 {
     const auto settings = std::make_shared<SettingsOptions>();
-    commands
-        .Add("settings", "Show the adapter's settings, or switch some on",
-             [settings](Host& host) { Settings(host, *settings); })
+    commands.Add("settings", "Show the adapter's settings, or switch some on", settings, Settings)
         .Flag("--enable-auto", settings->enableAuto, "Switch automatic connection on")
         .Flag("--enable-background-scan", settings->enableBackgroundScan, "Switch scanning while connected on")
         .Prints("settings", [] { return std::vector{Under("settings", SettingsFacts{})}; })
@@ -142,9 +140,7 @@ void AddSettingsCommands(CommandSet& commands)
                   "  calvix settings --enable-auto");
 
     const auto ihv = std::make_shared<IhvOptions>();
-    commands
-        .Add("ihv", "Send a vendor's request to the adapter's driver and print its answer",
-             [ihv](Host& host) { AskDriver(host, *ihv); })
+    commands.Add("ihv", "Send a vendor's request to the adapter's driver and print its answer", ihv, AskDriver)
         .Text("HEX", ihv->request, "The request's bytes in hexadecimal")
         .Number("--size", ihv->size, "Pad the request with zeros: the answer cannot be longer than the request")
         .Flag("--grant", ihv->grant, "First let ordinary users send requests to drivers (needs an administrator)")

@@ -11,8 +11,7 @@ void AddWatchCommand(CommandSet& commands)
 {
     const auto options = std::make_shared<LiveOptions>();
     commands
-        .Add("watch", "Show the service's notifications and the signal as they come, until Ctrl-C",
-             [options](Host& host) { WatchLive(host, *options); })
+        .Add("watch", "Show the service's notifications and the signal as they come, until Ctrl-C", options, WatchLive)
         .Number("--for", options->seconds, "Seconds to watch; 0: until Ctrl-C, a minute on a simulated computer")
         .Number("--speed", options->speed,
                 "Simulated seconds per second; 0: one on a terminal, as fast as possible elsewhere")

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -166,8 +167,12 @@ struct CandidateFacts
     std::uint32_t error = 0; ///< of a refused request
 };
 
-/// "joined", "refused", "accepted", "not tried"
-const char* OutcomeText(Outcome outcome);
+/// By Outcome.
+inline constexpr const char* kOutcomeTexts[] = {"not tried", "refused", "accepted", "joined"};
+inline const char* OutcomeText(Outcome outcome)
+{
+    return kOutcomeTexts[static_cast<std::size_t>(outcome)];
+}
 
 enum class Verdict
 {
@@ -186,7 +191,11 @@ struct CheckFacts
     std::string advice; ///< what to do about it; empty where it is ok
 };
 
-/// "ok", "warning", "failed"
-const char* VerdictText(Verdict verdict);
+/// By Verdict.
+inline constexpr const char* kVerdictTexts[] = {"ok", "warning", "failed"};
+inline const char* VerdictText(Verdict verdict)
+{
+    return kVerdictTexts[static_cast<std::size_t>(verdict)];
+}
 
 } // namespace calvix::host

@@ -1,5 +1,7 @@
 #include "output/json_output.h"
 
+#include <span>
+
 namespace calvix::host
 {
 
@@ -9,6 +11,11 @@ namespace
 JsonRecord& AddSsid(JsonRecord& record, const SsidFacts& ssid)
 {
     return record.Add("ssid", ssid.text, {.definition = "ssid"}).Add("ssidHex", ssid.hex, {.definition = "ssidHex"});
+}
+
+Shape AmongTexts(std::span<const char* const> texts)
+{
+    return {.among = {texts.begin(), texts.end()}};
 }
 
 JsonRecord AtMoment(const char* meaning, const char* event, unsigned long long milliseconds, const JsonRecord& rest)
@@ -105,7 +112,7 @@ JsonRecord Describe(const CandidateFacts& candidate)
         .Add("fiveGhz", candidate.fiveGhz, {"Access points that earned the bonus"})
         .Add("bonus", candidate.bonus)
         .Add("score", candidate.score)
-        .Add("outcome", OutcomeText(candidate.outcome), {.among = {"not tried", "refused", "accepted", "joined"}})
+        .Add("outcome", OutcomeText(candidate.outcome), AmongTexts(kOutcomeTexts))
         .Add("error", candidate.error, {.meaning = "The platform's error number", .emptyIsNull = true});
 }
 
@@ -114,7 +121,7 @@ JsonRecord Describe(const CheckFacts& check)
     return JsonRecord("One check of doctor.", "check")
         .Add("adapter", check.adapter, {.meaning = "Its number; null: about the computer", .emptyIsNull = true})
         .Add("check", check.check)
-        .Add("verdict", VerdictText(check.verdict), {.among = {"ok", "warning", "failed"}})
+        .Add("verdict", VerdictText(check.verdict), AmongTexts(kVerdictTexts))
         .Add("finding", check.finding)
         .Add("advice", check.advice, {.meaning = "What to do about it", .emptyIsNull = true});
 }

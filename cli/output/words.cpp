@@ -3,14 +3,39 @@
 #include "output/text_forms.h"
 #include "platform/platform.h"
 
+#include <span>
+
 namespace calvix::host
 {
 
 namespace
 {
 
-std::string NumberedText(const char* what, unsigned long number)
+struct NumberText
 {
+    unsigned number;
+    const char* text;
+};
+
+constexpr NumberText kAuthenticationTexts[] = {{1, "open"},     {2, "shared key"}, {3, "WPA"},      {4, "WPA-PSK"},
+                                               {5, "WPA-none"}, {6, "WPA2"},       {7, "WPA2-PSK"}, {8, "WPA3-192"},
+                                               {9, "WPA3-SAE"}, {10, "OWE"},       {11, "WPA3"}};
+constexpr NumberText kCipherTexts[] = {{0x00, "none"},     {0x01, "WEP"},   {0x05, "WEP"},  {0x101, "WEP"},
+                                       {0x02, "TKIP"},     {0x04, "CCMP"},  {0x08, "GCMP"}, {0x09, "GCMP-256"},
+                                       {0x0a, "CCMP-256"}, {0x100, "group"}};
+constexpr NumberText kPhyTexts[] = {{1, "FHSS"},      {2, "DSSS"},     {4, "802.11a"},  {5, "802.11b"},
+                                    {6, "802.11g"},   {7, "802.11n"},  {8, "802.11ac"}, {9, "802.11ad"},
+                                    {10, "802.11ax"}, {11, "802.11be"}};
+constexpr NumberText kBssTypeTexts[] = {{1, "infrastructure"}, {2, "ad hoc"}, {3, "any"}};
+constexpr NumberText kConnectionModeTexts[] = {
+    {0, "profile"}, {1, "temporary profile"}, {2, "discovery, secure"}, {3, "discovery, unsecured"}, {4, "automatic"}};
+
+/// The number's text in the table; one that is not there is `what` and the number.
+std::string TextOf(unsigned long number, std::span<const NumberText> table, const char* what)
+{
+    for (const NumberText& row : table)
+        if (row.number == number)
+            return row.text;
     return std::string(what) + " " + std::to_string(number);
 }
 
@@ -18,60 +43,12 @@ std::string NumberedText(const char* what, unsigned long number)
 
 std::string AuthenticationText(DOT11_AUTH_ALGORITHM algorithm)
 {
-    switch (static_cast<unsigned>(algorithm))
-    {
-    case 1:
-        return "open";
-    case 2:
-        return "shared key";
-    case 3:
-        return "WPA";
-    case 4:
-        return "WPA-PSK";
-    case 5:
-        return "WPA-none";
-    case 6:
-        return "WPA2";
-    case 7:
-        return "WPA2-PSK";
-    case 8:
-        return "WPA3-192";
-    case 9:
-        return "WPA3-SAE";
-    case 10:
-        return "OWE";
-    case 11:
-        return "WPA3";
-    default:
-        return NumberedText("authentication", static_cast<unsigned>(algorithm));
-    }
+    return TextOf(static_cast<unsigned>(algorithm), kAuthenticationTexts, "authentication");
 }
 
 std::string CipherText(DOT11_CIPHER_ALGORITHM algorithm)
 {
-    switch (static_cast<unsigned>(algorithm))
-    {
-    case 0x00:
-        return "none";
-    case 0x01:
-    case 0x05:
-    case 0x101:
-        return "WEP";
-    case 0x02:
-        return "TKIP";
-    case 0x04:
-        return "CCMP";
-    case 0x08:
-        return "GCMP";
-    case 0x09:
-        return "GCMP-256";
-    case 0x0a:
-        return "CCMP-256";
-    case 0x100:
-        return "group";
-    default:
-        return NumberedText("cipher", static_cast<unsigned>(algorithm));
-    }
+    return TextOf(static_cast<unsigned>(algorithm), kCipherTexts, "cipher");
 }
 
 std::string SecurityText(DOT11_AUTH_ALGORITHM algorithm, DOT11_CIPHER_ALGORITHM cipher)
@@ -82,65 +59,17 @@ std::string SecurityText(DOT11_AUTH_ALGORITHM algorithm, DOT11_CIPHER_ALGORITHM 
 
 std::string PhyText(DOT11_PHY_TYPE type)
 {
-    switch (static_cast<unsigned>(type))
-    {
-    case 1:
-        return "FHSS";
-    case 2:
-        return "DSSS";
-    case 4:
-        return "802.11a";
-    case 5:
-        return "802.11b";
-    case 6:
-        return "802.11g";
-    case 7:
-        return "802.11n";
-    case 8:
-        return "802.11ac";
-    case 9:
-        return "802.11ad";
-    case 10:
-        return "802.11ax";
-    case 11:
-        return "802.11be";
-    default:
-        return NumberedText("PHY", static_cast<unsigned>(type));
-    }
+    return TextOf(static_cast<unsigned>(type), kPhyTexts, "PHY");
 }
 
 std::string BssTypeText(DOT11_BSS_TYPE type)
 {
-    switch (static_cast<unsigned>(type))
-    {
-    case 1:
-        return "infrastructure";
-    case 2:
-        return "ad hoc";
-    case 3:
-        return "any";
-    default:
-        return NumberedText("BSS type", static_cast<unsigned>(type));
-    }
+    return TextOf(static_cast<unsigned>(type), kBssTypeTexts, "BSS type");
 }
 
 std::string ConnectionModeText(WLAN_CONNECTION_MODE mode)
 {
-    switch (static_cast<unsigned>(mode))
-    {
-    case 0:
-        return "profile";
-    case 1:
-        return "temporary profile";
-    case 2:
-        return "discovery, secure";
-    case 3:
-        return "discovery, unsecured";
-    case 4:
-        return "automatic";
-    default:
-        return NumberedText("mode", static_cast<unsigned>(mode));
-    }
+    return TextOf(static_cast<unsigned>(mode), kConnectionModeTexts, "mode");
 }
 
 std::string ReasonText(DWORD reasonCode)
@@ -148,7 +77,7 @@ std::string ReasonText(DWORD reasonCode)
     wchar_t text[512] = {};
     constexpr DWORD capacity = sizeof(text) / sizeof(text[0]);
     if (platform::wlan().WlanReasonCodeToString(reasonCode, capacity, text, nullptr) != 0 || text[0] == 0)
-        return NumberedText("reason code", reasonCode);
+        return TextOf(reasonCode, {}, "reason code");
     return Narrow(text);
 }
 

@@ -1,6 +1,7 @@
 #include "shell/command.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace calvix::host
 {
@@ -22,19 +23,10 @@ std::vector<std::string> DeclaredNames(const std::string& declared)
     return names;
 }
 
-/// The argument declared as `name`, at the end of the command's.
-Argument& Declare(Command& command, std::string name, ValueKind takes, const char* help)
-{
-    const bool optional = name.front() == '[' || name.front() == '-';
-    if (name.front() == '[')
-        name = name.substr(1, name.size() - 2);
-    Argument& argument = command.arguments.emplace_back();
-    argument.names = DeclaredNames(name);
-    argument.help = help;
-    argument.takes = takes;
-    argument.required = !optional;
-    return argument;
-}
+/// By ValueKind.
+constexpr const char* kPlaceholders[] = {"",     "TEXT",    "N",       "",     "FILE", "FOLDER",
+                                         "FILE", "ADAPTER", "PROFILE", "TEXT", "TEXT"};
+static_assert(std::size(kPlaceholders) == static_cast<std::size_t>(ValueKind::command) + 1);
 
 } // namespace
 
@@ -45,63 +37,32 @@ bool Argument::isNamed(std::string_view name) const
 
 std::string Argument::ValueText() const
 {
-    switch (takes)
-    {
-    case ValueKind::nothing:
-        return "";
-    case ValueKind::number:
-        return "N";
-    case ValueKind::choice:
-        break;
-    case ValueKind::file:
-    case ValueKind::scenario:
-        return "FILE";
-    case ValueKind::folder:
-        return "FOLDER";
-    case ValueKind::adapter:
-        return "ADAPTER";
-    case ValueKind::profile:
-        return "PROFILE";
-    case ValueKind::text:
-    case ValueKind::method:
-    case ValueKind::command:
-        return "TEXT";
-    }
     std::string text;
     for (const std::string& choice : choices)
         text += (text.empty() ? "" : "|") + choice;
-    return text;
+    return takes == ValueKind::choice ? text : kPlaceholders[static_cast<std::size_t>(takes)];
 }
 
-Command& Command::Flag(const char* name, bool& flag, const char* help)
+Command& Command::Declare(const char* name, ArgumentValue value, const char* help)
 {
-    Declare(*this, name, ValueKind::nothing, help).value = &flag;
-    return *this;
-}
-
-Command& Command::Text(const char* name, std::string& text, const char* help)
-{
-    Declare(*this, name, ValueKind::text, help).value = &text;
-    return *this;
-}
-
-Command& Command::Texts(const char* name, std::vector<std::string>& texts, const char* help)
-{
-    Declare(*this, name, ValueKind::text, help).value = &texts;
-    return *this;
-}
-
-Command& Command::Number(const char* name, unsigned& number, const char* help)
-{
-    Declare(*this, name, ValueKind::number, help).value = &number;
+    constexpr ValueKind kinds[] = {ValueKind::nothing, ValueKind::text, ValueKind::text, ValueKind::number};
+    std::string declared = name;
+    const bool optional = declared.front() == '[' || declared.front() == '-';
+    if (declared.front() == '[')
+        declared = declared.substr(1, declared.size() - 2);
+    Argument& argument = arguments.emplace_back();
+    argument.names = DeclaredNames(declared);
+    argument.help = help;
+    argument.takes = kinds[value.index()];
+    argument.value = value;
+    argument.required = !optional;
     return *this;
 }
 
 Command& Command::OneOf(const char* name, std::string& text, std::vector<std::string> choices, const char* help)
 {
-    Argument& argument = Declare(*this, name, ValueKind::choice, help);
-    argument.value = &text;
-    argument.choices = std::move(choices);
+    Declare(name, &text, help).Takes(ValueKind::choice);
+    arguments.back().choices = std::move(choices);
     return *this;
 }
 
@@ -192,10 +153,10 @@ Command& CommandSet::Add(const char* path, const char* summary, RunCommand run)
     return command;
 }
 
-const Family* CommandSet::FindFamily(std::string_view name) const
+const Word* CommandSet::FindFamily(std::string_view name) const
 {
     const auto found =
-        std::find_if(families.begin(), families.end(), [name](const Family& family) { return family.name == name; });
+        std::find_if(families.begin(), families.end(), [name](const Word& family) { return family.text == name; });
     return found != families.end() ? &*found : nullptr;
 }
 
@@ -204,6 +165,17 @@ const Command* CommandSet::FindCommand(std::string_view path) const
     const auto found =
         std::find_if(commands.begin(), commands.end(), [path](const Command& command) { return command.path == path; });
     return found != commands.end() ? &*found : nullptr;
+}
+
+std::vector<Word> CommandSet::CommandWords(const std::string& family) const
+{
+    std::vector<Word> words;
+    for (const Command& command : commands)
+        if (!command.hidden && command.family() == family)
+            words.push_back({command.lastWord(), command.summary});
+    if (family.empty())
+        words.insert(words.end(), families.begin(), families.end());
+    return words;
 }
 
 } // namespace calvix::host

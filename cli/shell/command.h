@@ -31,13 +31,16 @@ enum class ValueKind
     command  ///< of this program, in one word or two
 };
 
+/// The variable that an argument is read into; several texts: it may be given several times.
+using ArgumentValue = std::variant<bool*, std::string*, std::vector<std::string>*, unsigned*>;
+
 /// One argument of a command, and the variable that it is read into.
 struct Argument
 {
     std::vector<std::string> names; ///< "--output" and "-o"; of a positional argument its one name
     std::string help;
     ValueKind takes = ValueKind::text;
-    std::variant<bool*, std::string*, std::vector<std::string>*, unsigned*> value;
+    ArgumentValue value;
     std::vector<std::string> choices;
     bool required = false;
 
@@ -70,11 +73,14 @@ struct Command
     bool anonymises = false; ///< its own file, as --record does its
     std::vector<Argument> arguments;
 
-    Command& Flag(const char* name, bool& value, const char* help);
-    Command& Text(const char* name, std::string& value, const char* help);
-    /// May be given several times.
-    Command& Texts(const char* name, std::vector<std::string>& values, const char* help);
-    Command& Number(const char* name, unsigned& value, const char* help);
+    Command& Declare(const char* name, ArgumentValue value, const char* help);
+    Command& Flag(const char* name, bool& value, const char* help) { return Declare(name, &value, help); }
+    Command& Text(const char* name, std::string& value, const char* help) { return Declare(name, &value, help); }
+    Command& Texts(const char* name, std::vector<std::string>& values, const char* help)
+    {
+        return Declare(name, &values, help);
+    }
+    Command& Number(const char* name, unsigned& value, const char* help) { return Declare(name, &value, help); }
     Command& OneOf(const char* name, std::string& value, std::vector<std::string> choices, const char* help);
     /// What the argument declared last takes, where it is a text of a kind.
     Command& Takes(ValueKind kind);
@@ -96,10 +102,11 @@ struct Command
     std::string lastWord() const;
 };
 
-struct Family
+/// A word of a command line, and what it means.
+struct Word
 {
-    std::string name;
-    std::string summary;
+    std::string text;
+    std::string meaning; ///< may be empty
 };
 
 /// The commands of a program: its parser, manual page, completion and hints at what was meant are made from them. Each
@@ -108,8 +115,7 @@ struct Family
 ///     void AddScanCommands(CommandSet& commands)
 ///     {
 ///         const auto options = std::make_shared<ScanOptions>();
-///         commands.Add("scan", "Scan, and wait until the scan is done",
-///                      [options](Host& host) { Scan(host, *options); })
+///         commands.Add("scan", "Scan, and wait until the scan is done", options, Scan)
 ///             .Number("--timeout", options->seconds, "Seconds to wait");
 ///     }
 struct CommandSet
@@ -121,11 +127,22 @@ struct CommandSet
     void AddFamily(const char* name, const char* summary);
     /// `path` is one word, or two for a command of a family ("profiles list"). Its arguments follow at once.
     Command& Add(const char* path, const char* summary, RunCommand run);
+    /// The same for a command whose arguments are read into `values`.
+    template <typename Options>
+    Command& Add(const char* path,
+                 const char* summary,
+                 const std::shared_ptr<Options>& values,
+                 void (*run)(Host&, const Options&))
+    {
+        return Add(path, summary, [values, run](Host& host) { run(host, *values); });
+    }
 
-    const Family* FindFamily(std::string_view name) const;
+    const Word* FindFamily(std::string_view name) const;
     const Command* FindCommand(std::string_view path) const;
+    /// The commands of a family that lists show; without a family those of none, and the families.
+    std::vector<Word> CommandWords(const std::string& family) const;
 
-    std::vector<Family> families;
+    std::vector<Word> families;
     std::vector<Command> commands;
     std::vector<Argument> options; ///< of every command
     std::shared_ptr<CommonOptions> optionValues = std::make_shared<CommonOptions>();

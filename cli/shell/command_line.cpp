@@ -96,7 +96,7 @@ void AddCommands(CLI::App& app,
         CLI::App*& parent = parents[name];
         if (parent == nullptr)
         {
-            parent = app.add_subcommand(name, commands.FindFamily(name)->summary);
+            parent = app.add_subcommand(name, commands.FindFamily(name)->meaning);
             parent->require_subcommand(1);
             parent->fallthrough();
             parent->footer(ExitCodeLines());

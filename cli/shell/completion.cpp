@@ -13,21 +13,9 @@ namespace calvix::host
 namespace
 {
 
-std::vector<CompletionWord> CommandWords(const CommandSet& program, const std::string& family)
+std::vector<Word> MethodWords()
 {
-    std::vector<CompletionWord> words;
-    for (const Command& command : program.commands)
-        if (!command.hidden && command.family() == family)
-            words.push_back({command.lastWord(), command.summary});
-    if (family.empty())
-        for (const Family& one : program.families)
-            words.push_back({one.name, one.summary});
-    return words;
-}
-
-std::vector<CompletionWord> MethodWords()
-{
-    std::vector<CompletionWord> words;
+    std::vector<Word> words;
     for (const MethodResults& results : AllMethodResults())
         words.push_back({results.method, ""});
     return words;
@@ -49,18 +37,18 @@ public:
         case ValueKind::choice:
             return Choices(argument);
         case ValueKind::file:
-            return {{}, Completion::Files::any};
+            return {{}, "any"};
         case ValueKind::scenario:
-            return {{}, Completion::Files::scenarios};
+            return {{}, "scenarios"};
         case ValueKind::folder:
-            return {{}, Completion::Files::folders};
+            return {{}, "folders"};
         case ValueKind::adapter:
         case ValueKind::profile:
             return {m_liveNames(argument.takes, m_reader.ValueOf("--scenario"), m_reader.ValueOf("--interface"))};
         case ValueKind::method:
             return {MethodWords()};
         case ValueKind::command:
-            return {CommandWords(m_program, m_reader.positionals().empty() ? "" : m_reader.positionals().front())};
+            return {m_program.CommandWords(m_reader.positionals().empty() ? "" : m_reader.positionals().front())};
         case ValueKind::nothing:
         case ValueKind::text:
         case ValueKind::number:
@@ -84,7 +72,7 @@ public:
     Completion CommandsOrPositional() const
     {
         if (m_reader.command() == nullptr)
-            return {CommandWords(m_program, m_reader.family() != nullptr ? m_reader.family()->name : "")};
+            return {m_program.CommandWords(m_reader.family() != nullptr ? m_reader.family()->text : "")};
         const Argument* const next = m_reader.NextPositional();
         if (next != nullptr)
             return Values(*next);
@@ -99,7 +87,7 @@ public:
         if (option == nullptr)
             return {};
         Completion completion = Values(*option);
-        for (CompletionWord& word : completion.words)
+        for (Word& word : completion.words)
             word.text = name + "=" + word.text;
         return completion;
     }
@@ -127,22 +115,6 @@ private:
     const LiveNames& m_liveNames;
 };
 
-const char* FilesText(Completion::Files files)
-{
-    switch (files)
-    {
-    case Completion::Files::any:
-        return "any";
-    case Completion::Files::scenarios:
-        return "scenarios";
-    case Completion::Files::folders:
-        return "folders";
-    case Completion::Files::none:
-        break;
-    }
-    return "none";
-}
-
 } // namespace
 
 Completion Complete(const CommandSet& program,
@@ -150,20 +122,18 @@ Completion Complete(const CommandSet& program,
                     const std::string& current,
                     const LiveNames& liveNames)
 {
-    WordReader reader(program);
-    for (const std::string& word : before)
-        reader.Take(word);
+    const WordReader reader(program, before);
     Completion completion = Place(program, reader, liveNames).At(current);
     // A name may hold what ends the line or turns it round, and an escape in its place would be another name.
-    std::erase_if(completion.words, [&current](const CompletionWord& word)
-                  { return !word.text.starts_with(current) || !IsVisible(word.text); });
+    std::erase_if(completion.words,
+                  [&current](const Word& word) { return !word.text.starts_with(current) || !IsVisible(word.text); });
     return completion;
 }
 
 std::string CompletionText(const Completion& completion)
 {
-    std::string text = std::string(FilesText(completion.files)) + "\n";
-    for (const CompletionWord& word : completion.words)
+    std::string text = std::string(completion.files) + "\n";
+    for (const Word& word : completion.words)
         text += word.text + (word.meaning.empty() ? "" : "\t" + VisibleText(word.meaning)) + "\n";
     return text;
 }

@@ -9,32 +9,16 @@
 namespace calvix::host
 {
 
-/// A word that is possible at the cursor, and its meaning.
-struct CompletionWord
-{
-    std::string text;
-    std::string meaning; ///< may be empty
-};
-
 /// What is possible at the cursor.
 struct Completion
 {
-    /// Which files are possible there, too; the shell lists them.
-    enum class Files
-    {
-        none,
-        any,
-        scenarios,
-        folders
-    };
-
-    std::vector<CompletionWord> words;
-    Files files = Files::none;
+    std::vector<Word> words;
+    const char* files = "none"; ///< that are possible, too, and that the shell lists: any, scenarios, folders
 };
 
 /// Adapters or profiles by the names that the options on the line lead to: --scenario and --interface.
 using LiveNames =
-    std::function<std::vector<CompletionWord>(ValueKind kind, const std::string& scenario, const std::string& adapter)>;
+    std::function<std::vector<Word>(ValueKind kind, const std::string& scenario, const std::string& adapter)>;
 
 /// Completes a command line: the words before the cursor's, without the program's, and the beginning of that one.
 Completion Complete(const CommandSet& program,

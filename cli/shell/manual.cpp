@@ -95,12 +95,12 @@ void WriteCommand(std::ostream& out, const Command& command)
 void WriteEnd(std::ostream& out)
 {
     out << ".SH EXIT STATUS\n";
-    for (const ExitCodeText& text : AllExitCodes())
+    for (const ExitCodeText& text : kExitCodes)
         out << ".TP\n"
             << Bold(std::to_string(static_cast<int>(text.code))) << '\n'
             << Escaped(WithFullStop(text.meaning)) << '\n';
     out << ".SH ENVIRONMENT\n";
-    for (const EnvironmentText& text : AllEnvironmentTexts())
+    for (const EnvironmentText& text : kEnvironment)
         out << ".TP\n" << Bold(text.variable) << '\n' << Escaped(WithFullStop(text.meaning)) << '\n';
     out << ".SH EXAMPLES\n";
     WriteExamples(out, kProgramExamples);

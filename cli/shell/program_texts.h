@@ -1,7 +1,5 @@
 #pragma once
 
-#include <span>
-
 namespace calvix::host
 {
 
@@ -31,6 +29,9 @@ struct EnvironmentText
 };
 
 /// The environment variables that the program looks at.
-std::span<const EnvironmentText> AllEnvironmentTexts();
+inline constexpr EnvironmentText kEnvironment[] = {
+    {"NO_COLOR", "Any value but an empty one: no colours, unless --color always is given"},
+    {"TERM", "\"dumb\": the output has no colours and no progress lines, as in a file"},
+};
 
 } // namespace calvix::host

@@ -9,33 +9,16 @@ namespace calvix::host
 namespace
 {
 
-std::vector<std::string> CommandNames(const CommandSet& program, const std::string& family)
-{
-    std::vector<std::string> names;
-    for (const Command& command : program.commands)
-        if (!command.hidden && command.family() == family)
-            names.push_back(command.lastWord());
-    if (family.empty())
-        for (const Family& one : program.families)
-            names.push_back(one.name);
-    return names;
-}
-
-WordReader ReadAll(const CommandSet& program, const std::vector<std::string>& arguments)
-{
-    WordReader reader(program);
-    for (const std::string& word : arguments)
-        reader.Take(word);
-    return reader;
-}
-
 Failure UnknownCommand(const CommandSet& program, const WordReader& reader)
 {
-    const std::string family = reader.family() != nullptr ? reader.family()->name : "";
+    const std::string family = reader.family() != nullptr ? reader.family()->text : "";
     const std::string& word = reader.unknownCommand();
+    std::vector<std::string> names;
+    for (const Word& known : program.CommandWords(family))
+        names.push_back(known.text);
     const std::string help = "calvix " + family + (family.empty() ? "" : " ") + "--help";
     return BadInput((family.empty() ? "there is no command \"" : family + " has no command \"") + word + "\"",
-                    DidYouMean(word, CommandNames(program, family)) + "list the commands: " + help);
+                    DidYouMean(word, names) + "list the commands: " + help);
 }
 
 Failure UnknownOption(const WordReader& reader)
@@ -53,7 +36,7 @@ Failure NoCommand(const WordReader& reader)
 {
     if (reader.family() == nullptr)
         return BadInput("no command was given", "list the commands: calvix --help");
-    const std::string& family = reader.family()->name;
+    const std::string& family = reader.family()->text;
     return BadInput(family + " needs one of its commands", "list them: calvix " + family + " --help");
 }
 
@@ -61,13 +44,13 @@ Failure NoCommand(const WordReader& reader)
 
 bool NamesUnknownCommand(const CommandSet& program, const std::vector<std::string>& arguments)
 {
-    return !ReadAll(program, arguments).unknownCommand().empty();
+    return !WordReader(program, arguments).unknownCommand().empty();
 }
 
 Failure
 UsageFailure(const CommandSet& program, const std::vector<std::string>& arguments, const std::string& parserWords)
 {
-    const WordReader reader = ReadAll(program, arguments);
+    const WordReader reader(program, arguments);
     if (!reader.unknownCommand().empty())
         return UnknownCommand(program, reader);
     if (!reader.unknownOption().empty())

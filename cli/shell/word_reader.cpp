@@ -30,6 +30,12 @@ std::pair<std::string, std::string> SplitAtSign(const std::string& word)
     return {word.substr(0, sign), word.substr(sign + 1)};
 }
 
+WordReader::WordReader(const CommandSet& program, const std::vector<std::string>& words) : m_program(program)
+{
+    for (const std::string& word : words)
+        Take(word);
+}
+
 void WordReader::Take(const std::string& word)
 {
     if (m_pending != nullptr)
@@ -68,10 +74,10 @@ void WordReader::TakeCommandWord(const std::string& word)
     // After an unknown word, no other word has a meaning.
     if (!m_unknownCommand.empty())
         return;
-    m_command = m_program.FindCommand(m_family != nullptr ? m_family->name + " " + word : word);
+    m_command = m_program.FindCommand(m_family != nullptr ? m_family->text + " " + word : word);
     if (m_command != nullptr)
         return;
-    const Family* const family = m_family == nullptr ? m_program.FindFamily(word) : nullptr;
+    const Word* const family = m_family == nullptr ? m_program.FindFamily(word) : nullptr;
     if (family != nullptr)
         m_family = family;
     else

@@ -10,18 +10,16 @@
 namespace calvix::host
 {
 
-/// Reads the words of a command line one by one, also of one that is not complete or not right.
+/// Reads the words of a command line, also of one that is not complete or not right.
 class WordReader
 {
 public:
-    explicit WordReader(const CommandSet& program) : m_program(program) {}
-
-    void Take(const std::string& word);
+    WordReader(const CommandSet& program, const std::vector<std::string>& words);
 
     /// Null until it is known.
     const Command* command() const { return m_command; }
     /// The family whose command is not known yet; null: none.
-    const Family* family() const { return m_command == nullptr ? m_family : nullptr; }
+    const Word* family() const { return m_command == nullptr ? m_family : nullptr; }
     /// The option whose value comes next; null: none.
     const Argument* pending() const { return m_pending; }
     /// Whether "--" has come, after which no word is an option.
@@ -42,11 +40,12 @@ public:
     const std::string& unknownOption() const { return m_unknownOption; }
 
 private:
+    void Take(const std::string& word);
     void TakeOption(const std::string& word);
     void TakeCommandWord(const std::string& word);
 
     const CommandSet& m_program;
-    const Family* m_family = nullptr;
+    const Word* m_family = nullptr;
     const Command* m_command = nullptr;
     const Argument* m_pending = nullptr;
     bool m_afterDashes = false;

@@ -131,7 +131,7 @@ TEST_F(Usage, EndsWithTheExitCodesOfThePage)
     const std::string page = Content(CALVIX_SOURCE_DIR "/docs/command-line.md");
     const std::string help = Run({"scan", "--help"}).out;
     const std::string manual = Run({"manual"}).out;
-    for (const host::ExitCodeText& text : host::AllExitCodes())
+    for (const host::ExitCodeText& text : host::kExitCodes)
     {
         const std::string number = std::to_string(static_cast<int>(text.code));
         EXPECT_THAT(help, HasSubstr("\n  " + number + "  " + text.meaning + "\n"));
