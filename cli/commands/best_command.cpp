@@ -1,7 +1,7 @@
 #include "commands/commands.h"
 #include "explain/platform_errors.h"
 #include "host/host.h"
-#include "host/watched_wlan.h"
+#include "host/watched_calls.h"
 #include "live/connection_wait.h"
 #include "output/json_output.h"
 #include "output/table.h"

@@ -2,7 +2,7 @@
 #include "explain/failure_words.h"
 #include "host/host.h"
 #include "host/interrupt.h"
-#include "host/watched_system.h"
+#include "host/watched_calls.h"
 #include "live/progress.h"
 #include "output/json_output.h"
 #include "output/table.h"
@@ -203,7 +203,7 @@ void SavePower(Host& host, const PowerOptions& options)
 void RequireAnswer(Host& host, const char* method, const char* operation, bool answer, const std::string& message)
 {
     if (!answer)
-        throw SystemFailure(method, 0, message, host.systemRefusals().Of(operation));
+        throw SystemFailure(method, 0, message, host.watched().OfSystem(operation));
 }
 
 void PutToSleep(Host& host, const PowerOptions& options)
@@ -222,12 +222,8 @@ void EnablePrivilege(Host& host, const PowerOptions& options)
 {
     const std::string& name = options.privilege;
     const bool enabled = host.manager().EnablePriviledge(name.c_str());
-    for (const char* operation : {"OpenProcessToken", "LookupPrivilegeValueA", "AdjustTokenPrivileges"})
-    {
-        const Refusal refusal = host.systemRefusals().Of(operation);
-        if (!refusal.operation.empty())
-            throw SystemFailure("EnablePriviledge", enabled ? 1 : 0, "\"" + name + "\" was not enabled", refusal);
-    }
+    host.RequireNotRefused({"OpenProcessToken", "LookupPrivilegeValueA", "AdjustTokenPrivileges"}, "EnablePriviledge",
+                           enabled ? 1 : 0, "\"" + name + "\" was not enabled");
     if (!enabled)
     {
         FailureReport report =

@@ -1,7 +1,6 @@
 #include "commands/commands.h"
 #include "explain/failure_words.h"
 #include "host/host.h"
-#include "host/watched_system.h"
 #include "output/code_page.h"
 #include "output/json_output.h"
 #include "output/text_forms.h"
@@ -53,13 +52,9 @@ std::string Narrowed(const std::string& text)
 /// What the methods do not report: whether the program was started, and whether waiting for its end failed.
 void RequireRun(Host& host, const char* method, const std::string& what)
 {
-    const Refusal refusal = host.systemRefusals().Of("CreateProcessA");
-    if (!refusal.operation.empty())
-        throw SystemFailure(method, std::nullopt, "\"" + what + "\" was not started", refusal);
-    const Refusal wait = host.systemRefusals().Of("WaitForSingleObject");
-    if (!wait.operation.empty())
-        throw SystemFailure(method, std::nullopt, "\"" + what + "\" was started, but its end cannot be waited for",
-                            wait);
+    host.RequireNotRefused({"CreateProcessA"}, method, std::nullopt, "\"" + what + "\" was not started");
+    host.RequireNotRefused({"WaitForSingleObject"}, method, std::nullopt,
+                           "\"" + what + "\" was started, but its end cannot be waited for");
 }
 
 void ShowRun(Host& host, const std::string& what)
@@ -101,13 +96,8 @@ unsigned long ProcessNumber(const std::string& text)
 void EndProcess(Host& host, unsigned long process)
 {
     host.manager().CloseProcess(process);
-    for (const char* operation : {"OpenProcess", "TerminateProcess"})
-    {
-        const Refusal refusal = host.systemRefusals().Of(operation);
-        if (!refusal.operation.empty())
-            throw SystemFailure("CloseProcess", std::nullopt, "process " + std::to_string(process) + " was not ended",
-                                refusal);
-    }
+    host.RequireNotRefused({"OpenProcess", "TerminateProcess"}, "CloseProcess", std::nullopt,
+                           "process " + std::to_string(process) + " was not ended");
 }
 
 void EndProcesses(Host& host, const std::vector<std::string>& texts)

@@ -3,7 +3,7 @@
 #include "explain/failure_words.h"
 #include "host/host.h"
 #include "host/service_view.h"
-#include "host/watched_wlan.h"
+#include "host/watched_calls.h"
 #include "live/connection_wait.h"
 #include "live/notifications.h"
 #include "live/progress.h"
@@ -66,7 +66,7 @@ void SwitchOff(Host& host)
 /// The methods that switch off and on do not report failures; the service's refusals show them.
 void RequireSwitched(Host& host, const char* method)
 {
-    const Refusal& refusal = host.watched().LastRefusal();
+    const Refusal& refusal = host.watched().LastOfService();
     if (refusal.operation != "WlanSetInterface")
         return;
     FailureReport report = ServiceFailure("WlanSetInterface", refusal.error).report();

@@ -99,7 +99,8 @@ struct ComputerInUse::World
 {
     World(const CommonOptions& options, RecordedSession& session, std::ostream& err)
         : computer(session.isReplay() ? nullptr : MakeComputer(options.scenario)),
-          watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched), libraryInUse(options.trace)
+          watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched.platform()),
+          libraryInUse(options.trace)
     {
     }
 
@@ -136,19 +137,13 @@ ComputerInUse::World& ComputerInUse::world()
 CWirelessManage& ComputerInUse::manager()
 {
     World& current = world();
-    current.watched.watched().StartWatching();
-    current.watched.systemRefusals().Forget();
+    current.watched.calls().Forget();
     return *current.libraryInUse;
 }
 
-WatchedWlan& ComputerInUse::watched()
+const WatchedCalls& ComputerInUse::watched()
 {
-    return world().watched.watched();
-}
-
-const SystemRefusals& ComputerInUse::systemRefusals()
-{
-    return world().watched.systemRefusals();
+    return world().watched.calls();
 }
 
 ServiceView& ComputerInUse::service()
@@ -183,26 +178,25 @@ void ComputerInUse::Wait(unsigned milliseconds)
 
 void ComputerInUse::WhileWaiting(std::function<void(unsigned)> action)
 {
-    world().watched.steps().AfterEachStep(std::move(action));
+    world().watched.AfterEachStep(std::move(action));
 }
 
 std::string ComputerInUse::CaptureTrace(const std::function<void()>& action)
 {
     std::string captured;
     const TraceSwitch on(true);
-    ShownDebuggerOutput& debugger = world().watched.shownDebugger();
-    debugger.CaptureIn(&captured);
+    world().watched.CaptureTraceIn(&captured);
     action();
-    debugger.CaptureIn(nullptr);
+    world().watched.CaptureTraceIn(nullptr);
     return captured;
 }
 
 std::vector<ConnectRequest> ComputerInUse::Rehearse(const std::function<void()>& action)
 {
     const TraceSwitch off(false);
-    watched().Rehearse(true);
+    world().watched.Rehearse(true);
     action();
-    watched().Rehearse(false);
+    world().watched.Rehearse(false);
     return watched().ConnectRequests();
 }
 
@@ -221,8 +215,18 @@ void ComputerInUse::Require(const char* method, long code)
 
 Failure ComputerInUse::MethodFailure(const char* method, long code)
 {
-    const Refusal& refusal = watched().LastRefusal();
-    return MethodFailureInWords(method, code, refusal.operation.empty() ? systemRefusals().Last() : refusal);
+    const Refusal& refusal = watched().LastOfService();
+    return MethodFailureInWords(method, code, refusal.operation.empty() ? watched().LastOfSystem() : refusal);
+}
+
+void ComputerInUse::RequireNotRefused(std::initializer_list<const char*> operations,
+                                      const char* method,
+                                      std::optional<int> code,
+                                      const std::string& message)
+{
+    for (const char* operation : operations)
+        if (const Refusal refusal = watched().OfSystem(operation); !refusal.operation.empty())
+            throw SystemFailure(method, code, message, refusal);
 }
 
 void ComputerInUse::RequireSession()

@@ -6,6 +6,7 @@
 #include <calvix/wireless_manage.h>
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -18,8 +19,7 @@ namespace calvix::host
 struct ConnectRequest;
 class RecordedSession;
 class ServiceView;
-class SystemRefusals;
-class WatchedWlan;
+class WatchedCalls;
 
 /// The library on a platform, created on demand: the system's own, a simulated computer if a scenario is given or there is
 /// no other, or a recording.
@@ -38,10 +38,8 @@ public:
     CWirelessManage& manager();
     /// The WLAN service as this program itself looks at it, for what the library has no method for.
     ServiceView& service();
-    /// What the library asked of the WLAN service since `manager()` was last called, and what was refused.
-    WatchedWlan& watched();
-    /// The same for the rest of the operating system.
-    const SystemRefusals& systemRefusals();
+    /// What the library asked of the platform since `manager()` was last called, and what was refused.
+    const WatchedCalls& watched();
     /// Lets time pass, simulated time where the computer is. Ends early after Ctrl-C.
     void Wait(unsigned milliseconds);
     /// Has `action` called again and again while time passes, in the library's own waits too, with the milliseconds
@@ -64,6 +62,11 @@ public:
     int Check(const char* method, long code);
     /// The same where 0 is the only success.
     void Require(const char* method, long code);
+    /// Fails with `message` where the system refused one of these operations to a method whose result does not show it.
+    void RequireNotRefused(std::initializer_list<const char*> operations,
+                           const char* method,
+                           std::optional<int> code,
+                           const std::string& message);
     /// The failure of a method, with what the platform refused on the way.
     Failure MethodFailure(const char* method, long code);
 

@@ -1,13 +1,59 @@
 #include "host/watched_platform.h"
 
-#include "operations/bound.h"
+#include "host/interrupt.h"
+
+#include <algorithm>
 
 namespace calvix::host
 {
 
-void ShownDebuggerOutput::OutputDebugStringA(const char* text)
+using platform::WlanService;
+
+WatchedPlatform::WatchedPlatform(platform::Platform& inner, std::ostream* shown)
+    : m_watched(inner.errors()), m_intercepted(inner, m_watched), m_platform(m_intercepted), m_shown(shown)
 {
-    m_inner.OutputDebugStringA(text);
+    ChangeConnecting();
+    m_platform.Instead<&platform::Clock::Sleep>([this](DWORD milliseconds) { SleepInSteps(milliseconds); });
+    m_platform.Before<&platform::DebuggerOutput::OutputDebugStringA>([this](const char* text) { ShowTrace(text); });
+}
+
+void WatchedPlatform::ChangeConnecting()
+{
+    m_platform.After<&WlanService::WlanSetProfile>(
+        [this](DWORD error, HANDLE, const GUID*, DWORD, const wchar_t*, const wchar_t*, BOOL, PVOID, DWORD* reasonCode)
+        {
+            if (error != 0 && reasonCode != nullptr)
+                m_watched.NoteProfileReason(*reasonCode);
+        });
+    m_platform.Instead<&WlanService::WlanSetProfilePosition>(
+        [this](auto... arguments)
+        { return m_rehearsing ? DWORD{ERROR_SUCCESS} : m_intercepted.WlanSetProfilePosition(arguments...); });
+    m_platform.Instead<&WlanService::WlanConnect>(
+        [this](HANDLE client, const GUID* adapter, const WLAN_CONNECTION_PARAMETERS* parameters, PVOID reserved)
+        {
+            const DWORD error = m_rehearsing ? DWORD{ERROR_CANCELLED}
+                                             : m_intercepted.WlanConnect(client, adapter, parameters, reserved);
+            m_watched.NoteConnect(adapter, parameters, error);
+            return error;
+        });
+}
+
+/// Something can be shown between the steps, and Ctrl-C is noticed. What is left of a wait after Ctrl-C is left out.
+void WatchedPlatform::SleepInSteps(DWORD milliseconds)
+{
+    constexpr DWORD longestStep = 100;
+    while (milliseconds > 0 && !Interrupted())
+    {
+        const DWORD step = (std::min)(milliseconds, longestStep);
+        m_intercepted.Sleep(step);
+        milliseconds -= step;
+        if (m_afterStep)
+            m_afterStep(static_cast<unsigned>(step));
+    }
+}
+
+void WatchedPlatform::ShowTrace(const char* text)
+{
     if (m_captured != nullptr)
     {
         *m_captured += text;
@@ -22,20 +68,6 @@ void ShownDebuggerOutput::OutputDebugStringA(const char* text)
         *m_shown << *c;
         m_atLineStart = *c == '\n';
     }
-}
-
-WatchedPlatform::WatchedPlatform(platform::Platform& inner, std::ostream* shown)
-    : Platform(inner), m_system(inner.errors()), m_calls(inner, m_refusals), m_wlan(m_calls.wlan(), m_notes),
-      m_clock(inner.clock()), m_debugger(inner.debugger(), shown)
-{
-    using operations::CallsTo;
-    Platform& whole = *this;
-    whole = m_calls;
-    WlanSetProfile = CallsTo<&WatchedWlan::WlanSetProfile>(m_wlan);
-    WlanSetProfilePosition = CallsTo<&WatchedWlan::WlanSetProfilePosition>(m_wlan);
-    WlanConnect = CallsTo<&WatchedWlan::WlanConnect>(m_wlan);
-    Sleep = CallsTo<&SteppingClock::Sleep>(m_clock);
-    OutputDebugStringA = CallsTo<&ShownDebuggerOutput::OutputDebugStringA>(m_debugger);
 }
 
 } // namespace calvix::host

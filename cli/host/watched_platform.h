@@ -1,37 +1,17 @@
 #pragma once
 
-#include "host/stepping_clock.h"
-#include "host/watched_system.h"
-#include "host/watched_wlan.h"
-#include "platform/platform.h"
+#include "host/watched_calls.h"
+#include "operations/changed_platform.h"
 #include "wrappers/intercepted_platform.h"
 
+#include <functional>
 #include <ostream>
 
 namespace calvix::host
 {
 
-/// Forwards to the debugger and shows the same lines on a stream.
-class ShownDebuggerOutput final
-{
-public:
-    /// A null stream shows nothing.
-    ShownDebuggerOutput(platform::DebuggerOutput& inner, std::ostream* shown) : m_inner(inner), m_shown(shown) {}
-
-    /// While not null, what is written goes here, as it is, instead of being shown.
-    void CaptureIn(std::string* captured) { m_captured = captured; }
-
-    void OutputDebugStringA(const char* text);
-
-private:
-    platform::DebuggerOutput& m_inner;
-    std::ostream* m_shown;
-    std::string* m_captured = nullptr;
-    bool m_atLineStart = true;
-};
-
-/// The platform with the WLAN service, the system and the debugger watched, and waiting in small steps.
-class WatchedPlatform final : public platform::Platform
+/// Another platform, with its calls watched, its debugger's lines shown, and waiting in small steps.
+class WatchedPlatform final
 {
 public:
     /// Trace lines are shown on `shown` unless it is null. Both must live as long as this object.
@@ -39,19 +19,31 @@ public:
     WatchedPlatform(const WatchedPlatform&) = delete;
     WatchedPlatform& operator=(const WatchedPlatform&) = delete;
 
-    WatchedWlan& watched() { return m_wlan; }
-    SystemRefusals& systemRefusals() { return m_system; }
-    SteppingClock& steps() { return m_clock; }
-    ShownDebuggerOutput& shownDebugger() { return m_debugger; }
+    platform::Platform& platform() { return m_platform.platform(); }
+    WatchedCalls& calls() { return m_watched; }
+
+    /// Called after each step of a wait, the library's own waits included, with its milliseconds.
+    void AfterEachStep(std::function<void(unsigned)> action) { m_afterStep = std::move(action); }
+    /// While not null, the debugger's text goes here, as it is, instead of being shown.
+    void CaptureTraceIn(std::string* captured) { m_captured = captured; }
+    /// While rehearsing, connection requests are noted and refused, and never reach the service: what is left to ask
+    /// for after a refusal comes to light without anything being joined. Profiles are not moved either, though the
+    /// library gets success for it.
+    void Rehearse(bool rehearsing) { m_rehearsing = rehearsing; }
 
 private:
-    RefusalNotes m_notes;
-    SystemRefusals m_system;
-    wrappers::InterceptorChain m_refusals{{&m_notes, &m_system}};
-    wrappers::InterceptedPlatform m_calls;
-    WatchedWlan m_wlan;
-    SteppingClock m_clock;
-    ShownDebuggerOutput m_debugger;
+    void ChangeConnecting();
+    void SleepInSteps(DWORD milliseconds);
+    void ShowTrace(const char* text);
+
+    WatchedCalls m_watched;
+    wrappers::InterceptedPlatform m_intercepted;
+    operations::ChangedPlatform m_platform;
+    bool m_rehearsing = false;
+    std::function<void(unsigned)> m_afterStep;
+    std::ostream* m_shown;
+    std::string* m_captured = nullptr;
+    bool m_atLineStart = true;
 };
 
 } // namespace calvix::host

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/host.h"
-#include "host/watched_wlan.h"
+#include "host/watched_calls.h"
 #include "live/notifications.h"
 
 #include <functional>

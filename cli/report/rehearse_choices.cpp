@@ -1,6 +1,6 @@
 #include "explain/result_codes.h"
 #include "host/service_view.h"
-#include "host/watched_wlan.h"
+#include "host/watched_calls.h"
 #include "output/text_forms.h"
 #include "report/take_picture.h"
 #include "view/describe.h"

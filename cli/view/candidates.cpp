@@ -3,7 +3,7 @@
 #include "autoconnect/candidate_ranking.h"
 #include "core/wlan_records.h"
 #include "host/service_view.h"
-#include "host/watched_wlan.h"
+#include "host/watched_calls.h"
 #include "output/text_forms.h"
 #include "view/describe.h"
 

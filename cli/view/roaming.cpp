@@ -2,7 +2,7 @@
 
 #include "explain/result_codes.h"
 #include "host/service_view.h"
-#include "host/watched_wlan.h"
+#include "host/watched_calls.h"
 #include "output/text_forms.h"
 
 namespace calvix::host

@@ -1,24 +1,6 @@
 #pragma once
 
-// The platform in use, changed where a test changes it, for as long as it lives:
-//
-//     ChangedPlatform changed;
-//     changed.After<&WlanService::WlanGetNetworkBssList>(
-//         [](DWORD error, HANDLE, const GUID*, const DOT11_SSID*, DOT11_BSS_TYPE, BOOL, PVOID, WLAN_BSS_LIST** list)
-//         {
-//             if (error == 0)
-//                 (*list)->dwNumberOfItems = 0;
-//         });
-//
-// A change begins with the next call. It must not be made while another thread uses the platform.
-
-#include "operations/bound.h"
-#include "platform/platform.h"
-
-#include <memory>
-#include <type_traits>
-#include <utility>
-#include <vector>
+#include "operations/changed_platform.h"
 
 namespace calvix::test
 {
@@ -27,65 +9,18 @@ using platform::Power;
 using platform::Processes;
 using platform::WlanService;
 
-class ChangedPlatform
+/// The platform in use, changed where a test changes it, for as long as it lives.
+class ChangedPlatform : public operations::ChangedPlatform
 {
 public:
-    ChangedPlatform() : m_platform(platform::CurrentPlatform()), m_previous(platform::ReplacePlatform(&m_platform)) {}
+    ChangedPlatform()
+        : operations::ChangedPlatform(platform::CurrentPlatform()), m_previous(platform::ReplacePlatform(&platform()))
+    {
+    }
     ~ChangedPlatform() { platform::ReplacePlatform(m_previous); }
-    ChangedPlatform(const ChangedPlatform&) = delete;
-    ChangedPlatform& operator=(const ChangedPlatform&) = delete;
-
-    /// `answer(arguments...)` answers in the place of the operation.
-    template <auto operation, typename Answer>
-    void Instead(Answer answer)
-    {
-        using Operation = std::remove_cvref_t<decltype(m_platform.*operation)>;
-        auto kept = std::make_shared<Answer>(std::move(answer));
-        m_platform.*operation = operations::CallsOf<Operation>(*kept);
-        m_answers.push_back(std::move(kept));
-    }
-
-    /// `look(arguments...)` is called before the operation.
-    template <auto operation, typename Look>
-    void Before(Look look)
-    {
-        Instead<operation>(
-            [look = std::move(look), call = m_platform.*operation](auto... arguments)
-            {
-                look(arguments...);
-                return call(arguments...);
-            });
-    }
-
-    /// `change(result, arguments...)` is called after the operation and may give another result.
-    template <auto operation, typename Change>
-    void After(Change change)
-    {
-        Instead<operation>(
-            [change = std::move(change), call = m_platform.*operation](auto... arguments)
-            {
-                const auto result = call(arguments...);
-                if constexpr (std::is_void_v<decltype(change(result, arguments...))>)
-                {
-                    change(result, arguments...);
-                    return result;
-                }
-                else
-                    return static_cast<decltype(call(arguments...))>(change(result, arguments...));
-            });
-    }
-
-    /// The operation as it is now.
-    template <auto operation>
-    auto Now() const
-    {
-        return m_platform.*operation;
-    }
 
 private:
-    platform::Platform m_platform;
     platform::Platform* m_previous;
-    std::vector<std::shared_ptr<void>> m_answers;
 };
 
 } // namespace calvix::test
