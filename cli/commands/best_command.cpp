@@ -36,21 +36,8 @@ void NoteOutcomes(const std::vector<ConnectRequest>& requests, std::vector<Candi
     }
 }
 
-Tone ToneOf(Outcome outcome)
-{
-    switch (outcome)
-    {
-    case Outcome::joined:
-        return Tone::good;
-    case Outcome::accepted:
-        return Tone::fair;
-    case Outcome::refused:
-        return Tone::poor;
-    case Outcome::notTried:
-        break;
-    }
-    return Tone::faint;
-}
+/// By Outcome.
+constexpr Tone kOutcomeTones[] = {Tone::faint, Tone::poor, Tone::fair, Tone::good};
 
 void PrintCandidates(Host& host, const std::vector<CandidateFacts>& candidates)
 {
@@ -70,7 +57,7 @@ void PrintCandidates(Host& host, const std::vector<CandidateFacts>& candidates)
         table.AddRow({std::to_string(candidate.order), VisibleText(candidate.profile), candidate.ssid.text,
                       std::to_string(candidate.quality), std::to_string(candidate.fiveGhz),
                       "+" + std::to_string(candidate.bonus), std::to_string(candidate.score),
-                      Cell(outcome, ToneOf(candidate.outcome))});
+                      Cell(outcome, kOutcomeTones[static_cast<std::size_t>(candidate.outcome)])});
     }
     table.Print(host.out(), host.terminal());
 }

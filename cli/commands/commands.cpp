@@ -13,8 +13,7 @@ CommandSet AllCommands()
     AddScanCommands(commands);
     AddProfileCommands(commands);
     AddConnectionCommands(commands);
-    AddRoamCommand(commands);
-    AddWatchCommand(commands);
+    AddLiveCommands(commands);
     AddRadioCommands(commands);
     AddSettingsCommands(commands);
     AddPowerCommands(commands);

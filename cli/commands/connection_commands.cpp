@@ -21,6 +21,7 @@ namespace
 {
 
 constexpr int kProfileNotInView = -2; // of LinkProfile
+constexpr const char* kTimeoutHelp = "Maximum seconds to wait for the result";
 
 struct ConnectOptions
 {
@@ -153,90 +154,75 @@ void AskAutomatically(Host& host, const std::string& method)
         host.Require("AutoConnect", library.AutoConnect(adapter));
 }
 
-void Switch(Host& host, const std::string& method)
+void ConnectAutomatically(Host& host, const ConnectOptions& options)
+{
+    if (options.method == "smart")
+        RequireFirstAdapter(host);
+    ConnectAndShow(host, options, [&] { AskAutomatically(host, options.method); });
+}
+
+void Switch(Host& host, const ConnectOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
-    CWirelessManage& library = host.manager();
-    if (method == "smart")
-        host.Require("SmartSwitch", library.SmartSwitch(adapter));
-    else
-        host.Require("AutoSwitch", library.AutoSwitch(adapter));
-}
-
-Command& AddWaiting(Command& command, const std::shared_ptr<ConnectOptions>& options)
-{
-    return command.Number("--timeout", options->seconds, "Maximum seconds to wait for the result");
-}
-
-void AddPlainCommands(CommandSet& commands)
-{
-    const auto options = std::make_shared<ConnectOptions>();
-    commands.Add("status", "Show the adapter's state and connection", ShowNow)
-        .Prints("status", [] { return std::vector{Describe(StatusFacts{})}; })
-        .Examples("For the second adapter:\n"
-                  "  calvix status --interface 2");
-    AddWaiting(commands.Add("connect", "Connect by a stored profile whose network is in view", options, Connect),
-               options)
-        .Text("PROFILE", options->profile, "The profile")
-        .Takes(ValueKind::profile)
-        .Prints("status")
-        .Examples("Connect, and wait no longer than a minute:\n"
-                  "  calvix connect Office --timeout 60");
-    AddWaiting(commands.Add("disconnect", "Disconnect the adapter", options, Disconnect), options)
-        .Prints("status")
-        .Examples("Until the service or a person connects again:\n"
-                  "  calvix disconnect");
-    AddWaiting(commands.Add("reset", "Request the current connection again", options, Reset), options)
-        .Prints("status")
-        .Examples("The connection is up and does not work:\n"
-                  "  calvix reset");
-}
-
-void AddMethodCommands(CommandSet& commands)
-{
-    const auto reconnect = std::make_shared<ConnectOptions>();
-    AddWaiting(commands.Add("reconnect", "Disconnect, then connect again", reconnect, Reconnect), reconnect)
-        .OneOf("--method", reconnect->method, {"access-point", "network", "profile"},
-               "Back to the best access point (default), to the network, or by the profile")
-        .Prints("status")
-        .Examples("Back by the same profile:\n"
-                  "  calvix reconnect --method profile");
-
-    const auto automatic = std::make_shared<ConnectOptions>();
-    AddWaiting(commands.Add("auto", "Connect to a network in view that has a stored profile",
-                            [automatic](Host& host)
-                            {
-                                if (automatic->method == "smart")
-                                    RequireFirstAdapter(host);
-                                ConnectAndShow(host, *automatic, [&] { AskAutomatically(host, automatic->method); });
-                            }),
-               automatic)
-        .OneOf("--method", automatic->method, {"connect", "ranked", "smart", "mode"},
-               "By the profiles' order (connect, default), by rank, the first profile's only (smart), or only profiles "
-               "that connect automatically (mode)")
-        .Prints("status")
-        .Examples("The best-ranked profile in view:\n"
-                  "  calvix auto --method ranked");
-
-    const auto change = std::make_shared<ConnectOptions>();
-    AddWaiting(commands.Add("switch", "Change to another network that has a stored profile",
-                            [change](Host& host)
-                            { ConnectAndShow(host, *change, [&] { Switch(host, change->method); }); }),
-               change)
-        .OneOf("--method", change->method, {"auto", "smart"},
-               "Put the current profile last and use the first in order (auto, default), or the first with a better "
-               "signal (smart)")
-        .Prints("status")
-        .Examples("To a network with a better signal:\n"
-                  "  calvix switch --method smart");
+    ConnectAndShow(host, options,
+                   [&]
+                   {
+                       if (options.method == "smart")
+                           host.Require("SmartSwitch", host.manager().SmartSwitch(adapter));
+                       else
+                           host.Require("AutoSwitch", host.manager().AutoSwitch(adapter));
+                   });
 }
 
 } // namespace
 
 void AddConnectionCommands(CommandSet& commands)
 {
-    AddPlainCommands(commands);
-    AddMethodCommands(commands);
+    const auto options = std::make_shared<ConnectOptions>();
+    commands.Add("status", "Show the adapter's state and connection", ShowNow)
+        .Prints("status", [] { return std::vector{Describe(StatusFacts{})}; })
+        .Examples("For the second adapter:\n"
+                  "  calvix status --interface 2");
+    commands.Add("connect", "Connect by a stored profile whose network is in view", options, Connect)
+        .Number("--timeout", options->seconds, kTimeoutHelp)
+        .Text("PROFILE", options->profile, "The profile")
+        .Takes(ValueKind::profile)
+        .Prints("status")
+        .Examples("Connect, and wait no longer than a minute:\n"
+                  "  calvix connect Office --timeout 60");
+    commands.Add("disconnect", "Disconnect the adapter", options, Disconnect)
+        .Number("--timeout", options->seconds, kTimeoutHelp)
+        .Prints("status")
+        .Examples("Until the service or a person connects again:\n"
+                  "  calvix disconnect");
+    commands.Add("reset", "Request the current connection again", options, Reset)
+        .Number("--timeout", options->seconds, kTimeoutHelp)
+        .Prints("status")
+        .Examples("The connection is up and does not work:\n"
+                  "  calvix reset");
+    commands.Add("reconnect", "Disconnect, then connect again", options, Reconnect)
+        .Number("--timeout", options->seconds, kTimeoutHelp)
+        .OneOf("--method", options->method, {"access-point", "network", "profile"},
+               "Back to the best access point (default), to the network, or by the profile")
+        .Prints("status")
+        .Examples("Back by the same profile:\n"
+                  "  calvix reconnect --method profile");
+    commands.Add("auto", "Connect to a network in view that has a stored profile", options, ConnectAutomatically)
+        .Number("--timeout", options->seconds, kTimeoutHelp)
+        .OneOf("--method", options->method, {"connect", "ranked", "smart", "mode"},
+               "By the profiles' order (connect, default), by rank, the first profile's only (smart), or only profiles "
+               "that connect automatically (mode)")
+        .Prints("status")
+        .Examples("The best-ranked profile in view:\n"
+                  "  calvix auto --method ranked");
+    commands.Add("switch", "Change to another network that has a stored profile", options, Switch)
+        .Number("--timeout", options->seconds, kTimeoutHelp)
+        .OneOf("--method", options->method, {"auto", "smart"},
+               "Put the current profile last and use the first in order (auto, default), or the first with a better "
+               "signal (smart)")
+        .Prints("status")
+        .Examples("To a network with a better signal:\n"
+                  "  calvix switch --method smart");
 }
 
 } // namespace calvix::host

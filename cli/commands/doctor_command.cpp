@@ -17,12 +17,8 @@ namespace
 constexpr std::size_t kVerdictColumns = 9;
 constexpr std::size_t kCheckColumns = 14;
 
-Tone ToneOf(Verdict verdict)
-{
-    if (verdict == Verdict::ok)
-        return Tone::good;
-    return verdict == Verdict::warning ? Tone::fair : Tone::poor;
-}
+/// By Verdict.
+constexpr Tone kVerdictTones[] = {Tone::good, Tone::fair, Tone::poor};
 
 void PrintCheck(Host& host, const CheckFacts& check)
 {
@@ -33,7 +29,8 @@ void PrintCheck(Host& host, const CheckFacts& check)
     if (name == "Adapter" && check.adapter != 0)
         name += " " + std::to_string(check.adapter);
     name.resize(kCheckColumns, ' ');
-    host.out() << Toned(verdict, ToneOf(check.verdict), host.terminal()) << name << check.finding << '\n';
+    const Tone tone = kVerdictTones[static_cast<std::size_t>(check.verdict)];
+    host.out() << Toned(verdict, tone, host.terminal()) << name << check.finding << '\n';
     if (!check.advice.empty())
         host.out() << "  What to do: " << check.advice << ".\n";
 }

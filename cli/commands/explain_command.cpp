@@ -51,24 +51,11 @@ struct ExplainOptions
 
 const char* KindText(ResultKind kind)
 {
-    switch (kind)
-    {
-    case ResultKind::status:
-        return "0 or a code";
-    case ResultKind::count:
-        return "a number or a code";
-    case ResultKind::value:
-        return "a value";
-    case ResultKind::yesOrNo:
-        return "1 or 0";
-    case ResultKind::text:
-        return "text";
-    case ResultKind::platformError:
-        return "0 or the platform's error number";
-    case ResultKind::nothing:
-        return "nothing";
-    }
-    return "";
+    /// By ResultKind.
+    constexpr const char* texts[] = {
+        "0 or a code", "a number or a code", "a value", "1 or 0", "text", "0 or the platform's error number",
+        "nothing"};
+    return texts[static_cast<std::size_t>(kind)];
 }
 
 /// A decimal number, or a hexadecimal one after 0x.

@@ -52,16 +52,24 @@ void ListProfiles(Host& host)
     table.Print(host.out(), host.terminal());
 }
 
+/// The text of the first element with this name, as a part of the document; empty when there is none.
+std::string_view FirstElementText(std::string_view xml, const std::string& element)
+{
+    const std::size_t begin = xml.find("<" + element + ">");
+    const std::size_t end = xml.find("</" + element + ">");
+    if (begin == std::string_view::npos || end == std::string_view::npos || end < begin)
+        return {};
+    const std::size_t text = begin + element.size() + 2;
+    return xml.substr(text, end - text);
+}
+
 /// The document with its key hidden.
 std::string WithoutKey(std::string xml)
 {
-    const std::string opening = "<keyMaterial>";
-    const std::size_t begin = xml.find(opening);
-    const std::size_t end = xml.find("</keyMaterial>");
-    if (begin == std::string::npos || end == std::string::npos || end < begin)
+    const std::string_view key = FirstElementText(xml, "keyMaterial");
+    if (key.data() == nullptr)
         return xml;
-    const std::size_t key = begin + opening.size();
-    return xml.replace(key, end - key, "********");
+    return xml.replace(static_cast<std::size_t>(key.data() - xml.data()), key.size(), "********");
 }
 
 void ShowProfile(Host& host, const ProfileOptions& options)
@@ -78,17 +86,6 @@ void ShowProfile(Host& host, const ProfileOptions& options)
     host.out() << shown << (shown.empty() || shown.back() != '\n' ? "\n" : "");
 }
 
-/// The text of the first element with this name; empty when there is none.
-std::string FirstElementText(const std::string& xml, const std::string& element)
-{
-    const std::string opening = "<" + element + ">";
-    const std::size_t begin = xml.find(opening);
-    const std::size_t end = xml.find("</" + element + ">");
-    if (begin == std::string::npos || end == std::string::npos || end < begin)
-        return {};
-    return xml.substr(begin + opening.size(), end - begin - opening.size());
-}
-
 void ReportChange(Host& host, const char* change, const std::string& profile, const std::string& words)
 {
     if (host.json())
@@ -100,7 +97,7 @@ void AddProfile(Host& host, const ProfileOptions& options)
 {
     const std::string xml = ReadTextFile(options.file);
     host.Check("SetProfile", host.manager().SetProfile(host.adapterGuid(), Widen(xml).c_str()));
-    ReportChange(host, "added", FirstElementText(xml, "name"), "stored");
+    ReportChange(host, "added", std::string(FirstElementText(xml, "name")), "stored");
 }
 
 void DeleteProfile(Host& host, const ProfileOptions& options)
@@ -116,11 +113,6 @@ void MoveToSecondPlace(Host& host, const std::wstring& name)
     host.Require("ResetProfilePosition", host.manager().ResetProfilePosition(host.adapterGuid(), narrow.c_str()));
 }
 
-void MoveToLastPlace(Host& host, const std::wstring& name)
-{
-    host.Require("SetProfilePosition", host.manager().SetProfilePosition(host.adapterGuid(), name.c_str()));
-}
-
 void MoveProfile(Host& host, const ProfileOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
@@ -130,7 +122,7 @@ void MoveProfile(Host& host, const ProfileOptions& options)
     if (options.place == "second")
         MoveToSecondPlace(host, name);
     else
-        MoveToLastPlace(host, name);
+        host.Require("SetProfilePosition", host.manager().SetProfilePosition(adapter, name.c_str()));
     ReportChange(host, "moved", options.name, "is in the " + options.place + " place");
 }
 

@@ -38,11 +38,12 @@ void ShowRadioNow(Host& host)
     ShowRadio(host, ReadRadio(host, host.adapterGuid()));
 }
 
-/// A radio that is still off after it was to be switched on.
-void RequireOn(const RadioFacts& radio)
+/// The radio, which was to be switched on.
+RadioFacts RequireOn(Host& host)
 {
+    const RadioFacts radio = ReadRadio(host, host.adapterGuid());
     if (radio.on)
-        return;
+        return radio;
     const bool byHardware = radio.hardware == "off";
     throw OperationFailure(byHardware ? "the radio is still off: its hardware switch is off" : "the radio is still off",
                            byHardware ? kUseHardwareSwitch : "wait a moment and look again: calvix radio status");
@@ -52,9 +53,7 @@ void SwitchOn(Host& host)
 {
     unsigned long error = 0;
     host.Require("TurnOnSoftwareRadio", host.manager().TurnOnSoftwareRadio(host.adapterGuid(), error));
-    const RadioFacts radio = ReadRadio(host, host.adapterGuid());
-    RequireOn(radio);
-    ShowRadio(host, radio);
+    ShowRadio(host, RequireOn(host));
 }
 
 void SwitchOff(Host& host)
@@ -83,9 +82,7 @@ void ResetRadio(Host& host)
         host.Require("ResetWiFiRadio", host.manager().ResetWiFiRadio(adapter));
     }
     RequireSwitched(host, "ResetWiFiRadio");
-    const RadioFacts radio = ReadRadio(host, host.adapterGuid());
-    RequireOn(radio);
-    ShowRadio(host, radio);
+    ShowRadio(host, RequireOn(host));
 }
 
 /// The profile that the service will connect by when the radio is back; empty when it will not.
@@ -133,8 +130,7 @@ void Restart(Host& host, const RadioOptions& options)
         host.manager().RestartWiFiRadio(adapter);
     }
     RequireSwitched(host, "RestartWiFiRadio");
-    const RadioFacts radio = ReadRadio(host, host.adapterGuid());
-    RequireOn(radio);
+    const RadioFacts radio = RequireOn(host);
     if (!profile.empty() && !WaitForConnection(host, notifications, options.seconds))
         throw OperationFailure("the radio is on again, but the connection by " + Quoted(profile) +
                                    " did not come back within " + Counted(options.seconds, "second"),

@@ -242,17 +242,9 @@ void ListChannels(Host& host, const ScanOptions& options)
     }
 }
 
-Command& AddScanning(Command& command, const std::shared_ptr<ScanOptions>& options)
-{
-    return command.Flag("--scan", options->scanFirst, "Scan first, and wait until it is done")
-        .Number("--timeout", options->seconds, "Maximum seconds to wait for the scan");
-}
-
-Command& AddSorting(Command& command, const std::shared_ptr<ScanOptions>& options, std::vector<std::string> orders)
-{
-    return command.OneOf("--sort", options->order, std::move(orders),
-                         "What to sort by (default: signal, the strongest first)");
-}
+constexpr const char* kScanHelp = "Scan first, and wait until it is done";
+constexpr const char* kScanTimeoutHelp = "Maximum seconds to wait for the scan";
+constexpr const char* kSortHelp = "What to sort by (default: signal, the strongest first)";
 
 } // namespace
 
@@ -264,23 +256,27 @@ void AddScanCommands(CommandSet& commands)
         .Prints("scan", [] { return std::vector{Under("scan", ScanFacts{})}; })
         .Examples("For a slow driver:\n"
                   "  calvix scan --timeout 30");
-    AddSorting(
-        AddScanning(commands.Add("networks", "List the visible networks, one line for each and each matching profile",
-                                 options, ListNetworks),
-                    options),
-        options, {"signal", "name"})
+    commands
+        .Add("networks", "List the visible networks, one line for each and each matching profile", options,
+             ListNetworks)
+        .Flag("--scan", options->scanFirst, kScanHelp)
+        .Number("--timeout", options->seconds, kScanTimeoutHelp)
+        .OneOf("--sort", options->order, {"signal", "name"}, kSortHelp)
         .Prints("networks", [] { return std::vector{Under("networks", std::vector<NetworkFacts>{})}; })
         .Examples("As they are now, not as they were at the service's last scan:\n"
                   "  calvix networks --scan");
-    AddSorting(AddScanning(commands.Add("bss", "List the access points in view", options, ListAccessPoints), options),
-               options, {"signal", "channel", "name"})
+    commands.Add("bss", "List the access points in view", options, ListAccessPoints)
+        .Flag("--scan", options->scanFirst, kScanHelp)
+        .Number("--timeout", options->seconds, kScanTimeoutHelp)
+        .OneOf("--sort", options->order, {"signal", "channel", "name"}, kSortHelp)
         .Flag("--chart", options->chart, "Draw the spectrum, an arch for each access point")
         .Prints("bss", [] { return std::vector{Under("accessPoints", std::vector<AirAccessPoint>{})}; })
         .Examples("The spectrum as it is now:\n"
                   "  calvix bss --scan --chart");
-    AddScanning(commands.Add("channels", "Show how crowded each channel is, and the least crowded of each band",
-                             options, ListChannels),
-                options)
+    commands
+        .Add("channels", "Show how crowded each channel is, and the least crowded of each band", options, ListChannels)
+        .Flag("--scan", options->scanFirst, kScanHelp)
+        .Number("--timeout", options->seconds, kScanTimeoutHelp)
         .Prints("channels", [] { return std::vector{Under("bands", std::vector<BandLoad>{})}; })
         .Examples("Which channel is best for an access point? The country's rules are not checked:\n"
                   "  calvix channels --scan");

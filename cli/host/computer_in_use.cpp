@@ -54,31 +54,6 @@ private:
     platform::Platform* m_before;
 };
 
-/// The library from its first Get to its Delete.
-class LibraryInUse
-{
-public:
-    explicit LibraryInUse(bool trace)
-    {
-        g_bTraceOn = trace ? 1 : 0;
-        m_library = CWirelessManage::Get();
-        if (m_library == nullptr)
-            throw OperationFailure("there is not enough memory for the library", "close other programs");
-    }
-    ~LibraryInUse()
-    {
-        CWirelessManage::Delete();
-        g_bTraceOn = 0;
-    }
-    LibraryInUse(const LibraryInUse&) = delete;
-    LibraryInUse& operator=(const LibraryInUse&) = delete;
-
-    CWirelessManage& operator*() const { return *m_library; }
-
-private:
-    CWirelessManage* m_library = nullptr;
-};
-
 /// Switches the library's trace on or off, and back at the end.
 class TraceSwitch
 {
@@ -92,6 +67,25 @@ private:
     unsigned char m_before;
 };
 
+/// The library from its first Get to its Delete.
+class LibraryInUse
+{
+public:
+    LibraryInUse()
+    {
+        if (m_library == nullptr)
+            throw OperationFailure("there is not enough memory for the library", "close other programs");
+    }
+    ~LibraryInUse() { CWirelessManage::Delete(); }
+    LibraryInUse(const LibraryInUse&) = delete;
+    LibraryInUse& operator=(const LibraryInUse&) = delete;
+
+    CWirelessManage& operator*() const { return *m_library; }
+
+private:
+    CWirelessManage* m_library = CWirelessManage::Get();
+};
+
 } // namespace
 
 /// Everything that a command needs for networks, in the order of its creation.
@@ -100,7 +94,7 @@ struct ComputerInUse::World
     World(const CommonOptions& options, RecordedSession& session, std::ostream& err)
         : computer(session.isReplay() ? nullptr : MakeComputer(options.scenario)),
           watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched.platform()),
-          libraryInUse(options.trace)
+          trace(options.trace)
     {
     }
 
@@ -114,6 +108,7 @@ struct ComputerInUse::World
     std::unique_ptr<simulation::Computer> computer;
     WatchedPlatform watched;
     PlatformInPlace inPlace;
+    TraceSwitch trace;
     LibraryInUse libraryInUse;
     std::unique_ptr<ServiceView> service;
 };

@@ -12,25 +12,8 @@ namespace
 
 constexpr const char* kGap = "  ";
 
-const char* EscapeSequence(Tone tone)
-{
-    switch (tone)
-    {
-    case Tone::plain:
-        return "";
-    case Tone::strong:
-        return "\x1b[1m";
-    case Tone::good:
-        return "\x1b[32m";
-    case Tone::fair:
-        return "\x1b[33m";
-    case Tone::poor:
-        return "\x1b[31m";
-    case Tone::faint:
-        return "\x1b[2m";
-    }
-    return "";
-}
+/// By Tone.
+constexpr const char* kEscapeSequences[] = {"", "\x1b[1m", "\x1b[32m", "\x1b[33m", "\x1b[31m", "\x1b[2m"};
 
 std::string Padding(const std::string& text, std::size_t width)
 {
@@ -69,7 +52,7 @@ std::string Toned(const std::string& text, Tone tone, const TerminalTraits& term
 {
     if (!terminal.color || tone == Tone::plain)
         return text;
-    return EscapeSequence(tone) + text + "\x1b[0m";
+    return kEscapeSequences[static_cast<std::size_t>(tone)] + text + "\x1b[0m";
 }
 
 std::vector<std::size_t> Table::Widths() const

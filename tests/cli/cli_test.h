@@ -15,6 +15,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -28,6 +30,21 @@ struct Outcome
     int exitCode = -1;
     std::string out;
     std::string err;
+};
+
+/// A text that presses Ctrl-C when it is flushed first.
+class InterruptingText : public std::stringbuf
+{
+protected:
+    int sync() override
+    {
+        if (!std::exchange(m_pressed, true))
+            std::raise(SIGINT);
+        return std::stringbuf::sync();
+    }
+
+private:
+    bool m_pressed = false;
 };
 
 class CliTest : public ::testing::Test

@@ -4,7 +4,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <csignal>
 #include <map>
 #include <sstream>
 
@@ -38,24 +37,6 @@ std::vector<json> EventsNamed(const std::string& text, const std::string& event)
             found.push_back(object);
     return found;
 }
-
-/// A text that presses Ctrl-C at the first flush after its first line.
-class InterruptingText : public std::stringbuf
-{
-protected:
-    int sync() override
-    {
-        if (!m_pressed && str().find('\n') != std::string::npos)
-        {
-            m_pressed = true;
-            std::raise(SIGINT);
-        }
-        return std::stringbuf::sync();
-    }
-
-private:
-    bool m_pressed = false;
-};
 
 class RoamCommand : public CliTest
 {

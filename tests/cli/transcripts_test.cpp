@@ -115,6 +115,7 @@ INSTANTIATE_TEST_SUITE_P(Transcripts,
                                            "tests/data/transcripts/connecting.txt",
                                            "tests/data/transcripts/profiles.txt",
                                            "tests/data/transcripts/computer.txt",
+                                           "tests/data/transcripts/doctor.txt",
                                            "tests/data/transcripts/help.txt",
                                            "docs/command-line.md",
                                            "docs/troubleshooting.md"));

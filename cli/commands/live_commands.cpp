@@ -51,24 +51,40 @@ void RoamCommand(Host& host, const RoamOptions& options)
         WatchLive(host, options.live);
 }
 
+/// How long it goes on.
+Command& AddDuration(Command& command, LiveOptions& options)
+{
+    return command
+        .Number("--for", options.seconds, "Seconds to continue; 0: until Ctrl-C, a minute on a simulated computer")
+        .Number("--speed", options.speed,
+                "Simulated seconds per second; 0: one on a terminal, as fast as possible elsewhere");
+}
+
 } // namespace
 
-void AddRoamCommand(CommandSet& commands)
+void AddLiveCommands(CommandSet& commands)
 {
-    const auto options = std::make_shared<RoamOptions>();
-    commands.Add("roam", "Move to a better access point of the current network, if there is one", options, RoamCommand)
-        .Flag("--dry-run", options->live.dryRun, "Decide only, do not move")
-        .Number("--every", options->live.roamEvery, "Continue, and decide every N seconds; 0: decide once")
-        .Number("--for", options->live.seconds,
-                "Seconds to continue; 0: until Ctrl-C, a minute on a simulated computer")
-        .Number("--speed", options->live.speed,
-                "Simulated seconds per second; 0: one on a terminal, as fast as possible elsewhere")
-        .Number("--timeout", options->timeout, "Maximum seconds to wait for the connection")
+    const auto roam = std::make_shared<RoamOptions>();
+    AddDuration(
+        commands.Add("roam", "Move to a better access point of the current network, if there is one", roam, RoamCommand)
+            .Flag("--dry-run", roam->live.dryRun, "Decide only, do not move")
+            .Number("--every", roam->live.roamEvery, "Continue, and decide every N seconds; 0: decide once"),
+        roam->live)
+        .Number("--timeout", roam->timeout, "Maximum seconds to wait for the connection")
         .Prints("roam", [] { return std::vector{Under("roam", RoamFacts{}).Add("status", StatusFacts{})}; })
         .Examples("Would it move, and where to?\n"
                   "  calvix roam --dry-run\n"
                   "Look after the connection for an hour:\n"
                   "  calvix roam --every 10 --for 3600");
+
+    const auto watch = std::make_shared<LiveOptions>();
+    AddDuration(commands.Add("watch", "Show the service's notifications and the signal as they come, until Ctrl-C",
+                             watch, WatchLive),
+                *watch)
+        .Number("--roam", watch->roamEvery, "Decide about roaming every N seconds; 0: never")
+        .Prints("watch", LiveRecords)
+        .Examples("A minute of the signal, a JSON object a line:\n"
+                  "  calvix watch --for 60 --json");
 }
 
 } // namespace calvix::host
