@@ -93,8 +93,7 @@ struct ComputerInUse::World
 {
     World(const CommonOptions& options, RecordedSession& session, std::ostream& err)
         : computer(session.isReplay() ? nullptr : MakeComputer(options.scenario)),
-          watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched.platform()),
-          trace(options.trace)
+          watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched.platform()), trace(options.trace)
     {
     }
 

@@ -55,29 +55,28 @@ JsonPart JsonRecord::OrNull(JsonPart part)
     return part;
 }
 
+JsonPart JsonRecord::Plain(JsonPart part, bool isEmpty, const Shape& shape)
+{
+    part = Shaped(std::move(part), shape);
+    if (!shape.emptyIsNull)
+        return part;
+    part = OrNull(std::move(part));
+    if (isEmpty)
+        part.value = nullptr;
+    return part;
+}
+
 JsonPart JsonRecord::Number(const Json& number, bool notNegative, const Shape& shape)
 {
     JsonPart part{number, {{"type", "integer"}}};
     if (notNegative)
         part.schema["minimum"] = 0;
-    part = Shaped(std::move(part), shape);
-    if (!shape.emptyIsNull)
-        return part;
-    part = OrNull(std::move(part));
-    if (number == 0)
-        part.value = nullptr;
-    return part;
+    return Plain(std::move(part), number == 0, shape);
 }
 
 JsonPart JsonRecord::Text(const std::string& text, const Shape& shape)
 {
-    JsonPart part = Shaped({text, {{"type", "string"}}}, shape);
-    if (!shape.emptyIsNull)
-        return part;
-    part = OrNull(std::move(part));
-    if (text.empty())
-        part.value = nullptr;
-    return part;
+    return Plain({text, {{"type", "string"}}}, text.empty(), shape);
 }
 
 JsonPart JsonRecord::Nested(const JsonRecord& record)

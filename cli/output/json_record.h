@@ -98,6 +98,7 @@ private:
 
     static JsonPart Shaped(JsonPart part, const Shape& shape);
     static JsonPart OrNull(JsonPart part);
+    static JsonPart Plain(JsonPart part, bool isEmpty, const Shape& shape);
     static JsonPart Number(const Json& number, bool notNegative, const Shape& shape);
     static JsonPart Text(const std::string& text, const Shape& shape);
     JsonPart Nested(const JsonRecord& record);

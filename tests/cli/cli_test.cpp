@@ -42,11 +42,8 @@ Outcome CliTest::Run(const std::vector<std::string>& arguments, host::TerminalTr
     std::istringstream in(m_input);
     std::ostringstream out;
     std::ostringstream err;
-    Outcome outcome;
-    outcome.exitCode = host::Run(arguments, in, out, err, terminal);
-    outcome.out = out.str();
-    outcome.err = err.str();
-    return outcome;
+    const int exitCode = host::Run(arguments, in, out, err, terminal);
+    return {exitCode, out.str(), err.str()};
 }
 
 Outcome CliTest::RunTogether(const std::vector<std::string>& arguments)
@@ -54,10 +51,8 @@ Outcome CliTest::RunTogether(const std::vector<std::string>& arguments)
     ManagerInternals::Reset();
     std::istringstream in(m_input);
     std::ostringstream both;
-    Outcome outcome;
-    outcome.exitCode = host::Run(arguments, in, both, both, {});
-    outcome.out = both.str();
-    return outcome;
+    const int exitCode = host::Run(arguments, in, both, both, {});
+    return {exitCode, both.str(), {}};
 }
 
 Outcome

@@ -117,6 +117,7 @@ INSTANTIATE_TEST_SUITE_P(Transcripts,
                                            "tests/data/transcripts/computer.txt",
                                            "tests/data/transcripts/doctor.txt",
                                            "tests/data/transcripts/help.txt",
+                                           "tests/data/transcripts/completion.txt",
                                            "docs/command-line.md",
                                            "docs/troubleshooting.md"));
 
