@@ -208,15 +208,6 @@ TEST_F(CurrentConnectionTest, AnSsidThatCannotBeConvertedIsNotAFailure)
     EXPECT_TRUE(traced().empty());
 }
 
-TEST_F(CurrentConnectionTest, AnSsidThatCannotBeIsFatal)
-{
-    DOT11_SSID tooLong = MakeSsid("HomeNet");
-    tooLong.uSSIDLength = 65;
-    const EditedAnswers altered(WithSsid(tooLong));
-    char ssid[33] = {};
-    ExpectFatal([&] { manager().GetCurrentSSID(ssid, sizeof ssid); }, "GetSSID");
-}
-
 TEST_F(CurrentConnectionTest, ANullSsidBufferIsLeftAlone)
 {
     EXPECT_EQ(0, manager().GetCurrentSSID(nullptr, 33));
