@@ -2,11 +2,9 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -17,8 +15,6 @@ using ::testing::ElementsAre;
 
 namespace
 {
-
-const std::string kListing = CallForA("WlanGetAvailableNetworkList", "flags=0, reserved=null, list=non-null");
 
 class ConnectTest : public LibraryTest
 {
@@ -108,7 +104,7 @@ simulation::Scenario HomeNetFrom(std::size_t accessPoints)
 TEST_F(ConnectTest, LinkProfileConnectsToTheNetworkThatCarriesTheProfile)
 {
     EXPECT_EQ(0, Link("OfficeNet"));
-    EXPECT_THAT(callLines(), ElementsAre(kListing, NameLine("OfficeNet"), ConnectLine("OfficeNet"), kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(NetworksLine(), NameLine("OfficeNet"), ConnectLine("OfficeNet"), kRelease));
     ExpectSilence();
 }
 
@@ -212,12 +208,12 @@ TEST_F(ConnectTest, ReconnectAsksForTheAccessPointsOfTheRememberedNetwork)
     {
         ClearCalls();
         EXPECT_EQ(0, reconnect(manager(), kHome, 20)) << name;
-        EXPECT_THAT(callLines(), ElementsAre(BssLine("\"HomeNet\"/7", "infrastructure", "true"),
-                                             ConnectLine("HomeNet", "[02:11:00:00:24:06]"), kRelease))
+        EXPECT_THAT(callLines(),
+                    ElementsAre(NetworkBssLine("HomeNet"), ConnectLine("HomeNet", "[02:11:00:00:24:06]"), kRelease))
             << name;
         ClearCalls();
         EXPECT_EQ(0, reconnect(manager(), kAdHoc, 20)) << name;
-        EXPECT_THAT(callLines(), ElementsAre(BssLine("\"AdHocNet\"/8", "independent", "false"),
+        EXPECT_THAT(callLines(), ElementsAre(NetworkBssLine("AdHocNet", "independent"),
                                              ConnectLine("AdHocNet", "[02:44:00:00:24:03]", "independent"), kRelease))
             << name;
         ClearCalls();

@@ -2,7 +2,6 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
 #include <cstring>
@@ -14,8 +13,6 @@ using ::testing::ElementsAre;
 
 namespace
 {
-
-const char* const kEnumeration = "WlanEnumInterfaces(client=1, reserved=null, list=non-null)";
 
 class CurrentConnectionTest : public LibraryTest
 {
@@ -82,7 +79,7 @@ TEST_F(CurrentConnectionTest, GivesTheWholeRecordOfTheFirstInterface)
     WLAN_CONNECTION_ATTRIBUTES record = Marked();
     EXPECT_EQ(0, manager().GetCurrentConnection(&record));
     ExpectHomeNet(record);
-    EXPECT_THAT(callLines(), ElementsAre(kEnumeration, ConnectionQuery(), kRelease, kRelease));
+    EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), ConnectionQuery(), kRelease, kRelease));
     ExpectSilence();
 }
 

@@ -2,11 +2,9 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
 #include <string>
 
 namespace calvix::test::saved_connection_test
@@ -175,8 +173,7 @@ TEST_F(SavedConnectionTest, RecoversTheSavedConnection)
     EXPECT_EQ(0, manager().Disconnect(&kAdapterA));
     ClearCalls();
     EXPECT_EQ(0, Recover(manager()));
-    EXPECT_THAT(callLines(),
-                ElementsAre(BssLine("\"HomeNet\"/7", "infrastructure", "true"), ConnectLine("HomeNet"), kRelease))
+    EXPECT_THAT(callLines(), ElementsAre(NetworkBssLine("HomeNet"), ConnectLine("HomeNet"), kRelease))
         << "the service chooses the access point";
     ExpectSilence();
     Advance(std::chrono::seconds(5));
@@ -190,7 +187,7 @@ TEST_F(SavedConnectionTest, RecoversWithTheSavedBssTypeAndSecurity)
     SavedMode() = 1;
     ClearCalls();
     EXPECT_EQ(0, Recover(manager()));
-    EXPECT_THAT(callLines(), ElementsAre(BssLine("\"AdHocNet\"/8", "independent", "false"),
+    EXPECT_THAT(callLines(), ElementsAre(NetworkBssLine("AdHocNet", "independent"),
                                          ConnectLine("AdHocNet", "null", "independent"), kRelease));
 }
 

@@ -8,7 +8,6 @@ namespace calvix::test::manager_test
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::StrEq;
 
 class ManagerTest : public LibraryTest
 {

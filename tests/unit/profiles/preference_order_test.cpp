@@ -1,7 +1,6 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/trace_texts.h"
 #include "unit/profiles/profile_names.h"
 
 #include <string>
@@ -34,8 +33,7 @@ TEST_F(PreferenceOrderTest, TheConnectedNetworksProfileGoesToTheLastPlace)
 {
     EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
     EXPECT_THAT(callLines(),
-                ElementsAre("WlanEnumInterfaces(client=1, reserved=null, list=non-null)", ProfilesLine(),
-                            ConnectionQuery(),
+                ElementsAre(InterfacesLine(), ProfilesLine(), ConnectionQuery(),
                             CallForA("WlanSetProfilePosition", "name=\"HomeNet\", position=4, reserved=null"), kRelease,
                             kRelease, kRelease));
     ExpectSilence();

@@ -2,7 +2,6 @@
 #include "support/strict_copy_guard.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/trace_texts.h"
 #include "unit/profiles/profile_names.h"
 
 #include <string>

@@ -2,9 +2,7 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/trace_texts.h"
 
-#include <algorithm>
 #include <cstring>
 #include <string>
 #include <vector>

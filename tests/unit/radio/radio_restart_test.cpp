@@ -1,8 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 
-#include <algorithm>
-
 namespace calvix::test::radio_restart_test
 {
 

@@ -2,14 +2,11 @@
 #include "support/library_test.h"
 #include "unit/call_lines.h"
 
-#include <algorithm>
-
 namespace calvix::test::radio_switch_test
 {
 
 using simulation::RadioSwitch;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using namespace std::chrono_literals;
 
 namespace
