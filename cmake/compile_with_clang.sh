@@ -1,7 +1,8 @@
 #!/bin/sh
 #
-# Compiles with clang what is written for mingw's g++: a compiler launcher for the tests, which clang compiles in half the
-# time. Both follow one binary interface, so the tests link with a product that the other compiler made.
+# Compiles with clang what is written for g++, mingw's or this system's: a compiler launcher for the tests, which clang
+# compiles in half the time. Both follow one binary interface, so the tests link with a product that the other compiler
+# made.
 
 for argument in "$@"; do
     shift
@@ -11,6 +12,7 @@ for argument in "$@"; do
             set -- "$@" clang++ --target=x86_64-w64-mingw32 -femulated-tls \
                 -D__GXX_TYPEINFO_EQUALITY_INLINE=0 -D__GXX_MERGED_TYPEINFO_NAMES=0 \
                 -cxx-isystem "$headers" -cxx-isystem "$headers/x86_64-w64-mingw32" ;;
+        */g++ | */c++) set -- "$@" clang++ ;;
         # Options that only the other compiler has.
         -fno-keep-inline-dllexport | -fpch-preprocess | -Wno-subobject-linkage | -Winvalid-pch | -Wa,-mbig-obj) ;;
         *) set -- "$@" "$argument" ;;
