@@ -2,8 +2,8 @@
 
 #include "forms/address_text.h"
 #include "forms/hex_text.h"
+#include "simulation/scenario_fields.h"
 #include "simulation/scenario_names.h"
-#include "simulation/scenario_value.h"
 
 #include <cstdint>
 #include <limits>
@@ -18,18 +18,6 @@ namespace calvix::simulation
 
 /// The forms that a field of a scenario file can have. Each reads its value or refuses it, writes it, and says in the
 /// schema what it takes. A form that cannot write a value writes a discarded one, and the field is left out.
-
-/// Keeps the members in the order in which they are put in, so that a text reads as the gallery's files do.
-using Json = nlohmann::ordered_json;
-
-/// A record, by the description of its fields (scenario_records.h). Defined where they are used: in the reader, the
-/// writer and the maker of the schema.
-template <typename Record>
-void ReadRecord(const Value& value, Record& record);
-template <typename Record>
-Json WriteRecord(const Record& record);
-template <typename Record>
-Json RecordSchema();
 
 inline Json Discarded()
 {
@@ -211,12 +199,21 @@ struct OrNull
 template <typename Form>
 OrNull(Form) -> OrNull<Form>;
 
+/// A record, by the description of its fields (scenario_records.cpp).
 template <typename Record>
 struct Nested
 {
-    void Read(const Value& value, Record& record) const { ReadRecord(value, record); }
-    Json Write(const Record& record) const { return WriteRecord(record); }
-    Json Schema() const { return RecordSchema<Record>(); }
+    void Read(const Value& value, Record& record) const { ReadRecord(value, Describing(record)); }
+    Json Write(Record record) const
+    {
+        Record usual;
+        return WriteRecord(Describing(record), Describing(usual));
+    }
+    Json Schema() const
+    {
+        Record usual;
+        return RecordSchema(Describing(usual));
+    }
 };
 
 /// Refuses what is not an array of so many elements.
@@ -236,7 +233,7 @@ struct ListOf
         CheckSize(value, least, most);
         records.clear();
         for (std::size_t index = 0; index < value.Json().size(); ++index)
-            ReadRecord(value.Element(index), records.emplace_back());
+            Nested<Record>{}.Read(value.Element(index), records.emplace_back());
         std::map<std::string, std::size_t> first;
         for (std::size_t index = 0; identity != nullptr && index < records.size(); ++index)
         {
@@ -250,12 +247,12 @@ struct ListOf
     {
         Json array = Json::array();
         for (const Record& record : records)
-            array.push_back(WriteRecord(record));
+            array.push_back(Nested<Record>{}.Write(record));
         return array;
     }
     Json Schema() const
     {
-        Json schema = {{"type", "array"}, {"maxItems", most}, {"items", RecordSchema<Record>()}};
+        Json schema = {{"type", "array"}, {"maxItems", most}, {"items", Nested<Record>{}.Schema()}};
         if (least != 0)
             schema["minItems"] = least;
         return schema;

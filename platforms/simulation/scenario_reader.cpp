@@ -10,51 +10,42 @@ namespace calvix::simulation
 namespace
 {
 
-using nlohmann::json;
-
 /// Reads the fields of a record. A field that is wrong in itself is refused before what is wrong with the whole.
-class Reader : public FieldRows<Reader>
+class Reader final : public Fields
 {
 public:
     explicit Reader(const Value& place) : m_place(place) {}
 
-    void Record(const char* description)
+    void Record(const char* description) override
     {
         m_place = m_place.Expecting(description);
         if (!m_place.Json().is_object())
             m_place.RefuseType();
     }
 
-    template <typename Member, typename Form>
-    void Row(Presence presence, const char* name, Member& member, const Form& form, const char* description)
-    {
-        m_known.push_back(name);
-        RequireIf(presence == Presence::required, name);
-        if (m_place.Has(name))
-            form.Read(m_place.Member(name, description), member);
-    }
-
-    void ExactlyOne(const char* one, const char* other)
+    void ExactlyOne(const char* one, const char* other) override
     {
         RequireIf(!m_place.Has(other), one);
         NotBoth(one, other);
     }
 
-    void NotBoth(const char* one, const char* other)
+    void NotBoth(const char* one, const char* other) override
     {
         m_excludes = m_excludes || (m_place.Has(one) && m_place.Has(other));
     }
 
-    void Together(const char* one, const char* other)
+    void Together(const char* one, const char* other) override
     {
         RequireIf(m_place.Has(one), other);
         RequireIf(m_place.Has(other), one);
     }
 
-    void Alone(const char* name) { m_excludes = m_excludes || (m_place.Has(name) && m_place.Json().size() > 1); }
+    void Alone(const char* name) override
+    {
+        m_excludes = m_excludes || (m_place.Has(name) && m_place.Json().size() > 1);
+    }
 
-    template <typename Check>
-    void AfterReading(const Check& check)
+    void AfterReading(const std::function<void(const Value&)>& check) override
     {
         RefuseWhole();
         check(m_place.Expecting(""));
@@ -72,6 +63,14 @@ public:
     }
 
 private:
+    void Row(Presence presence, const char* name, const Field& field, const char* description) override
+    {
+        m_known.push_back(name);
+        RequireIf(presence == Presence::required, name);
+        if (m_place.Has(name))
+            field.Read(m_place.Member(name, description));
+    }
+
     void RequireIf(bool isNeeded, const char* name)
     {
         if (isNeeded && !m_place.Has(name) && m_missing == nullptr)
@@ -86,7 +85,7 @@ private:
 
 /// "[json.exception.parse_error.101] parse error at line 3, column 5: ..." from "line" on; what tells of no line, such as
 /// a number too large to be one, without its label.
-std::string SyntaxProblem(const json::exception& error)
+std::string SyntaxProblem(const Json::exception& error)
 {
     const std::string text = error.what();
     const std::size_t line = text.find("line ");
@@ -95,27 +94,26 @@ std::string SyntaxProblem(const json::exception& error)
 
 } // namespace
 
-template <typename Record>
-void ReadRecord(const Value& value, Record& record)
+void ReadRecord(const Value& value, const Description& record)
 {
     Reader reader(value);
-    Describe(reader, record);
+    record(reader);
     reader.RefuseWhole();
 }
 
 Scenario ParseScenario(const std::string& text, const std::string& source)
 {
-    json document;
+    Json document;
     try
     {
-        document = json::parse(text);
+        document = Json::parse(text);
     }
-    catch (const json::exception& error)
+    catch (const Json::exception& error)
     {
         throw ScenarioError(source + ": " + SyntaxProblem(error));
     }
     Scenario scenario;
-    ReadRecord(Value(document, source), scenario);
+    ReadRecord(Value(document, source), Describing(scenario));
     return scenario;
 }
 

@@ -14,12 +14,12 @@ bool IsWord(const Json& value)
 }
 
 /// Puts the fields of a record into a JSON Schema.
-class SchemaMaker : public FieldRows<SchemaMaker>
+class SchemaMaker final : public Fields
 {
 public:
     Json schema;
 
-    void Record(const char* description)
+    void Record(const char* description) override
     {
         schema = {{"description", description},
                   {"type", "object"},
@@ -27,46 +27,48 @@ public:
                   {"properties", Json::object()}};
     }
 
-    template <typename Member, typename Form>
-    void Row(Presence presence, const char* name, const Member& usual, const Form& form, const char* description)
-    {
-        Json& property = schema["properties"][name];
-        if (*description != '\0')
-            property["description"] = description;
-        property.update(form.Schema());
-        if (presence == Presence::required)
-            schema["required"].push_back(name);
-        else if (const Json value = form.Write(usual); IsWord(value))
-            property["default"] = value;
-    }
-
-    void ExactlyOne(const char* one, const char* other)
+    void ExactlyOne(const char* one, const char* other) override
     {
         schema["oneOf"] = {{{"required", {one}}}, {{"required", {other}}}};
     }
 
-    void NotBoth(const char* one, const char* other) { schema["not"] = {{"required", {one, other}}}; }
+    void NotBoth(const char* one, const char* other) override { schema["not"] = {{"required", {one, other}}}; }
 
-    void Together(const char* one, const char* other) { schema["dependencies"] = {{one, {other}}, {other, {one}}}; }
+    void Together(const char* one, const char* other) override
+    {
+        schema["dependencies"] = {{one, {other}}, {other, {one}}};
+    }
 
-    void Alone(const char* name) { schema["dependencies"] = {{name, {{"maxProperties", 1}}}}; }
+    void Alone(const char* name) override { schema["dependencies"] = {{name, {{"maxProperties", 1}}}}; }
+
+private:
+    void Row(Presence presence, const char* name, const Field& field, const char* description) override
+    {
+        Json& property = schema["properties"][name];
+        if (*description != '\0')
+            property["description"] = description;
+        property.update(field.Schema());
+        if (presence == Presence::required)
+            schema["required"].push_back(name);
+        else if (const Json value = field.Write(); IsWord(value))
+            property["default"] = value;
+    }
 };
 
 } // namespace
 
-template <typename Record>
-Json RecordSchema()
+Json RecordSchema(const Description& record)
 {
     SchemaMaker maker;
-    Record usual;
-    Describe(maker, usual);
+    record(maker);
     return maker.schema;
 }
 
 std::string ScenarioSchema()
 {
+    Scenario usual;
     Json schema = {{"$schema", "http://json-schema.org/draft-07/schema#"}, {"title", "Calvix scenario"}};
-    schema.update(RecordSchema<Scenario>());
+    schema.update(RecordSchema(Describing(usual)));
     return SchemaText(schema) + "\n";
 }
 

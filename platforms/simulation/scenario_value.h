@@ -10,16 +10,19 @@
 namespace calvix::simulation
 {
 
+/// Keeps the members in the order in which they are put in, so that a text reads as the gallery's files do.
+using Json = nlohmann::ordered_json;
+
 /// A value of a scenario file that knows its place and what belongs there, so that a refusal names both.
 class Value
 {
 public:
-    Value(const nlohmann::json& json, const std::string& source, std::string pointer = "", const char* expected = "")
+    Value(const simulation::Json& json, const std::string& source, std::string pointer = "", const char* expected = "")
         : m_json(&json), m_source(&source), m_pointer(std::move(pointer)), m_expected(expected)
     {
     }
 
-    const nlohmann::json& Json() const { return *m_json; }
+    const simulation::Json& Json() const { return *m_json; }
     bool Has(const char* name) const { return m_json->contains(name); }
 
     /// The member of this name, which is there, and what a refusal says belongs there.
@@ -52,7 +55,7 @@ public:
     [[noreturn]] void RefuseType() const { Refuse("not of the type required"); }
 
 private:
-    const nlohmann::json* m_json;
+    const simulation::Json* m_json;
     const std::string* m_source;
     std::string m_pointer;
     const char* m_expected;

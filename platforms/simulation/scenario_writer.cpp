@@ -1,5 +1,7 @@
 #include "simulation/scenario_fields.h"
 
+#include <vector>
+
 namespace calvix::simulation
 {
 
@@ -7,16 +9,18 @@ namespace
 {
 
 /// Writes the fields of a record. What is optional is kept apart until it is known whether it has its default.
-class Writer : public FieldRows<Writer>
+class Writer final : public Fields
 {
 public:
+    explicit Writer(const Description& described) { described(*this); }
+
     Json record = Json::object();
     std::vector<const char*> optional;
 
-    template <typename Member, typename Form>
-    void Row(Presence presence, const char* name, const Member& member, const Form& form, const char*)
+private:
+    void Row(Presence presence, const char* name, const Field& field, const char*) override
     {
-        Json value = form.Write(member);
+        Json value = field.Write();
         if (!value.is_discarded())
             record[name] = std::move(value);
         if (presence == Presence::optional)
@@ -24,30 +28,23 @@ public:
     }
 };
 
-template <typename Record>
-Writer WriteAll(Record record)
-{
-    Writer writer;
-    Describe(writer, record);
-    return writer;
-}
-
 } // namespace
 
-template <typename Record>
-Json WriteRecord(const Record& record)
+Json WriteRecord(const Description& record, const Description& usual)
 {
-    static const Json usual = WriteAll(Record{}).record;
-    Writer writer = WriteAll(record);
-    for (const char* name : writer.optional)
-        if (writer.record.contains(name) && usual.contains(name) && writer.record[name] == usual[name])
-            writer.record.erase(name);
-    return writer.record;
+    Writer written(record);
+    const Json defaults = Writer(usual).record;
+    for (const char* name : written.optional)
+        if (written.record.contains(name) && defaults.contains(name) && written.record[name] == defaults[name])
+            written.record.erase(name);
+    return written.record;
 }
 
 std::string WriteScenario(const Scenario& scenario)
 {
-    return WriteRecord(scenario).dump(2) + "\n";
+    Scenario copy = scenario;
+    Scenario usual;
+    return WriteRecord(Describing(copy), Describing(usual)).dump(2) + "\n";
 }
 
 } // namespace calvix::simulation

@@ -1,5 +1,3 @@
-#pragma once
-
 #include "forms/address_text.h"
 #include "forms/hex_text.h"
 #include "simulation/scenario_checks.h"
@@ -37,7 +35,6 @@ inline constexpr Text kKey{128};
 inline constexpr Whole kUpToAnHour{0, 3600000};
 inline constexpr Whole kLegacyId{0, 4294967294};
 
-template <typename Fields>
 void Describe(Fields& fields, PhyDescription& phy)
 {
     fields.Record("A PHY of an adapter; its radio is on when both switches are.");
@@ -46,7 +43,6 @@ void Describe(Fields& fields, PhyDescription& phy)
     fields.Shown("hardware", phy.hardware, OneOf<RadioSwitch>{kSwitchNames}, kSwitchText);
 }
 
-template <typename Fields>
 void Describe(Fields& fields, SignalPoint& point)
 {
     fields.Record("The signal strength at a moment: from one point to the next it changes evenly.");
@@ -55,7 +51,6 @@ void Describe(Fields& fields, SignalPoint& point)
                     "The signal strength in dBm, or null: off the air until the next point.");
 }
 
-template <typename Fields>
 void Describe(Fields& fields, AccessPoint& point)
 {
     std::string band;
@@ -98,7 +93,6 @@ void Describe(Fields& fields, AccessPoint& point)
     fields.AfterReading([&](const Value& place) { CompleteAccessPoint(place, band, channel, point); });
 }
 
-template <typename Fields>
 void Describe(Fields& fields, StoredProfile& profile)
 {
     ProfileSettings shortForm;
@@ -124,7 +118,6 @@ void Describe(Fields& fields, StoredProfile& profile)
     fields.AfterReading([&](const Value& place) { CompleteProfile(place, shortForm, profile); });
 }
 
-template <typename Fields>
 void Describe(Fields& fields, Connection& connection)
 {
     fields.Record("What the adapter is connected to when the scenario begins.");
@@ -136,7 +129,6 @@ void Describe(Fields& fields, Connection& connection)
     fields.Optional("transmitKbps", connection.transmitKbps, Whole{}, "The same for what the link transmits.");
 }
 
-template <typename Fields>
 void Describe(Fields& fields, Statistics& statistics)
 {
     fields.Record("What the adapter has counted so far.");
@@ -144,7 +136,6 @@ void Describe(Fields& fields, Statistics& statistics)
     fields.Shown("received", statistics.received, kCount, "Unicast frames received.");
 }
 
-template <typename Fields>
 void Describe(Fields& fields, IhvRequest& request)
 {
     fields.Record("A request to the driver, and the answer to it: either bytes or a platform error number.");
@@ -155,7 +146,6 @@ void Describe(Fields& fields, IhvRequest& request)
     fields.Optional("error", request.error, OrNull{Whole{1}}, "The platform error number that the request fails with.");
 }
 
-template <typename Fields>
 void Describe(Fields& fields, AdapterDescription& adapter)
 {
     std::vector<IhvRequest> requests = RequestsOf(adapter);
@@ -187,7 +177,6 @@ void Describe(Fields& fields, AdapterDescription& adapter)
     fields.AfterReading([&](const Value& place) { CompleteAdapter(place, requests, adapter); });
 }
 
-template <typename Fields>
 void Describe(Fields& fields, PowerValue& value)
 {
     fields.Record("The values of a setting on mains power (ac) and on battery (dc).");
@@ -197,7 +186,6 @@ void Describe(Fields& fields, PowerValue& value)
     fields.Shown("dc", value.dc, Whole{}, "The setting's value on battery.");
 }
 
-template <typename Fields>
 void Describe(Fields& fields, PowerScheme& scheme)
 {
     fields.Record("A power scheme: its GUID, its name as either name or nameHex, and its values.");
@@ -212,7 +200,6 @@ void Describe(Fields& fields, PowerScheme& scheme)
                     "written.");
 }
 
-template <typename Fields>
 void Describe(Fields& fields, LegacyPowerScheme& scheme)
 {
     fields.Record("A power scheme of the older kind: its number, its name and what differs from the defaults.");
@@ -224,7 +211,6 @@ void Describe(Fields& fields, LegacyPowerScheme& scheme)
     fields.Shown("videoTimeoutDc", scheme.videoTimeoutDc, Whole{}, kSecondsText);
 }
 
-template <typename Fields>
 void Describe(Fields& fields, PowerDescription& power)
 {
     fields.Record("Power management: what the computer can do, when it slept, and its power schemes.");
@@ -266,7 +252,6 @@ void Describe(Fields& fields, PowerDescription& power)
     fields.AfterReading([&](const Value& place) { CompletePower(place, power); });
 }
 
-template <typename Fields>
 void Describe(Fields& fields, Privilege& privilege)
 {
     fields.Record("A privilege that the token holds.");
@@ -275,7 +260,6 @@ void Describe(Fields& fields, Privilege& privilege)
     fields.AfterReading([&](const Value& place) { CompletePrivilege(place, privilege); });
 }
 
-template <typename Fields>
 void Describe(Fields& fields, Program& program)
 {
     fields.Record("A program that can be started.");
@@ -285,7 +269,6 @@ void Describe(Fields& fields, Program& program)
     fields.Shown("exitCode", program.exitCode, Whole{}, kExitCodeText);
 }
 
-template <typename Fields>
 void Describe(Fields& fields, RunningProcess& process)
 {
     fields.Record("A process that runs.");
@@ -298,7 +281,6 @@ void Describe(Fields& fields, RunningProcess& process)
                  "Whether it belongs to another user, so that opening it takes SeDebugPrivilege.");
 }
 
-template <typename Fields>
 void Describe(Fields& fields, Scenario& scenario)
 {
     std::string schema;
