@@ -3,8 +3,10 @@
 #include "methods/method.h"
 #include "support/contract_table.h"
 #include "support/fatal_errors.h"
+#include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
+#include <map>
 
 namespace calvix::test::failure_contract_test
 {
@@ -60,8 +62,16 @@ struct Contract
     *stream << contract.method;
 }
 
-/// The row of the computer without an adapter.
-constexpr const char* kNoAdapterAtAll = "";
+// In the place of an operation: where there is nothing for the methods.
+constexpr const char* kNoAdapterAtAll = "no adapter";
+constexpr const char* kNoProfileAtAll = "no profile";
+constexpr const char* kNothingHeard = "nothing heard";
+constexpr const char* kNotConnectedAtAll = "not connected";
+
+const std::map<std::string, simulation::Scenario (*)()> kEmptyWorlds = {{kNoAdapterAtAll, NoAdapterWorld},
+                                                                        {kNoProfileAtAll, NoProfileWorld},
+                                                                        {kNothingHeard, SilentWorld},
+                                                                        {kNotConnectedAtAll, DisconnectedWorld}};
 
 constexpr const char* kNameError = "Profile Name error: %u";
 constexpr const char* kSetStateFailed = "set state failed!err is %u";
@@ -79,7 +89,7 @@ void SaveNotification(LibraryTest& test)
 
 const std::vector<Failing> kFirstInterface = {{"WlanOpenHandle", -1},
                                               {"WlanEnumInterfaces", -2},
-                                              {kNoAdapterAtAll, -3, Lines{"No valid WLAN adapter"}},
+                                              {kNoAdapterAtAll, -3, Lines{kNoAdapterText}},
                                               {"WlanQueryInterface", -4}};
 const std::vector<Failing> kQuery = {{"WlanOpenHandle", -1}, {"WlanQueryInterface", -4}};
 /// A radio whose state cannot be read is neither on nor off.
@@ -268,6 +278,137 @@ const Contract kSystem[] = {
     {"OpenUrl", nothing, {{"InternetSetOptionA", 0, {}, true}, {"InternetCheckConnectionA", -1}}},
 };
 
+const Lines kNoAdapterLine = {kNoAdapterText};
+const Lines kNotConnectedLine = {kNotConnected};
+
+const std::vector<Failing> kCollect = {{"WlanOpenHandle", -2},
+                                       {"WlanGetProfileList", -5},
+                                       {kNoProfileAtAll, -6, Lines{"No network profile: 4294967290"}},
+                                       {"WlanGetAvailableNetworkList", -7},
+                                       {kNothingHeard, -8, Lines{"No available network: 4294967288"}}};
+
+/// The current connection, of which there must be one.
+std::vector<Failing> AfterConnection(std::vector<Failing> failures)
+{
+    const Failing connection[] = {
+        {"WlanOpenHandle", -1}, {"WlanQueryInterface", -4}, {kNotConnectedAtAll, -4, kNotConnectedLine}};
+    failures.insert(failures.begin(), std::begin(connection), std::end(connection));
+    return failures;
+}
+
+const Contract kInventory[] = {
+    {"GetAvailableNetworkCount", shared, {{"WlanOpenHandle", -2}, {"WlanGetAvailableNetworkList", -5}}},
+    {"GetNetworkBssCount",
+     local,
+     {{"WlanOpenHandle", -2},
+      {"WlanEnumInterfaces", -3},
+      {kNoAdapterAtAll, -4, kNoAdapterLine},
+      {"WlanGetNetworkBssList", -5}}},
+    {"GetConnectableNetworkCount", local, kCollect},
+    {"GetAP",
+     local,
+     {{"WlanOpenHandle", -1}, {"WlanGetAvailableNetworkList", -3}, {kNothingHeard, -4, Lines{kNetworksReleased}}}},
+    {"GetNotConnectableReason",
+     local,
+     {{"WlanOpenHandle", -1}, {"WlanGetAvailableNetworkList", -4}, {kNothingHeard, -5, Lines{}}}},
+    // Deliberate: a failure answers like a network that is still in view.
+    {"IsWiFiDisappear",
+     local,
+     {{"WlanOpenHandle", 0},
+      {"WlanQueryInterface", 0},
+      {kNotConnectedAtAll, 0, kNotConnectedLine},
+      {"WlanGetNetworkBssList", 0, Lines{kBssFailed, kConnectionReleased}}}},
+    {"GetCurrentBSS",
+     local,
+     {{"WlanOpenHandle", -1},
+      {"WlanEnumInterfaces", -2},
+      {kNoAdapterAtAll, -3, Lines{kInterfacesReleased}},
+      {"WlanQueryInterface", -4, Lines{"WlanQueryInterface failed with error: %u", kInterfacesReleased}},
+      {kNotConnectedAtAll, -4, Lines{kNotConnected, kInterfacesReleased}},
+      {"WlanGetNetworkBssList", -5, Lines{kBssFailed, kConnectionReleased, kInterfacesReleased}}}},
+    {"GetRssi", local, AfterConnection({})},
+    {"GetCurrentRSSI", local, AfterConnection({{"WlanGetNetworkBssList", -5, Lines{kBssFailed, kConnectionReleased}}})},
+    // Deliberate: after the handle is open, a failure answers like a network at the floor of the scale.
+    {"GetWiFiRSSI",
+     local,
+     {{"WlanOpenHandle", -1}, {"WlanGetAvailableNetworkList", -100}, {kNothingHeard, -100, Lines{}}}},
+    {"GetSignalQuality", shared, AfterConnection({})},
+    // Deliberate: the platform's own error number, beside -1 for the handle.
+    {"GetSoftAPList", local, {{"WlanOpenHandle", -1}, {"WlanGetAvailableNetworkList", kItsError}}},
+    {"SpecialSoftAP",
+     local,
+     {{"WlanOpenHandle", false},
+      {"WlanEnumInterfaces", false},
+      {kNoAdapterAtAll, false, kNoAdapterLine},
+      {"WlanQueryInterface", false},
+      {kNotConnectedAtAll, false, kNotConnectedLine}}},
+};
+
+/// Lists of profiles and networks, of which there must be some. The codes are traced as unsigned numbers.
+std::vector<Failing> AfterLists(std::vector<Failing> failures)
+{
+    const Failing lists[] = {{"WlanOpenHandle", -1},
+                             {"WlanGetProfileList", -4},
+                             {kNoProfileAtAll, -5, Lines{"No network profile: 4294967291"}},
+                             {"WlanGetAvailableNetworkList", -6},
+                             {kNothingHeard, -7, Lines{"No available network: 4294967289"}}};
+    failures.insert(failures.begin(), std::begin(lists), std::end(lists));
+    return failures;
+}
+
+/// Of the three networks in view that profiles are stored for.
+const Lines kThreeRefused = {3, "WlanConnect failed with error: %u"};
+
+const std::vector<Failing> kBest = AfterLists({{"WlanGetNetworkBssList", -10}, {"WlanConnect", -12}});
+
+/// Another access point of the network is better than the connected one.
+void WeakenConnection(LibraryTest& test)
+{
+    simulation::Scenario world = RichWorld();
+    world.accessPoints[0].rssi = -88;
+    test.UseWorld(world);
+}
+
+const Contract kAutomatic[] = {
+    {"GetMatchAPList", local, kCollect},
+    {"GetConnectableAPList(GUID const*", local, kCollect},
+    {"GetConnectableAPList(wchar_t*",
+     local,
+     {{"WlanOpenHandle", -2},
+      {"WlanEnumInterfaces", -3},
+      {kNoAdapterAtAll, -4, Lines{"No valid WLAN adapter: 4294967292"}},
+      {"WlanGetProfileList", -5},
+      {"WlanGetAvailableNetworkList", -7}}},
+    {"GetMatchAPCount(GUID const*, std::vector<std::wstring>*, int)", local, kCollect},
+    // Deliberate: signed here, where the other methods trace the codes as unsigned numbers.
+    {"GetMatchBSSID",
+     local,
+     {{"WlanOpenHandle", -2},
+      {"WlanGetProfileList", -5},
+      {kNoProfileAtAll, -6, Lines{"No network profile: -6"}},
+      {"WlanGetAvailableNetworkList", -7},
+      {kNothingHeard, -8, Lines{"No available network: -8"}}}},
+    {"ConnectBestAP(GUID const*, std::vector<WLAN_BSS_ENTRY>*, wchar_t", shared, kBest},
+    {"ConnectBestAP(GUID const*, std::vector<WLAN_BSS_ENTRY>*)", shared, kBest},
+    {"ConnectBestAP(GUID const*, wchar_t", shared, kBest},
+    {"ConnectBestAP(GUID const*)", shared, kBest},
+    {"AutoConnectEx", shared, AfterLists({{"WlanGetNetworkBssList", -10}, {"WlanConnect", -12, kThreeRefused}})},
+    // Deliberate: walks on which every request was refused report success.
+    {"AutoConnect", shared, AfterLists({{"WlanConnect", 0, kThreeRefused}})},
+    {"AutoSwitch",
+     local,
+     {{"WlanOpenHandle", -1},
+      {"WlanQueryInterface", -3},
+      {kNotConnectedAtAll, -3, kNotConnectedLine},
+      {"WlanGetProfileList", -4},
+      {"WlanSetProfilePosition", -5},
+      {"WlanGetAvailableNetworkList", -6},
+      {"WlanConnect", 0, kThreeRefused}}},
+    {"PreRoaming", local, AfterConnection({{"WlanGetNetworkBssList", -6, Lines{}}}), WeakenConnection},
+    {"Roaming", local, AfterConnection({{"WlanGetNetworkBssList", -6, Lines{}}, {"WlanConnect", -9}}),
+     WeakenConnection},
+};
+
 std::vector<Contract> EveryContract()
 {
     std::vector<Contract> all;
@@ -280,6 +421,8 @@ std::vector<Contract> EveryContract()
     add(kFrame);
     add(kTexts);
     add(kSystem);
+    add(kInventory);
+    add(kAutomatic);
     return all;
 }
 
@@ -312,7 +455,8 @@ public:
         {
             methods::Call call(method, arguments);
             call.Make(manager);
-            EXPECT_THAT(call.Outcome().outputs, ::testing::Each(::testing::AnyOf(methods::kUntouched, "null")));
+            EXPECT_THAT(call.Outcome().outputs,
+                        ::testing::Each(::testing::AnyOf(methods::kUntouched, "null", "0 entries")));
             return call.Outcome().code.value();
         };
     }
@@ -323,17 +467,19 @@ public:
         const Lines usual = {failing.operation + " failed with error: %u"};
         FailureRow row{.method = contract.method,
                        .call = CallWith(arguments),
-                       .failingOperation = failing.operation,
                        .expected = failing.code,
                        .traced = failing.traced.value_or(contract.traces == nothing ? Lines() : usual),
                        .buffer = contract.traces == shared ? TraceBuffer::shared : TraceBuffer::local,
                        .error = contract.error,
                        .fromCall = failing.fromCall,
-                       .ends = !failing.goesOn && !failing.operation.empty()};
-        if (failing.operation == kNoAdapterAtAll)
-            row.prepare = [](LibraryTest& test) { test.UseWorld(NoAdapterWorld()); };
-        else if (contract.prepare != nullptr)
-            row.prepare = contract.prepare;
+                       .prepare = contract.prepare};
+        if (const auto world = kEmptyWorlds.find(failing.operation); world != kEmptyWorlds.end())
+            row.prepare = [make = world->second](LibraryTest& test) { test.UseWorld(make()); };
+        else
+        {
+            row.failingOperation = failing.operation;
+            row.ends = !failing.goesOn;
+        }
         return row;
     }
 

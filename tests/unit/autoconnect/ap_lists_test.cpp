@@ -135,30 +135,6 @@ public:
 
 } // namespace
 
-// --- What all have in common ------------------------------------------------------------------------------------
-
-TEST_F(ApListsTest, FailuresOfTheLists)
-{
-    for (const Method& method : Methods())
-    {
-        const Failures list(*this, method.name, method.callExpectingNothing, TraceBuffer::local);
-        list.When("WlanOpenHandle", -2);
-        list.When("WlanGetProfileList", -5);
-        list.When("WlanGetAvailableNetworkList", -7);
-        // The codes are traced as unsigned numbers.
-        list.In(NoProfileWorld(), -6, {"No network profile: 4294967290"});
-        list.In(SilentWorld(), -8, {"No available network: 4294967288"});
-    }
-}
-
-TEST_F(ApListsTest, FailuresOfTheInterfaceList)
-{
-    const Method method = Methods()[2];
-    const Failures list(*this, method.name, method.callExpectingNothing, TraceBuffer::local);
-    list.When("WlanEnumInterfaces", -3);
-    list.In(NoAdapterWorld(), -4, {"No valid WLAN adapter: 4294967292"});
-}
-
 TEST_F(ApListsTest, FailingBssQueriesContributeNothing)
 {
     const std::vector<std::size_t> matches = {3, 1, 1, 3, 1};
@@ -166,15 +142,6 @@ TEST_F(ApListsTest, FailingBssQueriesContributeNothing)
     for (std::size_t i = 0; i < methods.size(); ++i)
         Failures(*this, methods[i].name, methods[i].callExpectingNothing, TraceBuffer::local)
             .When("WlanGetNetworkBssList", 0, std::vector<std::string>(matches[i] - 1, kBssFailed));
-}
-
-TEST_F(ApListsTest, AnUnknownInterfaceFailsWithItsFirstQuery)
-{
-    Entries list;
-    EXPECT_EQ(-5, manager().GetMatchAPList(&kNoAdapter, &list));
-    EXPECT_EQ(-5, manager().GetMatchAPList(nullptr, &list));
-    EXPECT_THAT(traced(),
-                ElementsAre("WlanGetProfileList failed with error: 87", "WlanGetProfileList failed with error: 87"));
 }
 
 TEST_F(ApListsTest, ANullContainerIsRefusedBeforeAnything)

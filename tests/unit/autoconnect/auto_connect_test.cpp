@@ -33,11 +33,6 @@ simulation::Scenario TwoNetworks()
                    {Heard("Second", 2412000, -55), Heard("Nobody's", 2412000, -60), Heard("First", 2412000, -80)});
 }
 
-simulation::Scenario WithoutMatch()
-{
-    return WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)});
-}
-
 class AutoConnectTest : public LibraryTest
 {
 public:
@@ -93,38 +88,6 @@ TEST_F(AutoConnectTest, AProfileIsTriedWithEachOfItsNetworks)
     EXPECT_EQ(ConnectLine("Second"), call("WlanConnect", 3).line);
 }
 
-TEST_F(AutoConnectTest, Failures)
-{
-    const Failures connect(*this, "AutoConnect", Auto);
-    connect.When("WlanOpenHandle", -1);
-    connect.When("WlanGetProfileList", -4);
-    connect.When("WlanGetAvailableNetworkList", -6);
-    connect.In(WithoutMatch(), -9);
-    // Deliberate: a walk on which every request was refused reports success.
-    connect.When("WlanConnect", 0, {kConnectFailed});
-}
-
-// --- Both -------------------------------------------------------------------------------------------------------
-
-// The codes are traced as unsigned numbers.
-TEST_F(AutoConnectTest, NothingToMatch)
-{
-    for (const Failures& connect : {Failures(*this, "AutoConnect", Auto), Failures(*this, "AutoConnectEx", AutoEx)})
-    {
-        connect.In(NoProfileWorld(), -5, {"No network profile: 4294967291"});
-        connect.In(SilentWorld(), -7, {"No available network: 4294967289"});
-    }
-    UseWorld(NoProfileWorld());
-    EXPECT_EQ(-5, Auto(manager()));
-    EXPECT_THAT(calls(), ElementsAre("WlanGetProfileList", "WlanFreeMemory")) << "networks are not asked for";
-}
-
-TEST_F(AutoConnectTest, ANullInterfaceIsTheServicesToRefuse)
-{
-    EXPECT_EQ(-4, manager().AutoConnect(nullptr));
-    EXPECT_EQ(-4, manager().AutoConnectEx(nullptr));
-}
-
 // --- AutoConnectEx ----------------------------------------------------------------------------------------------
 
 // Deliberate: from the weakest upward. Modes do not matter, so that no profile is read.
@@ -143,17 +106,6 @@ TEST_F(AutoConnectExTest, ARefusedRequestIsFollowedByTheNext)
     EXPECT_EQ(0, AutoEx(manager()));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First", "Second"));
     EXPECT_EQ("WlanConnect failed with error: 1234", sharedTrace());
-}
-
-TEST_F(AutoConnectExTest, Failures)
-{
-    const Failures connect(*this, "AutoConnectEx", AutoEx);
-    connect.When("WlanOpenHandle", -1);
-    connect.When("WlanGetProfileList", -4);
-    connect.When("WlanGetAvailableNetworkList", -6);
-    connect.When("WlanGetNetworkBssList", CodeOf("AutoConnectEx", host::Cause::bssListFailed));
-    connect.When("WlanConnect", -12, {kConnectFailed});
-    connect.In(WithoutMatch(), -9);
 }
 
 TEST_F(AutoConnectExTest, AnEmptyBssListEndsItWithoutATrace)

@@ -116,19 +116,6 @@ TEST_F(AutoSwitchTest, ASingleProfileIsNotMovedAndMayBeConnectedAgain)
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Old"));
 }
 
-TEST_F(AutoSwitchTest, Failures)
-{
-    const Failures change(*this, "AutoSwitch", Switch, TraceBuffer::local);
-    change.When("WlanOpenHandle", -1);
-    change.When("WlanQueryInterface", -3);
-    change.When("WlanGetProfileList", -4);
-    change.When("WlanSetProfilePosition", -5);
-    change.When("WlanGetAvailableNetworkList", -6);
-    change.In(DisconnectedWorld(), -3, {kNotConnected});
-    // Deliberate: a walk on which every request was refused reports success.
-    change.When("WlanConnect", 0, {kConnectFailed});
-}
-
 // No list is looked at for being empty: nothing matches, that is all.
 TEST_F(AutoSwitchTest, WhereNothingMatchesItIsMinusSevenWithoutATrace)
 {

@@ -1,8 +1,8 @@
+#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/failures.h"
 
 #include <algorithm>
 #include <string>
@@ -103,22 +103,16 @@ TEST_F(BestApTest, TheNetworksOwnBssTypeIsAskedFor)
 
 // --- Failures ---------------------------------------------------------------------------------------------------
 
-TEST_F(BestApTest, Failures)
+TEST_F(BestApTest, FailuresBesideTheLists)
 {
     for (const auto& [name, call] : Overloads())
     {
-        const Failures best(*this, name, call);
-        best.When("WlanOpenHandle", -1);
-        best.When("WlanGetProfileList", -4);
-        best.When("WlanGetAvailableNetworkList", -6);
-        best.When("WlanGetNetworkBssList", -10);
-        best.When("WlanConnect", -12, {kConnectFailed});
-        // The codes are traced as unsigned numbers.
-        best.In(NoProfileWorld(), -5, {"No network profile: 4294967291"});
-        best.In(SilentWorld(), -7, {"No available network: 4294967289"});
-        best.In(WorldOf({Profile("Net", "manual"), Profile("GoneNet")}, {Heard("Net", 2412000, -50)}), -9);
-        const Failures read(*this, name, call, TraceBuffer::local);
-        read.When("WlanGetProfile", -9, {"WlanGetProfile failed with error: %u"});
+        const char* const unread = "WlanGetProfile failed with error: %u";
+        CheckFailure(*this, {name, call, "WlanGetProfile", -9, {unread, unread}, TraceBuffer::local});
+        UseWorld(WorldOf({Profile("Net", "manual"), Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+        EXPECT_EQ(-9, call(manager()));
+        ExpectSilence();
+        UseWorld(TwoNetworks(-60, -70));
     }
 }
 

@@ -24,6 +24,5 @@ inline std::vector<std::string> RequestedProfiles(const LibraryTest& test)
 }
 
 inline constexpr const char* kConnectFailed = "WlanConnect failed with error: %u";
-inline constexpr const char* kMoveFailed = "WlanSetProfilePosition failed with error: %u";
 
 } // namespace calvix::test

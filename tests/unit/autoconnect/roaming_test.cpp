@@ -2,7 +2,6 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -176,19 +175,6 @@ TEST_F(RoamingTest, NoAccessPointInView)
     ExpectNothingHeld();
 }
 
-TEST_F(RoamingTest, Failures)
-{
-    for (const auto& [name, method] : kMethods)
-    {
-        const Failures roam(*this, name, method, TraceBuffer::local);
-        roam.When("WlanOpenHandle", -1);
-        roam.When("WlanQueryInterface", -4);
-        roam.WhenTracing("WlanGetNetworkBssList", -6, {});
-        roam.In(DisconnectedWorld(), -4, {kNotConnected});
-    }
-    Failures(*this, "Roaming", kMethods[1].call, TraceBuffer::local).When("WlanConnect", -9);
-}
-
 TEST_F(RoamingTest, ARefusedMoveLeavesTheConnectionAlone)
 {
     FailOn("WlanConnect");
@@ -198,12 +184,6 @@ TEST_F(RoamingTest, ARefusedMoveLeavesTheConnectionAlone)
     WLAN_CONNECTION_ATTRIBUTES now{};
     EXPECT_EQ(0, manager().GetCurrentConnection(&kAdapterA, &now));
     EXPECT_EQ(1, now.wlanAssociationAttributes.dot11Bssid[5]);
-}
-
-TEST_F(RoamingTest, ANullInterfaceIsTheServicesToRefuse)
-{
-    EXPECT_EQ(-4, manager().PreRoaming(nullptr));
-    EXPECT_EQ(-4, manager().Roaming(nullptr));
 }
 
 } // namespace calvix::test::roaming_test

@@ -1,8 +1,8 @@
+#include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/failures.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -180,17 +180,6 @@ TEST_F(TimestampDriftTest, AccessPointsAreDistinguishedByTheirWholeAddress)
 }
 
 // --- Problems ---------------------------------------------------------------------------------------------------
-
-TEST_F(TimestampDriftTest, FailuresOfTheLists)
-{
-    const Failures drift(*this, "GetMatchBSSID", Drift, TraceBuffer::local);
-    drift.When("WlanOpenHandle", -2);
-    drift.When("WlanGetProfileList", -5);
-    drift.When("WlanGetAvailableNetworkList", -7);
-    // Deliberate: signed here, where the other methods trace the codes as unsigned numbers.
-    drift.In(NoProfileWorld(), -6, {"No network profile: -6"});
-    drift.In(SilentWorld(), -8, {"No available network: -8"});
-}
 
 TEST_F(TimestampDriftTest, FailuresOfTheBssLists)
 {

@@ -1,6 +1,5 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -17,21 +16,6 @@ namespace
 class NetworkCountsTest : public LibraryTest
 {
 };
-
-long long CountNetworks(CWirelessManage& manager)
-{
-    return manager.GetAvailableNetworkCount(&kAdapterA);
-}
-
-long long CountBss(CWirelessManage& manager)
-{
-    return manager.GetNetworkBssCount();
-}
-
-long long CountConnectable(CWirelessManage& manager)
-{
-    return manager.GetConnectableNetworkCount(&kAdapterA);
-}
 
 template <typename Record>
 void Name(Record& record, const wchar_t* profile)
@@ -158,36 +142,6 @@ TEST_F(NetworkCountsTest, NoMatchIsNotAFailure)
     EXPECT_TRUE(traced().empty());
 }
 
-// --- Failures ---
-
-TEST_F(NetworkCountsTest, EveryWayToFail)
-{
-    const Failures networks(*this, "GetAvailableNetworkCount", CountNetworks);
-    networks.When("WlanOpenHandle", -2);
-    networks.When("WlanGetAvailableNetworkList", -5);
-
-    const Failures bss(*this, "GetNetworkBssCount", CountBss, TraceBuffer::local);
-    bss.When("WlanOpenHandle", -2);
-    bss.When("WlanEnumInterfaces", -3);
-    bss.In(NoAdapterWorld(), -4, {kNoAdapterText});
-    bss.When("WlanGetNetworkBssList", -5);
-
-    const Failures connectable(*this, "GetConnectableNetworkCount", CountConnectable, TraceBuffer::local);
-    connectable.When("WlanOpenHandle", -2);
-    connectable.When("WlanGetProfileList", -5);
-    connectable.When("WlanGetAvailableNetworkList", -7);
-    // Deliberate: the number in these two lines is the method's own code, printed as an unsigned number.
-    connectable.In(NoProfileWorld(), -6, {"No network profile: 4294967290"});
-    connectable.In(SilentWorld(), -8, {"No available network: 4294967288"});
-}
-
-TEST_F(NetworkCountsTest, WithoutProfilesTheNetworksAreNotAskedFor)
-{
-    UseWorld(NoProfileWorld());
-    EXPECT_EQ(-6, manager().GetConnectableNetworkCount(&kAdapterA));
-    EXPECT_THAT(calls(), ElementsAre("WlanGetProfileList", "WlanFreeMemory"));
-}
-
 TEST_F(NetworkCountsTest, OnlyTheFirstAdapterCountsForBss)
 {
     computer().SetRadio(0, 0, simulation::RadioSwitch::off, simulation::RadioSwitch::on);
@@ -195,14 +149,6 @@ TEST_F(NetworkCountsTest, OnlyTheFirstAdapterCountsForBss)
     computer().SetRadio(0, 2, simulation::RadioSwitch::off, simulation::RadioSwitch::on);
     EXPECT_EQ(-5, manager().GetNetworkBssCount()) << "adapter B could still be asked";
     EXPECT_THAT(traced(), ElementsAre("WlanGetNetworkBssList failed with error: 2150899714"));
-}
-
-TEST_F(NetworkCountsTest, ANullInterfaceIsTheServicesToRefuse)
-{
-    EXPECT_EQ(-5, manager().GetAvailableNetworkCount(nullptr));
-    EXPECT_EQ(-5, manager().GetConnectableNetworkCount(nullptr));
-    EXPECT_THAT(traced(), ElementsAre("WlanGetAvailableNetworkList failed with error: 87",
-                                      "WlanGetProfileList failed with error: 87"));
 }
 
 } // namespace calvix::test::network_counts_test

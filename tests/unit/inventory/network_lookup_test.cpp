@@ -1,6 +1,5 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cstring>
@@ -37,24 +36,6 @@ public:
     unsigned long m_reason = 78;
 };
 
-long long FindHomeNet(CWirelessManage& manager)
-{
-    DOT11_SSID wanted = MakeSsid("HomeNet");
-    return manager.GetAP(&kAdapterA, &wanted);
-}
-
-/// GetNotConnectableReason that has to leave its outputs alone.
-long long ExplainHomeNet(CWirelessManage& manager)
-{
-    DOT11_SSID wanted = MakeSsid("HomeNet");
-    int connectable = 77;
-    unsigned long reason = 78;
-    const long code = manager.GetNotConnectableReason(&kAdapterA, &wanted, kInfrastructure, connectable, reason);
-    EXPECT_EQ(77, connectable);
-    EXPECT_EQ(78u, reason);
-    return code;
-}
-
 } // namespace
 
 // --- GetAP ---
@@ -82,12 +63,6 @@ TEST_F(NetworkLookupTest, ComparesLengthAndBytesOfTheSsid)
     EXPECT_EQ(-4, Find(std::string("HomeNet\0", 8))) << "a zero byte is a byte of the SSID";
     EXPECT_EQ(-4, Find("GoneNet"));
     EXPECT_EQ(-4, Find("HiddenNet")) << "its beacons do not contain the SSID";
-}
-
-TEST_F(NetworkLookupTest, NotFoundIsTracedWithTheReleaseOnly)
-{
-    EXPECT_EQ(-4, Find("GoneNet"));
-    EXPECT_THAT(traced(), ElementsAre(kNetworksReleased));
 }
 
 // Deliberate: a hidden network is listed with an empty SSID, and is not to be taken for a match.
@@ -217,30 +192,6 @@ TEST_F(NetworkLookupTest, ANullSsidIsRefusedBeforeTheServiceIsAsked)
     EXPECT_EQ(-14, manager().GetNotConnectableReason(&kAdapterA, nullptr, kInfrastructure, m_connectable, m_reason));
     EXPECT_TRUE(OutputsUntouched());
     EXPECT_TRUE(calls().empty());
-}
-
-// --- Failures ---
-
-TEST_F(NetworkLookupTest, EveryWayToFail)
-{
-    const Failures find(*this, "GetAP", FindHomeNet, TraceBuffer::local);
-    find.When("WlanOpenHandle", -1);
-    find.When("WlanGetAvailableNetworkList", -3);
-    find.In(SilentWorld(), -4, {kNetworksReleased});
-
-    const Failures explain(*this, "GetNotConnectableReason", ExplainHomeNet, TraceBuffer::local);
-    explain.When("WlanOpenHandle", -1);
-    explain.When("WlanGetAvailableNetworkList", -4);
-    explain.In(SilentWorld(), -5);
-}
-
-TEST_F(NetworkLookupTest, ANullInterfaceIsTheServicesToRefuse)
-{
-    DOT11_SSID wanted = MakeSsid("HomeNet");
-    EXPECT_EQ(-3, manager().GetAP(nullptr, &wanted));
-    EXPECT_EQ(-4, manager().GetNotConnectableReason(nullptr, &wanted, kInfrastructure, m_connectable, m_reason));
-    EXPECT_THAT(traced(), ElementsAre("WlanGetAvailableNetworkList failed with error: 87",
-                                      "WlanGetAvailableNetworkList failed with error: 87"));
 }
 
 } // namespace calvix::test::network_lookup_test

@@ -1,6 +1,6 @@
 #include "support/changed_platform.h"
 #include "support/edited_answers.h"
-#include "unit/inventory/failures.h"
+#include "support/library_test.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cwchar>
@@ -82,20 +82,6 @@ public:
         return List();
     }
 };
-
-/// GetSoftAPList that has to leave the vector alone.
-long long FailingList(CWirelessManage& manager)
-{
-    Names names = kBefore;
-    const int code = manager.GetSoftAPList(&kAdapterA, &names);
-    EXPECT_EQ(kBefore, names);
-    return code;
-}
-
-long long Special(CWirelessManage& manager)
-{
-    return manager.SpecialSoftAP() ? 1 : 0;
-}
 
 /// The current connection, made through a profile of this name.
 AnswerChanges WithProfileName(const std::wstring& name)
@@ -213,27 +199,9 @@ TEST_F(SoftApTest, ANameThatCannotBeConvertedIsPassedOver)
     EXPECT_THAT(traced(), IsEmpty());
 }
 
-TEST_F(SoftApTest, EveryWayForTheListToFail)
-{
-    const Failures list(*this, "GetSoftAPList", FailingList, TraceBuffer::local);
-    list.When("WlanOpenHandle", -1);
-    // Deliberate: the platform's own error number, beside -1 for the handle.
-    list.When("WlanGetAvailableNetworkList", 5);
-}
-
 TEST_F(SoftApTest, ANullVectorIsRefused)
 {
     EXPECT_EQ(-13, manager().GetSoftAPList(&kAdapterA, nullptr));
-}
-
-TEST_F(SoftApTest, AnInterfaceThatIsNoneIsTheServicesToRefuse)
-{
-    for (const GUID* none : {&kNoAdapter, static_cast<const GUID*>(nullptr)})
-    {
-        Names names = kBefore;
-        EXPECT_EQ(87, manager().GetSoftAPList(none, &names));
-        EXPECT_EQ(kBefore, names);
-    }
 }
 
 // --- SpecialSoftAP ---
@@ -277,16 +245,6 @@ TEST_F(SoftApTest, TheFirstInterfaceIsAsked)
     EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), ConnectionQuery(), kRelease, kRelease));
     EXPECT_THAT(traced(), IsEmpty());
     EXPECT_TRUE(sharedTraceUntouched());
-}
-
-TEST_F(SoftApTest, EveryFailureIsNo)
-{
-    const Failures ask(*this, "SpecialSoftAP", Special, TraceBuffer::local);
-    ask.When("WlanOpenHandle", 0);
-    ask.When("WlanEnumInterfaces", 0);
-    ask.When("WlanQueryInterface", 0);
-    ask.In(NoAdapterWorld(), 0, {kNoAdapterText});
-    ask.In(DisconnectedWorld(), 0, {kNotConnected});
 }
 
 } // namespace calvix::test::soft_ap_test

@@ -6,13 +6,8 @@ namespace calvix::test
 {
 
 /// The trace lines of the methods about networks and connections; "%u" is the platform's error.
-inline constexpr const char* kOpenFailed = "WlanOpenHandle failed with error: %u";
-inline constexpr const char* kScanFailed = "WlanScan failed with error: %u";
-inline constexpr const char* kEnumFailed = "WlanEnumInterfaces failed with error: %u";
 inline constexpr const char* kNetworksFailed = "WlanGetAvailableNetworkList failed with error: %u";
-inline constexpr const char* kProfilesFailed = "WlanGetProfileList failed with error: %u";
 inline constexpr const char* kBssFailed = "WlanGetNetworkBssList failed with error: %u";
-inline constexpr const char* kQueryFailed = "WlanQueryInterface failed with error: %u";
 inline constexpr const char* kNoAdapterText = "No valid WLAN adapter";
 
 /// What the service says of an interface that is not connected.

@@ -113,39 +113,28 @@ TEST_F(LibraryTestTest, AcceptsRowsThatHold)
     EXPECT_EQ(2, manager().GetWiFiAdapterCount()) << "a row's world ends with it";
 }
 
-TEST(FailureTable, ReportsAWrongCode)
+TEST(FailureTable, ReportsWhatDoesNotHold)
 {
-    FailureRow row = RescanRow();
-    row.expected = -5;
-    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("-5"));
-}
-
-TEST(FailureTable, ReportsAWrongTraceLine)
-{
-    FailureRow row = RescanRow();
-    row.traced = {"WlanScan broke: %u"};
-    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("WlanScan broke: 5"));
-}
-
-TEST(FailureTable, ReportsAMissingTraceLine)
-{
-    FailureRow row = RescanRow();
-    row.traced.push_back("and more");
-    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("and more"));
-}
-
-TEST(FailureTable, ReportsTheWrongBuffer)
-{
-    FailureRow row = RescanRow();
-    row.buffer = TraceBuffer::local;
-    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("the shared trace buffer holds \"WlanScan failed"));
-}
-
-TEST(FailureTable, ReportsAFailureThatWasNeverMet)
-{
-    FailureRow row = RescanRow();
-    row.failingOperation = "WlanConnect";
-    EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("call 1 of WlanConnect was never made"));
+    struct Case
+    {
+        void (*spoil)(FailureRow&);
+        const char* report;
+    };
+    const Case cases[] = {
+        {[](FailureRow& row) { row.expected = -5; }, "-5"},
+        {[](FailureRow& row) { row.expected = -5; }, "Rescan() when WlanScan fails with 5"},
+        {[](FailureRow& row) { row.expected = -5; }, "tracing off"},
+        {[](FailureRow& row) { row.traced = {"WlanScan broke: %u"}; }, "WlanScan broke: 5"},
+        {[](FailureRow& row) { row.traced.push_back("and more"); }, "and more"},
+        {[](FailureRow& row) { row.buffer = TraceBuffer::local; }, "the shared trace buffer holds \"WlanScan failed"},
+        {[](FailureRow& row) { row.failingOperation = "WlanConnect"; }, "call 1 of WlanConnect was never made"},
+    };
+    for (const Case& each : cases)
+    {
+        FailureRow row = RescanRow();
+        each.spoil(row);
+        EXPECT_THAT(ReportOf(row), ::testing::HasSubstr(each.report));
+    }
 }
 
 TEST(FailureTable, ReportsWhatComesAfterAFailureThatEndsTheMethod)
@@ -160,16 +149,6 @@ TEST(FailureTable, ReportsWhatComesAfterAFailureThatEndsTheMethod)
         return result;
     };
     EXPECT_THAT(ReportOf(row), ::testing::HasSubstr("nothing comes after the failure"));
-}
-
-TEST(FailureTable, NamesTheRowAndTheTracing)
-{
-    FailureRow row = RescanRow();
-    row.expected = 0;
-    row.fromCall = 1;
-    const std::string report = ReportOf(row);
-    EXPECT_THAT(report, ::testing::HasSubstr("Rescan() when WlanScan fails with 5"));
-    EXPECT_THAT(report, ::testing::HasSubstr("tracing off"));
 }
 
 TEST(FailureTable, ReportsABlockThatIsHeld)

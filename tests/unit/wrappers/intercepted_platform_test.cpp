@@ -47,6 +47,23 @@ public:
     std::size_t arguments = 0;
 };
 
+/// A spy, and failures on request, each between a test and nothing.
+class InterceptedPlatformTest : public ::testing::Test
+{
+protected:
+    FakePlatform m_inner;
+    Spy m_spy;
+    InterceptedPlatform m_layer{m_inner, m_spy};
+};
+
+class FaultInjectionTest : public ::testing::Test
+{
+protected:
+    FakePlatform m_inner;
+    FaultInjection m_faults;
+    InterceptedPlatform m_layer{m_inner, m_faults};
+};
+
 DWORD Open(platform::Platform& platform)
 {
     return platform.wlan().WlanOpenHandle(2, nullptr, nullptr, nullptr);
@@ -99,56 +116,34 @@ TEST(InterceptedPlatform, FailsEveryOperationInItsOwnWay)
             EXPECT_EQ(-0x3FFFFFDELL, result) << "an NTSTATUS is signed";
         if (LeavesItsReason(operation))
         {
-            EXPECT_TRUE(result == 0 || result == 0xFFFFFFFFLL) << result;
+            EXPECT_EQ(operation.name == std::string_view("WaitForSingleObject") ? 0xFFFFFFFFLL : 0, result);
             EXPECT_EQ(0xC0000022u, layer.errors().GetLastError());
         }
         EXPECT_EQ(operation.fails == Fails::never, !inner.called().empty()) << "forwarded or not";
     }
 }
 
-TEST(InterceptedPlatform, OnlyWaitingFailsWithAllBitsSet)
+TEST_F(InterceptedPlatformTest, LeavesTheOutputsOfAFailedCallAlone)
 {
-    for (const Operation& operation : AllOperations())
-    {
-        FakePlatform inner;
-        Spy spy;
-        spy.error = 6;
-        InterceptedPlatform layer(inner, spy);
-        if (LeavesItsReason(operation))
-        {
-            EXPECT_EQ(std::string_view(operation.name) == "WaitForSingleObject", operation.call(layer) != 0)
-                << operation.name;
-        }
-    }
-}
-
-TEST(InterceptedPlatform, LeavesTheOutputsOfAFailedCallAlone)
-{
-    FakePlatform inner;
-    Spy spy;
-    spy.error = 5;
-    InterceptedPlatform layer(inner, spy);
+    m_spy.error = 5;
     DWORD version = 77;
     HANDLE client = &version;
-    EXPECT_EQ(5u, layer.wlan().WlanOpenHandle(2, nullptr, &version, &client));
+    EXPECT_EQ(5u, m_layer.wlan().WlanOpenHandle(2, nullptr, &version, &client));
     EXPECT_EQ(77u, version);
     EXPECT_EQ(&version, client);
 }
 
-TEST(InterceptedPlatform, RemembersAnInjectedLastErrorUntilTheNextOperation)
+TEST_F(InterceptedPlatformTest, RemembersAnInjectedLastErrorUntilTheNextOperation)
 {
-    FakePlatform inner;
-    Spy spy;
-    InterceptedPlatform layer(inner, spy);
-    spy.error = 12029;
-    EXPECT_EQ(0, Check(layer));
-    spy.error.reset();
-    EXPECT_EQ(12029u, layer.errors().GetLastError());
-    EXPECT_EQ(12029u, layer.errors().GetLastError()) << "asking does not forget it";
-    EXPECT_TRUE(inner.called().empty());
+    m_spy.error = 12029;
+    EXPECT_EQ(0, Check(m_layer));
+    m_spy.error.reset();
+    EXPECT_EQ(12029u, m_layer.errors().GetLastError());
+    EXPECT_EQ(12029u, m_layer.errors().GetLastError()) << "asking does not forget it";
+    EXPECT_TRUE(m_inner.called().empty());
 
-    layer.debugger().OutputDebugStringA("");
-    EXPECT_EQ(2u, layer.errors().GetLastError()) << "the platform's own again";
+    m_layer.debugger().OutputDebugStringA("");
+    EXPECT_EQ(2u, m_layer.errors().GetLastError()) << "the platform's own again";
 }
 
 TEST(InterceptedPlatform, ForgetsAnInjectedLastErrorAtAnyKindOfOperation)
@@ -169,17 +164,14 @@ TEST(InterceptedPlatform, ForgetsAnInjectedLastErrorAtAnyKindOfOperation)
     }
 }
 
-TEST(InterceptedPlatform, ReportsTheResultAfterACall)
+TEST_F(InterceptedPlatformTest, ReportsTheResultAfterACall)
 {
-    FakePlatform inner;
-    Spy spy;
-    InterceptedPlatform layer(inner, spy);
-    Open(layer);
-    layer.processes().GetCurrentProcess();
-    spy.error = 1062;
-    Open(layer);
-    layer.services().OpenSCManagerA(nullptr, nullptr, 0);
-    EXPECT_THAT(spy.results, ElementsAre(1, 1, 1062, 0)) << "a handle counts as 1, null as 0";
+    Open(m_layer);
+    m_layer.processes().GetCurrentProcess();
+    m_spy.error = 1062;
+    Open(m_layer);
+    m_layer.services().OpenSCManagerA(nullptr, nullptr, 0);
+    EXPECT_THAT(m_spy.results, ElementsAre(1, 1, 1062, 0)) << "a handle counts as 1, null as 0";
 }
 
 TEST(InterceptedPlatform, AllocatesNothingUnlessArgumentsAreWanted)
@@ -235,74 +227,56 @@ TEST(InterceptorChain, WantsArgumentsWhenOneMemberDoes)
     EXPECT_FALSE(InterceptorChain({}).WantsArguments());
 }
 
-TEST(FaultInjection, FailsFromTheGivenCallForTheGivenTimes)
+TEST_F(FaultInjectionTest, FailsFromTheGivenCallForTheGivenTimes)
 {
-    FakePlatform inner;
-    FaultInjection faults;
-    InterceptedPlatform layer(inner, faults);
-    faults.Fail("InternetCheckConnectionA", {.error = 5, .fromCall = 2, .times = 2});
+    m_faults.Fail("InternetCheckConnectionA", {.error = 5, .fromCall = 2, .times = 2});
     std::vector<bool> passed;
     for (int i = 0; i < 5; ++i)
-        passed.push_back(Check(layer) != 0);
+        passed.push_back(Check(m_layer) != 0);
     EXPECT_THAT(passed, ElementsAre(true, false, false, true, true));
-    EXPECT_EQ(2u, faults.Injected());
+    EXPECT_EQ(2u, m_faults.Injected());
 }
 
-TEST(FaultInjection, FailsForeverByDefaultAndNothingElse)
+TEST_F(FaultInjectionTest, FailsForeverByDefaultAndNothingElse)
 {
-    FakePlatform inner;
-    FaultInjection faults;
-    InterceptedPlatform layer(inner, faults);
-    faults.Fail("WlanOpenHandle");
-    EXPECT_EQ(5u, Open(layer));
-    EXPECT_EQ(5u, Open(layer));
-    EXPECT_NE(0, Check(layer));
+    m_faults.Fail("WlanOpenHandle");
+    EXPECT_EQ(5u, Open(m_layer));
+    EXPECT_EQ(5u, Open(m_layer));
+    EXPECT_NE(0, Check(m_layer));
 }
 
-TEST(FaultInjection, CountsForEveryRuleFromItsOwnBeginning)
+TEST_F(FaultInjectionTest, CountsForEveryRuleFromItsOwnBeginning)
 {
-    FakePlatform inner;
-    FaultInjection faults;
-    InterceptedPlatform layer(inner, faults);
-    faults.Fail("WlanOpenHandle", {.error = 5, .fromCall = 2, .times = 1});
-    EXPECT_EQ(1u, Open(layer));
-    faults.Fail("WlanOpenHandle", {.error = 6, .fromCall = 2, .times = 1});
-    EXPECT_EQ(5u, Open(layer)) << "the second call of the first rule, the first of the second";
-    EXPECT_EQ(6u, Open(layer));
-    EXPECT_EQ(2u, Open(layer)) << "the fake's own answer";
+    m_faults.Fail("WlanOpenHandle", {.error = 5, .fromCall = 2, .times = 1});
+    EXPECT_EQ(1u, Open(m_layer));
+    m_faults.Fail("WlanOpenHandle", {.error = 6, .fromCall = 2, .times = 1});
+    EXPECT_EQ(5u, Open(m_layer)) << "the second call of the first rule, the first of the second";
+    EXPECT_EQ(6u, Open(m_layer));
+    EXPECT_EQ(2u, Open(m_layer)) << "the fake's own answer";
 }
 
-TEST(FaultInjection, FailsByPredicateOverArguments)
+TEST_F(FaultInjectionTest, FailsByPredicateOverArguments)
 {
-    FakePlatform inner;
-    FaultInjection faults;
-    InterceptedPlatform layer(inner, faults);
-    faults.FailWhen([](const Call& call) -> std::optional<DWORD>
-                    { return call["clientVersion"] == "1" ? std::optional<DWORD>(50) : std::nullopt; });
-    EXPECT_EQ(50u, layer.wlan().WlanOpenHandle(1, nullptr, nullptr, nullptr));
-    EXPECT_EQ(1u, layer.wlan().WlanOpenHandle(2, nullptr, nullptr, nullptr));
+    m_faults.FailWhen([](const Call& call) -> std::optional<DWORD>
+                      { return call["clientVersion"] == "1" ? std::optional<DWORD>(50) : std::nullopt; });
+    EXPECT_EQ(50u, m_layer.wlan().WlanOpenHandle(1, nullptr, nullptr, nullptr));
+    EXPECT_EQ(1u, m_layer.wlan().WlanOpenHandle(2, nullptr, nullptr, nullptr));
 }
 
-TEST(FaultInjection, ForgetsItsRules)
+TEST_F(FaultInjectionTest, ForgetsItsRules)
 {
-    FakePlatform inner;
-    FaultInjection faults;
-    InterceptedPlatform layer(inner, faults);
-    faults.Fail("WlanOpenHandle");
-    faults.FailWhen([](const Call&) { return std::optional<DWORD>(7); });
-    faults.Clear();
-    EXPECT_EQ(1u, Open(layer));
-    EXPECT_EQ(0u, faults.Injected());
+    m_faults.Fail("WlanOpenHandle");
+    m_faults.FailWhen([](const Call&) { return std::optional<DWORD>(7); });
+    m_faults.Clear();
+    EXPECT_EQ(1u, Open(m_layer));
+    EXPECT_EQ(0u, m_faults.Injected());
 }
 
-TEST(FaultInjection, AnswersForTheLastError)
+TEST_F(FaultInjectionTest, AnswersForTheLastError)
 {
-    FakePlatform inner;
-    FaultInjection faults;
-    InterceptedPlatform layer(inner, faults);
-    faults.Fail("GetLastError", {.error = 1300, .times = 1});
-    EXPECT_EQ(1300u, layer.errors().GetLastError());
-    EXPECT_EQ(1u, layer.errors().GetLastError()) << "the fake's own answer";
+    m_faults.Fail("GetLastError", {.error = 1300, .times = 1});
+    EXPECT_EQ(1300u, m_layer.errors().GetLastError());
+    EXPECT_EQ(1u, m_layer.errors().GetLastError()) << "the fake's own answer";
 }
 
 } // namespace calvix::test::intercepted_platform_test
