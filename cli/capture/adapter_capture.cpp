@@ -91,20 +91,13 @@ std::vector<StoredProfile> CaptureProfiles(Host& host, const GUID& guid, MadeSce
     return profiles;
 }
 
-bool HasName(const StoredProfile& profile, const std::wstring& name)
-{
-    simulation::ProfileRefusal ignored{};
-    return simulation::ParseProfile(profile.xml, ignored)->name == name;
-}
-
 /// What keeps the connection out of the scenario; empty where nothing does.
-std::string ObstacleOf(const AdapterDescription& adapter, const std::wstring& profile, const AccessPoint* accessPoint)
+std::string ObstacleOf(const AdapterDescription& adapter, const std::string& profile, const AccessPoint* accessPoint)
 {
     if (accessPoint == nullptr)
         return "its access point is not listed";
-    const auto used = std::find_if(adapter.profiles.begin(), adapter.profiles.end(),
-                                   [&profile](const StoredProfile& each) { return HasName(each, profile); });
-    if (used == adapter.profiles.end())
+    const StoredProfile* const used = FindProfile(adapter.profiles, profile);
+    if (used == nullptr)
         return "the scenario does not have its profile";
     return FitsProfile(*used, *accessPoint) ? "" : "its profile is for another kind of network";
 }
@@ -143,10 +136,10 @@ void CaptureConnection(Host& host, const GUID& guid, AdapterDescription& adapter
     const std::string ssid = SsidBytes(association.dot11Ssid);
     if (accessPoint != nullptr && accessPoint->ssid.empty())
         accessPoint->ssid.assign(ssid.begin(), ssid.end());
-    const std::wstring profile(FixedText(attributes->strProfileName));
+    const std::string profile = Narrow(FixedText(attributes->strProfileName));
     const std::string obstacle = ObstacleOf(adapter, profile, accessPoint);
     if (obstacle.empty())
-        adapter.connection = {Narrow(profile), bssid, static_cast<std::uint32_t>(association.ulRxRate),
+        adapter.connection = {profile, bssid, static_cast<std::uint32_t>(association.ulRxRate),
                               static_cast<std::uint32_t>(association.ulTxRate)};
     else
         made.Warn("the connection to \"" + VisibleText(ssid) + "\" is left out: " + obstacle);

@@ -21,12 +21,10 @@ struct PlatformError
 constexpr const char* kAllowLocation =
     "allow location access for desktop apps (Settings, Privacy & security, Location): switch on \"Location services\", "
     "\"Let apps access your location\" and \"Let desktop apps access your location\". Windows 11 24H2 and later ask "
-    "for "
-    "it; start ms-settings:privacy-location opens the page";
+    "for it; start ms-settings:privacy-location opens the page";
 
-constexpr const char* kOfAnotherUser =
-    "the profile may belong to another user: run in that user's session, or store it for all users (netsh wlan export "
-    "profile there, calvix profiles add here)";
+constexpr const char* kOfAnotherUser = "the profile may belong to another user: run in that user's session, or store "
+                                       "it for all users (netsh wlan export profile there, calvix profiles add here)";
 
 constexpr PlatformError kErrors[] = {
     {2, "file not found", "check the name"},

@@ -65,8 +65,7 @@ std::vector<AccessPoint> AirOf(const std::vector<AccessPoint>& listed, MadeScena
         {
             heard.bssid = FreeAddress(air, heard.bssid);
             made.Warn(address +
-                      " is listed again with another name, channel or security; that one has the invented "
-                      "address " +
+                      " is listed again with another name, channel or security; that one has the invented address " +
                       forms::AddressText(heard.bssid));
         }
         air.push_back(std::move(heard));

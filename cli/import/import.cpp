@@ -31,12 +31,6 @@ std::size_t Generation(std::uint32_t phyType)
 /// As many as a scenario holds.
 constexpr std::size_t kMostAdapters = 64;
 
-struct NamedProfile
-{
-    std::string name;
-    StoredProfile stored;
-};
-
 std::vector<CapturedInterface> AdaptersOf(const Captures& captures)
 {
     if (captures.interfaces)
@@ -89,13 +83,13 @@ public:
                 AddConnection(i, *m_captured[i].connection);
         for (std::size_t i = 0; makeProfiles && i < m_captured.size(); ++i)
             MakeProfiles(i);
-        StoreProfiles();
     }
 
     MadeScenario result() { return std::move(m_result); }
 
 private:
     std::vector<AccessPoint>& air() { return m_result.scenario.accessPoints; }
+    std::vector<StoredProfile>& ProfilesOf(std::size_t index) { return m_result.scenario.adapters[index].profiles; }
 
     std::string Description() const
     {
@@ -127,7 +121,6 @@ private:
             for (std::size_t i = 0; i <= NewestGeneration(captured); ++i)
                 described.phys.push_back({kPhyTypes[i], captured.software, captured.hardware});
             m_result.scenario.adapters.push_back(std::move(described));
-            m_profiles.emplace_back();
         }
     }
 
@@ -138,29 +131,20 @@ private:
         {
             if (only != m_captured.size() && only != i)
                 continue;
-            if (FindProfile(i, profile.name) == nullptr)
-                m_profiles[i].push_back({profile.name, {profile.xml}});
+            if (FindProfile(ProfilesOf(i), profile.name) == nullptr)
+                ProfilesOf(i).push_back({profile.xml});
             else
                 m_result.Warn(profile.fileName + ": another profile has the name \"" + profile.name +
                               "\"; this one is left out");
         }
     }
 
-    const NamedProfile* FindProfile(std::size_t index, const std::string& name) const
-    {
-        const std::vector<NamedProfile>& known = m_profiles[index];
-        const auto found =
-            std::find_if(known.begin(), known.end(), [&](const NamedProfile& profile) { return profile.name == name; });
-        return found == known.end() ? nullptr : &*found;
-    }
-
     /// Null when no profile can be made for the network.
-    const NamedProfile*
+    const StoredProfile*
     AddMadeUp(std::size_t index, const std::string& name, const AccessPoint& accessPoint, bool automatic)
     {
-        std::optional<StoredProfile> made = MakeProfile(name, accessPoint, automatic);
-        if (made)
-            return &m_profiles[index].emplace_back(NamedProfile{name, std::move(*made)});
+        if (std::optional<StoredProfile> made = MakeProfile(name, accessPoint, automatic))
+            return &ProfilesOf(index).emplace_back(std::move(*made));
         m_result.Warn("the profile \"" + name + "\" cannot be made: no profile has " + accessPoint.authentication +
                       " with " + accessPoint.encryption);
         return nullptr;
@@ -169,13 +153,13 @@ private:
     void AddConnection(std::size_t index, const CapturedConnection& connection)
     {
         const AccessPoint* accessPoint = AccessPointOf(connection);
-        const NamedProfile* profile = FindProfile(index, connection.profile);
+        const StoredProfile* profile = FindProfile(ProfilesOf(index), connection.profile);
         if (profile == nullptr)
             profile = AddMadeUp(index, connection.profile,
                                 accessPoint != nullptr ? *accessPoint : connection.accessPoint, connection.automatic);
         if (accessPoint == nullptr)
             WarnOfLostConnection(index, "the captured networks do not list its access point");
-        else if (profile == nullptr || !FitsProfile(profile->stored, *accessPoint))
+        else if (profile == nullptr || !FitsProfile(*profile, *accessPoint))
             WarnOfLostConnection(index, "its profile is for another kind of network");
         else
             m_result.scenario.adapters[index].connection = simulation::Connection{
@@ -206,27 +190,17 @@ private:
     {
         for (const AccessPoint& accessPoint : air())
         {
-            const std::vector<NamedProfile>& known = m_profiles[index];
+            const std::vector<StoredProfile>& known = ProfilesOf(index);
             const std::string name(accessPoint.ssid.begin(), accessPoint.ssid.end());
-            const bool has =
-                FindProfile(index, name) != nullptr ||
-                std::any_of(known.begin(), known.end(),
-                            [&](const NamedProfile& profile) { return FitsProfile(profile.stored, accessPoint); });
+            const auto fits = [&](const StoredProfile& profile) { return FitsProfile(profile, accessPoint); };
+            const bool has = FindProfile(known, name) != nullptr || std::any_of(known.begin(), known.end(), fits);
             if (!accessPoint.hidden && !has)
                 AddMadeUp(index, name, accessPoint, true);
         }
     }
 
-    void StoreProfiles()
-    {
-        for (std::size_t i = 0; i < m_profiles.size(); ++i)
-            for (NamedProfile& profile : m_profiles[i])
-                m_result.scenario.adapters[i].profiles.push_back(std::move(profile.stored));
-    }
-
     const Captures& m_captures;
     std::vector<CapturedInterface> m_captured;
-    std::vector<std::vector<NamedProfile>> m_profiles; ///< of each adapter, in preference order
     MadeScenario m_result;
 };
 

@@ -1,6 +1,9 @@
 #include "import/made_profile.h"
 
+#include "output/text_forms.h"
 #include "simulation/profile_document.h"
+
+#include <algorithm>
 
 namespace calvix::host
 {
@@ -44,6 +47,18 @@ std::optional<StoredProfile> MakeProfile(const std::string& name, const AccessPo
     settings.bssType = accessPoint.bssType;
     StoredProfile profile{simulation::MakeProfileXml(settings)};
     return Read(profile) ? std::optional(std::move(profile)) : std::nullopt;
+}
+
+const StoredProfile* FindProfile(const std::vector<StoredProfile>& profiles, const std::string& name)
+{
+    const auto found =
+        std::find_if(profiles.begin(), profiles.end(),
+                     [wanted = Widen(name)](const StoredProfile& profile)
+                     {
+                         const std::optional<ProfileDocument> document = Read(profile);
+                         return document && document->name == wanted;
+                     });
+    return found == profiles.end() ? nullptr : &*found;
 }
 
 bool FitsProfile(const StoredProfile& profile, const AccessPoint& accessPoint)

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace calvix::host
 {
@@ -12,6 +13,10 @@ namespace calvix::host
 /// that the key is made up. Nothing for a network that no profile can be made for, such as one of vendor-made security.
 std::optional<simulation::StoredProfile>
 MakeProfile(const std::string& name, const simulation::AccessPoint& accessPoint, bool automatic);
+
+/// The profile of a name, or null.
+const simulation::StoredProfile* FindProfile(const std::vector<simulation::StoredProfile>& profiles,
+                                             const std::string& name);
 
 /// Whether a stored profile leads to the access point.
 bool FitsProfile(const simulation::StoredProfile& profile, const simulation::AccessPoint& accessPoint);

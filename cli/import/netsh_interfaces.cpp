@@ -42,114 +42,75 @@ bool BeginsAdapter(CaptureFields fields, std::size_t index)
            (SameButForCase(name.name, "Name") || (name.beginsParagraph && isAboveGuid));
 }
 
-/// Sets the keys of one adapter's lines, from its name on.
-class AdapterLines
+/// Access points beside the one of the connection stand further in. Those of a connection over several links say what
+/// others say in lines of their own.
+void LabelNested(CaptureFields fields)
 {
-public:
-    explicit AdapterLines(CaptureFields fields) : m_fields(fields) {}
+    for (CaptureField& field : fields)
+        if (field.hasColon && field.indent > fields.front().indent && field.name != "LinkID")
+            field.key = kUnused;
+}
 
-    void Label()
+void LabelConnected(CaptureFields fields, std::size_t address, std::size_t bssid)
+{
+    Label(fields, bssid - 1, {"SSID", "BSSID"});
+    for (std::size_t i = address + 1; i < bssid; ++i)
+        Label(fields, i, {kUnused}); // the state, and with newer systems the interface's type
+    const std::size_t signal = FindValue(fields, bssid, IsPercentage);
+    const std::size_t band = FindValue(fields, bssid, IsBand);
+    const bool hasRates = signal >= bssid + 3 && signal < fields.size() && IsNumber(fields[signal - 1].value) &&
+                          IsNumber(fields[signal - 2].value);
+    Label(fields, signal, {"Signal"});
+    Label(fields, band, {"Band", "Channel"});
+    if (hasRates)
+        Label(fields, signal - 2, {"Receive rate (Mbps)", "Transmit rate (Mbps)"});
+    // Systems that do not print the band have the channel before the two rates.
+    if (hasRates && band == fields.size() && IsNumber(fields[signal - 3].value))
+        Label(fields, signal - 3, {"Channel"});
+    if (const std::size_t radio = FindValue(fields, bssid, IsRadioType); radio < fields.size())
+        Label(fields, radio - 1, {"Network type", "Radio type", "Authentication", "Cipher", "Connection mode"});
+    std::size_t profile = signal + 1;
+    if (profile < fields.size() && fields[profile].key == "Rssi")
+        ++profile;
+    if (profile < fields.size() && !fields[profile].beginsParagraph)
+        Label(fields, profile, {"Profile"});
+    for (std::size_t i = bssid; i < fields.size(); ++i)
+        if (IsNumber(fields[i].value) || fields[i].value.starts_with('['))
+            Label(fields, i, {kUnused}); // suites in brackets, priorities
+}
+
+/// The radio's two switches come last, the second in a line without a label.
+void LabelNotConnected(CaptureFields fields, std::size_t address)
+{
+    for (std::size_t i = address + 1; i < fields.size() && !fields[i].beginsParagraph; ++i)
     {
-        LabelNested();
-        LabelEnglish(m_fields);
-        const char* const first[] = {"Name", "Description", "GUID"};
-        for (std::size_t i = 0; i < std::size(first); ++i)
-            Set(i, first[i]);
-        const std::size_t address = Find(std::size(first), IsAddress);
-        Set(address, "Physical address");
-        const std::size_t bssid = Find(address + 1, IsAddress);
-        if (bssid < m_fields.size())
-            LabelConnected(address, bssid);
-        else
-            LabelNotConnected(address);
-    }
-
-private:
-    template <typename Test>
-    std::size_t Find(std::size_t from, Test test) const
-    {
-        return FindValue(m_fields, from, test);
-    }
-
-    void Set(std::size_t index, const char* key) { host::Label(m_fields, index, key); }
-
-    /// Access points beside the one of the connection stand further in. Those of a connection over several links say what
-    /// others say in lines of their own.
-    void LabelNested()
-    {
-        for (CaptureField& field : m_fields)
-            if (field.hasColon && field.indent > m_fields.front().indent && field.name != "LinkID")
-                field.key = kUnused;
-    }
-
-    void LabelConnected(std::size_t address, std::size_t bssid)
-    {
-        Set(bssid, "BSSID");
-        Set(bssid - 1, "SSID");
-        for (std::size_t i = address + 1; i < bssid; ++i)
-            Set(i, kUnused); // the state, and with newer systems the interface's type
-        const std::size_t signal = Find(bssid, IsPercentage);
-        const std::size_t band = Find(bssid, IsBand);
-        const bool hasRates = signal >= bssid + 3 && signal < m_fields.size() && IsNumber(m_fields[signal - 1].value) &&
-                              IsNumber(m_fields[signal - 2].value);
-        Set(signal, "Signal");
-        LabelInARow(band, {"Band", "Channel"});
-        if (hasRates)
-            LabelInARow(signal - 2, {"Receive rate (Mbps)", "Transmit rate (Mbps)"});
-        // Systems that do not print the band have the channel before the two rates.
-        if (hasRates && band == m_fields.size() && IsNumber(m_fields[signal - 3].value))
-            Set(signal - 3, "Channel");
-        if (const std::size_t radio = Find(bssid, IsRadioType); radio < m_fields.size())
-            LabelInARow(radio - 1, {"Network type", "Radio type", "Authentication", "Cipher", "Connection mode"});
-        LabelAfter(signal + 1);
-        for (std::size_t i = bssid; i < m_fields.size(); ++i)
-            if (IsNumber(m_fields[i].value) || m_fields[i].value.starts_with('['))
-                Set(i, kUnused); // suites in brackets, priorities
-    }
-
-    void LabelInARow(std::size_t index, std::initializer_list<const char*> keys)
-    {
-        for (const char* key : keys)
-            Set(index++, key);
-    }
-
-    /// The profile and, of no use, in a paragraph of its own, whether the computer is an access point itself.
-    void LabelAfter(std::size_t profile)
-    {
-        if (profile < m_fields.size() && m_fields[profile].key == "Rssi")
-            ++profile;
-        if (profile < m_fields.size() && !m_fields[profile].beginsParagraph)
-            Set(profile, "Profile");
-        LabelLast();
-    }
-
-    void LabelLast()
-    {
-        if (m_fields.back().beginsParagraph)
-            Set(m_fields.size() - 1, kUnused);
-    }
-
-    /// The radio's two switches come last, the second in a line without a label.
-    void LabelNotConnected(std::size_t address)
-    {
-        for (std::size_t i = address + 1; i < m_fields.size() && !m_fields[i].beginsParagraph; ++i)
+        const bool isSwitches = fields[i - 1].hasColon && !fields[i].hasColon;
+        if (isSwitches && i > address + 1)
         {
-            const bool isSwitches = m_fields[i - 1].hasColon && !m_fields[i].hasColon;
-            if (isSwitches && i > address + 1)
-            {
-                m_fields[i - 1].key = "Radio status";
-                m_fields[i].key = kUnused;
-            }
-            else if (i + 1 == m_fields.size() || m_fields[i + 1].hasColon)
-            {
-                Set(i, kUnused); // the state, and with newer systems the interface's type
-            }
+            fields[i - 1].key = "Radio status";
+            fields[i].key = kUnused;
         }
-        LabelLast();
+        else if (i + 1 == fields.size() || fields[i + 1].hasColon)
+            Label(fields, i, {kUnused}); // the state, and with newer systems the interface's type
     }
+}
 
-    CaptureFields m_fields;
-};
+/// Sets the keys of one adapter's lines, from its name on.
+void LabelAdapter(CaptureFields fields)
+{
+    LabelNested(fields);
+    LabelEnglish(fields);
+    Label(fields, 0, {"Name", "Description", "GUID"});
+    const std::size_t address = FindValue(fields, 3, IsAddress);
+    Label(fields, address, {"Physical address"});
+    if (const std::size_t bssid = FindValue(fields, address + 1, IsAddress); bssid < fields.size())
+        LabelConnected(fields, address, bssid);
+    else
+        LabelNotConnected(fields, address);
+    // Whether the computer is an access point itself.
+    if (fields.back().beginsParagraph)
+        Label(fields, fields.size() - 1, {kUnused});
+}
 
 /// "LinkID: 0, Local: 02:..., AP: 02:..., RSSI: -53, Channel: 48, Band: 5 GHz, BW: 80", of a connection over several
 /// links: what others have in lines of their own.
@@ -220,9 +181,9 @@ bool IsAutomatic(const CaptureField* mode, const Vocabulary& vocabulary, Capture
         return false;
     const std::string meaning = vocabulary.MeaningOf(mode->value, {"auto", "manual"});
     if (meaning.empty() && vocabulary.foreign)
-        warnings.Warn(mode->line, "\"" + mode->name + "\" is \"" + mode->value +
-                                      "\", which is not understood; the connection is assumed to be one that the user "
-                                      "requested");
+        warnings.Warn(mode->line,
+                      "\"" + mode->name + "\" is \"" + mode->value +
+                          "\", which is not understood; the connection is assumed to be one that the user requested");
     return meaning == "auto";
 }
 
@@ -305,7 +266,7 @@ private:
 
     void ReadAdapter(CaptureFields fields)
     {
-        AdapterLines(fields).Label();
+        LabelAdapter(fields);
         CaptureRecord record{"the interface \"" + fields.front().value + "\"", fields};
         record.WarnOfTwice(m_capture);
         CapturedInterface adapter = Identify(record, m_capture.adapters.size(), m_capture);

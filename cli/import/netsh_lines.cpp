@@ -12,16 +12,15 @@ namespace
 constexpr std::string_view kWideColon = "\xEF\xBC\x9A";
 
 constexpr std::string_view kEnglishLabels =
-    "|Interface name|Name|Description|GUID|Physical address|State|SSID|BSSID|AP BSSID|LinkID|Network type|Radio type|"
-    "Authentication|Encryption|Cipher|Connection mode|Band|Channel|Channel Width|Receive rate (Mbps)|"
-    "Transmit rate (Mbps)|Signal|Rssi|Profile|Radio status|";
+    "|Interface name|Name|Description|GUID|Physical address|State|SSID|BSSID|AP BSSID|LinkID|Network type|Radio "
+    "type|Authentication|Encryption|Cipher|Connection mode|Band|Channel|Channel Width|Receive rate (Mbps)|Transmit "
+    "rate (Mbps)|Signal|Rssi|Profile|Radio status|";
 
 constexpr std::string_view kUnusedLabels =
-    "|Interface type|Primary interface|MLD AP BSSID|Connected Akm-cipher|Basic rates (Mbps)|Other rates (Mbps)|"
-    "Hosted network status|Bss Load|Connected Stations|Channel Utilization|Medium Available Capacity|QoS MSCS "
-    "Supported|"
-    "QoS Map Supported|QoS MSCS Configured|QoS Map Configured|QoS Map Allowed by Policy|Hash-to-Element|Colocated APs|"
-    "Primary Channel|Multi-Link|";
+    "|Interface type|Primary interface|MLD AP BSSID|Connected Akm-cipher|Basic rates (Mbps)|Other rates (Mbps)|Hosted "
+    "network status|Bss Load|Connected Stations|Channel Utilization|Medium Available Capacity|QoS MSCS Supported|QoS "
+    "Map Supported|QoS MSCS Configured|QoS Map Configured|QoS Map Allowed by Policy|Hash-to-Element|Colocated "
+    "APs|Primary Channel|Multi-Link|";
 
 /// Labels that no other language shares with English.
 constexpr std::string_view kOnlyEnglish = "|Interface name|Authentication|Physical address|Radio type|";
@@ -95,10 +94,14 @@ void LabelEnglish(CaptureFields fields)
     }
 }
 
-void Label(CaptureFields fields, std::size_t index, const char* key)
+void Label(CaptureFields fields, std::size_t index, std::initializer_list<const char*> keys)
 {
-    if (index < fields.size() && fields[index].hasColon && fields[index].key.empty())
-        fields[index].key = key;
+    for (const char* key : keys)
+    {
+        if (index < fields.size() && fields[index].hasColon && fields[index].key.empty())
+            fields[index].key = key;
+        ++index;
+    }
 }
 
 const CaptureField* CaptureRecord::Find(std::string_view key) const

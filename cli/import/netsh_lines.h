@@ -3,6 +3,7 @@
 #include "import/capture_text.h"
 
 #include <cstddef>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -42,8 +43,8 @@ bool IsForeign(CaptureFields fields);
 /// Gives the fields with English labels their keys; numbers that continue a list of numbers in the line above have no use.
 void LabelEnglish(CaptureFields fields);
 
-/// Sets the key of the field at an index, unless it has one or there is no such field.
-void Label(CaptureFields fields, std::size_t index, const char* key);
+/// Sets the keys of the fields from an index on, unless they have one or there is no such field.
+void Label(CaptureFields fields, std::size_t index, std::initializer_list<const char*> keys);
 
 /// The index of the first field from `from` on whose value is like this; the number of fields where there is none.
 template <typename Test>

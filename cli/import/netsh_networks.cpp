@@ -121,10 +121,8 @@ private:
         start.key = kUnused;
         m_title = start.value.empty() ? "this network without a name" : "the network \"" + start.value + "\"";
         LabelEnglish(section);
-        const bool isComplete = section.size() == 4 &&
-                                std::all_of(section.begin(), section.end(), [](auto& each) { return each.hasColon; });
-        for (std::size_t i = 1; isComplete && i < section.size(); ++i)
-            Label(section, i, i == 1 ? "Network type" : i == 2 ? "Authentication" : "Encryption");
+        if (section.size() == 4 && std::all_of(section.begin(), section.end(), [](auto& each) { return each.hasColon; }))
+            Label(section, 1, {"Network type", "Authentication", "Encryption"});
         m_capture.OrWarn(m_title + " is left out", [&] { Interpret({m_title, section}); });
     }
 
@@ -183,17 +181,17 @@ private:
     /// A percentage; the radio's type, below it the band, if the system prints it, and the channel; then lists of rates.
     static void LabelByShape(CaptureFields section)
     {
-        Label(section, FindValue(section, 1, IsPercentage), "Signal");
+        Label(section, FindValue(section, 1, IsPercentage), {"Signal"});
         const std::size_t radio = FindValue(section, 1, IsRadioType);
         const std::size_t band = FindValue(section, radio, IsBand);
-        Label(section, radio, "Radio type");
-        Label(section, band, "Band");
+        Label(section, radio, {"Radio type"});
+        Label(section, band, {"Band"});
         const auto isWhole = [](const std::string& value) { return WholeNumber(value) >= 0; };
         const std::size_t channel = FindValue(section, band < section.size() ? band : radio, isWhole);
-        Label(section, channel, "Channel");
+        Label(section, channel, {"Channel"});
         for (std::size_t i = channel + 1; i < section.size(); ++i)
             if (IsNumberList(section[i].value))
-                Label(section, i, kUnused);
+                Label(section, i, {kUnused});
     }
 
     /// Without "mode=bssid" the same command lists no access points at all.

@@ -68,8 +68,8 @@ void ReadCapture(std::string_view bytes, const std::string& source, const Captur
         return Set(captures.networks, std::move(networks), "networks", captures.warnings);
     RefuseWithRemedy(text, source);
     throw CaptureError(
-        source + ":1: this is not output of \"netsh wlan show networks mode=bssid\" or \"netsh wlan show "
-                 "interfaces\", not a profile, and not output of \"iw dev wlan0 scan\" or \"nmcli dev wifi list\"");
+        source + ":1: this is not output of \"netsh wlan show networks mode=bssid\" or \"netsh wlan show interfaces\", "
+                 "not a profile, and not output of \"iw dev wlan0 scan\" or \"nmcli dev wifi list\"");
 }
 
 } // namespace calvix::host

@@ -54,9 +54,8 @@ std::string NumberCell(const std::string& html, const std::string& sortedBy)
 /// A meter as wide as the quality, with the number beside it.
 std::string SignalHtml(const AccessPointFacts& facts)
 {
-    return "<svg class=\"meter\" viewBox=\"0 0 50 8\" aria-hidden=\"true\"><rect class=\"rail\" width=\"50\" "
-           "height=\"8\" "
-           "rx=\"2\"/><rect class=\"fill\" width=\"" +
+    return "<svg class=\"meter\" viewBox=\"0 0 50 8\" aria-hidden=\"true\">"
+           "<rect class=\"rail\" width=\"50\" height=\"8\" rx=\"2\"/><rect class=\"fill\" width=\"" +
            DecimalText(facts.quality / 2.0) + "\" height=\"8\" rx=\"2\"/></svg> " + std::to_string(facts.rssi);
 }
 
@@ -146,9 +145,8 @@ std::string MissingParts(const ReportFacts& report)
     }
     if (html.empty())
         return html;
-    return "<section class=\"missing\" aria-labelledby=\"missing\"><h2 id=\"missing\">This picture is "
-           "not "
-           "complete</h2>\n<ul>\n" +
+    return "<section class=\"missing\" aria-labelledby=\"missing\">"
+           "<h2 id=\"missing\">This picture is not complete</h2>\n<ul>\n" +
            html + "</ul></section>\n";
 }
 

@@ -34,13 +34,11 @@ long CallReconnect(Host& host)
 constexpr AutomaticMethod kAutomaticMethods[] = {
     {"ConnectBestAP", "best",
      "Ranks the networks in view whose profiles connect automatically by signal quality, with a bonus for 5 GHz, and "
-     "asks "
-     "the lowest score first.",
+     "asks the lowest score first.",
      [](Host& host) { return static_cast<long>(host.manager().ConnectBestAP(host.adapterGuid())); }},
     {"AutoConnect", "auto",
      "Requests every network in view that has a profile, manual ones too, in the order of the profiles, until a "
-     "request "
-     "is accepted.",
+     "request is accepted.",
      [](Host& host) { return static_cast<long>(host.manager().AutoConnect(host.adapterGuid())); }},
     {"AutoConnectEx", "auto --method ranked", "Ranks as ConnectBestAP does, manual profiles included.",
      [](Host& host) { return static_cast<long>(host.manager().AutoConnectEx(host.adapterGuid())); }},
@@ -58,13 +56,11 @@ constexpr AutomaticMethod kAutomaticMethods[] = {
      [](Host& host) { return static_cast<long>(host.manager().AutoSwitch(host.adapterGuid())); }},
     {"SmartSwitch", "switch --method smart",
      "Requests once the first profile in order whose network is better than the link, after reading the current SSID "
-     "as "
-     "text.",
+     "as text.",
      [](Host& host) { return static_cast<long>(host.manager().SmartSwitch(host.adapterGuid())); }},
     {"Roaming", "roam",
      "With a signal quality below 80 goes to the last listed access point of the current network that is better than "
-     "the "
-     "first listed one.",
+     "the first listed one.",
      [](Host& host) { return static_cast<long>(host.manager().Roaming(host.adapterGuid())); }},
     {"Reconnect", "reconnect",
      "Goes back to the current network's access point, picked as Roaming does, however good the link is.",

@@ -67,15 +67,15 @@ std::vector<std::string> UsedAccessPoints(const HistoryFacts& history)
 class BrokenLine
 {
 public:
-    void Add(double x, double y)
+    void Add(const TimeScale& scale, unsigned second, std::optional<long> dbm)
     {
-        m_path += (m_open ? "L" : "M") + PointText(x, y);
+        if (dbm)
+            m_path += (m_open ? "L" : "M") + PointText(scale.XOf(second), TimeScale::Y(*dbm));
         // A moment alone is a dot.
-        if (!m_open)
+        if (dbm && !m_open)
             m_path += "h0.1";
-        m_open = true;
+        m_open = dbm.has_value();
     }
-    void Break() { m_open = false; }
     std::string Draw(const std::string& kind) const
     {
         return m_path.empty() ? "" : "<path class=\"" + kind + "\" d=\"" + m_path + "\"/>";
@@ -93,34 +93,21 @@ std::string LineClass(const ReportFacts& report, const std::string& bssid, std::
     return (point != nullptr ? ColourClass(*point) : "hidden-name") + " d" + std::to_string(place % 4);
 }
 
-/// How an access point that the link has used was heard all the time.
+/// How an access point that the link has used was heard all the time, and over it the link while it used the access point.
 std::string
-HeardLine(const HistoryFacts& history, const std::string& bssid, const std::string& kind, const TimeScale& scale)
+SignalLines(const HistoryFacts& history, const std::string& bssid, const std::string& kind, const TimeScale& scale)
 {
-    BrokenLine line;
+    BrokenLine heard;
+    BrokenLine link;
     for (const SignalSample& sample : history.samples)
     {
-        const auto heard = std::find_if(sample.air.begin(), sample.air.end(),
-                                        [&bssid](const auto& point) { return point.first == bssid; });
-        if (heard != sample.air.end())
-            line.Add(scale.XOf(sample.second), TimeScale::Y(heard->second));
-        else
-            line.Break();
+        const auto point = std::find_if(sample.air.begin(), sample.air.end(),
+                                        [&bssid](const auto& each) { return each.first == bssid; });
+        const bool isUsed = sample.link.connected && sample.link.bssid == bssid;
+        heard.Add(scale, sample.second, point != sample.air.end() ? std::optional(point->second) : std::nullopt);
+        link.Add(scale, sample.second, isUsed ? sample.link.rssi : std::nullopt);
     }
-    return line.Draw("heard " + kind);
-}
-
-/// The link while it used the access point.
-std::string
-LinkLine(const HistoryFacts& history, const std::string& bssid, const std::string& kind, const TimeScale& scale)
-{
-    BrokenLine line;
-    for (const SignalSample& sample : history.samples)
-        if (sample.link.connected && sample.link.bssid == bssid && sample.link.rssi)
-            line.Add(scale.XOf(sample.second), TimeScale::Y(*sample.link.rssi));
-        else
-            line.Break();
-    return line.Draw("link " + kind);
+    return heard.Draw("heard " + kind) + link.Draw("link " + kind);
 }
 
 std::string EventWords(const LinkEvent& event)
@@ -192,7 +179,7 @@ std::string SignalPicture(const ReportFacts& report)
     for (std::size_t place = 0; place < used.size(); ++place)
     {
         const std::string kind = LineClass(report, used[place], place);
-        lines += HeardLine(history, used[place], kind, scale) + LinkLine(history, used[place], kind, scale);
+        lines += SignalLines(history, used[place], kind, scale);
     }
     lines += EventMarks(history, scale);
     const std::string description = "Signal of the link in dBm over " + Counted(scale.last, "second") + ", with " +

@@ -112,10 +112,10 @@ TEST(ImportChanges, StructureIsEnoughForAnUnknownLanguage)
     CaptureHints hints;
     hints.words = {{"WPA2-mimi", "WPA2PSK"}, {"Tutu", "infrastructure"}, {"WPA3-Osobiste", "WPA3SAE"}};
     // Ciphers are never translated, so that what authenticates without any is open; with WEP it may be shared as well.
-    EXPECT_EQ(Told(networks, hints),
-              std::vector<std::string>{"file:57: \"Vava\" is \"Xomo\", which is not a known authentication (Open, "
-                                       "WPA2-Personal, WPA3-Enterprise, OWE ...); the network \"old-printer\" is left "
-                                       "out"});
+    EXPECT_EQ(
+        Told(networks, hints),
+        std::vector<std::string>{"file:57: \"Vava\" is \"Xomo\", which is not a known authentication (Open, "
+                                 "WPA2-Personal, WPA3-Enterprise, OWE ...); the network \"old-printer\" is left out"});
     hints.words.emplace_back("xomo", "open");
     EXPECT_EQ(Told(networks, hints), std::vector<std::string>());
     EXPECT_EQ(ImportText(networks, hints).air, ImportText(Sample("languages/polish/networks.txt"), hints).air);

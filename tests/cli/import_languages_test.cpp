@@ -138,9 +138,8 @@ TEST(ImportLanguages, AFileOfTheConsolesCodePageIsReadWithAWarning)
     if (!simulation::HasNarrowEncoding(850))
         GTEST_SKIP() << "this computer has no converter for code page 850";
     const Captures captures = Read(Sample("languages/german/networks-oem.txt"));
-    EXPECT_EQ(captures.warnings,
-              std::vector<std::string>{"file: this is not Unicode and was read as code page 850, the "
-                                       "most likely one; give another with --code-page"});
+    EXPECT_EQ(captures.warnings, std::vector<std::string>{"file: this is not Unicode and was read as code page 850, "
+                                                          "the most likely one; give another with --code-page"});
     EXPECT_EQ(captures.networks->accessPoints.size(), 6u);
 }
 

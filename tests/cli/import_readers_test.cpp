@@ -161,9 +161,9 @@ TEST(ImportIw, CarriesOverWhatAScenarioHolds)
                      "02:61:00:00:00:05 Harbour Staff, 5500000 kHz, -80 dBm, PHY 4, BSS 1, WPA2 AES, 100 TU",
                      "02:61:00:00:00:06 chess, 2462000 kHz, -90 dBm, PHY 6, BSS 2, open WEP, 100 TU"}));
     EXPECT_EQ(capture.adapterNames, Lines{"wlan0"});
-    EXPECT_EQ(capture.warnings, (Lines{"file:65: \"40/100\" is not in dBm: the strength is a guess",
-                                       "file:26: the access point 02:61:00:00:00:02 accepts both WPA2 "
-                                       "and WPA3; the scenario has WPA3"}));
+    EXPECT_EQ(capture.warnings,
+              (Lines{"file:65: \"40/100\" is not in dBm: the strength is a guess",
+                     "file:26: the access point 02:61:00:00:00:02 accepts both WPA2 and WPA3; the scenario has WPA3"}));
 }
 
 TEST(ImportIw, TheAssociatedAccessPointIsTheConnection)
@@ -250,8 +250,8 @@ TEST(ImportNmcli, FlagsDecideTheCipher)
             ReadNetworks(std::string(" :02\\:61\\:00\\:00\\:00\\:01:A:Infra:1:2412 MHz:54 Mbit/s:50:") + rest);
         ASSERT_EQ(capture.accessPoints.size(), 1u) << rest;
         EXPECT_EQ(capture.accessPoints[0].encryption, cipher) << rest;
-        EXPECT_EQ(capture.warnings, Lines{"file:1: nmcli does not print PHY types, so they are guessed from bands and "
-                                          "rates"});
+        EXPECT_EQ(capture.warnings,
+                  Lines{"file:1: nmcli does not print PHY types, so they are guessed from bands and rates"});
     }
 }
 

@@ -115,8 +115,8 @@ TEST(ImportScenario, TheSecondProfileOfANameIsLeftOutAloud)
     const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_EQ(imported.scenario.adapters.at(0).profiles.size(), 1u);
     EXPECT_EQ(imported.warnings,
-              std::vector<std::string>{"Wi-Fi 2-Juniper.xml: another profile has the name \"Juniper\"; "
-                                       "this one is left out"});
+              std::vector<std::string>{
+                  "Wi-Fi 2-Juniper.xml: another profile has the name \"Juniper\"; this one is left out"});
 }
 
 TEST(ImportScenario, WithoutInterfacesOneAdapterIsMadeUp)
@@ -158,8 +158,10 @@ TEST(ImportScenario, AConnectionWhoseProfileDoesNotFitIsLeftOutAloud)
     captures.profiles.push_back(ParseExportedProfile(kProfile, "Wi-Fi-Juniper.xml"));
     const MadeScenario imported = AssembleScenario(captures, false);
     EXPECT_FALSE(imported.scenario.adapters[0].connection);
-    EXPECT_EQ(imported.warnings, std::vector<std::string>{"the connection of \"Wi-Fi\" to \"Juniper\" is left out: its "
-                                                          "profile is for another kind of network"});
+    EXPECT_EQ(
+        imported.warnings,
+        std::vector<std::string>{
+            "the connection of \"Wi-Fi\" to \"Juniper\" is left out: its profile is for another kind of network"});
 }
 
 TEST(ImportScenario, AConnectionHasTheNameOfAHiddenAccessPoint)
