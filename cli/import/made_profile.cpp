@@ -51,13 +51,12 @@ std::optional<StoredProfile> MakeProfile(const std::string& name, const AccessPo
 
 const StoredProfile* FindProfile(const std::vector<StoredProfile>& profiles, const std::string& name)
 {
-    const auto found =
-        std::find_if(profiles.begin(), profiles.end(),
-                     [wanted = Widen(name)](const StoredProfile& profile)
-                     {
-                         const std::optional<ProfileDocument> document = Read(profile);
-                         return document && document->name == wanted;
-                     });
+    const auto found = std::find_if(profiles.begin(), profiles.end(),
+                                    [wanted = Widen(name)](const StoredProfile& profile)
+                                    {
+                                        const std::optional<ProfileDocument> document = Read(profile);
+                                        return document && document->name == wanted;
+                                    });
     return found == profiles.end() ? nullptr : &*found;
 }
 

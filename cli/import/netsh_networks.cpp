@@ -121,7 +121,8 @@ private:
         start.key = kUnused;
         m_title = start.value.empty() ? "this network without a name" : "the network \"" + start.value + "\"";
         LabelEnglish(section);
-        if (section.size() == 4 && std::all_of(section.begin(), section.end(), [](auto& each) { return each.hasColon; }))
+        if (section.size() == 4 &&
+            std::all_of(section.begin(), section.end(), [](auto& each) { return each.hasColon; }))
             Label(section, 1, {"Network type", "Authentication", "Encryption"});
         m_capture.OrWarn(m_title + " is left out", [&] { Interpret({m_title, section}); });
     }

@@ -1,6 +1,5 @@
 #include "report/report_json.h"
 
-#include "forms/hex_text.h"
 #include "output/json_output.h"
 
 namespace calvix::host
@@ -78,18 +77,6 @@ Json HeardInTime(const std::vector<SignalSample>& samples)
     return json;
 }
 
-/// What an HTML parser looks for inside a script element.
-std::string WithoutMarkup(const std::string& json)
-{
-    std::string safe;
-    for (const char c : json)
-        if (c == '<' || c == '>' || c == '&')
-            safe += "\\u00" + forms::HexText(std::string_view(&c, 1), forms::Letters::lower);
-        else
-            safe += c;
-    return safe;
-}
-
 } // namespace
 
 JsonRecord Describe(const ReportFacts& report)
@@ -111,11 +98,6 @@ JsonRecord Describe(const ReportFacts& report)
                             {"additionalProperties", {{"type", "array"}, {"items", rssi}}}}})
         .Add("events", report.history.events)
         .Add("missing", report.missing);
-}
-
-std::string ReportJson(const ReportFacts& report)
-{
-    return WithoutMarkup(Describe(report).value().dump(-1, ' ', true, Json::error_handler_t::replace));
 }
 
 } // namespace calvix::host

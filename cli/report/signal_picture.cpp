@@ -1,6 +1,6 @@
 #include "report/html_text.h"
-#include "report/page_parts.h"
 #include "report/picture_parts.h"
+#include "report/pictures.h"
 #include "view/describe.h"
 
 #include <algorithm>

@@ -79,15 +79,6 @@ TEST_F(ImportCommand, PrintsTheSummaryAsJson)
     EXPECT_TRUE(summary.at("warnings").empty());
 }
 
-TEST_F(ImportCommand, WritesToStandardOutput)
-{
-    const Outcome outcome = Import({networks, "-o", "-"});
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-    EXPECT_EQ(simulation::ParseScenario(outcome.out, "standard output").accessPoints.size(), 3u);
-    EXPECT_THAT(outcome.err, HasSubstr("Access points  3 (0 hidden)"));
-    EXPECT_EQ(FileCount(), 2u);
-}
-
 TEST_F(ImportCommand, GuessesAndTheUsersWordsAreReported)
 {
     const std::string languages = DataPath("languages/");
@@ -105,56 +96,6 @@ TEST_F(ImportCommand, GuessesAndTheUsersWordsAreReported)
     EXPECT_THAT(Import({foreign, "-o", output}).err, HasSubstr(foreign + ":7: ")) << "the network is left out";
     const Outcome explained = Import({foreign, "--word", "wpa2 - tajne=WPA2PSK", "--code-page", "852", "-o", output});
     EXPECT_EQ(explained.exitCode, 0) << explained.err;
-}
-
-TEST_F(ImportCommand, ListsOfTheLinuxToolsAreRead)
-{
-    const std::string linuxFolder = DataPath("linux/");
-    for (const char* file : {"iw-scan.txt", "nmcli-terse.txt", "nmcli-table.txt"})
-    {
-        for (const bool named : {false, true})
-        {
-            std::vector<std::string> arguments{linuxFolder + file, "-o", output};
-            if (named)
-                arguments.insert(arguments.begin(), "--networks");
-            const Outcome outcome = Import(arguments);
-            EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
-            EXPECT_THAT(outcome.out, HasSubstr("Access points  6 ("));
-            EXPECT_TRUE(simulation::LoadScenario(output).adapters.at(0).connection) << file;
-        }
-    }
-}
-
-TEST_F(ImportCommand, NothingToUseEndsItWithCodeTwoAndNothingWritten)
-{
-    const std::string damaged = FileWith("damaged.txt", kNetworks.substr(0, kNetworks.find("    BSSID 1")));
-    const std::string other = FileWith("other.txt", "Dear reader,\nall is well.\n");
-    const std::string narrow = FileWith("narrow.txt", Replaced(kNetworks, "Juniper", "Caf\xE9"));
-    const std::pair<std::vector<std::string>, std::string> cases[] = {
-        {{damaged}, damaged + ":5: no network has a BSSID: capture with \"netsh wlan show networks mode=bssid\""},
-        {{other}, other + ":1: this is not output of"},
-        {{narrow, "--code-page", "65001"}, narrow + ":5: this is not UTF-8"},
-        {{networks, "--code-page", "12345"}, networks + ": this computer cannot read code page 12345"},
-        {{networks, "--word", "Offen"}, "\"Offen\" is not WORD=MEANING"},
-        {{networks, "--word", "Offen=offen"}, "\"Offen=offen\" is not WORD=MEANING"},
-        {{networks, networks}, networks + ": this is a second list of networks"},
-        {{interfaces, "--interfaces", interfaces}, interfaces + ": this is a second list of interfaces"},
-        {{PathFor("absent.txt")}, PathFor("absent.txt") + ": cannot be read"},
-        {{PathFor("")}, PathFor("") + ": this folder has no profile"},
-        {{"--profiles", networks}, networks + ": this folder cannot be read"},
-        {{}, "nothing to import"},
-    };
-    const std::size_t before = FileCount();
-    for (const auto& [arguments, complaint] : cases)
-    {
-        std::vector<std::string> all = arguments;
-        all.insert(all.end(), {"-o", output});
-        const Outcome outcome = Import(all);
-        EXPECT_EQ(outcome.exitCode, 2) << complaint;
-        EXPECT_THAT(outcome.err, HasSubstr(complaint));
-        EXPECT_EQ(outcome.out, "") << complaint;
-        EXPECT_EQ(FileCount(), before) << complaint;
-    }
 }
 
 TEST_F(ImportCommand, AnEarlierScenarioSurvivesADamagedCapture)
@@ -176,11 +117,6 @@ TEST_F(ImportCommand, AFileThatCannotBeWrittenIsReportedAndLeavesNothing)
     std::filesystem::create_directories(std::filesystem::path(taken) / "by a folder");
     EXPECT_EQ(Import({networks, "-o", taken}).exitCode, 2);
     EXPECT_EQ(FileCount(), 3u);
-}
-
-TEST_F(ImportCommand, TheOutputMustBeNamed)
-{
-    EXPECT_EQ(Import({networks}).exitCode, 2);
 }
 
 } // namespace calvix::test::import_command_test

@@ -14,7 +14,6 @@ namespace
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-constexpr const char* kHome = CALVIX_SOURCE_DIR "/scenarios/home.json";
 constexpr const char* kOfficeWalk = CALVIX_SOURCE_DIR "/scenarios/office-walk.json";
 
 TEST(DotCanvas, DrawsBrailleOrWhatComesCloseToIt)
@@ -53,22 +52,6 @@ TEST(PictureLabels, DoNotCoverEachOther)
 class Chart : public CliTest
 {
 };
-
-TEST_F(Chart, DrawsTheBandsInPlainTextForAPipe)
-{
-    const Outcome outcome = Run({"bss", "--chart", "--scenario", kHome});
-    EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
-    for (const char* const line : {"2.4 GHz, dBm by channel\n", "5 GHz, dBm by channel\n", "6 GHz, dBm by channel\n",
-                                   "A  Lindenhof          -48    6   20  WPA3-SAE/CCMP  02:1A:50:10:00:01\n"})
-        EXPECT_THAT(outcome.out, HasSubstr(line));
-    std::istringstream stream(outcome.out);
-    for (std::string line; std::getline(stream, line);)
-    {
-        EXPECT_LE(line.size(), 80u);
-        for (const char c : line)
-            ASSERT_LT(static_cast<unsigned char>(c), 0x80U) << line;
-    }
-}
 
 TEST_F(Chart, DrawsWithUnicodeOnATerminal)
 {

@@ -118,6 +118,7 @@ INSTANTIATE_TEST_SUITE_P(Transcripts,
                                            "tests/data/transcripts/doctor.txt",
                                            "tests/data/transcripts/help.txt",
                                            "tests/data/transcripts/completion.txt",
+                                           "tests/data/transcripts/import.txt",
                                            "docs/command-line.md",
                                            "docs/troubleshooting.md"));
 
