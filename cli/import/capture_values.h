@@ -1,7 +1,7 @@
 #pragma once
 
+#include "import/capture_fields.h"
 #include "import/capture_words.h"
-#include "import/netsh_lines.h"
 #include "simulation/scenario.h"
 
 #include <cstdint>

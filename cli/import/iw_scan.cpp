@@ -1,11 +1,11 @@
 #include "forms/address_text.h"
 #include "forms/hex_text.h"
+#include "import/capture_fields.h"
 #include "import/capture_values.h"
 #include "import/read_capture.h"
 
 #include <algorithm>
 #include <charconv>
-#include <optional>
 
 namespace calvix::host
 {
@@ -13,36 +13,16 @@ namespace calvix::host
 namespace
 {
 
-constexpr std::string_view kBssStart = "BSS ";
-constexpr std::size_t kAddressSize = 17;
+using simulation::AccessPoint;
 
-/// What an RSN or WPA element says.
-struct SecurityElement
+/// The address in "BSS 02:00:00:00:00:01(on wlan0)", whose first colon ends the field's name.
+std::optional<simulation::MacAddress> AddressOf(const CaptureField& field)
 {
-    std::string suites;
-    std::string ciphers;
-    bool isThere = false;
-};
-
-struct HeardBss
-{
-    std::size_t line = 0;
-    simulation::AccessPoint accessPoint;
-    bool associated = false;
-    bool hasSignal = false;
-    bool privacy = false;
-    int highestRate = 0;
-    SecurityElement rsn;
-    SecurityElement wpa;
-
-    std::string Title() const { return "the access point " + forms::AddressText(accessPoint.bssid); }
-};
-
-std::optional<simulation::MacAddress> StartOf(std::string_view line)
-{
-    if (!line.starts_with(kBssStart))
+    constexpr std::string_view kStart = "BSS ";
+    constexpr std::size_t kAfterFirstColon = 14;
+    if (!field.name.starts_with(kStart) || field.indent != 0)
         return std::nullopt;
-    return forms::AddressFromText(line.substr(kBssStart.size(), kAddressSize));
+    return forms::AddressFromText(field.name.substr(kStart.size()) + ":" + field.value.substr(0, kAfterFirstColon));
 }
 
 bool Has(std::string_view text, std::string_view part)
@@ -95,197 +75,149 @@ std::uint32_t PhyTypeOf(std::string_view element)
     return 0;
 }
 
-/// iw indents with tabs, which pages and terminals turn into blanks.
-std::size_t IndentOf(std::string_view line)
+/// The key of a line is its name; of one further in, which belongs to an element, "RSN * Pairwise ciphers".
+void LabelBss(CaptureFields fields, CaptureWarnings& warnings)
 {
-    std::size_t indent = 0;
-    for (std::size_t i = 0; i < line.size() && (line[i] == ' ' || line[i] == '\t'); ++i)
-        indent += line[i] == '\t' ? 8u : 1u;
-    return indent;
+    std::string element;
+    for (CaptureField& field : fields.subspan(1))
+    {
+        const bool isNested = field.indent > fields[1].indent;
+        if (field.indent == 0)
+            warnings.Warn(field.line, "\"" + field.Text() + "\" is not understood and left out");
+        else
+            field.key = isNested ? element + " " + field.name : field.name;
+        element = isNested ? element : field.name;
+    }
 }
 
-std::string CipherOf(const HeardBss& bss, const SecurityElement& element)
+std::string ValueOf(const CaptureRecord& record, const std::string& key)
 {
-    if (Has(element.ciphers, "GCMP-256"))
+    const CaptureField* const field = record.Find(key);
+    return field != nullptr ? field->value : "";
+}
+
+std::string CipherOf(const std::string& ciphers, std::size_t line)
+{
+    if (Has(ciphers, "GCMP-256"))
         return "GCMP256";
-    if (HasWord(element.ciphers, "CCMP"))
+    if (HasWord(ciphers, "CCMP"))
         return "AES";
-    if (Has(element.ciphers, "TKIP"))
+    if (Has(ciphers, "TKIP"))
         return "TKIP";
-    throw LineError(bss.line, "a scenario cannot have its ciphers (" + element.ciphers + ")");
+    throw LineError(line, "a scenario cannot have its ciphers (" + ciphers + ")");
 }
 
-/// The best that the access point offers, as Windows shows it.
-std::string AuthenticationOf(const HeardBss& bss, const SecurityElement& element)
+/// The best that the access point offers, as Windows shows it; `wpa` is the standard without it.
+std::string AuthenticationOf(const std::string& suites, const std::string& wpa, std::size_t line)
 {
-    const std::string wpa = bss.rsn.isThere ? "WPA2" : "WPA";
     const std::pair<const char*, std::string> kSuites[] = {
         {"SUITE-B-192", "WPA3ENT192"}, {"SAE", "WPA3SAE"}, {"OWE", "OWE"}, {"PSK", wpa + "PSK"}, {"802.1X", wpa}};
     for (const auto& [suite, name] : kSuites)
-        if (Has(element.suites, suite))
+        if (Has(suites, suite))
             return name;
-    throw LineError(bss.line, "a scenario cannot have its authentication (" + element.suites + ")");
+    throw LineError(line, "a scenario cannot have its authentication (" + suites + ")");
 }
 
-class IwReader
+void ReadSecurity(const CaptureRecord& record, AccessPoint& heard, CaptureWarnings& warnings)
 {
-public:
-    explicit IwReader(NetworksCapture& capture) : m_capture(capture) {}
+    const std::size_t line = record.fields.front().line;
+    const std::string element = record.Find("RSN") != nullptr ? "RSN" : "WPA";
+    heard.authentication = "open";
+    heard.encryption = Has(ValueOf(record, "capability"), "Privacy") ? "WEP" : "none";
+    if (record.Find(element) == nullptr)
+        return;
+    const std::string suites = NamedSuites(ValueOf(record, element + " * Authentication suites"));
+    heard.authentication = AuthenticationOf(suites, element == "RSN" ? "WPA2" : "WPA", line);
+    heard.encryption = CipherOf(ValueOf(record, element + " * Pairwise ciphers"), line);
+    if (heard.authentication == "WPA3SAE" && Has(suites, "PSK"))
+        warnings.Warn(line, record.title + " accepts both WPA2 and WPA3; the scenario has WPA3");
+}
 
-    void ReadLine(std::string_view line, std::size_t number)
+/// Drivers that do not know the strength in dBm have it without a unit, as "70/100".
+std::int32_t Strength(const CaptureField& field, CaptureWarnings& warnings)
+{
+    const std::string_view value = field.value;
+    const bool isRelative = value.ends_with("/100");
+    const std::string_view digits = value.substr(0, value.find_first_of("./ "));
+    int level = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), level);
+    if (error != std::errc() || end != digits.data() + digits.size() || (!isRelative && !value.ends_with("dBm")))
+        throw LineError(field.line, "\"signal\" is \"" + field.value + "\", which is not a strength in dBm");
+    if (isRelative)
+        warnings.Warn(field.line, "\"" + field.value + "\" is not in dBm: the strength is a guess");
+    return isRelative ? std::clamp(level, 0, 100) / 2 - 100 : std::clamp(level, -120, 0);
+}
+
+/// A beacon that hides its name has none, or zeros in its place; the probe response may have it all the same.
+void ReadName(const CaptureField& field, AccessPoint& heard)
+{
+    const simulation::Bytes bytes = Ssid(Unescape(field.value), field.line);
+    const bool isName = std::any_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte != 0; });
+    if (!heard.hidden || !isName)
+        return;
+    heard.hidden = false;
+    heard.ssid = bytes;
+}
+
+AccessPoint ReadBss(const CaptureRecord& record, CaptureWarnings& warnings)
+{
+    AccessPoint heard;
+    heard.bssid = *AddressOf(record.fields.front());
+    heard.hidden = true;
+    heard.phyType = 0;
+    int highestRate = 0;
+    for (const CaptureField& field : record.fields)
     {
-        if (const std::optional<simulation::MacAddress> address = StartOf(line))
-            return Begin(line, number, *address);
-        if (Trim(line).empty())
-            return;
-        const std::size_t indent = IndentOf(line);
-        if (m_found.empty() || indent == 0)
-            return m_capture.Warn(number, "\"" + std::string(Trim(line)) + "\" is not understood and left out");
-        m_topLevel = m_topLevel == 0 ? indent : m_topLevel;
-        if (indent > m_topLevel)
-            Nested(Trim(line));
-        else
-            m_capture.OrWarn("it is left out", [&] { TopLevel(line.substr(line.find_first_not_of(" \t")), number); });
+        heard.phyType = std::max(heard.phyType, PhyTypeOf(field.key));
+        if (field.key == "SSID")
+            warnings.OrWarn("it is left out", [&] { ReadName(field, heard); });
+        else if (field.key == "Supported rates" || field.key == "Extended supported rates")
+            highestRate = std::max(highestRate, HighestRate(field.value));
     }
-
-    void Finish()
-    {
-        for (HeardBss& bss : m_found)
-            m_capture.OrWarn(bss.Title() + " is left out", [&] { Add(bss); });
-    }
-
-private:
-    void Begin(std::string_view line, std::size_t number, const simulation::MacAddress& address)
-    {
-        constexpr std::string_view kAdapter = "(on ";
-        m_element = nullptr;
-        HeardBss& bss = m_found.emplace_back();
-        bss.line = number;
-        bss.accessPoint.bssid = address;
-        bss.accessPoint.frequencyKhz = 0;
-        bss.accessPoint.phyType = 0;
-        bss.accessPoint.hidden = true;
-        bss.associated = Has(line, "-- associated");
-        line.remove_prefix(std::min(line.find(kAdapter), line.size() - kAdapter.size()) + kAdapter.size());
-        m_capture.AddAdapterName(line.substr(0, line.find(')')));
-    }
-
-    void TopLevel(std::string_view line, std::size_t number)
-    {
-        const std::size_t colon = std::min(line.find(':'), line.size());
-        const std::string_view name = Trim(line.substr(0, colon));
-        const std::string_view rest = line.substr(std::min(colon + 1, line.size()));
-        HeardBss& bss = m_found.back();
-        m_element = name == "RSN" ? &bss.rsn : name == "WPA" ? &bss.wpa : nullptr;
-        if (m_element != nullptr)
-            m_element->isThere = true;
-        bss.accessPoint.phyType = std::max(bss.accessPoint.phyType, PhyTypeOf(name));
-        if (name == "SSID")
-            Ssid(rest.starts_with(' ') ? rest.substr(1) : rest, number);
-        else
-            Value(name, Trim(rest), number);
-    }
-
-    void Value(std::string_view name, std::string_view value, std::size_t number)
-    {
-        HeardBss& bss = m_found.back();
-        if (name == "freq")
-            bss.accessPoint.frequencyKhz = FrequencyFromMegahertz(value);
-        else if (name == "beacon interval" && FirstNumber(value) > 0 && FirstNumber(value) <= 0xFFFF)
-            bss.accessPoint.beaconPeriod = static_cast<std::uint16_t>(FirstNumber(value));
-        else if (name == "signal")
-            Signal(value, number);
-        else if (name == "Supported rates" || name == "Extended supported rates")
-            bss.highestRate = std::max(bss.highestRate, HighestRate(value));
-        else if (name == "capability")
-        {
-            bss.accessPoint.bssType = Has(value, "IBSS") ? 2 : 1;
-            bss.privacy = Has(value, "Privacy");
-        }
-        else
-            Nested(value);
-    }
-
-    /// Drivers that do not know the strength in dBm have it without a unit, as "70/100".
-    void Signal(std::string_view value, std::size_t number)
-    {
-        const bool isRelative = value.ends_with("/100");
-        const std::string_view digits = value.substr(0, value.find_first_of("./ "));
-        int level = 0;
-        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), level);
-        if (error != std::errc() || end != digits.data() + digits.size() || (!isRelative && !value.ends_with("dBm")))
-            throw LineError(number, "\"signal\" is \"" + std::string(value) + "\", which is not a strength in dBm");
-        if (isRelative)
-            m_capture.Warn(number, "\"" + std::string(value) + "\" is not in dBm: the strength is a guess");
-        m_found.back().hasSignal = true;
-        m_found.back().accessPoint.rssi = isRelative ? std::clamp(level, 0, 100) / 2 - 100 : std::clamp(level, -120, 0);
-    }
-
-    void Ssid(std::string_view value, std::size_t number)
-    {
-        const simulation::Bytes bytes = host::Ssid(Unescape(value), number);
-        simulation::AccessPoint& accessPoint = m_found.back().accessPoint;
-        // A beacon that hides its name has none, or zeros in its place; the probe response may have it all the same.
-        const bool isName = std::any_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte != 0; });
-        if (!accessPoint.hidden || !isName)
-            return;
-        accessPoint.hidden = false;
-        accessPoint.ssid = bytes;
-    }
-
-    /// " * Pairwise ciphers: CCMP TKIP"
-    void Nested(std::string_view line)
-    {
-        const std::size_t colon = line.find(": ");
-        if (m_element == nullptr || colon == std::string_view::npos)
-            return;
-        const std::string_view value = Trim(line.substr(colon + 1));
-        if (line.starts_with("* Pairwise ciphers"))
-            m_element->ciphers = value;
-        else if (line.starts_with("* Authentication suites"))
-            m_element->suites = NamedSuites(value);
-    }
-
-    void SetSecurity(HeardBss& bss)
-    {
-        simulation::AccessPoint& accessPoint = bss.accessPoint;
-        const SecurityElement& element = bss.rsn.isThere ? bss.rsn : bss.wpa;
-        accessPoint.authentication = element.isThere ? AuthenticationOf(bss, element) : "open";
-        accessPoint.encryption = element.isThere ? CipherOf(bss, element) : bss.privacy ? "WEP" : "none";
-        if (accessPoint.authentication == "WPA3SAE" && Has(element.suites, "PSK"))
-            m_capture.Warn(bss.line, bss.Title() + " accepts both WPA2 and WPA3; the scenario has WPA3");
-    }
-
-    void Add(HeardBss& bss)
-    {
-        simulation::AccessPoint& accessPoint = bss.accessPoint;
-        if (accessPoint.frequencyKhz == 0 || !bss.hasSignal)
-            throw LineError(bss.line, std::string("no \"") + (bss.hasSignal ? "freq" : "signal") + "\" follows");
-        if (accessPoint.phyType == 0)
-            accessPoint.phyType = OldPhyType(accessPoint.frequencyKhz, bss.highestRate);
-        SetSecurity(bss);
-        m_capture.accessPoints.push_back(accessPoint);
-        if (bss.associated)
-            m_capture.AddConnection(accessPoint);
-    }
-
-    NetworksCapture& m_capture;
-    std::vector<HeardBss> m_found;
-    std::size_t m_topLevel = 0;           ///< the indentation of an access point's own lines, 0: not seen yet
-    SecurityElement* m_element = nullptr; ///< the element that lines further in belong to
-};
+    heard.frequencyKhz = FrequencyFromMegahertz(ValueOf(record, "freq"));
+    const CaptureField* const signal = record.Find("signal");
+    if (heard.frequencyKhz == 0 || signal == nullptr)
+        throw LineError(record.fields.front().line,
+                        std::string("no \"") + (signal != nullptr ? "freq" : "signal") + "\" follows");
+    heard.rssi = Strength(*signal, warnings);
+    if (heard.phyType == 0)
+        heard.phyType = OldPhyType(heard.frequencyKhz, highestRate);
+    if (const int period = FirstNumber(ValueOf(record, "beacon interval")); period > 0 && period <= 0xFFFF)
+        heard.beaconPeriod = static_cast<std::uint16_t>(period);
+    heard.bssType = Has(ValueOf(record, "capability"), "IBSS") ? 2 : 1;
+    ReadSecurity(record, heard, warnings);
+    return heard;
+}
 
 } // namespace
 
 bool ReadIwScan(std::string_view text, NetworksCapture& capture)
 {
-    const std::vector<std::string_view> lines = LinesOf(text);
-    if (std::none_of(lines.begin(), lines.end(), [](std::string_view line) { return StartOf(line).has_value(); }))
+    constexpr std::string_view kAdapter = "(on ";
+    std::vector<CaptureField> fields = ReadFields(text);
+    const auto begins = [](const CaptureField& field) { return AddressOf(field).has_value(); };
+    auto begin = std::find_if(fields.begin(), fields.end(), begins);
+    if (begin == fields.end())
         return false;
-    IwReader reader(capture);
-    for (std::size_t i = 0; i < lines.size(); ++i)
-        reader.ReadLine(lines[i], i + 1);
-    reader.Finish();
+    for (auto line = fields.begin(); line != begin; ++line)
+        capture.Warn(line->line, "\"" + line->Text() + "\" is not understood and left out");
+    while (begin != fields.end())
+    {
+        const auto end = std::find_if(begin + 1, fields.end(), begins);
+        const CaptureRecord record{"the access point " + forms::AddressText(*AddressOf(*begin)), {begin, end}};
+        LabelBss(record.fields, capture);
+        if (const std::size_t at = begin->value.find(kAdapter); at != std::string::npos)
+            capture.AddAdapterName(
+                begin->value.substr(at + kAdapter.size(), begin->value.find(')') - at - kAdapter.size()));
+        capture.OrWarn(record.title + " is left out",
+                       [&]
+                       {
+                           capture.accessPoints.push_back(ReadBss(record, capture));
+                           if (Has(record.fields.front().value, "-- associated"))
+                               capture.AddConnection(capture.accessPoints.back());
+                       });
+        begin = end;
+    }
     capture.RefuseUnless(!capture.accessPoints.empty());
     return true;
 }

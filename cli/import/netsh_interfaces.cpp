@@ -1,7 +1,7 @@
 #include "forms/hex_text.h"
 #include "import/capture_encoding.h"
+#include "import/capture_fields.h"
 #include "import/capture_values.h"
-#include "import/netsh_lines.h"
 #include "import/read_capture.h"
 
 #include <algorithm>

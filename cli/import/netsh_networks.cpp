@@ -1,6 +1,6 @@
 #include "import/capture_encoding.h"
+#include "import/capture_fields.h"
 #include "import/capture_values.h"
-#include "import/netsh_lines.h"
 #include "import/read_capture.h"
 
 #include <algorithm>
@@ -45,23 +45,22 @@ public:
 
     void Read()
     {
-        for (std::size_t at = FirstHeader(); at < m_fields.size();)
+        const auto network = std::find_if(m_fields.begin(), m_fields.end(), BeginsNetwork);
+        if (network != m_fields.end() && std::none_of(m_fields.begin(), m_fields.end(), BeginsAccessPoint))
+            throw LineError(network->line,
+                            "no network has a BSSID: capture with \"netsh wlan show networks mode=bssid\"");
+        m_at = FirstHeader();
+        while (m_at < m_fields.size())
         {
-            const std::size_t end = SectionEnd(at);
-            const CaptureFields section = m_fields.subspan(at, end - at);
-            if (BeginsAccessPoint(section.front()))
-                ReadAccessPoint(section);
-            else if (BeginsNetwork(section.front()))
+            const CaptureFields section = NextSection();
+            if (BeginsNetwork(section.front()))
                 ReadNetwork(section);
+            else if (BeginsAccessPoint(section.front()))
+                RefuseAccessPoint(section);
             else
                 ReadHeader(section);
-            at = end;
         }
-        EndNetwork();
         EndList();
-        if (m_firstNetwork != nullptr && !m_hasAccessPoints)
-            throw LineError(m_firstNetwork->line,
-                            "no network has a BSSID: capture with \"netsh wlan show networks mode=bssid\"");
         WarnOfUnknown(m_fields, m_capture);
     }
 
@@ -83,18 +82,18 @@ private:
         return field.hasColon && (SameButForCase(field.name, "Interface name") || field.name == m_adapterLabel);
     }
 
-    std::size_t SectionEnd(std::size_t at) const
+    CaptureFields NextSection()
     {
+        const std::size_t begin = m_at;
         do
-            ++at;
-        while (at < m_fields.size() && !BeginsEither(m_fields[at]) && !NamesAdapter(m_fields[at]));
-        return at;
+            ++m_at;
+        while (m_at < m_fields.size() && !BeginsEither(m_fields[m_at]) && !NamesAdapter(m_fields[m_at]));
+        return m_fields.subspan(begin, m_at - begin);
     }
 
     /// The adapter's name, then how many networks there are. Some languages print that with a colon.
     void ReadHeader(CaptureFields section)
     {
-        EndNetwork();
         EndList();
         for (CaptureField& field : section)
             if (&field == &section.front() && field.hasColon && WholeNumber(field.value) < 0)
@@ -109,61 +108,68 @@ private:
             }
     }
 
+    /// Reads a network and its access points. Without "mode=bssid" the same command lists none at all.
     void ReadNetwork(CaptureFields section)
     {
-        EndNetwork();
         ++m_listed;
         CaptureField& start = section.front();
-        m_firstNetwork = m_firstNetwork == nullptr ? &start : m_firstNetwork;
-        m_network = &start;
-        m_isUsable = false;
-        m_isListed = false;
         start.key = kUnused;
-        m_title = start.value.empty() ? "this network without a name" : "the network \"" + start.value + "\"";
+        const std::string title =
+            start.value.empty() ? "this network without a name" : "the network \"" + start.value + "\"";
         LabelEnglish(section);
         if (section.size() == 4 &&
             std::all_of(section.begin(), section.end(), [](auto& each) { return each.hasColon; }))
             Label(section, 1, {"Network type", "Authentication", "Encryption"});
-        m_capture.OrWarn(m_title + " is left out", [&] { Interpret({m_title, section}); });
+        std::optional<simulation::AccessPoint> common;
+        m_capture.OrWarn(title + " is left out", [&] { common = ReadCommon({title, section}); });
+        if (m_at == m_fields.size() || !BeginsAccessPoint(m_fields[m_at]))
+            m_capture.Warn(start.line, title + " is listed without access points and left out");
+        while (m_at < m_fields.size() && BeginsAccessPoint(m_fields[m_at]))
+            m_capture.OrWarn("the access point is left out", [&] { ReadAccessPoint(NextSection(), common); });
     }
 
-    void Interpret(const CaptureRecord& record)
+    /// What the access points of a network have in common.
+    simulation::AccessPoint ReadCommon(const CaptureRecord& record)
     {
         const CaptureField& start = record.fields.front();
         if (!start.hasColon)
             throw LineError(start.line, "\"" + start.name + "\" has no value");
-        m_common = {};
-        m_common.ssid = Ssid(start.value, start.line);
-        m_common.hidden = m_common.ssid.empty();
-        m_common.bssType = 1;
+        simulation::AccessPoint common;
+        common.ssid = Ssid(start.value, start.line);
+        common.hidden = common.ssid.empty();
         record.WarnOfTwice(m_capture);
         m_capture.OrWarn("infrastructure is assumed",
-                         [&] { m_common.bssType = BssType(record.Need("Network type"), m_vocabulary); });
-        ReadSecurity(record.Need("Authentication"), record.Need("Encryption"), m_vocabulary, m_common);
+                         [&] { common.bssType = BssType(record.Need("Network type"), m_vocabulary); });
+        ReadSecurity(record.Need("Authentication"), record.Need("Encryption"), m_vocabulary, common);
         WarnOfMisread(start.value, start.line, m_capture);
-        m_isUsable = true;
+        return common;
     }
 
-    void ReadAccessPoint(CaptureFields section)
+    /// Access points of a network that is left out are read for the sake of the warnings.
+    void ReadAccessPoint(CaptureFields section, const std::optional<simulation::AccessPoint>& common)
     {
-        m_isListed = m_hasAccessPoints = true;
+        LabelAccessPoint(section);
+        simulation::AccessPoint heard = common.value_or(simulation::AccessPoint());
+        heard.bssid = Address(section.front());
+        const CaptureRecord record{"the access point " + section.front().value, section};
+        record.WarnOfTwice(m_capture);
+        Hear(record, heard);
+        if (common)
+            m_capture.accessPoints.push_back(std::move(heard));
+    }
+
+    void RefuseAccessPoint(CaptureFields section)
+    {
+        LabelAccessPoint(section);
+        m_capture.Warn(section.front().line, "a BSSID before any SSID; the access point is left out");
+    }
+
+    static void LabelAccessPoint(CaptureFields section)
+    {
         section.front().key = kUnused;
         LabelNested(section);
         LabelEnglish(section);
         LabelByShape(section);
-        if (m_network == nullptr)
-            return m_capture.Warn(section.front().line, "a BSSID before any SSID; the access point is left out");
-        m_capture.OrWarn("the access point is left out",
-                         [&]
-                         {
-                             simulation::AccessPoint heard = m_common;
-                             heard.bssid = Address(section.front());
-                             const CaptureRecord record{"the access point " + section.front().value, section};
-                             record.WarnOfTwice(m_capture);
-                             Hear(record, heard);
-                             if (m_isUsable)
-                                 m_capture.accessPoints.push_back(std::move(heard));
-                         });
     }
 
     /// How busy the access point is, and which others stand at the same place, in lines of their own below a title.
@@ -195,14 +201,6 @@ private:
                 Label(section, i, {kUnused});
     }
 
-    /// Without "mode=bssid" the same command lists no access points at all.
-    void EndNetwork()
-    {
-        if (m_network != nullptr && !m_isListed)
-            m_capture.Warn(m_network->line, m_title + " is listed without access points and left out");
-        m_network = nullptr;
-    }
-
     void EndList()
     {
         WarnOfCut(m_announcement, m_listed, "networks", m_capture);
@@ -216,13 +214,7 @@ private:
     std::string m_adapterLabel; ///< what this language calls the adapter
     const CaptureField* m_announcement = nullptr;
     std::size_t m_listed = 0; ///< networks since then
-    const CaptureField* m_firstNetwork = nullptr;
-    bool m_hasAccessPoints = false;
-    const CaptureField* m_network = nullptr; ///< what the next access point belongs to
-    std::string m_title;                     ///< what messages call it
-    bool m_isListed = false;                 ///< with an access point at least
-    bool m_isUsable = false;
-    simulation::AccessPoint m_common; ///< what its access points have in common
+    std::size_t m_at = 0;     ///< the next field to read
 };
 
 } // namespace

@@ -162,8 +162,8 @@ TEST(ImportIw, CarriesOverWhatAScenarioHolds)
                      "02:61:00:00:00:06 chess, 2462000 kHz, -90 dBm, PHY 6, BSS 2, open WEP, 100 TU"}));
     EXPECT_EQ(capture.adapterNames, Lines{"wlan0"});
     EXPECT_EQ(capture.warnings,
-              (Lines{"file:65: \"40/100\" is not in dBm: the strength is a guess",
-                     "file:26: the access point 02:61:00:00:00:02 accepts both WPA2 and WPA3; the scenario has WPA3"}));
+              (Lines{"file:26: the access point 02:61:00:00:00:02 accepts both WPA2 and WPA3; the scenario has WPA3",
+                     "file:65: \"40/100\" is not in dBm: the strength is a guess"}));
 }
 
 TEST(ImportIw, TheAssociatedAccessPointIsTheConnection)

@@ -1,4 +1,4 @@
-#include "import/netsh_lines.h"
+#include "import/capture_fields.h"
 
 #include <algorithm>
 #include <map>
@@ -45,7 +45,9 @@ CaptureField ReadField(std::string_view line, std::size_t number, bool beginsPar
     field.hasColon = colon != std::string_view::npos;
     if (field.hasColon)
         field.value = Trim(text.substr(colon + (colon == wide ? kWideColon.size() : 1)));
-    field.indent = static_cast<std::size_t>(text.data() - line.data());
+    // Pages and terminals turn tabs into blanks.
+    for (const char blank : line.substr(0, static_cast<std::size_t>(text.data() - line.data())))
+        field.indent += blank == '\t' ? 8u : 1u;
     field.beginsParagraph = beginsParagraph;
     return field;
 }
