@@ -1,7 +1,6 @@
 #include "support/library_test.h"
 
 #include <atomic>
-#include <future>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -144,26 +143,6 @@ TEST_F(NotificationsTest, TheClientHearsOfAScanOnAThreadOfTheService)
     }
 }
 
-TEST_F(NotificationsTest, OtherModulesAreNotHeard)
-{
-    Register(m_first);
-    EXPECT_EQ(0, manager().RadioTurnOff(&kAdapterA)) << "the media-specific module reports this";
-    Advance(1s);
-    computer().WaitForNotifications();
-    for (const Heard& heard : m_first.All())
-        EXPECT_EQ(WLAN_NOTIFICATION_SOURCE_ACM, heard.source);
-}
-
-// One registration for the process.
-TEST_F(NotificationsTest, ASecondRegistrationReplacesTheFirst)
-{
-    Register(m_first);
-    Register(m_second);
-    Scan();
-    EXPECT_EQ(0u, m_first.Count());
-    EXPECT_EQ(1u, m_second.Count(wlan_notification_acm_scan_complete));
-}
-
 TEST_F(NotificationsTest, NothingIsHeardAfterUnregistering)
 {
     Register(m_first);
@@ -174,16 +153,6 @@ TEST_F(NotificationsTest, NothingIsHeardAfterUnregistering)
     Scan();
     EXPECT_EQ(0u, m_first.Count());
     EXPECT_NE(0u, m_second.Count());
-}
-
-TEST_F(NotificationsTest, ClosingTheClientHandleEndsTheRegistration)
-{
-    Register(m_first);
-    CWirelessManage::Delete();
-    MakeNews();
-    Advance(120s);
-    computer().WaitForNotifications();
-    EXPECT_EQ(0u, m_first.Count());
 }
 
 // --- Callbacks beside the client's calls ---
@@ -197,25 +166,6 @@ void GiveWay(unsigned turns)
     for (unsigned turn = 0; turn < turns; ++turn)
         std::this_thread::yield();
 }
-
-/// Holds its callback up until it is let go, and then a little longer.
-struct SlowListener
-{
-    std::promise<void> entered;
-    std::promise<void> letGo;
-    bool left = false; ///< deliberately unprotected: who has waited for the callback may read it
-
-    static void CALLBACK Callback(PWLAN_NOTIFICATION_DATA, PVOID context)
-    {
-        auto& self = *static_cast<SlowListener*>(context);
-        if (self.left)
-            return;
-        self.entered.set_value();
-        self.letGo.get_future().wait();
-        GiveWay(1000);
-        self.left = true;
-    }
-};
 
 /// Counts without any protection, in memory that goes away as soon as the registration is ended.
 struct ShortLivedListener
@@ -243,23 +193,6 @@ struct AskingListener
 };
 
 } // namespace
-
-TEST_F(NotificationsTest, WhatEndsARegistrationWaitsForTheRunningCallback)
-{
-    const std::function<void()> ends[] = {[this] { manager().UnRegisterNotification(NeverCalled, nullptr); },
-                                          [this] { Register(m_second); }, [] { CWirelessManage::Delete(); }};
-    for (const auto& end : ends)
-    {
-        SlowListener listener;
-        manager().RegisterNotification(SlowListener::Callback, &listener);
-        MakeNews();
-        listener.entered.get_future().wait();
-        std::thread letsGo([&listener] { listener.letGo.set_value(); });
-        end();
-        EXPECT_TRUE(listener.left);
-        letsGo.join();
-    }
-}
 
 TEST_F(NotificationsTest, RegistrationsComeAndGoWhileTheServiceNotifies)
 {
@@ -290,21 +223,6 @@ TEST_F(NotificationsTest, RegistrationsComeAndGoWhileTheServiceNotifies)
     }
     computer().WaitForNotifications();
     EXPECT_GE(heard, 100u) << "at least one in each round that waited";
-}
-
-TEST_F(NotificationsTest, TheClientIsDeletedWhileTheServiceNotifies)
-{
-    auto listener = std::make_unique<ShortLivedListener>();
-    manager().RegisterNotification(ShortLivedListener::Callback, listener.get());
-    for (int news = 0; news < 50; ++news)
-        MakeNews();
-    GiveWay(10);
-    CWirelessManage::Delete();
-    listener.reset();
-    MakeNews();
-    Advance(70s);
-    computer().WaitForNotifications();
-    EXPECT_EQ(0u, computer().Audit().openClients);
 }
 
 TEST_F(NotificationsTest, ACallbackMayCallTheLibrary)

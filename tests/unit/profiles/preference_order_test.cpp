@@ -84,11 +84,4 @@ TEST_F(PreferenceOrderTest, OnlyTheFirstInterfaceIsLookedAt)
     EXPECT_EQ(kAdapterAText, call("WlanQueryInterface")["interface"]);
 }
 
-TEST_F(PreferenceOrderTest, AFailedMoveMovesNothing)
-{
-    FailOn("WlanSetProfilePosition", 1168);
-    EXPECT_EQ(1168, manager().SetCurrentWiFiToLast());
-    EXPECT_EQ(L"HomeNet", Order().front());
-}
-
 } // namespace calvix::test::preference_order_test

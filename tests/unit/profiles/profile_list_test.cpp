@@ -173,14 +173,6 @@ TEST_F(ProfileListTest, FewerThanTwoProfilesHaveNoOrder)
     }
 }
 
-TEST_F(ProfileListTest, UnknownNamesAreTheServicesToRefuse)
-{
-    EXPECT_EQ(1168, manager().ResetProfilePosition(&kAdapterA, "homenet"));
-    EXPECT_EQ(1168, manager().SetProfilePosition(&kAdapterA, L"homenet"));
-    EXPECT_EQ(87, manager().SetProfilePosition(&kAdapterA, nullptr));
-    EXPECT_EQ(87, manager().ResetProfilePosition(&kAdapterA, nullptr));
-}
-
 TEST_F(ProfileListTest, ResetProfilePositionTakesNamesOfUpTo255Characters)
 {
     const std::string longest(255, 'n');
@@ -240,16 +232,6 @@ TEST_F(ProfileListTest, DeleteProfileKeepsTheBytesOfANarrowName)
     manager().DeleteProfile(&kAdapterA, "Caf\xE9\x80");
     EXPECT_EQ("\"Caf\\u00E9\\u0080\"", call("WlanDeleteProfile")["name"]);
     EXPECT_EQ(0u, callCount("MultiByteToWideChar"));
-}
-
-TEST_F(ProfileListTest, DeleteProfileOfAnUnknownOrNullNameIsRefused)
-{
-    EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, "homenet"));
-    EXPECT_EQ("WlanDeleteProfile failed with error: 1168", sharedTrace());
-    EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, static_cast<const char*>(nullptr)));
-    EXPECT_EQ("WlanDeleteProfile failed with error: 87", sharedTrace());
-    EXPECT_EQ(-4, manager().DeleteProfile(&kAdapterA, static_cast<const wchar_t*>(nullptr)));
-    EXPECT_EQ(5u, StoredNames().size());
 }
 
 } // namespace calvix::test::profile_list_test
