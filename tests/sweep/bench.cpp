@@ -59,7 +59,8 @@ public:
             const operations::Description<operation, Roles...>& description) {
             if constexpr ((std::is_base_of_v<operations::BlockOut, Roles> || ...))
                 if (description.name == m_failure.operation)
-                    After<operation>([this](DWORD error, auto... arguments) { return Alter(error, arguments...); });
+                    After<operation>([this](DWORD error, auto... arguments)
+                                     { return this->Alter(error, arguments...); });
         });
     }
 

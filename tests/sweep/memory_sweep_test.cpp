@@ -106,6 +106,7 @@ struct Setting
     std::string name;
     simulation::Scenario world;
     bool refusesConnections = false;
+    bool whereMore = false; ///< only for the methods that allocate more often here than in the first setting
 };
 
 std::vector<Setting> Settings()
@@ -113,7 +114,7 @@ std::vector<Setting> Settings()
     std::vector<Setting> settings;
     for (const sweep::World& world : sweep::Worlds())
         settings.push_back({world.name, world.make()});
-    settings.push_back({"many adapters", ManyAdapters()});
+    settings.push_back({.name = "many adapters", .world = ManyAdapters(), .whereMore = true});
     settings.push_back({"crowded", Crowded()});
     settings.push_back({"crowded and refusing", Crowded(), true});
     return settings;
@@ -241,7 +242,7 @@ public:
         }
     }
 
-    std::size_t Runs() const { return 2 * m_plenty.allocations; }
+    std::size_t Allocations() const { return m_plenty.allocations; }
     const std::set<std::size_t>& Seen() const { return m_seen; }
 
 private:
@@ -293,13 +294,16 @@ TEST(MemorySweep, EveryAllocationOfEveryMethodFails)
     for (const Method& method : methods::EveryMethod())
     {
         SCOPED_TRACE(method.declaration);
+        const std::size_t usual = CallWithPlenty(settings.front(), method).allocations;
         std::set<std::size_t> seen;
         for (const Setting& setting : settings)
         {
             SCOPED_TRACE(setting.name);
             Sweep sweep(setting, method);
+            if (setting.whereMore && sweep.Allocations() <= usual)
+                continue;
             sweep.Run();
-            runs += sweep.Runs();
+            runs += 2 * sweep.Allocations();
             seen.insert(sweep.Seen().begin(), sweep.Seen().end());
         }
         EXPECT_EQ(seen.size(), ShortagesOf(method).size()) << "not every shortage of the table was met";
