@@ -35,6 +35,11 @@ struct Method
     std::string Declared() const { return name.substr(0, name.find('(')); }
 };
 
+std::function<long long(CWirelessManage&, Caller&)> AskOfAdapter(int (CWirelessManage::*method)(const GUID*))
+{
+    return [method](CWirelessManage& manager, const Caller& caller) { return (manager.*method)(caller.adapter); };
+}
+
 const std::vector<Method> kMethods = {
     {"GetMatchAPList",
      [](Model& model) { return model.CollectEntries(Adapter::asked, Filter::none); },
@@ -77,52 +82,38 @@ const std::vector<Method> kMethods = {
      {0}},
     {"ConnectBestAP",
      [](Model& model) { return model.ConnectBestAP(false, false); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.ConnectBestAP(caller.adapter); },
+     AskOfAdapter(&CWirelessManage::ConnectBestAP),
      {0}},
-    {"AutoConnectEx",
-     [](Model& model) { return model.AutoConnectEx(); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.AutoConnectEx(caller.adapter); },
-     {0}},
-    {"AutoConnect",
-     [](Model& model) { return model.AutoConnect(); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.AutoConnect(caller.adapter); },
-     {0}},
-    {"AutoSwitch",
-     [](Model& model) { return model.AutoSwitch(); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.AutoSwitch(caller.adapter); },
-     {0}},
-    {"SmartSwitch",
-     [](Model& model) { return model.SmartSwitch(); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.SmartSwitch(caller.adapter); },
-     {0, 1001, 1004, 1113}},
+    {"AutoConnectEx", &Model::AutoConnectEx, AskOfAdapter(&CWirelessManage::AutoConnectEx), {0}},
+    {"AutoConnect", &Model::AutoConnect, AskOfAdapter(&CWirelessManage::AutoConnect), {0}},
+    {"AutoSwitch", &Model::AutoSwitch, AskOfAdapter(&CWirelessManage::AutoSwitch), {0}},
+    {"SmartSwitch", &Model::SmartSwitch, AskOfAdapter(&CWirelessManage::SmartSwitch), {0, 1001, 1004, 1113}},
     {"SmartConnecting",
-     [](Model& model) { return model.SmartConnecting(); },
+     &Model::SmartConnecting,
      [](CWirelessManage& manager, Caller& caller) { return manager.SmartConnecting(caller.adapter, caller.text); },
      {0, 1001}},
-    {"ConnectAutoMode",
-     [](Model& model) { return model.ConnectAutoMode(); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.ConnectAutoMode(caller.adapter); },
-     {0}},
+    {"ConnectAutoMode", &Model::ConnectAutoMode, AskOfAdapter(&CWirelessManage::ConnectAutoMode), {0}},
     {"PreRoaming",
      [](Model& model) { return model.Roam(false); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.PreRoaming(caller.adapter); },
+     AskOfAdapter(&CWirelessManage::PreRoaming),
      {0},
      {Cause::signalGoodEnough}},
     {"Roaming",
      [](Model& model) { return model.Roam(true); },
-     [](CWirelessManage& manager, Caller& caller) { return manager.Roaming(caller.adapter); },
+     AskOfAdapter(&CWirelessManage::Roaming),
      {0},
      {Cause::signalGoodEnough}},
     {"Reconnect(attributes)",
-     [](Model& model) { return model.Reconnect(); },
+     &Model::Reconnect,
      [](CWirelessManage& manager, Caller& caller) { return manager.Reconnect(caller.adapter, &caller.attributes, 20); },
      {0}},
     {"Reconnect(notification)",
-     [](Model& model) { return model.Reconnect(); },
+     &Model::Reconnect,
      [](CWirelessManage& manager, Caller& caller)
      { return manager.Reconnect(caller.adapter, &caller.notification, 20); },
      {0}},
 };
+
 /// The results that the worlds must produce. None of them passes null.
 std::set<long long> ResultsOf(const Method& method)
 {

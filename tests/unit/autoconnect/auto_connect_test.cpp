@@ -62,15 +62,6 @@ TEST_F(AutoConnectTest, StartsTheConnectionAndDoesNotWaitForIt)
     EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
 }
 
-TEST_F(AutoConnectTest, ARefusedRequestIsFollowedByTheNextProfile)
-{
-    FailOn("WlanConnect", 1234, 1, 1);
-    EXPECT_EQ(0, Auto(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First", "Second"));
-    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 1234"));
-    EXPECT_EQ("WlanConnect failed with error: 1234", sharedTrace());
-}
-
 // Each network entry that carries a profile's name is a request of its own, in list order.
 TEST_F(AutoConnectTest, AProfileIsTriedWithEachOfItsNetworks)
 {
@@ -98,14 +89,6 @@ TEST_F(AutoConnectExTest, RanksAllMatchingNetworksBySignal)
                                          kRelease, kRelease, kRelease));
     EXPECT_TRUE(traced().empty());
     EXPECT_TRUE(sharedTraceUntouched());
-}
-
-TEST_F(AutoConnectExTest, ARefusedRequestIsFollowedByTheNext)
-{
-    FailOn("WlanConnect", 1234, 1, 1);
-    EXPECT_EQ(0, AutoEx(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First", "Second"));
-    EXPECT_EQ("WlanConnect failed with error: 1234", sharedTrace());
 }
 
 TEST_F(AutoConnectExTest, AnEmptyBssListEndsItWithoutATrace)

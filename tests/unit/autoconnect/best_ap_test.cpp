@@ -71,26 +71,6 @@ TEST_F(BestApTest, AsksForAConnectionByProfile)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-TEST_F(BestApTest, AllOverloadsWalkAlike)
-{
-    for (const Overload& overload : Overloads())
-    {
-        Restart();
-        FailOn("WlanConnect");
-        EXPECT_EQ(-12, overload.call(manager())) << overload.name;
-        EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Boosted", "Plain")) << overload.name;
-    }
-}
-
-TEST_F(BestApTest, ARefusedRequestIsFollowedByTheNext)
-{
-    FailOn("WlanConnect", 5, 1, 1);
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Boosted", "Plain"));
-    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 5"));
-    EXPECT_EQ("WlanConnect failed with error: 5", sharedTrace());
-}
-
 TEST_F(BestApTest, TheNetworksOwnBssTypeIsAskedFor)
 {
     UseWorld(RichWorld());
@@ -126,15 +106,6 @@ TEST_F(BestApTest, AnEmptyBssListEndsItWithoutATrace)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-TEST_F(BestApTest, AProfileThatCannotBeReadIsNotACandidate)
-{
-    FailOn("WlanGetProfile", 5, 2, 1);
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Plain"));
-    EXPECT_THAT(traced(), ElementsAre("WlanGetProfile failed with error: 5"));
-    EXPECT_TRUE(sharedTraceUntouched()) << "that is traced through a buffer of its own";
-}
-
 // Only 1 means automatic: the codes below zero do not.
 TEST_F(BestApTest, AProfileWithoutAModeIsNotACandidate)
 {
@@ -160,31 +131,6 @@ TEST_F(BestApTest, NullsAreRefusedBeforeAnything)
 }
 
 // --- Candidates -------------------------------------------------------------------------------------------------
-
-TEST_F(BestApTest, TheExcludedProfileIsPassedOverUnread)
-{
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"Boosted"));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Plain"));
-    EXPECT_EQ(1u, callCount("WlanGetProfile"));
-    EXPECT_EQ("\"Plain\"", call("WlanGetProfile")["name"]);
-
-    ClearCalls();
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"boosted"));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Boosted")) << "names are compared exactly";
-}
-
-TEST_F(BestApTest, NetworksOfTheListAreExcludedAfterTheirProfileIsRead)
-{
-    Excluded excluded = {EntryOf("Boosted"), EntryOf("Elsewhere")};
-    EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, &excluded));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Plain"));
-    EXPECT_EQ(2u, callCount("WlanGetProfile"));
-
-    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, &excluded, L"Plain")) << "name and list together";
-    excluded.push_back(EntryOf("Plain"));
-    EXPECT_EQ(-9, manager().ConnectBestAP(&kAdapterA, &excluded));
-    EXPECT_EQ(3u, excluded.size()) << "the list is only read";
-}
 
 // Deliberate: compared over the network's length only.
 TEST_F(BestApTest, ALongerExcludedSsidRulesOutWhatItBeginsWith)
@@ -215,16 +161,6 @@ TEST_F(BestApTest, TheLowestScoreIsTriedFirst)
     EXPECT_THAT(Ranking(), ElementsAre("Plain", "Boosted")) << "40 before 70";
 }
 
-TEST_F(BestApTest, EqualScoresGoByProfileOrder)
-{
-    UseWorld(TwoNetworks(-65, -70));
-    EXPECT_THAT(Ranking(), ElementsAre("Plain", "Boosted")) << "70 and 60 + 10";
-
-    UseWorld(WorldOf({Profile("A"), Profile("B"), Profile("C")},
-                     {Heard("C", 2412000, -60), Heard("B", 2412000, -60), Heard("A", 2412000, -60)}));
-    EXPECT_THAT(Ranking(), ElementsAre("A", "B", "C")) << "not by network order";
-}
-
 // Deliberate: one BSS query, for the network listed last, candidate or not.
 TEST_F(BestApTest, OnlyTheNetworkListedLastCanEarnTheBonus)
 {
@@ -238,19 +174,6 @@ TEST_F(BestApTest, OnlyTheNetworkListedLastCanEarnTheBonus)
                      {Heard("Boosted", 5180000, -70), Heard("Plain", 2412000, -68), Heard("Nobody's", 5180000, -70)}));
     EXPECT_THAT(Ranking(), ElementsAre("Boosted", "Plain"));
     EXPECT_EQ("\"Nobody's\"/8", call("WlanGetNetworkBssList")["ssid"]);
-}
-
-TEST_F(BestApTest, TheBonusEndsAtOneHundred)
-{
-    std::vector<simulation::AccessPoint> heard = {Heard("Full", 2412000, -50)};
-    for (int i = 0; i < 10; ++i)
-        heard.push_back(Heard("Many", 5180000, -90));
-    UseWorld(WorldOf({Profile("Many"), Profile("Full")}, heard));
-    EXPECT_THAT(Ranking(), ElementsAre("Many", "Full")) << "20 + 10 x 10 is no more than 100";
-
-    heard[0].rssi = -51;
-    UseWorld(WorldOf({Profile("Many"), Profile("Full")}, heard));
-    EXPECT_THAT(Ranking(), ElementsAre("Full", "Many")) << "98 before 100";
 }
 
 // A candidate is its entry of the network list: what one candidate earns, the other has.

@@ -142,23 +142,4 @@ TEST_F(CandidateRankingTest, ThirtyTwoEqualScoresKeepTheirOrder)
     EXPECT_EQ(names, Order());
 }
 
-// Among more than 32 the order of equals is undefined; the scores ascend and none is lost.
-TEST_F(CandidateRankingTest, ManyCandidatesAreSortedCompletely)
-{
-    for (const unsigned count : {33u, 34u, 100u, 1000u})
-    {
-        candidates.clear();
-        std::vector<std::string> names;
-        for (unsigned i = 0; i < count; ++i)
-        {
-            names.push_back(std::to_string(i));
-            Candidate(names.back(), i * 37 % 101);
-        }
-        SortByScore(candidates);
-        const std::vector<unsigned long> scores = Scores();
-        EXPECT_TRUE(std::is_sorted(scores.begin(), scores.end())) << count;
-        EXPECT_THAT(Order(), ::testing::UnorderedElementsAreArray(names)) << count;
-    }
-}
-
 } // namespace calvix::test::candidate_ranking_test

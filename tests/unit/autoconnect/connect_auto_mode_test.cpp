@@ -75,15 +75,6 @@ TEST_F(ConnectAutoModeTest, ANetworkWhoseSsidIsNotUtf8IsPassedOver)
     EXPECT_TRUE(traced().empty());
 }
 
-TEST_F(ConnectAutoModeTest, ARefusedRequestIsFollowedByTheNextProfile)
-{
-    FailOn("WlanConnect", 1234, 1, 1);
-    EXPECT_EQ(0, AutoMode(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("First", "Second"));
-    EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 1234"));
-    EXPECT_TRUE(sharedTraceUntouched());
-}
-
 // Deliberate: the request goes by the network's own profile name, which is empty where only the SSID matched.
 TEST_F(ConnectAutoModeTest, ANetworkMatchesByItsSsidToo)
 {
@@ -102,15 +93,6 @@ TEST_F(ConnectAutoModeTest, AnSsidThatReadsLikeAnotherProfileIsRequestedByItsOwn
     FailOn("WlanConnect");
     EXPECT_EQ(0, AutoMode(manager()));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Net", "Alias")) << "the manual one, for its SSID";
-}
-
-TEST_F(ConnectAutoModeTest, NamesAndSsidsAreComparedExactly)
-{
-    UseWorld(WorldOf({ProfileFor("net", "Gone"), ProfileFor("Ne", "Gone"), ProfileFor("Net ", "Gone")},
-                     {Heard("Net", 2412000, -50)}));
-    EXPECT_EQ(-9, AutoMode(manager()));
-    UseWorld(WorldOf({ProfileFor("Caf\xC3\xA9", "Gone")}, {Heard("Caf\xC3\xA9", 2412000, -50)}));
-    EXPECT_EQ(0, AutoMode(manager())) << "SSIDs are UTF-8";
 }
 
 TEST_F(ConnectAutoModeTest, AnSsidThatStatesMoreThan64BytesReadsAsEmpty)
@@ -146,14 +128,6 @@ TEST_F(ConnectAutoModeTest, ProfilesThatAreNotAutomaticAreNotUsed)
         EXPECT_EQ(-9, AutoMode(manager()));
     }
     EXPECT_THAT(RequestedProfiles(*this), IsEmpty());
-}
-
-TEST_F(ConnectAutoModeTest, AProfileThatCannotBeReadIsNotUsed)
-{
-    FailOn("WlanGetProfile", 1234, 2, 1);
-    EXPECT_EQ(0, AutoMode(manager()));
-    EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Second"));
-    EXPECT_THAT(traced(), ElementsAre("WlanGetProfile failed with error: 1234"));
 }
 
 // Deliberate: only the first 1023 characters of a profile are looked at.

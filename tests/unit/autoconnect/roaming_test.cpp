@@ -53,12 +53,6 @@ std::function<void(WLAN_BSS_LIST&)> WithQualities(std::vector<unsigned> qualitie
     };
 }
 
-std::function<void(WLAN_CONNECTION_ATTRIBUTES&)> WithCurrentQuality(ULONG quality)
-{
-    return [quality](WLAN_CONNECTION_ATTRIBUTES& connection)
-    { connection.wlanAssociationAttributes.wlanSignalQuality = quality; };
-}
-
 /// A better access point is there: the second.
 class RoamingTest : public LibraryTest
 {
@@ -111,23 +105,6 @@ TEST_F(RoamingTest, TheCurrentBssTypeAndSecurityAreAskedFor)
         ClearCalls();
         EXPECT_EQ(-7, method(manager())) << name;
         EXPECT_EQ(NetworkBssLine("Net", "independent"), call("WlanGetNetworkBssList").line);
-    }
-}
-
-TEST_F(RoamingTest, AQualityOf80IsGoodEnough)
-{
-    for (const auto& [name, method] : kMethods)
-    {
-        for (const auto& [quality, code] :
-             {std::pair{79, 0}, std::pair{80, -5}, std::pair{81, -5}, std::pair{100, -5}, std::pair{0, 0}})
-        {
-            Restart();
-            EditedAnswers edited;
-            edited.service.currentConnection = WithCurrentQuality(static_cast<ULONG>(quality));
-            EXPECT_EQ(code, method(manager())) << name << " at " << quality;
-            EXPECT_EQ(code == 0 ? 1u : 0u, callCount("WlanGetNetworkBssList")) << name << " at " << quality;
-            EXPECT_TRUE(traced().empty());
-        }
     }
 }
 

@@ -105,17 +105,6 @@ TEST_F(AdaptersTest, AnUnknownAdapterIsNotTraced)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
-TEST_F(AdaptersTest, AServiceThatCannotBeOpenedIsNotAskedFurther)
-{
-    ForgetClient();
-    FailOn("WlanOpenHandle");
-    EXPECT_EQ(-2, manager().GetWlanStatus(&kAdapterA));
-    EXPECT_EQ(-1, FindGuid(manager(), kAdapterADescription));
-    EXPECT_EQ(-2, manager().GetWiFiAdapterCount());
-    EXPECT_EQ(-1, ListInto(manager()));
-    EXPECT_THAT(calls(), ElementsAre("WlanOpenHandle", "WlanOpenHandle", "WlanOpenHandle", "WlanOpenHandle"));
-}
-
 // --- GetWlanStatus and GetWlanIsLink ----------------------------------------------------------------------------
 
 TEST_F(AdaptersTest, StatusIsTheAdaptersState)
@@ -207,13 +196,6 @@ TEST_F(AdaptersTest, TheFirstEqualDescriptionWins)
     GUID guid{};
     EXPECT_EQ(0, manager().GetWlanInterfaceGuid(kAdapterADescription, guid));
     EXPECT_EQ(kAdapterA, guid);
-}
-
-TEST_F(AdaptersTest, TheLongestDescriptionIsFound)
-{
-    UseWorld(DescriptionWorld(std::string(255, 'D')));
-    EXPECT_EQ(0, FindGuid(manager(), std::wstring(255, L'D').c_str()));
-    EXPECT_EQ(-4, FindGuid(manager(), std::wstring(254, L'D').c_str()));
 }
 
 // --- GetWlanInterfaceDesc ---------------------------------------------------------------------------------------

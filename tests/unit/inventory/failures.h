@@ -26,10 +26,16 @@ public:
         afterwards.insert(afterwards.begin(), operation + " failed with error: %u");
         WhenTracing(operation, code, std::move(afterwards));
     }
-    /// The same where other lines are traced.
+    /// The same where other lines are traced. A service that cannot be opened is not asked further.
     void WhenTracing(const std::string& operation, long long code, std::vector<std::string> traced) const
     {
-        CheckFailure(m_test, {m_method, m_call, operation, code, std::move(traced), m_buffer});
+        CheckFailure(m_test, {.method = m_method,
+                              .call = m_call,
+                              .failingOperation = operation,
+                              .expected = code,
+                              .traced = std::move(traced),
+                              .buffer = m_buffer,
+                              .ends = operation == "WlanOpenHandle"});
     }
 
     void In(const simulation::Scenario& world, long long code, std::vector<std::string> traced = {}) const

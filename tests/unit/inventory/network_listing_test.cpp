@@ -8,20 +8,16 @@ using ::testing::Not;
 
 class NetworkListingTest : public ListingsTest
 {
-};
-
-TEST_F(NetworkListingTest, EveryNetworkTypeHasItsText)
-{
-    for (const NamedValue& type : {NamedValue{1, "Infrastructure (1)"},
-                                   {2, "Independent (2)"},
-                                   {3, "Other (3)"},
-                                   {0xFFFFFFFF, "Other (4294967295)"}})
+public:
+    template <typename Field>
+    void
+    ExpectTexts(const std::string& label, Field WLAN_AVAILABLE_NETWORK::*field, const std::vector<NamedValue>& values)
     {
-        const Lines lines =
-            Network([&](auto& network) { network.dot11BssType = static_cast<DOT11_BSS_TYPE>(type.value); });
-        EXPECT_EQ(type.text, After(lines, "  BSS Network type[0]:\t "));
+        for (const NamedValue& row : values)
+            EXPECT_EQ(row.text,
+                      After(Network([&](auto& network) { network.*field = static_cast<Field>(row.value); }), label));
     }
-}
+};
 
 TEST_F(NetworkListingTest, WhyANetworkCannotBeJoined)
 {
@@ -64,42 +60,43 @@ TEST_F(NetworkListingTest, TheDbmAreEstimatedFromTheQuality)
                              " (RSSI: " + std::to_string(row.rssi) + " dBm)"));
 }
 
+TEST_F(NetworkListingTest, EveryNetworkTypeHasItsText)
+{
+    ExpectTexts(
+        "  BSS Network type[0]:\t ", &WLAN_AVAILABLE_NETWORK::dot11BssType,
+        {{1, "Infrastructure (1)"}, {2, "Independent (2)"}, {3, "Other (3)"}, {0xFFFFFFFF, "Other (4294967295)"}});
+}
+
 TEST_F(NetworkListingTest, EveryAuthenticationHasItsText)
 {
     // Deliberate: no blank after RSNA with PSK.
-    const NamedValue rows[] = {{1, "802.11 Open (1)"},
-                               {2, "802.11 Shared (2)"},
-                               {3, "WPA (3)"},
-                               {4, "WPA-PSK (4)"},
-                               {5, "WPA-None (5)"},
-                               {6, "RSNA (6)"},
-                               {7, "RSNA with PSK(7)"},
-                               {8, "Other (8)"},
-                               {0, "Other (0)"},
-                               {9, "Other (9)"},
-                               {0x80000000, "Other (2147483648)"}};
-    for (const NamedValue& row : rows)
-    {
-        const Lines lines = Network(
-            [&](auto& network) { network.dot11DefaultAuthAlgorithm = static_cast<DOT11_AUTH_ALGORITHM>(row.value); });
-        EXPECT_EQ(row.text, After(lines, "  Default AuthAlgorithm[0]: "));
-    }
+    ExpectTexts("  Default AuthAlgorithm[0]: ", &WLAN_AVAILABLE_NETWORK::dot11DefaultAuthAlgorithm,
+                {{1, "802.11 Open (1)"},
+                 {2, "802.11 Shared (2)"},
+                 {3, "WPA (3)"},
+                 {4, "WPA-PSK (4)"},
+                 {5, "WPA-None (5)"},
+                 {6, "RSNA (6)"},
+                 {7, "RSNA with PSK(7)"},
+                 {8, "Other (8)"},
+                 {0, "Other (0)"},
+                 {9, "Other (9)"},
+                 {0x80000000, "Other (2147483648)"}});
 }
 
 TEST_F(NetworkListingTest, EveryCipherHasItsText)
 {
-    const NamedValue rows[] = {{0, "None (0)"},        {1, "WEP-40 (1)"},
-                               {2, "TKIP (2)"},        {4, "CCMP (4)"},
-                               {5, "WEP-104 (5)"},     {0x101, "WEP (257)"},
-                               {3, "Other (3)"},       {8, "Other (8)"},
-                               {0x100, "Other (256)"}, {0xFFFFFFFF, "Other (4294967295)"}};
-    for (const NamedValue& row : rows)
-    {
-        const Lines lines =
-            Network([&](auto& network)
-                    { network.dot11DefaultCipherAlgorithm = static_cast<DOT11_CIPHER_ALGORITHM>(row.value); });
-        EXPECT_EQ(row.text, After(lines, "  Default CipherAlgorithm[0]: "));
-    }
+    ExpectTexts("  Default CipherAlgorithm[0]: ", &WLAN_AVAILABLE_NETWORK::dot11DefaultCipherAlgorithm,
+                {{0, "None (0)"},
+                 {1, "WEP-40 (1)"},
+                 {2, "TKIP (2)"},
+                 {4, "CCMP (4)"},
+                 {5, "WEP-104 (5)"},
+                 {0x101, "WEP (257)"},
+                 {3, "Other (3)"},
+                 {8, "Other (8)"},
+                 {0x100, "Other (256)"},
+                 {0xFFFFFFFF, "Other (4294967295)"}});
 }
 
 // Deliberate: both remarks depend on the connected flag, the one about the profile, too.
