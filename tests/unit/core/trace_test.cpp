@@ -118,13 +118,6 @@ TEST(FormatTraceTest, CutsWideTextToNothingWithoutMemory)
     EXPECT_EQ(L'\0', room[0]);
 }
 
-TEST(FormatTraceTest, FormatsAllThirtyTwoBitsOfAnErrorNumber)
-{
-    char buffer[64];
-    FormatTrace(buffer, sizeof buffer, "failed with error: %u", 0xFFFFFFFFu);
-    EXPECT_STREQ("failed with error: 4294967295", buffer);
-}
-
 /// Taken before any test can have set it.
 const unsigned char kTracingAtTheStart = g_bTraceOn;
 

@@ -66,13 +66,13 @@ TEST_F(RadioStateTest, OffIsWhatOneOfTheTwoSwitchesSays)
         for (const unsigned hardware : {kUnknown, kOn, kOff, 3U})
         {
             SCOPED_TRACE("software " + std::to_string(software) + ", hardware " + std::to_string(hardware));
-            const EditedAnswers altered({.query = [software, hardware](WLAN_INTF_OPCODE, PVOID data, DWORD&)
-                                         {
-                                             WLAN_PHY_RADIO_STATE& first =
-                                                 static_cast<WLAN_RADIO_STATE*>(data)->PhyRadioState[0];
-                                             first.dot11SoftwareRadioState = static_cast<DOT11_RADIO_STATE>(software);
-                                             first.dot11HardwareRadioState = static_cast<DOT11_RADIO_STATE>(hardware);
-                                         }});
+            const auto answer = [software, hardware](WLAN_INTF_OPCODE, PVOID data, DWORD&)
+            {
+                WLAN_PHY_RADIO_STATE& first = static_cast<WLAN_RADIO_STATE*>(data)->PhyRadioState[0];
+                first.dot11SoftwareRadioState = static_cast<DOT11_RADIO_STATE>(software);
+                first.dot11HardwareRadioState = static_cast<DOT11_RADIO_STATE>(hardware);
+            };
+            const EditedAnswers altered({.query = answer});
             const int off = software == kOff || hardware == kOff ? 1 : 0;
             Switches seen;
             EXPECT_EQ(1 - off, manager().PhyRadioIsOn(&kAdapterA));

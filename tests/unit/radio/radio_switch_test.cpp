@@ -88,14 +88,22 @@ TEST_F(RadioSwitchTest, ARadioSwitchedOffInHardwareStaysOff)
 
 TEST_F(RadioSwitchTest, TurnOnTellsItsError)
 {
-    for (const auto& [operation, code] : {std::pair("WlanSetInterface", -4), std::pair("WlanOpenHandle", -1)})
+    const struct
+    {
+        const char* operation;
+        int code;
+        const char* traced;
+    } rows[] = {{"WlanSetInterface", -4, "set state failed!err is 2150899714"},
+                {"WlanOpenHandle", -1, "WlanOpenHandle failed with error: 2150899714"}};
+    for (const auto& row : rows)
     {
         ForgetClient();
-        FailOn(operation, 0x80342002);
+        FailOn(row.operation, 0x80342002);
         unsigned long error = kUnseen;
-        EXPECT_EQ(code, manager().TurnOnSoftwareRadio(&kAdapterA, error));
+        EXPECT_EQ(row.code, manager().TurnOnSoftwareRadio(&kAdapterA, error));
         EXPECT_EQ(0x80342002u, error);
-        EXPECT_THAT(sharedTrace(), ::testing::EndsWith("2150899714"));
+        EXPECT_THAT(traced(), ElementsAre(row.traced));
+        EXPECT_EQ(row.traced, sharedTrace());
     }
 }
 
