@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace calvix::host
@@ -49,29 +50,14 @@ struct ScanOptions
     std::string order = "signal";
 };
 
-/// What the service has reported about the scan.
-enum class ScanEnd
-{
-    notYet,
-    complete,
-    failed
-};
-
-ScanEnd LookForEnd(const std::vector<Notice>& notices, const GUID& adapter, DWORD& reason)
+/// How the adapter's scan ended; none: it has not.
+std::optional<Notice> EndOfScan(const std::vector<Notice>& notices, const GUID& adapter)
 {
     for (const Notice& notice : notices)
-    {
-        if (!IsEqualGUID(notice.adapter, adapter))
-            continue;
-        if (notice.code == wlan_notification_acm_scan_complete)
-            return ScanEnd::complete;
-        if (notice.code == wlan_notification_acm_scan_fail)
-        {
-            reason = notice.reason;
-            return ScanEnd::failed;
-        }
-    }
-    return ScanEnd::notYet;
+        if (IsEqualGUID(notice.adapter, adapter) &&
+            (notice.code == wlan_notification_acm_scan_complete || notice.code == wlan_notification_acm_scan_fail))
+            return notice;
+    return std::nullopt;
 }
 
 ScanFacts ScanAndWait(Host& host, unsigned seconds)
@@ -81,19 +67,18 @@ ScanFacts ScanAndWait(Host& host, unsigned seconds)
     unsigned long error = 0;
     host.Check("Rescan", host.manager().Rescan(adapter, error));
     ScanFacts scan;
-    ScanEnd end = ScanEnd::notYet;
-    DWORD reason = 0;
+    std::optional<Notice> end;
     const Progress progress(host, "Scanning");
     scan.completed = WaitUntil(
         host, seconds,
         [&]
         {
-            end = LookForEnd(notifications.Take(), *adapter, reason);
-            return end != ScanEnd::notYet;
+            end = EndOfScan(notifications.Take(), *adapter);
+            return end.has_value();
         },
         &scan.milliseconds);
-    if (end == ScanEnd::failed)
-        throw ReasonFailure(host, "the scan failed", reason);
+    if (end && end->code == wlan_notification_acm_scan_fail)
+        throw ReasonFailure(host, "the scan failed", end->reason);
     if (!scan.completed)
         throw OperationFailure("the scan timed out after " + Counted(seconds, "second"),
                                "wait longer with --timeout; the lists still show what was heard before");

@@ -2,7 +2,9 @@
 
 #include "core/wlan_records.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 namespace calvix::host
@@ -11,20 +13,9 @@ namespace calvix::host
 namespace
 {
 
-bool ConcernsConnection(DWORD code)
-{
-    switch (code)
-    {
-    case wlan_notification_acm_connection_start:
-    case wlan_notification_acm_connection_complete:
-    case wlan_notification_acm_connection_attempt_fail:
-    case wlan_notification_acm_disconnecting:
-    case wlan_notification_acm_disconnected:
-        return true;
-    default:
-        return false;
-    }
-}
+constexpr DWORD kOfConnection[] = {wlan_notification_acm_connection_start, wlan_notification_acm_connection_complete,
+                                   wlan_notification_acm_connection_attempt_fail, wlan_notification_acm_disconnecting,
+                                   wlan_notification_acm_disconnected};
 
 void AddConnection(const WLAN_NOTIFICATION_DATA& data, Notice& notice)
 {
@@ -71,7 +62,7 @@ void WINAPI Notifications::Receive(PWLAN_NOTIFICATION_DATA data, PVOID context)
     Notice notice;
     notice.code = data->NotificationCode;
     notice.adapter = data->InterfaceGuid;
-    if (ConcernsConnection(notice.code))
+    if (std::ranges::find(kOfConnection, notice.code) != std::end(kOfConnection))
         AddConnection(*data, notice);
     else if (notice.code == wlan_notification_acm_scan_fail)
         AddReason(*data, notice);

@@ -1,7 +1,28 @@
 #include "output/terminal.h"
 
+#include <cstdlib>
+
 namespace calvix::host
 {
+
+namespace
+{
+
+std::string VariableOrNothing(const char* name)
+{
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+} // namespace
+
+TerminalTraits DetectTerminal()
+{
+    ConsoleFindings findings = PrepareConsole();
+    findings.noColor = VariableOrNothing("NO_COLOR");
+    findings.term = VariableOrNothing("TERM");
+    return TraitsOf(findings);
+}
 
 TerminalTraits TraitsOf(const ConsoleFindings& findings)
 {

@@ -2,31 +2,14 @@
 
 #include "output/terminal.h"
 
-#include <cstdlib>
 #include <unistd.h>
 
 namespace calvix::host
 {
 
-namespace
+ConsoleFindings PrepareConsole()
 {
-
-std::string VariableOrNothing(const char* name)
-{
-    const char* const value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
-} // namespace
-
-TerminalTraits DetectTerminal()
-{
-    ConsoleFindings findings;
-    findings.outIsTerminal = isatty(STDOUT_FILENO) == 1;
-    findings.errorIsTerminal = isatty(STDERR_FILENO) == 1;
-    findings.noColor = VariableOrNothing("NO_COLOR");
-    findings.term = VariableOrNothing("TERM");
-    return TraitsOf(findings);
+    return {.outIsTerminal = isatty(STDOUT_FILENO) == 1, .errorIsTerminal = isatty(STDERR_FILENO) == 1};
 }
 
 std::vector<std::string> ProgramArguments(int argc, char** argv)

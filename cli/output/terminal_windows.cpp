@@ -17,18 +17,9 @@ namespace calvix::host
 namespace
 {
 
-std::string VariableOrNothing(const wchar_t* name)
-{
-    wchar_t value[64] = {};
-    constexpr DWORD capacity = sizeof(value) / sizeof(value[0]);
-    const DWORD length = GetEnvironmentVariableW(name, value, capacity);
-    // One that does not fit is not looked at any closer than that it is there.
-    return length < capacity ? Narrow(std::wstring_view(value, length)) : "long";
-}
-
 /// Whether it is a console; escape sequences are then asked for, and `sequences` says whether it takes them. Old
 /// consoles refuse them and would show them.
-bool PrepareConsole(DWORD which, bool& sequences)
+bool PrepareHandle(DWORD which, bool& sequences)
 {
     const HANDLE handle = GetStdHandle(which);
     DWORD mode = 0;
@@ -40,15 +31,13 @@ bool PrepareConsole(DWORD which, bool& sequences)
 
 } // namespace
 
-TerminalTraits DetectTerminal()
+ConsoleFindings PrepareConsole()
 {
     SetConsoleOutputCP(CP_UTF8);
     ConsoleFindings findings;
-    findings.outIsTerminal = PrepareConsole(STD_OUTPUT_HANDLE, findings.sequences);
-    findings.errorIsTerminal = PrepareConsole(STD_ERROR_HANDLE, findings.sequences);
-    findings.noColor = VariableOrNothing(L"NO_COLOR");
-    findings.term = VariableOrNothing(L"TERM");
-    return TraitsOf(findings);
+    findings.outIsTerminal = PrepareHandle(STD_OUTPUT_HANDLE, findings.sequences);
+    findings.errorIsTerminal = PrepareHandle(STD_ERROR_HANDLE, findings.sequences);
+    return findings;
 }
 
 std::vector<std::string> ProgramArguments(int, char**)

@@ -7,6 +7,8 @@
 #include "output/json_output.h"
 #include "shell/command_line.h"
 
+#include <functional>
+
 namespace calvix::host
 {
 
@@ -21,14 +23,12 @@ int ReportFailure(Host& host, const FailureReport& failure)
     return static_cast<int>(failure.exitCode);
 }
 
-/// Carries the command out; why it failed, if it did.
-std::optional<FailureReport> CarryOut(Host& host, const RunCommand& run)
+/// Why an action failed, if it did.
+std::optional<FailureReport> FailureOf(const std::function<void()>& action)
 {
     try
     {
-        run(host);
-        host.Save();
-        host.RequireSession();
+        action();
         return std::nullopt;
     }
     catch (const Failure& failure)
@@ -41,35 +41,23 @@ std::optional<FailureReport> CarryOut(Host& host, const RunCommand& run)
     }
 }
 
-int EndRecording(Host& host, const std::vector<std::string>& arguments, int exitCode)
+void CarryOut(Host& host, const RunCommand& run)
 {
-    try
-    {
-        host.EndRecording();
-        if (const std::string line = host.ReplayLine(arguments); !line.empty())
-            host.err() << "To replay it with the invented names: " << line << '\n';
-        return exitCode;
-    }
-    catch (const Failure& failure)
-    {
-        if (exitCode == static_cast<int>(ExitCode::success))
-            return ReportFailure(host, failure.report());
-        PrintFailure(host.err(), failure.report(), host.terminal());
-        return exitCode;
-    }
+    run(host);
+    host.Save();
+    host.RequireSession();
 }
 
-/// What a failed command did before it failed is saved too.
-void SaveAfterFailure(Host& host)
+int EndRecording(Host& host, const std::vector<std::string>& arguments, int exitCode)
 {
-    try
-    {
-        host.Save();
-    }
-    catch (const Failure& failure)
-    {
-        PrintFailure(host.err(), failure.report(), host.terminal());
-    }
+    const auto unwritten = FailureOf([&host] { host.EndRecording(); });
+    if (unwritten && exitCode == static_cast<int>(ExitCode::success))
+        return ReportFailure(host, *unwritten);
+    if (unwritten)
+        PrintFailure(host.err(), *unwritten, host.terminal());
+    else if (const std::string line = host.ReplayLine(arguments); !line.empty())
+        host.err() << "To replay it with the invented names: " << line << '\n';
+    return exitCode;
 }
 
 int CarryOutArguments(const std::vector<std::string>& arguments,
@@ -86,15 +74,17 @@ int CarryOutArguments(const std::vector<std::string>& arguments,
 
     const InterruptWatch interruptWatch;
     Host host(*commands.optionValues, in, out, err, terminal);
-    std::optional<FailureReport> failure = CarryOut(host, command->run);
+    std::optional<FailureReport> failure = FailureOf([&] { CarryOut(host, command->run); });
     // A command without answers fails, too; the difference is the cause.
     if (const auto difference = host.EndReplay())
         failure = difference;
     if (!failure)
         return EndRecording(host, arguments, static_cast<int>(ExitCode::success));
     const int exitCode = ReportFailure(host, *failure);
+    // What a failed command did before it failed is saved too.
     if (failure->exitCode != ExitCode::badInput)
-        SaveAfterFailure(host);
+        if (const auto unsaved = FailureOf([&host] { host.Save(); }))
+            PrintFailure(err, *unsaved, host.terminal());
     return EndRecording(host, arguments, exitCode);
 }
 

@@ -176,32 +176,28 @@ TEST_F(CommonOptions, MeanNothingInColourAlone)
 
 TEST(Console, GetsColoursOnlyWhereTheyAreWelcome)
 {
-    const host::ConsoleFindings console{.outIsTerminal = true, .errorIsTerminal = true, .noColor = "", .term = "xterm"};
-    EXPECT_TRUE(host::TraitsOf(console).color);
-    EXPECT_TRUE(host::TraitsOf(console).errorColor);
-    EXPECT_TRUE(host::TraitsOf(console).isTerminal);
-
-    host::ConsoleFindings unwanted = console;
-    unwanted.noColor = "0";
-    EXPECT_FALSE(host::TraitsOf(unwanted).color);
-    EXPECT_FALSE(host::TraitsOf(unwanted).errorColor);
-    EXPECT_TRUE(host::TraitsOf(unwanted).isTerminal);
-
-    host::ConsoleFindings dumb = console;
-    dumb.term = "dumb";
-    EXPECT_FALSE(host::TraitsOf(dumb).color);
-    EXPECT_FALSE(host::TraitsOf(dumb).isTerminal) << "lines that draw themselves would pile up";
-
-    host::ConsoleFindings old = console;
-    old.sequences = false;
-    EXPECT_FALSE(host::TraitsOf(old).color);
-    EXPECT_TRUE(host::TraitsOf(old).isTerminal);
-
-    host::ConsoleFindings piped = console;
-    piped.outIsTerminal = false;
-    EXPECT_FALSE(host::TraitsOf(piped).color);
-    EXPECT_TRUE(host::TraitsOf(piped).errorColor);
-    EXPECT_FALSE(host::TraitsOf({}).color);
+    struct ConsoleRow
+    {
+        const char* what;
+        host::ConsoleFindings findings;
+        host::TerminalTraits traits;
+    };
+    const ConsoleRow rows[] = {
+        {"a console", {true, true, true, "", "xterm"}, {true, true, true}},
+        {"unwanted", {true, true, true, "0", "xterm"}, {true, false, false}},
+        {"dumb: lines that draw themselves would pile up", {true, true, true, "", "dumb"}, {false, false, false}},
+        {"old", {true, true, false, "", ""}, {true, false, false}},
+        {"piped", {false, true, true, "", "xterm"}, {false, false, true}},
+        {"no console", {}, {}},
+    };
+    for (const auto& [what, findings, expected] : rows)
+    {
+        SCOPED_TRACE(what);
+        const host::TerminalTraits traits = host::TraitsOf(findings);
+        EXPECT_EQ(expected.isTerminal, traits.isTerminal);
+        EXPECT_EQ(expected.color, traits.color);
+        EXPECT_EQ(expected.errorColor, traits.errorColor);
+    }
 }
 
 int RunProgram(const std::string& arguments)
