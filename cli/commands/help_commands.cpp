@@ -75,7 +75,7 @@ void PrintCompletion(Host& host, const HelpOptions& options)
 {
     const LiveNames names = [&host](ValueKind kind, const std::string& scenario, const std::string& adapter)
     { return NamesOnComputer(host, kind, scenario, adapter); };
-    host.out() << CompletionText(Complete(AllCommands(), options.words, options.current, names));
+    host.out() << Complete(AllCommands(), options.words, options.current, names);
 }
 
 void PrintScript(Host& host, const HelpOptions& options)

@@ -41,20 +41,12 @@ std::string TextOf(unsigned long number, std::span<const NumberText> table, cons
 
 } // namespace
 
-std::string AuthenticationText(DOT11_AUTH_ALGORITHM algorithm)
-{
-    return TextOf(static_cast<unsigned>(algorithm), kAuthenticationTexts, "authentication");
-}
-
-std::string CipherText(DOT11_CIPHER_ALGORITHM algorithm)
-{
-    return TextOf(static_cast<unsigned>(algorithm), kCipherTexts, "cipher");
-}
-
 std::string SecurityText(DOT11_AUTH_ALGORITHM algorithm, DOT11_CIPHER_ALGORITHM cipher)
 {
-    const std::string authentication = AuthenticationText(algorithm);
-    return cipher == DOT11_CIPHER_ALGO_NONE ? authentication : authentication + "/" + CipherText(cipher);
+    const std::string text = TextOf(static_cast<unsigned>(algorithm), kAuthenticationTexts, "authentication");
+    if (cipher == DOT11_CIPHER_ALGO_NONE)
+        return text;
+    return text + "/" + TextOf(static_cast<unsigned>(cipher), kCipherTexts, "cipher");
 }
 
 std::string PhyText(DOT11_PHY_TYPE type)

@@ -9,8 +9,6 @@ namespace calvix::host
 
 /// The platform's numbers in the words that people use for them; an unknown number stays one.
 
-std::string AuthenticationText(DOT11_AUTH_ALGORITHM algorithm);
-std::string CipherText(DOT11_CIPHER_ALGORITHM algorithm);
 /// "WPA2-PSK/CCMP", "open"
 std::string SecurityText(DOT11_AUTH_ALGORITHM algorithm, DOT11_CIPHER_ALGORITHM cipher);
 /// "802.11ax"

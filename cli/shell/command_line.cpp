@@ -2,7 +2,6 @@
 
 #include "explain/failure_words.h"
 #include "output/json_output.h"
-#include "shell/exit_codes.h"
 #include "shell/program_texts.h"
 #include "shell/usage_failure.h"
 

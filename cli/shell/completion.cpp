@@ -5,13 +5,18 @@
 #include "shell/completion_scripts.h"
 #include "shell/word_reader.h"
 
-#include <algorithm>
-
 namespace calvix::host
 {
 
 namespace
 {
+
+/// What is possible at the cursor.
+struct Completion
+{
+    std::vector<Word> words;
+    const char* files = "none"; ///< that are possible, too, and that the shell lists: any, scenarios, folders
+};
 
 std::vector<Word> MethodWords()
 {
@@ -117,24 +122,18 @@ private:
 
 } // namespace
 
-Completion Complete(const CommandSet& program,
-                    const std::vector<std::string>& before,
-                    const std::string& current,
-                    const LiveNames& liveNames)
+std::string Complete(const CommandSet& program,
+                     const std::vector<std::string>& before,
+                     const std::string& current,
+                     const LiveNames& liveNames)
 {
     const WordReader reader(program, before);
-    Completion completion = Place(program, reader, liveNames).At(current);
-    // A name may hold what ends the line or turns it round, and an escape in its place would be another name.
-    std::erase_if(completion.words,
-                  [&current](const Word& word) { return !word.text.starts_with(current) || !IsVisible(word.text); });
-    return completion;
-}
-
-std::string CompletionText(const Completion& completion)
-{
+    const Completion completion = Place(program, reader, liveNames).At(current);
     std::string text = std::string(completion.files) + "\n";
     for (const Word& word : completion.words)
-        text += word.text + (word.meaning.empty() ? "" : "\t" + VisibleText(word.meaning)) + "\n";
+        // A name may hold what ends the line or turns it round, and an escape in its place would be another name.
+        if (word.text.starts_with(current) && IsVisible(word.text))
+            text += word.text + (word.meaning.empty() ? "" : "\t" + VisibleText(word.meaning)) + "\n";
     return text;
 }
 

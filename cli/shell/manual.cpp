@@ -1,6 +1,5 @@
 #include "shell/manual.h"
 
-#include "shell/exit_codes.h"
 #include "shell/program_texts.h"
 
 #include <sstream>

@@ -4,7 +4,6 @@
 
 #include "platform/platform.h"
 #include "support/changed_platform.h"
-#include "support/result_code.h"
 
 #include <calvix/testing/computer.h>
 #include <nlohmann/json.hpp>
@@ -14,7 +13,6 @@ namespace calvix::test::refusals_test
 namespace
 {
 
-using host::Cause;
 using nlohmann::json;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
@@ -41,13 +39,6 @@ protected:
     calvix::testing::Computer m_computer{simulation::WriteScenario(TwoCandidates())};
     const platform::Platform* const m_platform = platform::g_pReplacement;
 };
-
-TEST_F(Refusals, LeaveNothingBehindInSuccessEither)
-{
-    for (const char* command : {"adapters", "scan", "networks", "bss", "match", "best", "status"})
-        EXPECT_EQ(kSuccess, Run({command}).exitCode) << command;
-    EXPECT_EQ(kSuccess, Run({"profiles", "list"}).exitCode);
-}
 
 TEST_F(Refusals, BestAsksForTheNextCandidate)
 {
@@ -90,74 +81,6 @@ TEST_F(Refusals, BestShowsACandidateForEachTimeItsProfileIsStored)
                            "3  Strong   Strong       80          0     +0     80  refused (access denied, 5)\n"
                            "4  Strong   Strong       80          0     +0     80  refused (access denied, 5)\n"));
 }
-
-struct RefusedCase
-{
-    std::vector<std::string> command;
-    const char* operation;
-    std::string result; ///< as the second line of the failure says it
-    int exitCode;
-};
-
-/// The code that the table has for the cause, in a failure's words.
-std::string Gave(const std::string& method, Cause cause)
-{
-    return method + " returned " + std::to_string(CodeOf(method, cause)) + ".";
-}
-
-void PrintTo(const RefusedCase& refused, std::ostream* out)
-{
-    for (const std::string& word : refused.command)
-        *out << word << ' ';
-    *out << "with " << refused.operation << " refused";
-}
-
-class RefusedOperation : public Refusals, public ::testing::WithParamInterface<RefusedCase>
-{
-};
-
-TEST_P(RefusedOperation, IsNamedInTheFailure)
-{
-    m_computer.Fail(GetParam().operation, 31);
-    const Outcome outcome = Run(GetParam().command);
-    EXPECT_EQ(GetParam().exitCode, outcome.exitCode);
-    EXPECT_THAT(outcome.err, HasSubstr(std::string("the WLAN service refused ") + GetParam().operation +
-                                       " (a device does not function, 31)."));
-    EXPECT_THAT(outcome.err, HasSubstr(GetParam().result));
-    EXPECT_THAT(outcome.err, HasSubstr("What to do: "));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Commands,
-    RefusedOperation,
-    ::testing::Values(
-        RefusedCase{{"adapters"}, "WlanOpenHandle", Gave("GetWlanInterface", Cause::clientNotOpened), 3},
-        RefusedCase{{"adapters"}, "WlanEnumInterfaces", Gave("GetWlanInterface", Cause::enumerationFailed), 3},
-        RefusedCase{{"scan"}, "WlanScan", Gave("Rescan", Cause::scanRefused), 1},
-        RefusedCase{{"scan"}, "WlanGetNetworkBssList", "What to do", 1},
-        RefusedCase{
-            {"networks"}, "WlanGetAvailableNetworkList", Gave("GetAvailableNetworkCount", Cause::networkListFailed), 1},
-        RefusedCase{{"bss"}, "WlanGetNetworkBssList", "What to do", 1},
-        RefusedCase{{"profiles", "list"}, "WlanGetProfileList", Gave("GetProfileCount", Cause::profileListFailed), 1},
-        RefusedCase{{"profiles", "show", "Weak"}, "WlanGetProfile", Gave("GetProfile", Cause::profileNotReadable), 1},
-        RefusedCase{
-            {"profiles", "delete", "Weak"}, "WlanDeleteProfile", Gave("DeleteProfile", Cause::profileNotDeleted), 1},
-        RefusedCase{{"profiles", "move", "Weak", "--to", "last"},
-                    "WlanSetProfilePosition",
-                    "SetProfilePosition returned 31.",
-                    1},
-        RefusedCase{{"profiles", "move", "Weak", "--to", "second"},
-                    "WlanSetProfilePosition",
-                    "ResetProfilePosition returned 31.",
-                    1},
-        RefusedCase{{"match"}, "WlanGetProfileList", Gave("GetMatchAPList", Cause::profileListFailed), 1},
-        RefusedCase{{"match", "--auto-only"},
-                    "WlanGetAvailableNetworkList",
-                    Gave("GetConnectableAPList", Cause::networkListFailed),
-                    1},
-        RefusedCase{{"best"}, "WlanGetProfileList", Gave("ConnectBestAP", Cause::profileListFailed), 1},
-        RefusedCase{{"best"}, "WlanGetAvailableNetworkList", Gave("ConnectBestAP", Cause::networkListFailed), 1},
-        RefusedCase{{"best"}, "WlanGetNetworkBssList", Gave("ConnectBestAP", Cause::bssListFailed), 1}));
 
 TEST_F(Refusals, StatusLeavesOutWhatTheDriverDoesNotReport)
 {

@@ -3,7 +3,7 @@
 
 #include "commands/commands.h"
 #include "shell/command_line.h"
-#include "shell/exit_codes.h"
+#include "shell/program_texts.h"
 
 #include <algorithm>
 #include <cstdlib>
