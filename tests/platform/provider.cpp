@@ -27,16 +27,7 @@ std::vector<Provider> Providers()
 
 std::string ProviderName(const testing::TestParamInfo<Provider>& info)
 {
-    switch (info.param)
-    {
-    case Provider::simulation:
-        return "Simulation";
-    case Provider::windows:
-        return "Windows";
-    case Provider::wine:
-        return "Wine";
-    }
-    return "";
+    return info.param == Provider::simulation ? "Simulation" : info.param == Provider::windows ? "Windows" : "Wine";
 }
 
 PlatformContract::PlatformContract()

@@ -46,6 +46,16 @@ protected:
         return state;
     }
 
+    DWORD ErrorOfAdjusting(HANDLE token,
+                           TOKEN_PRIVILEGES* wanted,
+                           DWORD previousSize = 0,
+                           TOKEN_PRIVILEGES* previous = nullptr,
+                           DWORD* length = nullptr)
+    {
+        return ErrorOf(
+            [&] { return Security().AdjustTokenPrivileges(token, FALSE, wanted, previousSize, previous, length); });
+    }
+
     /// How many privileges an adjustment that changes nothing reports. Wine reports all that were named.
     DWORD ReportedUnchanged() const { return OrOnWine(Error(0), Error(1)); }
 
@@ -167,10 +177,7 @@ TEST_P(SecurityContract, TooLittleRoomForTheStateBeforeChangesNothing)
     TOKEN_PRIVILEGES previous{};
     DWORD length = 0;
     const DWORD needed = SizeOf(1);
-    EXPECT_EQ(
-        ErrorOf([&]
-                { return Security().AdjustTokenPrivileges(token, FALSE, &wanted, needed - 1, &previous, &length); }),
-        Error(ERROR_INSUFFICIENT_BUFFER));
+    EXPECT_EQ(ErrorOfAdjusting(token, &wanted, needed - 1, &previous, &length), Error(ERROR_INSUFFICIENT_BUFFER));
     EXPECT_EQ(length, needed);
     EXPECT_EQ(Switch(token, One("SeShutdownPrivilege", 0)).PrivilegeCount, 0u);
     Close(token);
@@ -180,20 +187,14 @@ TEST_P(SecurityContract, ATokenIsGoodForWhatItWasOpenedForOnly)
 {
     TOKEN_PRIVILEGES wanted = One("SeChangeNotifyPrivilege", SE_PRIVILEGE_ENABLED);
     const HANDLE reading = OpenOwn(TOKEN_QUERY);
-    EXPECT_EQ(ErrorOf([&] { return Security().AdjustTokenPrivileges(reading, FALSE, &wanted, 0, nullptr, nullptr); }),
-              Error(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(ErrorOfAdjusting(reading, &wanted), Error(ERROR_ACCESS_DENIED));
     Close(reading);
 
     const HANDLE adjusting = OpenOwn(TOKEN_ADJUST_PRIVILEGES);
     EXPECT_TRUE(Security().AdjustTokenPrivileges(adjusting, FALSE, &wanted, 0, nullptr, nullptr));
     TOKEN_PRIVILEGES previous{};
     DWORD length = 0;
-    EXPECT_EQ(ErrorOf(
-                  [&] {
-                      return Security().AdjustTokenPrivileges(adjusting, FALSE, &wanted, sizeof previous, &previous,
-                                                              &length);
-                  }),
-              Error(ERROR_ACCESS_DENIED))
+    EXPECT_EQ(ErrorOfAdjusting(adjusting, &wanted, sizeof previous, &previous, &length), Error(ERROR_ACCESS_DENIED))
         << "the state before is a question";
     Close(adjusting);
 }
@@ -203,16 +204,14 @@ TEST_P(SecurityContract, AdjustingTakesAToken)
     TOKEN_PRIVILEGES wanted = One("SeChangeNotifyPrivilege", SE_PRIVILEGE_ENABLED);
     const auto nobodys = reinterpret_cast<HANDLE>(UINT_PTR{0x00BADBAC});
     for (const HANDLE token : {HANDLE{nullptr}, nobodys})
-        EXPECT_EQ(ErrorOf([&] { return Security().AdjustTokenPrivileges(token, FALSE, &wanted, 0, nullptr, nullptr); }),
-                  Error(ERROR_INVALID_HANDLE));
+        EXPECT_EQ(ErrorOfAdjusting(token, &wanted), Error(ERROR_INVALID_HANDLE));
 }
 
 TEST_P(SecurityContract, AdjustingNeedsToKnowToWhat)
 {
     const HANDLE token = OpenOwn();
     constexpr DWORD kNoAccess = 998; // Wine follows the null pointer, and catches itself.
-    EXPECT_EQ(ErrorOf([&] { return Security().AdjustTokenPrivileges(token, FALSE, nullptr, 0, nullptr, nullptr); }),
-              OrOnWine(Error(ERROR_INVALID_PARAMETER), kNoAccess));
+    EXPECT_EQ(ErrorOfAdjusting(token, nullptr), OrOnWine(Error(ERROR_INVALID_PARAMETER), kNoAccess));
     Close(token);
 }
 

@@ -25,9 +25,16 @@ protected:
     /// A service that is there and runs on every computer of this kind.
     std::string RunningService() const { return IsSimulation() ? "WlanSvc" : "PlugPlay"; }
 
-    SC_HANDLE Open(const std::string& name, DWORD access)
+    SC_HANDLE Open(const std::string& name, DWORD access = SERVICE_QUERY_STATUS)
     {
         return Services().OpenServiceA(m_manager, name.c_str(), access);
+    }
+
+    SC_HANDLE OpenRunning(DWORD access = SERVICE_QUERY_STATUS)
+    {
+        const SC_HANDLE service = Open(RunningService(), access);
+        EXPECT_NE(service, nullptr) << LastError();
+        return service;
     }
 
     void Close(SC_HANDLE handle) { EXPECT_TRUE(Services().CloseServiceHandle(handle)) << LastError(); }
@@ -57,16 +64,15 @@ TEST_P(ServiceControlContract, ThereIsNoOtherDatabase)
 TEST_P(ServiceControlContract, UnknownServicesAreMissed)
 {
     for (const char* name : {"CalvixNoSuchService", "WlanSvc2", "Wlan"})
-        EXPECT_EQ(ErrorOf([&] { return Open(name, SERVICE_QUERY_STATUS); }), Error(ERROR_SERVICE_DOES_NOT_EXIST))
-            << name;
+        EXPECT_EQ(ErrorOf([&] { return Open(name); }), Error(ERROR_SERVICE_DOES_NOT_EXIST)) << name;
 }
 
 TEST_P(ServiceControlContract, NamesThatNoServiceCanHaveAreInvalid)
 {
     constexpr DWORD kInvalidName = 123;
-    EXPECT_EQ(ErrorOf([&] { return Open("", SERVICE_QUERY_STATUS); }), kInvalidName);
-    EXPECT_EQ(ErrorOf([&] { return Open("Wlan/Svc", SERVICE_QUERY_STATUS); }), kInvalidName);
-    EXPECT_EQ(ErrorOf([&] { return Open("Wlan\\Svc", SERVICE_QUERY_STATUS); }), kInvalidName);
+    EXPECT_EQ(ErrorOf([&] { return Open(""); }), kInvalidName);
+    EXPECT_EQ(ErrorOf([&] { return Open("Wlan/Svc"); }), kInvalidName);
+    EXPECT_EQ(ErrorOf([&] { return Open("Wlan\\Svc"); }), kInvalidName);
 }
 
 TEST_P(ServiceControlContract, AServiceNeedsAName)
@@ -83,7 +89,7 @@ TEST_P(ServiceControlContract, TheCaseOfANameIsOfNoAccount)
         std::string name = RunningService();
         for (char& character : name)
             character = static_cast<char>(upper ? std::toupper(character) : std::tolower(character));
-        const SC_HANDLE service = Open(name, SERVICE_QUERY_STATUS);
+        const SC_HANDLE service = Open(name);
         EXPECT_NE(service, nullptr) << name;
         Close(service);
     }
@@ -91,8 +97,7 @@ TEST_P(ServiceControlContract, TheCaseOfANameIsOfNoAccount)
 
 TEST_P(ServiceControlContract, ARunningServiceSaysSo)
 {
-    const SC_HANDLE service = Open(RunningService(), SERVICE_QUERY_STATUS);
-    ASSERT_NE(service, nullptr) << LastError();
+    const SC_HANDLE service = OpenRunning(SERVICE_QUERY_STATUS);
     SERVICE_STATUS status{};
     EXPECT_TRUE(Services().QueryServiceStatus(service, &status));
     EXPECT_EQ(status.dwCurrentState, Error(SERVICE_RUNNING));
@@ -115,15 +120,13 @@ TEST_P(ServiceControlContract, ARunningServiceCannotBeStarted)
 TEST_P(ServiceControlContract, AHandleIsGoodForWhatItWasOpenedForOnly)
 {
     SERVICE_STATUS status{};
-    const SC_HANDLE service = Open(RunningService(), SERVICE_QUERY_STATUS);
-    ASSERT_NE(service, nullptr) << LastError();
+    const SC_HANDLE service = OpenRunning(SERVICE_QUERY_STATUS);
     EXPECT_TRUE(Services().QueryServiceStatus(service, &status));
     EXPECT_EQ(ErrorOf([&] { return Services().StartServiceA(service, 0, nullptr); }), Error(ERROR_ACCESS_DENIED));
     Close(service);
 
     constexpr DWORD kEnumerateDependents = 0x0008;
-    const SC_HANDLE other = Open(RunningService(), kEnumerateDependents);
-    ASSERT_NE(other, nullptr) << LastError();
+    const SC_HANDLE other = OpenRunning(kEnumerateDependents);
     EXPECT_EQ(ErrorOf([&] { return Services().QueryServiceStatus(other, &status); }), Error(ERROR_ACCESS_DENIED));
     Close(other);
 }
@@ -143,7 +146,7 @@ TEST_P(ServiceControlContract, ManagersAndServicesAreDifferentHandles)
     SERVICE_STATUS status{};
     EXPECT_EQ(ErrorOf([&] { return Services().QueryServiceStatus(m_manager, &status); }), Error(ERROR_INVALID_HANDLE));
     EXPECT_EQ(ErrorOf([&] { return Services().StartServiceA(m_manager, 0, nullptr); }), Error(ERROR_INVALID_HANDLE));
-    const SC_HANDLE service = Open(RunningService(), SERVICE_QUERY_STATUS);
+    const SC_HANDLE service = OpenRunning();
     EXPECT_EQ(ErrorOf([&] { return Services().OpenServiceA(service, "PlugPlay", SERVICE_QUERY_STATUS); }),
               Error(ERROR_INVALID_HANDLE));
     Close(service);
@@ -162,8 +165,7 @@ TEST_P(ServiceControlContract, AServiceOutlivesItsManager)
 TEST_P(ServiceControlContract, AStatusNeedsItsRecord)
 {
     constexpr DWORD kInvalidAddress = 487;
-    const SC_HANDLE service = Open(RunningService(), SERVICE_QUERY_STATUS);
-    ASSERT_NE(service, nullptr) << LastError();
+    const SC_HANDLE service = OpenRunning(SERVICE_QUERY_STATUS);
     EXPECT_EQ(ErrorOf([&] { return Services().QueryServiceStatus(service, nullptr); }), kInvalidAddress);
     Close(service);
 }
