@@ -31,13 +31,13 @@ std::chrono::milliseconds Computer::Now() const
 void Computer::SetServiceRunning(bool running)
 {
     const std::lock_guard lock(m_parts->machine.mutex);
-    m_parts->machine.serviceRunning = running;
+    m_parts->machine.present.serviceRunning = running;
 }
 
 void Computer::SetAdministrator(bool administrator)
 {
     const std::lock_guard lock(m_parts->machine.mutex);
-    m_parts->machine.administrator = administrator;
+    m_parts->machine.present.administrator = administrator;
 }
 
 void Computer::SetPowerSetting(WLAN_POWER_SETTING setting)
@@ -62,7 +62,7 @@ void Computer::WaitForNotifications()
 void Computer::SetLocationConsent(bool given)
 {
     const std::lock_guard lock(m_parts->machine.mutex);
-    m_parts->machine.locationConsent = given;
+    m_parts->machine.present.locationConsent = given;
 }
 
 void Computer::SetRadio(std::size_t adapter, std::size_t phy, RadioSwitch software, RadioSwitch hardware)
@@ -80,7 +80,7 @@ void Computer::SetInterfaceState(std::size_t adapter, WLAN_INTERFACE_STATE state
 void Computer::SetInternet(InternetAccess access)
 {
     const std::lock_guard lock(m_parts->machine.mutex);
-    m_parts->machine.internet = access;
+    m_parts->machine.present.internet = access;
 }
 
 std::optional<POWER_POLICY> Computer::LegacyPowerPolicy(UINT schemeId) const
@@ -110,7 +110,7 @@ std::vector<RunningProcess> Computer::RunningProcesses() const
 
 std::vector<AccessPoint>& Computer::air()
 {
-    return m_parts->machine.air;
+    return m_parts->machine.present.accessPoints;
 }
 
 const std::vector<std::string>& Computer::DebuggerLines() const
@@ -145,17 +145,12 @@ Accounts Computer::Audit()
 
 Scenario Computer::Snapshot() const
 {
-    Machine& machine = m_parts->machine;
-    const std::lock_guard lock(machine.mutex);
-    Scenario scenario;
-    scenario.description = machine.description;
-    scenario.codePage = machine.codePage;
-    scenario.serviceRunning = machine.serviceRunning;
-    scenario.locationConsent = machine.locationConsent;
-    scenario.administrator = machine.administrator;
-    scenario.powerSetting = static_cast<std::uint32_t>(machine.powerSetting);
-    machine.DescribeSystem(scenario);
-    scenario.accessPoints = machine.air;
+    const Machine& machine = m_parts->machine;
+    const std::lock_guard lock(m_parts->machine.mutex);
+    Scenario scenario = machine.present;
+    scenario.power.upMilliseconds += static_cast<std::uint64_t>(machine.time.Now().count());
+    machine.powerStore.Describe(scenario.power);
+    scenario.processes = machine.processes.Running();
     for (AccessPoint& accessPoint : scenario.accessPoints)
         accessPoint.timetable = RestOfTimetable(accessPoint, machine.time.Now());
     for (const auto& adapter : machine.adapters)

@@ -54,8 +54,6 @@ WLAN_ASSOCIATION_ATTRIBUTES Association(const Adapter& adapter)
     return association;
 }
 
-} // namespace
-
 InterfaceAnswer AnswerConnection(Blocks& blocks, const Adapter& adapter)
 {
     const ProfileDocument& profile = adapter.CurrentLink()->Profile();
@@ -69,19 +67,6 @@ InterfaceAnswer AnswerConnection(Blocks& blocks, const Adapter& adapter)
     answer->wlanSecurityAttributes.dot11AuthAlgorithm = profile.security.authentication;
     answer->wlanSecurityAttributes.dot11CipherAlgorithm = profile.security.encryption;
     return {answer, sizeof(*answer)};
-}
-
-// The customary channel number of the connection's frequency.
-InterfaceAnswer AnswerChannel(Blocks& blocks, const Adapter& adapter)
-{
-    const std::uint32_t frequencyKhz = adapter.CurrentLink()->accessPoint.frequencyKhz;
-    return AnswerNumber(blocks, static_cast<ULONG>(forms::ChannelNumber(frequencyKhz)));
-}
-
-// The platform's LONG, which has 4 bytes.
-InterfaceAnswer AnswerRssi(Blocks& blocks, const Adapter& adapter)
-{
-    return AnswerNumber(blocks, adapter.LinkRssi());
 }
 
 // The record has room for the most PHYs that there can be, and is handed out whole.
@@ -131,6 +116,62 @@ InterfaceAnswer AnswerCountries(Blocks& blocks)
     answer->dwNumberOfItems = 1;
     std::memcpy(answer->pCountryOrRegionStringList[0], "  X", sizeof(DOT11_COUNTRY_OR_REGION_STRING));
     return {answer, sizeof(*answer)};
+}
+
+BOOL Boolean(bool value)
+{
+    return value ? TRUE : FALSE;
+}
+
+// The opcode's number: some SDKs lack it.
+constexpr unsigned int managementFrameProtection = 16;
+
+} // namespace
+
+// Chosen, for what is the same on every simulated adapter: the mode of a station, safe mode supported but not certified,
+// management frames protected where asked for, no hosted network.
+std::optional<InterfaceAnswer> AnswerInterface(Blocks& blocks, const Adapter& adapter, WLAN_INTF_OPCODE opcode)
+{
+    switch (static_cast<unsigned int>(opcode))
+    {
+    case wlan_intf_opcode_autoconf_enabled:
+        return AnswerNumber(blocks, Boolean(adapter.HasAutoConfiguration()));
+    case wlan_intf_opcode_background_scan_enabled:
+        return AnswerNumber(blocks, Boolean(adapter.HasBackgroundScan()));
+    case wlan_intf_opcode_radio_state:
+        return AnswerRadioState(blocks, adapter);
+    case wlan_intf_opcode_bss_type:
+        return AnswerNumber(blocks, adapter.BssType());
+    case wlan_intf_opcode_interface_state:
+        return AnswerNumber(blocks, adapter.State());
+    case wlan_intf_opcode_current_connection:
+        return AnswerConnection(blocks, adapter);
+    case wlan_intf_opcode_channel_number:
+        return AnswerNumber(blocks,
+                            static_cast<ULONG>(forms::ChannelNumber(adapter.CurrentLink()->accessPoint.frequencyKhz)));
+    case wlan_intf_opcode_current_operation_mode:
+        return AnswerNumber(blocks, extensibleStation);
+    case wlan_intf_opcode_supported_infrastructure_auth_cipher_pairs:
+        return AnswerSuites(blocks, SupportedSuites());
+    case wlan_intf_opcode_supported_adhoc_auth_cipher_pairs:
+        return AnswerSuites(blocks, {SecuritySuite{}});
+    case wlan_intf_opcode_supported_country_or_region_string_list:
+        return AnswerCountries(blocks);
+    case wlan_intf_opcode_supported_safe_mode:
+    case managementFrameProtection:
+        return AnswerNumber(blocks, TRUE);
+    case wlan_intf_opcode_media_streaming_mode:
+        return AnswerNumber(blocks, Boolean(adapter.HasMediaStreaming()));
+    case wlan_intf_opcode_certified_safe_mode:
+    case wlan_intf_opcode_hosted_network_capable:
+        return AnswerNumber(blocks, FALSE);
+    case wlan_intf_opcode_statistics:
+        return AnswerStatistics(blocks, adapter);
+    case wlan_intf_opcode_rssi:
+        return AnswerNumber(blocks, adapter.LinkRssi()); // the platform's LONG, which has 4 bytes
+    default:
+        return std::nullopt;
+    }
 }
 
 // Chosen: an adapter with a driver of its own kind, which looks for one SSID and as many access points as are requested.

@@ -5,6 +5,8 @@
 
 #include <calvix/platform_records.h>
 
+#include <optional>
+
 namespace calvix::simulation
 {
 
@@ -15,14 +17,12 @@ struct InterfaceAnswer
     std::size_t size;
 };
 
-/// What WlanQueryInterface answers about one adapter. Those about the connection need one that is up.
-InterfaceAnswer AnswerConnection(Blocks& blocks, const Adapter& adapter);
-InterfaceAnswer AnswerChannel(Blocks& blocks, const Adapter& adapter);
-InterfaceAnswer AnswerRssi(Blocks& blocks, const Adapter& adapter);
-InterfaceAnswer AnswerRadioState(Blocks& blocks, const Adapter& adapter);
-InterfaceAnswer AnswerStatistics(Blocks& blocks, const Adapter& adapter);
-InterfaceAnswer AnswerSuites(Blocks& blocks, const std::vector<SecuritySuite>& suites);
-InterfaceAnswer AnswerCountries(Blocks& blocks);
+/// The mode of an ordinary station, as every adapter has been called since the interface knows other modes.
+inline constexpr ULONG extensibleStation = 4;
+
+/// What WlanQueryInterface answers about one adapter, or nothing for an opcode that is not supported. What is about the
+/// connection needs one that is up.
+std::optional<InterfaceAnswer> AnswerInterface(Blocks& blocks, const Adapter& adapter, WLAN_INTF_OPCODE opcode);
 
 /// What WlanGetInterfaceCapability hands out.
 WLAN_INTERFACE_CAPABILITY* MakeCapability(Blocks& blocks, const Adapter& adapter);

@@ -59,7 +59,7 @@ BOOL SimulatedInternet::InternetCheckConnectionA(const char* url, DWORD flags, D
     DWORD timeout = 0;
     {
         const std::lock_guard lock(m_machine.mutex);
-        access = m_machine.internet;
+        access = m_machine.present.internet;
         timeout = m_connectTimeout;
     }
     if (access == InternetAccess::unresolved)

@@ -19,15 +19,14 @@ constexpr std::uint32_t kUtf8CodePage = 65001;
 } // namespace
 
 Machine::Machine(const Scenario& scenario)
-    : description(scenario.description), codePage(scenario.codePage), serviceRunning(scenario.serviceRunning),
-      locationConsent(scenario.locationConsent), administrator(scenario.administrator),
-      powerSetting(scenario.powerSetting), air(scenario.accessPoints), power(scenario.power),
-      powerStore(scenario.power), wokenByItself(scenario.power.resumesAutomatically), tokens(scenario.tokens),
-      privileges(scenario.privileges), processes(scenario, time), wow64(scenario.wow64), internet(scenario.internet)
+    : present(scenario), powerStore(scenario.power), wokenByItself(scenario.power.resumesAutomatically),
+      processes(present, time)
 {
+    present.adapters.clear();
     for (const AdapterDescription& adapter : scenario.adapters)
     {
-        adapters.push_back(std::make_unique<Adapter>(adapter, Surroundings{time, air, serviceRunning, notifier}));
+        adapters.push_back(std::make_unique<Adapter>(
+            adapter, Surroundings{time, present.accessPoints, present.serviceRunning, notifier}));
         if (FindAdapter(adapters.back()->Guid()) != adapters.back().get())
             throw ScenarioError("adapter " + adapter.guid + ": another adapter has this GUID");
     }
@@ -40,47 +39,37 @@ Adapter* Machine::FindAdapter(const GUID& guid) const
     return found == adapters.end() ? nullptr : found->get();
 }
 
-void Machine::DescribeSystem(Scenario& scenario) const
-{
-    scenario.power = power;
-    scenario.power.upMilliseconds += static_cast<std::uint64_t>(time.Now().count());
-    powerStore.Describe(scenario.power);
-    scenario.tokens = tokens;
-    scenario.privileges = privileges;
-    scenario.programPath = processes.HostPath();
-    scenario.wow64 = wow64;
-    scenario.programs = processes.Programs();
-    scenario.processes = processes.Running();
-    scenario.internet = internet;
-}
-
 std::uint64_t Machine::InterruptTime() const
 {
-    return (power.upMilliseconds + static_cast<std::uint64_t>(time.Now().count())) * kInterruptUnitsPerMillisecond;
+    return (present.power.upMilliseconds + static_cast<std::uint64_t>(time.Now().count())) *
+           kInterruptUnitsPerMillisecond;
 }
 
 bool Machine::IsPrivilegeEnabled(std::string_view name) const
 {
-    return std::any_of(privileges.begin(), privileges.end(),
+    return std::any_of(present.privileges.begin(), present.privileges.end(),
                        [name](const Privilege& each) { return each.enabled && each.name == name; });
 }
 
 std::string Machine::NarrowFromUtf8(std::string_view text) const
 {
     bool replaced = false;
-    return codePage == kUtf8CodePage ? std::string(text)
-                                     : EncodeNarrow(codePage, forms::WideFromUtf8(text), '?', false, replaced);
+    return present.codePage == kUtf8CodePage
+               ? std::string(text)
+               : EncodeNarrow(present.codePage, forms::WideFromUtf8(text), '?', false, replaced);
 }
 
 std::string Machine::Utf8FromNarrow(std::string_view text) const
 {
     bool illFormed = false;
-    return codePage == kUtf8CodePage ? std::string(text) : forms::Utf8FromWide(DecodeNarrow(codePage, text, illFormed));
+    return present.codePage == kUtf8CodePage ? std::string(text)
+                                             : forms::Utf8FromWide(DecodeNarrow(present.codePage, text, illFormed));
 }
 
 void Machine::SetPowerSetting(WLAN_POWER_SETTING setting)
 {
-    if (std::exchange(powerSetting, static_cast<DWORD>(setting)) != static_cast<DWORD>(setting) && serviceRunning)
+    const auto number = static_cast<std::uint32_t>(setting);
+    if (std::exchange(present.powerSetting, number) != number && present.serviceRunning)
     {
         notifier.Post(
             {WLAN_NOTIFICATION_SOURCE_ACM, wlan_notification_acm_power_setting_change, GUID{}, RecordBytes(setting)});

@@ -33,17 +33,11 @@ struct Machine
     Machine(const Machine&) = delete;
     Machine& operator=(const Machine&) = delete;
 
-    std::string description;
-    std::uint32_t codePage;
-    bool serviceRunning;
-    bool locationConsent;
-    bool administrator;
-    DWORD powerSetting;
+    Scenario present; ///< the scenario, kept up to date; power schemes, processes and adapters are in the members below
     BOOL showDeniedNetworks = FALSE;
     BOOL allowExplicitCredentials = TRUE;
     DWORD blockPeriod = 0;                                          ///< seconds
     std::map<WLAN_SECURABLE_OBJECT, std::wstring> securitySettings; ///< as SDDL, what was set since the start
-    std::vector<AccessPoint> air; ///< what could be heard now; adapters know what they heard last
 
     std::mutex mutex; ///< held by every operation that uses the other members
     LastErrorCell lastError;
@@ -56,23 +50,14 @@ struct Machine
     Blocks wlanBlocks{defects};  ///< the WLAN service's allocator
     Blocks localBlocks{defects}; ///< what power management hands out
 
-    PowerDescription power; ///< all but the schemes
     PowerStore powerStore;
     unsigned suspendCount = 0;
     bool wokenByItself;
-    bool tokens;
-    std::vector<Privilege> privileges;
     ProcessTable processes;
-    std::optional<bool> wow64;
-    InternetAccess internet;
-
     std::vector<std::unique_ptr<Adapter>> adapters;
 
     /// The adapter of this interface GUID, or null.
     Adapter* FindAdapter(const GUID& guid) const;
-
-    /// Puts the present state of the computer, without its adapters, into `scenario`.
-    void DescribeSystem(Scenario& scenario) const;
 
     /// How long the computer has been up, also in sleep, in units of 100 ns.
     std::uint64_t InterruptTime() const;

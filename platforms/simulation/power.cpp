@@ -119,11 +119,11 @@ SimulatedPower::CallNtPowerInformation(
     case SystemPowerPolicyDc:
         return AnswerPowerQuestion(MakeSystemPolicy(m_machine.powerStore.Current(), true), output, outputSize);
     case SystemPowerCapabilities:
-        return AnswerPowerQuestion(MakeCapabilities(m_machine.power), output, outputSize);
+        return AnswerPowerQuestion(MakeCapabilities(m_machine.present.power), output, outputSize);
     case LastWakeTime:
-        return AnswerPowerQuestion(m_machine.power.lastWakeTime, output, outputSize);
+        return AnswerPowerQuestion(m_machine.present.power.lastWakeTime, output, outputSize);
     case LastSleepTime:
-        return AnswerPowerQuestion(m_machine.power.lastSleepTime, output, outputSize);
+        return AnswerPowerQuestion(m_machine.present.power.lastSleepTime, output, outputSize);
     default:
         return kStatusNotImplemented;
     }
@@ -188,8 +188,8 @@ DWORD SimulatedPower::PowerEnumerate(
         return ERROR_INVALID_PARAMETER;
     if (access != ACCESS_SCHEME)
         return ERROR_NOT_SUPPORTED;
-    if (m_machine.power.enumerationError != 0)
-        return m_machine.power.enumerationError;
+    if (m_machine.present.power.enumerationError != 0)
+        return m_machine.present.power.enumerationError;
     const auto& schemes = m_machine.powerStore.Schemes();
     if (index >= schemes.size())
         return ERROR_NO_MORE_ITEMS;
@@ -283,27 +283,27 @@ DWORD SimulatedPower::PowerSetActiveScheme(HKEY root, const GUID* scheme)
 BOOLEAN SimulatedPower::IsPwrSuspendAllowed()
 {
     const std::lock_guard lock(m_machine.mutex);
-    return Flag(m_machine.power.suspendAllowed);
+    return Flag(m_machine.present.power.suspendAllowed);
 }
 
 BOOLEAN SimulatedPower::IsPwrHibernateAllowed()
 {
     const std::lock_guard lock(m_machine.mutex);
-    return Flag(m_machine.power.hibernateAllowed);
+    return Flag(m_machine.present.power.hibernateAllowed);
 }
 
 BOOLEAN SimulatedPower::IsPwrShutdownAllowed()
 {
     const std::lock_guard lock(m_machine.mutex);
-    return Flag(m_machine.power.shutdownAllowed);
+    return Flag(m_machine.present.power.shutdownAllowed);
 }
 
 DWORD SimulatedPower::SuspendError(bool hibernate) const
 {
     // Without tokens, no privilege is missing.
-    if (m_machine.tokens && !m_machine.IsPrivilegeEnabled("SeShutdownPrivilege"))
+    if (m_machine.present.tokens && !m_machine.IsPrivilegeEnabled("SeShutdownPrivilege"))
         return ERROR_PRIVILEGE_NOT_HELD;
-    const PowerDescription& power = m_machine.power;
+    const PowerDescription& power = m_machine.present.power;
     return (hibernate ? power.hibernateAllowed : power.suspendAllowed) ? ERROR_SUCCESS : ERROR_NOT_SUPPORTED;
 }
 
@@ -317,14 +317,14 @@ BOOLEAN SimulatedPower::SetSuspendState(BOOLEAN hibernate, BOOLEAN, BOOLEAN wake
         if (const DWORD error = SuspendError(hibernate != 0); error != ERROR_SUCCESS)
             return Fail(error);
         ++m_machine.suspendCount;
-        m_machine.power.lastSleepTime = m_machine.InterruptTime();
-        sleep = std::chrono::milliseconds(m_machine.power.sleepMilliseconds);
+        m_machine.present.power.lastSleepTime = m_machine.InterruptTime();
+        sleep = std::chrono::milliseconds(m_machine.present.power.sleepMilliseconds);
     }
     PassTime(sleep);
     const std::lock_guard lock(m_machine.mutex);
-    m_machine.power.lastWakeTime = m_machine.InterruptTime();
+    m_machine.present.power.lastWakeTime = m_machine.InterruptTime();
     // Without wake-up events only its user can wake it.
-    m_machine.wokenByItself = m_machine.power.resumesAutomatically && wakeupEventsDisabled == 0;
+    m_machine.wokenByItself = m_machine.present.power.resumesAutomatically && wakeupEventsDisabled == 0;
     return 1;
 }
 

@@ -25,7 +25,7 @@ std::optional<std::chrono::milliseconds> EndAfter(std::chrono::milliseconds now,
 } // namespace
 
 ProcessTable::ProcessTable(const Scenario& scenario, const EventQueue& time)
-    : m_time(time), m_hostPath(scenario.programPath), m_programs(scenario.programs), m_lastId(kFirstProcessId)
+    : m_time(time), m_programs(scenario.programs), m_lastId(kFirstProcessId)
 {
     for (const RunningProcess& each : scenario.processes)
     {

@@ -38,14 +38,11 @@ public:
         DWORD rights = 0;
     };
 
-    /// Throws ScenarioError when the scenario contradicts itself. `time` outlives this object.
+    /// Throws ScenarioError when the scenario contradicts itself. Both outlive this object.
     ProcessTable(const Scenario& scenario, const EventQueue& time);
 
-    /// Those that run now, and what is installed, as a scenario says it.
+    /// Those that run now, as a scenario says it.
     std::vector<RunningProcess> Running() const;
-    const std::vector<Program>& Programs() const { return m_programs; }
-    /// The path of the program that uses the computer.
-    const std::string& HostPath() const { return m_hostPath; }
 
     const Program* FindProgram(std::string_view path) const;
 
@@ -67,8 +64,7 @@ private:
     bool HasHandle(DWORD id) const;
 
     const EventQueue& m_time;
-    std::string m_hostPath;
-    std::vector<Program> m_programs;
+    const std::vector<Program>& m_programs;
     std::map<DWORD, Process> m_processes;
     std::map<HANDLE, Access> m_handles;
     DWORD m_lastId;

@@ -52,7 +52,7 @@ const Program* SimulatedProcesses::FindProgram(const std::string& name) const
 
 const Program* SimulatedProcesses::FindCommand(const std::string& commandLine) const
 {
-    const std::string folder = FolderOf(m_machine.NarrowFromUtf8(m_machine.processes.HostPath()));
+    const std::string folder = FolderOf(m_machine.NarrowFromUtf8(m_machine.present.programPath));
     for (const std::string& name : CommandNames(commandLine))
         for (const std::string& file : FilesOfCommand(name, folder))
             if (const Program* const program = FindProgram(file))
@@ -192,7 +192,7 @@ BOOL SimulatedProcesses::CloseHandle(HANDLE handle)
 std::optional<std::string> SimulatedProcesses::ModulePath(HMODULE module) const
 {
     if (module == nullptr || module == kHostModule)
-        return m_machine.NarrowFromUtf8(m_machine.processes.HostPath());
+        return m_machine.NarrowFromUtf8(m_machine.present.programPath);
     if (module == kKernelModule)
         return kKernelPath;
     return std::nullopt;
@@ -227,9 +227,9 @@ FARPROC SimulatedProcesses::GetProcAddress(HMODULE module, const char* name)
 {
     const std::lock_guard lock(m_machine.mutex);
     const bool isName = reinterpret_cast<UINT_PTR>(name) >= kFirstNameAddress;
-    if (module != kKernelModule || !isName || std::string_view(name) != "IsWow64Process" || !m_machine.wow64)
+    if (module != kKernelModule || !isName || std::string_view(name) != "IsWow64Process" || !m_machine.present.wow64)
         return Fail(ERROR_PROC_NOT_FOUND);
-    const auto function = *m_machine.wow64 ? &IsWow64Process<TRUE> : &IsWow64Process<FALSE>;
+    const auto function = *m_machine.present.wow64 ? &IsWow64Process<TRUE> : &IsWow64Process<FALSE>;
     // The cast through void(*)() shows the compiler that the change of the function's type is intended.
     return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function));
 }

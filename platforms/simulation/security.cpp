@@ -23,7 +23,7 @@ std::size_t SizeOfPrivileges(std::size_t count)
 BOOL SimulatedSecurity::OpenProcessToken(HANDLE process, DWORD access, HANDLE* token)
 {
     const std::lock_guard lock(m_machine.mutex);
-    if (!m_machine.tokens)
+    if (!m_machine.present.tokens)
         return Fail(ERROR_CALL_NOT_IMPLEMENTED);
     if (token == nullptr)
         return Fail(ERROR_INVALID_PARAMETER);
@@ -44,7 +44,7 @@ BOOL SimulatedSecurity::OpenProcessToken(HANDLE process, DWORD access, HANDLE* t
 BOOL SimulatedSecurity::LookupPrivilegeValueA(const char* system, const char* name, LUID* luid)
 {
     const std::lock_guard lock(m_machine.mutex);
-    if (!m_machine.tokens)
+    if (!m_machine.present.tokens)
         return Fail(ERROR_CALL_NOT_IMPLEMENTED);
     if (name == nullptr || luid == nullptr)
         return Fail(ERROR_INVALID_PARAMETER);
@@ -59,7 +59,7 @@ BOOL SimulatedSecurity::LookupPrivilegeValueA(const char* system, const char* na
 
 DWORD SimulatedSecurity::TokenError(HANDLE token, bool wantsPrevious)
 {
-    if (!m_machine.tokens)
+    if (!m_machine.present.tokens)
         return ERROR_CALL_NOT_IMPLEMENTED;
     if (!m_machine.handles.Use(token, HandleKind::token, "AdjustTokenPrivileges"))
         return ERROR_INVALID_HANDLE;
@@ -70,7 +70,7 @@ DWORD SimulatedSecurity::TokenError(HANDLE token, bool wantsPrevious)
 SimulatedSecurity::Change SimulatedSecurity::PlanChange(const TOKEN_PRIVILEGES* newState) const
 {
     Change change;
-    const std::vector<Privilege>& held = m_machine.privileges;
+    const std::vector<Privilege>& held = m_machine.present.privileges;
     if (newState == nullptr)
         for (std::size_t index = 0; index < held.size(); ++index)
             change.enabled[index] = false;
@@ -95,7 +95,7 @@ void SimulatedSecurity::WritePrevious(const Change& change, TOKEN_PRIVILEGES& pr
     LUID_AND_ATTRIBUTES* entry = previous.Privileges;
     for (const auto& [index, enabled] : change.enabled)
     {
-        entry->Luid = *PrivilegeLuid(m_machine.privileges[index].name);
+        entry->Luid = *PrivilegeLuid(m_machine.present.privileges[index].name);
         entry->Attributes = enabled ? 0 : SE_PRIVILEGE_ENABLED;
         ++entry;
     }
@@ -124,7 +124,7 @@ BOOL SimulatedSecurity::AdjustTokenPrivileges(HANDLE token,
         WritePrevious(change, *previous);
     }
     for (const auto& [index, enabled] : change.enabled)
-        m_machine.privileges[index].enabled = enabled;
+        m_machine.present.privileges[index].enabled = enabled;
     m_machine.lastError = change.allHeld ? ERROR_SUCCESS : ERROR_NOT_ALL_ASSIGNED;
     return TRUE;
 }

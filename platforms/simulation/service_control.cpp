@@ -66,8 +66,8 @@ BOOL SimulatedServiceControl::QueryServiceStatus(SC_HANDLE service, SERVICE_STAT
         return Fail(ERROR_ACCESS_DENIED);
     *status = SERVICE_STATUS{};
     status->dwServiceType = SERVICE_WIN32_OWN_PROCESS;
-    status->dwCurrentState = m_machine.serviceRunning ? SERVICE_RUNNING : SERVICE_STOPPED;
-    status->dwControlsAccepted = m_machine.serviceRunning ? kAcceptsStopAndShutdown : 0;
+    status->dwCurrentState = m_machine.present.serviceRunning ? SERVICE_RUNNING : SERVICE_STOPPED;
+    status->dwControlsAccepted = m_machine.present.serviceRunning ? kAcceptsStopAndShutdown : 0;
     return TRUE;
 }
 
@@ -78,9 +78,9 @@ BOOL SimulatedServiceControl::StartServiceA(SC_HANDLE service, DWORD, const char
         return Fail(ERROR_INVALID_HANDLE);
     if (!MayDo(service, SERVICE_START))
         return Fail(ERROR_ACCESS_DENIED);
-    if (m_machine.serviceRunning)
+    if (m_machine.present.serviceRunning)
         return Fail(ERROR_SERVICE_ALREADY_RUNNING);
-    m_machine.serviceRunning = true;
+    m_machine.present.serviceRunning = true;
     return TRUE;
 }
 

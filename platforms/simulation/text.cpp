@@ -102,9 +102,9 @@ bool IsKnown(std::uint32_t codePage)
 std::uint32_t SimulatedText::Resolve(UINT codePage) const
 {
     if (codePage == CP_ACP || codePage == kThreadCodePage)
-        return m_machine.codePage;
+        return m_machine.present.codePage;
     if (codePage == CP_OEMCP)
-        return m_machine.codePage == kLatin1 ? kLatin1Oem : m_machine.codePage;
+        return m_machine.present.codePage == kLatin1 ? kLatin1Oem : m_machine.present.codePage;
     return codePage;
 }
 

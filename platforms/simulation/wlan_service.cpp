@@ -33,7 +33,7 @@ SimulatedWlanService::Request::Request(Machine& machine,
         error = ERROR_INVALID_PARAMETER;
     else if (!machine.handles.Use(client, HandleKind::wlanClient, operation))
         error = ERROR_INVALID_HANDLE;
-    else if (!machine.serviceRunning)
+    else if (!machine.present.serviceRunning)
         error = ERROR_SERVICE_NOT_ACTIVE;
 }
 
@@ -63,7 +63,7 @@ DWORD SimulatedWlanService::WlanOpenHandle(DWORD clientVersion,
         return ERROR_INVALID_PARAMETER;
     const std::lock_guard lock(m_machine.mutex);
     // A stopped service is reported before the version is looked at.
-    if (!m_machine.serviceRunning)
+    if (!m_machine.present.serviceRunning)
         return ERROR_SERVICE_NOT_ACTIVE;
     if (clientVersion < oldestVersion || clientVersion > newestVersion)
         return ERROR_NOT_SUPPORTED;
@@ -105,7 +105,7 @@ DWORD SimulatedWlanService::WlanScan(
     const bool isDataTooLong = ieData != nullptr && ieData->dwDataSize > mostIeData;
     if (isSsidTooLong || isDataTooLong)
         return ERROR_INVALID_PARAMETER;
-    if (!m_machine.locationConsent)
+    if (!m_machine.present.locationConsent)
         return ERROR_ACCESS_DENIED;
     if (!request.adapter->IsRadioOn())
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;

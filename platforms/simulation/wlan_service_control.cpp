@@ -20,7 +20,7 @@ std::optional<InterfaceAnswer> Answer(const Machine& machine, Blocks& blocks, WL
     switch (static_cast<unsigned int>(opcode))
     {
     case wlan_autoconf_opcode_power_setting:
-        return AnswerNumber(blocks, static_cast<WLAN_POWER_SETTING>(machine.powerSetting));
+        return AnswerNumber(blocks, static_cast<WLAN_POWER_SETTING>(machine.present.powerSetting));
     case wlan_autoconf_opcode_show_denied_networks:
         return AnswerNumber(blocks, machine.showDeniedNetworks);
     case wlan_autoconf_opcode_only_use_gp_profiles_for_allowed_networks:
@@ -135,7 +135,7 @@ DWORD SimulatedWlanService::WlanSetSecuritySettings(HANDLE client, WLAN_SECURABL
         return request.error;
     if (object > wlan_secure_hosted_network_elevated_access || sddl[0] == L'\0')
         return ERROR_INVALID_PARAMETER;
-    if (!m_machine.administrator)
+    if (!m_machine.present.administrator)
         return ERROR_ACCESS_DENIED;
     m_machine.securitySettings[object] = sddl;
     return ERROR_SUCCESS;

@@ -46,7 +46,7 @@ DWORD SimulatedWlanService::WlanGetAvailableNetworkList(
     const Request request(m_machine, "WlanGetAvailableNetworkList", client, interfaceGuid, {list}, reserved);
     if (request.error != ERROR_SUCCESS)
         return request.error;
-    if (!m_machine.locationConsent)
+    if (!m_machine.present.locationConsent)
         return ERROR_ACCESS_DENIED;
     if (!request.adapter->IsRadioOn())
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
@@ -74,7 +74,7 @@ DWORD SimulatedWlanService::WlanGetNetworkBssList(HANDLE client,
     Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
     if (adapter == nullptr)
         return ERROR_NOT_FOUND;
-    if (!m_machine.locationConsent)
+    if (!m_machine.present.locationConsent)
         return ERROR_ACCESS_DENIED;
     if (!adapter->IsRadioOn())
         return ERROR_NDIS_DOT11_POWER_STATE_INVALID;

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <optional>
 
 namespace calvix::simulation
 {
@@ -25,62 +24,7 @@ bool NeedsConnection(WLAN_INTF_OPCODE opcode)
            opcode == wlan_intf_opcode_channel_number;
 }
 
-BOOL Boolean(bool value)
-{
-    return value ? TRUE : FALSE;
-}
-
-// An ordinary station, as every adapter has been called since the interface knows other modes.
-constexpr ULONG extensibleStation = 4;
 constexpr ULONG networkMonitor = 0x80000000;
-
-// The opcode's number: some SDKs lack it.
-constexpr unsigned int managementFrameProtection = 16;
-
-// Chosen, for what is the same on every simulated adapter: the mode of a station, safe mode supported but not certified,
-// management frames protected where asked for, no hosted network.
-std::optional<InterfaceAnswer> Answer(Blocks& blocks, const Adapter& adapter, WLAN_INTF_OPCODE opcode)
-{
-    switch (static_cast<unsigned int>(opcode))
-    {
-    case wlan_intf_opcode_autoconf_enabled:
-        return AnswerNumber(blocks, Boolean(adapter.HasAutoConfiguration()));
-    case wlan_intf_opcode_background_scan_enabled:
-        return AnswerNumber(blocks, Boolean(adapter.HasBackgroundScan()));
-    case wlan_intf_opcode_radio_state:
-        return AnswerRadioState(blocks, adapter);
-    case wlan_intf_opcode_bss_type:
-        return AnswerNumber(blocks, adapter.BssType());
-    case wlan_intf_opcode_interface_state:
-        return AnswerNumber(blocks, adapter.State());
-    case wlan_intf_opcode_current_connection:
-        return AnswerConnection(blocks, adapter);
-    case wlan_intf_opcode_channel_number:
-        return AnswerChannel(blocks, adapter);
-    case wlan_intf_opcode_current_operation_mode:
-        return AnswerNumber(blocks, extensibleStation);
-    case wlan_intf_opcode_supported_infrastructure_auth_cipher_pairs:
-        return AnswerSuites(blocks, SupportedSuites());
-    case wlan_intf_opcode_supported_adhoc_auth_cipher_pairs:
-        return AnswerSuites(blocks, {SecuritySuite{}});
-    case wlan_intf_opcode_supported_country_or_region_string_list:
-        return AnswerCountries(blocks);
-    case wlan_intf_opcode_supported_safe_mode:
-    case managementFrameProtection:
-        return AnswerNumber(blocks, TRUE);
-    case wlan_intf_opcode_media_streaming_mode:
-        return AnswerNumber(blocks, Boolean(adapter.HasMediaStreaming()));
-    case wlan_intf_opcode_certified_safe_mode:
-    case wlan_intf_opcode_hosted_network_capable:
-        return AnswerNumber(blocks, FALSE);
-    case wlan_intf_opcode_statistics:
-        return AnswerStatistics(blocks, adapter);
-    case wlan_intf_opcode_rssi:
-        return AnswerRssi(blocks, adapter);
-    default:
-        return std::nullopt;
-    }
-}
 
 DWORD SetAutoConfiguration(Adapter& adapter, BOOL enabled)
 {
@@ -178,11 +122,11 @@ DWORD SimulatedWlanService::WlanQueryInterface(HANDLE client,
     if (request.error != ERROR_SUCCESS)
         return request.error;
     // Of the queries only this one would reveal where the computer is.
-    if (opcode == wlan_intf_opcode_current_connection && !m_machine.locationConsent)
+    if (opcode == wlan_intf_opcode_current_connection && !m_machine.present.locationConsent)
         return ERROR_ACCESS_DENIED;
     if (NeedsConnection(opcode) && !IsConnected(*request.adapter))
         return ERROR_INVALID_STATE;
-    const auto answer = Answer(m_machine.wlanBlocks, *request.adapter, opcode);
+    const auto answer = AnswerInterface(m_machine.wlanBlocks, *request.adapter, opcode);
     if (!answer)
         return ERROR_NOT_SUPPORTED;
     *data = answer->data;
