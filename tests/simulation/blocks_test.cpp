@@ -18,10 +18,15 @@ namespace
 
 using Defects = std::vector<std::string>;
 
-TEST(Blocks, AreZeroedAndCounted)
+class BlocksTest : public ::testing::Test
 {
+protected:
     Defects defects;
-    Blocks blocks(defects);
+    Blocks blocks{defects};
+};
+
+TEST_F(BlocksTest, AreZeroedAndCounted)
+{
     auto* const block = static_cast<unsigned char*>(blocks.Allocate(100, "list"));
     EXPECT_EQ(std::vector<unsigned char>(block, block + 100), std::vector<unsigned char>(100, 0));
     EXPECT_EQ(blocks.CountLive(), 1u);
@@ -30,18 +35,14 @@ TEST(Blocks, AreZeroedAndCounted)
     EXPECT_EQ(defects, Defects{});
 }
 
-TEST(Blocks, NullIsNoBlockAndNoDefect)
+TEST_F(BlocksTest, NullIsNoBlockAndNoDefect)
 {
-    Defects defects;
-    Blocks blocks(defects);
     blocks.Free(nullptr);
     EXPECT_EQ(defects, Defects{});
 }
 
-TEST(Blocks, NoticeDoubleFreesAndForeignPointers)
+TEST_F(BlocksTest, NoticeDoubleFreesAndForeignPointers)
 {
-    Defects defects;
-    Blocks blocks(defects);
     int foreign = 0;
     void* const block = blocks.Allocate(8, "profile list");
     blocks.Free(block);
@@ -50,10 +51,8 @@ TEST(Blocks, NoticeDoubleFreesAndForeignPointers)
     EXPECT_EQ(defects, (Defects{"double free of profile list", "free of a foreign pointer"}));
 }
 
-TEST(Blocks, NoticeAWriteAfterFreeOnce)
+TEST_F(BlocksTest, NoticeAWriteAfterFreeOnce)
 {
-    Defects defects;
-    Blocks blocks(defects);
     auto* const block = static_cast<char*>(blocks.Allocate(64, "BSS list"));
     blocks.Free(block);
     blocks.CheckFreed();
@@ -68,10 +67,8 @@ TEST(Blocks, NoticeAWriteAfterFreeOnce)
 }
 
 #ifdef CALVIX_ADDRESS_SANITIZER
-TEST(Blocks, FreedBlocksAndWhatFollowsABlockCannotBeTouchedUnderTheSanitizer)
+TEST_F(BlocksTest, FreedBlocksAndWhatFollowsABlockCannotBeTouchedUnderTheSanitizer)
 {
-    Defects defects;
-    Blocks blocks(defects);
     auto* const freed = static_cast<char*>(blocks.Allocate(24, "list"));
     auto* const live = static_cast<char*>(blocks.Allocate(24, "list"));
     blocks.Free(freed);
@@ -82,10 +79,8 @@ TEST(Blocks, FreedBlocksAndWhatFollowsABlockCannotBeTouchedUnderTheSanitizer)
 }
 #endif
 
-TEST(Blocks, FreedOnesAreKeptWithinBounds)
+TEST_F(BlocksTest, FreedOnesAreKeptWithinBounds)
 {
-    Defects defects;
-    Blocks blocks(defects);
     void* const oldest = blocks.Allocate(8, "oldest");
     blocks.Free(oldest);
     for (int count = 0; count < 5000; ++count)

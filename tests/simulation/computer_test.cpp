@@ -78,6 +78,20 @@ TEST_F(WholeComputer, ScenariosThatContradictThemselvesAreRefused)
              s.adapters[0].connection = simulation::Connection{"Nobody", std::nullopt};
          }},
         {"too long", [](Scenario& s) { s.adapters[0].description = std::string(256, 'x'); }},
+        {"not a GUID", [](Scenario& s) { s.power.schemes[0].guid = "Balanced"; }},
+        {"not a GUID", [](Scenario& s) { s.power.schemes[0].values[0].setting = ""; }},
+        {"another scheme has this GUID", [](Scenario& s) { s.power.schemes[1].guid = s.power.schemes[0].guid; }},
+        {"active, but not there", [](Scenario& s) { s.power.schemes.erase(s.power.schemes.begin()); }},
+        {"active, but not there", [](Scenario& s) { s.power.activeLegacyScheme = 2; }},
+        {"there is another one", [](Scenario& s) { s.power.legacySchemes[1].id = 0; }},
+        {"not a number of its own",
+         [](Scenario& s) {
+             s.processes = {{8, "a.exe"}, {8, "b.exe"}};
+         }},
+        {"not a number of its own",
+         [](Scenario& s) {
+             s.processes = {{0, "a.exe"}};
+         }},
     };
     for (const auto& each : cases)
     {

@@ -14,10 +14,15 @@ namespace
 
 using Defects = std::vector<std::string>;
 
-TEST(Handles, AreNeverNullAndNeverReused)
+class HandlesTest : public ::testing::Test
 {
+protected:
     Defects defects;
-    Handles handles(defects);
+    Handles handles{defects};
+};
+
+TEST_F(HandlesTest, AreNeverNullAndNeverReused)
+{
     std::set<HANDLE> seen{nullptr, INVALID_HANDLE_VALUE};
     for (int count = 0; count < 100; ++count)
     {
@@ -29,10 +34,8 @@ TEST(Handles, AreNeverNullAndNeverReused)
     EXPECT_EQ(defects, Defects{});
 }
 
-TEST(Handles, AreCountedByKind)
+TEST_F(HandlesTest, AreCountedByKind)
 {
-    Defects defects;
-    Handles handles(defects);
     handles.Open(HandleKind::token);
     handles.Open(HandleKind::token);
     handles.Open(HandleKind::process);
@@ -41,10 +44,8 @@ TEST(Handles, AreCountedByKind)
     EXPECT_EQ(handles.CountOpen(), 3u);
 }
 
-TEST(Handles, MisuseIsNoted)
+TEST_F(HandlesTest, MisuseIsNoted)
 {
-    Defects defects;
-    Handles handles(defects);
     const HANDLE client = handles.Open(HandleKind::wlanClient);
     const HANDLE token = handles.Open(HandleKind::token);
     EXPECT_TRUE(handles.Use(client, HandleKind::wlanClient, "WlanScan"));

@@ -57,10 +57,7 @@ TEST_F(InternetTest, RefusedOptions)
 {
     DWORD value = 1;
     const auto set = [this](HINTERNET internet, DWORD option, PVOID buffer, DWORD size)
-    {
-        EXPECT_FALSE(Internet().InternetSetOptionA(internet, option, buffer, size));
-        return LastError();
-    };
+    { return ErrorOf(Internet().InternetSetOptionA(internet, option, buffer, size)); };
     EXPECT_EQ(set(nullptr, INTERNET_OPTION_CONNECT_TIMEOUT, &value, sizeof(value) - 1), 12010u);
     EXPECT_EQ(set(nullptr, INTERNET_OPTION_CONNECT_TIMEOUT, &value, sizeof(value) + 1), 12010u);
     EXPECT_EQ(set(nullptr, INTERNET_OPTION_CONNECT_TIMEOUT, nullptr, sizeof(value)), ERROR_INVALID_PARAMETER);
@@ -70,16 +67,10 @@ TEST_F(InternetTest, RefusedOptions)
 
 TEST_F(InternetTest, RefusedAddresses)
 {
-    const struct
-    {
-        const char* url;
-        DWORD error;
-    } cases[] = {{"", 12005}, {"www.example.org", 12005}, {"https://", 12005}, {"gopher://example.org/", 12006}};
-    for (const auto& each : cases)
-    {
-        EXPECT_FALSE(Check(each.url)) << each.url;
-        EXPECT_EQ(LastError(), each.error) << each.url;
-    }
+    const std::pair<const char*, DWORD> cases[] = {
+        {"", 12005}, {"www.example.org", 12005}, {"https://", 12005}, {"gopher://example.org/", 12006}};
+    for (const auto& [url, error] : cases)
+        EXPECT_EQ(ErrorOf(Check(url)), error) << url;
 }
 
 TEST_F(InternetTest, RefusedArguments)

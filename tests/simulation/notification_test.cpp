@@ -1,6 +1,7 @@
 // The notifications of clients, and their order.
 #include "service_fixture.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace calvix::simulation::notification_test
@@ -189,48 +190,48 @@ TEST_F(Notifications, EveryClientIsNotifiedSeparately)
 
 void WINAPI KeepRecords(L2_NOTIFICATION_DATA* data, PVOID context)
 {
-    auto& records = *static_cast<std::vector<std::pair<DWORD, Bytes>>*>(context);
     const auto* const bytes = static_cast<const std::uint8_t*>(data->pData);
-    records.emplace_back(data->NotificationCode, Bytes(bytes, bytes + data->dwDataSize));
+    static_cast<std::vector<Bytes>*>(context)->emplace_back(bytes, bytes + data->dwDataSize);
+}
+
+template <typename Record>
+Record RecordOf(const Bytes& bytes)
+{
+    Record record{};
+    EXPECT_EQ(bytes.size(), sizeof(record));
+    std::memcpy(&record, bytes.data(), std::min(bytes.size(), sizeof(record)));
+    return record;
 }
 
 TEST_F(Notifications, CarryTheRecordsOfTheirModules)
 {
-    std::vector<std::pair<DWORD, Bytes>> records;
+    std::vector<Bytes> records;
     Start();
     ASSERT_EQ(Wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_ALL, FALSE, &KeepRecords, &records,
                                               nullptr, nullptr),
               ERROR_SUCCESS);
     ASSERT_EQ(Connect(L"HomeNet"), ERROR_SUCCESS);
+    computer->SetRadio(0, 1, RadioSwitch::off, RadioSwitch::on);
     computer->WaitForNotifications();
-    ASSERT_EQ(records.size(), 2u);
+    EXPECT_EQ(Wlan().WlanCloseHandle(std::exchange(client, nullptr), nullptr), ERROR_SUCCESS);
+    ASSERT_EQ(records.size(), 3u);
 
-    WLAN_CONNECTION_NOTIFICATION_DATA connection{};
-    ASSERT_EQ(records[0].second.size(), sizeof(connection));
-    std::memcpy(&connection, records[0].second.data(), sizeof(connection));
+    const auto connection = RecordOf<WLAN_CONNECTION_NOTIFICATION_DATA>(records[0]);
     EXPECT_EQ(connection.wlanConnectionMode, wlan_connection_mode_profile);
     EXPECT_STREQ(connection.strProfileName, L"HomeNet");
     EXPECT_EQ(TextOf(connection.dot11Ssid), "HomeNet");
     EXPECT_EQ(connection.dot11BssType, dot11_BSS_type_infrastructure);
     EXPECT_TRUE(connection.bSecurityEnabled);
 
-    WLAN_MSM_NOTIFICATION_DATA media{};
-    ASSERT_EQ(records[1].second.size(), sizeof(media));
-    std::memcpy(&media, records[1].second.data(), sizeof(media));
+    const auto media = RecordOf<WLAN_MSM_NOTIFICATION_DATA>(records[1]);
     EXPECT_STREQ(media.strProfileName, L"HomeNet");
     EXPECT_EQ(media.dot11MacAddr[5], 1);
     EXPECT_EQ(media.wlanReasonCode, WLAN_REASON_CODE_SUCCESS);
 
-    computer->SetRadio(0, 1, RadioSwitch::off, RadioSwitch::on);
-    computer->WaitForNotifications();
-    WLAN_PHY_RADIO_STATE radio{};
-    ASSERT_EQ(records.size(), 3u);
-    ASSERT_EQ(records[2].second.size(), sizeof(radio));
-    std::memcpy(&radio, records[2].second.data(), sizeof(radio));
+    const auto radio = RecordOf<WLAN_PHY_RADIO_STATE>(records[2]);
     EXPECT_EQ(radio.dwPhyIndex, 1u);
     EXPECT_EQ(radio.dot11SoftwareRadioState, dot11_radio_state_off);
     EXPECT_EQ(radio.dot11HardwareRadioState, dot11_radio_state_on);
-    EXPECT_EQ(Wlan().WlanCloseHandle(std::exchange(client, nullptr), nullptr), ERROR_SUCCESS);
 }
 
 } // namespace

@@ -230,29 +230,6 @@ TEST_F(PowerSchemes, OtherBytesAreNoText)
         EXPECT_EQ(TextOfFriendlyName(bytes), std::nullopt);
 }
 
-TEST(PowerSchemeScenarios, ThatContradictThemselvesAreRefused)
-{
-    const struct
-    {
-        const char* message;
-        void (*spoil)(PowerDescription&);
-    } cases[] = {
-        {"not a GUID", [](PowerDescription& p) { p.schemes[0].guid = "Balanced"; }},
-        {"not a GUID", [](PowerDescription& p) { p.schemes[0].values[0].setting = ""; }},
-        {"another scheme has this GUID", [](PowerDescription& p) { p.schemes[1].guid = p.schemes[0].guid; }},
-        {"active, but not there", [](PowerDescription& p) { p.schemes.erase(p.schemes.begin()); }},
-        {"active, but not there", [](PowerDescription& p) { p.activeLegacyScheme = 2; }},
-        {"there is another one", [](PowerDescription& p) { p.legacySchemes[1].id = 0; }},
-    };
-    for (const auto& each : cases)
-    {
-        Scenario scenario;
-        each.spoil(scenario.power);
-        const std::string problem = ProblemOf([&] { const Computer refused(scenario); });
-        EXPECT_NE(problem.find(each.message), std::string::npos) << each.message << ", not " << problem;
-    }
-}
-
 } // namespace
 
 } // namespace calvix::simulation::power_schemes_test

@@ -247,15 +247,6 @@ TEST_F(Wow64Test, OtherFunctionsAreNotFound)
     EXPECT_EQ(LastError(), ERROR_PROC_NOT_FOUND);
 }
 
-TEST(ProcessScenarios, EveryProcessHasANumberOfItsOwn)
-{
-    Scenario scenario;
-    scenario.processes = {{8, "a.exe"}, {8, "b.exe"}};
-    EXPECT_THROW(Computer{scenario}, ScenarioError);
-    scenario.processes = {{0, "a.exe"}};
-    EXPECT_THROW(Computer{scenario}, ScenarioError);
-}
-
 } // namespace
 
 } // namespace calvix::simulation::processes_test

@@ -1,6 +1,7 @@
 // The gallery's scenarios in which something happens, played with the library.
 #include "support/library_test.h"
 
+#include "forms/guid_text.h"
 #include "notification_recorder.h"
 
 #include <algorithm>
@@ -20,26 +21,7 @@ protected:
     void Play(const char* file)
     {
         UseWorld(LoadScenario((std::filesystem::path(CALVIX_SOURCE_DIR) / "scenarios" / file).string()));
-        guid = FirstAdapter();
-    }
-
-    GUID FirstAdapter()
-    {
-        WLAN_INTERFACE_INFO_LIST* list = nullptr;
-        HANDLE client = OpenClient();
-        EXPECT_EQ(computer().wlan().WlanEnumInterfaces(client, nullptr, &list), ERROR_SUCCESS);
-        const GUID found = list->InterfaceInfo[0].InterfaceGuid;
-        computer().wlan().WlanFreeMemory(list);
-        EXPECT_EQ(computer().wlan().WlanCloseHandle(client, nullptr), ERROR_SUCCESS);
-        return found;
-    }
-
-    HANDLE OpenClient()
-    {
-        DWORD version = 0;
-        HANDLE client = nullptr;
-        EXPECT_EQ(computer().wlan().WlanOpenHandle(2, nullptr, &version, &client), ERROR_SUCCESS);
-        return client;
+        guid = forms::GuidFromText(computer().Snapshot().adapters.at(0).guid).value();
     }
 
     std::optional<Connection> Connected() { return computer().Snapshot().adapters.at(0).connection; }
@@ -68,7 +50,9 @@ TEST_F(ScenarioPlay, TheTrainLosesItsNetworkAndFindsItAgain)
 {
     Play("train.json");
     NotificationRecorder recorder;
-    const HANDLE client = OpenClient();
+    DWORD version = 0;
+    HANDLE client = nullptr;
+    ASSERT_EQ(computer().wlan().WlanOpenHandle(2, nullptr, &version, &client), ERROR_SUCCESS);
     ASSERT_EQ(computer().wlan().WlanRegisterNotification(client, WLAN_NOTIFICATION_SOURCE_ACM, TRUE,
                                                          &NotificationRecorder::Callback, &recorder, nullptr, nullptr),
               ERROR_SUCCESS);
