@@ -1,12 +1,18 @@
 #pragma once
 
+#include "operations/bound.h"
+#include "platform/platform.h"
 #include "simulation/machine.h"
 
 #include <chrono>
+#include <memory>
 #include <mutex>
+#include <vector>
 
 namespace calvix::simulation
 {
+
+using operations::CallsTo;
 
 /// What an operation that failed returns: FALSE, 0 or null.
 struct Failure
@@ -24,6 +30,7 @@ class Facility
 public:
     /// `machine` outlives this object.
     explicit Facility(Machine& machine) : m_machine(machine) {}
+    virtual ~Facility() = default;
 
 protected:
     /// Leaves the last error.
@@ -47,5 +54,25 @@ protected:
 
     Machine& m_machine;
 };
+
+/// What does the operations of a platform, and lives as long as they do.
+using Parts = std::vector<std::unique_ptr<Facility>>;
+
+template <typename Part>
+Part& AddPart(Machine& machine, Parts& parts)
+{
+    parts.push_back(std::make_unique<Part>(machine));
+    return static_cast<Part&>(*parts.back());
+}
+
+/// Each makes one facility and gives its operations; it is in the file of its name.
+platform::ServiceControl MakeServiceControl(Machine& machine, Parts& parts);
+platform::Power MakePower(Machine& machine, Parts& parts);
+platform::Security MakeSecurity(Machine& machine, Parts& parts);
+platform::Processes MakeProcesses(Machine& machine, Parts& parts);
+platform::Internet MakeInternet(Machine& machine, Parts& parts);
+platform::Text MakeText(Machine& machine, Parts& parts);
+platform::Clock MakeClock(Machine& machine, Parts& parts);
+platform::DebuggerOutput MakeDebuggerOutput(Machine& machine, Parts& parts);
 
 } // namespace calvix::simulation

@@ -1,4 +1,4 @@
-#include "simulation/internet.h"
+#include "simulation/facility.h"
 
 #include "platform/records/error_numbers.h"
 #include "simulation/ascii_case.h"
@@ -31,43 +31,63 @@ DWORD AddressError(std::string_view url)
     return known ? ERROR_SUCCESS : kUnrecognizedScheme;
 }
 
-} // namespace
-
-BOOL SimulatedInternet::InternetSetOptionA(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize)
+/// The internet connection, which does not depend on the wireless adapters: there may be a cable. No handle is ever given
+/// out, so every option is the whole process's.
+class SimulatedInternet final : public Facility
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (internet != nullptr)
-        return Fail(ERROR_INVALID_HANDLE);
-    if (option != INTERNET_OPTION_CONNECT_TIMEOUT)
-        return Fail(kInvalidOption);
-    if (buffer == nullptr)
-        return Fail(ERROR_INVALID_PARAMETER);
-    if (bufferSize != sizeof(m_connectTimeout))
-        return Fail(kBadOptionLength);
-    std::memcpy(&m_connectTimeout, buffer, sizeof(m_connectTimeout));
-    return TRUE;
-}
+public:
+    using Facility::Facility;
 
-BOOL SimulatedInternet::InternetCheckConnectionA(const char* url, DWORD flags, DWORD reserved)
-{
-    if (reserved != 0 || (flags & ~DWORD{FLAG_ICC_FORCE_CONNECTION}) != 0)
-        return Fail(ERROR_INVALID_PARAMETER);
-    // Without an address the platform tries one of its own.
-    if (const DWORD error = url != nullptr ? AddressError(url) : ERROR_SUCCESS; error != ERROR_SUCCESS)
-        return Fail(error);
-    InternetAccess access{};
-    DWORD timeout = 0;
+    BOOL InternetSetOptionA(HINTERNET internet, DWORD option, PVOID buffer, DWORD bufferSize)
     {
         const std::lock_guard lock(m_machine.mutex);
-        access = m_machine.present.internet;
-        timeout = m_connectTimeout;
-    }
-    if (access == InternetAccess::unresolved)
-        return Fail(kNameNotResolved);
-    if (access == InternetAccess::reachable)
+        if (internet != nullptr)
+            return Fail(ERROR_INVALID_HANDLE);
+        if (option != INTERNET_OPTION_CONNECT_TIMEOUT)
+            return Fail(kInvalidOption);
+        if (buffer == nullptr)
+            return Fail(ERROR_INVALID_PARAMETER);
+        if (bufferSize != sizeof(m_connectTimeout))
+            return Fail(kBadOptionLength);
+        std::memcpy(&m_connectTimeout, buffer, sizeof(m_connectTimeout));
         return TRUE;
-    PassTime(std::chrono::milliseconds(timeout));
-    return Fail(kCannotConnect);
+    }
+
+    BOOL InternetCheckConnectionA(const char* url, DWORD flags, DWORD reserved)
+    {
+        if (reserved != 0 || (flags & ~DWORD{FLAG_ICC_FORCE_CONNECTION}) != 0)
+            return Fail(ERROR_INVALID_PARAMETER);
+        // Without an address the platform tries one of its own.
+        if (const DWORD error = url != nullptr ? AddressError(url) : ERROR_SUCCESS; error != ERROR_SUCCESS)
+            return Fail(error);
+        InternetAccess access{};
+        DWORD timeout = 0;
+        {
+            const std::lock_guard lock(m_machine.mutex);
+            access = m_machine.present.internet;
+            timeout = m_connectTimeout;
+        }
+        if (access == InternetAccess::unresolved)
+            return Fail(kNameNotResolved);
+        if (access == InternetAccess::reachable)
+            return TRUE;
+        PassTime(std::chrono::milliseconds(timeout));
+        return Fail(kCannotConnect);
+    }
+
+private:
+    DWORD m_connectTimeout = 60'000; ///< chosen: that of a program which has not set one
+};
+
+} // namespace
+
+platform::Internet MakeInternet(Machine& machine, Parts& parts)
+{
+    auto& internet = AddPart<SimulatedInternet>(machine, parts);
+    return {
+        .InternetSetOptionA = CallsTo<&SimulatedInternet::InternetSetOptionA>(internet),
+        .InternetCheckConnectionA = CallsTo<&SimulatedInternet::InternetCheckConnectionA>(internet),
+    };
 }
 
 } // namespace calvix::simulation

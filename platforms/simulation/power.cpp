@@ -1,4 +1,4 @@
-#include "simulation/power.h"
+#include "simulation/facility.h"
 
 #include "platform/records/error_numbers.h"
 
@@ -102,242 +102,274 @@ GUID* NewGuid(Blocks& blocks, const GUID& guid)
     return block;
 }
 
-} // namespace
-
-// Chosen: the policies are changed through their schemes and not here, so that nothing takes an input.
-NTSTATUS
-SimulatedPower::CallNtPowerInformation(
-    POWER_INFORMATION_LEVEL level, PVOID input, ULONG, PVOID output, ULONG outputSize)
+/// Power management: the two kinds of power schemes, what the computer can do, and sleeping. Everybody has every right to
+/// the schemes; putting the computer to sleep takes the shutdown privilege.
+class SimulatedPower final : public Facility
 {
-    const std::lock_guard lock(m_machine.mutex);
-    if (input != nullptr || output == nullptr)
-        return kStatusInvalidParameter;
-    switch (static_cast<unsigned int>(level))
-    {
-    case SystemPowerPolicyAc:
-        return AnswerPowerQuestion(MakeSystemPolicy(m_machine.powerStore.Current(), false), output, outputSize);
-    case SystemPowerPolicyDc:
-        return AnswerPowerQuestion(MakeSystemPolicy(m_machine.powerStore.Current(), true), output, outputSize);
-    case SystemPowerCapabilities:
-        return AnswerPowerQuestion(MakeCapabilities(m_machine.present.power), output, outputSize);
-    case LastWakeTime:
-        return AnswerPowerQuestion(m_machine.present.power.lastWakeTime, output, outputSize);
-    case LastSleepTime:
-        return AnswerPowerQuestion(m_machine.present.power.lastSleepTime, output, outputSize);
-    default:
-        return kStatusNotImplemented;
-    }
-}
+public:
+    using Facility::Facility;
 
-BOOLEAN SimulatedPower::GetActivePwrScheme(UINT* schemeId)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (schemeId == nullptr)
-        return Fail(ERROR_INVALID_PARAMETER);
-    if (!m_machine.powerStore.ActiveLegacy())
-        return Fail(ERROR_FILE_NOT_FOUND);
-    *schemeId = *m_machine.powerStore.ActiveLegacy();
-    return 1;
-}
-
-BOOLEAN SimulatedPower::ReadPwrScheme(UINT schemeId, POWER_POLICY* policy)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (policy == nullptr)
-        return Fail(ERROR_INVALID_PARAMETER);
-    const PowerStore::LegacyScheme* const scheme = m_machine.powerStore.FindLegacy(schemeId);
-    if (scheme == nullptr)
-        return Fail(ERROR_FILE_NOT_FOUND);
-    *policy = scheme->policy;
-    return 1;
-}
-
-// A policy is accepted with any values. Descriptions are not kept: nothing reads them back.
-BOOLEAN
-SimulatedPower::WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t*, POWER_POLICY* policy)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (schemeId == nullptr || policy == nullptr)
-        return Fail(ERROR_INVALID_PARAMETER);
-    PowerStore& store = m_machine.powerStore;
-    const PowerStore::LegacyScheme* const present = store.FindLegacy(*schemeId);
-    // Only a scheme that is there already has a name to keep.
-    if (present == nullptr && name == nullptr)
-        return Fail(ERROR_INVALID_PARAMETER);
-    if (*schemeId == kNewLegacyScheme)
-        *schemeId = store.UnusedLegacyId();
-    store.WriteLegacy(*schemeId, {name != nullptr ? std::wstring(name) : present->name, *policy});
-    return 1;
-}
-
-BOOLEAN SimulatedPower::SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY*, POWER_POLICY* policy)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (m_machine.powerStore.FindLegacy(schemeId) == nullptr)
-        return Fail(ERROR_FILE_NOT_FOUND);
-    m_machine.powerStore.ActivateLegacy(schemeId, policy);
-    return 1;
-}
-
-// Chosen: schemes can be listed, but not their subgroups and settings.
-DWORD SimulatedPower::PowerEnumerate(
-    HKEY root, const GUID*, const GUID*, POWER_DATA_ACCESSOR access, ULONG index, UCHAR* buffer, DWORD* bufferSize)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (root != nullptr || bufferSize == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    if (access != ACCESS_SCHEME)
-        return ERROR_NOT_SUPPORTED;
-    if (m_machine.present.power.enumerationError != 0)
-        return m_machine.present.power.enumerationError;
-    const auto& schemes = m_machine.powerStore.Schemes();
-    if (index >= schemes.size())
-        return ERROR_NO_MORE_ITEMS;
-    return HandOut(&schemes[index].guid, sizeof(GUID), buffer, *bufferSize);
-}
-
-// Chosen: subgroups and settings have no names here, only schemes do.
-DWORD SimulatedPower::PowerReadFriendlyName(
-    HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD* bufferSize)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (root != nullptr || scheme == nullptr || bufferSize == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    const PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
-    if (known == nullptr || subgroup != nullptr || setting != nullptr)
-        return ERROR_FILE_NOT_FOUND;
-    return HandOut(known->name.data(), known->name.size(), buffer, *bufferSize);
-}
-
-DWORD SimulatedPower::PowerGetActiveScheme(HKEY root, GUID** scheme)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (root != nullptr || scheme == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    if (!m_machine.powerStore.Active())
-        return ERROR_FILE_NOT_FOUND;
-    *scheme = NewGuid(m_machine.localBlocks, *m_machine.powerStore.Active());
-    return ERROR_SUCCESS;
-}
-
-DWORD SimulatedPower::PowerDuplicateScheme(HKEY root, const GUID* source, GUID** duplicate)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (root != nullptr || source == nullptr || duplicate == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    PowerStore& store = m_machine.powerStore;
-    const PowerStore::Scheme* const original = store.Find(*source);
-    if (original == nullptr)
-        return ERROR_FILE_NOT_FOUND;
-    // A GUID from the caller is used; without one, a new one is made.
-    const bool ownGuid = *duplicate != nullptr;
-    const GUID guid = ownGuid ? **duplicate : store.UnusedGuid();
-    if (store.Find(guid) != nullptr)
-        return ERROR_ALREADY_EXISTS;
-    store.Duplicate(*original, guid);
-    if (!ownGuid)
-        *duplicate = NewGuid(m_machine.localBlocks, guid);
-    return ERROR_SUCCESS;
-}
-
-// The name is stored as it comes: the platform takes any bytes for one.
-DWORD SimulatedPower::PowerWriteFriendlyName(
-    HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD bufferSize)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (root != nullptr || scheme == nullptr || buffer == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
-    if (known == nullptr || subgroup != nullptr || setting != nullptr)
-        return ERROR_FILE_NOT_FOUND;
-    known->name.assign(buffer, buffer + bufferSize);
-    return ERROR_SUCCESS;
-}
-
-DWORD SimulatedPower::PowerWriteACValueIndex(
-    HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, DWORD value)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (root != nullptr || scheme == nullptr || setting == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    PowerStore& store = m_machine.powerStore;
-    const GUID& group = subgroup != nullptr ? *subgroup : power_guid::no_subgroup;
-    PowerStore::Scheme* const known = store.Find(*scheme);
-    if (known == nullptr || !store.HasSetting(group, *setting))
-        return ERROR_FILE_NOT_FOUND;
-    PowerStore::SetAcValue(*known, group, *setting, value);
-    return ERROR_SUCCESS;
-}
-
-DWORD SimulatedPower::PowerSetActiveScheme(HKEY root, const GUID* scheme)
-{
-    const std::lock_guard lock(m_machine.mutex);
-    if (root != nullptr || scheme == nullptr)
-        return ERROR_INVALID_PARAMETER;
-    if (m_machine.powerStore.Find(*scheme) == nullptr)
-        return ERROR_FILE_NOT_FOUND;
-    m_machine.powerStore.Activate(*scheme);
-    return ERROR_SUCCESS;
-}
-
-BOOLEAN SimulatedPower::IsPwrSuspendAllowed()
-{
-    const std::lock_guard lock(m_machine.mutex);
-    return Flag(m_machine.present.power.suspendAllowed);
-}
-
-BOOLEAN SimulatedPower::IsPwrHibernateAllowed()
-{
-    const std::lock_guard lock(m_machine.mutex);
-    return Flag(m_machine.present.power.hibernateAllowed);
-}
-
-BOOLEAN SimulatedPower::IsPwrShutdownAllowed()
-{
-    const std::lock_guard lock(m_machine.mutex);
-    return Flag(m_machine.present.power.shutdownAllowed);
-}
-
-DWORD SimulatedPower::SuspendError(bool hibernate) const
-{
-    // Without tokens, no privilege is missing.
-    if (m_machine.present.tokens && !m_machine.IsPrivilegeEnabled("SeShutdownPrivilege"))
-        return ERROR_PRIVILEGE_NOT_HELD;
-    const PowerDescription& power = m_machine.present.power;
-    return (hibernate ? power.hibernateAllowed : power.suspendAllowed) ? ERROR_SUCCESS : ERROR_NOT_SUPPORTED;
-}
-
-// The operation returns once the computer is awake again. Chosen: to the wireless adapters the time asleep is time like
-// any other.
-BOOLEAN SimulatedPower::SetSuspendState(BOOLEAN hibernate, BOOLEAN, BOOLEAN wakeupEventsDisabled)
-{
-    std::chrono::milliseconds sleep{0};
+    // Chosen: the policies are changed through their schemes and not here, so that nothing takes an input.
+    NTSTATUS
+    CallNtPowerInformation(POWER_INFORMATION_LEVEL level, PVOID input, ULONG, PVOID output, ULONG outputSize)
     {
         const std::lock_guard lock(m_machine.mutex);
-        if (const DWORD error = SuspendError(hibernate != 0); error != ERROR_SUCCESS)
-            return Fail(error);
-        ++m_machine.suspendCount;
-        m_machine.present.power.lastSleepTime = m_machine.InterruptTime();
-        sleep = std::chrono::milliseconds(m_machine.present.power.sleepMilliseconds);
+        if (input != nullptr || output == nullptr)
+            return kStatusInvalidParameter;
+        switch (static_cast<unsigned int>(level))
+        {
+        case SystemPowerPolicyAc:
+            return AnswerPowerQuestion(MakeSystemPolicy(m_machine.powerStore.Current(), false), output, outputSize);
+        case SystemPowerPolicyDc:
+            return AnswerPowerQuestion(MakeSystemPolicy(m_machine.powerStore.Current(), true), output, outputSize);
+        case SystemPowerCapabilities:
+            return AnswerPowerQuestion(MakeCapabilities(m_machine.present.power), output, outputSize);
+        case LastWakeTime:
+            return AnswerPowerQuestion(m_machine.present.power.lastWakeTime, output, outputSize);
+        case LastSleepTime:
+            return AnswerPowerQuestion(m_machine.present.power.lastSleepTime, output, outputSize);
+        default:
+            return kStatusNotImplemented;
+        }
     }
-    PassTime(sleep);
-    const std::lock_guard lock(m_machine.mutex);
-    m_machine.present.power.lastWakeTime = m_machine.InterruptTime();
-    // Without wake-up events only its user can wake it.
-    m_machine.wokenByItself = m_machine.present.power.resumesAutomatically && wakeupEventsDisabled == 0;
-    return 1;
-}
 
-BOOL SimulatedPower::IsSystemResumeAutomatic()
-{
-    const std::lock_guard lock(m_machine.mutex);
-    return m_machine.wokenByItself ? TRUE : FALSE;
-}
+    BOOLEAN GetActivePwrScheme(UINT* schemeId)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (schemeId == nullptr)
+            return Fail(ERROR_INVALID_PARAMETER);
+        if (!m_machine.powerStore.ActiveLegacy())
+            return Fail(ERROR_FILE_NOT_FOUND);
+        *schemeId = *m_machine.powerStore.ActiveLegacy();
+        return 1;
+    }
 
-void SimulatedPower::LocalFree(PVOID memory)
+    BOOLEAN ReadPwrScheme(UINT schemeId, POWER_POLICY* policy)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (policy == nullptr)
+            return Fail(ERROR_INVALID_PARAMETER);
+        const PowerStore::LegacyScheme* const scheme = m_machine.powerStore.FindLegacy(schemeId);
+        if (scheme == nullptr)
+            return Fail(ERROR_FILE_NOT_FOUND);
+        *policy = scheme->policy;
+        return 1;
+    }
+
+    // A policy is accepted with any values. Descriptions are not kept: nothing reads them back.
+    BOOLEAN
+    WritePwrScheme(UINT* schemeId, const wchar_t* name, const wchar_t*, POWER_POLICY* policy)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (schemeId == nullptr || policy == nullptr)
+            return Fail(ERROR_INVALID_PARAMETER);
+        PowerStore& store = m_machine.powerStore;
+        const PowerStore::LegacyScheme* const present = store.FindLegacy(*schemeId);
+        // Only a scheme that is there already has a name to keep.
+        if (present == nullptr && name == nullptr)
+            return Fail(ERROR_INVALID_PARAMETER);
+        if (*schemeId == kNewLegacyScheme)
+            *schemeId = store.UnusedLegacyId();
+        store.WriteLegacy(*schemeId, {name != nullptr ? std::wstring(name) : present->name, *policy});
+        return 1;
+    }
+
+    BOOLEAN SetActivePwrScheme(UINT schemeId, GLOBAL_POWER_POLICY*, POWER_POLICY* policy)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (m_machine.powerStore.FindLegacy(schemeId) == nullptr)
+            return Fail(ERROR_FILE_NOT_FOUND);
+        m_machine.powerStore.ActivateLegacy(schemeId, policy);
+        return 1;
+    }
+
+    // Chosen: schemes can be listed, but not their subgroups and settings.
+    DWORD PowerEnumerate(
+        HKEY root, const GUID*, const GUID*, POWER_DATA_ACCESSOR access, ULONG index, UCHAR* buffer, DWORD* bufferSize)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (root != nullptr || bufferSize == nullptr)
+            return ERROR_INVALID_PARAMETER;
+        if (access != ACCESS_SCHEME)
+            return ERROR_NOT_SUPPORTED;
+        if (m_machine.present.power.enumerationError != 0)
+            return m_machine.present.power.enumerationError;
+        const auto& schemes = m_machine.powerStore.Schemes();
+        if (index >= schemes.size())
+            return ERROR_NO_MORE_ITEMS;
+        return HandOut(&schemes[index].guid, sizeof(GUID), buffer, *bufferSize);
+    }
+
+    // Chosen: subgroups and settings have no names here, only schemes do.
+    DWORD PowerReadFriendlyName(
+        HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD* bufferSize)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (root != nullptr || scheme == nullptr || bufferSize == nullptr)
+            return ERROR_INVALID_PARAMETER;
+        const PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
+        if (known == nullptr || subgroup != nullptr || setting != nullptr)
+            return ERROR_FILE_NOT_FOUND;
+        return HandOut(known->name.data(), known->name.size(), buffer, *bufferSize);
+    }
+
+    DWORD PowerGetActiveScheme(HKEY root, GUID** scheme)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (root != nullptr || scheme == nullptr)
+            return ERROR_INVALID_PARAMETER;
+        if (!m_machine.powerStore.Active())
+            return ERROR_FILE_NOT_FOUND;
+        *scheme = NewGuid(m_machine.localBlocks, *m_machine.powerStore.Active());
+        return ERROR_SUCCESS;
+    }
+
+    DWORD PowerDuplicateScheme(HKEY root, const GUID* source, GUID** duplicate)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (root != nullptr || source == nullptr || duplicate == nullptr)
+            return ERROR_INVALID_PARAMETER;
+        PowerStore& store = m_machine.powerStore;
+        const PowerStore::Scheme* const original = store.Find(*source);
+        if (original == nullptr)
+            return ERROR_FILE_NOT_FOUND;
+        // A GUID from the caller is used; without one, a new one is made.
+        const bool ownGuid = *duplicate != nullptr;
+        const GUID guid = ownGuid ? **duplicate : store.UnusedGuid();
+        if (store.Find(guid) != nullptr)
+            return ERROR_ALREADY_EXISTS;
+        store.Duplicate(*original, guid);
+        if (!ownGuid)
+            *duplicate = NewGuid(m_machine.localBlocks, guid);
+        return ERROR_SUCCESS;
+    }
+
+    // The name is stored as it comes: the platform takes any bytes for one.
+    DWORD PowerWriteFriendlyName(
+        HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, UCHAR* buffer, DWORD bufferSize)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (root != nullptr || scheme == nullptr || buffer == nullptr)
+            return ERROR_INVALID_PARAMETER;
+        PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
+        if (known == nullptr || subgroup != nullptr || setting != nullptr)
+            return ERROR_FILE_NOT_FOUND;
+        known->name.assign(buffer, buffer + bufferSize);
+        return ERROR_SUCCESS;
+    }
+
+    DWORD PowerWriteACValueIndex(HKEY root, const GUID* scheme, const GUID* subgroup, const GUID* setting, DWORD value)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (root != nullptr || scheme == nullptr || setting == nullptr)
+            return ERROR_INVALID_PARAMETER;
+        PowerStore& store = m_machine.powerStore;
+        const GUID& group = subgroup != nullptr ? *subgroup : power_guid::no_subgroup;
+        PowerStore::Scheme* const known = store.Find(*scheme);
+        if (known == nullptr || !store.HasSetting(group, *setting))
+            return ERROR_FILE_NOT_FOUND;
+        PowerStore::SetAcValue(*known, group, *setting, value);
+        return ERROR_SUCCESS;
+    }
+
+    DWORD PowerSetActiveScheme(HKEY root, const GUID* scheme)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        if (root != nullptr || scheme == nullptr)
+            return ERROR_INVALID_PARAMETER;
+        if (m_machine.powerStore.Find(*scheme) == nullptr)
+            return ERROR_FILE_NOT_FOUND;
+        m_machine.powerStore.Activate(*scheme);
+        return ERROR_SUCCESS;
+    }
+
+    BOOLEAN IsPwrSuspendAllowed()
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        return Flag(m_machine.present.power.suspendAllowed);
+    }
+
+    BOOLEAN IsPwrHibernateAllowed()
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        return Flag(m_machine.present.power.hibernateAllowed);
+    }
+
+    BOOLEAN IsPwrShutdownAllowed()
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        return Flag(m_machine.present.power.shutdownAllowed);
+    }
+
+    // The operation returns once the computer is awake again. Chosen: to the wireless adapters the time asleep is time like
+    // any other.
+    BOOLEAN SetSuspendState(BOOLEAN hibernate, BOOLEAN, BOOLEAN wakeupEventsDisabled)
+    {
+        std::chrono::milliseconds sleep{0};
+        {
+            const std::lock_guard lock(m_machine.mutex);
+            if (const DWORD error = SuspendError(hibernate != 0); error != ERROR_SUCCESS)
+                return Fail(error);
+            ++m_machine.suspendCount;
+            m_machine.present.power.lastSleepTime = m_machine.InterruptTime();
+            sleep = std::chrono::milliseconds(m_machine.present.power.sleepMilliseconds);
+        }
+        PassTime(sleep);
+        const std::lock_guard lock(m_machine.mutex);
+        m_machine.present.power.lastWakeTime = m_machine.InterruptTime();
+        // Without wake-up events only its user can wake it.
+        m_machine.wokenByItself = m_machine.present.power.resumesAutomatically && wakeupEventsDisabled == 0;
+        return 1;
+    }
+
+    BOOL IsSystemResumeAutomatic()
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        return m_machine.wokenByItself ? TRUE : FALSE;
+    }
+
+    void LocalFree(PVOID memory)
+    {
+        const std::lock_guard lock(m_machine.mutex);
+        m_machine.localBlocks.Free(memory);
+    }
+
+private:
+    DWORD SuspendError(bool hibernate) const
+    {
+        // Without tokens, no privilege is missing.
+        if (m_machine.present.tokens && !m_machine.IsPrivilegeEnabled("SeShutdownPrivilege"))
+            return ERROR_PRIVILEGE_NOT_HELD;
+        const PowerDescription& power = m_machine.present.power;
+        return (hibernate ? power.hibernateAllowed : power.suspendAllowed) ? ERROR_SUCCESS : ERROR_NOT_SUPPORTED;
+    }
+};
+
+} // namespace
+
+platform::Power MakePower(Machine& machine, Parts& parts)
 {
-    const std::lock_guard lock(m_machine.mutex);
-    m_machine.localBlocks.Free(memory);
+    auto& power = AddPart<SimulatedPower>(machine, parts);
+    return {
+        .CallNtPowerInformation = CallsTo<&SimulatedPower::CallNtPowerInformation>(power),
+        .GetActivePwrScheme = CallsTo<&SimulatedPower::GetActivePwrScheme>(power),
+        .ReadPwrScheme = CallsTo<&SimulatedPower::ReadPwrScheme>(power),
+        .WritePwrScheme = CallsTo<&SimulatedPower::WritePwrScheme>(power),
+        .SetActivePwrScheme = CallsTo<&SimulatedPower::SetActivePwrScheme>(power),
+        .PowerEnumerate = CallsTo<&SimulatedPower::PowerEnumerate>(power),
+        .PowerReadFriendlyName = CallsTo<&SimulatedPower::PowerReadFriendlyName>(power),
+        .PowerGetActiveScheme = CallsTo<&SimulatedPower::PowerGetActiveScheme>(power),
+        .PowerDuplicateScheme = CallsTo<&SimulatedPower::PowerDuplicateScheme>(power),
+        .PowerWriteFriendlyName = CallsTo<&SimulatedPower::PowerWriteFriendlyName>(power),
+        .PowerWriteACValueIndex = CallsTo<&SimulatedPower::PowerWriteACValueIndex>(power),
+        .PowerSetActiveScheme = CallsTo<&SimulatedPower::PowerSetActiveScheme>(power),
+        .IsPwrSuspendAllowed = CallsTo<&SimulatedPower::IsPwrSuspendAllowed>(power),
+        .IsPwrHibernateAllowed = CallsTo<&SimulatedPower::IsPwrHibernateAllowed>(power),
+        .IsPwrShutdownAllowed = CallsTo<&SimulatedPower::IsPwrShutdownAllowed>(power),
+        .SetSuspendState = CallsTo<&SimulatedPower::SetSuspendState>(power),
+        .IsSystemResumeAutomatic = CallsTo<&SimulatedPower::IsSystemResumeAutomatic>(power),
+        .LocalFree = CallsTo<&SimulatedPower::LocalFree>(power),
+    };
 }
 
 } // namespace calvix::simulation

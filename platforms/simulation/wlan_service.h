@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/records/error_numbers.h"
-#include "platform/wlan_service.h"
 #include "simulation/facility.h"
 
 #include <initializer_list>
@@ -11,11 +10,10 @@ namespace calvix::simulation
 
 /// The WLAN client service of a simulated computer. Every caller has every right but for what needs an administrator.
 /// Notification callbacks may call any operation.
-class SimulatedWlanService : Facility
+class SimulatedWlanService : public Facility
 {
 public:
     using Facility::Facility;
-    virtual ~SimulatedWlanService() = default;
 
     DWORD WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client);
     DWORD WlanCloseHandle(HANDLE client, PVOID reserved);

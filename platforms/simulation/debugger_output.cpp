@@ -1,13 +1,13 @@
-#pragma once
-
-#include "platform/debugger_output.h"
 #include "simulation/facility.h"
 
 namespace calvix::simulation
 {
 
+namespace
+{
+
 /// A debugger that stores its output, one element per call.
-class SimulatedDebuggerOutput final : Facility
+class SimulatedDebuggerOutput final : public Facility
 {
 public:
     using Facility::Facility;
@@ -20,5 +20,15 @@ public:
             m_machine.debuggerLines.emplace_back(text);
     }
 };
+
+} // namespace
+
+platform::DebuggerOutput MakeDebuggerOutput(Machine& machine, Parts& parts)
+{
+    auto& debugger = AddPart<SimulatedDebuggerOutput>(machine, parts);
+    return {
+        .OutputDebugStringA = CallsTo<&SimulatedDebuggerOutput::OutputDebugStringA>(debugger),
+    };
+}
 
 } // namespace calvix::simulation
