@@ -3,7 +3,6 @@
 #include "forms/guid_text.h"
 #include "forms/utf8.h"
 #include "platform/records/error_numbers.h"
-#include "simulation/notification_records.h"
 #include "simulation/service_records.h"
 #include <calvix/platform_records.h>
 

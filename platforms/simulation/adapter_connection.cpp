@@ -1,6 +1,6 @@
 // How an adapter's connections are made and ended.
 #include "simulation/adapter.h"
-#include "simulation/notification_records.h"
+#include "simulation/service_records.h"
 #include "simulation/timetable.h"
 
 #include <calvix/platform_records.h>
@@ -46,6 +46,21 @@ bool IsWrongKey(const ProfileDocument& profile, const AccessPoint& accessPoint)
 bool LacksKey(const ConnectionRequest& request, const AccessPoint& accessPoint)
 {
     return request.HasTemporaryProfile() && request.profile->document.key.empty() && !accessPoint.key.empty();
+}
+
+/// What the records of both modules have in common.
+template <typename Record>
+Record MakeRecord(const ConnectionRequest& request, DWORD reason)
+{
+    const ProfileDocument& profile = request.profile->document;
+    Record record{};
+    record.wlanConnectionMode = request.mode;
+    CopyText(profile.name, record.strProfileName);
+    record.dot11Ssid = MakeSsid(profile.ssid);
+    record.dot11BssType = profile.bssType;
+    record.bSecurityEnabled = IsSecured(profile.security) ? TRUE : FALSE;
+    record.wlanReasonCode = reason;
+    return record;
 }
 
 } // namespace
@@ -214,12 +229,15 @@ void Adapter::TakeDown(DWORD reason)
 
 void Adapter::NotifyConnection(DWORD code, const ConnectionRequest& request, DWORD reason) const
 {
-    Notify(WLAN_NOTIFICATION_SOURCE_ACM, code, ConnectionRecord(request, reason));
+    Notify(WLAN_NOTIFICATION_SOURCE_ACM, code,
+           RecordBytes(MakeRecord<WLAN_CONNECTION_NOTIFICATION_DATA>(request, reason)));
 }
 
 void Adapter::NotifyMedia(DWORD code, const ConnectionRequest& request, const MacAddress& bssid, DWORD reason) const
 {
-    Notify(WLAN_NOTIFICATION_SOURCE_MSM, code, MediaRecord(request, bssid, reason));
+    auto record = MakeRecord<WLAN_MSM_NOTIFICATION_DATA>(request, reason);
+    std::copy(bssid.begin(), bssid.end(), record.dot11MacAddr);
+    Notify(WLAN_NOTIFICATION_SOURCE_MSM, code, RecordBytes(record));
 }
 
 // Chosen: the service makes up for connections that were lost, not for those that were never made, and not for one that

@@ -1,6 +1,5 @@
 // The events of an adapter's connection while it is up.
 #include "simulation/adapter.h"
-#include "simulation/notification_records.h"
 #include "simulation/timetable.h"
 
 #include <calvix/platform_records.h>

@@ -1,12 +1,10 @@
-#include "simulation/bss_list.h"
-
 #include "simulation/information_elements.h"
 #include "simulation/service_records.h"
-#include <calvix/platform_records.h>
+#include "simulation/wlan_service.h"
 
 #include <algorithm>
 #include <cstring>
-#include <string>
+#include <vector>
 
 namespace calvix::simulation
 {
@@ -74,8 +72,35 @@ void FillEntry(const HeardBss& bss, const std::vector<PhyDescription>& phys, WLA
     entry.wlanRateSet = RateSet(point);
 }
 
-} // namespace
+struct BssFilter
+{
+    const DOT11_SSID* ssid; ///< null: all, and the other two have no effect
+    DOT11_BSS_TYPE bssType;
+    bool secured;
+};
 
+// Type and security count only together with an SSID, and an SSID together with "any" type finds nothing, as
+// documented.
+bool Passes(const HeardBss& bss, const BssFilter& filter)
+{
+    if (filter.ssid == nullptr)
+        return true;
+    return bss.Ssid() == SsidBytes(*filter.ssid) &&
+           bss.accessPoint.bssType == static_cast<std::uint32_t>(filter.bssType) &&
+           IsSecured(bss.security) == filter.secured && filter.bssType != dot11_BSS_type_any;
+}
+
+std::vector<const HeardBss*> Choose(const std::vector<HeardBss>& heard, const BssFilter& filter)
+{
+    std::vector<const HeardBss*> chosen;
+    for (const HeardBss& bss : heard)
+        if (Passes(bss, filter))
+            chosen.push_back(&bss);
+    return chosen;
+}
+
+/// The BSS list in the service's form: the entries, then their information elements. `chosen` are listed
+/// in their order; `phys` has the adapter's PHY that heard an entry. The block belongs to the caller.
 WLAN_BSS_LIST*
 MakeBssList(Blocks& blocks, const std::vector<const HeardBss*>& chosen, const std::vector<PhyDescription>& phys)
 {
@@ -106,6 +131,34 @@ MakeBssList(Blocks& blocks, const std::vector<const HeardBss*>& chosen, const st
         elementsAt += elements[index].size();
     }
     return list;
+}
+
+} // namespace
+
+DWORD SimulatedWlanService::WlanGetNetworkBssList(HANDLE client,
+                                                  const GUID* interfaceGuid,
+                                                  const DOT11_SSID* ssid,
+                                                  DOT11_BSS_TYPE bssType,
+                                                  BOOL securityEnabled,
+                                                  PVOID reserved,
+                                                  WLAN_BSS_LIST** list)
+{
+    const Request request(m_machine, "WlanGetNetworkBssList", client, {interfaceGuid, list}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    if (ssid != nullptr && ssid->uSSIDLength > DOT11_SSID_MAX_LENGTH)
+        return ERROR_INVALID_PARAMETER;
+    // Alone among the operations this one says "not found" when there is no such interface.
+    Adapter* const adapter = m_machine.FindAdapter(*interfaceGuid);
+    if (adapter == nullptr)
+        return ERROR_NOT_FOUND;
+    if (!m_machine.present.locationConsent)
+        return ERROR_ACCESS_DENIED;
+    if (!adapter->IsRadioOn())
+        return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
+    const auto chosen = Choose(adapter->Heard(), {ssid, bssType, securityEnabled != FALSE});
+    *list = MakeBssList(m_machine.wlanBlocks, chosen, adapter->Phys());
+    return ERROR_SUCCESS;
 }
 
 } // namespace calvix::simulation

@@ -1,10 +1,37 @@
 #include "simulation/computer.h"
 
-#include "simulation/facilities.h"
 #include "simulation/timetable.h"
+#include "simulation/wlan_service.h"
 
 namespace calvix::simulation
 {
+
+/// The machine and everything that works on it.
+struct Facilities
+{
+    explicit Facilities(const Scenario& scenario) : machine(scenario) {}
+
+    /// The operations of the platform that they do. To be called once.
+    platform::Platform Operations()
+    {
+        return {
+            wlan.Operations(),
+            MakeServiceControl(machine, parts),
+            MakePower(machine, parts),
+            MakeSecurity(machine, parts),
+            MakeProcesses(machine, parts),
+            MakeInternet(machine, parts),
+            MakeText(machine, parts),
+            MakeClock(machine, parts),
+            MakeDebuggerOutput(machine, parts),
+            {.GetLastError = CallsTo<&LastErrorCell::GetLastError>(machine.lastError)},
+        };
+    }
+
+    Machine machine;
+    SimulatedWlanService wlan{machine};
+    Parts parts;
+};
 
 Computer::Computer(const Scenario& scenario) : Computer(std::make_unique<Facilities>(scenario)) {}
 

@@ -2,7 +2,6 @@
 
 #include "forms/utf8.h"
 #include "simulation/narrow_encoding.h"
-#include "simulation/notification_records.h"
 
 #include <algorithm>
 #include <utility>

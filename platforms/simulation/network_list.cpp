@@ -1,13 +1,11 @@
-#include "simulation/network_list.h"
-
-#include "simulation/adapter.h"
 #include "simulation/service_records.h"
-#include <calvix/platform_records.h>
+#include "simulation/wlan_service.h"
 
 #include <algorithm>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 namespace calvix::simulation
 {
@@ -47,18 +45,24 @@ struct Entry
     const Profile* profile;
 };
 
+/// The networks as the service lists them: access points that share SSID, BSS type and security are one network; it has
+/// an entry for each profile that fits it, or one without a profile. In the order in which they were heard; behind them
+/// what is listed for its profile's sake.
 class Listing
 {
 public:
-    explicit Listing(const NetworkListInput& input) : m_input(input)
+    Listing(Adapter& adapter, DWORD flags)
+        : m_heard(adapter.Heard()), m_profiles(adapter.Profiles().InOrder()), m_link(adapter.CurrentLink()),
+          m_allAdHocProfiles((flags & WLAN_AVAILABLE_NETWORK_INCLUDE_ALL_ADHOC_PROFILES) != 0),
+          m_allHiddenProfiles((flags & WLAN_AVAILABLE_NETWORK_INCLUDE_ALL_MANUAL_HIDDEN_PROFILES) != 0)
     {
-        for (const auto& profile : input.profiles.InOrder())
+        for (const auto& profile : m_profiles)
             m_profilesOf[NetworkKey(profile->document)].push_back(profile.get());
     }
 
     WLAN_AVAILABLE_NETWORK_LIST* Make(Blocks& blocks)
     {
-        for (const HeardBss& bss : m_input.heard)
+        for (const HeardBss& bss : m_heard)
             m_networks[NetworkOf(bss)].stations.push_back(&bss);
         for (std::size_t network = 0, count = m_networks.size(); network < count; ++network)
             AddEntries(network);
@@ -82,7 +86,7 @@ private:
 
     bool IsToldByProfile(const HeardBss& bss) const
     {
-        if (!m_input.allHiddenProfiles || bss.ssidHeard)
+        if (!m_allHiddenProfiles || bss.ssidHeard)
             return false;
         const auto& point = bss.accessPoint;
         const auto found = m_profilesOf.find(NetworkKey(point.ssid, point.bssType, bss.security));
@@ -122,12 +126,11 @@ private:
 
     void AddUnheardProfiles()
     {
-        for (const auto& profile : m_input.profiles.InOrder())
+        for (const auto& profile : m_profiles)
         {
             const ProfileDocument& document = profile->document;
             const bool isAdHoc = document.bssType == dot11_BSS_type_independent;
-            const bool isWanted =
-                (isAdHoc && m_input.allAdHocProfiles) || (document.hidden && m_input.allHiddenProfiles);
+            const bool isWanted = (isAdHoc && m_allAdHocProfiles) || (document.hidden && m_allHiddenProfiles);
             if (isWanted && m_listed.count(profile.get()) == 0)
             {
                 m_entries.push_back({m_networks.size(), profile.get()});
@@ -191,16 +194,20 @@ private:
     // Of a network's entries only the one of the profile in use is marked; all of them where it is none of the stored ones.
     bool IsConnected(const Network& network, const Profile* profile) const
     {
-        if (m_input.link == nullptr)
+        if (m_link == nullptr)
             return false;
-        const ProfileDocument& used = m_input.link->Profile();
+        const ProfileDocument& used = m_link->Profile();
         const bool isSameProfile =
-            m_input.link->request.HasTemporaryProfile() || (profile != nullptr && profile->document.name == used.name);
+            m_link->request.HasTemporaryProfile() || (profile != nullptr && profile->document.name == used.name);
         return isSameProfile && network.ssid == used.ssid && network.security == used.security &&
                network.bssType == used.bssType;
     }
 
-    const NetworkListInput& m_input;
+    const std::vector<HeardBss>& m_heard;
+    const ProfileStore::List& m_profiles;
+    const Link* m_link;       ///< the connection that is up, or null
+    bool m_allAdHocProfiles;  ///< also those whose networks are not heard
+    bool m_allHiddenProfiles; ///< also those of hidden networks, heard or not
     std::unordered_map<std::string, Profiles> m_profilesOf;
     std::unordered_map<std::string, std::size_t> m_networkIndex;
     std::vector<Network> m_networks;
@@ -210,9 +217,18 @@ private:
 
 } // namespace
 
-WLAN_AVAILABLE_NETWORK_LIST* MakeNetworkList(Blocks& blocks, const NetworkListInput& input)
+DWORD SimulatedWlanService::WlanGetAvailableNetworkList(
+    HANDLE client, const GUID* interfaceGuid, DWORD flags, PVOID reserved, WLAN_AVAILABLE_NETWORK_LIST** list)
 {
-    return Listing(input).Make(blocks);
+    const Request request(m_machine, "WlanGetAvailableNetworkList", client, interfaceGuid, {list}, reserved);
+    if (request.error != ERROR_SUCCESS)
+        return request.error;
+    if (!m_machine.present.locationConsent)
+        return ERROR_ACCESS_DENIED;
+    if (!request.adapter->IsRadioOn())
+        return ERROR_NDIS_DOT11_POWER_STATE_INVALID;
+    *list = Listing(*request.adapter, flags).Make(m_machine.wlanBlocks);
+    return ERROR_SUCCESS;
 }
 
 } // namespace calvix::simulation

@@ -15,6 +15,14 @@
 namespace calvix::simulation
 {
 
+/// The bytes of a record that goes with a notification.
+template <typename Record>
+Bytes RecordBytes(const Record& record)
+{
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(&record);
+    return Bytes(bytes, bytes + sizeof(record));
+}
+
 /// What the service sends its clients.
 struct Notification
 {

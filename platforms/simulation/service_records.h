@@ -64,4 +64,20 @@ inline Bytes SsidBytes(const DOT11_SSID& ssid)
     return Bytes(ssid.ucSSID, ssid.ucSSID + ssid.uSSIDLength);
 }
 
+/// The answer to a query: a block of the service's allocator and its size.
+struct InterfaceAnswer
+{
+    void* data;
+    std::size_t size;
+};
+
+/// An answer that is one number, in the type in which the service gives it.
+template <typename Number>
+InterfaceAnswer AnswerNumber(Blocks& blocks, Number number)
+{
+    auto* const data = static_cast<Number*>(blocks.Allocate(sizeof(Number), "query result"));
+    *data = number;
+    return {data, sizeof(Number)};
+}
+
 } // namespace calvix::simulation

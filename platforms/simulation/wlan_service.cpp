@@ -125,4 +125,31 @@ void SimulatedWlanService::WlanFreeMemory(PVOID memory)
     m_machine.wlanBlocks.Free(memory);
 }
 
+platform::WlanService SimulatedWlanService::Operations()
+{
+    return {
+        .WlanOpenHandle = CallsTo<&SimulatedWlanService::WlanOpenHandle>(*this),
+        .WlanCloseHandle = CallsTo<&SimulatedWlanService::WlanCloseHandle>(*this),
+        .WlanEnumInterfaces = CallsTo<&SimulatedWlanService::WlanEnumInterfaces>(*this),
+        .WlanScan = CallsTo<&SimulatedWlanService::WlanScan>(*this),
+        .WlanGetAvailableNetworkList = CallsTo<&SimulatedWlanService::WlanGetAvailableNetworkList>(*this),
+        .WlanGetNetworkBssList = CallsTo<&SimulatedWlanService::WlanGetNetworkBssList>(*this),
+        .WlanQueryInterface = CallsTo<&SimulatedWlanService::WlanQueryInterface>(*this),
+        .WlanSetInterface = CallsTo<&SimulatedWlanService::WlanSetInterface>(*this),
+        .WlanQueryAutoConfigParameter = CallsTo<&SimulatedWlanService::WlanQueryAutoConfigParameter>(*this),
+        .WlanGetProfileList = CallsTo<&SimulatedWlanService::WlanGetProfileList>(*this),
+        .WlanGetProfile = CallsTo<&SimulatedWlanService::WlanGetProfile>(*this),
+        .WlanSetProfile = CallsTo<&SimulatedWlanService::WlanSetProfile>(*this),
+        .WlanDeleteProfile = CallsTo<&SimulatedWlanService::WlanDeleteProfile>(*this),
+        .WlanSetProfilePosition = CallsTo<&SimulatedWlanService::WlanSetProfilePosition>(*this),
+        .WlanConnect = CallsTo<&SimulatedWlanService::WlanConnect>(*this),
+        .WlanDisconnect = CallsTo<&SimulatedWlanService::WlanDisconnect>(*this),
+        .WlanRegisterNotification = CallsTo<&SimulatedWlanService::WlanRegisterNotification>(*this),
+        .WlanIhvControl = CallsTo<&SimulatedWlanService::WlanIhvControl>(*this),
+        .WlanSetSecuritySettings = CallsTo<&SimulatedWlanService::WlanSetSecuritySettings>(*this),
+        .WlanReasonCodeToString = CallsTo<&SimulatedWlanService::WlanReasonCodeToString>(*this),
+        .WlanFreeMemory = CallsTo<&SimulatedWlanService::WlanFreeMemory>(*this),
+    };
+}
+
 } // namespace calvix::simulation

@@ -15,6 +15,8 @@ class SimulatedWlanService : public Facility
 public:
     using Facility::Facility;
 
+    platform::WlanService Operations();
+
     DWORD WlanOpenHandle(DWORD clientVersion, PVOID reserved, DWORD* negotiatedVersion, HANDLE* client);
     DWORD WlanCloseHandle(HANDLE client, PVOID reserved);
     DWORD WlanEnumInterfaces(HANDLE client, PVOID reserved, WLAN_INTERFACE_INFO_LIST** list);

@@ -1,4 +1,3 @@
-#include "simulation/interface_answers.h"
 #include "simulation/reason_texts.h"
 #include "simulation/service_records.h"
 #include "simulation/wlan_service.h"
