@@ -35,7 +35,8 @@ constexpr int kAutomaticProfiles = 1;
 MatchFacts Describe(const std::vector<WLAN_BSS_ENTRY>& entries, const std::vector<std::wstring>& names)
 {
     MatchFacts match;
-    match.accessPoints = DescribeAccessPoints(entries);
+    for (const WLAN_BSS_ENTRY& entry : entries)
+        match.accessPoints.push_back(DescribeAccessPoint(entry));
     for (const std::wstring& name : names)
         match.profiles.push_back(Narrow(name));
     return match;

@@ -1,7 +1,6 @@
 #include "import/capture_encoding.h"
 
 #include "forms/utf8.h"
-#include "import/code_page_guess.h"
 #include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
 

@@ -1,6 +1,5 @@
-#include "import/code_page_guess.h"
+#include "import/capture_encoding.h"
 
-#include "import/capture_text.h"
 #include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
 

@@ -90,7 +90,7 @@ void LabelBss(CaptureFields fields, CaptureWarnings& warnings)
     }
 }
 
-std::string ValueOf(const CaptureRecord& record, const std::string& key)
+std::string ValueUnder(const CaptureRecord& record, const std::string& key)
 {
     const CaptureField* const field = record.Find(key);
     return field != nullptr ? field->value : "";
@@ -118,17 +118,17 @@ std::string AuthenticationOf(const std::string& suites, const std::string& wpa, 
     throw LineError(line, "a scenario cannot have its authentication (" + suites + ")");
 }
 
-void ReadSecurity(const CaptureRecord& record, AccessPoint& heard, CaptureWarnings& warnings)
+void ReadProtection(const CaptureRecord& record, AccessPoint& heard, CaptureWarnings& warnings)
 {
     const std::size_t line = record.fields.front().line;
     const std::string element = record.Find("RSN") != nullptr ? "RSN" : "WPA";
     heard.authentication = "open";
-    heard.encryption = Has(ValueOf(record, "capability"), "Privacy") ? "WEP" : "none";
+    heard.encryption = Has(ValueUnder(record, "capability"), "Privacy") ? "WEP" : "none";
     if (record.Find(element) == nullptr)
         return;
-    const std::string suites = NamedSuites(ValueOf(record, element + " * Authentication suites"));
+    const std::string suites = NamedSuites(ValueUnder(record, element + " * Authentication suites"));
     heard.authentication = AuthenticationOf(suites, element == "RSN" ? "WPA2" : "WPA", line);
-    heard.encryption = CipherOf(ValueOf(record, element + " * Pairwise ciphers"), line);
+    heard.encryption = CipherOf(ValueUnder(record, element + " * Pairwise ciphers"), line);
     if (heard.authentication == "WPA3SAE" && Has(suites, "PSK"))
         warnings.Warn(line, record.title + " accepts both WPA2 and WPA3; the scenario has WPA3");
 }
@@ -174,7 +174,7 @@ AccessPoint ReadBss(const CaptureRecord& record, CaptureWarnings& warnings)
         else if (field.key == "Supported rates" || field.key == "Extended supported rates")
             highestRate = std::max(highestRate, HighestRate(field.value));
     }
-    heard.frequencyKhz = FrequencyFromMegahertz(ValueOf(record, "freq"));
+    heard.frequencyKhz = FrequencyFromMegahertz(ValueUnder(record, "freq"));
     const CaptureField* const signal = record.Find("signal");
     if (heard.frequencyKhz == 0 || signal == nullptr)
         throw LineError(record.fields.front().line,
@@ -182,10 +182,10 @@ AccessPoint ReadBss(const CaptureRecord& record, CaptureWarnings& warnings)
     heard.rssi = Strength(*signal, warnings);
     if (heard.phyType == 0)
         heard.phyType = OldPhyType(heard.frequencyKhz, highestRate);
-    if (const int period = FirstNumber(ValueOf(record, "beacon interval")); period > 0 && period <= 0xFFFF)
+    if (const int period = FirstNumber(ValueUnder(record, "beacon interval")); period > 0 && period <= 0xFFFF)
         heard.beaconPeriod = static_cast<std::uint16_t>(period);
-    heard.bssType = Has(ValueOf(record, "capability"), "IBSS") ? 2 : 1;
-    ReadSecurity(record, heard, warnings);
+    heard.bssType = Has(ValueUnder(record, "capability"), "IBSS") ? 2 : 1;
+    ReadProtection(record, heard, warnings);
     return heard;
 }
 

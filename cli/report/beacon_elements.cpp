@@ -26,14 +26,6 @@ constexpr SuiteName kFirstWpaKeyManagement[] = {{1, "WPA"}, {2, "WPA-PSK"}};
 constexpr SuiteName kCiphers[] = {{1, "WEP"},  {2, "TKIP"},     {4, "CCMP"},     {5, "WEP"},
                                   {8, "GCMP"}, {9, "GCMP-256"}, {10, "CCMP-256"}};
 
-template <std::size_t Count>
-std::string NameOf(const SuiteName (&names)[Count], std::uint8_t number)
-{
-    const auto found =
-        std::find_if(std::begin(names), std::end(names), [number](const SuiteName& n) { return n.number == number; });
-    return found != std::end(names) ? found->name : "suite " + std::to_string(number);
-}
-
 /// Takes an element apart from its beginning.
 class ContentReader
 {
@@ -66,24 +58,25 @@ private:
 };
 
 /// The names of the suites, each once, with `separator` between them.
-template <std::size_t Count>
-std::string NamesOf(const SuiteName (&names)[Count], const std::vector<std::uint8_t>& numbers, const char* separator)
+std::string
+NamesOf(std::span<const SuiteName> names, const std::vector<std::uint8_t>& numbers, const std::string& separator)
 {
     std::vector<std::string> distinct;
+    std::string text;
     for (const std::uint8_t number : numbers)
     {
-        const std::string name = NameOf(names, number);
-        if (std::find(distinct.begin(), distinct.end(), name) == distinct.end())
-            distinct.push_back(name);
-    }
-    std::string text;
-    for (const std::string& name : distinct)
+        const auto known =
+            std::find_if(names.begin(), names.end(), [number](const SuiteName& n) { return n.number == number; });
+        const std::string name = known != names.end() ? known->name : "suite " + std::to_string(number);
+        if (std::find(distinct.begin(), distinct.end(), name) != distinct.end())
+            continue;
+        distinct.push_back(name);
         text += (text.empty() ? "" : separator) + name;
+    }
     return text;
 }
 
-template <std::size_t Count>
-std::string ReadSecurity(ElementBytes content, ElementBytes organisation, const SuiteName (&keyManagement)[Count])
+std::string ReadSecurity(ElementBytes content, ElementBytes organisation, std::span<const SuiteName> keyManagement)
 {
     ContentReader reader(content);
     reader.Take(2); // version

@@ -37,7 +37,7 @@ std::string ChannelAxes(const BandScale& scale)
 }
 
 /// "Lindenhof, 02:1A:..., -55 dBm, channel 36, 80 MHz wide": an access point in words.
-std::string InWords(const AirAccessPoint& point)
+std::string PointInWords(const AirAccessPoint& point)
 {
     return SsidName(point.facts.ssid) + ", " + point.facts.bssid + ", " + std::to_string(point.facts.rssi) +
            " dBm, channel " + std::to_string(point.facts.channel) + ", " + std::to_string(point.beacon.widthMhz) +
@@ -86,7 +86,7 @@ std::string Arch(const AirAccessPoint& point, const BandScale& scale, LabelPlaci
     std::string svg = "<g class=\"ap " + ColourClass(point) + (point.inUse ? " used" : "") +
                       (point.inView ? "" : " off") + "\" id=\"arch-" + number + "\" data-ap=\"" + number +
                       "\" role=\"img\" tabindex=\"" + (first ? "0" : "-1") + "\" aria-label=\"" +
-                      EscapeHtml(InWords(point)) + "\">";
+                      EscapeHtml(PointInWords(point)) + "\">";
     svg += "<path d=\"" + ArchPath(scale.XOf(centre - half), scale.XOf(centre + half), y, BandScale::kBottom) + "\"/>";
     return svg + Label(point, x, y, placing) + "</g>";
 }
@@ -117,7 +117,7 @@ std::string Summary(const std::vector<const AirAccessPoint*>& points, const Spec
     if (points.empty())
         return kNothingHeard;
     return std::string("Signal in dBm over the channels of the ") + band.name +
-           " band: " + Counted(points.size(), "access point") + ". The strongest is " + InWords(*points.front()) +
+           " band: " + Counted(points.size(), "access point") + ". The strongest is " + PointInWords(*points.front()) +
            ". The table below holds the same in words.";
 }
 

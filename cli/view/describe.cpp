@@ -66,15 +66,6 @@ AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry)
     return facts;
 }
 
-std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_ENTRY>& entries)
-{
-    std::vector<AccessPointFacts> facts;
-    facts.reserve(entries.size());
-    for (const WLAN_BSS_ENTRY& entry : entries)
-        facts.push_back(DescribeAccessPoint(entry));
-    return facts;
-}
-
 std::vector<Column> AccessPointColumns()
 {
     return {{"BSSID"}, {"SSID"}, {"Signal"}, {"dBm", Align::right}, {"Channel", Align::right}, {"Band"}, {"PHY"}};

@@ -13,7 +13,6 @@ SsidFacts DescribeSsid(const DOT11_SSID& ssid);
 AdapterFacts DescribeAdapter(const WLAN_INTERFACE_INFO& info, unsigned number);
 NetworkFacts DescribeNetwork(const WLAN_AVAILABLE_NETWORK& network);
 AccessPointFacts DescribeAccessPoint(const WLAN_BSS_ENTRY& entry);
-std::vector<AccessPointFacts> DescribeAccessPoints(const std::vector<WLAN_BSS_ENTRY>& entries);
 
 /// A table of access points: its first columns, and a row of them. Commands that know more append theirs.
 std::vector<Column> AccessPointColumns();

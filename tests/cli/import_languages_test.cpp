@@ -1,4 +1,4 @@
-#include "import/code_page_guess.h"
+#include "import/capture_encoding.h"
 #include "import_samples.h"
 #include "output/text_forms.h"
 #include "simulation/narrow_encoding.h"
@@ -33,19 +33,6 @@ constexpr Language kLanguages[] = {
     {"chinese-simplified", 936, 936},
     {"chinese-traditional", 950, 950},
 };
-
-std::string Utf16(const std::string& text, bool bigEndian)
-{
-    std::string bytes;
-    for (const wchar_t letter : Widen(text)) // nothing in the samples takes two units
-    {
-        const char low = static_cast<char>(letter & 0xFF);
-        const char high = static_cast<char>(letter >> 8 & 0xFF);
-        bytes += bigEndian ? high : low;
-        bytes += bigEndian ? low : high;
-    }
-    return bytes;
-}
 
 std::string Encoded(const std::string& text, std::uint32_t codePage)
 {

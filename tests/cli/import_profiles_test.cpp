@@ -20,7 +20,7 @@ TEST_F(ImportProfiles, EveryEncodingAndLineEndGivesTheSameProfile)
     EXPECT_EQ(ParseExportedProfile(kProfile, "a/Wi-Fi-Juniper.xml").xml, kProfile);
     EXPECT_EQ(ParseExportedProfile("\xEF\xBB\xBF" + kProfile, "p.xml").xml, kProfile);
     EXPECT_EQ(ParseExportedProfile(returns, "p.xml").xml, returns);
-    EXPECT_EQ(ParseExportedProfile(AsUtf16(returns), "p.xml").xml, returns);
+    EXPECT_EQ(ParseExportedProfile("\xFF\xFE" + Utf16(returns, false), "p.xml").xml, returns);
     EXPECT_EQ(ParseExportedProfile(kProfile, "a/Wi-Fi-Juniper.xml").name, "Juniper");
     EXPECT_EQ(ParseExportedProfile(kProfile, "a/Wi-Fi-Juniper.xml").fileName, "Wi-Fi-Juniper.xml");
 }

@@ -3,6 +3,7 @@
 #include "files/file_path.h"
 #include "forms/address_text.h"
 #include "import/import.h"
+#include "output/text_forms.h"
 
 #include <gtest/gtest.h>
 
@@ -48,12 +49,17 @@ inline std::string WithCarriageReturns(const std::string& text)
     return AllReplaced(text, "\n", "\r\n");
 }
 
-/// ASCII in UTF-16, with a byte order mark.
-inline std::string AsUtf16(const std::string& ascii)
+/// Without a byte order mark.
+inline std::string Utf16(const std::string& text, bool bigEndian)
 {
-    std::string bytes = "\xFF\xFE";
-    for (const char letter : ascii)
-        bytes += {letter, '\0'};
+    std::string bytes;
+    for (const wchar_t letter : Widen(text)) // nothing in the samples takes two units
+    {
+        const char low = static_cast<char>(letter & 0xFF);
+        const char high = static_cast<char>(letter >> 8 & 0xFF);
+        bytes += bigEndian ? high : low;
+        bytes += bigEndian ? low : high;
+    }
     return bytes;
 }
 

@@ -14,7 +14,7 @@ using simulation::Scenario;
 Captures BothCaptures()
 {
     Captures captures;
-    ReadCapture(kNetworks, "some/folder/networks.txt", {}, captures);
+    ReadCapture(kNetworks, "networks.txt", {}, captures);
     ReadCapture(kInterfaces, "interfaces.txt", {}, captures);
     return captures;
 }
@@ -50,31 +50,6 @@ bool Contains(const std::string& text, const std::string& part)
 }
 
 } // namespace
-
-TEST(ImportScenario, AdaptersAirAndConnectionOfOneMachine)
-{
-    const MadeScenario imported = AssembleScenario(BothCaptures(), false);
-    EXPECT_TRUE(imported.warnings.empty());
-    const Scenario& scenario = imported.scenario;
-    EXPECT_EQ(scenario.description, "Imported from networks.txt and interfaces.txt");
-    EXPECT_EQ(scenario.accessPoints.size(), 3u);
-    ASSERT_EQ(scenario.adapters.size(), 2u);
-    EXPECT_EQ(scenario.adapters[0].guid, "{11111111-2222-3333-4444-55556666ABCD}");
-    EXPECT_EQ(scenario.adapters[0].description, "First: the inner one");
-    ASSERT_TRUE(scenario.adapters[0].connection);
-    EXPECT_EQ(scenario.adapters[0].connection->profile, "Juniper");
-    EXPECT_EQ(scenario.adapters[0].connection->bssid, scenario.accessPoints[0].bssid);
-    ASSERT_EQ(scenario.adapters[0].profiles.size(), 1u);
-    EXPECT_TRUE(Contains(scenario.adapters[0].profiles[0].xml, "<connectionMode>auto</connectionMode>"));
-    EXPECT_TRUE(Contains(scenario.adapters[0].profiles[0].xml, "<authentication>WPA2PSK</authentication>"));
-    EXPECT_FALSE(scenario.adapters[1].connection);
-    EXPECT_TRUE(scenario.adapters[1].profiles.empty());
-    for (const simulation::PhyDescription& phy : scenario.adapters[1].phys)
-    {
-        EXPECT_EQ(phy.hardware, simulation::RadioSwitch::on);
-        EXPECT_EQ(phy.software, simulation::RadioSwitch::off);
-    }
-}
 
 TEST(ImportScenario, WhatIsWrittenReadsBackTheSame)
 {
