@@ -5,7 +5,6 @@
 #include "support/edited_answers.h"
 #include "wrappers/call_log.h"
 
-#include <algorithm>
 #include <array>
 #include <map>
 #include <span>

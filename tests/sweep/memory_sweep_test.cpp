@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <iostream>
 #include <set>
-#include <span>
 #include <string_view>
 
 namespace calvix::test::memory_sweep_test

@@ -281,11 +281,18 @@ const Contract kSystem[] = {
 const Lines kNoAdapterLine = {kNoAdapterText};
 const Lines kNotConnectedLine = {kNotConnected};
 
-const std::vector<Failing> kCollect = {{"WlanOpenHandle", -2},
-                                       {"WlanGetProfileList", -5},
-                                       {kNoProfileAtAll, -6, Lines{"No network profile: 4294967290"}},
-                                       {"WlanGetAvailableNetworkList", -7},
-                                       {kNothingHeard, -8, Lines{"No available network: 4294967288"}}};
+/// Profiles and networks, of which there must be some, and the access points of so many networks, each of which may fail.
+std::vector<Failing> Collect(std::size_t networks)
+{
+    std::vector<Failing> failures = {{"WlanOpenHandle", -2},
+                                     {"WlanGetProfileList", -5},
+                                     {kNoProfileAtAll, -6, Lines{"No network profile: 4294967290"}},
+                                     {"WlanGetAvailableNetworkList", -7},
+                                     {kNothingHeard, -8, Lines{"No available network: 4294967288"}}};
+    if (networks != 0)
+        failures.push_back({"WlanGetNetworkBssList", 0, Lines(networks, kBssFailed), true});
+    return failures;
+}
 
 /// The current connection, of which there must be one.
 std::vector<Failing> AfterConnection(std::vector<Failing> failures)
@@ -304,7 +311,7 @@ const Contract kInventory[] = {
       {"WlanEnumInterfaces", -3},
       {kNoAdapterAtAll, -4, kNoAdapterLine},
       {"WlanGetNetworkBssList", -5}}},
-    {"GetConnectableNetworkCount", local, kCollect},
+    {"GetConnectableNetworkCount", local, Collect(0)},
     {"GetAP",
      local,
      {{"WlanOpenHandle", -1}, {"WlanGetAvailableNetworkList", -3}, {kNothingHeard, -4, Lines{kNetworksReleased}}}},
@@ -370,16 +377,17 @@ void WeakenConnection(LibraryTest& test)
 }
 
 const Contract kAutomatic[] = {
-    {"GetMatchAPList", local, kCollect},
-    {"GetConnectableAPList(GUID const*", local, kCollect},
+    {"GetMatchAPList", local, Collect(3)},
+    {"GetConnectableAPList(GUID const*", local, Collect(2)},
     {"GetConnectableAPList(wchar_t*",
      local,
      {{"WlanOpenHandle", -2},
       {"WlanEnumInterfaces", -3},
       {kNoAdapterAtAll, -4, Lines{"No valid WLAN adapter: 4294967292"}},
       {"WlanGetProfileList", -5},
-      {"WlanGetAvailableNetworkList", -7}}},
-    {"GetMatchAPCount(GUID const*, std::vector<std::wstring>*, int)", local, kCollect},
+      {"WlanGetAvailableNetworkList", -7},
+      {"WlanGetNetworkBssList", 0, Lines(2, kBssFailed), true}}},
+    {"GetMatchAPCount(GUID const*, std::vector<std::wstring>*, int)", local, Collect(1)},
     // Deliberate: signed here, where the other methods trace the codes as unsigned numbers.
     {"GetMatchBSSID",
      local,

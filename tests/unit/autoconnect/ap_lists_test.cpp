@@ -1,7 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -34,47 +33,6 @@ std::vector<simulation::MacAddress> AddressesOf(const Entries& entries)
     for (std::size_t i = 0; i < entries.size(); ++i)
         std::copy_n(entries[i].dot11Bssid, 6, addresses[i].begin());
     return addresses;
-}
-
-struct Method
-{
-    const char* name;
-    std::function<long long(CWirelessManage&)> callExpectingNothing;
-};
-
-/// All methods of the family, called so that they collect nothing.
-std::vector<Method> Methods()
-{
-    const auto collect = []<typename Container>(Container container, auto call) -> long long
-    {
-        const int result = call(container);
-        EXPECT_THAT(container, IsEmpty());
-        return result;
-    };
-    return {
-        {"GetMatchAPList", [=](CWirelessManage& m)
-         { return collect(Used<Entries>(), [&](auto& list) { return m.GetMatchAPList(&kAdapterA, &list); }); }},
-        {"GetConnectableAPList",
-         [=](CWirelessManage& m)
-         {
-             wchar_t name[] = L"HomeNet";
-             return collect(Used<Entries>(),
-                            [&](auto& list) { return m.GetConnectableAPList(&kAdapterA, name, &list); });
-         }},
-        {"GetConnectableAPList(no GUID)",
-         [=](CWirelessManage& m)
-         {
-             wchar_t name[] = L"HomeNet";
-             return collect(Used<Entries>(), [&](auto& list) { return m.GetConnectableAPList(name, &list); });
-         }},
-        {"GetMatchAPCount", [=](CWirelessManage& m)
-         { return collect(Used<Names>(), [&](auto& names) { return m.GetMatchAPCount(&kAdapterA, &names, 0); }); }},
-        {"GetMatchAPCount(name)",
-         [=](CWirelessManage& m) {
-             return collect(Used<Names>(),
-                            [&](auto& names) { return m.GetMatchAPCount(&kAdapterA, &names, L"HomeNet", 1); });
-         }},
-    };
 }
 
 class ApListsTest : public LibraryTest
@@ -134,15 +92,6 @@ public:
 };
 
 } // namespace
-
-TEST_F(ApListsTest, FailingBssQueriesContributeNothing)
-{
-    const std::vector<std::size_t> matches = {3, 1, 1, 3, 1};
-    const std::vector<Method> methods = Methods();
-    for (std::size_t i = 0; i < methods.size(); ++i)
-        Failures(*this, methods[i].name, methods[i].callExpectingNothing, TraceBuffer::local)
-            .When("WlanGetNetworkBssList", 0, std::vector<std::string>(matches[i] - 1, kBssFailed));
-}
 
 TEST_F(ApListsTest, ANullContainerIsRefusedBeforeAnything)
 {

@@ -1,11 +1,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "support/result_code.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/failures.h"
-
-#include <string>
 
 namespace calvix::test::auto_connect_test
 {

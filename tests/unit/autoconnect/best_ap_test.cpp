@@ -12,7 +12,6 @@ namespace calvix::test::best_ap_test
 {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 namespace
 {

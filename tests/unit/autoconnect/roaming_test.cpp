@@ -1,10 +1,8 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/inventory/trace_texts.h"
 
-#include <algorithm>
 #include <iterator>
 #include <string>
 #include <vector>

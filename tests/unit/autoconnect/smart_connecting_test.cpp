@@ -13,7 +13,6 @@ namespace calvix::test::smart_connecting_test
 {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 namespace
 {

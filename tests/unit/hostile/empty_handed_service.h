@@ -4,7 +4,6 @@
 #include "support/changed_platform.h"
 
 #include <string_view>
-#include <tuple>
 
 namespace calvix::test
 {

@@ -3,8 +3,6 @@
 #include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
-#include <iterator>
-
 namespace calvix::test::link_state_test
 {
 

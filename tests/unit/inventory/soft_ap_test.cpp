@@ -4,12 +4,10 @@
 #include "unit/inventory/trace_texts.h"
 
 #include <cwchar>
-#include <optional>
 
 namespace calvix::test::soft_ap_test
 {
 
-using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
