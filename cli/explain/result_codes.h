@@ -79,11 +79,11 @@ enum class Cause
 struct CauseText
 {
     Cause cause;
-    const char* brief;     ///< as the library's header says it
-    const char* meaning;   ///< what is the case, a sentence without its full stop
-    const char* advice;    ///< what to do about it
-    const char* operation; ///< the platform's operation that was refused; null: none
-    ExitCode exitCode;
+    const char* brief;               ///< as the library's header says it
+    const char* meaning;             ///< what is the case, a sentence without its full stop
+    const char* advice;              ///< what to do about it
+    const char* operation = nullptr; ///< the platform's operation that was refused; null: none
+    ExitCode exitCode = ExitCode::failed;
 };
 
 /// What is known about a cause.
@@ -114,7 +114,7 @@ struct MethodResults
     const char* method;
     ResultKind kind;
     const char* result; ///< the meaning of a result that is not a failure
-    std::span<const CodeRow> codes;
+    std::span<const CodeRow> codes = {};
 };
 
 /// Every method of the library, family by family.
