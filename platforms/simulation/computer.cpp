@@ -176,7 +176,7 @@ Scenario Computer::Snapshot() const
     const std::lock_guard lock(m_parts->machine.mutex);
     Scenario scenario = machine.present;
     scenario.power.upMilliseconds += static_cast<std::uint64_t>(machine.time.Now().count());
-    machine.powerStore.Describe(scenario.power);
+    scenario.power.legacySchemes = machine.powerStore.DescribeLegacy();
     scenario.processes = machine.processes.Running();
     for (AccessPoint& accessPoint : scenario.accessPoints)
         accessPoint.timetable = RestOfTimetable(accessPoint, machine.time.Now());

@@ -18,7 +18,7 @@ constexpr std::uint32_t kUtf8CodePage = 65001;
 } // namespace
 
 Machine::Machine(const Scenario& scenario)
-    : present(scenario), powerStore(scenario.power), wokenByItself(scenario.power.resumesAutomatically),
+    : present(scenario), powerStore(present.power), wokenByItself(scenario.power.resumesAutomatically),
       processes(present, time)
 {
     present.adapters.clear();

@@ -33,7 +33,7 @@ struct Machine
     Machine(const Machine&) = delete;
     Machine& operator=(const Machine&) = delete;
 
-    Scenario present; ///< the scenario, kept up to date; power schemes, processes and adapters are in the members below
+    Scenario present; ///< kept up to date; legacy power schemes, processes and adapters are in the members below
     BOOL showDeniedNetworks = FALSE;
     BOOL allowExplicitCredentials = TRUE;
     DWORD blockPeriod = 0;                                          ///< seconds

@@ -1,5 +1,6 @@
 #include "simulation/facility.h"
 
+#include "forms/guid_text.h"
 #include "platform/records/error_numbers.h"
 
 #include <cstdint>
@@ -138,9 +139,10 @@ public:
         const std::lock_guard lock(m_machine.mutex);
         if (schemeId == nullptr)
             return Fail(ERROR_INVALID_PARAMETER);
-        if (!m_machine.powerStore.ActiveLegacy())
+        const auto& active = m_machine.present.power.activeLegacyScheme;
+        if (!active)
             return Fail(ERROR_FILE_NOT_FOUND);
-        *schemeId = *m_machine.powerStore.ActiveLegacy();
+        *schemeId = *active;
         return 1;
     }
 
@@ -194,10 +196,11 @@ public:
             return ERROR_NOT_SUPPORTED;
         if (m_machine.present.power.enumerationError != 0)
             return m_machine.present.power.enumerationError;
-        const auto& schemes = m_machine.powerStore.Schemes();
+        const auto& schemes = m_machine.present.power.schemes;
         if (index >= schemes.size())
             return ERROR_NO_MORE_ITEMS;
-        return HandOut(&schemes[index].guid, sizeof(GUID), buffer, *bufferSize);
+        const GUID guid = *forms::GuidFromText(schemes[index].guid);
+        return HandOut(&guid, sizeof(guid), buffer, *bufferSize);
     }
 
     // Chosen: subgroups and settings have no names here, only schemes do.
@@ -207,7 +210,7 @@ public:
         const std::lock_guard lock(m_machine.mutex);
         if (root != nullptr || scheme == nullptr || bufferSize == nullptr)
             return ERROR_INVALID_PARAMETER;
-        const PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
+        const PowerScheme* const known = m_machine.powerStore.Find(*scheme);
         if (known == nullptr || subgroup != nullptr || setting != nullptr)
             return ERROR_FILE_NOT_FOUND;
         return HandOut(known->name.data(), known->name.size(), buffer, *bufferSize);
@@ -218,9 +221,10 @@ public:
         const std::lock_guard lock(m_machine.mutex);
         if (root != nullptr || scheme == nullptr)
             return ERROR_INVALID_PARAMETER;
-        if (!m_machine.powerStore.Active())
+        const auto& active = m_machine.present.power.activeScheme;
+        if (!active)
             return ERROR_FILE_NOT_FOUND;
-        *scheme = NewGuid(m_machine.localBlocks, *m_machine.powerStore.Active());
+        *scheme = NewGuid(m_machine.localBlocks, *forms::GuidFromText(*active));
         return ERROR_SUCCESS;
     }
 
@@ -230,7 +234,7 @@ public:
         if (root != nullptr || source == nullptr || duplicate == nullptr)
             return ERROR_INVALID_PARAMETER;
         PowerStore& store = m_machine.powerStore;
-        const PowerStore::Scheme* const original = store.Find(*source);
+        const PowerScheme* const original = store.Find(*source);
         if (original == nullptr)
             return ERROR_FILE_NOT_FOUND;
         // A GUID from the caller is used; without one, a new one is made.
@@ -238,7 +242,7 @@ public:
         const GUID guid = ownGuid ? **duplicate : store.UnusedGuid();
         if (store.Find(guid) != nullptr)
             return ERROR_ALREADY_EXISTS;
-        store.Duplicate(*original, guid);
+        m_machine.present.power.schemes.push_back({forms::GuidText(guid), original->name, original->values});
         if (!ownGuid)
             *duplicate = NewGuid(m_machine.localBlocks, guid);
         return ERROR_SUCCESS;
@@ -251,7 +255,7 @@ public:
         const std::lock_guard lock(m_machine.mutex);
         if (root != nullptr || scheme == nullptr || buffer == nullptr)
             return ERROR_INVALID_PARAMETER;
-        PowerStore::Scheme* const known = m_machine.powerStore.Find(*scheme);
+        PowerScheme* const known = m_machine.powerStore.Find(*scheme);
         if (known == nullptr || subgroup != nullptr || setting != nullptr)
             return ERROR_FILE_NOT_FOUND;
         known->name.assign(buffer, buffer + bufferSize);
@@ -265,7 +269,7 @@ public:
             return ERROR_INVALID_PARAMETER;
         PowerStore& store = m_machine.powerStore;
         const GUID& group = subgroup != nullptr ? *subgroup : power_guid::no_subgroup;
-        PowerStore::Scheme* const known = store.Find(*scheme);
+        PowerScheme* const known = store.Find(*scheme);
         if (known == nullptr || !store.HasSetting(group, *setting))
             return ERROR_FILE_NOT_FOUND;
         PowerStore::SetAcValue(*known, group, *setting, value);
@@ -279,7 +283,7 @@ public:
             return ERROR_INVALID_PARAMETER;
         if (m_machine.powerStore.Find(*scheme) == nullptr)
             return ERROR_FILE_NOT_FOUND;
-        m_machine.powerStore.Activate(*scheme);
+        m_machine.present.power.activeScheme = forms::GuidText(*scheme);
         return ERROR_SUCCESS;
     }
 

@@ -6,6 +6,7 @@
 #include "simulation/scenario.h"
 
 #include <algorithm>
+#include <set>
 
 namespace calvix::simulation
 {
@@ -13,12 +14,13 @@ namespace calvix::simulation
 namespace
 {
 
-GUID SchemeGuid(const std::string& text)
+/// The GUID in the form in which the store compares it.
+std::string GuidOf(const std::string& text)
 {
     const std::optional<GUID> guid = forms::GuidFromText(text);
     if (!guid)
         throw ScenarioError("power scheme " + text + ": not a GUID with braces");
-    return *guid;
+    return forms::GuidText(*guid);
 }
 
 /// What the platform's own schemes say where a scenario says nothing.
@@ -40,7 +42,16 @@ POWER_POLICY PolicyOf(const LegacyPowerScheme& scheme)
     return policy;
 }
 
-LegacyPowerScheme DescribeLegacy(UINT id, const PowerStore::LegacyScheme& scheme)
+PowerValue* FindValue(PowerScheme& scheme, const GUID& subgroup, const GUID& setting)
+{
+    const auto found =
+        std::find_if(scheme.values.begin(), scheme.values.end(),
+                     [place = std::pair(forms::GuidText(subgroup), forms::GuidText(setting))](const PowerValue& value)
+                     { return place == std::pair(value.subgroup, value.setting); });
+    return found != scheme.values.end() ? &*found : nullptr;
+}
+
+LegacyPowerScheme Described(UINT id, const PowerStore::LegacyScheme& scheme)
 {
     const USER_POWER_POLICY& user = scheme.policy.user;
     return {id,
@@ -53,76 +64,59 @@ LegacyPowerScheme DescribeLegacy(UINT id, const PowerStore::LegacyScheme& scheme
 
 } // namespace
 
-PowerStore::PowerStore(const PowerDescription& description)
+PowerStore::PowerStore(PowerDescription& power) : m_power(power)
 {
-    ReadSchemes(description);
-    ReadLegacySchemes(description);
+    ReadSchemes();
+    ReadLegacySchemes();
 }
 
-void PowerStore::ReadSchemes(const PowerDescription& description)
+void PowerStore::ReadSchemes()
 {
-    for (const PowerScheme& each : description.schemes)
+    std::set<std::string> known;
+    for (PowerScheme& scheme : m_power.schemes)
     {
-        Scheme scheme{SchemeGuid(each.guid), each.name, {}};
-        if (Find(scheme.guid) != nullptr)
-            throw ScenarioError("power scheme " + each.guid + ": another scheme has this GUID");
-        for (const PowerValue& value : each.values)
-            scheme.values.push_back({{SchemeGuid(value.subgroup), SchemeGuid(value.setting)}, {value.ac, value.dc}});
-        m_schemes.push_back(std::move(scheme));
+        scheme.guid = GuidOf(scheme.guid);
+        if (!known.insert(scheme.guid).second)
+            throw ScenarioError("power scheme " + scheme.guid + ": another scheme has this GUID");
+        for (PowerValue& value : scheme.values)
+        {
+            value.subgroup = GuidOf(value.subgroup);
+            value.setting = GuidOf(value.setting);
+        }
     }
-    if (!description.activeScheme)
+    if (!m_power.activeScheme)
         return;
-    m_active = SchemeGuid(*description.activeScheme);
-    if (Find(*m_active) == nullptr)
-        throw ScenarioError("power scheme " + *description.activeScheme + ": active, but not there");
+    m_power.activeScheme = GuidOf(*m_power.activeScheme);
+    if (known.count(*m_power.activeScheme) == 0)
+        throw ScenarioError("power scheme " + *m_power.activeScheme + ": active, but not there");
 }
 
-void PowerStore::ReadLegacySchemes(const PowerDescription& description)
+void PowerStore::ReadLegacySchemes()
 {
-    for (const LegacyPowerScheme& each : description.legacySchemes)
+    for (const LegacyPowerScheme& each : m_power.legacySchemes)
         if (!m_legacy.emplace(each.id, LegacyScheme{forms::WideFromUtf8(each.name), PolicyOf(each)}).second)
             throw ScenarioError("legacy power scheme " + std::to_string(each.id) + ": there is another one");
-    if (!description.activeLegacyScheme)
-        return;
-    if (FindLegacy(*description.activeLegacyScheme) == nullptr)
-        throw ScenarioError("legacy power scheme " + std::to_string(*description.activeLegacyScheme) +
-                            ": active, but not there");
-    ActivateLegacy(*description.activeLegacyScheme, nullptr);
+    const auto& active = m_power.activeLegacyScheme;
+    if (active && FindLegacy(*active) == nullptr)
+        throw ScenarioError("legacy power scheme " + std::to_string(*active) + ": active, but not there");
+    if (active)
+        ActivateLegacy(*active, nullptr);
 }
 
-void PowerStore::Describe(PowerDescription& description) const
+std::vector<LegacyPowerScheme> PowerStore::DescribeLegacy() const
 {
-    description.schemes.clear();
-    for (const Scheme& scheme : m_schemes)
-    {
-        PowerScheme described{forms::GuidText(scheme.guid), scheme.name, {}};
-        for (const auto& [place, value] : scheme.values)
-            described.values.push_back({forms::GuidText(place.first), forms::GuidText(place.second),
-                                        static_cast<std::uint32_t>(value.first),
-                                        static_cast<std::uint32_t>(value.second)});
-        description.schemes.push_back(std::move(described));
-    }
-    description.activeScheme.reset();
-    if (m_active)
-        description.activeScheme = forms::GuidText(*m_active);
-    description.legacySchemes.clear();
+    std::vector<LegacyPowerScheme> described;
     for (const auto& [id, scheme] : m_legacy)
-        description.legacySchemes.push_back(DescribeLegacy(id, scheme));
-    description.activeLegacyScheme = m_activeLegacy;
+        described.push_back(Described(id, scheme));
+    return described;
 }
 
-PowerStore::Scheme* PowerStore::Find(const GUID& guid)
+PowerScheme* PowerStore::Find(const GUID& guid)
 {
     const auto found =
-        std::find_if(m_schemes.begin(), m_schemes.end(), [&guid](const Scheme& each) { return each.guid == guid; });
-    return found != m_schemes.end() ? &*found : nullptr;
-}
-
-void PowerStore::Duplicate(const Scheme& source, const GUID& guid)
-{
-    Scheme copy = source;
-    copy.guid = guid;
-    m_schemes.push_back(std::move(copy));
+        std::find_if(m_power.schemes.begin(), m_power.schemes.end(),
+                     [text = forms::GuidText(guid)](const PowerScheme& each) { return each.guid == text; });
+    return found != m_power.schemes.end() ? &*found : nullptr;
 }
 
 GUID PowerStore::UnusedGuid()
@@ -139,26 +133,16 @@ GUID PowerStore::UnusedGuid()
 
 bool PowerStore::HasSetting(const GUID& subgroup, const GUID& setting) const
 {
-    return std::any_of(m_schemes.begin(), m_schemes.end(),
-                       [&](const Scheme& scheme)
-                       {
-                           return std::any_of(scheme.values.begin(), scheme.values.end(),
-                                              [&](const auto& value)
-                                              { return value.first == std::pair(subgroup, setting); });
-                       });
+    return std::any_of(m_power.schemes.begin(), m_power.schemes.end(),
+                       [&](PowerScheme& scheme) { return FindValue(scheme, subgroup, setting) != nullptr; });
 }
 
-void PowerStore::SetAcValue(Scheme& scheme, const GUID& subgroup, const GUID& setting, DWORD value)
+void PowerStore::SetAcValue(PowerScheme& scheme, const GUID& subgroup, const GUID& setting, DWORD value)
 {
-    for (auto& [place, values] : scheme.values)
-    {
-        if (place == std::pair(subgroup, setting))
-        {
-            values.first = value;
-            return;
-        }
-    }
-    scheme.values.push_back({{subgroup, setting}, {value, 0}});
+    PowerValue* known = FindValue(scheme, subgroup, setting);
+    if (known == nullptr)
+        known = &scheme.values.emplace_back(PowerValue{forms::GuidText(subgroup), forms::GuidText(setting)});
+    known->ac = static_cast<std::uint32_t>(value);
 }
 
 const PowerStore::LegacyScheme* PowerStore::FindLegacy(UINT id) const
@@ -177,7 +161,7 @@ UINT PowerStore::UnusedLegacyId() const
 
 void PowerStore::ActivateLegacy(UINT id, const POWER_POLICY* policy)
 {
-    m_activeLegacy = id;
+    m_power.activeLegacyScheme = id;
     m_current = policy != nullptr ? *policy : m_legacy.at(id).policy;
 }
 

@@ -19,60 +19,44 @@ namespace calvix::simulation
 class PowerStore
 {
 public:
-    struct Scheme
-    {
-        GUID guid{};
-        std::vector<std::uint8_t> name;
-        /// Mains and battery value by subgroup and setting, in the order in which they were first written.
-        std::vector<std::pair<std::pair<GUID, GUID>, std::pair<DWORD, DWORD>>> values;
-    };
-
     struct LegacyScheme
     {
         std::wstring name;
         POWER_POLICY policy{};
     };
 
-    /// Throws ScenarioError when the description contradicts itself.
-    explicit PowerStore(const PowerDescription& description);
+    /// Throws ScenarioError when the description contradicts itself. It outlives this object, and is where the schemes with
+    /// a GUID are kept, their GUIDs in capitals, and which schemes are active.
+    explicit PowerStore(PowerDescription& power);
 
-    /// Puts the present schemes into `description`.
-    void Describe(PowerDescription& description) const;
-
-    const std::vector<Scheme>& Schemes() const { return m_schemes; }
     /// The scheme of this GUID, or null.
-    Scheme* Find(const GUID& guid);
-    const std::optional<GUID>& Active() const { return m_active; }
-    void Activate(const GUID& guid) { m_active = guid; }
-    /// Adds a copy of `source` under another GUID.
-    void Duplicate(const Scheme& source, const GUID& guid);
+    PowerScheme* Find(const GUID& guid);
     /// A GUID that no scheme has.
     GUID UnusedGuid();
     /// Whether any scheme has a value of this setting.
     bool HasSetting(const GUID& subgroup, const GUID& setting) const;
     /// Writes the mains value.
-    static void SetAcValue(Scheme& scheme, const GUID& subgroup, const GUID& setting, DWORD value);
+    static void SetAcValue(PowerScheme& scheme, const GUID& subgroup, const GUID& setting, DWORD value);
 
+    /// The legacy schemes as they are now.
+    std::vector<LegacyPowerScheme> DescribeLegacy() const;
     /// The legacy scheme of this number, or null.
     const LegacyScheme* FindLegacy(UINT id) const;
     void WriteLegacy(UINT id, LegacyScheme scheme) { m_legacy[id] = std::move(scheme); }
     /// A number that no legacy scheme has.
     UINT UnusedLegacyId() const;
-    const std::optional<UINT>& ActiveLegacy() const { return m_activeLegacy; }
     /// Makes a scheme active; `policy`, if given, is in force in place of its own.
     void ActivateLegacy(UINT id, const POWER_POLICY* policy);
     /// The policy in force; all zero where no scheme is active.
     const POWER_POLICY& Current() const { return m_current; }
 
 private:
-    void ReadSchemes(const PowerDescription& description);
-    void ReadLegacySchemes(const PowerDescription& description);
+    void ReadSchemes();
+    void ReadLegacySchemes();
 
-    std::vector<Scheme> m_schemes;
-    std::optional<GUID> m_active;
+    PowerDescription& m_power;
     DWORD m_created = 0;
     std::map<UINT, LegacyScheme> m_legacy;
-    std::optional<UINT> m_activeLegacy;
     POWER_POLICY m_current{};
 };
 

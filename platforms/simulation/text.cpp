@@ -78,20 +78,6 @@ std::size_t SizeOfWholeCharacters(std::uint32_t codePage, const std::basic_strin
     return size;
 }
 
-DWORD RefusedDecodingFlags(std::uint32_t codePage, DWORD flags)
-{
-    const DWORD forUtf8 = MB_ERR_INVALID_CHARS;
-    const DWORD forNarrow = MB_PRECOMPOSED | MB_USEGLYPHCHARS | MB_ERR_INVALID_CHARS;
-    return flags & ~(codePage == CP_UTF8 ? forUtf8 : forNarrow);
-}
-
-DWORD RefusedEncodingFlags(std::uint32_t codePage, DWORD flags)
-{
-    const DWORD forUtf8 = WC_ERR_INVALID_CHARS;
-    const DWORD forNarrow = WC_NO_BEST_FIT_CHARS;
-    return flags & ~(codePage == CP_UTF8 ? forUtf8 : forNarrow);
-}
-
 bool IsKnown(std::uint32_t codePage)
 {
     return codePage == CP_UTF8 || HasNarrowEncoding(codePage);
@@ -114,7 +100,8 @@ public:
         const std::uint32_t actual = Resolve(codePage);
         if (!IsKnown(actual))
             return Fail(ERROR_INVALID_PARAMETER);
-        if (RefusedDecodingFlags(actual, flags) != 0)
+        const DWORD forNarrow = MB_PRECOMPOSED | MB_USEGLYPHCHARS | MB_ERR_INVALID_CHARS;
+        if ((flags & ~(actual == CP_UTF8 ? DWORD{MB_ERR_INVALID_CHARS} : forNarrow)) != 0)
             return Fail(ERROR_INVALID_FLAGS);
 
         const std::string_view bytes = SourceText(source, sourceLength);
@@ -142,7 +129,7 @@ public:
         // UTF-8 has every character, and arguments about a replacement are invalid.
         if (!IsKnown(actual) || (utf8 && (defaultCharacter != nullptr || usedDefaultCharacter != nullptr)))
             return Fail(ERROR_INVALID_PARAMETER);
-        if (RefusedEncodingFlags(actual, flags) != 0)
+        if ((flags & ~static_cast<DWORD>(utf8 ? WC_ERR_INVALID_CHARS : WC_NO_BEST_FIT_CHARS)) != 0)
             return Fail(ERROR_INVALID_FLAGS);
 
         const std::wstring_view text = SourceText(source, sourceLength);
