@@ -13,15 +13,9 @@ namespace calvix::host
 namespace
 {
 
-struct SoftApFacts
+JsonRecord SoftApRecord(const std::vector<std::string>& names, bool connected)
 {
-    std::vector<std::string> names;
-    bool connected = false; ///< whether the first adapter is connected to one
-};
-
-JsonRecord Describe(const SoftApFacts& softAps)
-{
-    return JsonRecord().Add("softAps", softAps.names).Add("connectedToSoftAp", softAps.connected);
+    return JsonRecord().Add("softAps", names).Add("connectedToSoftAp", connected);
 }
 
 std::vector<std::string> LinesOfText(const std::string& text)
@@ -50,26 +44,20 @@ void List(Host& host, const char* method, int (CWirelessManage::*listing)())
     host.Require(method, result);
 }
 
-SoftApFacts ReadSoftAps(Host& host)
+void ListSoftAps(Host& host)
 {
     std::vector<std::string> names;
     host.Require("GetSoftAPList", host.manager().GetSoftAPList(host.adapterGuid(), &names));
-    SoftApFacts facts;
-    for (const std::string& name : names)
-        facts.names.push_back(FromActiveCodePage(name));
-    facts.connected = host.manager().SpecialSoftAP();
-    return facts;
-}
-
-void ListSoftAps(Host& host)
-{
-    const SoftApFacts facts = ReadSoftAps(host);
+    for (std::string& name : names)
+        name = FromActiveCodePage(name);
+    // Of the first adapter, whichever is chosen.
+    const bool connected = host.manager().SpecialSoftAP();
     if (host.json())
-        return PrintJson(host.out(), facts);
-    host.out() << Counted(facts.names.size(), "software access point") << " in view\n";
-    for (const std::string& name : facts.names)
+        return PrintJson(host.out(), SoftApRecord(names, connected));
+    host.out() << Counted(names.size(), "software access point") << " in view\n";
+    for (const std::string& name : names)
         host.out() << "  " << VisibleText(name) << '\n';
-    host.out() << "The first adapter is " << (facts.connected ? "" : "not ") << "connected to one.\n";
+    host.out() << "The first adapter is " << (connected ? "" : "not ") << "connected to one.\n";
 }
 
 } // namespace
@@ -90,7 +78,7 @@ void AddListCommands(CommandSet& commands)
         .Examples("Access points as the library lists them:\n"
                   "  calvix list bss");
     commands.Add("softap", "List the software access points in view: networks whose SSID holds LC#", ListSoftAps)
-        .Prints("softap", [] { return std::vector{Describe(SoftApFacts{})}; })
+        .Prints("softap", [] { return std::vector{SoftApRecord({}, false)}; })
         .Examples("Is one near?\n"
                   "  calvix softap");
 }

@@ -51,25 +51,19 @@ void RoamCommand(Host& host, const RoamOptions& options)
         WatchLive(host, options.live);
 }
 
-/// How long it goes on.
-Command& AddDuration(Command& command, LiveOptions& options)
-{
-    return command
-        .Number("--for", options.seconds, "Seconds to continue; 0: until Ctrl-C, a minute on a simulated computer")
-        .Number("--speed", options.speed,
-                "Simulated seconds per second; 0: one on a terminal, as fast as possible elsewhere");
-}
+constexpr const char* kDurationHelp = "Seconds to continue; 0: until Ctrl-C, a minute on a simulated computer";
+constexpr const char* kSpeedHelp = "Simulated seconds per second; 0: one on a terminal, as fast as possible elsewhere";
 
 } // namespace
 
 void AddLiveCommands(CommandSet& commands)
 {
     const auto roam = std::make_shared<RoamOptions>();
-    AddDuration(
-        commands.Add("roam", "Move to a better access point of the current network, if there is one", roam, RoamCommand)
-            .Flag("--dry-run", roam->live.dryRun, "Decide only, do not move")
-            .Number("--every", roam->live.roamEvery, "Continue, and decide every N seconds; 0: decide once"),
-        roam->live)
+    commands.Add("roam", "Move to a better access point of the current network, if there is one", roam, RoamCommand)
+        .Flag("--dry-run", roam->live.dryRun, "Decide only, do not move")
+        .Number("--every", roam->live.roamEvery, "Continue, and decide every N seconds; 0: decide once")
+        .Number("--for", roam->live.seconds, kDurationHelp)
+        .Number("--speed", roam->live.speed, kSpeedHelp)
         .Number("--timeout", roam->timeout, "Maximum seconds to wait for the connection")
         .Prints("roam", [] { return std::vector{Under("roam", RoamFacts{}).Add("status", StatusFacts{})}; })
         .Examples("Would it move, and where to?\n"
@@ -78,9 +72,10 @@ void AddLiveCommands(CommandSet& commands)
                   "  calvix roam --every 10 --for 3600");
 
     const auto watch = std::make_shared<LiveOptions>();
-    AddDuration(commands.Add("watch", "Show the service's notifications and the signal as they come, until Ctrl-C",
-                             watch, WatchLive),
-                *watch)
+    commands
+        .Add("watch", "Show the service's notifications and the signal as they come, until Ctrl-C", watch, WatchLive)
+        .Number("--for", watch->seconds, kDurationHelp)
+        .Number("--speed", watch->speed, kSpeedHelp)
         .Number("--roam", watch->roamEvery, "Decide about roaming every N seconds; 0: never")
         .Prints("watch", LiveRecords)
         .Examples("A minute of the signal, a JSON object a line:\n"

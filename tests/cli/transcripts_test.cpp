@@ -15,6 +15,7 @@
 #include <fstream>
 #include <map>
 #include <memory>
+#include <set>
 
 namespace calvix::test::transcripts_test
 {
@@ -46,7 +47,7 @@ simulation::Scenario WorldNamed(const std::string& name)
 }
 
 /// Paths in the files are those of the repository.
-class TranscriptFile : public CliTest, public ::testing::WithParamInterface<const char*>
+class TranscriptFile : public CliTest, public ::testing::WithParamInterface<std::string>
 {
 protected:
     TranscriptFile() : m_before(files::current_path()) { files::current_path(CALVIX_SOURCE_DIR); }
@@ -97,7 +98,7 @@ private:
 
 TEST_P(TranscriptFile, ShowsWhatIsPrinted)
 {
-    const std::string path = GetParam();
+    const std::string& path = GetParam();
     const Transcript transcript = ReadTranscript(Content(path), path.ends_with(".md"));
     EXPECT_FALSE(transcript.commands.empty());
     std::vector<std::string> printed;
@@ -109,19 +110,17 @@ TEST_P(TranscriptFile, ShowsWhatIsPrinted)
     LeaveForUpdate(path, WithPrinted(transcript, printed));
 }
 
-INSTANTIATE_TEST_SUITE_P(Transcripts,
-                         TranscriptFile,
-                         ::testing::Values("tests/data/transcripts/looking.txt",
-                                           "tests/data/transcripts/connecting.txt",
-                                           "tests/data/transcripts/profiles.txt",
-                                           "tests/data/transcripts/computer.txt",
-                                           "tests/data/transcripts/doctor.txt",
-                                           "tests/data/transcripts/refusals.txt",
-                                           "tests/data/transcripts/help.txt",
-                                           "tests/data/transcripts/completion.txt",
-                                           "tests/data/transcripts/import.txt",
-                                           "docs/command-line.md",
-                                           "docs/troubleshooting.md"));
+std::set<std::string> TranscriptPaths()
+{
+    const std::string folder = "tests/data/transcripts/";
+    std::set<std::string> paths{"docs/command-line.md", "docs/troubleshooting.md"};
+    for (const auto& entry : files::directory_iterator(CALVIX_SOURCE_DIR "/" + folder))
+        if (entry.path().extension() == ".txt")
+            paths.insert(folder + entry.path().filename().string());
+    return paths;
+}
+
+INSTANTIATE_TEST_SUITE_P(Transcripts, TranscriptFile, ::testing::ValuesIn(TranscriptPaths()));
 
 /// A file of the repository that the program writes.
 void ExpectUpToDate(const std::string& path, const std::string& text)
