@@ -6,9 +6,6 @@
 namespace calvix::test::last_error_contract_test
 {
 
-namespace
-{
-
 class LastErrorContract : public PlatformContract
 {
 protected:
@@ -81,7 +78,5 @@ TEST_P(LastErrorContract, BeginsAnewWithEachThread)
         EXPECT_EQ(before, Error(ERROR_SUCCESS)) << round;
     }
 }
-
-} // namespace
 
 } // namespace calvix::test::last_error_contract_test

@@ -6,9 +6,6 @@
 namespace calvix::test::service_control_contract_test
 {
 
-namespace
-{
-
 class ServiceControlContract : public PlatformContract
 {
 protected:
@@ -169,7 +166,5 @@ TEST_P(ServiceControlContract, AStatusNeedsItsRecord)
     EXPECT_EQ(ErrorOf([&] { return Services().QueryServiceStatus(service, nullptr); }), kInvalidAddress);
     Close(service);
 }
-
-} // namespace
 
 } // namespace calvix::test::service_control_contract_test

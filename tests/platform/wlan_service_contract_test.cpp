@@ -8,9 +8,6 @@
 namespace calvix::test::wlan_service_contract_test
 {
 
-namespace
-{
-
 class WlanServiceContract : public PlatformContract
 {
 protected:
@@ -151,7 +148,5 @@ TEST_P(WlanServiceContract, ReleasingNothingDoesNothing)
     Wlan().WlanFreeMemory(nullptr);
     EXPECT_EQ(Enumerate(m_client), Error(ERROR_SUCCESS));
 }
-
-} // namespace
 
 } // namespace calvix::test::wlan_service_contract_test

@@ -4,9 +4,6 @@
 namespace calvix::simulation::auto_configuration_test
 {
 
-namespace
-{
-
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
@@ -137,7 +134,5 @@ TEST_F(AutoConfiguration, OnesThatDoNotAdmitTheAdapterDoNotTakeOver)
     computer->Advance(seconds(10));
     EXPECT_EQ(InterfaceState(), wlan_interface_state_disconnected);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::auto_configuration_test

@@ -13,9 +13,6 @@
 namespace calvix::simulation::blocks_test
 {
 
-namespace
-{
-
 using Defects = std::vector<std::string>;
 
 class BlocksTest : public ::testing::Test
@@ -91,7 +88,5 @@ TEST_F(BlocksTest, FreedOnesAreKeptWithinBounds)
     blocks.Free(youngest);
     EXPECT_EQ(defects, Defects{"double free of youngest"});
 }
-
-} // namespace
 
 } // namespace calvix::simulation::blocks_test

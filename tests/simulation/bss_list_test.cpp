@@ -5,9 +5,6 @@
 namespace calvix::simulation::bss_list_test
 {
 
-namespace
-{
-
 using std::chrono::seconds;
 
 class BssList : public ServiceTest
@@ -146,7 +143,5 @@ TEST_F(BssList, MadeUpElementsOfAnOpenHiddenNetworkAt5GHz)
     const Bytes expected = {0, 0, 1, 8, 0x8c, 18, 0x98, 36, 0xb0, 72, 96, 108};
     EXPECT_EQ(ListElements(), std::vector<Bytes>{expected});
 }
-
-} // namespace
 
 } // namespace calvix::simulation::bss_list_test

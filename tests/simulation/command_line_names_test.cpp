@@ -5,9 +5,6 @@
 namespace calvix::simulation::command_line_names_test
 {
 
-namespace
-{
-
 using Names = std::vector<std::string>;
 
 TEST(CommandLineNames, EveryBeginningThatASpaceEnds)
@@ -32,7 +29,5 @@ TEST(CommandLineNames, FilesAreLookedForWhereThePlatformDoes)
     EXPECT_EQ(FilesOfCommand("ping.com", "").front(), "ping.com");
     EXPECT_EQ(FilesOfCommand("D:\\v1.2\\ping", "C:\\Tools\\"), (Names{"D:\\v1.2\\ping", "D:\\v1.2\\ping.exe"}));
 }
-
-} // namespace
 
 } // namespace calvix::simulation::command_line_names_test

@@ -5,9 +5,6 @@
 namespace calvix::simulation::computer_test
 {
 
-namespace
-{
-
 using std::chrono::seconds;
 
 using WholeComputer = ServiceTest;
@@ -127,7 +124,5 @@ TEST_F(WholeComputer, AServiceStoppedFromTheStart)
     Start();
     EXPECT_EQ(client, nullptr);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::computer_test

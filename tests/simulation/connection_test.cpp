@@ -5,9 +5,6 @@
 namespace calvix::simulation::connection_test
 {
 
-namespace
-{
-
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
@@ -273,7 +270,5 @@ TEST_F(Connected, StatesInPassingAreReportedAsDriversReportThem)
     EXPECT_FALSE(Connection(&error).has_value());
     EXPECT_EQ(error, ERROR_INVALID_STATE);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::connection_test

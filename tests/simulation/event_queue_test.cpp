@@ -7,9 +7,6 @@
 namespace calvix::simulation::event_queue_test
 {
 
-namespace
-{
-
 using std::chrono::milliseconds;
 
 TEST(EventQueue, RunsWhatFallsDueInOrder)
@@ -52,7 +49,5 @@ TEST(EventQueue, CancelledEventsDoNotRun)
     queue.Advance(milliseconds(20));
     EXPECT_FALSE(ran);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::event_queue_test

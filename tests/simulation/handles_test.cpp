@@ -9,9 +9,6 @@
 namespace calvix::simulation::handles_test
 {
 
-namespace
-{
-
 using Defects = std::vector<std::string>;
 
 class HandlesTest : public ::testing::Test
@@ -59,7 +56,5 @@ TEST_F(HandlesTest, MisuseIsNoted)
               (Defects{"WlanScan: use of closed client handle", "WlanScan: use of a handle that is no client handle",
                        "WlanScan: use of unknown client handle", "WlanCloseHandle: use of closed client handle"}));
 }
-
-} // namespace
 
 } // namespace calvix::simulation::handles_test

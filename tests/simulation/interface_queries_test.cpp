@@ -3,9 +3,6 @@
 namespace calvix::simulation::interface_queries_test
 {
 
-namespace
-{
-
 using InterfaceQueries = ServiceTest;
 
 TEST_F(InterfaceQueries, InterfacesAreEnumeratedInTheirOrder)
@@ -165,7 +162,5 @@ TEST_F(InterfaceQueries, SafeModeIsSupportedAndUnknownThingsAreNot)
     EXPECT_FALSE(Query<BOOL>(wlan_intf_opcode_ihv_start, &error).has_value());
     EXPECT_EQ(error, ERROR_NOT_SUPPORTED);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::interface_queries_test

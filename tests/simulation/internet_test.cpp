@@ -4,9 +4,6 @@
 namespace calvix::simulation::internet_test
 {
 
-namespace
-{
-
 class InternetTest : public SystemTest
 {
 protected:
@@ -80,7 +77,5 @@ TEST_F(InternetTest, RefusedArguments)
     EXPECT_EQ(ErrorOf(Internet().InternetCheckConnectionA("http://example.org/", 2, 0)), ERROR_INVALID_PARAMETER);
     EXPECT_TRUE(Internet().InternetCheckConnectionA("HTTP://example.org/", 0, 0));
 }
-
-} // namespace
 
 } // namespace calvix::simulation::internet_test

@@ -5,9 +5,6 @@
 namespace calvix::simulation::network_list_test
 {
 
-namespace
-{
-
 class NetworkList : public ServiceTest
 {
 protected:
@@ -240,7 +237,5 @@ TEST_F(NetworkList, AnySsidIsGoodForANetwork)
     EXPECT_EQ(TextOf(networks[0].dot11Ssid), allBytes);
     EXPECT_EQ(TextOf(networks[1].dot11Ssid), "\xff\xfe");
 }
-
-} // namespace
 
 } // namespace calvix::simulation::network_list_test

@@ -6,9 +6,6 @@
 namespace calvix::simulation::processes_test
 {
 
-namespace
-{
-
 using std::chrono::milliseconds;
 
 class ProcessTest : public SystemTest
@@ -246,7 +243,5 @@ TEST_F(Wow64Test, OtherFunctionsAreNotFound)
     EXPECT_EQ(Processes().GetProcAddress(nullptr, "IsWow64Process"), nullptr);
     EXPECT_EQ(LastError(), ERROR_PROC_NOT_FOUND);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::processes_test

@@ -5,9 +5,6 @@
 namespace calvix::simulation::reason_text_test
 {
 
-namespace
-{
-
 class ReasonTexts : public ServiceTest
 {
 protected:
@@ -52,7 +49,5 @@ TEST_F(ReasonTexts, NeedABufferAndNothingElse)
     computer->SetServiceRunning(false);
     EXPECT_EQ(Wlan().WlanReasonCodeToString(0, 16, text, nullptr), ERROR_SUCCESS);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::reason_text_test

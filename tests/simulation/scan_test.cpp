@@ -3,9 +3,6 @@
 namespace calvix::simulation::scan_test
 {
 
-namespace
-{
-
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
@@ -158,7 +155,5 @@ TEST_F(Scanning, ARadioSwitchedOffEndsTheScanUnderWay)
     computer->Advance(milliseconds(1));
     EXPECT_TRUE(IsListed("HomeNet"));
 }
-
-} // namespace
 
 } // namespace calvix::simulation::scan_test

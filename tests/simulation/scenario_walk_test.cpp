@@ -10,9 +10,6 @@
 namespace calvix::simulation::scenario_walk_test
 {
 
-namespace
-{
-
 using std::chrono::seconds;
 
 class ScenarioPlay : public test::LibraryTest
@@ -84,7 +81,5 @@ TEST_F(ScenarioPlay, ProgramsCannotTurnAHardwareSwitch)
     EXPECT_EQ(manager().PhyRadioTurnedOff(&guid), 1);
     EXPECT_EQ(manager().PhyRadioIsOn(&guid), 0);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::scenario_walk_test

@@ -4,9 +4,6 @@
 namespace calvix::simulation::security_test
 {
 
-namespace
-{
-
 class SecurityTest : public SystemTest
 {
 protected:
@@ -81,7 +78,5 @@ TEST_F(SecurityTest, AClosedTokenIsADefect)
     EXPECT_EQ(Defects(), (std::vector<std::string>{"AdjustTokenPrivileges: use of closed token handle",
                                                    "CloseHandle: use of closed process handle"}));
 }
-
-} // namespace
 
 } // namespace calvix::simulation::security_test

@@ -4,9 +4,6 @@
 namespace calvix::simulation::service_control_test
 {
 
-namespace
-{
-
 class ServiceControlTest : public SystemTest
 {
 protected:
@@ -50,7 +47,5 @@ TEST_F(ServiceControlTest, AClosedHandleIsADefect)
     EXPECT_EQ(LastError(), ERROR_INVALID_HANDLE);
     EXPECT_EQ(Defects(), (std::vector<std::string>{"CloseServiceHandle: use of closed service handle"}));
 }
-
-} // namespace
 
 } // namespace calvix::simulation::service_control_test

@@ -6,9 +6,6 @@
 namespace calvix::simulation::station_functions_test
 {
 
-namespace
-{
-
 using std::chrono::seconds;
 using Names = std::vector<std::wstring>;
 
@@ -320,7 +317,5 @@ TEST_F(StationFunctions, SecuritySettingsAreHandedBack)
         Service().WlanGetSecuritySettings(client, static_cast<WLAN_SECURABLE_OBJECT>(15), nullptr, &sddl, &access),
         ERROR_INVALID_PARAMETER);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::station_functions_test

@@ -4,9 +4,6 @@
 namespace calvix::simulation::text_test
 {
 
-namespace
-{
-
 TEST(ActiveCodePage, IsTheScenarios)
 {
     const struct
@@ -39,7 +36,5 @@ TEST_F(ActiveUtf8, HasNoDefaultCharacterEither)
     EXPECT_EQ(Machine().text().WideCharToMultiByte(CP_ACP, 0, L"a", 1, bytes, 4, nullptr, &used), 0);
     EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::text_test

@@ -4,9 +4,6 @@
 namespace calvix::simulation::vendor_control_test
 {
 
-namespace
-{
-
 class VendorControl : public ServiceTest
 {
 protected:
@@ -132,7 +129,5 @@ TEST_F(ServiceParameters, RefusedQuestions)
     EXPECT_EQ(Wlan().WlanQueryAutoConfigParameter(client, wlan_autoconf_opcode_end, nullptr, &size, &data, nullptr),
               ERROR_INVALID_PARAMETER);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::vendor_control_test

@@ -3,9 +3,6 @@
 namespace calvix::simulation::wlan_profiles_test
 {
 
-namespace
-{
-
 using Names = std::vector<std::wstring>;
 
 class WlanProfiles : public ServiceTest
@@ -122,7 +119,5 @@ TEST_F(WlanProfiles, DeletingTheOneInUseEndsItsConnection)
     EXPECT_EQ(Wlan().WlanDeleteProfile(client, &first, L"HomeNet", nullptr), ERROR_SUCCESS);
     EXPECT_EQ(InterfaceState(), wlan_interface_state_disconnected);
 }
-
-} // namespace
 
 } // namespace calvix::simulation::wlan_profiles_test
