@@ -2,6 +2,7 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 

@@ -3,6 +3,7 @@
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
+#include "unit/call_lines.h"
 
 #include <algorithm>
 #include <string>

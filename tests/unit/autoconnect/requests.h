@@ -1,7 +1,6 @@
 #pragma once
 
 #include "support/library_test.h"
-#include "unit/call_lines.h"
 
 #include <string>
 #include <vector>

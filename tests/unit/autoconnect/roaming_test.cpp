@@ -1,7 +1,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/small_worlds.h"
-#include "unit/inventory/trace_texts.h"
+#include "unit/call_lines.h"
 
 #include <iterator>
 #include <string>

@@ -1,4 +1,5 @@
 #include "support/library_test.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 

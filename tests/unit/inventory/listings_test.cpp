@@ -1,3 +1,4 @@
+#include "unit/call_lines.h"
 #include "unit/inventory/failures.h"
 #include "unit/inventory/listings_fixture.h"
 #include "unit/inventory/trace_texts.h"

@@ -1,6 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/inventory/trace_texts.h"
+#include "unit/call_lines.h"
 
 #include <algorithm>
 #include <cwchar>

@@ -1,5 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
+#include "unit/call_lines.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <cstring>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "unit/call_lines.h"
-
 namespace calvix::test
 {
 
