@@ -107,12 +107,6 @@ void DeleteProfile(Host& host, const ProfileOptions& options)
     ReportChange(host, "deleted", options.name, "deleted");
 }
 
-void MoveToSecondPlace(Host& host, const std::wstring& name)
-{
-    const std::string narrow = InActiveCodePage(name, "such a profile can only be moved to the last place");
-    host.Require("ResetProfilePosition", host.manager().ResetProfilePosition(host.adapterGuid(), narrow.c_str()));
-}
-
 void MoveProfile(Host& host, const ProfileOptions& options)
 {
     const GUID* const adapter = host.adapterGuid();
@@ -120,7 +114,10 @@ void MoveProfile(Host& host, const ProfileOptions& options)
     // With fewer than two profiles the library has nothing to move and does not look at the name.
     host.Check("GetProfile", host.manager().GetProfile(adapter, name.c_str()));
     if (options.place == "second")
-        MoveToSecondPlace(host, name);
+    {
+        const std::string narrow = InActiveCodePage(name, "such a profile can only be moved to the last place");
+        host.Require("ResetProfilePosition", host.manager().ResetProfilePosition(adapter, narrow.c_str()));
+    }
     else
         host.Require("SetProfilePosition", host.manager().SetProfilePosition(adapter, name.c_str()));
     ReportChange(host, "moved", options.name, "is in the " + options.place + " place");

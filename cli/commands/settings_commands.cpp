@@ -93,35 +93,25 @@ void Settings(Host& host, const SettingsOptions& options)
                             {"Safe mode", YesOrNo(facts.safeMode, "supported", "not supported")}});
 }
 
-std::vector<unsigned char> BytesOfHex(const std::string& text)
-{
-    const auto bytes = BytesOfHexText(text);
-    if (!bytes)
-        throw BadInput("\"" + text + "\" is not a valid request: it needs pairs of hexadecimal digits",
-                       "write it like 00A1F2 or \"00 A1 F2\"");
-    return {bytes->begin(), bytes->end()};
-}
-
-std::string HexOf(const std::vector<unsigned char>& bytes, std::size_t count)
-{
-    return HexText({reinterpret_cast<const char*>(bytes.data()), count});
-}
-
 void AskDriver(Host& host, const IhvOptions& options)
 {
     constexpr unsigned largest = 1U << 16;
     if (options.size > largest)
         throw BadInput("--size takes at most " + std::to_string(largest) + " bytes");
-    std::vector<unsigned char> buffer = BytesOfHex(options.request);
+    const auto bytes = BytesOfHexText(options.request);
+    if (!bytes)
+        throw BadInput("\"" + options.request + "\" is not a valid request: it needs pairs of hexadecimal digits",
+                       "write it like 00A1F2 or \"00 A1 F2\"");
+    std::string buffer = *bytes;
     buffer.resize((std::max)(buffer.size(), static_cast<std::size_t>(options.size)));
-    const std::string request = HexOf(buffer, buffer.size());
+    const std::string request = HexText(buffer);
     const GUID* const adapter = host.adapterGuid();
     if (options.grant)
         host.Require("SetIhvSecuritySettings", static_cast<long>(host.manager().SetIhvSecuritySettings()));
     unsigned long returned = 0;
     host.Require("IhvControl", static_cast<long>(host.manager().IhvControl(
                                    adapter, buffer.data(), static_cast<unsigned long>(buffer.size()), returned)));
-    const std::string answer = HexOf(buffer, (std::min)(static_cast<std::size_t>(returned), buffer.size()));
+    const std::string answer = HexText(buffer.substr(0, returned));
     if (host.json())
         return PrintJson(host.out(), DriverRecord(request, answer));
     host.out() << answer << '\n';

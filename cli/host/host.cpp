@@ -3,8 +3,8 @@
 #include "core/wlan_records.h"
 #include "output/text_forms.h"
 
-#include <algorithm>
 #include <cctype>
+#include <charconv>
 
 namespace calvix::host
 {
@@ -29,10 +29,10 @@ bool SameGuidText(std::string_view left, std::string_view right)
 /// The place, from 0, of a number from 1 to `count`; none for any other text.
 std::optional<std::size_t> PlaceOf(const std::string& text, std::size_t count)
 {
-    const bool digits = std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-    if (text.empty() || text.size() > 3 || !digits)
+    std::size_t number = 0;
+    const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || stop != text.data() + text.size())
         return std::nullopt;
-    const auto number = static_cast<std::size_t>(std::stoul(text));
     return number >= 1 && number <= count ? std::optional(number - 1) : std::nullopt;
 }
 

@@ -43,10 +43,9 @@ std::string InQuotes(const std::string& word)
 
 } // namespace
 
-RecordedSession::RecordedSession(const CommonOptions& options)
-    : m_path(options.record), m_isRecording(!options.record.empty()), m_anonymise(options.anonymise)
+RecordedSession::RecordedSession(const CommonOptions& options) : m_path(options.record), m_anonymise(options.anonymise)
 {
-    if (m_isRecording)
+    if (isRecording())
     {
         m_file.open(PathOf(m_path), std::ios::binary);
         if (!m_file)
@@ -67,7 +66,7 @@ RecordedSession::~RecordedSession()
 
 platform::Platform& RecordedSession::Recorded(platform::Platform& inner, bool simulated)
 {
-    if (!m_isRecording)
+    if (!isRecording())
         return inner;
     m_recorder = std::make_unique<recording::Recorder>(inner, m_file, recording::Header{simulated, m_anonymise});
     WhenInterruptIsSeen([this] { m_recorder->Mark("interrupted"); });
@@ -87,7 +86,7 @@ void RecordedSession::EndRecording()
     if (m_recorder != nullptr)
         m_recorder->Finish();
     m_file.close();
-    if (m_isRecording && !m_file)
+    if (isRecording() && !m_file)
         throw BadInput(m_path + ": cannot be written completely", "check the free space on the disk");
 }
 

@@ -24,7 +24,7 @@ public:
     RecordedSession(const RecordedSession&) = delete;
     RecordedSession& operator=(const RecordedSession&) = delete;
 
-    bool isRecording() const { return m_isRecording; }
+    bool isRecording() const { return !m_path.empty(); }
     bool isReplay() const { return m_replay != nullptr; }
     /// Whether what is replayed was recorded on a simulated computer.
     bool isOfSimulated() const { return isReplay() && m_replay->header().simulated; }
@@ -43,7 +43,6 @@ public:
 
 private:
     std::string m_path;
-    bool m_isRecording;
     bool m_anonymise;
     std::ofstream m_file;
     std::unique_ptr<recording::Recorder> m_recorder;

@@ -26,6 +26,14 @@ std::vector<Word> MethodWords()
     return words;
 }
 
+std::vector<Word> Choices(const Argument& argument)
+{
+    std::vector<Word> words;
+    for (const std::string& choice : argument.choices)
+        words.push_back({choice, ""});
+    return words;
+}
+
 /// Finds what is possible at one place.
 class Place
 {
@@ -40,7 +48,7 @@ public:
         switch (argument.takes)
         {
         case ValueKind::choice:
-            return Choices(argument);
+            return {Choices(argument)};
         case ValueKind::file:
             return {{}, "any"};
         case ValueKind::scenario:
@@ -107,14 +115,6 @@ public:
     }
 
 private:
-    static Completion Choices(const Argument& argument)
-    {
-        Completion completion;
-        for (const std::string& choice : argument.choices)
-            completion.words.push_back({choice, ""});
-        return completion;
-    }
-
     const CommandSet& m_program;
     const WordReader& m_reader;
     const LiveNames& m_liveNames;
