@@ -9,7 +9,7 @@ The parts of a method, and where each is written down, once:
     purpose, arguments, codes   its comment in include/calvix/wireless_manage.h
     what to do about a code     cli/explain/result_causes.cpp, through `calvix explain`
     platform calls, marks       methods/*.json here
-    example                     the region of its name in examples/reference/*.cpp
+    example                     the body of the function of its name in examples/reference/*.cpp
 """
 
 import json
@@ -126,20 +126,20 @@ def load(items):
                 problems.append(f"methods/{name}.json: the header declares no {key}")
                 continue
             methods[key].data, methods[key].family = data, name
-    regions = example_regions()
+    examples = example_bodies()
     results = (ROOT / "cli/explain/result_codes.cpp").read_text(encoding="utf-8")
     codes = set(re.findall(r'^    \{"([\w=]+)", \w+,', results, re.M))
     for key in sorted(set(exports) ^ set(methods)):
         problems.append(f"{key}: {'exported, but not declared' if key in exports else 'declared, but not exported'}")
     for method in methods.values():
-        problems += [f"{method.key}: {problem}" for problem in missing_parts(method, regions, codes)]
-    examples = [method.example for method in methods.values()]
-    problems += [f"examples/reference: no method shows [{name}]" for name in sorted(set(regions) - set(examples))]
-    problems += [f"the example [{name}] is shown twice" for name in sorted(regions) if examples.count(name) > 1]
-    return methods, families, regions, problems + list(records.problems())
+        problems += [f"{method.key}: {problem}" for problem in missing_parts(method, examples, codes)]
+    shown = [method.example for method in methods.values()]
+    problems += [f"examples/reference: no method shows {name}" for name in sorted(set(examples) - set(shown))]
+    problems += [f"the example {name} is shown twice" for name in sorted(examples) if shown.count(name) > 1]
+    return methods, families, examples, problems + list(records.problems())
 
 
-def missing_parts(method, regions, codes):
+def missing_parts(method, examples, codes):
     if not method.data:
         yield "no entry in methods/*.json"
         return
@@ -153,22 +153,22 @@ def missing_parts(method, regions, codes):
         yield f"its arguments are {', '.join(wanted) or 'none'}; the comment has {', '.join(said) or 'none'}"
     if any(line.startswith("@return") for line in method.comment) == (method.returns == "void"):
         yield "@return is missing, or too much"
-    if method.example not in regions:
-        yield f"no region [{method.example}] in examples/reference"
+    if method.example not in examples:
+        yield f"no function {method.example} in examples/reference"
     if method.name not in codes:
         yield "no entry in cli/explain/result_codes.cpp"
 
 
-def example_regions():
-    """The examples by their names: what stands between two lines with the name in square brackets."""
-    regions = {}
+def example_bodies():
+    """The bodies of the functions in examples/reference by the functions' names."""
+    bodies = {}
     for path in sorted((ROOT / "examples/reference").glob("*.cpp")):
-        pieces = re.split(r"^ *//! \[(.+)\]\n", path.read_text(encoding="utf-8"), flags=re.M)
-        for begin, text, end in zip(pieces[1::4], pieces[2::4], pieces[3::4], strict=True):
-            if begin != end or begin in regions:
-                raise SystemExit(f"{path.name}: the region [{begin}] is not closed, or there are two")
-            regions[begin] = textwrap.dedent(text).rstrip()
-    return regions
+        functions = re.findall(r"^void (\w+)\([^{]*?\)\n{\n(.*?)^}\n", path.read_text(encoding="utf-8"), re.M | re.S)
+        for name, body in functions:
+            if name in bodies:
+                raise SystemExit(f"{path.name}: there are two functions {name}")
+            bodies[name] = textwrap.dedent(body).rstrip()
+    return bodies
 
 
 # --- What Doxygen reads --------------------------------------------------------------------------------------------
@@ -232,7 +232,7 @@ def codes_text(method, results, methods):
     yield ""
 
 
-def method_comment(method, results, methods, families, regions, links):
+def method_comment(method, results, methods, families, examples, links):
     """The comment of the header, then everything else."""
     own = [line for paragraph in method.paragraphs() for line in (*paragraph.split("\n"), "")]
     if any(name == ADAPTER[0] for _, name in method.parameters) and not any(ADAPTER[0] in line for line in own):
@@ -255,17 +255,17 @@ def method_comment(method, results, methods, families, regions, links):
         yield ""
     yield "@par Example"
     yield "@code{.cpp}"
-    yield from regions[method.example].splitlines()
+    yield from examples[method.example].splitlines()
     yield "@endcode"
     yield ""
     yield f'@see @ref family_{method.family} "{families[method.family]["title"]}"'
 
 
-def write_header(items, results, methods, families, regions, links, out):
+def write_header(items, results, methods, families, examples, links, out):
     lines, open_section = [], False
     for item in items:
         if isinstance(item, Method):
-            comment = method_comment(item, results[item.name], methods, families, regions, links)
+            comment = method_comment(item, results[item.name], methods, families, examples, links)
             lines += [f"    /// {line}".rstrip() for line in comment]
             lines.append(f"    {item.declaration}")
         elif section := re.match(r"    // --- (.*?) -+$", item):
@@ -391,7 +391,7 @@ def read_results(program):
 
 def main(arguments):
     items = read_header()
-    methods, families, regions, problems = load(items)
+    methods, families, examples, problems = load(items)
     for problem in problems:
         print(f"reference: {problem}", file=sys.stderr)
     if problems:
@@ -405,7 +405,7 @@ def main(arguments):
     out = pathlib.Path(arguments[2])
     results = read_results(arguments[1])
     links = Links(methods)
-    write_header(items, results, methods, families, regions, links, out)
+    write_header(items, results, methods, families, examples, links, out)
     write_families(methods, families, results, links, out)
     write_index(methods, families, links, out)
     write_pages(families, links, out)

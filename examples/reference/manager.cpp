@@ -4,58 +4,43 @@
 
 #include <cstdio>
 
-namespace reference::manager_examples
+namespace reference
 {
 
-void Begin()
+void Get()
 {
-    //! [Get]
     CWirelessManage& manager = *CWirelessManage::Get();
     std::printf("%d adapters\n", manager.GetWiFiAdapterCount());
-    //! [Get]
 }
 
-void End()
+void Delete()
 {
-    //! [Delete]
     CWirelessManage::Delete(); // the last call of the program to the library
-    //! [Delete]
 }
 
 void Assign(CWirelessManage& manager)
 {
-    //! [operator=]
     const CWirelessManage& same = *CWirelessManage::Get();
     manager = same; // there is one object, so this changes nothing
-    //! [operator=]
 }
 
-void Zero(CWirelessManage& manager)
+void AutoClassInit(CWirelessManage& manager)
 {
-    //! [__autoclassinit2]
     manager.__autoclassinit2(0); // zeroes nothing, which is the one number that does no harm
-    //! [__autoclassinit2]
 }
 
-//! [RegisterNotification]
-// Called on a thread of the service: it only says what came.
-void WINAPI TakeNote(PWLAN_NOTIFICATION_DATA news, PVOID)
+void RegisterNotification(CWirelessManage& manager)
 {
-    std::printf("notification %lu\n", news->NotificationCode);
-}
-
-void Listen(CWirelessManage& manager)
-{
-    if (const int error = manager.RegisterNotification(TakeNote, nullptr); error != 0)
+    // Called on a thread of the service: it only says what came.
+    const WLAN_NOTIFICATION_CALLBACK takeNote = [](PWLAN_NOTIFICATION_DATA news, PVOID)
+    { std::printf("notification %lu\n", news->NotificationCode); };
+    if (const int error = manager.RegisterNotification(takeNote, nullptr); error != 0)
         std::printf("no notifications: error %d\n", error);
 }
-//! [RegisterNotification]
 
-void StopListening(CWirelessManage& manager)
+void UnRegisterNotification(CWirelessManage& manager)
 {
-    //! [UnRegisterNotification]
     manager.UnRegisterNotification(nullptr, nullptr); // no callback runs any more once this has returned
-    //! [UnRegisterNotification]
 }
 
-} // namespace reference::manager_examples
+} // namespace reference

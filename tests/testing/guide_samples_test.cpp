@@ -19,10 +19,10 @@ void PrintSsid(CWirelessManage& manager, const GUID& adapter);
 bool SwitchOff(CWirelessManage& manager, const GUID& adapter);
 } // namespace guides::with_calvix
 
-namespace reference::network_examples
+namespace reference
 {
-void CountNetworks(CWirelessManage& manager, const GUID& adapter);
-} // namespace reference::network_examples
+void GetAvailableNetworkCount(CWirelessManage& manager, const GUID& adapter);
+} // namespace reference
 
 namespace
 {
@@ -94,7 +94,7 @@ TEST_F(GuideSamples, ReplaceCallsOfTheService)
     EXPECT_EQ("Yard", NetworkAfterAWhile());
     ::testing::internal::CaptureStdout();
     guides::with_calvix::PrintSsid(manager, adapter);
-    reference::network_examples::CountNetworks(manager, adapter);
+    reference::GetAvailableNetworkCount(manager, adapter);
     EXPECT_EQ("Yard\n2 networks\n", ::testing::internal::GetCapturedStdout());
     EXPECT_TRUE(guides::with_calvix::SwitchOff(manager, adapter));
     EXPECT_EQ(0, manager.PhyRadioIsOn2(&adapter));
