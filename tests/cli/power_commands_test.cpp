@@ -110,6 +110,14 @@ TEST_F(PowerCommands, SaverMakesAndActivatesACopy)
     EXPECT_EQ(2u, after.power.schemes[3].values[1].ac);
 }
 
+TEST_F(PowerCommands, PrivilegeStaysEnabled)
+{
+    Scenario world;
+    world.privileges = {{"SeShutdownPrivilege", false}};
+    EXPECT_EQ(kSuccess, RunAndKeep(world, {"power", "privilege", "SeShutdownPrivilege"}).exitCode);
+    EXPECT_TRUE(after.privileges[0].enabled);
+}
+
 /// The program on a computer whose operations are made to fail one by one.
 class RefusedPower : public CliTest
 {
@@ -136,6 +144,13 @@ TEST_F(RefusedPower, SaverLooksAtTheListOnceAndRefuses)
     EXPECT_EQ(kBadInput, Run({"power", "saver", "--yes"}).exitCode);
     EXPECT_EQ(1u, m_computer.CallCount("PowerEnumerate"));
     EXPECT_EQ(Scenario{}, m_simulated.Snapshot());
+}
+
+TEST_F(RefusedPower, NothingSleepsWithoutAToken)
+{
+    m_computer.Fail("OpenProcessToken", 5);
+    EXPECT_EQ(kFailed, Run({"power", "sleep", "--yes"}).exitCode);
+    EXPECT_EQ(0u, m_simulated.SuspendCount());
 }
 
 TEST_F(RefusedPower, TheRefusedStepIsNamed)

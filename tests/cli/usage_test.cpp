@@ -90,6 +90,12 @@ TEST_F(CommonOptions, SaveAlsoWhatAFailedCommandLeft)
     EXPECT_NO_THROW(simulation::LoadScenario(saved));
 }
 
+TEST_F(CommonOptions, SaveNothingWhereNothingIsSimulated)
+{
+    EXPECT_EQ(kBadInput, Run({"explain", "--save", PathFor("saved.json")}).exitCode);
+    EXPECT_EQ("", Content(PathFor("saved.json")));
+}
+
 TEST_F(Usage, ShowsEveryCommandsOptionsWithAnExample)
 {
     for (const host::Command& command : host::AllCommands().commands)
