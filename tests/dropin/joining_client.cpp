@@ -131,9 +131,9 @@ DWORD AwaitConnection(WLAN_CONNECTION_PARAMETERS& parameters)
     const std::size_t before = news.Count();
     parameters.dot11BssType = dot11_BSS_type_infrastructure;
     CHECK_ANSWER(ERROR_SUCCESS, WlanConnect(client, &adapter, &parameters, nullptr));
-    const NewsItem completed = news.Await(wlan_notification_acm_connection_complete, before);
-    CHECK(completed.code != 0);
-    return completed.reason;
+    const auto completed = news.Await(wlan_notification_acm_connection_complete, before);
+    CHECK(completed.has_value());
+    return completed ? completed->reason : 0;
 }
 
 void CheckTemporaryProfile()

@@ -70,9 +70,8 @@ public:
     {
         const std::size_t before = m_news.Count();
         CHECK_ANSWER(ERROR_SUCCESS, WlanScan(m_client, &m_adapter, nullptr, nullptr, nullptr));
-        const NewsItem completed = m_news.Await(wlan_notification_acm_scan_complete, before);
-        CHECK(completed.code == wlan_notification_acm_scan_complete);
-        CHECK(completed.thread != std::this_thread::get_id());
+        const auto completed = m_news.Await(wlan_notification_acm_scan_complete, before);
+        CHECK(completed && completed->thread != std::this_thread::get_id());
     }
 
     void ListNetworks()
@@ -116,9 +115,9 @@ public:
         parameters.strProfile = profileName;
         parameters.dot11BssType = dot11_BSS_type_infrastructure;
         CHECK_ANSWER(ERROR_SUCCESS, WlanConnect(m_client, &m_adapter, &parameters, nullptr));
-        CHECK(m_news.Await(wlan_notification_acm_connection_start, before).code != 0);
-        const NewsItem completed = m_news.Await(wlan_notification_acm_connection_complete, before);
-        CHECK(completed.code != 0 && completed.reason == 0);
+        CHECK(m_news.Await(wlan_notification_acm_connection_start, before).has_value());
+        const auto completed = m_news.Await(wlan_notification_acm_connection_complete, before);
+        CHECK(completed && completed->reason == 0);
         CHECK_ANSWER(ERROR_SUCCESS, QueryConnection());
     }
 
@@ -126,7 +125,7 @@ public:
     {
         const std::size_t before = m_news.Count();
         CHECK_ANSWER(ERROR_SUCCESS, WlanDisconnect(m_client, &m_adapter, nullptr));
-        CHECK(m_news.Await(wlan_notification_acm_disconnected, before).code != 0);
+        CHECK(m_news.Await(wlan_notification_acm_disconnected, before).has_value());
         CHECK_ANSWER(ERROR_INVALID_STATE, QueryConnection());
     }
 

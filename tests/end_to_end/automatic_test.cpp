@@ -22,7 +22,7 @@ const Place ferry{"Ferry", L"Ferry", "02:A7:00:04:00:01"};
 TEST(Automatic, WalkAlongTheHarbour)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     ASSERT_EQ(WhereConnected(adapter), weakHarbour);
     EXPECT_EQ(Manager().GetSignalQuality(&adapter), 50);
 
@@ -60,7 +60,7 @@ TEST(Automatic, WalkAlongTheHarbour)
 TEST(Automatic, SomeAreStoppedByWindows)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     wchar_t wide[2] = L"";
     if (::MultiByteToWideChar(CP_UTF8, MB_PRECOMPOSED | MB_ERR_INVALID_CHARS, "a", -1, wide, 2) == 0)
     {
@@ -76,7 +76,7 @@ TEST(Automatic, SomeAreStoppedByWindows)
 TEST(Automatic, ReconnectsToWhatItRemembers)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     char profile[] = "Harbour";
     ASSERT_EQ(Manager().LinkProfile(&adapter, profile), 0);
     ASSERT_EQ(ConnectedAfter(news, 0, adapter).ssid, "Harbour");
@@ -97,15 +97,15 @@ TEST(Automatic, ReconnectsToWhatItRemembers)
 TEST(Automatic, NewConnectionTakesTheOldOneDownFirst)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     ASSERT_NE(WhereConnected(adapter), Place{});
     char profile[] = "Pier";
     ASSERT_EQ(Manager().LinkProfile(&adapter, profile), 0);
     const auto complete = news.Await(wlan_notification_acm_connection_complete, 0);
     ASSERT_TRUE(complete);
     EXPECT_EQ(complete->profile, L"Pier");
-    EXPECT_NE(complete->thread, ::GetCurrentThreadId());
-    std::vector<DWORD> codes = news.Codes(0);
+    EXPECT_NE(complete->thread, std::this_thread::get_id());
+    std::vector<DWORD> codes = news.Codes();
     constexpr DWORD scanListRefresh = 26; // some SDKs lack it
     std::erase(codes, scanListRefresh);
     std::erase(codes, static_cast<DWORD>(wlan_notification_acm_scan_complete)); // the service scans when it likes
@@ -117,10 +117,10 @@ TEST(Automatic, NewConnectionTakesTheOldOneDownFirst)
 TEST(Automatic, NothingIsDeliveredAfterTheEndOfARegistration)
 {
     const GUID adapter = FirstAdapter();
-    std::optional<News> first;
+    std::optional<LibraryNews> first;
     first.emplace();
     first.reset();
-    const News second;
+    const LibraryNews second;
     EXPECT_EQ(Manager().Rescan(), 0);
     EXPECT_TRUE(second.Await(wlan_notification_acm_scan_complete, 0));
     EXPECT_EQ(Manager().WiFiIsConnected(&adapter), 1);

@@ -1,5 +1,5 @@
 /* What the tests start. Called without arguments, as CreateProcRunExe calls it, it leaves the file "companion.ran" in
-   the folder where it lies. "--leave FILE" leaves that file; "--stay EVENT" sets the named event and never ends. */
+   the folder where it lies; "--leave FILE" leaves that file. */
 
 #include <windows.h>
 
@@ -39,11 +39,6 @@ int main(int argc, char** argv)
     if (argc == 3 && strcmp(argv[1], "--leave") == 0)
     {
         return Leave(argv[2]);
-    }
-    if (argc == 3 && strcmp(argv[1], "--stay") == 0)
-    {
-        SetEvent(OpenEventA(EVENT_MODIFY_STATE, FALSE, argv[2]));
-        Sleep(INFINITE);
     }
     return LeaveBesideMe();
 }

@@ -92,14 +92,14 @@ TEST_F(Home, MovesProfiles)
 
 TEST_F(Home, ScansWhenAsked)
 {
-    const News news;
+    const LibraryNews news;
     EXPECT_EQ(Manager().Rescan(), 0);
     EXPECT_TRUE(news.Await(wlan_notification_acm_scan_complete, 0));
 }
 
 TEST_F(Home, IsJoinedAndLeft)
 {
-    const News news;
+    const LibraryNews news;
     char profile[] = "Lindenhof";
     ASSERT_EQ(Manager().LinkProfile(&adapter, profile), 0);
     EXPECT_EQ(ConnectedAfter(news, 0, adapter), (Place{"Lindenhof", L"Lindenhof", "02:1A:50:10:00:01"}));

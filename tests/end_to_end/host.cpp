@@ -9,6 +9,23 @@
 namespace calvix::test
 {
 
+std::filesystem::path OwnFolder()
+{
+    wchar_t program[1024] = L"";
+    ::GetModuleFileNameW(nullptr, program, 1024);
+    return std::filesystem::path(program).parent_path();
+}
+
+LibraryNews::LibraryNews()
+{
+    EXPECT_EQ(Manager().RegisterNotification(&News::Hear, static_cast<News*>(this)), 0);
+}
+
+LibraryNews::~LibraryNews()
+{
+    EXPECT_EQ(Manager().UnRegisterNotification(&News::Hear, static_cast<News*>(this)), 0);
+}
+
 GUID FirstAdapter()
 {
     std::vector<WLAN_INTERFACE_INFO> adapters;

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "end_to_end/news.h"
+#include "dropin/news.h"
 
 #include <calvix/wireless_manage.h>
 
+#include <filesystem>
 #include <iosfwd>
 #include <string>
 
@@ -15,6 +16,19 @@ inline CWirelessManage& Manager()
 {
     return *CWirelessManage::Get();
 }
+
+/// Where this program lies, with everything that is shipped beside it.
+std::filesystem::path OwnFolder();
+
+/// The notifications that the library passes on while this object lives; it passes them on to one at a time.
+class LibraryNews final : public News
+{
+public:
+    LibraryNews();
+    ~LibraryNews();
+    LibraryNews(const LibraryNews&) = delete;
+    LibraryNews& operator=(const LibraryNews&) = delete;
+};
 
 /// The GUID of the computer's first adapter, zeroes where it has none.
 GUID FirstAdapter();

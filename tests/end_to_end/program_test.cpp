@@ -1,10 +1,9 @@
 // The command-line host, which is a program like any other to the library beside it. scenarios/home.json.
 
 #include "dropin/child_process.h"
+#include "end_to_end/host.h"
 
 #include <gtest/gtest.h>
-
-#include <windows.h>
 
 #include <string>
 
@@ -15,10 +14,7 @@ namespace
 
 ProgramEnd RunCalvix(const std::wstring& arguments)
 {
-    wchar_t path[1024] = L"";
-    ::GetModuleFileNameW(nullptr, path, 1024);
-    const std::wstring own = path;
-    return RunProgram(own.substr(0, own.rfind(L'\\') + 1) + L"calvix.exe", {}, arguments);
+    return RunProgram((OwnFolder() / "calvix.exe").wstring(), {}, arguments);
 }
 
 void ExpectIn(const ProgramEnd& end, const char* text)
@@ -34,18 +30,32 @@ TEST(Program, ListsNetworksOfTheScenario)
     ExpectIn(end, "PrinterSetup-4711");
 }
 
-TEST(Program, ConnectsAndWaitsForTheConnection)
-{
-    const ProgramEnd end = RunCalvix(L"connect Lindenhof");
-    EXPECT_EQ(end.exitCode, 0u) << end.errors;
-    ExpectIn(end, "02:1A:50:10:00:01");
-}
-
 TEST(Program, ReportsAProfileThatIsNotStored)
 {
     const ProgramEnd end = RunCalvix(L"connect \"Nobody's\"");
     EXPECT_NE(end.exitCode, 0u);
     EXPECT_NE(end.errors, "");
+}
+
+// What it records of the system's WLAN library, the drop-in here, plays back without one: lists and notifications.
+TEST(Program, ReplaysWhatItRecorded)
+{
+    const std::filesystem::path file = OwnFolder() / "session.jsonl";
+    const std::wstring quoted = L'"' + file.wstring() + L'"';
+    const std::pair<std::wstring, const char*> commands[] = {{L"networks --json", "Lindenhof Garden"},
+                                                             {L"connect Lindenhof", "02:1A:50:10:00:01"}};
+    for (const auto& [command, shown] : commands)
+    {
+        SCOPED_TRACE(testing::PrintToString(command));
+        const ProgramEnd recorded = RunCalvix(command + L" --record " + quoted);
+        const ProgramEnd replayed = RunCalvix(command + L" --replay " + quoted);
+        EXPECT_EQ(recorded.exitCode, 0u) << recorded.errors;
+        ExpectIn(recorded, shown);
+        EXPECT_EQ(recorded.output, replayed.output);
+        EXPECT_EQ(recorded.errors, replayed.errors);
+        EXPECT_EQ(recorded.exitCode, replayed.exitCode);
+    }
+    std::filesystem::remove(file);
 }
 
 } // namespace

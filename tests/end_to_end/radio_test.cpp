@@ -12,7 +12,7 @@ namespace
 TEST(Cabin, RadioTakesTheConnectionWithItAndTheServiceBringsItBack)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     ASSERT_EQ(WhereConnected(adapter).profile, L"Cabin");
     EXPECT_EQ(Manager().PhyRadioIsOn(&adapter), 1);
 
@@ -34,7 +34,7 @@ TEST(Cabin, RadioTakesTheConnectionWithItAndTheServiceBringsItBack)
 TEST(Cabin, RadioIsReset)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     ASSERT_EQ(Manager().WiFiIsConnected(&adapter), 1);
     EXPECT_EQ(Manager().ResetWiFiRadio(&adapter), 0);
     EXPECT_EQ(Manager().PhyRadioIsOn(&adapter), 1);

@@ -16,7 +16,7 @@ namespace
 TEST(Office, RoamsToANearAccessPoint)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     ASSERT_EQ(WhereConnected(adapter), (Place{"Brightwater Staff", L"Brightwater Staff", "02:B8:00:03:00:02"}));
     EXPECT_EQ(Manager().GetSignalQuality(&adapter), 42);
     EXPECT_EQ(Manager().Roaming(&adapter), 0);
@@ -51,7 +51,7 @@ TEST(Office, CountsFrames)
 TEST(Tunnel, LostNetworkIsJoinedAgainByTheService)
 {
     const GUID adapter = FirstAdapter();
-    const News news;
+    const LibraryNews news;
     ASSERT_EQ(WhereConnected(adapter).profile, L"Mountain Line");
     const auto lost = news.Await(wlan_notification_acm_disconnected, 0);
     ASSERT_TRUE(lost);

@@ -33,37 +33,14 @@ struct Codes
 };
 
 const Codes kCodes[] = {
+    {{-1, -4}, {"ConnectBestAP", "AutoConnect", "AutoConnectEx", "ConnectAutoMode", "PreRoaming", "Roaming"}},
     {{-1, -4},
-     {"ConnectBestAP",
-      "AutoConnect",
-      "AutoConnectEx",
-      "ConnectAutoMode",
-      "PreRoaming",
-      "Roaming",
-      "GetCurrentConnection(GUID const*",
-      "GetCurrentWiFi",
-      "GetWlanStatistics",
-      "Reconnect",
-      "RecoverConnection",
-      "ResetConnection",
-      "SaveCurrentConnectionAttributes",
-      "RecoverConnetionAttributes",
-      "RecoverConnNotificationData",
-      "Rescan(GUID const*",
-      "GetNotConnectableReason",
-      "GetRssi",
-      "GetCurrentRSSI",
-      "GetSignalQuality",
-      "DeleteProfile",
-      "GetProfileCount",
-      "GetProfile",
-      "SetProfile",
-      "IsAutoConnMode2",
-      "PhyRadioIsOn2",
-      "PhyRadioTurnedOff2",
-      "RadioTurnOn",
-      "TurnOnSoftwareRadio",
-      "RadioTurnOff"}},
+     {"GetCurrentConnection(GUID const*", "GetCurrentWiFi", "GetWlanStatistics", "Reconnect", "RecoverConnection",
+      "ResetConnection", "SaveCurrentConnectionAttributes", "RecoverConnetionAttributes",
+      "RecoverConnNotificationData"}},
+    {{-1, -4}, {"Rescan(GUID const*", "GetNotConnectableReason", "GetRssi", "GetCurrentRSSI", "GetSignalQuality"}},
+    {{-1, -4}, {"DeleteProfile", "GetProfileCount", "GetProfile", "SetProfile", "IsAutoConnMode2"}},
+    {{-1, -4}, {"PhyRadioIsOn2", "PhyRadioTurnedOff2", "RadioTurnOn", "TurnOnSoftwareRadio", "RadioTurnOff"}},
     {{-1, -3},
      {"AutoSwitch", "GetCurrentConnection(WLAN_CONNECTION_ATTRIBUTES*", "GetCurrentSSID", "Rescan()", "GetAP",
       "GetCurrentBSS", "GetWlanInterfaceGuid", "GetWlanInterface"}},
@@ -210,6 +187,9 @@ public:
     {
         constexpr DWORD kAgainstHangs = 600'000;
         EXPECT_EQ(::WaitForSingleObject(m_program.hProcess, kAgainstHangs), WAIT_OBJECT_0) << "it is still there";
+        DWORD exitCode = 1;
+        EXPECT_TRUE(::GetExitCodeProcess(m_program.hProcess, &exitCode));
+        EXPECT_EQ(exitCode, 0u);
         ::CloseHandle(m_program.hThread);
         ::CloseHandle(m_program.hProcess);
     }
