@@ -128,10 +128,4 @@ void CheckFailure(LibraryTest& test, const FailureRow& row)
     test.UseWorld(world);
 }
 
-void CheckFailures(LibraryTest& test, const std::vector<FailureRow>& rows)
-{
-    for (const FailureRow& row : rows)
-        CheckFailure(test, row);
-}
-
 } // namespace calvix::test

@@ -1,15 +1,14 @@
 #pragma once
 
-// Tables of the ways in which methods fail, one row a way:
+// The ways in which methods fail, one row a way:
 //
-//     CheckFailures(*this, {
-//         {"Rescan()", [](auto& m) { return m.Rescan(); }, "WlanScan", -4, {"WlanScan failed with error: %u"}},
-//         {"GetAP", [](auto& m) { auto ssid = MakeSsid("HomeNet"); return m.GetAP(&kAdapterA, &ssid); },
-//          "WlanGetAvailableNetworkList", -3, {"WlanGetAvailableNetworkList failed with error: %u"},
-//          TraceBuffer::local},
-//         {.method = "Rescan()", .call = [](auto& m) { return m.Rescan(); }, .expected = -3,
-//          .traced = {"No valid WLAN adapter"}, .prepare = [](auto& t) { t.UseWorld(NoAdapterWorld()); }},
-//     });
+//     CheckFailure(*this, {"Rescan()", [](auto& m) { return m.Rescan(); }, "WlanScan", -4,
+//                          {"WlanScan failed with error: %u"}});
+//     CheckFailure(*this, {.method = "Rescan()", .call = [](auto& m) { return m.Rescan(); }, .expected = -3,
+//                          .traced = {"No valid WLAN adapter"},
+//                          .prepare = [](auto& t) { t.UseWorld(NoAdapterWorld()); }});
+//
+// What methods have in common is in unit/failure_contracts.cpp.
 
 #include "support/library_test.h"
 
@@ -49,7 +48,5 @@ struct FailureRow
 /// tracing off, too), that the failure was met, and that nothing is held afterwards. A failing WlanOpenHandle finds the
 /// client handle closed.
 void CheckFailure(LibraryTest& test, const FailureRow& row);
-
-void CheckFailures(LibraryTest& test, const std::vector<FailureRow>& rows);
 
 } // namespace calvix::test

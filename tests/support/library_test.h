@@ -20,8 +20,6 @@
 //         EXPECT_EQ("WlanScan failed with error: 2150899714", sharedTrace());
 //     }
 //
-//     TEST_F(ScanTest, FailureTable) { CheckFailures(*this, { /* rows of support/contract_table.h */ }); }
-//
 // Before a test the computer is fresh (RichWorld of support/test_worlds.h, or the world given to the constructor or to
 // UseWorld), the client handle is open, tracing is on, the shared trace buffer is marked and nothing is recorded yet.
 // After it nothing may be held: no block of the service, no handle, no client, and no defect that was not announced.

@@ -3,8 +3,6 @@
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/failures.h"
-#include "unit/inventory/trace_texts.h"
 
 #include <string>
 
@@ -171,18 +169,6 @@ TEST_F(SmartSwitchTest, NoMoreThanTheSsidIsRead)
     tooLong.uSSIDLength = 200;
     EXPECT_EQ(0, SwitchFrom(tooLong, 75));
     EXPECT_EQ('"' + std::string(32, 's') + '"', call("MultiByteToWideChar")["source"]);
-}
-
-TEST_F(SmartSwitchTest, Failures)
-{
-    const Failures change(*this, "SmartSwitch", Smart, TraceBuffer::local);
-    change.When("WlanOpenHandle", -1);
-    change.When("WlanQueryInterface", 5);
-    change.WhenTracing("MultiByteToWideChar", 5, {"Profile Name error: %u"});
-    change.When("WlanGetProfileList", 5);
-    change.When("WlanGetAvailableNetworkList", 5);
-    change.When("WlanConnect", 5);
-    change.In(DisconnectedWorld(), 5023, {kNotConnected});
 }
 
 } // namespace calvix::test::auto_switch_test

@@ -3,7 +3,6 @@
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/failures.h"
 
 #include <string>
 
@@ -120,6 +119,9 @@ TEST_F(ConnectAutoModeTest, ProfilesThatAreNotAutomaticAreNotUsed)
     UseWorld(WorldOf({Profile("Net", "manual")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(-9, AutoMode(manager()));
     EXPECT_EQ(0u, callCount("MultiByteToWideChar"));
+    UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+    EXPECT_EQ(-9, AutoMode(manager())) << "nor are those of networks out of view";
+    EXPECT_TRUE(traced().empty());
     UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50)}));
     for (const wchar_t* text : {L"", L"</connectionMode>", L"<connectionMode>Auto</connectionMode>"})
     {
@@ -145,24 +147,6 @@ TEST_F(ConnectAutoModeTest, AModeTooFarBackIsNotFound)
         UseWorld(WorldOf({{xml}}, {Heard("Net", 2412000, -50)}));
         EXPECT_EQ(expected, AutoMode(manager())) << room;
     }
-}
-
-// --- Failures ---------------------------------------------------------------------------------------------------
-
-TEST_F(ConnectAutoModeTest, Failures)
-{
-    const char* const unread = "WlanGetProfile failed with error: %u";
-    const Failures connect(*this, "ConnectAutoMode", AutoMode, TraceBuffer::local);
-    connect.When("WlanOpenHandle", -1);
-    connect.When("WlanGetProfileList", -4);
-    connect.When("WlanGetAvailableNetworkList", -6);
-    connect.When("WlanGetProfile", -9, {unread, unread});
-    connect.WhenTracing("MultiByteToWideChar", -9, {});
-    connect.In(NoProfileWorld(), -5, {"No network profile: 4294967291"});
-    connect.In(SilentWorld(), -7, {"No available network: 4294967289"});
-    connect.In(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}), -9);
-    // Deliberate: a walk on which every request was refused reports success.
-    connect.When("WlanConnect", 0, {kConnectFailed});
 }
 
 } // namespace calvix::test::connect_auto_mode_test

@@ -3,8 +3,6 @@
 #include "unit/autoconnect/requests.h"
 #include "unit/autoconnect/small_worlds.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/failures.h"
-#include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
 #include <cstring>
@@ -17,15 +15,6 @@ using ::testing::ElementsAre;
 
 namespace
 {
-
-/// SmartConnecting, which has to leave the text alone unless it returns 0 with a connection.
-long long ConnectWritingNothing(CWirelessManage& manager)
-{
-    char name[128] = "marked";
-    const int code = manager.SmartConnecting(&kAdapterA, name);
-    EXPECT_STREQ("marked", name);
-    return code;
-}
 
 class SmartConnectingTest : public LibraryTest
 {
@@ -94,23 +83,9 @@ TEST_F(SmartConnectingTest, TheFirstNetworkOfTheProfileIsTaken)
         std::copy_n(L"First", 6, list.Network[0].strProfileName);
         list.Network[0].dot11BssType = dot11_BSS_type_independent;
     };
-    EXPECT_EQ(87, ConnectWritingNothing(manager())) << "the profile is of another BSS type";
+    EXPECT_EQ(87, manager().SmartConnecting(&kAdapterA, nullptr)) << "the profile is of another BSS type";
     EXPECT_EQ(1u, callCount("WlanConnect"));
     EXPECT_EQ(ConnectLine("First", "null", "independent"), call("WlanConnect").line);
-}
-
-TEST_F(SmartConnectingTest, Failures)
-{
-    const Failures connect(*this, "SmartConnecting", ConnectWritingNothing, TraceBuffer::local);
-    connect.When("WlanOpenHandle", -1);
-    connect.When("WlanEnumInterfaces", 5);
-    connect.When("WlanGetProfileList", 5);
-    connect.When("WlanGetAvailableNetworkList", 5);
-    connect.When("WlanConnect", 5);
-    connect.In(NoProfileWorld(), -2);
-    connect.In(SilentWorld(), -2);
-    // Deliberate: no adapter reads as success.
-    connect.In(NoAdapterWorld(), 0, {kNoAdapterText});
 }
 
 } // namespace calvix::test::smart_connecting_test

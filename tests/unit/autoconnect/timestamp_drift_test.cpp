@@ -68,11 +68,6 @@ std::vector<std::string> ThreeTimes(const std::string& line)
     return {line, line, line};
 }
 
-long long Drift(CWirelessManage& manager)
-{
-    return manager.GetMatchBSSID(&kAdapterA);
-}
-
 } // namespace
 
 TEST_F(TimestampDriftTest, LooksThreeTimesASecondApart)
@@ -116,7 +111,6 @@ TEST_F(TimestampDriftTest, EveryProfileIsNamedAndEveryMatchFollowed)
     EXPECT_EQ(0u, callCount("WlanGetProfile")) << "manual profiles are followed, too";
 }
 
-// Deliberate: 16-bit arithmetic over the time of day, so that a step back or across midnight wraps.
 TEST_F(TimestampDriftTest, LongNamesAreCutToATraceOf128Characters)
 {
     const std::string name(200, 'n');
@@ -129,6 +123,7 @@ TEST_F(TimestampDriftTest, LongNamesAreCutToATraceOf128Characters)
     EXPECT_TRUE(sharedTraceUntouched());
 }
 
+// Deliberate: 16-bit arithmetic over the time of day, so that a step back or across midnight wraps.
 TEST_F(TimestampDriftTest, OffsetsAreSecondsOfTheDayInSixteenBits)
 {
     const std::string seconds = " sec)";
@@ -187,24 +182,21 @@ TEST_F(TimestampDriftTest, FailuresOfTheBssLists)
     constexpr const char* profile = "ProfileName(Net)";
     constexpr const char* network = "Available Network(Net)";
     constexpr const char* offset = "ullHostTimestamp offset(0 sec)";
-    const auto row = [&](unsigned fromCall, int code, std::vector<std::string> lines)
+    const auto check = [&](unsigned fromCall, int code, std::vector<std::string> lines)
     {
-        FailureRow failure{"GetMatchBSSID", Drift, "WlanGetNetworkBssList", code, std::move(lines), TraceBuffer::local};
-        failure.error = 77;
-        failure.fromCall = fromCall;
-        return failure;
+        CheckFailure(*this, {.method = "GetMatchBSSID",
+                             .call = [](auto& m) { return m.GetMatchBSSID(&kAdapterA); },
+                             .failingOperation = "WlanGetNetworkBssList",
+                             .expected = code,
+                             .traced = std::move(lines),
+                             .buffer = TraceBuffer::local,
+                             .fromCall = fromCall,
+                             .ends = fromCall == 1}); // nor is there a wait after it
     };
-    CheckFailures(*this, {row(1, -9, {profile, network, bssFailed}),
-                          row(2, -11, {profile, network, bssFailed, bssFailed, bssFailed}),
-                          row(3, -11, {profile, network, offset, bssFailed, bssFailed}),
-                          row(4, -11, {profile, network, offset, offset, bssFailed})});
-}
-
-TEST_F(TimestampDriftTest, AFailedFirstListIsNotWaitedOn)
-{
-    FailOn("WlanGetNetworkBssList");
-    EXPECT_EQ(-9, Run());
-    EXPECT_EQ(0u, callCount("Sleep"));
+    check(1, -9, {profile, network, bssFailed});
+    check(2, -11, {profile, network, bssFailed, bssFailed, bssFailed});
+    check(3, -11, {profile, network, offset, bssFailed, bssFailed});
+    check(4, -11, {profile, network, offset, offset, bssFailed});
 }
 
 TEST_F(TimestampDriftTest, AnEmptyFirstListIsReleasedTracedAndLeft)

@@ -1,7 +1,5 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/inventory/failures.h"
-#include "unit/inventory/trace_texts.h"
 
 namespace calvix::test::adapters_test
 {
@@ -35,65 +33,11 @@ long long FindGuid(CWirelessManage& manager, const wchar_t* description)
     return code;
 }
 
-/// GetWlanInterface, which leaves the vector alone unless it succeeds.
-long long ListInto(CWirelessManage& manager)
-{
-    std::vector<WLAN_INTERFACE_INFO> list(3);
-    list[2].InterfaceGuid = kNoAdapter;
-    const long code = manager.GetWlanInterface(&list);
-    const bool untouched = list.size() == 3 && list[2].InterfaceGuid == kNoAdapter;
-    EXPECT_EQ(code != 0, untouched);
-    return code;
-}
-
-/// First character of the description, 0 for the empty text.
-long long DescribeFirst(CWirelessManage& manager)
-{
-    return *manager.GetWlanInterfaceDesc(&kAdapterA);
-}
-
 } // namespace
 
 class AdaptersTest : public LibraryTest
 {
 };
-
-// --- Failures ---------------------------------------------------------------------------------------------------
-
-TEST_F(AdaptersTest, EveryWayToFail)
-{
-    const Failures status(*this, "GetWlanStatus", [](auto& m) { return m.GetWlanStatus(&kAdapterA); });
-    status.When("WlanOpenHandle", -2);
-    status.When("WlanEnumInterfaces", -3);
-    status.In(NoAdapterWorld(), -4, {kNoAdapterText});
-
-    const Failures link(*this, "GetWlanIsLink", [](auto& m) { return m.GetWlanIsLink(&kAdapterA) ? 1 : 0; });
-    link.When("WlanOpenHandle", 0);
-    link.When("WlanEnumInterfaces", 0);
-    link.In(NoAdapterWorld(), 0, {kNoAdapterText});
-
-    const Failures guid(*this, "GetWlanInterfaceGuid", [](auto& m) { return FindGuid(m, kAdapterADescription); });
-    guid.When("WlanOpenHandle", -1);
-    guid.When("WlanEnumInterfaces", -2);
-    guid.In(NoAdapterWorld(), -3, {kNoAdapterText});
-
-    const Failures description(*this, "GetWlanInterfaceDesc", DescribeFirst, TraceBuffer::local);
-    description.When("WlanOpenHandle", 0);
-    description.When("WlanEnumInterfaces", 0);
-    description.In(NoAdapterWorld(), 0, {kNoAdapterText});
-    description.WhenTracing("WideCharToMultiByte", 0, {"Wlan Interface Describe: "});
-
-    const Failures count(
-        *this, "GetWiFiAdapterCount", [](auto& m) { return m.GetWiFiAdapterCount(); }, TraceBuffer::local);
-    count.When("WlanOpenHandle", -2);
-    count.When("WlanEnumInterfaces", -3);
-    count.In(NoAdapterWorld(), 0, {kInterfacesReleased});
-
-    const Failures list(*this, "GetWlanInterface", ListInto);
-    list.When("WlanOpenHandle", -1);
-    list.When("WlanEnumInterfaces", -2);
-    list.In(NoAdapterWorld(), -3, {kNoAdapterText});
-}
 
 TEST_F(AdaptersTest, AnUnknownAdapterIsNotTraced)
 {

@@ -1,8 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/failures.h"
-#include "unit/inventory/trace_texts.h"
 
 namespace calvix::test::link_state_test
 {
@@ -118,22 +116,6 @@ TEST_F(LinkStateTest, TheLastEntryOfTheInterfaceDecides)
     const EditedAnswers altered(Twins(kAdapterA, disconnected, connected));
     EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
     EXPECT_EQ(0, manager().WiFiIsDisconnected(&kAdapterA));
-}
-
-// Deliberate: the result does not distinguish a missing connection from a missing service.
-TEST_F(LinkStateTest, EveryFailureReadsAsNo)
-{
-    const Failures isConnected(*this, "WiFiIsConnected", Connected, TraceBuffer::local);
-    isConnected.When("WlanOpenHandle", 0);
-    isConnected.When("WlanEnumInterfaces", 0);
-    isConnected.In(NoAdapterWorld(), 0, {kNoAdapterText});
-
-    const Failures isDisconnected(*this, "WiFiIsDisconnected", Disconnected);
-    isDisconnected.In(DisconnectedWorld(), 1);
-    isDisconnected.In(NoAdapterWorld(), 0, {kNoAdapterText});
-    UseWorld(DisconnectedWorld());
-    isDisconnected.When("WlanOpenHandle", 0);
-    isDisconnected.When("WlanEnumInterfaces", 0);
 }
 
 } // namespace calvix::test::link_state_test

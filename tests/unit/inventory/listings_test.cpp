@@ -1,5 +1,5 @@
+#include "support/contract_table.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/failures.h"
 #include "unit/inventory/listings_fixture.h"
 #include "unit/inventory/trace_texts.h"
 
@@ -273,18 +273,13 @@ TEST_F(ListingsTest, TheSsidIsListedByteByByteAndNoFartherThanItReaches)
 
 // --- Failures ---
 
-TEST_F(ListingsTest, EveryWayToFail)
+TEST_F(ListingsTest, ARefusalEndsTheListingOfItsInterface)
 {
-    const Failures networks(*this, "GetAvailableNetwork", ListNetworks, TraceBuffer::local);
-    networks.When("WlanOpenHandle", 5);
-    // Deliberate: only the trace shows that the list was empty.
-    networks.When("WlanEnumInterfaces", 0);
-    networks.WhenTracing("WlanGetAvailableNetworkList", 1, kNetworkHead + Lines{kNetworksFailed, kInterfacesReleased});
-
-    const Failures bss(*this, "GetNetworkBss", ListBss, TraceBuffer::local);
-    bss.When("WlanOpenHandle", 5);
-    bss.When("WlanEnumInterfaces", 0);
-    bss.WhenTracing("WlanGetNetworkBssList", 1, kBssHead + Lines{kBssFailed, kInterfacesReleased});
+    const auto local = TraceBuffer::local;
+    CheckFailure(*this, {"GetAvailableNetwork", ListNetworks, "WlanGetAvailableNetworkList", 1,
+                         kNetworkHead + Lines{kNetworksFailed, kInterfacesReleased}, local});
+    CheckFailure(*this, {"GetNetworkBss", ListBss, "WlanGetNetworkBssList", 1,
+                         kBssHead + Lines{kBssFailed, kInterfacesReleased}, local});
 }
 
 // A refusal of one interface shows in the result, and the others are listed all the same.

@@ -1,7 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/call_lines.h"
-#include "unit/inventory/failures.h"
 #include "unit/inventory/trace_texts.h"
 
 #include <algorithm>
@@ -32,26 +31,6 @@ long long CurrentRssi(CWirelessManage& manager)
     const int code = manager.GetCurrentRSSI(&kAdapterA, rssi);
     EXPECT_EQ(77, rssi);
     return code;
-}
-
-/// Adapter A still connected to HomeNet, after a scan that did not hear what is gone.
-template <typename Predicate>
-void Lose(LibraryTest& test, Predicate gone)
-{
-    std::erase_if(test.computer().air(), gone);
-    test.manager().Rescan();
-    test.Advance(std::chrono::seconds(4));
-    test.ClearCalls();
-}
-
-void LoseEverything(LibraryTest& test)
-{
-    Lose(test, [](const auto&) { return true; });
-}
-
-void LoseTheConnectedAccessPoint(LibraryTest& test)
-{
-    Lose(test, [](const auto& point) { return point.bssid == kHomeNet24; });
 }
 
 AnswerChanges WithFirstQuality(ULONG quality)
@@ -185,13 +164,6 @@ TEST_F(SignalTest, TheFirstEntryOfTheAccessPointCounts)
     int rssi = 77;
     EXPECT_EQ(0, manager().GetCurrentRSSI(&kAdapterA, rssi));
     EXPECT_EQ(-11, rssi);
-}
-
-TEST_F(SignalTest, CurrentRssiOfANetworkThatIsNotHeardAnyMore)
-{
-    const Failures ask(*this, "GetCurrentRSSI", CurrentRssi, TraceBuffer::local);
-    ask.After(LoseEverything, -6, {kNoBss, kConnectionReleased, kBssReleased});
-    ask.After(LoseTheConnectedAccessPoint, -7, {kConnectionReleased, kBssReleased});
 }
 
 // --- GetWiFiRSSI ---

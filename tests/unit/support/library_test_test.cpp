@@ -103,13 +103,13 @@ TEST_F(LibraryTestTest, SurvivesATestThatDeletesTheManager)
 TEST_F(LibraryTestTest, AcceptsRowsThatHold)
 {
     const auto rescan = [](CWirelessManage& m) { return m.Rescan(); };
-    CheckFailures(*this, {RescanRow(),
-                          {.method = "Rescan()",
-                           .call = rescan,
-                           .expected = -3,
-                           .traced = {"No valid WLAN adapter"},
-                           .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }},
-                          {"Rescan()", rescan, "WlanOpenHandle", -1, {"WlanOpenHandle failed with error: %u"}}});
+    CheckFailure(*this, RescanRow());
+    CheckFailure(*this, {.method = "Rescan()",
+                         .call = rescan,
+                         .expected = -3,
+                         .traced = {"No valid WLAN adapter"},
+                         .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }});
+    CheckFailure(*this, {"Rescan()", rescan, "WlanOpenHandle", -1, {"WlanOpenHandle failed with error: %u"}});
     EXPECT_EQ(2, manager().GetWiFiAdapterCount()) << "a row's world ends with it";
 }
 
