@@ -38,9 +38,7 @@ TEST_F(Connecting, TakesItsTimeThroughAllStates)
     EXPECT_EQ(InterfaceState(), wlan_interface_state_authenticating);
     computer->Advance(milliseconds(499));
     EXPECT_EQ(InterfaceState(), wlan_interface_state_authenticating);
-    DWORD error = ERROR_SUCCESS;
-    EXPECT_FALSE(Connection(&error).has_value());
-    EXPECT_EQ(error, ERROR_INVALID_STATE);
+    EXPECT_EQ(ErrorOf(wlan_intf_opcode_current_connection), ERROR_INVALID_STATE);
     computer->Advance(milliseconds(1));
     EXPECT_EQ(InterfaceState(), wlan_interface_state_connected);
 }
@@ -205,9 +203,7 @@ TEST_F(Connected, UntilDisconnected)
 {
     EXPECT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
     EXPECT_EQ(InterfaceState(), wlan_interface_state_disconnected);
-    DWORD error = ERROR_SUCCESS;
-    EXPECT_FALSE(Connection(&error).has_value());
-    EXPECT_EQ(error, ERROR_INVALID_STATE);
+    EXPECT_EQ(ErrorOf(wlan_intf_opcode_current_connection), ERROR_INVALID_STATE);
     EXPECT_EQ(Wlan().WlanDisconnect(client, &first, nullptr), ERROR_SUCCESS);
 }
 
@@ -266,9 +262,7 @@ TEST_F(Connected, StatesInPassingAreReportedAsDriversReportThem)
     EXPECT_EQ(InterfaceState(), wlan_interface_state_authenticating);
     EXPECT_EQ(Connection().value().isState, wlan_interface_state_authenticating);
     computer->SetInterfaceState(0, wlan_interface_state_disconnected);
-    DWORD error = ERROR_SUCCESS;
-    EXPECT_FALSE(Connection(&error).has_value());
-    EXPECT_EQ(error, ERROR_INVALID_STATE);
+    EXPECT_EQ(ErrorOf(wlan_intf_opcode_current_connection), ERROR_INVALID_STATE);
 }
 
 } // namespace calvix::simulation::connection_test

@@ -92,11 +92,7 @@ TEST_F(InterfaceQueries, WhatSpeaksOfAConnectionNeedsOne)
     Start();
     for (const auto opcode :
          {wlan_intf_opcode_current_connection, wlan_intf_opcode_rssi, wlan_intf_opcode_channel_number})
-    {
-        DWORD error = ERROR_SUCCESS;
-        EXPECT_FALSE(Query<LONG>(opcode, &error).has_value());
-        EXPECT_EQ(error, ERROR_INVALID_STATE) << opcode;
-    }
+        EXPECT_EQ(ErrorOf(opcode), ERROR_INVALID_STATE) << opcode;
 }
 
 TEST_F(InterfaceQueries, SignalStrengthNeedsNoLocationConsent)
@@ -105,9 +101,7 @@ TEST_F(InterfaceQueries, SignalStrengthNeedsNoLocationConsent)
     scenario.locationConsent = false;
     Start();
     EXPECT_EQ(Query<std::int32_t>(wlan_intf_opcode_rssi), -50);
-    DWORD error = ERROR_SUCCESS;
-    EXPECT_FALSE(Connection(&error).has_value());
-    EXPECT_EQ(error, ERROR_ACCESS_DENIED);
+    EXPECT_EQ(ErrorOf(wlan_intf_opcode_current_connection), ERROR_ACCESS_DENIED);
 }
 
 TEST_F(InterfaceQueries, TheLinkHasTheRatesOfTheScenario)
@@ -158,9 +152,7 @@ TEST_F(InterfaceQueries, SafeModeIsSupportedAndUnknownThingsAreNot)
 {
     Start();
     EXPECT_EQ(Query<BOOL>(wlan_intf_opcode_supported_safe_mode), TRUE);
-    DWORD error = ERROR_SUCCESS;
-    EXPECT_FALSE(Query<BOOL>(wlan_intf_opcode_ihv_start, &error).has_value());
-    EXPECT_EQ(error, ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(ErrorOf(wlan_intf_opcode_ihv_start), ERROR_NOT_SUPPORTED);
 }
 
 } // namespace calvix::simulation::interface_queries_test

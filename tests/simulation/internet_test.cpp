@@ -72,8 +72,8 @@ TEST_F(InternetTest, RefusedAddresses)
 
 TEST_F(InternetTest, RefusedArguments)
 {
-    EXPECT_FALSE(Internet().InternetCheckConnectionA("http://example.org/", FLAG_ICC_FORCE_CONNECTION, 1));
-    EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ErrorOf(Internet().InternetCheckConnectionA("http://example.org/", FLAG_ICC_FORCE_CONNECTION, 1)),
+              ERROR_INVALID_PARAMETER);
     EXPECT_EQ(ErrorOf(Internet().InternetCheckConnectionA("http://example.org/", 2, 0)), ERROR_INVALID_PARAMETER);
     EXPECT_TRUE(Internet().InternetCheckConnectionA("HTTP://example.org/", 0, 0));
 }

@@ -71,10 +71,7 @@ TEST_F(ProcessTest, AProgramIsStartedByItsPath)
 TEST_F(ProcessTest, APathIsNotSearchedFor)
 {
     for (const char* path : {"report.exe", "C:\\Tools\\report", "C:\\Tools\\none.exe", ""})
-    {
-        EXPECT_FALSE(Create(path)) << path;
-        EXPECT_EQ(LastError(), ERROR_FILE_NOT_FOUND) << path;
-    }
+        EXPECT_EQ(ErrorOf(Create(path)), ERROR_FILE_NOT_FOUND) << path;
 }
 
 TEST_F(ProcessTest, ACommandLineNamesItsProgramFirst)

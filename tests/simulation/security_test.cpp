@@ -28,8 +28,8 @@ TEST_F(SecurityTest, LookingUpTakesANameAndAPlaceOnThisMachine)
 {
     LUID luid{};
     EXPECT_EQ(ErrorOf(Security().LookupPrivilegeValueA(nullptr, nullptr, &luid)), ERROR_INVALID_PARAMETER);
-    EXPECT_FALSE(Security().LookupPrivilegeValueA(nullptr, "SeShutdownPrivilege", nullptr));
-    EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ErrorOf(Security().LookupPrivilegeValueA(nullptr, "SeShutdownPrivilege", nullptr)),
+              ERROR_INVALID_PARAMETER);
     EXPECT_EQ(ErrorOf(Security().LookupPrivilegeValueA("elsewhere", "SeShutdownPrivilege", &luid)), 1722u);
     EXPECT_TRUE(Security().LookupPrivilegeValueA("", "SeShutdownPrivilege", &luid));
 }
@@ -39,23 +39,23 @@ TEST_F(SecurityTest, APlatformWithoutTokensHasNoneOfTheOperations)
     scenario.tokens = false;
     HANDLE token = nullptr;
     LUID luid{};
-    EXPECT_FALSE(Security().OpenProcessToken(Processes().GetCurrentProcess(), TOKEN_QUERY, &token));
-    EXPECT_EQ(LastError(), ERROR_CALL_NOT_IMPLEMENTED);
+    EXPECT_EQ(ErrorOf(Security().OpenProcessToken(Processes().GetCurrentProcess(), TOKEN_QUERY, &token)),
+              ERROR_CALL_NOT_IMPLEMENTED);
     EXPECT_EQ(token, nullptr);
-    EXPECT_FALSE(Security().LookupPrivilegeValueA(nullptr, "SeShutdownPrivilege", &luid));
-    EXPECT_EQ(LastError(), ERROR_CALL_NOT_IMPLEMENTED);
-    EXPECT_FALSE(Security().AdjustTokenPrivileges(nullptr, TRUE, nullptr, 0, nullptr, nullptr));
-    EXPECT_EQ(LastError(), ERROR_CALL_NOT_IMPLEMENTED);
+    EXPECT_EQ(ErrorOf(Security().LookupPrivilegeValueA(nullptr, "SeShutdownPrivilege", &luid)),
+              ERROR_CALL_NOT_IMPLEMENTED);
+    EXPECT_EQ(ErrorOf(Security().AdjustTokenPrivileges(nullptr, TRUE, nullptr, 0, nullptr, nullptr)),
+              ERROR_CALL_NOT_IMPLEMENTED);
 }
 
 TEST_F(SecurityTest, AnswersNeedAPlace)
 {
-    EXPECT_FALSE(Security().OpenProcessToken(Processes().GetCurrentProcess(), TOKEN_QUERY, nullptr));
-    EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ErrorOf(Security().OpenProcessToken(Processes().GetCurrentProcess(), TOKEN_QUERY, nullptr)),
+              ERROR_INVALID_PARAMETER);
     const HANDLE token = OpenToken(TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY);
     TOKEN_PRIVILEGES previous{};
-    EXPECT_FALSE(Security().AdjustTokenPrivileges(token, TRUE, nullptr, sizeof(previous), &previous, nullptr));
-    EXPECT_EQ(LastError(), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ErrorOf(Security().AdjustTokenPrivileges(token, TRUE, nullptr, sizeof(previous), &previous, nullptr)),
+              ERROR_INVALID_PARAMETER);
     Close(token);
 }
 

@@ -35,16 +35,14 @@ TEST_F(ServiceControlTest, AStoppedServiceCanBeStarted)
 
 TEST_F(ServiceControlTest, ThereIsNoOtherMachine)
 {
-    EXPECT_EQ(Services().OpenSCManagerA("elsewhere", nullptr, SC_MANAGER_CONNECT), nullptr);
-    EXPECT_EQ(LastError(), 1722u);
+    EXPECT_EQ(ErrorOf(Services().OpenSCManagerA("elsewhere", nullptr, SC_MANAGER_CONNECT)), 1722u);
 }
 
 TEST_F(ServiceControlTest, AClosedHandleIsADefect)
 {
     const SC_HANDLE service = OpenWlan();
     EXPECT_TRUE(Services().CloseServiceHandle(service));
-    EXPECT_FALSE(Services().CloseServiceHandle(service));
-    EXPECT_EQ(LastError(), ERROR_INVALID_HANDLE);
+    EXPECT_EQ(ErrorOf(Services().CloseServiceHandle(service)), ERROR_INVALID_HANDLE);
     EXPECT_EQ(Defects(), (std::vector<std::string>{"CloseServiceHandle: use of closed service handle"}));
 }
 

@@ -135,9 +135,18 @@ WLAN_INTERFACE_STATE ServiceTest::InterfaceState()
     return Query<WLAN_INTERFACE_STATE>(wlan_intf_opcode_interface_state).value();
 }
 
-std::optional<WLAN_CONNECTION_ATTRIBUTES> ServiceTest::Connection(DWORD* error)
+std::optional<WLAN_CONNECTION_ATTRIBUTES> ServiceTest::Connection()
 {
-    return Query<WLAN_CONNECTION_ATTRIBUTES>(wlan_intf_opcode_current_connection, error);
+    return Query<WLAN_CONNECTION_ATTRIBUTES>(wlan_intf_opcode_current_connection);
+}
+
+DWORD ServiceTest::ErrorOf(WLAN_INTF_OPCODE opcode)
+{
+    DWORD size = 0;
+    PVOID data = nullptr;
+    const DWORD error = Wlan().WlanQueryInterface(client, &first, opcode, nullptr, &size, &data, nullptr);
+    EXPECT_EQ(data, nullptr);
+    return error;
 }
 
 Bytes BytesOf(const std::string& text)

@@ -48,17 +48,16 @@ protected:
     DWORD Register(DWORD sources, bool ignoreDuplicates = false, DWORD* previous = nullptr);
     /// The notifications since the last time.
     Lines Told();
-    /// The connection, or nothing and the error.
-    std::optional<WLAN_CONNECTION_ATTRIBUTES> Connection(DWORD* error = nullptr);
+    std::optional<WLAN_CONNECTION_ATTRIBUTES> Connection();
+    /// The error of a question that is refused.
+    DWORD ErrorOf(WLAN_INTF_OPCODE opcode);
 
     template <typename Record>
-    std::optional<Record> Query(WLAN_INTF_OPCODE opcode, DWORD* error = nullptr)
+    std::optional<Record> Query(WLAN_INTF_OPCODE opcode)
     {
         DWORD size = 0;
         PVOID data = nullptr;
-        const DWORD result = Wlan().WlanQueryInterface(client, &first, opcode, nullptr, &size, &data, nullptr);
-        if (error != nullptr)
-            *error = result;
+        Wlan().WlanQueryInterface(client, &first, opcode, nullptr, &size, &data, nullptr);
         return Take<Record>(size, data);
     }
 

@@ -97,8 +97,8 @@ void RunOnce(LibraryTest& test, const FailureRow& row, bool tracing)
         EXPECT_GE(test.InjectedFailures(), 1u)
             << "call " << row.fromCall << " of " << row.failingOperation << " was never made, so nothing failed";
     }
-    if (row.ends)
-        EXPECT_EQ(row.failingOperation, LastBeforeReleases(test.calls())) << "nothing comes after the failure";
+    if (!row.last.empty())
+        EXPECT_EQ(row.last, LastBeforeReleases(test.calls())) << "nothing comes after the failure";
     EXPECT_EQ(tracing ? ExpectedLines(row) : std::vector<std::string>(), test.traced());
     CheckSharedBuffer(test, row);
     test.ExpectNothingHeld();

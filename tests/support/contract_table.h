@@ -39,7 +39,7 @@ struct FailureRow
     TraceBuffer buffer = TraceBuffer::shared;
     unsigned error = kSomeError;
     unsigned fromCall = 1; ///< which call of the operation fails, and all after it
-    bool ends = false;     ///< whether the method calls nothing but releases after it
+    std::string last = {}; ///< the operation after which the method calls nothing but releases; empty: not looked at
     std::function<void(LibraryTest&)> prepare = {};
 };
 

@@ -45,12 +45,14 @@ public:
     const Method& method() const { return methods::FindMethod(GetParam().method); }
 
     /// The code, or the length of the text. The method has to leave its outputs alone.
-    auto CallWith(Arguments& arguments) const
+    auto CallWith(Arguments& arguments, bool emptiesBssLists = false) const
     {
-        return [&arguments, &method = method(), lenient = GetParam().convertsWrongly](CWirelessManage& manager)
+        return [=, &arguments, &method = method(), lenient = GetParam().convertsWrongly](CWirelessManage& manager)
         {
             EditedAnswers edited;
             edited.conversion.takesAllFlagsForUtf8 = lenient;
+            if (emptiesBssLists)
+                edited.service.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; };
             methods::Call call(method, arguments);
             call.Make(manager);
             const methods::Outcome outcome = call.Outcome();
@@ -62,9 +64,10 @@ public:
     FailureRow RowOf(const Failing& failing, Arguments& arguments) const
     {
         const Contract& contract = GetParam();
+        const bool isEmptyList = failing.operation == kEmptyBssList;
         const Lines usual = {failing.operation + " failed with error: %u"};
         FailureRow row{.method = contract.method,
-                       .call = CallWith(arguments),
+                       .call = CallWith(arguments, isEmptyList),
                        .expected = failing.code,
                        .traced = failing.traced.value_or(contract.traces == nothing ? Lines() : usual),
                        .buffer = contract.traces == shared ? TraceBuffer::shared : TraceBuffer::local,
@@ -75,8 +78,9 @@ public:
             row.prepare = bring;
         else
         {
-            row.failingOperation = failing.operation;
-            row.ends = !failing.goesOn;
+            row.failingOperation = isEmptyList ? "" : failing.operation;
+            if (!failing.goesOn)
+                row.last = isEmptyList ? "WlanGetNetworkBssList" : failing.operation;
         }
         return row;
     }
@@ -109,7 +113,7 @@ public:
         ASSERT_NE(failures.end(), failing) << operation;
         FailureRow row = RowOf(*failing, arguments);
         row.failingOperation.clear();
-        row.ends = false;
+        row.last.clear();
         row.error = operation == "WlanGetNetworkBssList" && !isNull ? kNotFound : kInvalidParameter;
         if (failing->code == kItsError)
             row.expected = row.error;

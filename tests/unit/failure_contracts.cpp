@@ -83,7 +83,10 @@ const Contract kConnecting[] = {
     {"SaveCurrentConnectionAttributes",
      local,
      {{"WlanOpenHandle", -1}, {"WlanQueryInterface", -4}, {"WlanGetProfile", -5}}},
-    {"RecoverConnetionAttributes", local, kReconnect, SaveConnection},
+    {"RecoverConnetionAttributes",
+     local,
+     {{"WlanOpenHandle", -1}, {"WlanGetNetworkBssList", -4}, {kEmptyBssList, -5, Lines{}}, {"WlanConnect", -6}},
+     SaveConnection},
     {"RecoverConnNotificationData", local, kReconnect, SaveNotification},
 };
 
@@ -376,7 +379,8 @@ std::vector<Failing> AfterLists(std::vector<Failing> failures)
 /// Of the three networks in view that profiles are stored for.
 const Lines kThreeRefused = {3, "WlanConnect failed with error: %u"};
 
-const std::vector<Failing> kBest = AfterLists({{"WlanGetNetworkBssList", -10}, {"WlanConnect", -12}});
+const std::vector<Failing> kBest =
+    AfterLists({{"WlanGetNetworkBssList", -10}, {kEmptyBssList, -11, Lines{}}, {"WlanConnect", -12}});
 
 /// Another access point of the network is better than the connected one.
 void WeakenConnection(LibraryTest& test)
@@ -410,7 +414,8 @@ const Contract kAutomatic[] = {
     {"ConnectBestAP(GUID const*, std::vector<WLAN_BSS_ENTRY>*)", shared, kBest},
     {"ConnectBestAP(GUID const*, wchar_t", shared, kBest},
     {"ConnectBestAP(GUID const*)", shared, kBest},
-    {"AutoConnectEx", shared, AfterLists({{"WlanGetNetworkBssList", -10}, {"WlanConnect", -12, kThreeRefused}})},
+    {"AutoConnectEx", shared,
+     AfterLists({{"WlanGetNetworkBssList", -10}, {kEmptyBssList, -11, Lines{}}, {"WlanConnect", -12, kThreeRefused}})},
     // Deliberate: walks on which every request was refused report success.
     {"AutoConnect", shared, AfterLists({{"WlanConnect", 0, kThreeRefused}})},
     {"AutoSwitch",
@@ -451,8 +456,10 @@ const Contract kAutomatic[] = {
                              {"MultiByteToWideChar", -9, Lines{}},
                              {"WlanConnect", 0, {}, true}}),
      .convertsWrongly = true},
-    {"PreRoaming", local, AfterConnection({{"WlanGetNetworkBssList", -6, Lines{}}}), WeakenConnection},
-    {"Roaming", local, AfterConnection({{"WlanGetNetworkBssList", -6, Lines{}}, {"WlanConnect", -9}}),
+    {"PreRoaming", local, AfterConnection({{"WlanGetNetworkBssList", -6, Lines{}}, {kEmptyBssList, -7, Lines{}}}),
+     WeakenConnection},
+    {"Roaming", local,
+     AfterConnection({{"WlanGetNetworkBssList", -6, Lines{}}, {kEmptyBssList, -7, Lines{}}, {"WlanConnect", -9}}),
      WeakenConnection},
 };
 

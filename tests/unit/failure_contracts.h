@@ -12,6 +12,9 @@ using Lines = std::vector<std::string>;
 /// As a code: the number with which the operation failed.
 inline constexpr long long kItsError = kSomeError;
 
+/// In the place of an operation: the lists of access points come without entries.
+inline constexpr const char* kEmptyBssList = "empty BSS list";
+
 /// A failing call, after which the method calls nothing but releases, unless it goes on.
 struct Failing
 {

@@ -35,8 +35,7 @@ TEST_F(SmartConnectingTest, RequestsTheFirstProfileInViewAndReturnsItsName)
     EXPECT_STREQ("First", name);
     EXPECT_THAT(callLines(), ElementsAre(InterfacesLine(), ProfilesLine(), NetworksLine(), ConnectLine("First"),
                                          kRelease, kRelease, kRelease));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
 }
 
 TEST_F(SmartConnectingTest, WorksOnTheFirstInterfaceWhicheverIsNamed)

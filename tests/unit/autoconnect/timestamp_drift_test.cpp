@@ -191,7 +191,7 @@ TEST_F(TimestampDriftTest, FailuresOfTheBssLists)
                              .traced = std::move(lines),
                              .buffer = TraceBuffer::local,
                              .fromCall = fromCall,
-                             .ends = fromCall == 1}); // nor is there a wait after it
+                             .last = fromCall == 1 ? "WlanGetNetworkBssList" : ""}); // no wait
     };
     check(1, -9, {profile, network, bssFailed});
     check(2, -11, {profile, network, bssFailed, bssFailed, bssFailed});

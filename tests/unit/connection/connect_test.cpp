@@ -108,15 +108,6 @@ TEST_F(ConnectTest, LinkProfileConnectsToTheNetworkThatCarriesTheProfile)
     ExpectSilence();
 }
 
-TEST_F(ConnectTest, LinkProfileStartsTheConnectionAndDoesNotWaitForIt)
-{
-    UseWorld(DisconnectedWorld());
-    EXPECT_EQ(0, Link("OfficeNet"));
-    EXPECT_EQ(0, manager().WiFiIsConnected(&kAdapterA));
-    Advance(std::chrono::seconds(5));
-    EXPECT_EQ(1, manager().WiFiIsConnected(&kAdapterA));
-}
-
 TEST_F(ConnectTest, LinkProfileAsksForTheNetworksOwnBssType)
 {
     EXPECT_EQ(0, Link("AdHocNet"));

@@ -220,16 +220,6 @@ TEST_F(SavedConnectionTest, AnEmptyMemoryAsksForTheEmptySsid)
     EXPECT_TRUE(traced().empty());
 }
 
-TEST_F(SavedConnectionTest, ASavedNetworkOutOfRangeIsNotRequested)
-{
-    EXPECT_EQ(0, Save(manager()));
-    EditedAnswers edited;
-    edited.service.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; };
-    EXPECT_EQ(-5, Recover(manager()));
-    EXPECT_EQ(0u, callCount("WlanConnect"));
-    ExpectSilence();
-}
-
 // --- SaveConnNotificationData -----------------------------------------------------------------------------------
 
 TEST_F(SavedConnectionTest, SavesTheFixedPartOfANotification)

@@ -31,8 +31,7 @@ TEST_F(ScanTest, AsksTheNamedAdapterForAWholeScan)
     EXPECT_EQ(77u, error) << "success leaves the error alone";
     EXPECT_THAT(callLines(), ElementsAre("WlanScan(client=1, interface=" + std::string(kAdapterBText) +
                                          ", ssid=null, ieData=null, reserved=null)"));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
 }
 
 TEST_F(ScanTest, WithoutAnInterfaceAsksTheFirstAdapterOnly)
@@ -40,8 +39,7 @@ TEST_F(ScanTest, WithoutAnInterfaceAsksTheFirstAdapterOnly)
     EXPECT_EQ(0, manager().Rescan());
     EXPECT_THAT(callLines(),
                 ElementsAre(InterfacesLine(), CallForA("WlanScan", "ssid=null, ieData=null, reserved=null"), kRelease));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
 }
 
 TEST_F(ScanTest, ReturnsBeforeTheScanIsDone)

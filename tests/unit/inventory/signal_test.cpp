@@ -227,8 +227,7 @@ TEST_F(SignalTest, QualityIsThatOfTheConnection)
 {
     EXPECT_EQ(100, manager().GetSignalQuality(&kAdapterA));
     EXPECT_THAT(callLines(), ElementsAre(ConnectionQuery(), kRelease));
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
+    ExpectSilence();
 }
 
 TEST_F(SignalTest, QualityIsGivenAsItIs)

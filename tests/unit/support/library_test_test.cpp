@@ -140,7 +140,7 @@ TEST(FailureTable, ReportsWhatDoesNotHold)
 TEST(FailureTable, ReportsWhatComesAfterAFailureThatEndsTheMethod)
 {
     FailureRow row = RescanRow();
-    row.ends = true;
+    row.last = "WlanScan";
     EXPECT_EQ("", ReportOf(row));
     row.call = [](auto& m)
     {

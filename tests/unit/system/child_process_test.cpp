@@ -209,12 +209,5 @@ TEST_F(ChildProcessTest, TheRecordsBeginAsZero)
     EXPECT_EQ(2u, seen);
 }
 
-TEST_F(ChildProcessTest, TheProcessHandleIsClosedBeforeTheThreads)
-{
-    RunProgram("worker.exe");
-    EXPECT_EQ(call("WaitForSingleObject")["handle"], call("CloseHandle", 1)["handle"]);
-    EXPECT_NE(call("WaitForSingleObject")["handle"], call("CloseHandle", 2)["handle"]);
-}
-
 } // namespace
 } // namespace calvix::test::child_process_test
