@@ -215,7 +215,7 @@ void CheckReasons(Manager& manager, Input& input)
         Promise(IsTerminated(text), "a reason's text is terminated");
 }
 
-void CheckUtf8(Input& input)
+void CheckUtf8(Manager&, Input& input)
 {
     const std::string text(input.Bytes(200));
     bool illFormed = false;
@@ -232,7 +232,7 @@ void CheckUtf8(Input& input)
 }
 
 /// The platform's own conversions, with any code page, flags and lengths.
-void CheckPlatformText(Input& input)
+void CheckPlatformText(Manager&, Input& input)
 {
     constexpr UINT kCodePages[] = {0, 1, 3, 42, 437, 932, 936, 949, 950, 1250, 1252, 65000, 65001};
     const UINT codePage = input.OneOf(kCodePages);
@@ -266,36 +266,11 @@ simulation::Computer& ComputerWith(std::uint32_t codePage)
 
 constexpr std::uint32_t kUtf8 = 65001;
 
-void CheckSome(Manager& manager, Input& input, std::uint32_t codePage)
-{
-    switch (input.Below(12))
-    {
-    case 0:
-        return CheckHexRoundTrip(manager, input);
-    case 1:
-        return CheckHexOfAnything(manager, input);
-    case 2:
-        return CheckTextAsHex(manager, input);
-    case 3:
-        return CheckSsids(manager, input);
-    case 4:
-        return codePage == kUtf8 ? CheckSsidInUtf8(manager, input) : CheckSsids(manager, input);
-    case 5:
-        return CheckNarrowing(manager, input);
-    case 6:
-        return CheckAddresses(manager, input);
-    case 7:
-        return CheckNumbers(manager, input);
-    case 8:
-        return CheckGuids(manager, input);
-    case 9:
-        return CheckReasons(manager, input);
-    case 10:
-        return CheckUtf8(input);
-    default:
-        return CheckPlatformText(input);
-    }
-}
+using Check = void (*)(Manager& manager, Input& input);
+// In the order of the seeds' bytes.
+constexpr Check kChecks[] = {CheckHexRoundTrip, CheckHexOfAnything, CheckTextAsHex, CheckSsids,
+                             CheckSsidInUtf8,   CheckNarrowing,     CheckAddresses, CheckNumbers,
+                             CheckGuids,        CheckReasons,       CheckUtf8,      CheckPlatformText};
 
 } // namespace
 
@@ -307,7 +282,11 @@ void RunText(const std::uint8_t* data, std::size_t size)
     const test::FatalErrorsCaught caught;
     test::Program program(ComputerWith(codePage));
     while (!input.IsEmpty())
-        CheckSome(program.Manager(), input, codePage);
+    {
+        const Check check = input.OneOf(kChecks);
+        const bool applies = check != CheckSsidInUtf8 || codePage == kUtf8;
+        (applies ? check : CheckSsids)(program.Manager(), input);
+    }
 }
 
 } // namespace calvix::fuzz

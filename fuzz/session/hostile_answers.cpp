@@ -107,12 +107,7 @@ test::AnswerChanges HostileAnswers(Input& input)
             .networks = [&input](WLAN_AVAILABLE_NETWORK_LIST& list) { SpoilSome(input, list, list.Network); },
             .profiles = [&input](WLAN_PROFILE_INFO_LIST& list) { SpoilSome(input, list, list.ProfileInfo); },
             .bss = [&input](WLAN_BSS_LIST& list) { SpoilSome(input, list, list.wlanBssEntries); },
-            .query =
-                [&input](WLAN_INTF_OPCODE opcode, PVOID data, DWORD&)
-            {
-                if (opcode == wlan_intf_opcode_current_connection)
-                    Spoil(input, *static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data));
-            }};
+            .currentConnection = [&input](WLAN_CONNECTION_ATTRIBUTES& connection) { Spoil(input, connection); }};
 }
 
 } // namespace calvix::fuzz::session
