@@ -43,7 +43,6 @@ bool WaitFor(const std::atomic<bool>& happened)
     return happened;
 }
 
-//! [explain]
 // False for a failure, which it prints.
 bool Succeeded(const char* method, long long result)
 {
@@ -52,7 +51,6 @@ bool Succeeded(const char* method, long long result)
         std::printf("%s\nto do: %s\n", explanation.meaning.c_str(), explanation.advice.c_str());
     return !explanation.failure;
 }
-//! [explain]
 
 bool JoinBest(CWirelessManage& manager, News& news)
 {

@@ -5,16 +5,13 @@
 namespace guides::choosing
 {
 
-//! [join]
 // A network whose profile connects automatically; where there is none, the first in the user's order.
 int Join(CWirelessManage& manager, const GUID& adapter)
 {
     const int code = manager.ConnectBestAP(&adapter);
     return code == -9 ? manager.AutoConnect(&adapter) : code;
 }
-//! [join]
 
-//! [another]
 // Leaves out the network that has just failed.
 int JoinAnother(CWirelessManage& manager, const GUID& adapter, const DOT11_SSID& failed)
 {
@@ -22,9 +19,7 @@ int JoinAnother(CWirelessManage& manager, const GUID& adapter, const DOT11_SSID&
     excluded.front().dot11Ssid = failed;
     return manager.ConnectBestAP(&adapter, &excluded);
 }
-//! [another]
 
-//! [better]
 // To be called every few seconds: goes to a better access point of the network, or says why not.
 int StayWell(CWirelessManage& manager, const GUID& adapter)
 {
@@ -32,6 +27,5 @@ int StayWell(CWirelessManage& manager, const GUID& adapter)
         return Join(manager, adapter);
     return manager.Roaming(&adapter); // -5 good enough, -8 already there
 }
-//! [better]
 
 } // namespace guides::choosing

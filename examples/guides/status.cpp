@@ -4,7 +4,6 @@
 
 #include <cstdio>
 
-//! [status]
 std::string Status(CWirelessManage& manager)
 {
     std::vector<WLAN_INTERFACE_INFO> adapters;
@@ -24,4 +23,3 @@ int main()
     std::printf("%s\n", Status(*CWirelessManage::Get()).c_str());
     CWirelessManage::Delete();
 }
-//! [status]

@@ -7,14 +7,11 @@
 namespace guides::with_calvix
 {
 
-//! [count]
 int CountNetworks(CWirelessManage& manager, const GUID& adapter)
 {
     return manager.GetAvailableNetworkCount(&adapter); // or a code: -2, -5
 }
-//! [count]
 
-//! [ssid]
 void PrintSsid(CWirelessManage& manager, const GUID& adapter)
 {
     char ssid[64];
@@ -22,13 +19,10 @@ void PrintSsid(CWirelessManage& manager, const GUID& adapter)
     if (manager.GetCurrentLinkInfo(&adapter, nullptr, nullptr, ssid, sizeof(ssid), reinterpret_cast<char*>(bssid)) == 0)
         std::printf("%s\n", ssid);
 }
-//! [ssid]
 
-//! [radio]
 bool SwitchOff(CWirelessManage& manager, const GUID& adapter)
 {
     return manager.RadioTurnOff(&adapter) == 0;
 }
-//! [radio]
 
 } // namespace guides::with_calvix

@@ -9,7 +9,6 @@
 namespace guides::wlan_api
 {
 
-//! [count]
 int CountNetworks(const GUID& adapter)
 {
     HANDLE client = nullptr;
@@ -25,9 +24,7 @@ int CountNetworks(const GUID& adapter)
     WlanCloseHandle(client, nullptr);
     return count;
 }
-//! [count]
 
-//! [ssid]
 void PrintSsid(HANDLE client, const GUID& adapter)
 {
     void* data = nullptr;
@@ -45,9 +42,7 @@ void PrintSsid(HANDLE client, const GUID& adapter)
         std::printf("%s\n", narrow);
     WlanFreeMemory(data);
 }
-//! [ssid]
 
-//! [radio]
 bool SwitchOff(HANDLE client, const GUID& adapter)
 {
     WLAN_PHY_RADIO_STATE radio = {};
@@ -56,6 +51,5 @@ bool SwitchOff(HANDLE client, const GUID& adapter)
     return WlanSetInterface(client, &adapter, wlan_intf_opcode_radio_state, sizeof(radio), &radio, nullptr) ==
            ERROR_SUCCESS;
 }
-//! [radio]
 
 } // namespace guides::wlan_api

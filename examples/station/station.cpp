@@ -10,7 +10,6 @@ namespace
 constexpr std::chrono::milliseconds kStep(100);
 constexpr std::chrono::milliseconds kLimit(15000);
 
-//! [note]
 // What the service reported about an adapter. Callbacks run on a thread of the service, and only take note.
 struct News
 {
@@ -41,7 +40,6 @@ bool WaitFor(const std::atomic<bool>& happened, const Pause& pause)
         pause(kStep);
     return happened;
 }
-//! [note]
 
 // False for a failure, which it reports.
 bool Succeeded(const char* method, long long result, std::ostream& out)
@@ -72,7 +70,6 @@ void Scan(CWirelessManage& manager, const News& news, std::ostream& out, const P
         out << "the scan takes too long\n";
 }
 
-//! [wait]
 bool Connect(CWirelessManage& manager, News& news, std::ostream& out, const Pause& pause)
 {
     news.connectionEnded = false; // of a connection that the service made by itself
@@ -96,7 +93,6 @@ bool Connect(CWirelessManage& manager, News& news, std::ostream& out, const Paus
     out << "joined " << ssid << '\n';
     return true;
 }
-//! [wait]
 
 } // namespace
 

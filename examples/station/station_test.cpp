@@ -35,7 +35,6 @@ protected:
     std::ostringstream out;
 };
 
-//! [joins]
 TEST_F(StationTest, JoinsTheBestNetwork)
 {
     EXPECT_TRUE(Join());
@@ -44,7 +43,6 @@ TEST_F(StationTest, JoinsTheBestNetwork)
     EXPECT_EQ(1u, computer.CallCount("WlanConnect"));
     ExpectNothingHeld();
 }
-//! [joins]
 
 TEST_F(StationTest, SaysThatTheServiceIsStopped)
 {
@@ -62,7 +60,6 @@ TEST_F(StationTest, JoinsWithoutAScan)
     EXPECT_EQ(1u, computer.FailedCalls());
 }
 
-//! [fails]
 TEST_F(StationTest, SaysWhyNothingWasAskedFor)
 {
     computer.Fail("WlanConnect", 5);
@@ -71,7 +68,6 @@ TEST_F(StationTest, SaysWhyNothingWasAskedFor)
     EXPECT_LT(0u, computer.FailedCalls());
     ExpectNothingHeld();
 }
-//! [fails]
 
 TEST_F(StationTest, GivesUpWhenTheCallbackIsRefused)
 {
@@ -82,7 +78,6 @@ TEST_F(StationTest, GivesUpWhenTheCallbackIsRefused)
     ExpectNothingHeld();
 }
 
-//! [scenario]
 TEST(Station, SaysThatTheAccessPointDoesNotAnswer)
 {
     Computer computer(Scenario().Adapter().Profile("Office").AccessPoint("Office", -50, R"("answers": false)").Text());
@@ -90,7 +85,6 @@ TEST(Station, SaysThatTheAccessPointDoesNotAnswer)
     EXPECT_FALSE(Join(computer, out));
     EXPECT_NE(std::string::npos, out.str().find("not connected: ")) << out.str();
 }
-//! [scenario]
 
 // Somebody else connects the same adapter before the host does, or the other one after it.
 TEST(Station, IgnoresOtherConnections)
