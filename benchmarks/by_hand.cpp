@@ -1,6 +1,7 @@
 #include "by_hand.h"
 
-#include "platform/platform.h"
+#include "core/memory.h"
+#include "core/wlan_records.h"
 
 #include <algorithm>
 #include <cstring>
@@ -14,55 +15,33 @@ using platform::wlan;
 namespace
 {
 
-/// Memory of the service.
 template <typename Record>
-class Block
-{
-public:
-    Block() = default;
-    Block(const Block&) = delete;
-    Block& operator=(const Block&) = delete;
-    ~Block()
-    {
-        if (record != nullptr)
-            wlan().WlanFreeMemory(record);
-    }
-
-    Record* operator->() const { return record; }
-
-    Record* record = nullptr;
-};
-
-template <typename Record>
-bool Query(HANDLE client, const GUID* adapter, WLAN_INTF_OPCODE opcode, Block<Record>& block)
+bool Query(HANDLE client, const GUID* adapter, WLAN_INTF_OPCODE opcode, WlanMemory<Record>& block)
 {
     DWORD size = sizeof(Record);
-    return wlan().WlanQueryInterface(client, adapter, opcode, nullptr, &size, reinterpret_cast<PVOID*>(&block.record),
+    return wlan().WlanQueryInterface(client, adapter, opcode, nullptr, &size, reinterpret_cast<PVOID*>(block.Receive()),
                                      nullptr) == 0;
 }
 
-bool ReadXml(HANDLE client, const GUID* adapter, const wchar_t* name, Block<wchar_t>& xml)
+bool ReadXml(HANDLE client, const GUID* adapter, const wchar_t* name, ProfileText& xml)
 {
     DWORD flags = WLAN_PROFILE_GET_PLAINTEXT_KEY;
     DWORD access = 0;
-    return wlan().WlanGetProfile(client, adapter, name, nullptr, &xml.record, &flags, &access) == 0;
+    return wlan().WlanGetProfile(client, adapter, name, nullptr, xml.Receive(), &flags, &access) == 0;
 }
 
-bool ReadEntries(HANDLE client,
-                 const GUID* adapter,
-                 const WLAN_AVAILABLE_NETWORK& network,
-                 Block<WLAN_BSS_LIST>& entries)
+bool ReadEntries(HANDLE client, const GUID* adapter, const WLAN_AVAILABLE_NETWORK& network, BssList& entries)
 {
     return wlan().WlanGetNetworkBssList(client, adapter, &network.dot11Ssid, network.dot11BssType,
-                                        network.bSecurityEnabled, nullptr, &entries.record) == 0;
+                                        network.bSecurityEnabled, nullptr, entries.Receive()) == 0;
 }
 
 /// The stored profiles and the networks in view.
 struct Lists
 {
     Lists(HANDLE client, const GUID* adapter)
-        : complete(wlan().WlanGetProfileList(client, adapter, nullptr, &profiles.record) == 0 &&
-                   wlan().WlanGetAvailableNetworkList(client, adapter, 0, nullptr, &networks.record) == 0)
+        : complete(wlan().WlanGetProfileList(client, adapter, nullptr, profiles.Receive()) == 0 &&
+                   wlan().WlanGetAvailableNetworkList(client, adapter, 0, nullptr, networks.Receive()) == 0)
     {
     }
 
@@ -70,24 +49,21 @@ struct Lists
     template <typename Visit>
     void VisitMatches(Visit visit) const
     {
-        for (DWORD profile = 0; profile < profiles->dwNumberOfItems; ++profile)
-        {
-            const wchar_t* const name = profiles->ProfileInfo[profile].strProfileName;
-            for (DWORD network = 0; network < networks->dwNumberOfItems; ++network)
-                if (std::wcscmp(name, networks->Network[network].strProfileName) == 0)
-                    visit(name, networks->Network[network]);
-        }
+        for (const WLAN_PROFILE_INFO& profile : Items(*profiles))
+            for (DWORD index = 0; index < networks->dwNumberOfItems; ++index)
+                if (std::wcscmp(profile.strProfileName, networks->Network[index].strProfileName) == 0)
+                    visit(profile.strProfileName, networks->Network[index]);
     }
 
-    Block<WLAN_PROFILE_INFO_LIST> profiles;
-    Block<WLAN_AVAILABLE_NETWORK_LIST> networks;
+    ProfileList profiles;
+    NetworkList networks;
     bool complete;
 };
 
 bool IsAutomatic(HANDLE client, const GUID* adapter, const wchar_t* name)
 {
-    Block<wchar_t> xml;
-    return ReadXml(client, adapter, name, xml) && std::wcsstr(xml.record, L"<connectionMode>auto<") != nullptr;
+    ProfileText xml;
+    return ReadXml(client, adapter, name, xml) && std::wcsstr(xml.get(), L"<connectionMode>auto<") != nullptr;
 }
 
 /// Networks with an access point above 2.4 GHz win by ten.
@@ -95,16 +71,13 @@ void PreferFiveGigahertz(std::vector<WLAN_AVAILABLE_NETWORK*>& candidates, const
 {
     constexpr ULONG kAbove24GigahertzKhz = 2'500'000;
     for (WLAN_AVAILABLE_NETWORK* const candidate : candidates)
-    {
-        for (DWORD index = 0; index < entries.dwNumberOfItems; ++index)
+        for (const WLAN_BSS_ENTRY& entry : Items(entries))
         {
-            const WLAN_BSS_ENTRY& entry = entries.wlanBssEntries[index];
             const bool same =
                 std::memcmp(entry.dot11Ssid.ucSSID, candidate->dot11Ssid.ucSSID, entry.dot11Ssid.uSSIDLength) == 0;
             if (same && entry.ulChCenterFrequency > kAbove24GigahertzKhz)
                 candidate->wlanSignalQuality = (std::min)(candidate->wlanSignalQuality + 10, 100UL);
         }
-    }
 }
 
 } // namespace
@@ -122,21 +95,18 @@ ByHand::~ByHand()
 
 int ByHand::GetWlanStatus(const GUID* adapter)
 {
-    Block<WLAN_INTERFACE_INFO_LIST> list;
-    if (wlan().WlanEnumInterfaces(m_client, nullptr, &list.record) != 0)
+    InterfaceList list;
+    if (wlan().WlanEnumInterfaces(m_client, nullptr, list.Receive()) != 0)
         return -1;
-    for (DWORD index = 0; index < list->dwNumberOfItems; ++index)
-    {
-        const WLAN_INTERFACE_INFO& info = list->InterfaceInfo[index];
-        if (std::memcmp(&info.InterfaceGuid, adapter, sizeof(GUID)) == 0)
+    for (const WLAN_INTERFACE_INFO& info : Items(*list))
+        if (SameInterface(info.InterfaceGuid, adapter))
             return static_cast<int>(info.isState);
-    }
     return -1;
 }
 
 int ByHand::PhyRadioIsOn(const GUID* adapter)
 {
-    Block<WLAN_RADIO_STATE> state;
+    WlanMemory<WLAN_RADIO_STATE> state;
     if (!Query(m_client, adapter, wlan_intf_opcode_radio_state, state) || state->dwNumberOfPhys == 0)
         return 0;
     const WLAN_PHY_RADIO_STATE& first = state->PhyRadioState[0];
@@ -147,16 +117,16 @@ int ByHand::PhyRadioIsOn(const GUID* adapter)
 
 int ByHand::GetRssi(const GUID* adapter, int& rssi)
 {
-    Block<LONG> value;
+    WlanMemory<LONG> value;
     if (!Query(m_client, adapter, wlan_intf_opcode_rssi, value))
         return -4;
-    rssi = static_cast<int>(*value.record);
+    rssi = static_cast<int>(*value);
     return 0;
 }
 
 int ByHand::GetSignalQuality(const GUID* adapter)
 {
-    Block<WLAN_CONNECTION_ATTRIBUTES> connection;
+    ConnectionAttributes connection;
     if (!Query(m_client, adapter, wlan_intf_opcode_current_connection, connection))
         return -4;
     return static_cast<int>(connection->wlanAssociationAttributes.wlanSignalQuality);
@@ -164,10 +134,10 @@ int ByHand::GetSignalQuality(const GUID* adapter)
 
 int ByHand::GetCurrentConnection(const GUID* adapter, WLAN_CONNECTION_ATTRIBUTES* attributes)
 {
-    Block<WLAN_CONNECTION_ATTRIBUTES> connection;
+    ConnectionAttributes connection;
     if (!Query(m_client, adapter, wlan_intf_opcode_current_connection, connection))
         return -4;
-    *attributes = *connection.record;
+    *attributes = *connection;
     return 0;
 }
 
@@ -179,30 +149,30 @@ int ByHand::Rescan(const GUID* adapter, unsigned long& error)
 
 int ByHand::GetAvailableNetworkCount(const GUID* adapter)
 {
-    Block<WLAN_AVAILABLE_NETWORK_LIST> list;
-    if (wlan().WlanGetAvailableNetworkList(m_client, adapter, 0, nullptr, &list.record) != 0)
+    NetworkList list;
+    if (wlan().WlanGetAvailableNetworkList(m_client, adapter, 0, nullptr, list.Receive()) != 0)
         return -5;
     return static_cast<int>(list->dwNumberOfItems);
 }
 
 int ByHand::GetNetworkBssCount()
 {
-    Block<WLAN_INTERFACE_INFO_LIST> adapters;
-    Block<WLAN_BSS_LIST> entries;
-    if (wlan().WlanEnumInterfaces(m_client, nullptr, &adapters.record) != 0 || adapters->dwNumberOfItems == 0 ||
+    InterfaceList adapters;
+    BssList entries;
+    if (wlan().WlanEnumInterfaces(m_client, nullptr, adapters.Receive()) != 0 || adapters->dwNumberOfItems == 0 ||
         wlan().WlanGetNetworkBssList(m_client, &adapters->InterfaceInfo[0].InterfaceGuid, nullptr, dot11_BSS_type_any,
-                                     FALSE, nullptr, &entries.record) != 0)
+                                     FALSE, nullptr, entries.Receive()) != 0)
         return -4;
     return static_cast<int>(entries->dwNumberOfItems);
 }
 
 int ByHand::GetProfile(const GUID* adapter, const wchar_t* name, wchar_t* xml, int capacity)
 {
-    Block<wchar_t> document;
+    ProfileText document;
     if (!ReadXml(m_client, adapter, name, document))
         return -4;
-    const std::size_t length = (std::min)(std::wcslen(document.record), static_cast<std::size_t>(capacity) - 1);
-    std::wmemcpy(xml, document.record, length);
+    const std::size_t length = (std::min)(std::wcslen(document.get()), static_cast<std::size_t>(capacity) - 1);
+    std::wmemcpy(xml, document.get(), length);
     xml[length] = L'\0';
     return 0;
 }
@@ -226,7 +196,7 @@ int ByHand::GetMatchAPList(const GUID* adapter, std::vector<WLAN_BSS_ENTRY>* lis
     lists.VisitMatches(
         [&](const wchar_t*, const WLAN_AVAILABLE_NETWORK& network)
         {
-            Block<WLAN_BSS_LIST> entries;
+            BssList entries;
             if (ReadEntries(m_client, adapter, network, entries))
                 list->insert(list->end(), entries->wlanBssEntries, entries->wlanBssEntries + entries->dwNumberOfItems);
         });
@@ -245,11 +215,11 @@ int ByHand::ConnectBestAP(const GUID* adapter)
             if (IsAutomatic(m_client, adapter, profile))
                 candidates.push_back(&network);
         });
-    Block<WLAN_BSS_LIST> entries;
+    BssList entries;
     if (candidates.empty() ||
         !ReadEntries(m_client, adapter, lists.networks->Network[lists.networks->dwNumberOfItems - 1], entries))
         return -10;
-    PreferFiveGigahertz(candidates, *entries.record);
+    PreferFiveGigahertz(candidates, *entries);
     std::stable_sort(candidates.begin(), candidates.end(),
                      [](const WLAN_AVAILABLE_NETWORK* left, const WLAN_AVAILABLE_NETWORK* right)
                      { return left->wlanSignalQuality < right->wlanSignalQuality; });

@@ -7,8 +7,8 @@
 namespace calvix::benchmarks
 {
 
-/// The same questions answered without the library: the WLAN API called directly, lists walked by nested loops, no traces.
-/// The results mean the same as the library's; failures only fail.
+/// The same questions answered without the library's methods: the WLAN API called directly, lists walked by nested loops,
+/// no traces. The results mean the same as the library's; failures only fail. Memory has the library's owner.
 class ByHand
 {
 public:

@@ -2,6 +2,7 @@
 #include "by_hand.h"
 #include "household.h"
 #include "simulation/computer.h"
+#include "testing/program.h"
 #include "wrappers/intercepted_platform.h"
 
 #include <benchmark/benchmark.h>
@@ -45,27 +46,38 @@ struct Scene
     simulation::Computer computer;
     Stopwatch stopwatch;
     wrappers::InterceptedPlatform platform{computer, stopwatch};
-    OnComputer inUse{platform};
+    test::Program program{platform};
+    CWirelessManage& library = program.Manager();
+    ByHand loops;
 };
 
 template <typename Call>
-void Measure(benchmark::State& state, Stopwatch& stopwatch, Call call)
+void Measure(benchmark::State& state, std::size_t size, Call call)
 {
+    Scene scene(size);
     using Nanoseconds = std::chrono::duration<double, std::nano>;
     Nanoseconds leastInside = Nanoseconds::max();
     Nanoseconds leastBeside = Nanoseconds::max();
     for (auto iteration : state)
     {
         static_cast<void>(iteration);
-        stopwatch.total = {};
+        scene.stopwatch.total = {};
         const Clock::time_point start = Clock::now();
-        benchmark::DoNotOptimize(call());
+        benchmark::DoNotOptimize(call(scene));
         const Clock::duration whole = Clock::now() - start;
-        leastInside = (std::min)(leastInside, Nanoseconds(stopwatch.total));
-        leastBeside = (std::min)(leastBeside, Nanoseconds(whole - stopwatch.total));
+        leastInside = (std::min)(leastInside, Nanoseconds(scene.stopwatch.total));
+        leastBeside = (std::min)(leastBeside, Nanoseconds(whole - scene.stopwatch.total));
     }
     state.counters["platform"] = leastInside.count();
     state.counters["beside"] = leastBeside.count();
+}
+
+template <typename Call>
+void RegisterSide(const std::string& name, std::size_t size, int repetitions, Call call)
+{
+    benchmark::RegisterBenchmark(name.c_str(), [call, size](benchmark::State& state) { Measure(state, size, call); })
+        ->MinTime(0.02)
+        ->Repetitions(repetitions);
 }
 
 template <typename Call>
@@ -74,24 +86,9 @@ void Register(const char* method, Call call)
     for (const std::size_t size : {std::size_t{10}, std::size_t{100}, std::size_t{1000}, std::size_t{10000}})
     {
         const std::string name = std::string("growth/") + method + "/" + std::to_string(size);
-        benchmark::RegisterBenchmark((name + "/library").c_str(),
-                                     [call, size](benchmark::State& state)
-                                     {
-                                         Scene scene(size);
-                                         CWirelessManage& library = *CWirelessManage::Get();
-                                         Measure(state, scene.stopwatch, [&] { return call(library); });
-                                     })
-            ->MinTime(0.02)
-            ->Repetitions(size < 10000 ? 9 : 5);
-        benchmark::RegisterBenchmark((name + "/loops").c_str(),
-                                     [call, size](benchmark::State& state)
-                                     {
-                                         Scene scene(size);
-                                         ByHand byHand;
-                                         Measure(state, scene.stopwatch, [&] { return call(byHand); });
-                                     })
-            ->MinTime(0.02)
-            ->Repetitions(size < 10000 ? 9 : 3);
+        const bool isQuick = size < 10000;
+        RegisterSide(name + "/library", size, isQuick ? 9 : 5, [call](Scene& scene) { return call(scene.library); });
+        RegisterSide(name + "/loops", size, isQuick ? 9 : 3, [call](Scene& scene) { return call(scene.loops); });
     }
 }
 

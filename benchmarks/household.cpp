@@ -1,19 +1,6 @@
 #include "household.h"
 
-#include <calvix/wireless_manage.h>
-
 #include <string>
-
-namespace calvix
-{
-
-struct ManagerInternals
-{
-    /// Delete leaves the closed handle where it was.
-    static void Forget() { CWirelessManage::hClient = nullptr; }
-};
-
-} // namespace calvix
 
 namespace calvix::benchmarks
 {
@@ -78,15 +65,6 @@ simulation::Scenario HouseholdScenario(std::size_t profiles, std::size_t network
     adapter.connection = simulation::Connection{"Wireless network 0", AddressOf(0, 0)};
     scenario.adapters.push_back(adapter);
     return scenario;
-}
-
-OnComputer::OnComputer(platform::Platform& platform) : m_previous(platform::ReplacePlatform(&platform)) {}
-
-OnComputer::~OnComputer()
-{
-    CWirelessManage::Delete();
-    ManagerInternals::Forget();
-    platform::ReplacePlatform(m_previous);
 }
 
 } // namespace calvix::benchmarks

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/platform.h"
 #include "simulation/scenario.h"
 
 #include <calvix/platform_records.h>
@@ -16,18 +15,5 @@ inline constexpr wchar_t kHouseholdProfile[] = L"Wireless network 0";
 /// A simulated computer: `profiles` stored, `networks` heard from two access points each, of which `matches` have a
 /// profile, and connected by the first profile.
 simulation::Scenario HouseholdScenario(std::size_t profiles, std::size_t networks, std::size_t matches);
-
-/// As long as it lives, a platform is the one in use. Ends with the library's manager.
-class OnComputer
-{
-public:
-    explicit OnComputer(platform::Platform& platform);
-    OnComputer(const OnComputer&) = delete;
-    OnComputer& operator=(const OnComputer&) = delete;
-    ~OnComputer();
-
-private:
-    platform::Platform* m_previous;
-};
 
 } // namespace calvix::benchmarks

@@ -2,6 +2,7 @@
 #include "by_hand.h"
 #include "household.h"
 #include "simulation/computer.h"
+#include "testing/program.h"
 
 #include <benchmark/benchmark.h>
 
@@ -65,8 +66,8 @@ const Method kMethods[] = {
 struct Scene
 {
     simulation::Computer computer{HouseholdScenario(10, 20, 3)};
-    OnComputer inUse{computer};
-    CWirelessManage& manager = *CWirelessManage::Get();
+    test::Program program{computer};
+    CWirelessManage& manager = program.Manager();
     ByHand byHand;
     Outputs outputs;
 };

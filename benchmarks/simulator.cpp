@@ -1,6 +1,8 @@
 #include "benchmarks.h"
+#include "core/memory.h"
 #include "household.h"
 #include "simulation/computer.h"
+#include "testing/program.h"
 
 #include <benchmark/benchmark.h>
 
@@ -15,8 +17,7 @@ namespace
 /// A client of a simulated computer.
 struct Client
 {
-    explicit Client(std::size_t networks)
-        : computer(HouseholdScenario(networks / 2, networks, networks / 5)), wlan(computer.wlan())
+    explicit Client(std::size_t networks) : computer(HouseholdScenario(networks / 2, networks, networks / 5))
     {
         DWORD version = 0;
         wlan.WlanOpenHandle(2, nullptr, &version, &handle);
@@ -25,17 +26,15 @@ struct Client
             ssid.ucSSID[ssid.uSSIDLength] = static_cast<UCHAR>(name[ssid.uSSIDLength]);
         DWORD flags = WLAN_PROFILE_GET_PLAINTEXT_KEY;
         DWORD access = 0;
-        wchar_t* stored = nullptr;
-        wlan.WlanGetProfile(handle, &kHouseholdAdapter, kHouseholdProfile, nullptr, &stored, &flags, &access);
-        xml = stored;
-        wlan.WlanFreeMemory(stored);
+        wlan.WlanGetProfile(handle, &kHouseholdAdapter, kHouseholdProfile, nullptr, xml.Receive(), &flags, &access);
     }
 
     simulation::Computer computer;
-    platform::WlanService& wlan;
+    test::Program program{computer};
+    platform::WlanService& wlan = computer.wlan();
     HANDLE handle = nullptr;
     DOT11_SSID ssid{};
-    std::wstring xml;
+    ProfileText xml;
 };
 
 using Operation = DWORD (*)(Client&);
@@ -59,71 +58,57 @@ DWORD OpenAndClose(Client& client)
 
 DWORD EnumInterfaces(Client& client)
 {
-    WLAN_INTERFACE_INFO_LIST* list = nullptr;
-    const DWORD error = client.wlan.WlanEnumInterfaces(client.handle, nullptr, &list);
-    client.wlan.WlanFreeMemory(list);
-    return error;
+    InterfaceList list;
+    return client.wlan.WlanEnumInterfaces(client.handle, nullptr, list.Receive());
 }
 
 DWORD ListNetworks(Client& client)
 {
-    WLAN_AVAILABLE_NETWORK_LIST* list = nullptr;
-    const DWORD error = client.wlan.WlanGetAvailableNetworkList(client.handle, kAdapter, 0, nullptr, &list);
-    client.wlan.WlanFreeMemory(list);
-    return error;
+    NetworkList list;
+    return client.wlan.WlanGetAvailableNetworkList(client.handle, kAdapter, 0, nullptr, list.Receive());
 }
 
 DWORD ListEveryBss(Client& client)
 {
-    WLAN_BSS_LIST* list = nullptr;
-    const DWORD error =
-        client.wlan.WlanGetNetworkBssList(client.handle, kAdapter, nullptr, dot11_BSS_type_any, FALSE, nullptr, &list);
-    client.wlan.WlanFreeMemory(list);
-    return error;
+    BssList list;
+    return client.wlan.WlanGetNetworkBssList(client.handle, kAdapter, nullptr, dot11_BSS_type_any, FALSE, nullptr,
+                                             list.Receive());
 }
 
 DWORD ListBssOfOne(Client& client)
 {
-    WLAN_BSS_LIST* list = nullptr;
-    const DWORD error = client.wlan.WlanGetNetworkBssList(client.handle, kAdapter, &client.ssid,
-                                                          dot11_BSS_type_infrastructure, TRUE, nullptr, &list);
-    client.wlan.WlanFreeMemory(list);
-    return error;
+    BssList list;
+    return client.wlan.WlanGetNetworkBssList(client.handle, kAdapter, &client.ssid, dot11_BSS_type_infrastructure, TRUE,
+                                             nullptr, list.Receive());
 }
 
 DWORD QueryConnection(Client& client)
 {
     DWORD size = 0;
-    PVOID data = nullptr;
-    const DWORD error = client.wlan.WlanQueryInterface(client.handle, kAdapter, wlan_intf_opcode_current_connection,
-                                                       nullptr, &size, &data, nullptr);
-    client.wlan.WlanFreeMemory(data);
-    return error;
+    ConnectionAttributes connection;
+    return client.wlan.WlanQueryInterface(client.handle, kAdapter, wlan_intf_opcode_current_connection, nullptr, &size,
+                                          reinterpret_cast<PVOID*>(connection.Receive()), nullptr);
 }
 
 DWORD ListProfiles(Client& client)
 {
-    WLAN_PROFILE_INFO_LIST* list = nullptr;
-    const DWORD error = client.wlan.WlanGetProfileList(client.handle, kAdapter, nullptr, &list);
-    client.wlan.WlanFreeMemory(list);
-    return error;
+    ProfileList list;
+    return client.wlan.WlanGetProfileList(client.handle, kAdapter, nullptr, list.Receive());
 }
 
 DWORD ReadProfile(Client& client)
 {
     DWORD flags = 0;
     DWORD access = 0;
-    wchar_t* xml = nullptr;
-    const DWORD error =
-        client.wlan.WlanGetProfile(client.handle, kAdapter, kHouseholdProfile, nullptr, &xml, &flags, &access);
-    client.wlan.WlanFreeMemory(xml);
-    return error;
+    ProfileText xml;
+    return client.wlan.WlanGetProfile(client.handle, kAdapter, kHouseholdProfile, nullptr, xml.Receive(), &flags,
+                                      &access);
 }
 
 DWORD StoreProfile(Client& client)
 {
     DWORD reason = 0;
-    return client.wlan.WlanSetProfile(client.handle, kAdapter, 0, client.xml.c_str(), nullptr, TRUE, nullptr, &reason);
+    return client.wlan.WlanSetProfile(client.handle, kAdapter, 0, client.xml.get(), nullptr, TRUE, nullptr, &reason);
 }
 
 DWORD Scan(Client& client)
