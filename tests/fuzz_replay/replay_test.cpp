@@ -72,10 +72,7 @@ TEST(Findings, BelongToTargets)
     const std::vector<std::filesystem::path> folders = FilesIn(kFolder / "findings");
     EXPECT_THAT(folders, testing::Not(testing::IsEmpty()));
     for (const std::filesystem::path& folder : folders)
-    {
         EXPECT_THAT(names, testing::Contains(folder.filename().string()));
-        EXPECT_THAT(FilesIn(folder), testing::Not(testing::IsEmpty())) << folder;
-    }
 }
 
 } // namespace
