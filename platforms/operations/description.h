@@ -52,53 +52,27 @@ struct Description : Facts
     Row<Roles...> roles;
 };
 
-constexpr Facility FacilityOf(const platform::WlanService*)
+/// The facility that an operation belongs to, by the class that has it.
+struct Facilities
 {
-    return Facility::wlan;
-}
-constexpr Facility FacilityOf(const platform::ServiceControl*)
-{
-    return Facility::services;
-}
-constexpr Facility FacilityOf(const platform::Power*)
-{
-    return Facility::power;
-}
-constexpr Facility FacilityOf(const platform::Security*)
-{
-    return Facility::security;
-}
-constexpr Facility FacilityOf(const platform::Processes*)
-{
-    return Facility::processes;
-}
-constexpr Facility FacilityOf(const platform::Internet*)
-{
-    return Facility::internet;
-}
-constexpr Facility FacilityOf(const platform::Text*)
-{
-    return Facility::text;
-}
-constexpr Facility FacilityOf(const platform::Clock*)
-{
-    return Facility::clock;
-}
-constexpr Facility FacilityOf(const platform::DebuggerOutput*)
-{
-    return Facility::debugger;
-}
-constexpr Facility FacilityOf(const platform::LastError*)
-{
-    return Facility::errors;
-}
+    static constexpr Facility Of(const platform::WlanService*) { return Facility::wlan; }
+    static constexpr Facility Of(const platform::ServiceControl*) { return Facility::services; }
+    static constexpr Facility Of(const platform::Power*) { return Facility::power; }
+    static constexpr Facility Of(const platform::Security*) { return Facility::security; }
+    static constexpr Facility Of(const platform::Processes*) { return Facility::processes; }
+    static constexpr Facility Of(const platform::Internet*) { return Facility::internet; }
+    static constexpr Facility Of(const platform::Text*) { return Facility::text; }
+    static constexpr Facility Of(const platform::Clock*) { return Facility::clock; }
+    static constexpr Facility Of(const platform::DebuggerOutput*) { return Facility::debugger; }
+    static constexpr Facility Of(const platform::LastError*) { return Facility::errors; }
+};
 
 template <auto operation, typename... Roles>
 constexpr Description<operation, Roles...> Describe(const char* name, Fails fails, Roles... roles)
 {
     using Member = MemberOperation<decltype(operation)>;
     static_assert(sizeof...(Roles) == Member::parameterCount, "a description has one role for each parameter");
-    constexpr auto facility = FacilityOf(static_cast<const typename Member::Facility*>(nullptr));
+    constexpr auto facility = Facilities::Of(static_cast<const typename Member::Facility*>(nullptr));
     return {{name, facility, fails, (Roles::tellsNames || ... || false)}, Row<Roles...>(roles...)};
 }
 

@@ -83,52 +83,23 @@ inline constexpr Row kBssTypes{
     RecordNumber<>{3, "any"},
 };
 
-constexpr const auto& NumbersOf(WLAN_INTF_OPCODE)
+/// The numbers that are listed here, by their enumeration.
+struct Numbers
 {
-    return kInterfaceOpcodes;
-}
-constexpr const auto& NumbersOf(WLAN_AUTOCONF_OPCODE)
-{
-    return kAutoConfigOpcodes;
-}
-constexpr const auto& NumbersOf(POWER_INFORMATION_LEVEL)
-{
-    return kPowerLevels;
-}
-constexpr const auto& NumbersOf(WLAN_CONNECTION_MODE)
-{
-    return kConnectionModes;
-}
-constexpr const auto& NumbersOf(DOT11_BSS_TYPE)
-{
-    return kBssTypes;
-}
+    static constexpr const auto& Of(WLAN_INTF_OPCODE) { return kInterfaceOpcodes; }
+    static constexpr const auto& Of(WLAN_AUTOCONF_OPCODE) { return kAutoConfigOpcodes; }
+    static constexpr const auto& Of(POWER_INFORMATION_LEVEL) { return kPowerLevels; }
+    static constexpr const auto& Of(WLAN_CONNECTION_MODE) { return kConnectionModes; }
+    static constexpr const auto& Of(DOT11_BSS_TYPE) { return kBssTypes; }
+};
 
-/// Enumerations that are listed here.
 template <typename Enumeration>
 concept ListedNumber = requires(Enumeration value)
 {
-    NumbersOf(value);
+    Numbers::Of(value);
 };
 
-/// The platform's name of a number; empty for one that has none.
-template <ListedNumber Enumeration>
-std::string_view NameOf(Enumeration value)
-{
-    std::string_view name;
-    const auto look = [&](const auto& row)
-    {
-        if (row.number == static_cast<std::uint32_t>(value))
-            name = row.name;
-    };
-    Apply([&](const auto&... rows) { (look(rows), ...); }, NumbersOf(value));
-    return name;
-}
-
-/// The type of a record; void if none is known.
-template <typename Record>
-using RecordType = std::type_identity<Record>;
-
+/// Calls `visit(row)` with the row of a number, an empty one if it is not listed.
 template <ListedNumber Enumeration, typename Visit>
 void VisitRow(Enumeration value, Visit visit)
 {
@@ -140,10 +111,23 @@ void VisitRow(Enumeration value, Visit visit)
         known = true;
         visit(row);
     };
-    Apply([&](const auto&... rows) { (look(rows), ...); }, NumbersOf(value));
+    Apply([&](const auto&... rows) { (look(rows), ...); }, Numbers::Of(value));
     if (!known)
         visit(RecordNumber<>{});
 }
+
+/// The platform's name of a number; empty for one that has none.
+template <ListedNumber Enumeration>
+std::string_view NameOf(Enumeration value)
+{
+    std::string_view name;
+    VisitRow(value, [&name](const auto& row) { name = row.name; });
+    return name;
+}
+
+/// The type of a record; void if none is known.
+template <typename Record>
+using RecordType = std::type_identity<Record>;
 
 /// Calls `visit(RecordType<...>())` with the record that a question is answered with.
 template <ListedNumber Enumeration, typename Visit>

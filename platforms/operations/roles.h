@@ -71,11 +71,9 @@ enum class HandleFamily
 };
 
 /// What parameters are for. Each role says what its parameter is called, and by its type how it is shown, recorded and
-/// replayed: wrappers/argument_texts.h and wrappers/recording/role_fields.h have overloads for roles or what they derive
-/// from.
+/// replayed: wrappers/argument_texts.h and wrappers/recording have overloads for roles or what they derive from.
 struct Role
 {
-    constexpr explicit Role(const char* itsName) : name(itsName) {}
     /// Whether names of networks and adapters may come up in it, which an anonymised recording hides.
     static constexpr bool tellsNames = false;
     const char* name;
@@ -84,30 +82,25 @@ struct Role
 /// Read by the operation.
 struct Given : Role
 {
-    using Role::Role;
 };
 
 /// Only written by it; before the call only its address is known.
 struct HandedOut : Role
 {
-    using Role::Role;
 };
 
 /// Read and written.
 struct Exchanged : Role
 {
-    using Role::Role;
 };
 
 struct NameTelling : Given
 {
-    using Given::Given;
     static constexpr bool tellsNames = true;
 };
 
 struct NameTellingOut : HandedOut
 {
-    using HandedOut::HandedOut;
     static constexpr bool tellsNames = true;
 };
 
@@ -116,41 +109,34 @@ struct NameTellingOut : HandedOut
 /// Only its presence is shown; an Unrecorded one is not in recordings at all.
 struct Pointer : Given
 {
-    using Given::Given;
 };
 /// Null in every correct call.
 struct Reserved : Pointer
 {
-    constexpr Reserved() : Pointer("reserved") {}
+    constexpr Reserved() : Pointer{"reserved"} {}
 };
 struct UnrecordedPointer : Pointer
 {
-    using Pointer::Pointer;
 };
 
 /// An integer or an enumeration, shown by its name if it has one.
 struct Number : Given
 {
-    using Given::Given;
 };
 struct UnrecordedNumber : Number
 {
-    using Number::Number;
 };
 /// The number that says which record comes with it (operations/records.h).
 struct Opcode : Number
 {
-    using Number::Number;
 };
 struct Flag : Given
 {
-    using Given::Given;
 };
 
 template <HandleFamily handleFamily>
 struct Handle : Given
 {
-    using Given::Given;
     static constexpr HandleFamily family = handleFamily;
 };
 using Service = Handle<HandleFamily::service>;
@@ -158,57 +144,49 @@ using Object = Handle<HandleFamily::object>;
 using Module = Handle<HandleFamily::module>;
 struct Client : Handle<HandleFamily::client>
 {
-    constexpr Client() : Handle("client") {}
+    constexpr Client() : Handle{"client"} {}
 };
 
 struct Guid : Given
 {
-    using Given::Given;
 };
-struct Adapter : NameTelling
+struct Adapter : Guid
 {
-    constexpr Adapter() : NameTelling("interface") {}
+    constexpr Adapter() : Guid{"interface"} {}
+    static constexpr bool tellsNames = true;
 };
 
 /// Terminated text.
 struct Text : Given
 {
-    using Given::Given;
 };
 struct ProfileName : Text
 {
-    using Text::Text;
     static constexpr bool tellsNames = true;
 };
 struct ProfileText : Text
 {
-    using Text::Text;
     static constexpr bool tellsNames = true;
 };
 struct CommandLine : Text
 {
-    using Text::Text;
     static constexpr bool tellsNames = true;
 };
 /// What goes to the debugger.
 struct TraceText : Text
 {
-    using Text::Text;
 };
 struct Ssid : NameTelling
 {
-    using NameTelling::NameTelling;
 };
 
 /// A record that is shown field by field.
 struct Record : NameTelling
 {
-    using NameTelling::NameTelling;
 };
 /// The same for those whose fields only recordings have, as an object of their own.
 struct WholeRecord : Pointer
 {
-    using Pointer::Pointer;
 };
 
 /// A parameter's place, seen from another's.
@@ -219,193 +197,157 @@ inline constexpr int after = 1;
 template <int sizeAt>
 struct Bytes : Pointer
 {
-    using Pointer::Pointer;
 };
 
 /// Wide text in bytes, terminator included: the name of a power scheme.
 struct FriendlyName : Given
 {
-    using Given::Given;
 };
 
 /// The size of a record, which differs between Windows and other systems.
 struct RecordSize : Given
 {
-    using Given::Given;
 };
 
 /// Options of an internet session; most are one number.
 struct OptionValue : Given
 {
-    using Given::Given;
 };
 struct OptionSize : RecordSize
 {
-    using RecordSize::RecordSize;
 };
 
 /// What an interface is set to, by the opcode.
 struct SettingSize : RecordSize
 {
-    using RecordSize::RecordSize;
 };
 struct Setting : Given
 {
-    using Given::Given;
 };
 
 /// Text to be converted, and the number of its characters, negative if it is terminated.
 struct Source : NameTelling
 {
-    using NameTelling::NameTelling;
 };
 struct SourceLength : Number
 {
-    using Number::Number;
 };
 
 /// For how many converted characters there is room; 0 asks for their number.
 struct DestinationRoom : Number
 {
-    using Number::Number;
 };
 
 /// Where notifications go, and what they bring along.
 struct Callback : Pointer
 {
-    using Pointer::Pointer;
 };
 struct Context : Pointer
 {
-    using Pointer::Pointer;
 };
 
 /// A block that goes back to who handed it out.
 struct Block : Pointer
 {
-    using Pointer::Pointer;
 };
 
 // --- Handed out, if the operation does not fail
 
 struct NumberOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 /// Handed out by a failing operation, too.
 struct ReasonOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 template <HandleFamily handleFamily>
 struct HandleOut : HandedOut
 {
-    using HandedOut::HandedOut;
     static constexpr HandleFamily family = handleFamily;
 };
 
 /// A block of the WLAN service's, which goes back to it.
 struct BlockOut : NameTellingOut
 {
-    using NameTellingOut::NameTellingOut;
 };
 struct ListOut : BlockOut
 {
-    using BlockOut::BlockOut;
 };
 struct ProfileTextOut : BlockOut
 {
-    using BlockOut::BlockOut;
 };
 /// The answer to a question, by its opcode; its size is the parameter before.
 struct AnswerOut : BlockOut
 {
-    using BlockOut::BlockOut;
 };
 /// The GUID of a power scheme in a block of its own.
 struct SchemeOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 
 /// A record in memory of the caller, shown field by field, or as an object of its own.
 struct RecordOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 struct WholeRecordOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 
 /// Bytes in memory of the caller: the parameter before is the capacity, the one after is the size used.
 struct BytesOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 struct BytesCountOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 
 /// Terminated wide text; the parameter `roomAt` says for how many characters there is room.
 template <int roomAt>
 struct TextOut : NameTellingOut
 {
-    using NameTellingOut::NameTellingOut;
 };
 
 /// Converted text.
 struct DestinationOut : NameTellingOut
 {
-    using NameTellingOut::NameTellingOut;
 };
 
 /// The path of a module, as many characters as the result says.
 struct ModulePathOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 
 /// What is known about power, by its level; the next parameter is the capacity.
 struct InformationOut : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 struct InformationRoom : RecordSize
 {
-    using RecordSize::RecordSize;
 };
 
 // --- Exchanged
 
 struct NumberExchanged : Exchanged
 {
-    using Exchanged::Exchanged;
 };
 /// A number that is read, but means nothing until it is written.
 struct NumberOverwritten : NumberExchanged
 {
-    using NumberExchanged::NumberExchanged;
 };
 /// A legacy power scheme; -1 asks for a new one.
-struct SchemeExchanged : Exchanged
+struct SchemeExchanged : NumberExchanged
 {
-    using Exchanged::Exchanged;
 };
 /// The size of an answer, set before by careful callers.
 struct AnswerSize : Exchanged
 {
-    using Exchanged::Exchanged;
 };
 /// A buffer of bytes, and how many there is room for, then how many there are.
 struct Buffer : HandedOut
 {
-    using HandedOut::HandedOut;
 };
 struct BufferSize : NumberExchanged
 {
-    using NumberExchanged::NumberExchanged;
 };
 
 } // namespace calvix::operations

@@ -1,5 +1,8 @@
 #include "wrappers/argument_texts.h"
 
+#include "forms/address_text.h"
+#include "forms/guid_text.h"
+
 #include <concepts>
 #include <cstdint>
 #include <cstdio>
@@ -65,70 +68,31 @@ std::string BssidListText(const DOT11_BSSID_LIST* list)
     std::string text;
     for (ULONG i = 0; i < list->uNumOfEntries; ++i)
     {
-        const UCHAR* const address = reinterpret_cast<const UCHAR*>(list->BSSIDs) + 6 * i;
+        const auto* const address = reinterpret_cast<const std::uint8_t*>(list->BSSIDs) + 6 * i;
         text += text.empty() ? "" : " ";
-        text += Formatted("%02X:%02X:%02X:%02X:%02X:%02X", static_cast<unsigned>(address[0]),
-                          static_cast<unsigned>(address[1]), static_cast<unsigned>(address[2]),
-                          static_cast<unsigned>(address[3]), static_cast<unsigned>(address[4]),
-                          static_cast<unsigned>(address[5]));
+        text += forms::AddressText(std::span<const std::uint8_t, 6>(address, 6));
     }
     return "[" + text + "]";
 }
 
 using operations::RecordType;
 
-constexpr const char* NameOf(RecordType<BOOL>)
+struct RecordName
 {
-    return "BOOL";
-}
-constexpr const char* NameOf(RecordType<operations::Long>)
-{
-    return "LONG";
-}
-constexpr const char* NameOf(RecordType<ULONG>)
-{
-    return "ULONG";
-}
-constexpr const char* NameOf(RecordType<ULONGLONG>)
-{
-    return "ULONGLONG";
-}
-constexpr const char* NameOf(RecordType<DOT11_BSS_TYPE>)
-{
-    return "DOT11_BSS_TYPE";
-}
-constexpr const char* NameOf(RecordType<WLAN_RADIO_STATE>)
-{
-    return "WLAN_RADIO_STATE";
-}
-constexpr const char* NameOf(RecordType<WLAN_PHY_RADIO_STATE>)
-{
-    return "WLAN_PHY_RADIO_STATE";
-}
-constexpr const char* NameOf(RecordType<WLAN_INTERFACE_STATE>)
-{
-    return "WLAN_INTERFACE_STATE";
-}
-constexpr const char* NameOf(RecordType<WLAN_CONNECTION_ATTRIBUTES>)
-{
-    return "WLAN_CONNECTION_ATTRIBUTES";
-}
-constexpr const char* NameOf(RecordType<WLAN_STATISTICS>)
-{
-    return "WLAN_STATISTICS";
-}
-constexpr const char* NameOf(RecordType<WLAN_POWER_SETTING>)
-{
-    return "WLAN_POWER_SETTING";
-}
-constexpr const char* NameOf(RecordType<SYSTEM_POWER_CAPABILITIES>)
-{
-    return "SYSTEM_POWER_CAPABILITIES";
-}
-constexpr const char* NameOf(RecordType<SYSTEM_POWER_POLICY>)
-{
-    return "SYSTEM_POWER_POLICY";
-}
+    static constexpr const char* Of(RecordType<BOOL>) { return "BOOL"; }
+    static constexpr const char* Of(RecordType<operations::Long>) { return "LONG"; }
+    static constexpr const char* Of(RecordType<ULONG>) { return "ULONG"; }
+    static constexpr const char* Of(RecordType<ULONGLONG>) { return "ULONGLONG"; }
+    static constexpr const char* Of(RecordType<DOT11_BSS_TYPE>) { return "DOT11_BSS_TYPE"; }
+    static constexpr const char* Of(RecordType<WLAN_RADIO_STATE>) { return "WLAN_RADIO_STATE"; }
+    static constexpr const char* Of(RecordType<WLAN_PHY_RADIO_STATE>) { return "WLAN_PHY_RADIO_STATE"; }
+    static constexpr const char* Of(RecordType<WLAN_INTERFACE_STATE>) { return "WLAN_INTERFACE_STATE"; }
+    static constexpr const char* Of(RecordType<WLAN_CONNECTION_ATTRIBUTES>) { return "WLAN_CONNECTION_ATTRIBUTES"; }
+    static constexpr const char* Of(RecordType<WLAN_STATISTICS>) { return "WLAN_STATISTICS"; }
+    static constexpr const char* Of(RecordType<WLAN_POWER_SETTING>) { return "WLAN_POWER_SETTING"; }
+    static constexpr const char* Of(RecordType<SYSTEM_POWER_CAPABILITIES>) { return "SYSTEM_POWER_CAPABILITIES"; }
+    static constexpr const char* Of(RecordType<SYSTEM_POWER_POLICY>) { return "SYSTEM_POWER_POLICY"; }
+};
 
 std::string SizeText(DWORD size, std::size_t recordSize, const char* recordName)
 {
@@ -142,15 +106,7 @@ std::string SizeText(DWORD size, RecordType<Record> record)
     if constexpr (std::is_void_v<Record>)
         return NumberText(static_cast<long long>(size));
     else
-        return SizeText(size, sizeof(Record), NameOf(record));
-}
-
-template <typename Opcode>
-std::string SizeOfAnswer(Opcode opcode, DWORD size)
-{
-    std::string text;
-    operations::VisitAnswer(opcode, [&](auto record) { text = SizeText(size, record); });
-    return text;
+        return SizeText(size, sizeof(Record), RecordName::Of(record));
 }
 
 std::string SettingText(const WLAN_PHY_RADIO_STATE& phy)
@@ -200,14 +156,7 @@ std::string HandleText(HandleNumbers& numbers, HandleFamily family, const void* 
 
 std::string GuidText(const GUID* value)
 {
-    if (value == nullptr)
-        return kNull;
-    const auto& end = value->Data4;
-    return Formatted("{%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X}", static_cast<unsigned>(value->Data1),
-                     static_cast<unsigned>(value->Data2), static_cast<unsigned>(value->Data3),
-                     static_cast<unsigned>(end[0]), static_cast<unsigned>(end[1]), static_cast<unsigned>(end[2]),
-                     static_cast<unsigned>(end[3]), static_cast<unsigned>(end[4]), static_cast<unsigned>(end[5]),
-                     static_cast<unsigned>(end[6]), static_cast<unsigned>(end[7]));
+    return value != nullptr ? forms::GuidText(*value) : kNull;
 }
 
 std::string SsidText(const DOT11_SSID* ssid)
@@ -263,20 +212,17 @@ std::string RecordText(const FILETIME& time)
     return std::to_string((high << 32) | static_cast<std::uint32_t>(time.dwLowDateTime));
 }
 
-std::string AnswerSizeText(WLAN_INTF_OPCODE opcode, DWORD size)
+template <typename Opcode>
+std::string AnswerSizeText(Opcode opcode, DWORD size)
 {
-    return SizeOfAnswer(opcode, size);
+    std::string text;
+    operations::VisitAnswer(opcode, [&](auto record) { text = SizeText(size, record); });
+    return text;
 }
 
-std::string AnswerSizeText(WLAN_AUTOCONF_OPCODE opcode, DWORD size)
-{
-    return SizeOfAnswer(opcode, size);
-}
-
-std::string AnswerSizeText(POWER_INFORMATION_LEVEL level, DWORD size)
-{
-    return SizeOfAnswer(level, size);
-}
+template std::string AnswerSizeText(WLAN_INTF_OPCODE opcode, DWORD size);
+template std::string AnswerSizeText(WLAN_AUTOCONF_OPCODE opcode, DWORD size);
+template std::string AnswerSizeText(POWER_INFORMATION_LEVEL level, DWORD size);
 
 std::string SettingSizeText(WLAN_INTF_OPCODE opcode, DWORD size)
 {

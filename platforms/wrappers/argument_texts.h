@@ -32,9 +32,8 @@ std::string RecordText(const TOKEN_PRIVILEGES& privileges);
 std::string RecordText(const FILETIME& time);
 
 /// Sizes of records are shown as such: they differ between Windows and other systems.
-std::string AnswerSizeText(WLAN_INTF_OPCODE opcode, DWORD size);
-std::string AnswerSizeText(WLAN_AUTOCONF_OPCODE opcode, DWORD size);
-std::string AnswerSizeText(POWER_INFORMATION_LEVEL level, DWORD size);
+template <typename Opcode>
+std::string AnswerSizeText(Opcode opcode, DWORD size);
 std::string SettingSizeText(WLAN_INTF_OPCODE opcode, DWORD size);
 /// What WlanSetInterface is given.
 std::string SettingText(WLAN_INTF_OPCODE opcode, DWORD size, const void* value);
@@ -85,12 +84,6 @@ inline std::string ArgumentText(const operations::Guid&, const GUID* guid, const
 inline std::string ArgumentText(const operations::Guid&, const GUID& guid, const operations::AnyPlace&, HandleNumbers&)
 {
     return GuidText(&guid);
-}
-
-inline std::string
-ArgumentText(const operations::Adapter&, const GUID* guid, const operations::AnyPlace&, HandleNumbers&)
-{
-    return GuidText(guid);
 }
 
 std::string ArgumentText(const operations::Text&, const auto* text, const operations::AnyPlace&, HandleNumbers&)

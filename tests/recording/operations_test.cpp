@@ -1,5 +1,6 @@
 // Every operation of the platform, recorded and replayed, and what lies between operations.
 
+#include "forms/hex_text.h"
 #include "simulation/computer.h"
 #include "support/test_worlds.h"
 #include "wrappers/recording/key_mask.h"
@@ -60,7 +61,7 @@ std::string Narrowed(const wchar_t* text)
 
 std::string BytesText(const void* bytes, std::size_t size)
 {
-    return recording::HexText({static_cast<const char*>(bytes), size});
+    return forms::HexText({static_cast<const char*>(bytes), size});
 }
 
 void WINAPI NoteNews(PWLAN_NOTIFICATION_DATA data, PVOID context)

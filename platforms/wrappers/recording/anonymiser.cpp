@@ -1,6 +1,8 @@
 #include "wrappers/recording/anonymiser.h"
 
+#include "forms/address_text.h"
 #include "forms/utf8.h"
+#include "forms/xml_text.h"
 #include "operations/operations.h"
 #include "wrappers/recording/recorded_text.h"
 
@@ -29,52 +31,10 @@ std::size_t CharactersOf(std::string_view bytes)
         bytes.begin(), bytes.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
-std::string InCase(std::string text, int (*convert)(int))
+std::string WithDashes(std::string address)
 {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [convert](char c) { return static_cast<char>(convert(static_cast<unsigned char>(c))); });
-    return text;
-}
-
-std::string XmlEscaped(std::string_view text)
-{
-    std::string escaped;
-    for (const char c : text)
-    {
-        switch (c)
-        {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        case '\'':
-            escaped += "&apos;";
-            break;
-        default:
-            escaped += c;
-        }
-    }
-    return escaped;
-}
-
-std::string AddressText(const std::array<std::uint8_t, 6>& address, char separator)
-{
-    std::string text;
-    for (const std::uint8_t byte : address)
-    {
-        if (!text.empty())
-            text += separator;
-        text += HexText(std::string(1, static_cast<char>(byte)));
-    }
-    return text;
+    std::replace(address.begin(), address.end(), ':', '-');
+    return address;
 }
 
 bool IsPartOfWord(char c)
@@ -158,7 +118,7 @@ void Anonymiser::LearnName(std::string_view bytes, std::string_view word)
         return;
     const std::string pseudonym = PseudonymOf(bytes, word);
     Replace(bytes, pseudonym);
-    Replace(XmlEscaped(bytes), pseudonym);
+    Replace(forms::EscapedXml(bytes), pseudonym);
 }
 
 void Anonymiser::LearnAddress(const std::array<std::uint8_t, 6>& address)
@@ -172,11 +132,12 @@ void Anonymiser::LearnAddress(const std::array<std::uint8_t, 6>& address)
     const std::array<std::uint8_t, 6> made = {
         2, 0, 0, 0, static_cast<std::uint8_t>(number >> 8), static_cast<std::uint8_t>(number)};
     Replace(raw, std::string(made.begin(), made.end()));
-    for (const char separator : {':', '-'})
+    for (const forms::Letters letters : {forms::Letters::capital, forms::Letters::lower})
     {
-        const std::string text = AddressText(address, separator);
-        Replace(text, AddressText(made, separator));
-        Replace(InCase(text, std::tolower), InCase(AddressText(made, separator), std::tolower));
+        const std::string text = forms::AddressText(address, letters);
+        const std::string replacement = forms::AddressText(made, letters);
+        Replace(text, replacement);
+        Replace(WithDashes(text), WithDashes(replacement));
     }
 }
 
@@ -188,7 +149,7 @@ void Anonymiser::LearnGuid(std::string_view text)
     char made[40];
     std::snprintf(made, sizeof made, "00000000-0000-0000-0000-%012d", ++m_counts["guid"]);
     Replace(bare, made);
-    Replace(InCase(bare, std::tolower), made);
+    Replace(Lowered(bare), made);
 }
 
 /// A name in another code page is that name too.
@@ -236,7 +197,7 @@ std::string Anonymiser::InProfile(const std::string& xml) const
     const auto inHex = [&inName](const std::string& hex)
     {
         std::string ssid;
-        return ReadHex(hex, ssid) ? HexText(inName(ssid)) : hex;
+        return ReadHex(hex, ssid) ? forms::HexText(inName(ssid)) : hex;
     };
     return WithContents(WithContents(xml, "name>", inName), "hex>", inHex);
 }

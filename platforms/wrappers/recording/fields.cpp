@@ -1,5 +1,6 @@
 #include "wrappers/recording/fields.h"
 
+#include "forms/address_text.h"
 #include "forms/guid_text.h"
 #include "forms/utf8.h"
 #include "wrappers/recording/anonymiser.h"
@@ -95,19 +96,17 @@ long long Fields::GetSigned(const char* name, long long lowest, long long highes
     return value.get<long long>();
 }
 
-void Fields::GivenText(const char* name, const char* text, int length)
+template <typename Character>
+void Fields::GivenText(const char* name, const Character* text, int length)
 {
     if (text == nullptr)
         return PutNull(name);
-    m_object[name] = RecordedBytes(m_surroundings.keys->InText(std::string(GivenView(text, length))));
+    std::basic_string<Character> copy(GivenView(text, length));
+    Text(name, copy);
 }
 
-void Fields::GivenText(const char* name, const wchar_t* text, int length)
-{
-    if (text == nullptr)
-        return PutNull(name);
-    m_object[name] = WithoutKeys(*m_surroundings.keys, GivenView(text, length));
-}
+template void Fields::GivenText(const char* name, const char* text, int length);
+template void Fields::GivenText(const char* name, const wchar_t* text, int length);
 
 void Fields::GivenName(const char* name, const wchar_t* profile)
 {
@@ -168,7 +167,7 @@ void Fields::Bytes(const char* name, std::string& bytes)
     if (isReading())
         bytes = BytesFrom(At(name), name);
     else
-        m_object[name] = {{"bytes", HexText(m_surroundings.keys->InBytes(bytes))}};
+        m_object[name] = {{"bytes", forms::HexText(m_surroundings.keys->InBytes(bytes))}};
 }
 
 void Fields::Into(const char* name, void* buffer, std::size_t size)
@@ -243,24 +242,19 @@ void Fields::Ssid(const char* name, DOT11_SSID& ssid)
 
 void Fields::Address(const char* name, UCHAR* address)
 {
-    std::array<std::uint8_t, 6> bytes{};
-    if (!isReading())
+    if (isReading())
     {
-        std::copy_n(address, bytes.size(), bytes.begin());
-        std::string text;
-        for (const std::uint8_t byte : bytes)
-            text += (text.empty() ? "" : ":") + HexText(std::string(1, static_cast<char>(byte)));
-        m_object[name] = text;
-        if (m_surroundings.names != nullptr)
-            m_surroundings.names->LearnAddress(bytes);
+        const auto read = forms::AddressFromText(BytesFrom(At(name), name));
+        if (!read)
+            throw Damage(name, "is not an address");
+        std::copy(read->begin(), read->end(), address);
         return;
     }
-    std::string text = BytesFrom(At(name), name);
-    text.erase(std::remove(text.begin(), text.end(), ':'), text.end());
-    std::string read;
-    if (!ReadHex(text, read) || read.size() != bytes.size())
-        throw Damage(name, "is not an address");
-    std::copy(read.begin(), read.end(), address);
+    std::array<std::uint8_t, 6> bytes{};
+    std::copy_n(address, bytes.size(), bytes.begin());
+    m_object[name] = forms::AddressText(bytes);
+    if (m_surroundings.names != nullptr)
+        m_surroundings.names->LearnAddress(bytes);
 }
 
 void Fields::Guid(const char* name, GUID& guid)

@@ -82,8 +82,8 @@ public:
     }
 
     /// Arguments that may be null.
-    void GivenText(const char* name, const char* text, int length = -1);
-    void GivenText(const char* name, const wchar_t* text, int length = -1);
+    template <typename Character>
+    void GivenText(const char* name, const Character* text, int length = -1);
     void GivenName(const char* name, const wchar_t* profile);
     void GivenGuid(const char* name, const GUID* guid);
     void GivenAdapter(const GUID* guid);

@@ -115,12 +115,6 @@ void Describe(const auto& call, const operations::NumberExchanged& role, auto* n
         call.fields.NumberAt(role.name, number);
 }
 
-void Describe(const auto& call, const operations::SchemeExchanged& role, auto* number, const operations::AnyPlace&)
-{
-    if (!call.failed)
-        call.fields.NumberAt(role.name, number);
-}
-
 template <wrappers::HandleFamily family>
 void Describe(const auto& call, const operations::HandleOut<family>& role, auto* handle, const operations::AnyPlace&)
 {

@@ -1,7 +1,7 @@
 #include "wrappers/recording/key_mask.h"
 
-#include <algorithm>
-#include <cctype>
+#include "wrappers/recording/recorded_text.h"
+
 #include <utility>
 
 namespace calvix::recording
@@ -13,14 +13,6 @@ namespace
 constexpr std::string_view kKeyElement = "keymaterial";
 /// Shorter ones are no WPA passphrases and may be parts of words.
 constexpr std::size_t kShortestKnownKey = 8;
-
-std::string Lowered(std::string_view text)
-{
-    std::string lowered(text);
-    std::transform(lowered.begin(), lowered.end(), lowered.begin(),
-                   [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-    return lowered;
-}
 
 bool IsSpace(char c)
 {

@@ -18,7 +18,8 @@ nlohmann::ordered_json RecordedWide(std::wstring_view text);
 std::string BytesFrom(const nlohmann::ordered_json& value, const char* name);
 std::wstring WideFrom(const nlohmann::ordered_json& value, const char* name);
 
-std::string HexText(std::string_view bytes);
+/// With small letters in place of the capitals of ASCII.
+std::string Lowered(std::string_view text);
 /// False for what is no hexadecimal text of whole bytes.
 bool ReadHex(std::string_view text, std::string& bytes);
 

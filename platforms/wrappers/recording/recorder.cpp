@@ -27,25 +27,15 @@ constexpr std::chrono::seconds kPatience(1);
 thread_local int t_callbacks = 0;
 
 /// Writing a file must not change what the program's GetLastError says.
-class LastErrorKept
+struct [[maybe_unused]] LastErrorKept
 {
-public:
 #if defined(_WIN32)
-    LastErrorKept() : m_error(::GetLastError()) {}
     ~LastErrorKept()
     {
-        ::SetLastError(m_error);
+        ::SetLastError(error);
     }
-#else
-    LastErrorKept() {}
-    ~LastErrorKept() {}
-#endif
-    LastErrorKept(const LastErrorKept&) = delete;
-    LastErrorKept& operator=(const LastErrorKept&) = delete;
 
-#if defined(_WIN32)
-private:
-    DWORD m_error;
+    const DWORD error = ::GetLastError();
 #endif
 };
 
