@@ -8,6 +8,8 @@
 #include <windows.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace calvix::test::dropin_scenario_choice_test
 {
@@ -19,7 +21,6 @@ const std::wstring scenarios = L"" CALVIX_SOURCE_DIR "/scenarios/";
 const std::wstring ownScenarios = L"" CALVIX_SOURCE_DIR "/tests/dropin/scenarios/";
 
 constexpr char homeAdapter[] = "Calvix Simulated Wi-Fi 6E Adapter\r\n";
-constexpr char adapterBeside[] = "The Adapter of the File Beside\r\n";
 constexpr char invalidData[] = "error 13\r\n";
 
 ProgramEnd NameAdapters(const Environment& environment)
@@ -27,33 +28,36 @@ ProgramEnd NameAdapters(const Environment& environment)
     return RunProgram(programs + L"wlan_adapter_names.exe", environment);
 }
 
-TEST(DropinScenario, IsTheBuiltInHomeWhereNothingWasChosen)
+struct Choice
 {
-    const ProgramEnd end = NameAdapters({});
-    EXPECT_EQ(end.exitCode, 0u);
-    EXPECT_EQ(end.output, homeAdapter);
-    EXPECT_EQ(end.errors, "");
-}
+    const char* name;
+    const wchar_t* program;
+    std::wstring scenario; ///< named in the environment, if any
+    const char* output;
+    unsigned long exitCode = 0;
+};
 
-TEST(DropinScenario, IsTheFileNamedInTheEnvironment)
-{
-    const ProgramEnd end = NameAdapters({{L"CALVIX_SCENARIO", scenarios + L"two-adapters.json"}});
-    EXPECT_EQ(end.exitCode, 0u);
-    EXPECT_EQ(end.output, "Calvix Simulated Wi-Fi 5 Adapter\r\nCalvix Simulated USB Wi-Fi 7 Adapter\r\n");
-}
+const Choice kChoices[] = {
+    {"the built-in home where nothing was chosen", L"wlan_adapter_names.exe", L"", homeAdapter},
+    {"the file named in the environment", L"wlan_adapter_names.exe", scenarios + L"two-adapters.json",
+     "Calvix Simulated Wi-Fi 5 Adapter\r\nCalvix Simulated USB Wi-Fi 7 Adapter\r\n"},
+    {"the file beside the library", L"beside/wlan_adapter_names.exe", L"", "The Adapter of the File Beside\r\n"},
+    {"rather the named file than the one beside", L"beside/wlan_adapter_names.exe", scenarios + L"home.json",
+     homeAdapter},
+    {"a service that is stopped answers as such", L"wlan_adapter_names.exe", scenarios + L"service-stopped.json",
+     "error 1062\r\n", ERROR_SERVICE_NOT_ACTIVE},
+};
 
-TEST(DropinScenario, IsTheFileBesideTheLibrary)
+TEST(DropinScenario, IsTheOneThatWasChosen)
 {
-    const ProgramEnd end = RunProgram(programs + L"beside/wlan_adapter_names.exe");
-    EXPECT_EQ(end.exitCode, 0u);
-    EXPECT_EQ(end.output, adapterBeside);
-}
-
-TEST(DropinScenario, IsRatherTheNamedFileThanTheOneBeside)
-{
-    const ProgramEnd end =
-        RunProgram(programs + L"beside/wlan_adapter_names.exe", {{L"CALVIX_SCENARIO", scenarios + L"home.json"}});
-    EXPECT_EQ(end.output, homeAdapter);
+    for (const Choice& choice : kChoices)
+    {
+        SCOPED_TRACE(choice.name);
+        const ProgramEnd end = RunProgram(programs + choice.program, {{L"CALVIX_SCENARIO", choice.scenario}});
+        EXPECT_EQ(end.exitCode, choice.exitCode);
+        EXPECT_EQ(end.output, choice.output);
+        EXPECT_EQ(end.errors, "");
+    }
 }
 
 // A path that no narrow code page of this computer can write.
@@ -69,13 +73,6 @@ TEST(DropinScenario, MayHaveAnyNameAsItsPath)
     EXPECT_EQ(end.output, "");
 }
 
-TEST(DropinScenario, ServiceThatIsStoppedAnswersAsSuch)
-{
-    const ProgramEnd end = NameAdapters({{L"CALVIX_SCENARIO", scenarios + L"service-stopped.json"}});
-    EXPECT_EQ(end.exitCode, static_cast<unsigned long>(ERROR_SERVICE_NOT_ACTIVE));
-    EXPECT_EQ(end.output, "error 1062\r\n");
-}
-
 TEST(DropinScenario, MissingFileIsNamedOnStandardError)
 {
     const ProgramEnd end = NameAdapters({{L"CALVIX_SCENARIO", L"Z:\\no\\such\\file.json"}});
@@ -85,18 +82,18 @@ TEST(DropinScenario, MissingFileIsNamedOnStandardError)
 
 TEST(DropinScenario, ProblemInAFileIsNamedWithItsPlace)
 {
-    const ProgramEnd broken = NameAdapters({{L"CALVIX_SCENARIO", ownScenarios + L"no-json.json"}});
-    EXPECT_EQ(broken.output, invalidData);
-    EXPECT_NE(broken.errors.find("no-json.json: line 4"), std::string::npos) << broken.errors;
-
-    const ProgramEnd wrong = NameAdapters({{L"CALVIX_SCENARIO", ownScenarios + L"wrong-value.json"}});
-    EXPECT_EQ(wrong.output, invalidData);
-    EXPECT_NE(wrong.errors.find("wrong-value.json"), std::string::npos) << wrong.errors;
-    EXPECT_NE(wrong.errors.find("codePage"), std::string::npos) << wrong.errors;
-
-    const ProgramEnd contradictory = NameAdapters({{L"CALVIX_SCENARIO", ownScenarios + L"unknown-profile.json"}});
-    EXPECT_EQ(contradictory.output, invalidData);
-    EXPECT_NE(contradictory.errors.find("/adapters/0/connection/profile"), std::string::npos) << contradictory.errors;
+    const std::pair<const wchar_t*, std::vector<const char*>> problems[] = {
+        {L"no-json.json", {"no-json.json: line 4"}},
+        {L"wrong-value.json", {"wrong-value.json", "codePage"}},
+        {L"unknown-profile.json", {"/adapters/0/connection/profile"}},
+    };
+    for (const auto& [file, named] : problems)
+    {
+        const ProgramEnd end = NameAdapters({{L"CALVIX_SCENARIO", ownScenarios + file}});
+        EXPECT_EQ(end.output, invalidData);
+        for (const char* const words : named)
+            EXPECT_NE(end.errors.find(words), std::string::npos) << words << " is not in " << end.errors;
+    }
 }
 
 TEST(DropinScenario, SpeedMustBeANumber)

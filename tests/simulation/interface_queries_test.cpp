@@ -57,6 +57,16 @@ TEST_F(InterfaceQueries, OnlyTheSoftwareSwitchIsSet)
     EXPECT_EQ(radio.PhyRadioState[0].dot11HardwareRadioState, dot11_radio_state_off);
 }
 
+TEST_F(InterfaceQueries, AnAnswerNeedsAPlaceForItsSize)
+{
+    Start();
+    PVOID data = nullptr;
+    const auto opcode = wlan_intf_opcode_interface_state;
+    EXPECT_EQ(Wlan().WlanQueryInterface(client, &first, opcode, nullptr, nullptr, &data, nullptr),
+              ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(data, nullptr);
+}
+
 TEST_F(InterfaceQueries, RadioSettingsThatMakeNoSense)
 {
     Start();

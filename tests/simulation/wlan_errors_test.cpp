@@ -118,9 +118,8 @@ const Operation kOperations[] = {
          return call.wlan->WlanSetProfile(call.client, call.guid, 0, std::wstring(xml.begin(), xml.end()).c_str(),
                                           nullptr, TRUE, call.reserved, call.Number());
      }},
-    {"WlanSetProfilePosition",
-     [](Call& call) { return call.wlan->WlanSetProfilePosition(call.client, call.guid, L"HomeNet", 0, call.reserved); },
-     {.takesPointer = false}},
+    {"WlanSetProfilePosition", [](Call& call)
+     { return call.wlan->WlanSetProfilePosition(call.client, call.guid, call.Needed(L"HomeNet"), 0, call.reserved); }},
     {"WlanConnect",
      [](Call& call)
      {
@@ -130,9 +129,8 @@ const Operation kOperations[] = {
          return call.wlan->WlanConnect(call.client, call.guid, call.Needed(&parameters), call.reserved);
      },
      {.needsRadio = true}},
-    {"WlanDeleteProfile",
-     [](Call& call) { return call.wlan->WlanDeleteProfile(call.client, call.guid, L"HomeNet", call.reserved); },
-     {.takesPointer = false}},
+    {"WlanDeleteProfile", [](Call& call)
+     { return call.wlan->WlanDeleteProfile(call.client, call.guid, call.Needed(L"HomeNet"), call.reserved); }},
     {"WlanDisconnect",
      [](Call& call) { return call.wlan->WlanDisconnect(call.client, call.guid, call.reserved); },
      {.takesPointer = false}},

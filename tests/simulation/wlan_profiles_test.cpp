@@ -101,6 +101,15 @@ TEST_F(WlanProfiles, UnknownOnesAreNotFound)
     EXPECT_EQ(Wlan().WlanSetProfilePosition(client, &first, L"HomeNet", 1, nullptr), ERROR_NOT_FOUND);
 }
 
+TEST_F(WlanProfiles, ReadingNeedsANameAndStoringADocument)
+{
+    wchar_t* xml = nullptr;
+    DWORD reason = 0;
+    EXPECT_EQ(Wlan().WlanGetProfile(client, &first, nullptr, nullptr, &xml, nullptr, nullptr), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(xml, nullptr);
+    EXPECT_EQ(SetText(nullptr, reason), ERROR_INVALID_PARAMETER);
+}
+
 TEST_F(WlanProfiles, MovingAndDeleting)
 {
     ASSERT_EQ(SetProfile(MakeProfile("B", "B")), ERROR_SUCCESS);
