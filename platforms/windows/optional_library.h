@@ -37,40 +37,20 @@ private:
 
 /// The outcome of a call that could not be made, in the way in which operations of this result type fail.
 template <typename Result>
-Result FailedCall(DWORD error);
-
-template <>
-inline DWORD FailedCall<DWORD>(DWORD error)
-{
-    return error;
-}
-
-/// The status of a platform error number.
-template <>
-inline LONG FailedCall<LONG>(DWORD error)
+Result FailedCall(DWORD error)
 {
     constexpr DWORD kStatusOfErrorNumber = 0xC0070000;
-    return static_cast<LONG>(kStatusOfErrorNumber | error);
-}
-
-template <>
-inline BOOL FailedCall<BOOL>(DWORD error)
-{
-    ::SetLastError(error);
-    return FALSE;
-}
-
-template <>
-inline BOOLEAN FailedCall<BOOLEAN>(DWORD error)
-{
-    ::SetLastError(error);
-    return FALSE;
-}
-
-/// Only releasing gives no result; what could not be called has handed out nothing to release.
-template <>
-inline void FailedCall<void>(DWORD)
-{
+    if constexpr (std::is_same_v<Result, DWORD>)
+        return error;
+    else if constexpr (std::is_same_v<Result, LONG>)
+        return static_cast<LONG>(kStatusOfErrorNumber | error);
+    // Only releasing gives no result; what could not be called has handed out nothing to release.
+    else if constexpr (!std::is_void_v<Result>)
+    {
+        static_assert(std::is_same_v<Result, BOOL> || std::is_same_v<Result, BOOLEAN>);
+        ::SetLastError(error);
+        return FALSE;
+    }
 }
 
 /// For inputs whose const the SDK's prototypes lose: "const PDOT11_SSID" is a constant pointer, not a pointer to something
