@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <optional>
 
 namespace calvix::test
@@ -13,28 +14,11 @@ namespace
 constexpr DWORD againstHangs = 600'000;
 constexpr UINT exitCodeOfTheEnded = 0xdead;
 
-/// A handle that is closed at the end of its scope, or before.
-class OwnedHandle
+struct ClosesHandle
 {
-public:
-    OwnedHandle() = default;
-    explicit OwnedHandle(HANDLE handle) : m_handle(handle) {}
-    ~OwnedHandle() { Close(); }
-    OwnedHandle(const OwnedHandle&) = delete;
-    OwnedHandle& operator=(const OwnedHandle&) = delete;
-
-    HANDLE Get() const { return m_handle; }
-    HANDLE* Place() { return &m_handle; }
-    void Close()
-    {
-        if (m_handle != nullptr)
-            ::CloseHandle(m_handle);
-        m_handle = nullptr;
-    }
-
-private:
-    HANDLE m_handle = nullptr;
+    void operator()(HANDLE handle) const { ::CloseHandle(handle); }
 };
+using OwnedHandle = std::unique_ptr<void, ClosesHandle>;
 
 /// What a child writes goes in at one end and is read from the other. Large enough for all that these programs write.
 struct Pipe
@@ -43,17 +27,21 @@ struct Pipe
     {
         SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
         constexpr DWORD capacity = 256 * 1024;
-        ::CreatePipe(read.Place(), write.Place(), &inherited, capacity);
-        ::SetHandleInformation(read.Get(), HANDLE_FLAG_INHERIT, 0);
+        HANDLE readEnd = nullptr;
+        HANDLE writeEnd = nullptr;
+        ::CreatePipe(&readEnd, &writeEnd, &inherited, capacity);
+        ::SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+        read.reset(readEnd);
+        write.reset(writeEnd);
     }
 
     std::string ReadAll()
     {
-        write.Close();
+        write.reset();
         std::string text;
         char part[4096];
         DWORD count = 0;
-        while (::ReadFile(read.Get(), part, sizeof(part), &count, nullptr) != FALSE && count > 0)
+        while (::ReadFile(read.get(), part, sizeof(part), &count, nullptr) != FALSE && count > 0)
             text.append(part, count);
         return text;
     }
@@ -95,18 +83,18 @@ ProgramEnd RunProgram(const std::wstring& path, const Environment& changes, cons
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = output.write.Get();
-    startup.hStdError = errors.write.Get();
+    startup.hStdOutput = output.write.get();
+    startup.hStdError = errors.write.get();
     PROCESS_INFORMATION process{};
     if (!::CreateProcessW(path.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
                           &process))
         return {::GetLastError(), "", "not started"};
     const OwnedHandle running(process.hProcess);
     const OwnedHandle thread(process.hThread);
-    if (::WaitForSingleObject(running.Get(), againstHangs) != WAIT_OBJECT_0)
-        ::TerminateProcess(running.Get(), exitCodeOfTheEnded);
+    if (::WaitForSingleObject(running.get(), againstHangs) != WAIT_OBJECT_0)
+        ::TerminateProcess(running.get(), exitCodeOfTheEnded);
     ProgramEnd end;
-    ::GetExitCodeProcess(running.Get(), &end.exitCode);
+    ::GetExitCodeProcess(running.get(), &end.exitCode);
     end.output = output.ReadAll();
     end.errors = errors.ReadAll();
     return end;
