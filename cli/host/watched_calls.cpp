@@ -11,7 +11,6 @@ namespace
 {
 
 using operations::Facility;
-using operations::Fails;
 
 bool IsOfSystem(Facility facility)
 {
@@ -30,7 +29,7 @@ void WatchedCalls::After(const wrappers::Call& call, long long result)
         m_serviceRefusal = {std::string(call.operation), static_cast<std::uint32_t>(result)};
     if (!IsOfSystem(operation.facility))
         return;
-    const bool givesError = operation.fails == Fails::withErrorNumber || operation.fails == Fails::withStatus;
+    const bool givesError = operations::ReturnsError(operation.fails);
     const auto error = static_cast<std::uint32_t>(givesError ? static_cast<DWORD>(result) : m_errors.GetLastError());
     m_systemRefusals.push_back({std::string(call.operation), error, 0, true});
 }

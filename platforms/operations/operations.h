@@ -170,7 +170,7 @@ inline constexpr Row kClock{
 };
 
 inline constexpr Row kDebuggerOutput{
-    Describe<&DebuggerOutput::OutputDebugStringA>("OutputDebugStringA", Fails::never, TraceText{"text"}),
+    Describe<&DebuggerOutput::OutputDebugStringA>("OutputDebugStringA", Fails::never, Text{"text"}),
 };
 
 inline constexpr Row kLastError{

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 
+#include <cstdint>
 #include <type_traits>
 
 namespace calvix::operations
@@ -17,6 +18,22 @@ enum class Fails
     withNo,          ///< FALSE is an answer too
     never
 };
+
+/// Whether the result of an operation that fails is the error.
+constexpr bool ReturnsError(Fails fails)
+{
+    return fails == Fails::withErrorNumber || fails == Fails::withStatus;
+}
+
+/// A result as a number: a handle or another pointer is 1, or 0 if it is null.
+template <typename Result>
+constexpr long long AsNumber(Result result)
+{
+    if constexpr (std::is_pointer_v<Result>)
+        return result != nullptr ? 1 : 0;
+    else
+        return static_cast<long long>(result);
+}
 
 /// Whether a call failed, by its result as a number; "no" is an answer.
 constexpr bool HasFailed(Fails fails, long long result)
@@ -37,14 +54,18 @@ constexpr bool HasFailed(Fails fails, long long result)
     return false;
 }
 
-/// What an operation returns that fails without saying why.
+/// What an operation returns that fails with this error.
 template <typename Result>
-constexpr Result FailedResult(Fails fails)
+constexpr Result FailedResult(Fails fails, DWORD error)
 {
-    if constexpr (std::is_integral_v<Result>)
-        return static_cast<Result>(fails == Fails::withAllBits ? WAIT_FAILED : 0);
-    else
+    if constexpr (!std::is_integral_v<Result>)
         return Result{};
+    else if (fails == Fails::withErrorNumber)
+        return static_cast<Result>(error);
+    else if (fails == Fails::withStatus)
+        return static_cast<Result>(static_cast<std::int32_t>(error));
+    else
+        return static_cast<Result>(fails == Fails::withAllBits ? WAIT_FAILED : 0);
 }
 
 enum class Facility
@@ -171,10 +192,6 @@ struct ProfileText : Text
 struct CommandLine : Text
 {
     static constexpr bool tellsNames = true;
-};
-/// What goes to the debugger.
-struct TraceText : Text
-{
 };
 struct Ssid : NameTelling
 {

@@ -3,7 +3,6 @@
 #include "operations/answered.h"
 #include "wrappers/argument_texts.h"
 
-#include <cstdint>
 #include <optional>
 #include <type_traits>
 
@@ -17,15 +16,6 @@ constexpr long long kNone = -1;
 
 template <typename Description>
 constexpr bool isLastError = std::is_same_v<typename Description::Facility, platform::LastError>;
-
-template <typename Result>
-long long AsNumber(Result result)
-{
-    if constexpr (std::is_pointer_v<Result>)
-        return result != nullptr ? 1 : 0;
-    else
-        return static_cast<long long>(result);
-}
 
 } // namespace
 
@@ -50,7 +40,7 @@ typename Description::Result InterceptedPlatform::Answer(const Description& oper
     {
         const Result result = error && operation.fails != operations::Fails::never ? Fail<Result>(operation, *error)
                                                                                    : Forward(operation, arguments...);
-        m_interceptor.After(call, AsNumber(result));
+        m_interceptor.After(call, operations::AsNumber(result));
         return result;
     }
 }
@@ -87,18 +77,9 @@ typename Description::Result InterceptedPlatform::Forward(const Description&, Ar
 template <typename Result, typename Description>
 Result InterceptedPlatform::Fail(const Description& operation, DWORD error)
 {
-    using operations::Fails;
     if constexpr (!isLastError<Description>)
-        m_lastError = kNone;
-    if constexpr (std::is_integral_v<Result>)
-    {
-        if (operation.fails == Fails::withErrorNumber)
-            return static_cast<Result>(error);
-        if (operation.fails == Fails::withStatus)
-            return static_cast<Result>(static_cast<std::int32_t>(error));
-    }
-    m_lastError = static_cast<long long>(error);
-    return operations::FailedResult<Result>(operation.fails);
+        m_lastError = operations::ReturnsError(operation.fails) ? kNone : static_cast<long long>(error);
+    return operations::FailedResult<Result>(operation.fails, error);
 }
 
 } // namespace calvix::wrappers

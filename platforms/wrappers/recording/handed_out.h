@@ -46,24 +46,17 @@ void DescribeModulePath(Fields& fields, char* path, DWORD room, DWORD& length);
 /// replay has a function that gives it; any other is not there in a replay.
 void DescribeFunction(Fields& fields, const char* name, FARPROC& address, platform::Platform* recorded);
 
-/// What a call answers that a replay cannot answer any more, and a wait or a handle that cannot fail.
-inline constexpr DWORD kNoAnswer = 1223; // ERROR_CANCELLED
-inline constexpr auto kNoStatus = static_cast<NTSTATUS>(static_cast<std::int32_t>(0xC0000120));
-
+/// What a call returns that a replay cannot answer any more. The handle of the calling process cannot fail.
 template <typename Result>
 Result NoAnswer(operations::Fails fails)
 {
-    if constexpr (std::is_integral_v<Result>)
-    {
-        if (fails == operations::Fails::withErrorNumber)
-            return static_cast<Result>(kNoAnswer);
-        if (fails == operations::Fails::withStatus)
-            return static_cast<Result>(kNoStatus);
-    }
+    constexpr DWORD cancelled = 1223; // ERROR_CANCELLED
+    constexpr DWORD cancelledStatus = 0xC0000120;
     if constexpr (std::is_same_v<Result, HANDLE>)
         if (fails == operations::Fails::never)
             return INVALID_HANDLE_VALUE;
-    return operations::FailedResult<Result>(fails);
+    return operations::FailedResult<Result>(fails,
+                                            fails == operations::Fails::withStatus ? cancelledStatus : cancelled);
 }
 
 constexpr wrappers::HandleFamily FamilyOf(const HANDLE&)

@@ -64,13 +64,7 @@ private:
 
     Held NoAnswerOf() const { return NoAnswer<Held>(m_operation.fails); }
 
-    bool HasFailed() const
-    {
-        if constexpr (std::is_pointer_v<Held>)
-            return operations::HasFailed(m_operation.fails, m_result != nullptr ? 1 : 0);
-        else
-            return operations::HasFailed(m_operation.fails, static_cast<long long>(m_result));
-    }
+    bool HasFailed() const { return operations::HasFailed(m_operation.fails, operations::AsNumber(m_result)); }
 
     const Description& m_operation;
     Tape& m_tape;
