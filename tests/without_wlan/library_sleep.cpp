@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-namespace calvix::test::every_method
+namespace calvix::test::without_wlan_test
 {
 
 namespace
@@ -63,12 +63,12 @@ ULONG_PTR Exchange(ULONG_PTR address)
 LibrarySleep::LibrarySleep()
 {
     sleptMilliseconds = 0;
-    original_ = Exchange(reinterpret_cast<ULONG_PTR>(CountSleep));
+    m_original = Exchange(reinterpret_cast<ULONG_PTR>(CountSleep));
 }
 
 LibrarySleep::~LibrarySleep()
 {
-    Exchange(original_);
+    Exchange(m_original);
 }
 
 DWORD LibrarySleep::Milliseconds() const
@@ -76,4 +76,4 @@ DWORD LibrarySleep::Milliseconds() const
     return sleptMilliseconds;
 }
 
-} // namespace calvix::test::every_method
+} // namespace calvix::test::without_wlan_test

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace calvix::test::every_method
+namespace calvix::test::without_wlan_test
 {
 
 /// While this object exists, calvix.dll does not sleep: its calls of Sleep return at once and are added up. One at a
@@ -18,7 +18,7 @@ public:
     DWORD Milliseconds() const;
 
 private:
-    ULONG_PTR original_ = 0;
+    ULONG_PTR m_original = 0;
 };
 
-} // namespace calvix::test::every_method
+} // namespace calvix::test::without_wlan_test
