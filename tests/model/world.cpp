@@ -107,8 +107,9 @@ simulation::AccessPoint MakeHeard(Dice& dice, const Ssids& ssids, std::uint8_t n
 /// The text of a profile, which takes longer to write than to keep: the worlds have few hundred different ones.
 const std::string& ProfileXml(const simulation::ProfileSettings& profile)
 {
-    static std::map<std::tuple<std::string, simulation::Bytes, std::string>, std::string> texts;
-    std::string& text = texts[{profile.name, profile.ssid, profile.mode}];
+    static std::map<std::tuple<std::string, simulation::Bytes, std::string, std::string, std::uint32_t>, std::string>
+        texts;
+    std::string& text = texts[{profile.name, profile.ssid, profile.mode, profile.authentication, profile.bssType}];
     if (text.empty())
         text = simulation::MakeProfileXml(profile);
     return text;
@@ -127,6 +128,13 @@ std::vector<simulation::ProfileSettings> MakeProfiles(Dice& dice, const Ssids& s
         const std::string ssid = dice.OneIn(3) && profile.name != kLongName ? profile.name : dice.OneOf(ssids);
         profile.ssid.assign(ssid.begin(), ssid.end());
         profile.mode = dice.OneIn(4) ? "manual" : "auto";
+        if (dice.OneIn(6))
+        {
+            profile.authentication = "open";
+            profile.encryption = "none";
+        }
+        if (profile.mode == "manual" && dice.OneIn(3))
+            profile.bssType = 2;
         profiles.push_back(profile);
     }
     return profiles;
