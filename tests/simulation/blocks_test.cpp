@@ -32,22 +32,6 @@ TEST_F(BlocksTest, AreZeroedAndCounted)
     EXPECT_EQ(defects, Defects{});
 }
 
-TEST_F(BlocksTest, NullIsNoBlockAndNoDefect)
-{
-    blocks.Free(nullptr);
-    EXPECT_EQ(defects, Defects{});
-}
-
-TEST_F(BlocksTest, NoticeDoubleFreesAndForeignPointers)
-{
-    int foreign = 0;
-    void* const block = blocks.Allocate(8, "profile list");
-    blocks.Free(block);
-    blocks.Free(block);
-    blocks.Free(&foreign);
-    EXPECT_EQ(defects, (Defects{"double free of profile list", "free of a foreign pointer"}));
-}
-
 TEST_F(BlocksTest, NoticeAWriteAfterFreeOnce)
 {
     auto* const block = static_cast<char*>(blocks.Allocate(64, "BSS list"));

@@ -99,25 +99,6 @@ TEST_F(WholeComputer, ScenariosThatContradictThemselvesAreRefused)
     }
 }
 
-TEST_F(WholeComputer, OnlySleepingAndAdvancingMoveTime)
-{
-    Start();
-    EXPECT_EQ(computer->Now(), seconds(0));
-    computer->clock().Sleep(2000);
-    computer->Advance(seconds(3));
-    EXPECT_EQ(computer->Now(), seconds(5));
-}
-
-TEST_F(WholeComputer, KeepsWhatGoesToTheDebugger)
-{
-    Start();
-    computer->debugger().OutputDebugStringA("one");
-    computer->debugger().OutputDebugStringA("two");
-    EXPECT_EQ(computer->DebuggerLines(), (std::vector<std::string>{"one", "two"}));
-    computer->ClearDebuggerLines();
-    EXPECT_TRUE(computer->DebuggerLines().empty());
-}
-
 TEST_F(WholeComputer, AServiceStoppedFromTheStart)
 {
     scenario.serviceRunning = false;

@@ -19,12 +19,6 @@ protected:
     }
 };
 
-TEST_F(Scanning, AComputerKnowsTheAirWhenItStarts)
-{
-    Start();
-    EXPECT_TRUE(IsListed("HomeNet"));
-}
-
 TEST_F(Scanning, NewsAreListedWhenAScanIsDone)
 {
     Start();

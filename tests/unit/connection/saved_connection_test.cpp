@@ -108,14 +108,6 @@ TEST_F(SavedConnectionTest, CopiesAsManyBytesAsTheServiceReturned)
     EXPECT_TRUE(std::all_of(bytes + stated, bytes + sizeof Saved(), [](unsigned char byte) { return byte == 0x5A; }));
 }
 
-TEST_F(SavedConnectionTest, TheModeOfAManualProfileIsZero)
-{
-    UseWorld(ConnectedBy("OfficeNet", kOfficeNet));
-    EXPECT_EQ(0, Save(manager()));
-    EXPECT_EQ(std::wstring(L"OfficeNet"), Saved().strProfileName);
-    EXPECT_EQ(0, SavedMode());
-}
-
 TEST_F(SavedConnectionTest, AnythingButAutoIsNotAutomatic)
 {
     for (const wchar_t* text : {L"", L"<connectionMode>Auto</connectionMode>", L"auto</connectionMode>",

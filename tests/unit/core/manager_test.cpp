@@ -169,22 +169,6 @@ TEST_F(ManagerTest, DeleteThenGetBeginsAnew)
     ExpectFresh(*CWirelessManage::Get());
 }
 
-// --- Tracing off ------------------------------------------------------------------------------------------------
-
-TEST_F(ManagerTest, NothingReachesTheDebuggerWithTracingOff)
-{
-    SetTracing(false);
-    ForgetManager();
-    computer().SetServiceRunning(false);
-    CWirelessManage* const instance = CWirelessManage::Get();
-    EXPECT_EQ(-2, instance->GetWlanStatus(&kAdapterA));
-    EXPECT_EQ(-2, instance->GetWiFiAdapterCount());
-    EXPECT_STREQ("", instance->GetWlanInterfaceDesc(&kAdapterA));
-    EXPECT_THAT(computer().DebuggerLines(), IsEmpty());
-    EXPECT_EQ(0u, callCount("OutputDebugStringA"));
-    EXPECT_EQ("WlanOpenHandle failed with error: 1062", sharedTrace()) << "the line is formatted all the same";
-}
-
 // --- Copies and zeroing -----------------------------------------------------------------------------------------
 
 TEST_F(ManagerTest, AssignmentCopiesEveryMember)

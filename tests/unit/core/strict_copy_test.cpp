@@ -50,12 +50,6 @@ TEST(StrictCopyTest, TextNeedsRoomForItsTerminator)
     EXPECT_STREQ("", destination);
 }
 
-TEST(StrictCopyTest, TheMessageNamesTheMethodAndTheMistake)
-{
-    ExpectFatal([] { FatalCallerError("GetBSSID", "null source"); },
-                "calvix: fatal caller error in GetBSSID: null source\n");
-}
-
 TEST(StrictCopyTest, TheMessageNeedsNoMemory)
 {
     struct Reported

@@ -64,15 +64,6 @@ TEST(FormatTraceTest, RefusesCapacitiesThatAreNone)
     }
 }
 
-TEST(FormatTraceTest, CutsALineAtTheSharedBuffersLastPlace)
-{
-    const std::string name(300, 'n');
-    EXPECT_EQ(kTruncated, FormatTrace(g_szTraceBuf, kSharedTraceCapacity, "%s", name.c_str()));
-    EXPECT_EQ(name.substr(0, 255), g_szTraceBuf);
-    EXPECT_EQ(kComplete, FormatTrace(g_szTraceBuf, kSharedTraceCapacity, "%s", name.substr(0, 255).c_str()));
-    EXPECT_EQ(255u, std::strlen(g_szTraceBuf));
-}
-
 // The C locale has no form for the character: one runtime reports a failure, the other stops before it.
 TEST(FormatTraceTest, EmptiesTheTextWhenTheRuntimeFails)
 {
@@ -156,26 +147,6 @@ TEST_F(TraceTest, EmitsForEveryValueOfTheSwitchButZero)
     EXPECT_THAT(computer().DebuggerLines(), IsEmpty());
 }
 
-TEST_F(TraceTest, ALineIsFormattedInTheSharedBufferWithTracingOffToo)
-{
-    SetTracing(false);
-    SharedTrace trace;
-    trace.Line("%s has %d", "HomeNet", 3);
-    EXPECT_EQ("HomeNet has 3", sharedTrace());
-    EXPECT_THAT(computer().DebuggerLines(), IsEmpty());
-    SetTracing(true);
-    trace.Line("%s has %d", "CafeNet", 1);
-    EXPECT_THAT(traced(), ElementsAre("CafeNet has 1"));
-}
-
-TEST_F(TraceTest, ALocalLineLeavesTheSharedBufferAlone)
-{
-    LocalTrace<8> trace;
-    trace.Line("%s", "HomeNet5G");
-    EXPECT_THAT(traced(), ElementsAre("HomeNet"));
-    EXPECT_TRUE(sharedTraceUntouched());
-}
-
 TEST_F(TraceTest, AFixedMessageIsCutLikeALine)
 {
     LocalTrace<9> trace;
@@ -186,17 +157,6 @@ TEST_F(TraceTest, AFixedMessageIsCutLikeALine)
     shared.Message("100% %s %n");
     EXPECT_EQ("100% %s %n", sharedTrace()) << "a message is no format";
     EXPECT_THAT(traced(), ElementsAre("100% %s %n"));
-}
-
-TEST_F(TraceTest, OnlyAnErrorIsAFailure)
-{
-    SharedTrace trace;
-    EXPECT_FALSE(trace.Failed(0, "X failed with error: %u"));
-    EXPECT_TRUE(sharedTraceUntouched());
-    EXPECT_THAT(traced(), IsEmpty());
-    EXPECT_TRUE(trace.Failed(2150899714, "X failed with error: %u"));
-    EXPECT_EQ("X failed with error: 2150899714", sharedTrace());
-    EXPECT_THAT(traced(), ElementsAre("X failed with error: 2150899714"));
 }
 
 } // namespace calvix::test::trace_test

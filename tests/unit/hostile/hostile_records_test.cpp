@@ -472,50 +472,6 @@ TEST_F(HostileRecordsTest, FullNamesAreReadAndMovedTerminated)
     EXPECT_LE(5u, seen);
 }
 
-// --- Numbers at their limits ---
-
-TEST_F(HostileRecordsTest, QualitiesComeOutAsTheyAre)
-{
-    const auto with = [this](std::uint32_t quality, const char* method)
-    {
-        const EditedAnswers altered(
-            {.networks = [quality](auto& list)
-             { ChangeEach(list, [quality](auto& each) { each.wlanSignalQuality = quality; }); },
-             .query =
-                 [quality](WLAN_INTF_OPCODE opcode, PVOID data, DWORD&)
-             {
-                 if (opcode == wlan_intf_opcode_current_connection)
-                     static_cast<WLAN_CONNECTION_ATTRIBUTES*>(data)->wlanAssociationAttributes.wlanSignalQuality =
-                         quality;
-             }});
-        return Result(method);
-    };
-    EXPECT_EQ(101, with(101, "GetSignalQuality"));
-    EXPECT_EQ(-1, with(0xFFFFFFFF, "GetSignalQuality"));
-    EXPECT_EQ(-50, with(101, "GetWiFiRSSI"));
-    EXPECT_EQ(2147483547, with(0xFFFFFFFF, "GetWiFiRSSI"));
-}
-
-TEST_F(HostileRecordsTest, ListingsShowNumbersAtTheirLimits)
-{
-    const auto listed = [this](Spoiling spoiling)
-    {
-        ClearCalls();
-        const EditedAnswers altered(std::move(spoiling.changes));
-        EXPECT_EQ(0, manager().GetNetworkBss());
-        return traced();
-    };
-    const std::vector<std::string> zeros = listed(Numbers("", 0));
-    EXPECT_THAT(zeros, Contains("Channel[0]:\t 14"));
-    EXPECT_THAT(zeros, Contains("Signal Strength[0]:\t 100"));
-    const std::vector<std::string> largest = listed(Numbers("", 0xFFFFFFFF));
-    EXPECT_THAT(largest, Contains("Center Frequency[0]:\t 4294967295"));
-    EXPECT_THAT(largest, Contains("Rssi[0]:\t -1"));
-    const std::vector<std::string> smallest = listed(Numbers("", 0x80000000));
-    EXPECT_THAT(smallest, Contains("Rssi[0]:\t -2147483648"));
-    EXPECT_THAT(smallest, Contains("Signal Strength[0]:\t 100")) << "the doubling wraps in 32 bits";
-}
-
 // --- SSIDs longer than can be ---
 
 TEST_F(HostileRecordsTest, AnSsidIsReadNoFurtherThanItsArray)

@@ -1,5 +1,7 @@
 #include "unit/inventory/listings_fixture.h"
 
+#include <climits>
+
 namespace calvix::test::bss_listing_test
 {
 
@@ -44,14 +46,13 @@ TEST_F(BssListingTest, TheNumbersOfAnAccessPoint)
     const Lines lines = Entry(
         [](auto& entry)
         {
-            entry.lRssi = -113;
+            entry.lRssi = INT_MIN;
             entry.ulChCenterFrequency = 5180000;
             entry.uLinkQuality = 4000000000U;
             entry.usBeaconPeriod = 65535;
             entry.uPhyId = 4000000002U;
         });
-    EXPECT_THAT(lines, Contains("Rssi[0]:\t -113"));
-    EXPECT_THAT(lines, Contains("Signal Strength[0]:\t 0"));
+    EXPECT_THAT(lines, Contains("Rssi[0]:\t -2147483648"));
     EXPECT_THAT(lines, Contains("Center Frequency[0]:\t 5180000"));
     EXPECT_THAT(lines, Contains("Channel[0]:\t 36"));
     EXPECT_THAT(lines, Contains("Link Quality[0]:\t 4000000000"));
@@ -61,9 +62,10 @@ TEST_F(BssListingTest, TheNumbersOfAnAccessPoint)
 
 TEST_F(BssListingTest, StrengthAndChannelFollowTheRulesOfTheirMethods)
 {
-    for (const int rssi : {-101, -100, -75, -49, 0})
+    for (const int rssi : {INT_MIN, -101, -100, -75, -49, 0})
         EXPECT_THAT(Entry([rssi](auto& entry) { entry.lRssi = rssi; }),
                     Contains("Signal Strength[0]:\t " + std::to_string(manager().GetSignalStrength(rssi))));
+    EXPECT_THAT(Entry([](auto& entry) { entry.ulChCenterFrequency = 0; }), Contains("Channel[0]:\t 14"));
     EXPECT_THAT(Entry([](auto& entry) { entry.ulChCenterFrequency = 2484000; }), Contains("Channel[0]:\t 13"));
     EXPECT_THAT(Entry([](auto& entry) { entry.ulChCenterFrequency = 2485; }), Contains("Channel[0]:\t 4294966993"));
     EXPECT_THAT(Entry([](auto& entry) { entry.ulChCenterFrequency = 4000000000U; }),

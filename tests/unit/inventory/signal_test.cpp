@@ -182,7 +182,17 @@ TEST_F(SignalTest, WiFiRssiHalvesTheQualityInWholeNumbers)
     {
         ULONG quality;
         int rssi;
-    } const rows[] = {{0, -100}, {1, -100}, {2, -99}, {3, -99}, {50, -75}, {80, -60}, {98, -51}, {99, -51}, {100, -50}};
+    } const rows[] = {{0, -100},
+                      {1, -100},
+                      {2, -99},
+                      {3, -99},
+                      {50, -75},
+                      {80, -60},
+                      {98, -51},
+                      {99, -51},
+                      {100, -50},
+                      {101, -50},
+                      {0xFFFFFFFF, 2147483547}};
     for (const auto& row : rows)
     {
         const EditedAnswers altered(WithFirstQuality(row.quality));
@@ -232,7 +242,7 @@ TEST_F(SignalTest, QualityIsThatOfTheConnection)
 
 TEST_F(SignalTest, QualityIsGivenAsItIs)
 {
-    for (const int value : {0, 1, 73})
+    for (const int value : {0, 1, 73, 101, -1})
     {
         const auto change = [value](WLAN_INTF_OPCODE, PVOID data, DWORD&)
         {

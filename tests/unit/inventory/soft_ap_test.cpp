@@ -1,4 +1,3 @@
-#include "support/changed_platform.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/call_lines.h"
@@ -18,37 +17,8 @@ using Names = std::vector<std::string>;
 
 const Names kBefore = {"from", "before"};
 
-/// A platform whose conversions take the flags that Windows refuses beside UTF-8.
-class LenientPlatform final : public ChangedPlatform
-{
-public:
-    LenientPlatform()
-    {
-        using platform::Text;
-        Instead<&Text::MultiByteToWideChar>(
-            [convert = Now<&Text::MultiByteToWideChar>()](UINT codePage, DWORD flags, const char* source,
-                                                          int sourceLength, wchar_t* destination, int room)
-            {
-                EXPECT_EQ(65001u, codePage);
-                EXPECT_EQ(9u, flags);
-                EXPECT_EQ(256, room);
-                return convert(codePage, MB_ERR_INVALID_CHARS, source, sourceLength, destination, room);
-            });
-        Instead<&Text::WideCharToMultiByte>(
-            [convert = Now<&Text::WideCharToMultiByte>()](UINT codePage, DWORD flags, const wchar_t* source,
-                                                          int sourceLength, char* destination, int room,
-                                                          const char* defaultCharacter, BOOL* usedDefaultCharacter)
-            {
-                EXPECT_EQ(0u, codePage);
-                EXPECT_EQ(9u, flags);
-                EXPECT_EQ(-1, sourceLength);
-                EXPECT_EQ(128, room);
-                EXPECT_EQ(nullptr, defaultCharacter);
-                EXPECT_EQ(nullptr, usedDefaultCharacter);
-                return convert(codePage, 0, source, sourceLength, destination, room, nullptr, nullptr);
-            });
-    }
-};
+/// A platform whose conversions take the flags that Windows refuses beside UTF-8, and in this direction.
+constexpr ConversionEdits kLenient = {.takesAllFlagsForUtf8 = true, .takesAllFlagsForNarrow = true};
 
 /// An airspace of these SSIDs, the strongest first, without any profile.
 simulation::Scenario WorldOf(const std::vector<std::string>& ssids)
@@ -76,7 +46,8 @@ public:
     Names LenientList(const std::vector<std::string>& ssids)
     {
         UseWorld(WorldOf(ssids));
-        const LenientPlatform lenient;
+        EditedAnswers edited;
+        edited.conversion = kLenient;
         return List();
     }
 };
@@ -100,7 +71,7 @@ AnswerChanges WithProfileName(const std::wstring& name)
 // --- GetSoftAPList ---
 
 // Deliberate: Windows refuses these flags beside UTF-8, so that every conversion fails there and nothing is listed.
-TEST_F(SoftApTest, NothingIsListedWherePrecomposedUtf8IsRefused)
+TEST_F(SoftApTest, NothingIsListedWhereTheFlagsAreRefused)
 {
     UseWorld(WorldOf({"MyLC#Net", "LC#"}));
     EXPECT_THAT(List(), IsEmpty()) << "what was in the vector is gone all the same";
@@ -110,6 +81,13 @@ TEST_F(SoftApTest, NothingIsListedWherePrecomposedUtf8IsRefused)
     EXPECT_EQ("MultiByteToWideChar(codePage=65001, flags=9, source=\"MyLC#Net\", sourceLength=-1, "
               "destination=non-null, destinationLength=256)",
               callLines()[1]);
+
+    EditedAnswers edited;
+    edited.conversion.takesAllFlagsForUtf8 = true;
+    EXPECT_THAT(List(), IsEmpty()) << "nor does the narrow code page take them";
+    EXPECT_EQ("WideCharToMultiByte(codePage=0, flags=9, source=\"MyLC#Net\", sourceLength=-1, destination=non-null, "
+              "destinationLength=128, defaultCharacter=null, usedDefaultCharacter=null)",
+              call("WideCharToMultiByte").line);
     ExpectSilence();
 }
 
@@ -136,7 +114,8 @@ TEST_F(SoftApTest, EmptyingTheVectorKeepsItsRoom)
     EXPECT_THAT(names, IsEmpty());
     EXPECT_EQ(room, names.capacity());
 
-    const LenientPlatform lenient;
+    EditedAnswers edited;
+    edited.conversion = kLenient;
     EXPECT_EQ(0, manager().GetSoftAPList(&kAdapterA, &names));
     EXPECT_THAT(names, ElementsAre("LC#"));
     EXPECT_EQ(room, names.capacity());
@@ -147,25 +126,27 @@ TEST_F(SoftApTest, TheSsidEndsAtItsFirstZeroByte)
     EXPECT_THAT(LenientList({std::string("LC\0#", 4), std::string("LC#\0Net", 7), std::string("\0LC#", 4)}),
                 ElementsAre("LC#"));
 
-    const LenientPlatform lenient;
-    const EditedAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
-                                 {
-                                     DOT11_SSID& ssid = list.Network[0].dot11Ssid;
-                                     ssid = MakeSsid("NetLC#");
-                                     ssid.uSSIDLength = 2;
-                                 }});
+    EditedAnswers edited;
+    edited.conversion = kLenient;
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        DOT11_SSID& ssid = list.Network[0].dot11Ssid;
+        ssid = MakeSsid("NetLC#");
+        ssid.uSSIDLength = 2;
+    };
     EXPECT_THAT(List(), ElementsAre("NetLC#", "LC#")) << "the stated length is not used";
 }
 
 TEST_F(SoftApTest, OneNameForEachEntry)
 {
     UseWorld(WorldOf({"MyLC#Net", "LC#Two"}));
-    const LenientPlatform lenient;
-    const EditedAnswers altered({.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
-                                 {
-                                     ASSERT_EQ(2u, list.dwNumberOfItems);
-                                     list.Network[1].dot11Ssid = list.Network[0].dot11Ssid;
-                                 }});
+    EditedAnswers edited;
+    edited.conversion = kLenient;
+    edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
+    {
+        ASSERT_EQ(2u, list.dwNumberOfItems);
+        list.Network[1].dot11Ssid = list.Network[0].dot11Ssid;
+    };
     EXPECT_THAT(List(), ElementsAre("MyLC#Net", "MyLC#Net"));
 }
 
@@ -178,7 +159,8 @@ TEST_F(SoftApTest, NamesAreInTheActiveCodePage)
 TEST_F(SoftApTest, ANameThatCannotBeConvertedIsPassedOver)
 {
     UseWorld(WorldOf({"LC#One", "LC#Two", "LC#Three"}));
-    const LenientPlatform lenient;
+    EditedAnswers edited;
+    edited.conversion = kLenient;
     FailOn("MultiByteToWideChar", 1113, 1, 1);
     FailOn("WideCharToMultiByte", 1113, 2, 1);
     EXPECT_THAT(List(), ElementsAre("LC#Two")) << "neither the first, not widened, nor the third, not narrowed";

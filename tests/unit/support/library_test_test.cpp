@@ -1,4 +1,3 @@
-#include "core/trace.h"
 #include "support/allocation_counter.h"
 #include "support/contract_table.h"
 #include "support/library_test.h"
@@ -10,8 +9,6 @@
 
 namespace calvix::test::library_test_test
 {
-
-using ::testing::ElementsAre;
 
 namespace
 {
@@ -25,10 +22,6 @@ public:
 
 private:
     void TestBody() override {}
-};
-
-class LibraryTestTest : public LibraryTest
-{
 };
 
 FailureRow RescanRow()
@@ -54,64 +47,6 @@ std::string ReportOf(const FailureRow& row)
 }
 
 } // namespace
-
-TEST_F(LibraryTestTest, BeginsWithAnOpenClientAndNothingRecorded)
-{
-    EXPECT_NE(nullptr, ManagerInternals::Client());
-    EXPECT_TRUE(calls().empty());
-    EXPECT_TRUE(traced().empty());
-    EXPECT_TRUE(sharedTraceUntouched());
-}
-
-TEST_F(LibraryTestTest, RecordsCallsAndTraces)
-{
-    EXPECT_EQ(0, manager().Rescan());
-    EXPECT_THAT(calls(), ElementsAre("WlanEnumInterfaces", "WlanScan", "WlanFreeMemory"));
-    EXPECT_EQ(kAdapterAText, call("WlanScan")["interface"]);
-    EXPECT_TRUE(sharedTraceUntouched());
-
-    ClearCalls();
-    FailOn("WlanScan", 2150899714);
-    EXPECT_EQ(-4, manager().Rescan());
-    EXPECT_THAT(traced(), ElementsAre("WlanScan failed with error: 2150899714"));
-    EXPECT_EQ("WlanScan failed with error: 2150899714", sharedTrace());
-    EXPECT_FALSE(sharedTraceUntouched());
-    EXPECT_EQ(1u, InjectedFailures());
-}
-
-TEST_F(LibraryTestTest, OpensTheClientAnewWhenItWasForgotten)
-{
-    ForgetClient();
-    EXPECT_TRUE(calls().empty());
-    EXPECT_EQ(0, manager().Rescan());
-    EXPECT_EQ("WlanOpenHandle", calls().front());
-}
-
-TEST_F(LibraryTestTest, PlaysInOtherWorlds)
-{
-    UseWorld(NoAdapterWorld());
-    EXPECT_EQ(0, manager().GetWiFiAdapterCount());
-    UseWorld(RichWorld());
-    EXPECT_EQ(2, manager().GetWiFiAdapterCount());
-}
-
-TEST_F(LibraryTestTest, SurvivesATestThatDeletesTheManager)
-{
-    CWirelessManage::Delete();
-}
-
-TEST_F(LibraryTestTest, AcceptsRowsThatHold)
-{
-    const auto rescan = [](CWirelessManage& m) { return m.Rescan(); };
-    CheckFailure(*this, RescanRow());
-    CheckFailure(*this, {.method = "Rescan()",
-                         .call = rescan,
-                         .expected = -3,
-                         .traced = {"No valid WLAN adapter"},
-                         .prepare = [](auto& test) { test.UseWorld(NoAdapterWorld()); }});
-    CheckFailure(*this, {"Rescan()", rescan, "WlanOpenHandle", -1, {"WlanOpenHandle failed with error: %u"}});
-    EXPECT_EQ(2, manager().GetWiFiAdapterCount()) << "a row's world ends with it";
-}
 
 TEST(FailureTable, ReportsWhatDoesNotHold)
 {
