@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 namespace
@@ -9,6 +10,7 @@ namespace
 
 using calvix::windows::OptionalExport;
 using calvix::windows::OptionalLibrary;
+namespace fs = std::filesystem;
 
 constexpr wchar_t kNoSuchLibrary[] = L"calvix-no-such-library.dll";
 
@@ -18,20 +20,20 @@ using GivesBool = BOOL(WINAPI*)(const char*);
 using GivesBoolean = BOOLEAN(WINAPI*)();
 using GivesNothing = void(WINAPI*)(void*);
 
-TEST(OptionalLibrary, MissingLibraryLacksEveryExport)
+TEST(OptionalLibrary, NamesTheReasonOfWhatIsMissing)
 {
-    const OptionalLibrary library(kNoSuchLibrary);
-    DWORD error = ERROR_SUCCESS;
-    EXPECT_EQ(library.Find("GetTickCount", error), nullptr);
-    EXPECT_EQ(error, static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
-}
-
-TEST(OptionalLibrary, MissingExportIsNamedAsSuch)
-{
-    const OptionalLibrary library(L"kernel32.dll");
-    DWORD error = ERROR_SUCCESS;
-    EXPECT_EQ(library.Find("CalvixNoSuchExport", error), nullptr);
-    EXPECT_EQ(error, static_cast<DWORD>(ERROR_PROC_NOT_FOUND));
+    const std::pair<const wchar_t*, DWORD> reasons[] = {{kNoSuchLibrary, ERROR_MOD_NOT_FOUND},
+                                                        {L"kernel32.dll", ERROR_PROC_NOT_FOUND}};
+    for (const auto& [name, reason] : reasons)
+    {
+        SCOPED_TRACE(testing::PrintToString(name));
+        const OptionalLibrary library(name);
+        DWORD error = ERROR_SUCCESS;
+        EXPECT_EQ(library.Find("CalvixNoSuchExport", error), nullptr);
+        EXPECT_EQ(error, reason);
+        const OptionalExport<GivesErrorNumber> operation(library, "CalvixNoSuchExport");
+        EXPECT_EQ(operation(DWORD{1}), reason) << "and so does a call of it";
+    }
 }
 
 TEST(OptionalLibrary, FindsAnExportAndClearsTheError)
@@ -51,27 +53,21 @@ public:
     {
         wchar_t program[MAX_PATH] = {};
         ::GetModuleFileNameW(nullptr, program, MAX_PATH);
-        const std::wstring beside = std::wstring(program).substr(0, std::wstring(program).find_last_of(L'\\') + 1);
-        wchar_t temporary[MAX_PATH] = {};
-        ::GetTempPathW(MAX_PATH, temporary);
-        ::GetCurrentDirectoryW(MAX_PATH, former_);
-        folder_ = std::wstring(temporary) + L"calvix-planted-" + std::to_wstring(::GetCurrentProcessId());
-        EXPECT_TRUE(::CreateDirectoryW(folder_.c_str(), nullptr));
-        EXPECT_TRUE(::CopyFileW((beside + L"calvix.dll").c_str(), (folder_ + L"\\calvix-planted.dll").c_str(), FALSE));
-        EXPECT_TRUE(::SetCurrentDirectoryW(folder_.c_str()));
+        fs::create_directory(m_folder);
+        fs::copy_file(fs::path(program).replace_filename("calvix.dll"), m_folder / "calvix-planted.dll");
+        fs::current_path(m_folder);
     }
     FolderWithALibrary(const FolderWithALibrary&) = delete;
     FolderWithALibrary& operator=(const FolderWithALibrary&) = delete;
     ~FolderWithALibrary()
     {
-        ::SetCurrentDirectoryW(former_);
-        ::DeleteFileW((folder_ + L"\\calvix-planted.dll").c_str());
-        ::RemoveDirectoryW(folder_.c_str());
+        fs::current_path(m_former);
+        fs::remove_all(m_folder);
     }
 
 private:
-    std::wstring folder_;
-    wchar_t former_[MAX_PATH] = {};
+    const fs::path m_former = fs::current_path();
+    const fs::path m_folder = fs::temp_directory_path() / ("calvix-planted-" + std::to_string(::GetCurrentProcessId()));
 };
 
 TEST(OptionalLibrary, IsNotTakenFromTheCurrentFolder)
@@ -90,20 +86,6 @@ TEST(OptionalLibrary, IsTakenFromTheProgramsFolderOnlyWhereThatIsSaid)
     EXPECT_EQ(error, static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
     OptionalLibrary(L"calvix.dll", LOAD_LIBRARY_SEARCH_APPLICATION_DIR).Find("Anything", error);
     EXPECT_EQ(error, static_cast<DWORD>(ERROR_PROC_NOT_FOUND)) << "found, without this export";
-}
-
-TEST(OptionalExport, MissingErrorNumberOperationAnswersWithTheReason)
-{
-    const OptionalLibrary library(kNoSuchLibrary);
-    const OptionalExport<GivesErrorNumber> operation(library, "Anything");
-    EXPECT_EQ(operation(DWORD{1}), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
-}
-
-TEST(OptionalExport, MissingExportOfAPresentLibraryAnswersWithItsOwnReason)
-{
-    const OptionalLibrary library(L"kernel32.dll");
-    const OptionalExport<GivesErrorNumber> operation(library, "CalvixNoSuchExport");
-    EXPECT_EQ(operation(DWORD{1}), static_cast<DWORD>(ERROR_PROC_NOT_FOUND));
 }
 
 TEST(OptionalExport, MissingBooleanOperationsFailWithTheReasonAsLastError)
