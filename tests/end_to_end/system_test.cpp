@@ -17,28 +17,28 @@ namespace calvix::test::end_to_end_system_test
 namespace
 {
 
-/// What the companion writes to the file, which is then removed.
-std::string TakeText(const std::filesystem::path& path)
+/// The mark that the companion leaves when it has run, which is then removed.
+std::string TakeMark()
 {
+    const std::filesystem::path mark = OwnFolder() / "companion.ran";
     std::string text;
-    std::getline(std::ifstream(path), text);
-    std::filesystem::remove(path);
+    std::getline(std::ifstream(mark), text);
+    std::filesystem::remove(mark);
     return text;
 }
 
 TEST(System, CommandLineRunsToItsEnd)
 {
-    const std::filesystem::path left = OwnFolder() / "left by command line.txt";
-    std::string commandLine = "\"" + (OwnFolder() / "companion.exe").string() + "\" --leave \"" + left.string() + "\"";
+    std::string commandLine = "\"" + (OwnFolder() / "companion.exe").string() + "\"";
     Manager().CreateProcRunCmd(commandLine.data());
-    EXPECT_EQ(TakeText(left), "done");
+    EXPECT_EQ(TakeMark(), "done");
 }
 
 TEST(System, ProgramBesideTheHostRunsToItsEnd)
 {
     char name[] = "companion.exe";
     EXPECT_EQ(Manager().CreateProcRunExe(name), 1) << "with any exit code";
-    EXPECT_EQ(TakeText(OwnFolder() / "companion.ran"), "done");
+    EXPECT_EQ(TakeMark(), "done");
 }
 
 TEST(System, PrivilegesByName)
