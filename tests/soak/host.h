@@ -6,11 +6,13 @@
 #include <atomic>
 #include <cstdint>
 #include <iterator>
-#include <map>
 #include <random>
+#include <set>
 
 namespace calvix::test::soak
 {
+
+struct Habit;
 
 /// A program that uses the library all day: what it knows, and what it remembers between two calls. It calls methods with
 /// what it knows.
@@ -37,8 +39,9 @@ public:
     std::mt19937_64 random;
     std::vector<GUID> adapters;
     WLAN_CONNECTION_ATTRIBUTES connection{};
-    std::atomic<std::uint64_t> notifications{0};
-    std::map<std::string, std::uint64_t> calls; ///< by habit
+    std::atomic<unsigned long long> notifications{0};
+    unsigned long long callCount = 0;
+    std::set<const Habit*> done;
 
 protected:
     std::string Text(const methods::Parameter& parameter) override;

@@ -36,12 +36,12 @@ struct Options
 constexpr unsigned kWarmUpDays = 10;
 
 /// How many more blocks there may be at the end: what the simulated computer keeps varies by a few.
-constexpr std::uint64_t kMoreHeapBlocks = 64;
+constexpr Count kMoreHeapBlocks = 64;
 #if defined(_WIN32)
 // The C runtime and Wine make a few the first time that a wait needs them; what leaks makes some every day.
-constexpr std::uint64_t kMoreHandles = 4;
+constexpr Count kMoreHandles = 4;
 #else
-constexpr std::uint64_t kMoreHandles = 0;
+constexpr Count kMoreHandles = 0;
 #endif
 
 /// What is done in these surroundings, each as often in the list as its weight says.
@@ -49,11 +49,8 @@ std::vector<const Habit*> HabitsOf(const Surroundings& surroundings)
 {
     std::vector<const Habit*> habits;
     for (const Habit& habit : Habits())
-    {
-        const bool possible = surroundings.SimulateEverything() || habit.needs != Needs::simulatedComputer;
-        if (possible)
+        if (surroundings.SimulateEverything() || habit.needs != Needs::simulatedComputer)
             habits.insert(habits.end(), habit.weight, &habit);
-    }
     return habits;
 }
 
@@ -77,42 +74,30 @@ void LiveUntil(Surroundings::Duration evening,
     {
         const Habit& habit = Choose(habits, host, surroundings);
         habit.act(host);
-        ++host.calls[habit.name];
+        host.done.insert(&habit);
+        ++host.callCount;
         if (host.Below(100) == 0)
             surroundings.Trouble(host.random);
         surroundings.Pass(std::chrono::seconds(1 + host.Below(240)));
     }
 }
 
-void Print(const char* when, const Holdings& holdings, const Host& host, std::uint64_t calls)
+void Print(unsigned day, const Holdings& holdings, const Host& host)
 {
-    std::printf("%8s %13llu %12llu %8llu %8llu %10llu %14llu\n", when,
-                static_cast<unsigned long long>(holdings.residentKilobytes),
-                static_cast<unsigned long long>(holdings.heapBlocks), static_cast<unsigned long long>(holdings.handles),
-                static_cast<unsigned long long>(holdings.threads), static_cast<unsigned long long>(calls),
-                static_cast<unsigned long long>(host.notifications.load()));
+    std::printf("%8u %13llu %12llu %8llu %8llu %10llu %14llu\n", day, holdings.residentKilobytes, holdings.heapBlocks,
+                holdings.handles, holdings.threads, host.callCount, host.notifications.load());
     std::fflush(stdout);
 }
 
-std::uint64_t CallsOf(const Host& host)
-{
-    std::uint64_t calls = 0;
-    for (const auto& [habit, count] : host.calls)
-        calls += count;
-    return calls;
-}
-
 /// Whether the end is as good as the beginning; says what is not.
-bool IsFlat(const Holdings& first, const Holdings& last, std::uint64_t margin)
+bool IsFlat(const Holdings& first, const Holdings& last, Count margin)
 {
     bool flat = true;
-    const auto compare = [&flat](const char* what, std::uint64_t before, std::uint64_t after, std::uint64_t more)
+    const auto compare = [&flat](const char* what, Count before, Count after, Count more)
     {
         if (after <= before + more)
             return;
-        std::printf("soak: %s grew from %llu to %llu, by more than %llu\n", what,
-                    static_cast<unsigned long long>(before), static_cast<unsigned long long>(after),
-                    static_cast<unsigned long long>(more));
+        std::printf("soak: %s grew from %llu to %llu, by more than %llu\n", what, before, after, more);
         flat = false;
     };
     compare("the resident memory (KB)", first.residentKilobytes, last.residentKilobytes, margin);
@@ -128,7 +113,7 @@ bool DidEverything(const Host& host, const std::vector<const Habit*>& habits)
     bool all = host.notifications != 0;
     for (const Habit* habit : habits)
     {
-        if (host.calls.contains(habit->name) || habit->needs == Needs::patience)
+        if (host.done.contains(habit) || habit->needs == Needs::patience)
             continue;
         std::printf("soak: never done: %s\n", habit->name.c_str());
         all = false;
@@ -167,7 +152,7 @@ bool Soak(const Options& options)
         if (day == firstDay)
             first = last;
         if (day == firstDay || day % step == 0 || day == options.days)
-            Print(std::to_string(day).c_str(), last, host, CallsOf(host));
+            Print(day, last, host);
     }
     good = IsFlat(first, last, options.margin) && good;
     good = DidEverything(host, habits) && good;

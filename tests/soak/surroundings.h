@@ -9,13 +9,15 @@
 namespace calvix::test::soak
 {
 
+using Count = unsigned long long;
+
 /// What the process holds, counted while it does nothing.
 struct Holdings
 {
-    std::uint64_t residentKilobytes = 0;
-    std::uint64_t heapBlocks = 0;
-    std::uint64_t handles = 0; ///< the operating system's: open files, or everything that has a handle
-    std::uint64_t threads = 0;
+    Count residentKilobytes = 0;
+    Count heapBlocks = 0;
+    Count handles = 0; ///< the operating system's: open files, or everything that has a handle
+    Count threads = 0;
 };
 
 /// Where the program lives: how time passes there, what happens by itself, and what can be found out about the process.
