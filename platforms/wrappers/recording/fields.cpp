@@ -51,15 +51,14 @@ void Fields::PutNull(const char* name)
     m_object[name] = nullptr;
 }
 
-void Fields::PutUnsigned(const char* name, unsigned long long value)
+template <typename Widest>
+void Fields::Put(const char* name, Widest value)
 {
     m_object[name] = value;
 }
 
-void Fields::PutSigned(const char* name, long long value)
-{
-    m_object[name] = value;
-}
+template void Fields::Put(const char* name, unsigned long long value);
+template void Fields::Put(const char* name, long long value);
 
 bool Fields::Has(const char* name) const
 {
@@ -80,21 +79,18 @@ bool Fields::ReadsNull(const char* name)
     return At(name).is_null();
 }
 
-unsigned long long Fields::GetUnsigned(const char* name, unsigned long long highest)
+template <typename Widest>
+Widest Fields::Get(const char* name, Widest lowest, Widest highest)
 {
     const ordered_json& value = At(name);
-    if (!value.is_number_unsigned() || value.get<unsigned long long>() > highest)
+    const bool isNumber = std::is_signed_v<Widest> ? value.is_number_integer() : value.is_number_unsigned();
+    if (!isNumber || value.get<Widest>() < lowest || value.get<Widest>() > highest)
         throw Damage(name, "is not a number that fits");
-    return value.get<unsigned long long>();
+    return value.get<Widest>();
 }
 
-long long Fields::GetSigned(const char* name, long long lowest, long long highest)
-{
-    const ordered_json& value = At(name);
-    if (!value.is_number_integer() || value.get<long long>() < lowest || value.get<long long>() > highest)
-        throw Damage(name, "is not a number that fits");
-    return value.get<long long>();
-}
+template unsigned long long Fields::Get(const char* name, unsigned long long lowest, unsigned long long highest);
+template long long Fields::Get(const char* name, long long lowest, long long highest);
 
 template <typename Character>
 void Fields::GivenText(const char* name, const Character* text, int length)

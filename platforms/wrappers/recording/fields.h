@@ -20,7 +20,7 @@ class KeyMask;
 /// The named fields of one object of a recording, on their way in or out. A record is described once, by a function that
 /// names each of its fields together with its variable:
 ///
-///     void Describe(Fields& fields, WLAN_PROFILE_INFO& profile)
+///     void Describe(Fields fields, WLAN_PROFILE_INFO& profile)
 ///     {
 ///         fields.Name("strProfileName", profile.strProfileName);
 ///         fields.Number("dwFlags", profile.dwFlags);
@@ -59,13 +59,12 @@ public:
     void Number(const char* name, Integer& value)
     {
         using Kept = KeptType<Integer>;
-        if (!isReading())
-            Put(name, static_cast<Kept>(value));
-        else if constexpr (std::is_unsigned_v<Kept>)
-            value = static_cast<Integer>(GetUnsigned(name, (std::numeric_limits<Kept>::max)()));
-        else
+        using Widest = std::conditional_t<std::is_unsigned_v<Kept>, unsigned long long, long long>;
+        if (isReading())
             value = static_cast<Integer>(
-                GetSigned(name, (std::numeric_limits<Kept>::min)(), (std::numeric_limits<Kept>::max)()));
+                Get<Widest>(name, (std::numeric_limits<Kept>::min)(), (std::numeric_limits<Kept>::max)()));
+        else
+            Put<Widest>(name, static_cast<Kept>(value));
     }
     /// A number in a variable of the caller's, which may want none.
     template <typename Integer>
@@ -98,8 +97,7 @@ public:
         if (record == nullptr)
             return PutNull(name);
         Record copy = *record;
-        Fields fields = Object(name);
-        Describe(fields, copy);
+        Describe(Object(name), copy);
     }
 
     void Text(const char* name, std::string& bytes);
@@ -181,19 +179,12 @@ private:
 
     void PutNull(const char* name);
     bool ReadsNull(const char* name);
-    template <typename Kept>
-    void Put(const char* name, Kept value)
-    {
-        if constexpr (std::is_unsigned_v<Kept>)
-            PutUnsigned(name, value);
-        else
-            PutSigned(name, value);
-    }
-    void PutUnsigned(const char* name, unsigned long long value);
-    void PutSigned(const char* name, long long value);
     nlohmann::ordered_json& At(const char* name);
-    unsigned long long GetUnsigned(const char* name, unsigned long long highest);
-    long long GetSigned(const char* name, long long lowest, long long highest);
+    /// Signed and unsigned numbers of any width.
+    template <typename Widest>
+    void Put(const char* name, Widest value);
+    template <typename Widest>
+    Widest Get(const char* name, Widest lowest, Widest highest);
     void Array(const char* name, wchar_t* text, std::size_t size, Meaning meaning);
 
     nlohmann::ordered_json& m_object;

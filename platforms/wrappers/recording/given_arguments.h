@@ -1,9 +1,8 @@
 #pragma once
 
 #include "operations/description.h"
-#include "wrappers/recording/power_records.h"
+#include "wrappers/recording/records.h"
 #include "wrappers/recording/tape.h"
-#include "wrappers/recording/wlan_records.h"
 #include "wrappers/recording/wlan_results.h"
 
 namespace calvix::recording

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "operations/description.h"
-#include "wrappers/recording/power_records.h"
+#include "wrappers/recording/records.h"
 #include "wrappers/recording/tape.h"
-#include "wrappers/recording/wlan_records.h"
 #include "wrappers/recording/wlan_results.h"
 
 #include <algorithm>
@@ -148,10 +147,8 @@ void Describe(const auto& call, const operations::RecordOut&, auto* record, cons
 
 void Describe(const auto& call, const operations::WholeRecordOut& role, auto* record, const operations::AnyPlace&)
 {
-    if (call.failed || record == nullptr)
-        return;
-    Fields fields = call.fields.Object(role.name);
-    Describe(fields, *record);
+    if (!call.failed && record != nullptr)
+        Describe(call.fields.Object(role.name), *record);
 }
 
 void Describe(const auto& call, const operations::BytesCountOut& role, DWORD* count, const auto& place)

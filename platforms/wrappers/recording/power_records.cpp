@@ -1,4 +1,4 @@
-#include "wrappers/recording/power_records.h"
+#include "wrappers/recording/records.h"
 
 #include <cstddef>
 
@@ -95,13 +95,13 @@ static_assert(offsetof(SYSTEM_POWER_CAPABILITIES, FastSystemS4) == 17);
 
 } // namespace
 
-void Describe(Fields& fields, POWER_POLICY& policy)
+void Describe(Fields fields, POWER_POLICY& policy)
 {
     DescribeUser(fields.Object("user"), policy.user);
     DescribeMachine(fields.Object("mach"), policy.mach);
 }
 
-void Describe(Fields& fields, SYSTEM_POWER_CAPABILITIES& capabilities)
+void Describe(Fields fields, SYSTEM_POWER_CAPABILITIES& capabilities)
 {
     auto* byte = reinterpret_cast<BYTE*>(&capabilities);
     for (const char* const name : kCapabilityBytes)
@@ -122,7 +122,7 @@ void Describe(Fields& fields, SYSTEM_POWER_CAPABILITIES& capabilities)
     fields.Number("DefaultLowLatencyWake", capabilities.DefaultLowLatencyWake);
 }
 
-void Describe(Fields& fields, SYSTEM_POWER_POLICY& policy)
+void Describe(Fields fields, SYSTEM_POWER_POLICY& policy)
 {
     fields.Number("Revision", policy.Revision);
     DescribeAction(fields, "PowerButton", policy.PowerButton);

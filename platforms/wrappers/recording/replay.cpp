@@ -27,11 +27,6 @@ std::string CallText(const std::string& operation, const ordered_json& arguments
     return text;
 }
 
-std::string CallText(const ordered_json& line)
-{
-    return CallText(line[key::call].get<std::string>(), line[key::arguments]);
-}
-
 } // namespace
 
 struct Replay::Parts final : Tape
@@ -172,9 +167,10 @@ struct Replay::Parts final : Tape
     /// `line` is what the recording has there; null: its end.
     void EndWithDifference(const std::string& does, const RecordedLine* line)
     {
-        const std::string has = line == nullptr        ? "the end of the session"
-                                : line->Has(key::call) ? CallText(line->content)
-                                                       : line->content.dump(-1, ' ', true);
+        const std::string has = line == nullptr ? "the end of the session"
+                                : line->Has(key::call)
+                                    ? CallText(line->content[key::call], line->content[key::arguments])
+                                    : line->content.dump(-1, ' ', true);
         End({ReplayTrouble::Kind::differs, At(line != nullptr ? line->number : recorded.lastLine) +
                                                "the program differs from the recording here: " + does +
                                                "; the recording has " + has});

@@ -161,16 +161,12 @@ void DescribeInformation(Fields& fields, POWER_INFORMATION_LEVEL level, PVOID ou
     {
         if constexpr (std::is_void_v<Record>)
             fields.Into("output", output, size);
-        else if (size >= sizeof(Record))
-        {
-            if constexpr (std::is_integral_v<Record>)
-                fields.Number("output", *static_cast<Record*>(output));
-            else
-            {
-                Fields record = fields.Object("output");
-                Describe(record, *static_cast<Record*>(output));
-            }
-        }
+        else if (size < sizeof(Record))
+            return;
+        else if constexpr (std::is_integral_v<Record>)
+            fields.Number("output", *static_cast<Record*>(output));
+        else
+            Describe(fields.Object("output"), *static_cast<Record*>(output));
     };
     operations::VisitAnswer(level, describe);
 }

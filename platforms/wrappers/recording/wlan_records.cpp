@@ -1,4 +1,4 @@
-#include "wrappers/recording/wlan_records.h"
+#include "wrappers/recording/records.h"
 
 #include <algorithm>
 
@@ -16,13 +16,10 @@ void DescribeNumbers(Fields& fields, const char* name, Integer (&numbers)[Size],
     if (told > Size)
         throw Damage(name, "is too long");
     for (std::size_t i = 0; i < told; ++i)
-    {
-        Fields number = fields.Element(name, i);
-        Describe(number, numbers[i]);
-    }
+        Describe(fields.Element(name, i), numbers[i]);
 }
 
-void Describe(Fields& fields, WLAN_ASSOCIATION_ATTRIBUTES& association)
+void Describe(Fields fields, WLAN_ASSOCIATION_ATTRIBUTES& association)
 {
     fields.Ssid("dot11Ssid", association.dot11Ssid);
     fields.Number("dot11BssType", association.dot11BssType);
@@ -34,7 +31,7 @@ void Describe(Fields& fields, WLAN_ASSOCIATION_ATTRIBUTES& association)
     fields.Number("ulTxRate", association.ulTxRate);
 }
 
-void Describe(Fields& fields, WLAN_SECURITY_ATTRIBUTES& security)
+void Describe(Fields fields, WLAN_SECURITY_ATTRIBUTES& security)
 {
     fields.Number("bSecurityEnabled", security.bSecurityEnabled);
     fields.Number("bOneXEnabled", security.bOneXEnabled);
@@ -42,7 +39,7 @@ void Describe(Fields& fields, WLAN_SECURITY_ATTRIBUTES& security)
     fields.Number("dot11CipherAlgorithm", security.dot11CipherAlgorithm);
 }
 
-void Describe(Fields& fields, WLAN_MAC_FRAME_STATISTICS& counters)
+void Describe(Fields fields, WLAN_MAC_FRAME_STATISTICS& counters)
 {
     fields.Number("ullTransmittedFrameCount", counters.ullTransmittedFrameCount);
     fields.Number("ullReceivedFrameCount", counters.ullReceivedFrameCount);
@@ -56,13 +53,6 @@ void Describe(Fields& fields, WLAN_MAC_FRAME_STATISTICS& counters)
     fields.Number("ullWEPICVErrorCount", counters.ullWEPICVErrorCount);
     fields.Number("ullDecryptSuccessCount", counters.ullDecryptSuccessCount);
     fields.Number("ullDecryptFailureCount", counters.ullDecryptFailureCount);
-}
-
-template <typename Part>
-void DescribePart(Fields& fields, const char* name, Part& part)
-{
-    Fields inner = fields.Object(name);
-    Describe(inner, part);
 }
 
 /// What the notifications of both modules begin with.
@@ -79,24 +69,24 @@ void DescribeConnectionNews(Fields& fields, Data& data)
 
 } // namespace
 
-void Describe(Fields& fields, DOT11_SSID& ssid)
+void Describe(Fields fields, DOT11_SSID& ssid)
 {
     fields.Ssid("ssid", ssid);
 }
 
-void Describe(Fields& fields, operations::Long& number)
+void Describe(Fields fields, operations::Long& number)
 {
     fields.Number("value", number.value);
 }
 
-void Describe(Fields& fields, WLAN_INTERFACE_INFO& info)
+void Describe(Fields fields, WLAN_INTERFACE_INFO& info)
 {
     fields.AdapterGuid("InterfaceGuid", info.InterfaceGuid);
     fields.Description("strInterfaceDescription", info.strInterfaceDescription);
     fields.Number("isState", info.isState);
 }
 
-void Describe(Fields& fields, WLAN_AVAILABLE_NETWORK& network)
+void Describe(Fields fields, WLAN_AVAILABLE_NETWORK& network)
 {
     fields.Name("strProfileName", network.strProfileName);
     fields.Ssid("dot11Ssid", network.dot11Ssid);
@@ -114,7 +104,7 @@ void Describe(Fields& fields, WLAN_AVAILABLE_NETWORK& network)
     fields.Number("dwFlags", network.dwFlags);
 }
 
-void Describe(Fields& fields, WLAN_BSS_ENTRY& entry)
+void Describe(Fields fields, WLAN_BSS_ENTRY& entry)
 {
     fields.Ssid("dot11Ssid", entry.dot11Ssid);
     fields.Number("uPhyId", entry.uPhyId);
@@ -135,35 +125,35 @@ void Describe(Fields& fields, WLAN_BSS_ENTRY& entry)
                     entry.wlanRateSet.uRateSetLength / sizeof(entry.wlanRateSet.usRateSet[0]));
 }
 
-void Describe(Fields& fields, WLAN_PROFILE_INFO& profile)
+void Describe(Fields fields, WLAN_PROFILE_INFO& profile)
 {
     fields.Name("strProfileName", profile.strProfileName);
     fields.Number("dwFlags", profile.dwFlags);
 }
 
-void Describe(Fields& fields, WLAN_CONNECTION_ATTRIBUTES& attributes)
+void Describe(Fields fields, WLAN_CONNECTION_ATTRIBUTES& attributes)
 {
     fields.Number("isState", attributes.isState);
     fields.Number("wlanConnectionMode", attributes.wlanConnectionMode);
     fields.Name("strProfileName", attributes.strProfileName);
-    DescribePart(fields, "wlanAssociationAttributes", attributes.wlanAssociationAttributes);
-    DescribePart(fields, "wlanSecurityAttributes", attributes.wlanSecurityAttributes);
+    Describe(fields.Object("wlanAssociationAttributes"), attributes.wlanAssociationAttributes);
+    Describe(fields.Object("wlanSecurityAttributes"), attributes.wlanSecurityAttributes);
 }
 
-void Describe(Fields& fields, WLAN_PHY_RADIO_STATE& phy)
+void Describe(Fields fields, WLAN_PHY_RADIO_STATE& phy)
 {
     fields.Number("dwPhyIndex", phy.dwPhyIndex);
     fields.Number("dot11SoftwareRadioState", phy.dot11SoftwareRadioState);
     fields.Number("dot11HardwareRadioState", phy.dot11HardwareRadioState);
 }
 
-void Describe(Fields& fields, WLAN_RADIO_STATE& radio)
+void Describe(Fields fields, WLAN_RADIO_STATE& radio)
 {
     fields.Number("dwNumberOfPhys", radio.dwNumberOfPhys);
     DescribeNumbers(fields, "PhyRadioState", radio.PhyRadioState, radio.dwNumberOfPhys);
 }
 
-void Describe(Fields& fields, WLAN_PHY_FRAME_STATISTICS& counters)
+void Describe(Fields fields, WLAN_PHY_FRAME_STATISTICS& counters)
 {
     fields.Number("ullTransmittedFrameCount", counters.ullTransmittedFrameCount);
     fields.Number("ullMulticastTransmittedFrameCount", counters.ullMulticastTransmittedFrameCount);
@@ -185,15 +175,15 @@ void Describe(Fields& fields, WLAN_PHY_FRAME_STATISTICS& counters)
     fields.Number("ullFCSErrorCount", counters.ullFCSErrorCount);
 }
 
-void Describe(Fields& fields, WLAN_STATISTICS& statistics)
+void Describe(Fields fields, WLAN_STATISTICS& statistics)
 {
     fields.Number("ullFourWayHandshakeFailures", statistics.ullFourWayHandshakeFailures);
     fields.Number("ullTKIPCounterMeasuresInvoked", statistics.ullTKIPCounterMeasuresInvoked);
-    DescribePart(fields, "MacUcastCounters", statistics.MacUcastCounters);
-    DescribePart(fields, "MacMcastCounters", statistics.MacMcastCounters);
+    Describe(fields.Object("MacUcastCounters"), statistics.MacUcastCounters);
+    Describe(fields.Object("MacMcastCounters"), statistics.MacMcastCounters);
 }
 
-void Describe(Fields& fields, WLAN_MSM_NOTIFICATION_DATA& data)
+void Describe(Fields fields, WLAN_MSM_NOTIFICATION_DATA& data)
 {
     DescribeConnectionNews(fields, data);
     fields.Address("dot11MacAddr", data.dot11MacAddr);
@@ -201,7 +191,7 @@ void Describe(Fields& fields, WLAN_MSM_NOTIFICATION_DATA& data)
     fields.Number("bLastPeer", data.bLastPeer);
 }
 
-void Describe(Fields& fields, WLAN_CONNECTION_NOTIFICATION_DATA& data)
+void Describe(Fields fields, WLAN_CONNECTION_NOTIFICATION_DATA& data)
 {
     DescribeConnectionNews(fields, data);
     fields.Number("dwFlags", data.dwFlags);

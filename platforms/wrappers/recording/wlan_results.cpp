@@ -1,7 +1,7 @@
 #include "wrappers/recording/wlan_results.h"
 
 #include "operations/records.h"
-#include "wrappers/recording/wlan_records.h"
+#include "wrappers/recording/records.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -54,10 +54,7 @@ void DescribeItems(Fields& fields, List** list, First first)
     fields.Number("dwIndex", (*list)->dwIndex);
     Item* const items = first(**list);
     for (std::size_t i = 0; i < count; ++i)
-    {
-        Fields item = fields.Element("list", i);
-        Describe(item, items[i]);
-    }
+        Describe(fields.Element("list", i), items[i]);
     NumberBlock(fields, *list);
 }
 
@@ -140,8 +137,7 @@ void DescribeRecord(Fields& fields, DWORD& size, PVOID& data)
         data = fields.holdings().Make(sizeof(Record));
         size = sizeof(Record);
     }
-    Fields record = fields.Object("data");
-    Describe(record, *static_cast<Record*>(data));
+    Describe(fields.Object("data"), *static_cast<Record*>(data));
 }
 
 /// Statistics are as long as there are PHYs.
@@ -164,10 +160,7 @@ void DescribeStatistics(Fields& fields, DWORD& size, PVOID& data)
     auto& statistics = *static_cast<WLAN_STATISTICS*>(data);
     WLAN_PHY_FRAME_STATISTICS* const first = statistics.PhyCounters;
     for (std::size_t i = 0; i < count; ++i)
-    {
-        Fields phy = fields.Element("phys", i);
-        Describe(phy, first[i]);
-    }
+        Describe(fields.Element("phys", i), first[i]);
     Fields record = fields.Object("data");
     Describe(record, statistics);
     record.Number("dwNumberOfPhys", statistics.dwNumberOfPhys);
