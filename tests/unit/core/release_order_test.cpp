@@ -1,5 +1,7 @@
 // The order in which blocks of the service are released: what was taken for the last step goes first.
 
+#include "core/memory.h"
+
 #include "support/changed_platform.h"
 #include "unit/autoconnect/small_worlds.h"
 
@@ -116,6 +118,19 @@ TEST_F(ReleaseOrderTest, ConnectionsReleaseTheAttributesFirst)
     EXPECT_THAT(ReleasesOf([](auto& m) { m.SetCurrentWiFiToLast(); }),
                 ElementsAre("attributes", "profiles", "interfaces"));
     EXPECT_THAT(ReleasesOf([](auto& m) { m.SpecialSoftAP(); }), ElementsAre("attributes", "interfaces"));
+}
+
+// No method receives twice with one owner: only this test shows it.
+TEST_F(ReleaseOrderTest, AnOwnerThatReceivesAgainReleasesWhatItHeld)
+{
+    InterfaceList list;
+    for (const std::size_t releases : {0u, 1u})
+    {
+        ASSERT_EQ(0u, platform::wlan().WlanEnumInterfaces(ManagerInternals::Client(), nullptr, list.Receive()));
+        EXPECT_EQ(releases, callCount("WlanFreeMemory"));
+    }
+    list.Take(nullptr);
+    EXPECT_EQ(2u, callCount("WlanFreeMemory"));
 }
 
 } // namespace calvix::test::release_order_test
