@@ -23,13 +23,6 @@ using wrappers::HandleFamily;
 namespace
 {
 
-template <typename Character>
-std::basic_string_view<Character> GivenView(const Character* text, int length)
-{
-    using View = std::basic_string_view<Character>;
-    return length < 0 ? View(text) : View(text, static_cast<std::size_t>(length));
-}
-
 /// Without a key in any case: a text that contains a key may come back incomplete.
 ordered_json WithoutKeys(KeyMask& keys, std::wstring_view text)
 {
@@ -74,9 +67,13 @@ ordered_json& Fields::At(const char* name)
     return m_object[name];
 }
 
-bool Fields::ReadsNull(const char* name)
+bool Fields::IsNull(const char* name, const void* pointer)
 {
-    return At(name).is_null();
+    if (isReading())
+        return At(name).is_null();
+    if (pointer == nullptr)
+        PutNull(name);
+    return pointer == nullptr;
 }
 
 template <typename Widest>
@@ -97,7 +94,8 @@ void Fields::GivenText(const char* name, const Character* text, int length)
 {
     if (text == nullptr)
         return PutNull(name);
-    std::basic_string<Character> copy(GivenView(text, length));
+    using String = std::basic_string<Character>;
+    String copy = length < 0 ? String(text) : String(text, static_cast<std::size_t>(length));
     Text(name, copy);
 }
 

@@ -149,15 +149,7 @@ public:
 
     bool Has(const char* name) const;
     /// For what may be missing: writes whether it is, or reads it.
-    template <typename Pointer>
-    bool IsNull(const char* name, Pointer pointer)
-    {
-        if (isReading())
-            return ReadsNull(name);
-        if (pointer == nullptr)
-            PutNull(name);
-        return pointer == nullptr;
-    }
+    bool IsNull(const char* name, const void* pointer);
     Fields Object(const char* name);
     /// Begins an array while writing; returns its length while reading.
     std::size_t Count(const char* name, std::size_t count);
@@ -178,7 +170,6 @@ private:
                                         std::conditional_t<std::is_same_v<Integer, long>, std::int32_t, Integer>>;
 
     void PutNull(const char* name);
-    bool ReadsNull(const char* name);
     nlohmann::ordered_json& At(const char* name);
     /// Signed and unsigned numbers of any width.
     template <typename Widest>

@@ -136,7 +136,7 @@ void Describe(const auto& call, const operations::AnswerOut&, PVOID* data, const
 {
     DWORD* const size = place.template Neighbour<operations::before>();
     if (!call.failed && size != nullptr && data != nullptr)
-        DescribeAnswer(call.fields, place.template Of<operations::Opcode>(), size, data);
+        DescribeAnswer(call.fields, place.template Of<operations::Opcode>(), *size, *data);
 }
 
 void Describe(const auto& call, const operations::RecordOut&, auto* record, const operations::AnyPlace&)

@@ -166,30 +166,6 @@ void DescribeStatistics(Fields& fields, DWORD& size, PVOID& data)
     record.Number("dwNumberOfPhys", statistics.dwNumberOfPhys);
 }
 
-template <typename Opcode>
-void DescribeByOpcode(Fields& fields, Opcode opcode, DWORD& size, PVOID& data)
-{
-    const auto describe = [&]<typename Record>(operations::RecordType<Record>)
-    {
-        if constexpr (std::is_void_v<Record>)
-            DescribeRaw(fields, "bytes", size, data);
-        else if constexpr (std::is_same_v<Record, WLAN_STATISTICS>)
-            DescribeStatistics(fields, size, data);
-        else
-            DescribeRecord<Record>(fields, size, data);
-    };
-    operations::VisitAnswer(opcode, describe);
-    NumberBlock(fields, data);
-}
-
-template <typename Record>
-void GiveRecord(Fields& fields, DWORD size, const void* data)
-{
-    if (data == nullptr || size != sizeof(Record))
-        return fields.GivenBytes("data", data, size);
-    fields.GivenRecord("data", static_cast<const Record*>(data));
-}
-
 /// The profile's text, which may follow, is left out: it may have a key in it. Some services leave out more.
 void DescribeConnectionData(Fields& fields, DWORD& size, PVOID& data)
 {
@@ -284,24 +260,33 @@ void DescribeText(Fields& fields, wchar_t** xml)
     NumberBlock(fields, *xml);
 }
 
-void DescribeAnswer(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD* size, PVOID* data)
+template <typename Opcode>
+void DescribeAnswer(Fields& fields, Opcode opcode, DWORD& size, PVOID& data)
 {
-    DescribeByOpcode(fields, opcode, *size, *data);
+    const auto describe = [&]<typename Record>(operations::RecordType<Record>)
+    {
+        if constexpr (std::is_void_v<Record>)
+            DescribeRaw(fields, "bytes", size, data);
+        else if constexpr (std::is_same_v<Record, WLAN_STATISTICS>)
+            DescribeStatistics(fields, size, data);
+        else
+            DescribeRecord<Record>(fields, size, data);
+    };
+    operations::VisitAnswer(opcode, describe);
+    NumberBlock(fields, data);
 }
 
-void DescribeAnswer(Fields& fields, WLAN_AUTOCONF_OPCODE opcode, DWORD* size, PVOID* data)
-{
-    DescribeByOpcode(fields, opcode, *size, *data);
-}
+template void DescribeAnswer(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD& size, PVOID& data);
+template void DescribeAnswer(Fields& fields, WLAN_AUTOCONF_OPCODE opcode, DWORD& size, PVOID& data);
 
 void GiveInterfaceData(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD size, const void* data)
 {
     const auto give = [&]<typename Record>(operations::RecordType<Record>)
     {
-        if constexpr (std::is_void_v<Record>)
-            fields.GivenBytes("data", data, size);
-        else
-            GiveRecord<Record>(fields, size, data);
+        if constexpr (!std::is_void_v<Record>)
+            if (data != nullptr && size == sizeof(Record))
+                return fields.GivenRecord("data", static_cast<const Record*>(data));
+        fields.GivenBytes("data", data, size);
     };
     operations::VisitSetting(opcode, give);
 }

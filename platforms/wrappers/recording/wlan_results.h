@@ -17,8 +17,8 @@ void DescribeText(Fields& fields, wchar_t** xml);
 
 /// The answer to a question about an interface. An answer of unknown form is written as bytes, which mean the same
 /// only where records have the same layout.
-void DescribeAnswer(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD* size, PVOID* data);
-void DescribeAnswer(Fields& fields, WLAN_AUTOCONF_OPCODE opcode, DWORD* size, PVOID* data);
+template <typename Opcode>
+void DescribeAnswer(Fields& fields, Opcode opcode, DWORD& size, PVOID& data);
 
 /// The argument of WlanSetInterface.
 void GiveInterfaceData(Fields& fields, WLAN_INTF_OPCODE opcode, DWORD size, const void* data);
