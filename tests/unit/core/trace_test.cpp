@@ -64,6 +64,16 @@ TEST(FormatTraceTest, RefusesCapacitiesThatAreNone)
     }
 }
 
+TEST(FormatTraceTest, TakesTheLargestCapacity)
+{
+    char buffer[] = "gone";
+    EXPECT_EQ(kComplete, FormatTrace(buffer, 0x7FFFFFFF, "%d", 1));
+    EXPECT_STREQ("1", buffer);
+    wchar_t wide[] = L"gone";
+    EXPECT_EQ(kComplete, FormatTraceW(wide, 0x7FFFFFFF, L"%d", 1));
+    EXPECT_STREQ(L"1", wide);
+}
+
 // The C locale has no form for the character: one runtime reports a failure, the other stops before it.
 TEST(FormatTraceTest, EmptiesTheTextWhenTheRuntimeFails)
 {
