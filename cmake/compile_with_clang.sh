@@ -13,6 +13,10 @@ for argument in "$@"; do
                 -D__GXX_TYPEINFO_EQUALITY_INLINE=0 -D__GXX_MERGED_TYPEINFO_NAMES=0 \
                 -cxx-isystem "$headers" -cxx-isystem "$headers/x86_64-w64-mingw32" ;;
         */g++ | */c++) set -- "$@" clang++ ;;
+        # A precompiled header that the other compiler left would be read while this one is made.
+        *.gch)
+            rm -f "$argument"
+            set -- "$@" "$argument" ;;
         # Options that only the other compiler has.
         -fno-keep-inline-dllexport | -fpch-preprocess | -Wno-subobject-linkage | -Winvalid-pch | -Wa,-mbig-obj) ;;
         *) set -- "$@" "$argument" ;;

@@ -7,7 +7,7 @@
 
 #include "session/arguments.h"
 #include "session/hostile_answers.h"
-#include "session/world.h"
+#include "session/scenario.h"
 
 #include "explain/result_codes.h"
 #include "support/fatal_errors.h"
@@ -74,7 +74,7 @@ private:
 class Session
 {
 public:
-    explicit Session(Input& input) : m_input(input), m_computer(session::MakeWorld(input), m_failures.interceptor())
+    explicit Session(Input& input) : m_input(input), m_computer(session::MakeScenario(input), m_failures.interceptor())
     {
         if (input.OneIn(3))
             m_hostile.emplace(session::HostileAnswers(input));

@@ -89,9 +89,9 @@ private:
 } // namespace
 
 /// Everything that a command needs for networks, in the order of its creation.
-struct ComputerInUse::World
+struct ComputerInUse::Opened
 {
-    World(const CommonOptions& options, RecordedSession& session, std::ostream& err)
+    Opened(const CommonOptions& options, RecordedSession& session, std::ostream& err)
         : computer(session.isReplay() ? nullptr : MakeComputer(options.scenario)),
           watched(Answering(session), options.trace ? &err : nullptr), inPlace(watched.platform()), trace(options.trace)
     {
@@ -116,33 +116,33 @@ ComputerInUse::ComputerInUse(const CommonOptions& options, std::ostream& err) : 
 
 ComputerInUse::~ComputerInUse() = default;
 
-ComputerInUse::World& ComputerInUse::world()
+ComputerInUse::Opened& ComputerInUse::opened()
 {
-    if (m_world == nullptr)
+    if (m_opened == nullptr)
     {
         m_session = std::make_unique<RecordedSession>(m_options);
-        m_world = std::make_unique<World>(m_options, *m_session, m_traced);
-        if (!m_options.save.empty() && m_world->computer == nullptr)
+        m_opened = std::make_unique<Opened>(m_options, *m_session, m_traced);
+        if (!m_options.save.empty() && m_opened->computer == nullptr)
             throw BadInput("--save needs a simulated computer", "name one with --scenario FILE");
     }
-    return *m_world;
+    return *m_opened;
 }
 
 CWirelessManage& ComputerInUse::manager()
 {
-    World& current = world();
+    Opened& current = opened();
     current.watched.calls().Forget();
     return *current.libraryInUse;
 }
 
 const WatchedCalls& ComputerInUse::watched()
 {
-    return world().watched.calls();
+    return opened().watched.calls();
 }
 
 ServiceView& ComputerInUse::service()
 {
-    World& current = world();
+    Opened& current = opened();
     if (current.service == nullptr)
         current.service = std::make_unique<ServiceView>();
     return *current.service;
@@ -150,7 +150,7 @@ ServiceView& ComputerInUse::service()
 
 bool ComputerInUse::isSimulated()
 {
-    return world().computer != nullptr || m_session->isOfSimulated();
+    return opened().computer != nullptr || m_session->isOfSimulated();
 }
 
 bool ComputerInUse::countsTime()
@@ -160,37 +160,37 @@ bool ComputerInUse::countsTime()
 
 bool ComputerInUse::isReplay()
 {
-    world();
+    opened();
     return m_session->isReplay();
 }
 
 void ComputerInUse::Wait(unsigned milliseconds)
 {
-    world();
+    opened();
     platform::clock().Sleep(milliseconds);
 }
 
 void ComputerInUse::WhileWaiting(std::function<void(unsigned)> action)
 {
-    world().watched.AfterEachStep(std::move(action));
+    opened().watched.AfterEachStep(std::move(action));
 }
 
 std::string ComputerInUse::CaptureTrace(const std::function<void()>& action)
 {
     std::string captured;
     const TraceSwitch on(true);
-    world().watched.CaptureTraceIn(&captured);
+    opened().watched.CaptureTraceIn(&captured);
     action();
-    world().watched.CaptureTraceIn(nullptr);
+    opened().watched.CaptureTraceIn(nullptr);
     return captured;
 }
 
 std::vector<ConnectRequest> ComputerInUse::Rehearse(const std::function<void()>& action)
 {
     const TraceSwitch off(false);
-    world().watched.Rehearse(true);
+    opened().watched.Rehearse(true);
     action();
-    world().watched.Rehearse(false);
+    opened().watched.Rehearse(false);
     return watched().ConnectRequests();
 }
 
@@ -237,7 +237,7 @@ std::optional<FailureReport> ComputerInUse::EndReplay()
 {
     if (m_session == nullptr || !m_session->isReplay())
         return std::nullopt;
-    m_world.reset();
+    m_opened.reset();
     return m_session->EndReplay();
 }
 
@@ -245,7 +245,7 @@ void ComputerInUse::EndRecording()
 {
     if (m_session == nullptr || !m_session->isRecording())
         return;
-    m_world.reset();
+    m_opened.reset();
     m_session->EndRecording();
 }
 
@@ -259,9 +259,9 @@ void ComputerInUse::Save()
 {
     if (m_options.save.empty())
         return;
-    if (m_world == nullptr)
+    if (m_opened == nullptr)
         throw BadInput("--save has nothing to write: this command uses no simulated computer", "omit it");
-    WriteWholeFile(m_options.save, simulation::WriteScenario(m_world->computer->Snapshot()));
+    WriteWholeFile(m_options.save, simulation::WriteScenario(m_opened->computer->Snapshot()));
 }
 
 } // namespace calvix::host

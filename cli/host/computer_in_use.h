@@ -84,14 +84,14 @@ public:
     std::string ReplayLine(const std::vector<std::string>& arguments) const;
 
 private:
-    struct World;
+    struct Opened;
 
-    World& world();
+    Opened& opened();
 
     CommonOptions m_options;
     std::ostream& m_traced;
-    std::unique_ptr<RecordedSession> m_session; ///< outlives the world, whose last calls are part of it
-    std::unique_ptr<World> m_world;
+    std::unique_ptr<RecordedSession> m_session; ///< outlives what is opened, whose last calls are part of it
+    std::unique_ptr<Opened> m_opened;
 };
 
 } // namespace calvix::host

@@ -1,8 +1,8 @@
 #include "session/arguments.h"
 
-#include "session/world.h"
+#include "session/scenario.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <atomic>
 

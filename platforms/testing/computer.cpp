@@ -23,7 +23,7 @@ Call ToCall(const wrappers::Call& call)
 
 struct Computer::Parts
 {
-    explicit Parts(const simulation::Scenario& world) : computer(world, chain) {}
+    explicit Parts(const simulation::Scenario& scenario) : computer(scenario, chain) {}
 
     wrappers::CallLog log;
     wrappers::FaultInjection faults;
@@ -45,9 +45,9 @@ Computer Computer::FromFile(const std::string& path)
     return Computer(std::make_unique<Parts>(simulation::LoadScenario(path)));
 }
 
-std::unique_ptr<Computer> ComputerInternals::Make(const simulation::Scenario& world)
+std::unique_ptr<Computer> ComputerInternals::Make(const simulation::Scenario& scenario)
 {
-    return std::unique_ptr<Computer>(new Computer(std::make_unique<Computer::Parts>(world)));
+    return std::unique_ptr<Computer>(new Computer(std::make_unique<Computer::Parts>(scenario)));
 }
 
 test::TestComputer& ComputerInternals::Inside(Computer& computer)

@@ -12,8 +12,8 @@ namespace calvix::test
 class TestComputer
 {
 public:
-    explicit TestComputer(const simulation::Scenario& world, wrappers::Interceptor& interceptor = SeesNothing())
-        : m_computer(world), m_platform(m_computer, interceptor), m_program(m_platform)
+    explicit TestComputer(const simulation::Scenario& scenario, wrappers::Interceptor& interceptor = SeesNothing())
+        : m_computer(scenario), m_platform(m_computer, interceptor), m_program(m_platform)
     {
     }
     ~TestComputer()

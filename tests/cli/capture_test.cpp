@@ -55,7 +55,7 @@ protected:
     }
 
     /// A computer in place of a scenario file, so that a test can change its answers.
-    void Use(const Scenario& world) { m_computer = calvix::testing::ComputerInternals::Make(world); }
+    void Use(const Scenario& scenario) { m_computer = calvix::testing::ComputerInternals::Make(scenario); }
 
     void Fail(const char* operation, DWORD error) { m_computer->Fail(operation, error); }
 
@@ -164,10 +164,10 @@ TEST_F(CaptureCommand, FollowsTheAir)
 
 TEST_F(CaptureCommand, FollowsWhereNoScanIsAccepted)
 {
-    Use(RichWorld());
+    Use(RichScenario());
     Fail("WlanScan", ERROR_BUSY);
     EXPECT_EQ(kSuccess, CaptureIt("6").exitCode);
-    EXPECT_EQ(RichWorld().accessPoints.size(), Loaded().accessPoints.size());
+    EXPECT_EQ(RichScenario().accessPoints.size(), Loaded().accessPoints.size());
 }
 
 TEST_F(CaptureCommand, PutsInventedNamesInPlaceOfRealOnes)
@@ -186,7 +186,7 @@ TEST_F(CaptureCommand, PutsInventedNamesInPlaceOfRealOnes)
 
 TEST_F(CaptureCommand, LeavesOutProfilesThatTheSimulatedComputerRejects)
 {
-    Use(RichWorld());
+    Use(RichScenario());
     ChangedPlatform changed;
     changed.After<&WlanService::WlanGetProfile>(
         [](DWORD, HANDLE, const GUID*, const wchar_t*, PVOID, wchar_t** xml, DWORD*, DWORD*) { **xml = L'?'; });
@@ -196,7 +196,7 @@ TEST_F(CaptureCommand, LeavesOutProfilesThatTheSimulatedComputerRejects)
 
 TEST_F(CaptureCommand, FailsWhereThereIsNoWlan)
 {
-    Use(RichWorld());
+    Use(RichScenario());
     Fail("WlanOpenHandle", ERROR_MOD_NOT_FOUND);
     EXPECT_EQ(kUnavailable, CaptureIt().exitCode);
     EXPECT_FALSE(std::filesystem::exists(Captured()));
@@ -204,7 +204,7 @@ TEST_F(CaptureCommand, FailsWhereThereIsNoWlan)
 
 TEST_F(CaptureCommand, LeavesOutAConnectionWhoseAccessPointIsNotListed)
 {
-    Use(RichWorld());
+    Use(RichScenario());
     const EditedAnswers altered({.bss = [](WLAN_BSS_LIST& list) { list.dwNumberOfItems = 0; }});
     EXPECT_THAT(CaptureIt().err,
                 HasSubstr("the connection to \"HomeNet\" is left out: its access point is not listed\n"));
@@ -213,30 +213,30 @@ TEST_F(CaptureCommand, LeavesOutAConnectionWhoseAccessPointIsNotListed)
 
 TEST_F(CaptureCommand, AHiddenNetworkHasTheNameThatItsConnectionKnows)
 {
-    Scenario world = RichWorld();
-    world.adapters[0].connection = simulation::Connection{"HiddenNet", kHiddenNet, 300'000, 200'000};
+    Scenario scenario = RichScenario();
+    scenario.adapters[0].connection = simulation::Connection{"HiddenNet", kHiddenNet, 300'000, 200'000};
     const auto hide = [](WLAN_BSS_LIST& list)
     {
         for (DWORD i = 0; i < list.dwNumberOfItems; ++i)
             if (std::equal(kHiddenNet.begin(), kHiddenNet.end(), list.wlanBssEntries[i].dot11Bssid))
                 list.wlanBssEntries[i].dot11Ssid = {};
     };
-    Use(world);
+    Use(scenario);
     const EditedAnswers altered({.bss = hide});
     EXPECT_THAT(CaptureIt().err, IsEmpty());
     const AccessPoint named = CapturedPoint(kHiddenNet);
     EXPECT_TRUE(named.hidden);
     EXPECT_EQ("HiddenNet", std::string(named.ssid.begin(), named.ssid.end()));
-    EXPECT_EQ(world.adapters[0].connection, Loaded().adapters[0].connection);
+    EXPECT_EQ(scenario.adapters[0].connection, Loaded().adapters[0].connection);
 }
 
 TEST_F(CaptureCommand, DistinguishesNetworksOfOneNameByTheirElements)
 {
-    Scenario world = NoProfileWorld();
-    for (AccessPoint& point : world.accessPoints)
+    Scenario scenario = NoProfileScenario();
+    for (AccessPoint& point : scenario.accessPoints)
         if (point.bssid == kHomeNet5)
             point.authentication = "WPA3SAE";
-    RunOn(world, {"capture", "-o", Captured()});
+    RunOn(scenario, {"capture", "-o", Captured()});
     EXPECT_EQ("WPA3SAE", CapturedPoint(kHomeNet5).authentication);
     EXPECT_EQ("WPA2PSK", CapturedPoint(kHomeNet24).authentication);
     EXPECT_EQ("WPA2PSK", CapturedPoint(kHomeNet6).authentication);
@@ -255,7 +255,7 @@ TEST_F(CaptureCommand, NamesTheNearestSecurityOfTheServicesNumbers)
                 network.dot11DefaultCipherAlgorithm = static_cast<DOT11_CIPHER_ALGORITHM>(5);
         }
     };
-    Use(NoProfileWorld());
+    Use(NoProfileScenario());
     const EditedAnswers altered({.networks = number});
     const Outcome outcome = CaptureIt();
     EXPECT_EQ("WPA2PSK", CapturedPoint(kOfficeNet).authentication);

@@ -56,10 +56,10 @@ Outcome CliTest::RunTogether(const std::vector<std::string>& arguments)
 }
 
 Outcome
-CliTest::RunOn(const simulation::Scenario& world, std::vector<std::string> arguments, host::TerminalTraits terminal)
+CliTest::RunOn(const simulation::Scenario& scenario, std::vector<std::string> arguments, host::TerminalTraits terminal)
 {
     arguments.push_back("--scenario");
-    arguments.push_back(FileWith("world.json", simulation::WriteScenario(world)));
+    arguments.push_back(FileWith("scenario.json", simulation::WriteScenario(scenario)));
     return Run(arguments, terminal);
 }
 

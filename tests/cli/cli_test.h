@@ -4,13 +4,13 @@
 //
 //     TEST_F(StatusTest, SaysWhatTheAdapterIsConnectedTo)
 //     {
-//         const Outcome outcome = RunOn(test::RichWorld(), {"status"});
+//         const Outcome outcome = RunOn(test::RichScenario(), {"status"});
 //         EXPECT_EQ(0, outcome.exitCode);
 //     }
 
 #include "program/program.h"
 #include "simulation/scenario.h"
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -57,9 +57,9 @@ protected:
     Outcome Run(const std::vector<std::string>& arguments, host::TerminalTraits terminal = {});
     /// The same with standard output and standard error in one stream, `out`, in the order in which they are written.
     Outcome RunTogether(const std::vector<std::string>& arguments);
-    /// Run with a scenario file of this world.
+    /// Run with a scenario file of this scenario.
     Outcome
-    RunOn(const simulation::Scenario& world, std::vector<std::string> arguments, host::TerminalTraits terminal = {});
+    RunOn(const simulation::Scenario& scenario, std::vector<std::string> arguments, host::TerminalTraits terminal = {});
 
     /// What the program's questions are answered with from now on: standard input, empty unless set.
     void Answer(std::string input) { m_input = std::move(input); }

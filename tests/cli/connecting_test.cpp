@@ -23,17 +23,17 @@ TEST_F(ConnectingCommands, ProgressIsForTerminalsAndVanishes)
         {{"best"}, "Requested \"HomeNet\", waiting for the connection"},
         {{"radio", "restart"}, "The radio is on, waiting for the connection"},
         {{"power", "keep-awake", "--for", "2", "--yes"}, "Keeping the computer awake"}};
-    simulation::Scenario world = RichWorld();
-    world.adapters = {world.adapters[0]};
-    world.adapters[0].phys = {{}};
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters = {scenario.adapters[0]};
+    scenario.adapters[0].phys = {{}};
     for (auto [command, text] : rows)
     {
         SCOPED_TRACE(text);
-        const std::string err = RunOn(world, command, {.isTerminal = true}).err;
+        const std::string err = RunOn(scenario, command, {.isTerminal = true}).err;
         EXPECT_THAT(err, HasSubstr(text));
         EXPECT_THAT(err, EndsWith(" \r"));
         command.push_back("--json");
-        EXPECT_THAT(RunOn(world, command, {.isTerminal = true}).err, IsEmpty());
+        EXPECT_THAT(RunOn(scenario, command, {.isTerminal = true}).err, IsEmpty());
     }
 }
 
@@ -42,7 +42,7 @@ TEST_F(ConnectingCommands, WhatIsOnlyRehearsedLeavesNoTrace)
     for (const std::vector<std::string>& command :
          {std::vector<std::string>{"best", "--trace"}, {"roam", "--dry-run", "--trace"}})
     {
-        const Outcome outcome = RunOn(RichWorld(), command);
+        const Outcome outcome = RunOn(RichScenario(), command);
         EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
         EXPECT_THAT(outcome.err, HasSubstr("trace: "));
         EXPECT_THAT(outcome.err, Not(HasSubstr("WlanConnect failed")));

@@ -90,7 +90,7 @@ TEST_F(WatchCommand, DrawsOneLineOnATerminal)
 
 TEST_F(WatchCommand, TakesAMinuteOfASimulatedComputer)
 {
-    const Outcome outcome = RunOn(DisconnectedWorld(), {"watch"});
+    const Outcome outcome = RunOn(DisconnectedScenario(), {"watch"});
     EXPECT_THAT(outcome.out, EndsWith("Moved 0 times in 60 seconds.\n"));
 }
 
@@ -108,7 +108,7 @@ TEST_F(CtrlC, EndsAWatchAsASuccess)
 
 TEST_F(CtrlC, EndsAWaitAsAFailure)
 {
-    const std::string file = FileWith("world.json", simulation::WriteScenario(RichWorld()));
+    const std::string file = FileWith("scenario.json", simulation::WriteScenario(RichScenario()));
     ManagerInternals::Reset();
     std::istringstream noInput;
     std::ostringstream out;

@@ -204,9 +204,9 @@ TEST_F(OutputSchema, LeavesNoCommandOut)
 
 TEST_F(OutputSchema, DescribesTheAnswerOfADriver)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[0].ihv[{0x01, 0, 0, 0}] = {{0xAB, 0xCD}, 0};
-    EXPECT_EQ("", ProblemOf(json::parse(RunOn(world, {"ihv", "01", "--size", "4", "--json"}).out), "ihv"));
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[0].ihv[{0x01, 0, 0, 0}] = {{0xAB, 0xCD}, 0};
+    EXPECT_EQ("", ProblemOf(json::parse(RunOn(scenario, {"ihv", "01", "--size", "4", "--json"}).out), "ihv"));
 }
 
 TEST_F(OutputSchema, RefusesWhatItDoesNotDescribe)

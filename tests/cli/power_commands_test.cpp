@@ -19,26 +19,26 @@ using ::testing::Not;
 /// A computer that slept, whose power schemes cannot be listed.
 Scenario Laptop()
 {
-    Scenario world;
-    world.power.battery = true;
-    world.power.upMilliseconds = 36'000'000;
-    world.power.lastSleepTime = 10'000'000ull * 3725;
-    world.power.lastWakeTime = 10'000'000ull * 36'000;
-    world.power.enumerationError = 5;
-    world.power.legacySchemes = {{7, "Seven", 1800, 90, 600, 0}};
-    world.power.activeLegacyScheme = 7;
-    return world;
+    Scenario scenario;
+    scenario.power.battery = true;
+    scenario.power.upMilliseconds = 36'000'000;
+    scenario.power.lastSleepTime = 10'000'000ull * 3725;
+    scenario.power.lastWakeTime = 10'000'000ull * 36'000;
+    scenario.power.enumerationError = 5;
+    scenario.power.legacySchemes = {{7, "Seven", 1800, 90, 600, 0}};
+    scenario.power.activeLegacyScheme = 7;
+    return scenario;
 }
 
 class PowerCommands : public CliTest
 {
 protected:
     /// Runs a command that may change the computer, and keeps the computer.
-    Outcome RunAndKeep(const Scenario& world, std::vector<std::string> arguments)
+    Outcome RunAndKeep(const Scenario& scenario, std::vector<std::string> arguments)
     {
         const std::string saved = PathFor("saved.json");
         arguments.insert(arguments.end(), {"--save", saved});
-        const Outcome outcome = RunOn(world, arguments);
+        const Outcome outcome = RunOn(scenario, arguments);
         after = simulation::LoadScenario(saved);
         return outcome;
     }
@@ -112,9 +112,9 @@ TEST_F(PowerCommands, SaverMakesAndActivatesACopy)
 
 TEST_F(PowerCommands, PrivilegeStaysEnabled)
 {
-    Scenario world;
-    world.privileges = {{"SeShutdownPrivilege", false}};
-    EXPECT_EQ(kSuccess, RunAndKeep(world, {"power", "privilege", "SeShutdownPrivilege"}).exitCode);
+    Scenario scenario;
+    scenario.privileges = {{"SeShutdownPrivilege", false}};
+    EXPECT_EQ(kSuccess, RunAndKeep(scenario, {"power", "privilege", "SeShutdownPrivilege"}).exitCode);
     EXPECT_TRUE(after.privileges[0].enabled);
 }
 

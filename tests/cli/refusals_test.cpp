@@ -19,11 +19,11 @@ using ::testing::StartsWith;
 
 simulation::Scenario TwoCandidates()
 {
-    simulation::Scenario world = NoProfileWorld();
-    world.adapters[0].profiles = {MakeProfile("Strong"), MakeProfile("Weak")};
-    world.accessPoints = {MakeAccessPoint("Strong", kHomeNet24, 2437000, -60),
-                          MakeAccessPoint("Weak", kCafeNet, 2412000, -75)};
-    return world;
+    simulation::Scenario scenario = NoProfileScenario();
+    scenario.adapters[0].profiles = {MakeProfile("Strong"), MakeProfile("Weak")};
+    scenario.accessPoints = {MakeAccessPoint("Strong", kHomeNet24, 2437000, -60),
+                             MakeAccessPoint("Weak", kCafeNet, 2412000, -75)};
+    return scenario;
 }
 
 class Refusals : public CliTest

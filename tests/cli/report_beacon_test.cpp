@@ -101,7 +101,7 @@ class ReportBeacons : public CliTest
 
 TEST_F(ReportBeacons, SimulatedSecurityMatchesTheServices)
 {
-    simulation::Scenario world = SilentWorld();
+    simulation::Scenario scenario = SilentScenario();
     std::uint8_t last = 1;
     for (const auto& [authentication, encryption] : std::vector<std::pair<std::string, std::string>>{{"WPA2PSK", "AES"},
                                                                                                      {"WPA3SAE", "AES"},
@@ -110,15 +110,15 @@ TEST_F(ReportBeacons, SimulatedSecurityMatchesTheServices)
                                                                                                      {"WPAPSK", "TKIP"},
                                                                                                      {"open", "none"}})
     {
-        world.accessPoints.push_back(MakeAccessPoint("N" + authentication, {2, 0, 0, 0, 0, last++}, 5180000, -50));
-        world.accessPoints.back().authentication = authentication;
-        world.accessPoints.back().encryption = encryption;
+        scenario.accessPoints.push_back(MakeAccessPoint("N" + authentication, {2, 0, 0, 0, 0, last++}, 5180000, -50));
+        scenario.accessPoints.back().authentication = authentication;
+        scenario.accessPoints.back().encryption = encryption;
     }
     std::map<std::string, std::string> told;
-    const auto networks = nlohmann::json::parse(RunOn(world, {"networks", "--json"}).out);
+    const auto networks = nlohmann::json::parse(RunOn(scenario, {"networks", "--json"}).out);
     for (const auto& network : networks["networks"])
         told[network["ssid"]] = network["security"];
-    const auto report = nlohmann::json::parse(RunOn(world, {"report", "-o", "-", "--json"}).out);
+    const auto report = nlohmann::json::parse(RunOn(scenario, {"report", "-o", "-", "--json"}).out);
     ASSERT_EQ(6u, report["accessPoints"].size());
     for (const auto& point : report["accessPoints"])
         EXPECT_EQ(told[point["ssid"]], point["security"]) << point["ssid"];

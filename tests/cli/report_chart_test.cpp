@@ -63,7 +63,7 @@ TEST_F(Chart, DrawsWithUnicodeOnATerminal)
     std::istringstream stream(outcome.out);
     for (std::string line; std::getline(stream, line);)
         EXPECT_LE(host::DisplayWidth(line), 80u) << line;
-    EXPECT_EQ("No access point is in view. Scan with: calvix scan\n", RunOn(SilentWorld(), {"bss", "--chart"}).out);
+    EXPECT_EQ("No access point is in view. Scan with: calvix scan\n", RunOn(SilentScenario(), {"bss", "--chart"}).out);
 }
 
 TEST_F(Chart, TheSignalLineMarksARoam)

@@ -53,9 +53,9 @@ class ReportPage : public CliTest
 {
 protected:
     /// The page that the command prints.
-    std::string PageOn(const simulation::Scenario& world, int exitCode = kSuccess)
+    std::string PageOn(const simulation::Scenario& scenario, int exitCode = kSuccess)
     {
-        const Outcome outcome = RunOn(world, {"report", "-o", "-"});
+        const Outcome outcome = RunOn(scenario, {"report", "-o", "-"});
         EXPECT_EQ(exitCode, outcome.exitCode) << outcome.err;
         return outcome.out;
     }
@@ -88,19 +88,19 @@ TEST_F(ReportPage, NamesArePutInAsText)
 {
     const std::vector<std::string> attacks = {"</script><img src=x onerror=a()>", "\"><svg onload=alert(1)>",
                                               "'--><!--<script>", "{{script}}", "<\xff\x01&lt;"};
-    simulation::Scenario world = SilentWorld();
+    simulation::Scenario scenario = SilentScenario();
     std::uint8_t last = 1;
     for (const std::string& attack : attacks)
-        world.accessPoints.push_back(MakeAccessPoint(attack.substr(0, 32), {2, 0, 0, 0, 0, last++}, 2437000, -50));
+        scenario.accessPoints.push_back(MakeAccessPoint(attack.substr(0, 32), {2, 0, 0, 0, 0, last++}, 2437000, -50));
     simulation::ProfileSettings settings;
     settings.name = "<b onclick=x()>";
     settings.ssid = {'x'};
-    world.adapters[0].profiles = {{simulation::MakeProfileXml(settings)}};
-    world.adapters[0].description = "<iframe src=y>";
-    const std::string file = FileWith("world.json", simulation::WriteScenario(world));
+    scenario.adapters[0].profiles = {{simulation::MakeProfileXml(settings)}};
+    scenario.adapters[0].description = "<iframe src=y>";
+    const std::string file = FileWith("scenario.json", simulation::WriteScenario(scenario));
     const std::string page =
         Run({"report", "-o", "-", "--title", "</title><script>alert(1)</script>", "--scenario", file}).out;
-    const std::string plain = PageOn(SilentWorld());
+    const std::string plain = PageOn(SilentScenario());
     for (const char* const tag :
          {"<script", "</script", "<img", "<svg onload", "<!--", "<iframe", "<b onclick", "</title"})
         EXPECT_EQ(Count(plain, tag), Count(page, tag)) << tag;
@@ -160,9 +160,9 @@ TEST_F(ReportPage, IsBuiltForReadingAloud)
     EXPECT_EQ(Count(page, "<section"), Count(page, "<section aria-labelledby="));
 }
 
-TEST_F(ReportPage, AnEmptyWorldIsSaidToBeEmpty)
+TEST_F(ReportPage, AnEmptyScenarioIsSaidToBeEmpty)
 {
-    const std::string page = PageOn(SilentWorld());
+    const std::string page = PageOn(SilentScenario());
     EXPECT_EQ(0u, Count(page, "<g class=\"ap "));
     EXPECT_THAT(page, HasSubstr("No access point is in view."));
     EXPECT_EQ(2u, Count(page, "<text class=\"nothing\"")) << "in 2.4 and 5 GHz";
@@ -173,9 +173,9 @@ TEST_F(ReportPage, AnEmptyWorldIsSaidToBeEmpty)
 
 TEST_F(ReportPage, SaysWhatIsMissingAndFails)
 {
-    simulation::Scenario world = RichWorld();
-    world.locationConsent = false;
-    const std::string page = PageOn(world, kFailed);
+    simulation::Scenario scenario = RichScenario();
+    scenario.locationConsent = false;
+    const std::string page = PageOn(scenario, kFailed);
     EXPECT_THAT(page, HasSubstr("This picture is not complete"));
     EXPECT_THAT(page,
                 HasSubstr("<b>The access points:</b> the WLAN service refused WlanGetNetworkBssList (access denied"));
@@ -184,7 +184,7 @@ TEST_F(ReportPage, SaysWhatIsMissingAndFails)
     EXPECT_THAT(page, HasSubstr("The access points in view are not known."));
     EXPECT_THAT(page, Not(HasSubstr("is heard in this band")));
     EXPECT_THAT(page, HasSubstr("<bdi>OfficeNet</bdi>")) << "the profiles are known all the same";
-    EXPECT_THAT(PageOn(NoAdapterWorld(), kUnavailable), HasSubstr("the computer has no wireless adapter"));
+    EXPECT_THAT(PageOn(NoAdapterScenario(), kUnavailable), HasSubstr("the computer has no wireless adapter"));
 }
 
 TEST_F(ReportPage, ShowsWhatTheAutomaticMethodsWouldDoAndDoesNothing)

@@ -16,9 +16,9 @@ namespace calvix::test
 /// file everything is part of the session, but for comments, and empty lines before a command. In a page sessions are
 /// between lines with ```, and one with a line "..." is an excerpt and left alone. In both, a comment before a command
 /// puts one computer under all commands that follow, up to the next comment (in a page: up to the end of the session):
-/// a scenario file or a world of test_worlds.h, with changes of the scenario and operations that fail:
+/// a scenario file or a scenario of test_scenarios.h, with changes of the scenario and operations that fail:
 ///
-///     <!-- on RichWorld: /adapters/0/connection = null; WlanGetProfile fails with 5 -->
+///     <!-- on RichScenario: /adapters/0/connection = null; WlanGetProfile fails with 5 -->
 ///
 /// A question is answered as a shell does it:
 ///

@@ -34,16 +34,17 @@ void LeaveForUpdate(const std::string& path, const std::string& text)
     std::ofstream(copy, std::ios::binary) << text;
 }
 
-/// A world of test_worlds.h, or a scenario file.
-simulation::Scenario WorldNamed(const std::string& name)
+/// A scenario of test_scenarios.h, or a scenario file.
+simulation::Scenario ScenarioNamed(const std::string& name)
 {
-    static const std::map<std::string, simulation::Scenario (*)()> worlds{{"RichWorld", RichWorld},
-                                                                          {"DisconnectedWorld", DisconnectedWorld},
-                                                                          {"SilentWorld", SilentWorld},
-                                                                          {"NoAdapterWorld", NoAdapterWorld},
-                                                                          {"NoProfileWorld", NoProfileWorld}};
-    const auto found = worlds.find(name);
-    return found != worlds.end() ? found->second() : simulation::LoadScenario(name);
+    static const std::map<std::string, simulation::Scenario (*)()> scenarios{
+        {"RichScenario", RichScenario},
+        {"DisconnectedScenario", DisconnectedScenario},
+        {"SilentScenario", SilentScenario},
+        {"NoAdapterScenario", NoAdapterScenario},
+        {"NoProfileScenario", NoProfileScenario}};
+    const auto found = scenarios.find(name);
+    return found != scenarios.end() ? found->second() : simulation::LoadScenario(name);
 }
 
 /// Paths in the files are those of the repository.
@@ -61,7 +62,7 @@ protected:
         m_computer.reset();
         if (wanted.line == 0)
             return;
-        json scenario = json::parse(simulation::WriteScenario(WorldNamed(wanted.scenario)));
+        json scenario = json::parse(simulation::WriteScenario(ScenarioNamed(wanted.scenario)));
         for (const TranscriptChange& change : wanted.changes)
             if (change.what.starts_with('/'))
                 scenario[json::json_pointer(change.what)] = json::parse(change.value);

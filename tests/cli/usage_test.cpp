@@ -63,7 +63,7 @@ class HostProgram : public CliTest
 
 TEST_F(CommonOptions, MayStandBeforeTheCommand)
 {
-    const std::string scenario = FileWith("world.json", simulation::WriteScenario(RichWorld()));
+    const std::string scenario = FileWith("scenario.json", simulation::WriteScenario(RichScenario()));
     const Outcome before = Run({"--scenario", scenario, "--json", "adapters"});
     const Outcome behind = Run({"adapters", "--scenario", scenario, "--json"});
     EXPECT_EQ(kSuccess, before.exitCode) << before.err;
@@ -71,22 +71,22 @@ TEST_F(CommonOptions, MayStandBeforeTheCommand)
     EXPECT_EQ(kSuccess, Run({"profiles", "--scenario", scenario, "list"}).exitCode);
 }
 
-TEST_F(CommonOptions, ShareOneWorldThroughSavedScenarios)
+TEST_F(CommonOptions, ShareOneScenarioThroughSavedScenarios)
 {
-    const std::string world = FileWith("world.json", simulation::WriteScenario(DisconnectedWorld()));
-    EXPECT_EQ(kSuccess, Run({"profiles", "delete", "GoneNet", "--scenario", world, "--save", world}).exitCode);
-    EXPECT_EQ(kSuccess, Run({"best", "--scenario", world, "--save", world}).exitCode);
+    const std::string scenario = FileWith("scenario.json", simulation::WriteScenario(DisconnectedScenario()));
+    EXPECT_EQ(kSuccess, Run({"profiles", "delete", "GoneNet", "--scenario", scenario, "--save", scenario}).exitCode);
+    EXPECT_EQ(kSuccess, Run({"best", "--scenario", scenario, "--save", scenario}).exitCode);
 
-    const Outcome profiles = Run({"profiles", "list", "--scenario", world});
+    const Outcome profiles = Run({"profiles", "list", "--scenario", scenario});
     EXPECT_THAT(profiles.out, Not(HasSubstr("GoneNet")));
     EXPECT_THAT(profiles.out, HasSubstr("OfficeNet"));
-    EXPECT_THAT(Run({"status", "--scenario", world}).out, HasSubstr("State:          connected\n"));
+    EXPECT_THAT(Run({"status", "--scenario", scenario}).out, HasSubstr("State:          connected\n"));
 }
 
 TEST_F(CommonOptions, SaveAlsoWhatAFailedCommandLeft)
 {
     const std::string saved = PathFor("saved.json");
-    EXPECT_EQ(kFailed, RunOn(NoProfileWorld(), {"best", "--save", saved}).exitCode);
+    EXPECT_EQ(kFailed, RunOn(NoProfileScenario(), {"best", "--save", saved}).exitCode);
     EXPECT_NO_THROW(simulation::LoadScenario(saved));
 }
 
@@ -149,34 +149,36 @@ TEST_F(Usage, EndsWithTheExitCodesOfThePage)
 TEST_F(CommonOptions, DecideAboutColours)
 {
     const host::TerminalTraits terminal{.isTerminal = true, .color = true};
-    EXPECT_THAT(RunOn(RichWorld(), {"networks"}, terminal).out, HasSubstr("\x1b["));
-    EXPECT_THAT(RunOn(RichWorld(), {"networks"}, terminal).out, HasSubstr("▂▄▆█"));
-    const Outcome plain = RunOn(RichWorld(), {"networks", "--no-color"}, terminal);
+    EXPECT_THAT(RunOn(RichScenario(), {"networks"}, terminal).out, HasSubstr("\x1b["));
+    EXPECT_THAT(RunOn(RichScenario(), {"networks"}, terminal).out, HasSubstr("▂▄▆█"));
+    const Outcome plain = RunOn(RichScenario(), {"networks", "--no-color"}, terminal);
     EXPECT_THAT(plain.out, Not(HasSubstr("\x1b[")));
     EXPECT_THAT(plain.out, HasSubstr("▂▄▆█"));
-    EXPECT_EQ(plain.out, RunOn(RichWorld(), {"networks", "--color", "never"}, terminal).out);
-    EXPECT_EQ(RunOn(RichWorld(), {"networks"}, terminal).out,
-              RunOn(RichWorld(), {"networks", "--color", "auto"}, terminal).out);
+    EXPECT_EQ(plain.out, RunOn(RichScenario(), {"networks", "--color", "never"}, terminal).out);
+    EXPECT_EQ(RunOn(RichScenario(), {"networks"}, terminal).out,
+              RunOn(RichScenario(), {"networks", "--color", "auto"}, terminal).out);
 
-    const Outcome piped = RunOn(RichWorld(), {"networks", "--color=always"});
+    const Outcome piped = RunOn(RichScenario(), {"networks", "--color=always"});
     EXPECT_THAT(piped.out, HasSubstr("\x1b[32m####\x1b[0m"));
-    EXPECT_THAT(RunOn(RichWorld(), {"networks"}).out, Not(HasSubstr("\x1b[")));
+    EXPECT_THAT(RunOn(RichScenario(), {"networks"}).out, Not(HasSubstr("\x1b[")));
 }
 
 TEST_F(CommonOptions, ColourFailuresOnATerminalOfTheirOwn)
 {
     const host::TerminalTraits piped{.errorColor = true};
-    EXPECT_THAT(RunOn(NoAdapterWorld(), {"adapters"}, piped).err, HasSubstr("\x1b[31mcalvix:\x1b[0m the computer has"));
-    EXPECT_THAT(RunOn(NoAdapterWorld(), {"adapters", "--no-color"}, piped).err, StartsWith("calvix: the computer has"));
-    EXPECT_THAT(RunOn(NoAdapterWorld(), {"adapters"}).err, StartsWith("calvix: the computer has"));
+    EXPECT_THAT(RunOn(NoAdapterScenario(), {"adapters"}, piped).err,
+                HasSubstr("\x1b[31mcalvix:\x1b[0m the computer has"));
+    EXPECT_THAT(RunOn(NoAdapterScenario(), {"adapters", "--no-color"}, piped).err,
+                StartsWith("calvix: the computer has"));
+    EXPECT_THAT(RunOn(NoAdapterScenario(), {"adapters"}).err, StartsWith("calvix: the computer has"));
 }
 
 TEST_F(CommonOptions, MeanNothingInColourAlone)
 {
     for (const char* command : {"networks", "bss", "adapters", "status", "best", "match"})
     {
-        const std::string colored = RunOn(RichWorld(), {command, "--color", "always"}).out;
-        EXPECT_EQ(RunOn(RichWorld(), {command}).out, WithoutSequences(colored)) << command;
+        const std::string colored = RunOn(RichScenario(), {command, "--color", "always"}).out;
+        EXPECT_EQ(RunOn(RichScenario(), {command}).out, WithoutSequences(colored)) << command;
     }
 }
 

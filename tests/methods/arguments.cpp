@@ -1,7 +1,7 @@
 #include "forms/utf8.h"
 #include "methods/method.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <algorithm>
 #include <iterator>

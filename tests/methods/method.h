@@ -117,7 +117,7 @@ std::string TestName(const Method& method, std::size_t number);
 void PrintTo(const Method& method, std::ostream* stream);
 
 /// Makes the arguments of calls. These are useful ones, with which the method finds something to do on the computers of
-/// support/test_worlds.h; derived classes make others.
+/// support/test_scenarios.h; derived classes make others.
 class Arguments
 {
 public:

@@ -1,6 +1,6 @@
 #include "model/caller.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <algorithm>
 #include <cstring>
@@ -19,21 +19,22 @@ void CopyName(const std::wstring& name, wchar_t* destination)
 
 } // namespace
 
-Caller::Caller(const World& world) : adapter(&AdapterGuid(world.asked)), name(world.name), mode(world.mode)
+Caller::Caller(const Situation& situation)
+    : adapter(&AdapterGuid(situation.asked)), name(situation.name), mode(situation.mode)
 {
-    for (const std::string& ssid : world.excludedSsids)
+    for (const std::string& ssid : situation.excludedSsids)
     {
         excluded.emplace_back();
         excluded.back().dot11Ssid = MakeSsid(ssid);
     }
-    CopyName(world.rememberedProfile, attributes.strProfileName);
-    attributes.wlanAssociationAttributes.dot11Ssid = MakeSsid(world.rememberedSsid);
-    attributes.wlanAssociationAttributes.dot11BssType = static_cast<DOT11_BSS_TYPE>(world.rememberedBssType);
-    attributes.wlanSecurityAttributes.bSecurityEnabled = world.rememberedSecured ? TRUE : FALSE;
-    CopyName(world.rememberedProfile, notification.strProfileName);
-    notification.dot11Ssid = MakeSsid(world.rememberedSsid);
-    notification.dot11BssType = static_cast<DOT11_BSS_TYPE>(world.rememberedBssType);
-    notification.bSecurityEnabled = world.rememberedSecured ? TRUE : FALSE;
+    CopyName(situation.rememberedProfile, attributes.strProfileName);
+    attributes.wlanAssociationAttributes.dot11Ssid = MakeSsid(situation.rememberedSsid);
+    attributes.wlanAssociationAttributes.dot11BssType = static_cast<DOT11_BSS_TYPE>(situation.rememberedBssType);
+    attributes.wlanSecurityAttributes.bSecurityEnabled = situation.rememberedSecured ? TRUE : FALSE;
+    CopyName(situation.rememberedProfile, notification.strProfileName);
+    notification.dot11Ssid = MakeSsid(situation.rememberedSsid);
+    notification.dot11BssType = static_cast<DOT11_BSS_TYPE>(situation.rememberedBssType);
+    notification.bSecurityEnabled = situation.rememberedSecured ? TRUE : FALSE;
     ForgetAnswers();
 }
 

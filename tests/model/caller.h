@@ -1,15 +1,15 @@
 #pragma once
 
 #include "model/outcome.h"
-#include "model/world.h"
+#include "model/situation.h"
 
 namespace calvix::test
 {
 
-/// What the world's caller passes to the library's methods, and what they answer with.
+/// What the situation's caller passes to the library's methods, and what they answer with.
 struct Caller
 {
-    explicit Caller(const World& world);
+    explicit Caller(const Situation& situation);
 
     /// Everything that a method answers with as it was before.
     void ForgetAnswers();

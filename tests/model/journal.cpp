@@ -1,6 +1,6 @@
 #include "model/journal.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 #include "testing/manager_internals.h"
 
 #include <utility>
@@ -19,12 +19,12 @@ bool IsForOne(const DOT11_BSSID_LIST& list)
 
 } // namespace
 
-Journal::Journal(const World& world) : m_world(world)
+Journal::Journal(const Situation& situation) : m_situation(situation)
 {
     NoteLists();
     NoteQuestions();
     JudgeRequests();
-    ConvertAsTheWorldSays();
+    ConvertAsTheSituationSays();
 }
 
 std::vector<Event> Journal::TakeEvents()
@@ -53,7 +53,7 @@ void Journal::Noted(const char* name, Look look)
         [this, name, look, call = Now<operation>()](auto... arguments)
         {
             look(arguments...);
-            const DWORD error = m_world.FailureOf(name);
+            const DWORD error = m_situation.FailureOf(name);
             return error != 0 ? error : call(arguments...);
         });
 }
@@ -71,7 +71,7 @@ void Journal::NoteLists()
             for (DWORD i = 0; error == 0 && i < (*list)->dwNumberOfItems; ++i)
             {
                 WLAN_AVAILABLE_NETWORK& network = *((*list)->Network + i);
-                if (m_world.untaggedProfiles.count(network.strProfileName) != 0)
+                if (m_situation.untaggedProfiles.count(network.strProfileName) != 0)
                     network.strProfileName[0] = L'\0';
             }
         });
@@ -87,10 +87,10 @@ void Journal::NoteLists()
             event.ssid = BytesOf(*ssid);
             event.number = bssType;
             event.secured = securityEnabled != FALSE;
-            if (m_world.failingSsids.count(event.ssid) != 0)
+            if (m_situation.failingSsids.count(event.ssid) != 0)
                 return DWORD{31};
             const DOT11_SSID unheard = MakeSsid("nobody");
-            const DOT11_SSID& wanted = m_world.silentSsids.count(event.ssid) != 0 ? unheard : *ssid;
+            const DOT11_SSID& wanted = m_situation.silentSsids.count(event.ssid) != 0 ? unheard : *ssid;
             return call(client, adapter, &wanted, bssType, securityEnabled, reserved, list);
         });
 }
@@ -125,7 +125,7 @@ void Journal::NoteQuestions()
             event.number = static_cast<unsigned>(*flags);
             if (*grantedAccess != 0x20001)
                 event.oddity += "access ";
-            if (m_world.unreadableProfiles.count(name) != 0)
+            if (m_situation.unreadableProfiles.count(name) != 0)
                 return DWORD{5};
             return call(client, adapter, name, reserved, xml, flags, grantedAccess);
         });
@@ -139,7 +139,7 @@ void Journal::JudgeRequests()
             Event& event = Note("WlanSetProfilePosition", client, adapter, reserved);
             event.profile = name;
             event.number = static_cast<unsigned>(position);
-            return m_world.FailureOf("WlanSetProfilePosition");
+            return m_situation.FailureOf("WlanSetProfilePosition");
         });
     Instead<&WlanService::WlanConnect>(
         [this](HANDLE client, const GUID* adapter, const WLAN_CONNECTION_PARAMETERS* parameters, PVOID reserved)
@@ -154,18 +154,19 @@ void Journal::JudgeRequests()
                 event.bssid.assign(reinterpret_cast<const char*>(desired->BSSIDs[0]), 6);
                 event.oddity += IsForOne(*desired) ? "" : "desired list ";
             }
-            return m_world.AnswerToRequest(++m_requests, !event.profile.empty());
+            return m_situation.AnswerToRequest(++m_requests, !event.profile.empty());
         });
 }
 
-void Journal::ConvertAsTheWorldSays()
+void Journal::ConvertAsTheSituationSays()
 {
     Instead<&platform::Text::MultiByteToWideChar>(
         [this, convert = Now<&platform::Text::MultiByteToWideChar>()](UINT codePage, DWORD flags, auto... rest)
         {
             constexpr UINT utf8 = 65001;
             constexpr DWORD precomposed = 1;
-            return convert(codePage, codePage == utf8 && m_world.convertsUtf8 ? flags & ~precomposed : flags, rest...);
+            return convert(codePage, codePage == utf8 && m_situation.convertsUtf8 ? flags & ~precomposed : flags,
+                           rest...);
         });
 }
 

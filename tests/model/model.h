@@ -11,7 +11,7 @@ namespace calvix::test
 {
 
 /// What the methods that match, rank, walk and pick have to do, step by step in the plainest way there is. Each is asked
-/// once, of a model made for it; the arguments are those of the world's caller.
+/// once, of a model made for it; the arguments are those of the situation's caller.
 class Model
 {
 public:
@@ -27,8 +27,8 @@ public:
         automaticOrNamed
     };
 
-    Model(const World& world, PlainService& service, std::string method)
-        : m_world(world), m_service(service), m_method(std::move(method))
+    Model(const Situation& situation, PlainService& service, std::string method)
+        : m_situation(situation), m_service(service), m_method(std::move(method))
     {
     }
 
@@ -77,7 +77,7 @@ private:
     /// For the methods that hand the platform's error numbers on.
     Outcome EndedBy(DWORD error) { return Ended(static_cast<long long>(error)); }
 
-    const World& m_world;
+    const Situation& m_situation;
     PlainService& m_service;
     std::string m_method;
     std::span<const std::wstring> m_profiles;

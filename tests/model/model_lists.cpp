@@ -61,7 +61,7 @@ Outcome Model::Collect(Adapter which, Filter filter, const Take& take)
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    int adapter = m_world.asked;
+    int adapter = m_situation.asked;
     if (which == Adapter::first)
     {
         const Answer<std::vector<int>> adapters = m_service.Adapters();
@@ -77,7 +77,7 @@ Outcome Model::Collect(Adapter which, Filter filter, const Take& take)
     for (const Network& network : Matches())
     {
         const bool isFree =
-            filter == Filter::none || (filter == Filter::automaticOrNamed && network.profile == m_world.name);
+            filter == Filter::none || (filter == Filter::automaticOrNamed && network.profile == m_situation.name);
         if (!isFree && !IsAutomatic(adapter, network.profile))
             continue;
         const auto& list = m_service.Entries(adapter, network.ssid, network.bssType, network.secured);
@@ -103,7 +103,7 @@ Outcome Model::CollectEntries(Adapter which, Filter filter)
 Outcome Model::CollectNames(Filter inModeOne)
 {
     std::vector<std::wstring> names;
-    Outcome outcome = Collect(Adapter::asked, m_world.mode == 1 ? inModeOne : Filter::none,
+    Outcome outcome = Collect(Adapter::asked, m_situation.mode == 1 ? inModeOne : Filter::none,
                               [&names](const Network& network, const std::vector<Heard>& list)
                               {
                                   if (list.empty())

@@ -17,12 +17,12 @@ Outcome Model::Roam(bool connects)
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    const auto& [failure, link] = m_service.Connection(m_world.asked);
+    const auto& [failure, link] = m_service.Connection(m_situation.asked);
     if (failure != 0)
         return Failed(Cause::notConnected);
     if (link.quality > 79)
         return Failed(Cause::signalGoodEnough);
-    const auto& entries = m_service.Entries(m_world.asked, link.ssid, link.bssType, link.secured);
+    const auto& entries = m_service.Entries(m_situation.asked, link.ssid, link.bssType, link.secured);
     if (entries.error != 0)
         return Failed(Cause::bssListFailed);
     if (entries.data.empty())
@@ -32,7 +32,7 @@ Outcome Model::Roam(bool connects)
         return Failed(Cause::alreadyThere);
     if (!connects)
         return Ended(0);
-    const DWORD error = m_service.Connect(m_world.asked, link.profile, link.bssType, pick.bssid);
+    const DWORD error = m_service.Connect(m_situation.asked, link.profile, link.bssType, pick.bssid);
     return error == 0 ? Ended(0) : Failed(Cause::requestRefused);
 }
 
@@ -40,14 +40,14 @@ Outcome Model::Reconnect()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    const auto& entries =
-        m_service.Entries(m_world.asked, m_world.rememberedSsid, m_world.rememberedBssType, m_world.rememberedSecured);
+    const auto& entries = m_service.Entries(m_situation.asked, m_situation.rememberedSsid,
+                                            m_situation.rememberedBssType, m_situation.rememberedSecured);
     if (entries.error != 0)
         return Failed(Cause::bssListFailed);
     if (entries.data.empty())
         return Failed(Cause::accessPointNotJoined);
-    const DWORD error = m_service.Connect(m_world.asked, m_world.rememberedProfile, m_world.rememberedBssType,
-                                          PickOf(entries.data).bssid);
+    const DWORD error = m_service.Connect(m_situation.asked, m_situation.rememberedProfile,
+                                          m_situation.rememberedBssType, PickOf(entries.data).bssid);
     return error == 0 ? Ended(0) : Failed(Cause::accessPointNotJoined);
 }
 

@@ -65,7 +65,7 @@ std::vector<std::wstring> NamesOf(const std::vector<Network>& networks)
 
 bool Model::IsExcluded(const Network& network) const
 {
-    for (const std::string& excluded : m_world.excludedSsids)
+    for (const std::string& excluded : m_situation.excludedSsids)
         if (Field(excluded).substr(0, network.ssid.size()) == network.ssid)
             return true;
     return false;
@@ -73,7 +73,7 @@ bool Model::IsExcluded(const Network& network) const
 
 Outcome Model::Rank(bool byList, bool byName, bool automaticOnly)
 {
-    const int adapter = m_world.asked;
+    const int adapter = m_situation.asked;
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
     if (const auto failure = FailureToList(adapter))
@@ -81,7 +81,7 @@ Outcome Model::Rank(bool byList, bool byName, bool automaticOnly)
     std::vector<Network> candidates;
     for (const Network& network : Matches())
     {
-        if (byName && network.profile == m_world.name)
+        if (byName && network.profile == m_situation.name)
             continue;
         if (automaticOnly && !IsAutomatic(adapter, network.profile))
             continue;

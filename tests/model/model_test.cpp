@@ -1,4 +1,4 @@
-// The methods that match, rank, walk and pick, in many small made-up worlds, against a model that does the same in the
+// The methods that match, rank, walk and pick, in many small made-up situations, against a model that does the same in the
 // plainest way there is: equal results, equal outputs, and equal questions to the service in the same order.
 
 #include "model/caller.h"
@@ -29,8 +29,8 @@ struct Method
     std::string name;
     std::function<Outcome(Model&)> expected;
     std::function<long long(CWirelessManage&, Caller&)> actual;
-    std::set<long long> results;    ///< that are no codes; the worlds have to lead to them, or they are worth nothing
-    std::set<Cause> elsewhere = {}; ///< causes of its codes that the worlds do not lead to
+    std::set<long long> results; ///< that are no codes; the situations have to lead to them, or they are worth nothing
+    std::set<Cause> elsewhere = {}; ///< causes of its codes that the situations do not lead to
 
     std::string Declared() const { return name.substr(0, name.find('(')); }
 };
@@ -114,7 +114,7 @@ const std::vector<Method> kMethods = {
      {0}},
 };
 
-/// The results that the worlds must produce. None of them passes null.
+/// The results that the situations must produce. None of them passes null.
 std::set<long long> ResultsOf(const Method& method)
 {
     std::set<long long> results = method.results;
@@ -136,21 +136,21 @@ void ForgetTextOfOddNames(Outcome& outcome)
                 outcome.text.clear();
 }
 
-/// A computer of the world with a caller of the library on it, and a journal of its calls.
+/// A computer of the situation with a caller of the library on it, and a journal of its calls.
 class Laboratory
 {
 public:
-    explicit Laboratory(const World& world)
-        : m_world(world), m_computer(world.scenario), m_manager(m_computer.Manager()),
-          m_plainService(world, m_computer.computer().wlan()), m_caller(world), m_journal(world)
+    explicit Laboratory(const Situation& situation)
+        : m_situation(situation), m_computer(situation.scenario), m_manager(m_computer.Manager()),
+          m_plainService(situation, m_computer.computer().wlan()), m_caller(situation), m_journal(situation)
     {
     }
 
-    Model MakeModel(const std::string& method) { return {m_world, m_plainService, method}; }
+    Model MakeModel(const std::string& method) { return {m_situation, m_plainService, method}; }
 
     Outcome Actual(const Method& method)
     {
-        if (!m_world.clientIsOpen)
+        if (!m_situation.clientIsOpen)
             m_computer.CloseClient();
         m_caller.ForgetAnswers();
         const long long code = method.actual(m_manager, m_caller);
@@ -160,7 +160,7 @@ public:
     simulation::Accounts Audit() { return m_computer.Audit(); }
 
 private:
-    const World& m_world;
+    const Situation& m_situation;
     TestComputer m_computer;
     CWirelessManage& m_manager;
     PlainService m_plainService;
@@ -168,7 +168,7 @@ private:
     Journal m_journal;
 };
 
-/// What the worlds led to, to see that they hold what the comparison is about.
+/// What the situations led to, to see that they hold what the comparison is about.
 struct Findings
 {
     std::map<std::string, std::set<long long>> codes;
@@ -191,7 +191,7 @@ void Record(const Method& method, const Outcome& outcome, Findings& findings)
 }
 
 /// Whether the library did what the model did.
-bool Agrees(const World& world, Laboratory& laboratory, const Method& method, Findings& findings)
+bool Agrees(const Situation& situation, Laboratory& laboratory, const Method& method, Findings& findings)
 {
     Model model = laboratory.MakeModel(method.Declared());
     Outcome expected = method.expected(model);
@@ -204,41 +204,41 @@ bool Agrees(const World& world, Laboratory& laboratory, const Method& method, Fi
         return true;
     ADD_FAILURE() << method.name << "\nthe model:\n"
                   << Describe(expected) << "the library:\n"
-                  << Describe(actual) << "in the world of " << Describe(world);
+                  << Describe(actual) << "in the situation of " << Describe(situation);
     return false;
 }
 
-void CheckWorld(std::uint64_t seed, Findings& findings)
+void CheckSituation(std::uint64_t seed, Findings& findings)
 {
-    const World world = MakeWorld(seed);
-    Laboratory laboratory(world);
+    const Situation situation = MakeSituation(seed);
+    Laboratory laboratory(situation);
     for (const Method& method : kMethods)
-        if (!Agrees(world, laboratory, method, findings))
+        if (!Agrees(situation, laboratory, method, findings))
             return;
     const auto best = [&laboratory] { return laboratory.MakeModel("ConnectBestAP"); };
     const bool excludes = best().ConnectBestAP(true, true) != best().ConnectBestAP(false, false);
     findings.exclusions += excludes ? 1u : 0u;
     const simulation::Accounts accounts = laboratory.Audit();
-    EXPECT_EQ(0u, accounts.liveBlocks) << Describe(world);
-    EXPECT_TRUE(accounts.defects.empty()) << accounts.defects.front() << '\n' << Describe(world);
+    EXPECT_EQ(0u, accounts.liveBlocks) << Describe(situation);
+    EXPECT_TRUE(accounts.defects.empty()) << accounts.defects.front() << '\n' << Describe(situation);
 }
 
 } // namespace
 
-TEST(ModelTest, AgreesInEveryWorld)
+TEST(ModelTest, AgreesInEverySituation)
 {
     Findings findings;
-    for (std::uint64_t seed = 1; seed <= CALVIX_MODEL_WORLDS && !HasFailure(); ++seed)
-        CheckWorld(seed, findings);
+    for (std::uint64_t seed = 1; seed <= CALVIX_MODEL_SITUATIONS && !HasFailure(); ++seed)
+        CheckSituation(seed, findings);
     if (HasFailure())
         return;
     for (const Method& method : kMethods)
         for (const long long code : ResultsOf(method))
             EXPECT_EQ(1u, findings.codes[method.name].count(code)) << method.name << " never led to " << code;
-    EXPECT_GT(findings.requestsAfterRefusal, CALVIX_MODEL_WORLDS / 20u);
-    EXPECT_GT(findings.bonuses, CALVIX_MODEL_WORLDS / 100u);
-    EXPECT_GT(findings.exclusions, CALVIX_MODEL_WORLDS / 20u);
-    EXPECT_GT(findings.repeatedEntries, CALVIX_MODEL_WORLDS / 20u);
+    EXPECT_GT(findings.requestsAfterRefusal, CALVIX_MODEL_SITUATIONS / 20u);
+    EXPECT_GT(findings.bonuses, CALVIX_MODEL_SITUATIONS / 100u);
+    EXPECT_GT(findings.exclusions, CALVIX_MODEL_SITUATIONS / 20u);
+    EXPECT_GT(findings.repeatedEntries, CALVIX_MODEL_SITUATIONS / 20u);
 }
 
 } // namespace calvix::test

@@ -46,7 +46,7 @@ bool ReadUtf8(const std::string& bytes, std::wstring& text)
 
 DWORD Model::SsidText(const std::string& ssid, std::wstring& text) const
 {
-    if (!m_world.convertsUtf8)
+    if (!m_situation.convertsUtf8)
         return kInvalidFlags;
     return ReadUtf8(ssid, text) ? 0 : kNoUnicodeTranslation;
 }
@@ -55,7 +55,7 @@ Outcome Model::Walk()
 {
     const std::vector<Network> matches = Matches();
     for (const Network& network : matches)
-        if (m_service.Connect(m_world.asked, network.profile, network.bssType) == 0)
+        if (m_service.Connect(m_situation.asked, network.profile, network.bssType) == 0)
             break;
     return matches.empty() ? Failed(Cause::nothingMatches) : Ended(0);
 }
@@ -64,7 +64,7 @@ Outcome Model::AutoConnect()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    if (const auto failure = FailureToList(m_world.asked))
+    if (const auto failure = FailureToList(m_situation.asked))
         return *failure;
     return Walk();
 }
@@ -73,14 +73,14 @@ Outcome Model::AutoSwitch()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    const Answer<Link>& link = m_service.Connection(m_world.asked);
+    const Answer<Link>& link = m_service.Connection(m_situation.asked);
     if (link.error != 0)
         return Failed(Cause::notConnected);
-    if (ListProfiles(m_world.asked) != 0)
+    if (ListProfiles(m_situation.asked) != 0)
         return Failed(Cause::profileListFailed);
-    if (m_profiles.size() > 1 && m_service.Move(m_world.asked, link.data.profile, m_profiles.size() - 1) != 0)
+    if (m_profiles.size() > 1 && m_service.Move(m_situation.asked, link.data.profile, m_profiles.size() - 1) != 0)
         return Failed(Cause::profileNotMoved);
-    if (ListNetworks(m_world.asked) != 0)
+    if (ListNetworks(m_situation.asked) != 0)
         return Failed(Cause::networkListFailed);
     return Walk();
 }
@@ -89,19 +89,19 @@ Outcome Model::SmartSwitch()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    const auto& [failure, link] = m_service.Connection(m_world.asked);
+    const auto& [failure, link] = m_service.Connection(m_situation.asked);
     if (failure != 0)
         return EndedBy(failure);
     std::wstring currentSsid;
     if (const DWORD error = SsidText(link.ssid, currentSsid))
         return EndedBy(error);
-    if (const DWORD error = ListProfiles(m_world.asked))
+    if (const DWORD error = ListProfiles(m_situation.asked))
         return EndedBy(error);
-    if (const DWORD error = ListNetworks(m_world.asked))
+    if (const DWORD error = ListNetworks(m_situation.asked))
         return EndedBy(error);
     for (const Network& network : Matches())
         if (network.profile != currentSsid && link.quality < network.quality)
-            return EndedBy(m_service.Connect(m_world.asked, network.profile, network.bssType));
+            return EndedBy(m_service.Connect(m_situation.asked, network.profile, network.bssType));
     return Failed(Cause::nothingBetter);
 }
 
@@ -136,12 +136,12 @@ Outcome Model::ConnectAutoMode()
 {
     if (m_service.Open() != 0)
         return Failed(Cause::clientNotOpened);
-    if (const auto failure = FailureToList(m_world.asked))
+    if (const auto failure = FailureToList(m_situation.asked))
         return *failure;
     bool attempted = false;
     for (const std::wstring& profile : m_profiles)
     {
-        const Answer<std::wstring>& xml = m_service.ProfileText(m_world.asked, profile);
+        const Answer<std::wstring>& xml = m_service.ProfileText(m_situation.asked, profile);
         if (xml.error != 0)
             continue;
         // The buffer for the text ends here.
@@ -155,7 +155,7 @@ Outcome Model::ConnectAutoMode()
             if (network.profile != profile && ssid != profile)
                 continue;
             attempted = true;
-            if (m_service.Connect(m_world.asked, network.profile, network.bssType) == 0)
+            if (m_service.Connect(m_situation.asked, network.profile, network.bssType) == 0)
                 return Ended(0);
         }
     }

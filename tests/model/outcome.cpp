@@ -1,6 +1,6 @@
 #include "model/outcome.h"
 
-#include "model/world.h"
+#include "model/situation.h"
 
 #include <sstream>
 

@@ -1,6 +1,6 @@
 #include "model/plain_service.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <utility>
 
@@ -20,7 +20,8 @@ const Answer<Data>& Once(std::optional<Answer<Data>>& known, Ask ask)
 
 } // namespace
 
-PlainService::PlainService(const World& world, platform::WlanService& service) : m_world(world), m_service(service)
+PlainService::PlainService(const Situation& situation, platform::WlanService& service)
+    : m_situation(situation), m_service(service)
 {
     DWORD version = 0;
     m_service.WlanOpenHandle(2, nullptr, &version, &m_client);
@@ -34,17 +35,17 @@ std::vector<Event> PlainService::TakeEvents()
 
 DWORD PlainService::Open()
 {
-    if (m_world.clientIsOpen)
+    if (m_situation.clientIsOpen)
         return 0;
     m_events.push_back({.operation = "WlanOpenHandle", .number = 2});
-    return m_world.FailureOf("WlanOpenHandle");
+    return m_situation.FailureOf("WlanOpenHandle");
 }
 
 Answer<std::vector<int>> PlainService::Adapters()
 {
     m_events.push_back({.operation = "WlanEnumInterfaces"});
-    Answer<std::vector<int>> answer{m_world.FailureOf("WlanEnumInterfaces")};
-    for (std::size_t number = 0; number < m_world.scenario.adapters.size(); ++number)
+    Answer<std::vector<int>> answer{m_situation.FailureOf("WlanEnumInterfaces")};
+    for (std::size_t number = 0; number < m_situation.scenario.adapters.size(); ++number)
         answer.data.push_back(static_cast<int>(number));
     return answer;
 }
@@ -57,7 +58,7 @@ const Answer<std::vector<std::wstring>>& PlainService::Profiles(int adapter)
 
 Answer<std::vector<std::wstring>> PlainService::AskProfiles(const GUID& adapter)
 {
-    if (const DWORD error = m_world.FailureOf("WlanGetProfileList"))
+    if (const DWORD error = m_situation.FailureOf("WlanGetProfileList"))
         return {error};
     WLAN_PROFILE_INFO_LIST* list = nullptr;
     if (const DWORD error = m_service.WlanGetProfileList(m_client, &adapter, nullptr, &list))
@@ -77,7 +78,7 @@ const Answer<std::vector<Network>>& PlainService::Networks(int adapter)
 
 Answer<std::vector<Network>> PlainService::AskNetworks(const GUID& adapter)
 {
-    if (const DWORD error = m_world.FailureOf("WlanGetAvailableNetworkList"))
+    if (const DWORD error = m_situation.FailureOf("WlanGetAvailableNetworkList"))
         return {error};
     WLAN_AVAILABLE_NETWORK_LIST* list = nullptr;
     if (const DWORD error = m_service.WlanGetAvailableNetworkList(m_client, &adapter, 0, nullptr, &list))
@@ -86,7 +87,7 @@ Answer<std::vector<Network>> PlainService::AskNetworks(const GUID& adapter)
     for (DWORD i = 0; i < list->dwNumberOfItems; ++i)
     {
         const WLAN_AVAILABLE_NETWORK& network = *(list->Network + i);
-        const bool isUntagged = m_world.untaggedProfiles.count(network.strProfileName) != 0;
+        const bool isUntagged = m_situation.untaggedProfiles.count(network.strProfileName) != 0;
         answer.data.push_back({isUntagged ? L"" : network.strProfileName, BytesOf(network.dot11Ssid),
                                network.dot11BssType, network.bSecurityEnabled != FALSE, network.wlanSignalQuality});
     }
@@ -108,10 +109,10 @@ PlainService::Entries(int adapter, const std::string& ssid, unsigned bssType, bo
 
 Answer<std::vector<Heard>> PlainService::AskEntries(const GUID& adapter, const Event& question)
 {
-    if (m_world.failingSsids.count(question.ssid) != 0)
+    if (m_situation.failingSsids.count(question.ssid) != 0)
         return {31};
     WLAN_BSS_LIST* list = nullptr;
-    const DOT11_SSID wanted = MakeSsid(m_world.silentSsids.count(question.ssid) != 0 ? "nobody" : question.ssid);
+    const DOT11_SSID wanted = MakeSsid(m_situation.silentSsids.count(question.ssid) != 0 ? "nobody" : question.ssid);
     if (const DWORD error =
             m_service.WlanGetNetworkBssList(m_client, &adapter, &wanted, static_cast<DOT11_BSS_TYPE>(question.number),
                                             question.secured ? TRUE : FALSE, nullptr, &list))
@@ -133,7 +134,7 @@ const Answer<Link>& PlainService::Connection(int adapter)
 
 Answer<Link> PlainService::AskConnection(const GUID& adapter)
 {
-    if (const DWORD error = m_world.FailureOf("WlanQueryInterface"))
+    if (const DWORD error = m_situation.FailureOf("WlanQueryInterface"))
         return {error};
     DWORD size = sizeof(WLAN_CONNECTION_ATTRIBUTES);
     PVOID data = nullptr;
@@ -157,7 +158,7 @@ const Answer<std::wstring>& PlainService::ProfileText(int adapter, const std::ws
 
 Answer<std::wstring> PlainService::AskProfileText(const GUID& adapter, const std::wstring& name)
 {
-    if (m_world.unreadableProfiles.count(name) != 0)
+    if (m_situation.unreadableProfiles.count(name) != 0)
         return {5};
     wchar_t* text = nullptr;
     DWORD flags = 4;
@@ -175,14 +176,14 @@ DWORD PlainService::Move(int adapter, const std::wstring& name, std::size_t posi
                         .adapter = adapter,
                         .profile = name,
                         .number = static_cast<unsigned>(position)});
-    return m_world.FailureOf("WlanSetProfilePosition");
+    return m_situation.FailureOf("WlanSetProfilePosition");
 }
 
 DWORD PlainService::Connect(int adapter, const std::wstring& profile, unsigned bssType, const std::string& bssid)
 {
     m_events.push_back(
         {.operation = "WlanConnect", .adapter = adapter, .profile = profile, .number = bssType, .bssid = bssid});
-    return m_world.AnswerToRequest(++m_requests, !profile.empty());
+    return m_situation.AnswerToRequest(++m_requests, !profile.empty());
 }
 
 } // namespace calvix::test

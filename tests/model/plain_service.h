@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/outcome.h"
-#include "model/world.h"
+#include "model/situation.h"
 #include "platform/wlan_service.h"
 
 #include <map>
@@ -44,7 +44,7 @@ struct Answer
 class PlainService
 {
 public:
-    PlainService(const World& world, platform::WlanService& service);
+    PlainService(const Situation& situation, platform::WlanService& service);
 
     /// Opens the client handle where it is not open.
     DWORD Open();
@@ -68,7 +68,7 @@ private:
     Answer<Link> AskConnection(const GUID& adapter);
     Answer<std::wstring> AskProfileText(const GUID& adapter, const std::wstring& name);
 
-    const World& m_world;
+    const Situation& m_situation;
     platform::WlanService& m_service;
     HANDLE m_client = nullptr; ///< the model's own
     std::vector<Event> m_events;

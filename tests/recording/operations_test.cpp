@@ -2,7 +2,7 @@
 
 #include "forms/hex_text.h"
 #include "simulation/computer.h"
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 #include "wrappers/recording/key_mask.h"
 #include "wrappers/recording/recorded_text.h"
 #include "wrappers/recording/recorder.h"
@@ -363,11 +363,11 @@ Findings WalkThrough(Platform& platform)
 
 std::string RecordingOf(const std::function<void(Platform&)>& session)
 {
-    simulation::Scenario world = simulation::LoadScenario(CALVIX_SOURCE_DIR "/scenarios/laptop.json");
-    world.power.enumerationError = 0;
-    world.adapters = RichWorld().adapters;
-    world.accessPoints = RichWorld().accessPoints;
-    simulation::Computer computer(world);
+    simulation::Scenario scenario = simulation::LoadScenario(CALVIX_SOURCE_DIR "/scenarios/laptop.json");
+    scenario.power.enumerationError = 0;
+    scenario.adapters = RichScenario().adapters;
+    scenario.accessPoints = RichScenario().accessPoints;
+    simulation::Computer computer(scenario);
     std::ostringstream file;
     recording::Recorder recorder(computer, file, {});
     session(recorder.platform());

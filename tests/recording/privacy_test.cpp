@@ -30,7 +30,7 @@ std::string ProfileXml(const std::string& name, const std::string& key)
            key + "</keyMaterial></sharedKey></security></MSM></WLANProfile>";
 }
 
-/// Names and addresses of RichWorld, in any form in which they could have come through.
+/// Names and addresses of RichScenario, in any form in which they could have come through.
 const std::vector<std::string> kTellingWords = {
     "HomeNet",  "OfficeNet", "HiddenNet",      "AdHocNet",       "GoneNet",           "CafeNet",  "Wireless Adapter",
     "A0000001", "a0000001",  "B0000002",       "02:11:00",       "02:22:00",          "02:33:00", "02:55:00",
@@ -51,7 +51,7 @@ protected:
     Outcome RecordWithoutNames(std::vector<std::string> command)
     {
         command.insert(command.end(), {"--record", File(), "--anonymise"});
-        const Outcome outcome = RunOn(RichWorld(), command);
+        const Outcome outcome = RunOn(RichScenario(), command);
         const std::string content = Content(File());
         SCOPED_TRACE(::testing::PrintToString(command) + "\n" + content);
         EXPECT_THAT(content, AllOf(HasSubstr("\"anonymised\":true"), HasSubstr("\"end\":")));
@@ -63,7 +63,7 @@ protected:
 TEST_F(RecordingPrivacy, MasksTheKeyOfAStoredProfile)
 {
     const std::string profile = FileWith("profile.xml", ProfileXml("HomeNet5G", kKey));
-    const Outcome stored = RunOn(RichWorld(), {"profiles", "add", profile, "--record", File()});
+    const Outcome stored = RunOn(RichScenario(), {"profiles", "add", profile, "--record", File()});
     ASSERT_EQ(kSuccess, stored.exitCode) << stored.err;
     EXPECT_THAT(Content(File()), HasSubstr("<keyMaterial>********</keyMaterial>"));
     EXPECT_THAT(Content(File()), Not(HasSubstr(kKey)));
@@ -72,9 +72,9 @@ TEST_F(RecordingPrivacy, MasksTheKeyOfAStoredProfile)
 
 TEST_F(RecordingPrivacy, MasksKeysThatTheServiceReturns)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[0].profiles[0].xml = ProfileXml("HomeNet", kKey);
-    const Outcome shown = RunOn(world, {"profiles", "show", "HomeNet", "--show-key", "--record", File()});
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[0].profiles[0].xml = ProfileXml("HomeNet", kKey);
+    const Outcome shown = RunOn(scenario, {"profiles", "show", "HomeNet", "--show-key", "--record", File()});
     ASSERT_EQ(kSuccess, shown.exitCode) << shown.err;
     ASSERT_THAT(shown.out, HasSubstr(kKey));
     EXPECT_THAT(Content(File()), Not(HasSubstr(kKey)));
@@ -145,18 +145,18 @@ TEST_F(RecordingPrivacy, ReplaysWithOtherNamesToTheSameTable)
 TEST_F(RecordingPrivacy, ShowsTheCommandThatReplaysWithTheInventedNames)
 {
     const Outcome first =
-        RunOn(RichWorld(), {"connect", "OfficeNet", "--interface", "1", "--record", File(), "--anonymise"});
+        RunOn(RichScenario(), {"connect", "OfficeNet", "--interface", "1", "--record", File(), "--anonymise"});
     const std::string text = "To replay it with the invented names: calvix connect ";
     ASSERT_EQ(text, first.err.substr(0, text.size()));
     const std::string name = first.err.substr(text.size(), std::string("OfficeNet").size());
     EXPECT_EQ(text + name + " --interface 1 --replay " + File() + "\n", first.err);
     EXPECT_EQ(kSuccess, Run({"connect", name, "--interface", "1", "--replay", File()}).exitCode);
-    EXPECT_EQ("", RunOn(RichWorld(), {"connect", "OfficeNet", "--interface", "1", "--record", File()}).err);
+    EXPECT_EQ("", RunOn(RichScenario(), {"connect", "OfficeNet", "--interface", "1", "--record", File()}).err);
 }
 
 TEST_F(RecordingPrivacy, GivesTheSameNameToTheSameNetwork)
 {
-    RunOn(RichWorld(), {"networks", "--json", "--record", File(), "--anonymise"});
+    RunOn(RichScenario(), {"networks", "--json", "--record", File(), "--anonymise"});
     const auto networks = nlohmann::json::parse(Run({"networks", "--json", "--replay", File()}).out)["networks"];
     std::set<std::string> names;
     for (const auto& network : networks)
@@ -170,13 +170,13 @@ TEST_F(RecordingPrivacy, GivesTheSameNameToTheSameNetwork)
 
 TEST_F(RecordingPrivacy, HidesNamesThatAreNoAscii)
 {
-    simulation::Scenario world = RichWorld();
-    simulation::AccessPoint& first = world.accessPoints[0];
+    simulation::Scenario scenario = RichScenario();
+    simulation::AccessPoint& first = scenario.accessPoints[0];
     first.ssid = {'C', 'a', 'f', 0xC3, 0xA9, ' ', '&', ' ', 'B', 'a', 'r'};
-    world.accessPoints[1].ssid = {'C', 'a', 'f', 0xE9, 'x'};
+    scenario.accessPoints[1].ssid = {'C', 'a', 'f', 0xE9, 'x'};
     for (const char* const command : {"networks", "bss"})
     {
-        const Outcome shown = RunOn(world, {command, "--record", File(), "--anonymise"});
+        const Outcome shown = RunOn(scenario, {command, "--record", File(), "--anonymise"});
         ASSERT_EQ(kSuccess, shown.exitCode) << shown.err;
         const std::string content = Content(File());
         for (const char* const telling : {"Caf", "436166"})

@@ -1,7 +1,7 @@
 // What docs/recordings.md shows: a recorded session in the place of a computer.
 
 #include "simulation/computer.h"
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 #include "testing/manager_internals.h"
 #include "wrappers/recording/recorder.h"
 #include "wrappers/recording/replay.h"
@@ -22,7 +22,7 @@ constexpr GUID guid = kAdapterA;
 int RecordSession(const std::string& session)
 {
     ManagerInternals::Reset();
-    simulation::Computer computer(RichWorld());
+    simulation::Computer computer(RichScenario());
     std::ofstream file(session);
     recording::Recorder recorder(computer, file, {.simulated = true});
     platform::ReplacePlatform(&recorder.platform());

@@ -107,7 +107,7 @@ TEST_F(Transcript, OfASimulatedComputerCanBeSavedToo)
     const std::string saved = PathFor("after.json");
     const std::string file = PathFor("session.jsonl");
     const Outcome outcome =
-        RunOn(RichWorld(), {"profiles", "delete", "GoneNet", "--record", file, "--save", saved, "--json"});
+        RunOn(RichScenario(), {"profiles", "delete", "GoneNet", "--record", file, "--save", saved, "--json"});
     EXPECT_EQ(kSuccess, outcome.exitCode) << outcome.err;
     EXPECT_THAT(Content(saved), ::testing::HasSubstr("OfficeNet"));
     const Outcome replayed = Run({"profiles", "delete", "GoneNet", "--replay", file, "--json"});
@@ -118,10 +118,10 @@ TEST_F(Transcript, OfASimulatedComputerCanBeSavedToo)
 TEST_F(Transcript, IsIndifferentToTracing)
 {
     const std::string file = PathFor("session.jsonl");
-    RunOn(RichWorld(), {"networks", "--record", file});
+    RunOn(RichScenario(), {"networks", "--record", file});
     const Outcome traced = Run({"networks", "--trace", "--replay", file});
     EXPECT_EQ(kSuccess, traced.exitCode) << traced.err;
-    RunOn(RichWorld(), {"networks", "--trace", "--record", file});
+    RunOn(RichScenario(), {"networks", "--trace", "--record", file});
     EXPECT_EQ(kSuccess, Run({"networks", "--replay", file}).exitCode);
 }
 

@@ -32,7 +32,7 @@ std::string Joined(const std::vector<std::string>& lines)
 class ReplayTrouble : public CliTest
 {
 protected:
-    ReplayTrouble() { RunOn(RichWorld(), {"profiles", "list", "--record", m_file}); }
+    ReplayTrouble() { RunOn(RichScenario(), {"profiles", "list", "--record", m_file}); }
 
     std::string Recorded() const { return Content(m_file); }
     std::string File() const { return m_file; }
@@ -90,11 +90,11 @@ TEST_F(ReplayTrouble, DiffersByOtherArguments)
 
 TEST_F(ReplayTrouble, DiffersAtTheEndOfTheSession)
 {
-    RunOn(RichWorld(), {"watch", "--for", "1", "--record", File()});
+    RunOn(RichScenario(), {"watch", "--for", "1", "--record", File()});
     const Outcome longer = Run({"watch", "--for", "2", "--replay", File()});
     EXPECT_EQ(kDiffers, longer.exitCode);
     EXPECT_THAT(longer.err, HasSubstr("it calls Sleep {\"milliseconds\":100}; the recording has"));
-    RunOn(RichWorld(), {"watch", "--for", "2", "--record", File()});
+    RunOn(RichScenario(), {"watch", "--for", "2", "--record", File()});
     const Outcome shorter = Run({"watch", "--for", "1", "--replay", File()});
     EXPECT_EQ(kDiffers, shorter.exitCode);
     EXPECT_THAT(shorter.err, HasSubstr("the recording has Sleep {\"milliseconds\":100}"));
@@ -189,7 +189,7 @@ TEST_F(ReplayTrouble, IsADamagedField)
 
 TEST_F(ReplayTrouble, IsADamagedNotification)
 {
-    RunOn(RichWorld(), {"scan", "--record", File()});
+    RunOn(RichScenario(), {"scan", "--record", File()});
     std::vector<std::string> lines = LinesOf(Recorded());
     const std::size_t at = LineWith(lines, "\"notification\"");
     std::string& line = lines[at - 1];

@@ -260,7 +260,7 @@ void WINAPI Count(L2_NOTIFICATION_DATA*, PVOID context)
 TEST_F(NotificationThreads, RegisteringAnewWhileTheServiceKeepsNotifying)
 {
     std::atomic<bool> done = false;
-    std::thread world(
+    std::thread notifying(
         [&]
         {
             while (!done)
@@ -286,7 +286,7 @@ TEST_F(NotificationThreads, RegisteringAnewWhileTheServiceKeepsNotifying)
         heard += two;
     }
     done = true;
-    world.join();
+    notifying.join();
     EXPECT_GT(heard, 0) << "no client was notified";
 }
 

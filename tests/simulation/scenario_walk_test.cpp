@@ -17,7 +17,7 @@ class ScenarioPlay : public test::LibraryTest
 protected:
     void Play(const char* file)
     {
-        UseWorld(LoadScenario((std::filesystem::path(CALVIX_SOURCE_DIR) / "scenarios" / file).string()));
+        UseScenario(LoadScenario((std::filesystem::path(CALVIX_SOURCE_DIR) / "scenarios" / file).string()));
         guid = forms::GuidFromText(computer().Snapshot().adapters.at(0).guid).value();
     }
 

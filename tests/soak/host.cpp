@@ -1,6 +1,6 @@
 #include "soak/host.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 namespace calvix::test::soak
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "methods/method.h"
-#include "soak/world_text.h"
+#include "soak/scenario_text.h"
 
 #include <atomic>
 #include <cstdint>

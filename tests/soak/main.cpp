@@ -123,7 +123,7 @@ bool DidEverything(const Host& host, const std::vector<const Habit*>& habits)
 
 bool Soak(const Options& options)
 {
-    const std::unique_ptr<Surroundings> surroundings = MakeSurroundings(WorldText(options.days));
+    const std::unique_ptr<Surroundings> surroundings = MakeSurroundings(ScenarioText(options.days));
     Host host(options.seed);
     std::vector<WLAN_INTERFACE_INFO> adapters;
     host.Manager().GetWlanInterface(&adapters);

@@ -37,8 +37,8 @@ std::uint64_t ResidentKilobytes()
 class SimulatedSurroundings final : public Surroundings
 {
 public:
-    explicit SimulatedSurroundings(const std::string& world)
-        : m_computer(simulation::ParseScenario(world, "soak")), m_program(m_computer)
+    explicit SimulatedSurroundings(const std::string& scenario)
+        : m_computer(simulation::ParseScenario(scenario, "soak")), m_program(m_computer)
     {
         g_bTraceOn = 1;
     }
@@ -135,9 +135,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world)
+std::unique_ptr<Surroundings> MakeSurroundings(const std::string& scenario)
 {
-    return std::make_unique<SimulatedSurroundings>(world);
+    return std::make_unique<SimulatedSurroundings>(scenario);
 }
 
 } // namespace calvix::test::soak

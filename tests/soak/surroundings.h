@@ -46,7 +46,7 @@ public:
     virtual Holdings Measure() = 0;
 };
 
-/// The surroundings of this build, in a world given as a scenario file's text.
-std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world);
+/// The surroundings of this build, in a scenario given as a scenario file's text.
+std::unique_ptr<Surroundings> MakeSurroundings(const std::string& scenario);
 
 } // namespace calvix::test::soak

@@ -23,16 +23,16 @@ namespace
 constexpr unsigned kSpeed = 10'000; ///< how many times as fast as real time simulated time passes
 
 /// The drop-in reads its settings at the first call, hence before anything else.
-void ChooseWorld(const std::string& world)
+void ChooseScenario(const std::string& scenario)
 {
     char folder[MAX_PATH] = "";
     ::GetTempPathA(sizeof(folder), folder);
     const std::string file = folder + ("calvix-soak-" + std::to_string(::GetCurrentProcessId()) + ".json");
-    std::ofstream(file, std::ios::binary) << world;
+    std::ofstream(file, std::ios::binary) << scenario;
     ::SetEnvironmentVariableA("CALVIX_SCENARIO", file.c_str());
     ::SetEnvironmentVariableA("CALVIX_SPEED", std::to_string(kSpeed).c_str());
     if (CWirelessManage::Get()->GetWiFiAdapterCount() != 2)
-        throw std::runtime_error("no world in " + file);
+        throw std::runtime_error("no scenario in " + file);
     ::DeleteFileA(file.c_str());
 }
 
@@ -88,7 +88,7 @@ std::uint64_t Handles()
 class WindowsSurroundings final : public Surroundings
 {
 public:
-    explicit WindowsSurroundings(const std::string& world) { ChooseWorld(world); }
+    explicit WindowsSurroundings(const std::string& scenario) { ChooseScenario(scenario); }
 
     Duration Now() const override
     {
@@ -123,9 +123,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Surroundings> MakeSurroundings(const std::string& world)
+std::unique_ptr<Surroundings> MakeSurroundings(const std::string& scenario)
 {
-    return std::make_unique<WindowsSurroundings>(world);
+    return std::make_unique<WindowsSurroundings>(scenario);
 }
 
 } // namespace calvix::test::soak

@@ -110,22 +110,22 @@ void CheckFailure(LibraryTest& test, const FailureRow& row)
 {
     const std::string cause =
         row.failingOperation.empty()
-            ? "in its world"
+            ? "in its scenario"
             : "when " + row.failingOperation + " fails with " + std::to_string(row.error) +
                   (row.fromCall > 1 ? " from call " + std::to_string(row.fromCall) : std::string());
     SCOPED_TRACE(row.method + " " + cause);
-    const simulation::Scenario world = test.world();
+    const simulation::Scenario scenario = test.scenario();
     for (const bool tracing : {true, false})
     {
-        test.UseWorld(world);
+        test.UseScenario(scenario);
         RunOnce(test, row, tracing);
     }
     if (!row.failingOperation.empty() && (row.error == kSomeError || row.expected == row.error))
     {
-        test.UseWorld(world);
+        test.UseScenario(scenario);
         RunOnce(test, WithHighError(row), true);
     }
-    test.UseWorld(world);
+    test.UseScenario(scenario);
 }
 
 } // namespace calvix::test

@@ -6,7 +6,7 @@
 //                          {"WlanScan failed with error: %u"}});
 //     CheckFailure(*this, {.method = "Rescan()", .call = [](auto& m) { return m.Rescan(); }, .expected = -3,
 //                          .traced = {"No valid WLAN adapter"},
-//                          .prepare = [](auto& t) { t.UseWorld(NoAdapterWorld()); }});
+//                          .prepare = [](auto& t) { t.UseScenario(NoAdapterScenario()); }});
 //
 // What methods have in common is in unit/failure_contracts.cpp.
 
@@ -32,7 +32,7 @@ struct FailureRow
 {
     std::string method; ///< names the row in messages
     std::function<long long(CWirelessManage&)> call;
-    std::string failingOperation = {}; ///< empty: none is made to fail, the world does it
+    std::string failingOperation = {}; ///< empty: none is made to fail, the scenario does it
     long long expected = 0;
     /// All trace lines, in order, those of releases included; "%u" is the error, "%d" the signed error. Empty: nothing traced.
     std::vector<std::string> traced = {};

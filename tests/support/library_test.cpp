@@ -26,14 +26,14 @@ bool IsReporting(std::string_view operation)
 
 } // namespace
 
-LibraryTest::LibraryTest(const simulation::Scenario& world) : m_world(world)
+LibraryTest::LibraryTest(const simulation::Scenario& scenario) : m_scenario(scenario)
 {
     Begin();
 }
 
 void LibraryTest::Begin()
 {
-    m_computer = calvix::testing::ComputerInternals::Make(m_world);
+    m_computer = calvix::testing::ComputerInternals::Make(m_scenario);
     SetTracing(true);
     CWirelessManage::Get();
     ClearCalls();
@@ -52,14 +52,14 @@ void LibraryTest::End()
 
 void LibraryTest::TearDown()
 {
-    // There is no computer when its world could not be used.
+    // There is no computer when its scenario could not be used.
     if (m_computer)
         End();
 }
 
-void LibraryTest::UseWorld(const simulation::Scenario& world)
+void LibraryTest::UseScenario(const simulation::Scenario& scenario)
 {
-    m_world = world;
+    m_scenario = scenario;
     Restart();
 }
 

@@ -20,11 +20,11 @@
 //         EXPECT_EQ("WlanScan failed with error: 2150899714", sharedTrace());
 //     }
 //
-// Before a test the computer is fresh (RichWorld of support/test_worlds.h, or the world given to the constructor or to
-// UseWorld), the client handle is open, tracing is on, the shared trace buffer is marked and nothing is recorded yet.
+// Before a test the computer is fresh (RichScenario of support/test_scenarios.h, or the scenario given to the constructor or to
+// UseScenario), the client handle is open, tracing is on, the shared trace buffer is marked and nothing is recorded yet.
 // After it nothing may be held: no block of the service, no handle, no client, and no defect that was not announced.
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 #include "testing/computer_internals.h"
 
 #include <gmock/gmock.h>
@@ -38,14 +38,14 @@ using calvix::testing::Call;
 class LibraryTest : public ::testing::Test
 {
 public:
-    LibraryTest() : LibraryTest(RichWorld()) {}
-    explicit LibraryTest(const simulation::Scenario& world);
+    LibraryTest() : LibraryTest(RichScenario()) {}
+    explicit LibraryTest(const simulation::Scenario& scenario);
 
-    /// Replaces the computer by a fresh one of this world, and the manager with it.
-    void UseWorld(const simulation::Scenario& world);
-    /// The same for the world in use.
+    /// Replaces the computer by a fresh one of this scenario, and the manager with it.
+    void UseScenario(const simulation::Scenario& scenario);
+    /// The same for the scenario in use.
     void Restart();
-    const simulation::Scenario& world() const { return m_world; }
+    const simulation::Scenario& scenario() const { return m_scenario; }
 
     CWirelessManage& manager() { return m_computer->Manager(); }
     simulation::Computer& computer() { return calvix::testing::ComputerInternals::Simulated(*m_computer); }
@@ -111,7 +111,7 @@ private:
     std::vector<std::string> Texts(std::string Call::*text, bool all) const;
     TestComputer& inside() { return calvix::testing::ComputerInternals::Inside(*m_computer); }
 
-    simulation::Scenario m_world;
+    simulation::Scenario m_scenario;
     std::unique_ptr<calvix::testing::Computer> m_computer;
     std::vector<std::string> m_expectedDefects;
 };

@@ -85,7 +85,8 @@ private:
 
 } // namespace
 
-Bench::Bench(const simulation::Scenario& world, wrappers::Interceptor& interceptor) : m_computer(world, interceptor)
+Bench::Bench(const simulation::Scenario& scenario, wrappers::Interceptor& interceptor)
+    : m_computer(scenario, interceptor)
 {
     g_bTraceOn = 1;
 }
@@ -122,10 +123,10 @@ Outcome Bench::Call(const Method& method)
     return call.Outcome();
 }
 
-Reference Record(const simulation::Scenario& world, const Method& method)
+Reference Record(const simulation::Scenario& scenario, const Method& method)
 {
     wrappers::CallLog log;
-    Bench bench(world, log);
+    Bench bench(scenario, log);
     bench.Prepare(method);
     log.Clear();
     Reference reference;
@@ -207,10 +208,10 @@ Outcome CallInTrouble(
 
 } // namespace
 
-Run Repeat(const simulation::Scenario& world, const Method& method, const Failure& failure)
+Run Repeat(const simulation::Scenario& scenario, const Method& method, const Failure& failure)
 {
     wrappers::FaultInjection faults;
-    Bench bench(world, faults);
+    Bench bench(scenario, faults);
     bench.Prepare(method);
     Run run;
     run.outcome = CallInTrouble(bench, faults, method, failure, run.failed);

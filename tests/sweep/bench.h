@@ -20,7 +20,7 @@ using methods::Outcome;
 class Bench
 {
 public:
-    Bench(const simulation::Scenario& world, wrappers::Interceptor& interceptor);
+    Bench(const simulation::Scenario& scenario, wrappers::Interceptor& interceptor);
 
     /// Brings about what the method needs.
     void Prepare(const Method& method);
@@ -49,7 +49,7 @@ struct Reference
     Outcome again;                       ///< called once more
 };
 
-Reference Record(const simulation::Scenario& world, const Method& method);
+Reference Record(const simulation::Scenario& scenario, const Method& method);
 
 /// What becomes of the calls that a failure is about.
 enum class Way
@@ -87,6 +87,6 @@ struct Run
     simulation::Accounts inTheEnd;
 };
 
-Run Repeat(const simulation::Scenario& world, const Method& method, const Failure& failure);
+Run Repeat(const simulation::Scenario& scenario, const Method& method, const Failure& failure);
 
 } // namespace calvix::test::sweep

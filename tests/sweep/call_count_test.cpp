@@ -2,7 +2,7 @@
 // service costs a program more than everything else that a method does.
 
 #include "sweep/bench.h"
-#include "sweep/worlds.h"
+#include "sweep/scenarios.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ constexpr std::string_view kFree[] = {
     "MultiByteToWideChar", "WideCharToMultiByte",  "StringFromGUID2",   "GetModuleHandleA", "GetProcAddress",
     "GetCurrentProcess",   "FileTimeToSystemTime", "OutputDebugStringA"};
 
-/// The sweep's first world: two adapters, the first with five profiles, of which the networks of three are listed.
+/// The sweep's first scenario: two adapters, the first with five profiles, of which the networks of three are listed.
 constexpr unsigned kAdapters = 2;
 constexpr unsigned kProfiles = 5;
 constexpr unsigned kMatches = 3;
@@ -71,7 +71,7 @@ unsigned Fewest(std::string_view declaration, std::string_view operation)
 std::map<std::string, unsigned> CountedCalls(const methods::Method& method)
 {
     std::map<std::string, unsigned> calls;
-    for (const std::string& operation : sweep::Record(sweep::Worlds()[0].make(), method).operations)
+    for (const std::string& operation : sweep::Record(sweep::Scenarios()[0].make(), method).operations)
         if (std::find(std::begin(kFree), std::end(kFree), operation) == std::end(kFree))
             ++calls[operation];
     return calls;

@@ -1,7 +1,7 @@
 // The reference names the platform calls of every method, in docs/reference/methods: they are the calls that are made.
 
 #include "sweep/bench.h"
-#include "sweep/worlds.h"
+#include "sweep/scenarios.h"
 #include "wrappers/call_log.h"
 
 #include <gmock/gmock.h>
@@ -64,10 +64,10 @@ std::map<std::string, Documented> ReadReference()
 }
 
 /// What a method calls where nothing fails, in the order of the first time; trace lines are left out.
-Operations Made(const sweep::World& world, const methods::Method& method)
+Operations Made(const sweep::NamedScenario& scenario, const methods::Method& method)
 {
     Operations made;
-    for (const std::string& operation : sweep::Record(world.make(), method).operations)
+    for (const std::string& operation : sweep::Record(scenario.make(), method).operations)
         if (operation != "OutputDebugStringA")
             AddOnce(made, operation);
     return made;
@@ -92,10 +92,10 @@ TEST(DocumentedCalls, AreThoseOfEveryMethod)
         ASSERT_TRUE(reference.contains(method.declaration));
         const Documented& documented = reference.at(method.declaration);
         std::set<std::string> everMade;
-        for (const sweep::World& world : sweep::Worlds())
+        for (const sweep::NamedScenario& scenario : sweep::Scenarios())
         {
-            SCOPED_TRACE(world.name);
-            const Operations made = Made(world, method);
+            SCOPED_TRACE(scenario.name);
+            const Operations made = Made(scenario, method);
             EXPECT_EQ(made, InDocumentedOrder(documented, made));
             everMade.insert(made.begin(), made.end());
         }
@@ -121,7 +121,7 @@ TEST(DocumentedCalls, BeginWithOpeningTheClientWhichStaysOpen)
     {
         SCOPED_TRACE(method.declaration);
         wrappers::CallLog log;
-        sweep::Bench bench(sweep::Worlds().front().make(), log);
+        sweep::Bench bench(sweep::Scenarios().front().make(), log);
         const std::vector<std::string> calls = ServiceCalls(bench, log, method);
         if (calls.empty() || !sweep::OpensClient(method))
             continue;

@@ -2,8 +2,8 @@
 
 #include "support/edited_answers.h"
 #include "sweep/bench.h"
+#include "sweep/scenarios.h"
 #include "sweep/tolerance.h"
-#include "sweep/worlds.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,9 +20,9 @@ using host::MethodResults;
 using methods::Method;
 using methods::Outcome;
 using sweep::Failure;
+using sweep::NamedScenario;
 using sweep::Reference;
 using sweep::Run;
-using sweep::World;
 
 /// A code of the method's table that the failed call can cause, or the call's own error number.
 bool IsFailureFor(const Method& method, const MethodResults& results, long long code, const Failure& failure)
@@ -79,10 +79,10 @@ void ExpectAsFresh(const Run& run, const Reference& reference)
         << reference.again.text;
 }
 
-void Check(const World& world, const Method& method, const Failure& failure, const Reference& reference)
+void Check(const NamedScenario& scenario, const Method& method, const Failure& failure, const Reference& reference)
 {
-    SCOPED_TRACE(std::string(world.name) + ": " + failure.Text());
-    const Run run = Repeat(world.make(), method, failure);
+    SCOPED_TRACE(std::string(scenario.name) + ": " + failure.Text());
+    const Run run = Repeat(scenario.make(), method, failure);
     EXPECT_GE(run.failed, 1U) << "the call was not made";
     ExpectAllowed(method, run, failure, reference);
     const std::size_t refusedReleases = failure.IsRelease() ? run.failed : 0;
@@ -97,11 +97,11 @@ class EveryMethod : public testing::TestWithParam<Method>
 
 TEST_P(EveryMethod, SurvivesEachFailure)
 {
-    for (const World& world : sweep::Worlds())
+    for (const NamedScenario& scenario : sweep::Scenarios())
     {
-        const Reference reference = sweep::Record(world.make(), GetParam());
+        const Reference reference = sweep::Record(scenario.make(), GetParam());
         for (const Failure& failure : sweep::FailuresOf(reference))
-            Check(world, GetParam(), failure, reference);
+            Check(scenario, GetParam(), failure, reference);
     }
 }
 
@@ -111,10 +111,10 @@ INSTANTIATE_TEST_SUITE_P(All,
                          [](const auto& method) { return TestName(method.param, method.index); });
 
 /// What a method gives where the service agrees to the version before the one that is asked for.
-Outcome CallOfVersionOne(const World& world, const Method& method)
+Outcome CallOfVersionOne(const NamedScenario& scenario, const Method& method)
 {
     wrappers::Interceptor seesNothing;
-    sweep::Bench bench(world.make(), seesNothing);
+    sweep::Bench bench(scenario.make(), seesNothing);
     bench.Prepare(method);
     EditedAnswers answers;
     answers.service.negotiatedVersion = 1;
@@ -124,14 +124,14 @@ Outcome CallOfVersionOne(const World& world, const Method& method)
 TEST(FailureSweep, OneMethodOnlyLooksAtTheNegotiatedVersion)
 {
     constexpr long long kOtherVersion = 0xFFFFFFFF;
-    for (const World& world : sweep::Worlds())
+    for (const NamedScenario& scenario : sweep::Scenarios())
         for (const Method& method : methods::EveryMethod())
         {
-            SCOPED_TRACE(std::string(world.name) + ": " + method.declaration);
-            Outcome expected = sweep::Record(world.make(), method).first;
+            SCOPED_TRACE(std::string(scenario.name) + ": " + method.declaration);
+            Outcome expected = sweep::Record(scenario.make(), method).first;
             if (method.Name() == "SetIhvSecuritySettings" && expected.code == 0)
                 expected.code = kOtherVersion;
-            EXPECT_EQ(CallOfVersionOne(world, method), expected);
+            EXPECT_EQ(CallOfVersionOne(scenario, method), expected);
         }
 }
 
@@ -139,9 +139,9 @@ TEST(FailureSweep, IsNotEmpty)
 {
     constexpr std::size_t kAtLeast = 2700 * CALVIX_SWEEP_ERRORS + 600;
     std::size_t failures = 0;
-    for (const World& world : sweep::Worlds())
+    for (const NamedScenario& scenario : sweep::Scenarios())
         for (const Method& method : methods::EveryMethod())
-            failures += sweep::FailuresOf(sweep::Record(world.make(), method)).size();
+            failures += sweep::FailuresOf(sweep::Record(scenario.make(), method)).size();
     RecordProperty("failures", std::to_string(failures));
     std::cout << failures << " failures of platform calls in the sweep\n";
     EXPECT_GT(failures, kAtLeast);

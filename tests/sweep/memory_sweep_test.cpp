@@ -3,9 +3,9 @@
 
 #include "support/allocation_counter.h"
 #include "support/edited_answers.h"
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 #include "sweep/bench.h"
-#include "sweep/worlds.h"
+#include "sweep/scenarios.h"
 #include "testing/manager_internals.h"
 
 #include <gmock/gmock.h>
@@ -73,37 +73,37 @@ std::vector<Shortage> ShortagesOf(const Method& method)
 simulation::Scenario Crowded()
 {
     constexpr std::uint8_t kNetworks = 12;
-    simulation::Scenario world = sweep::Worlds().front().make();
+    simulation::Scenario scenario = sweep::Scenarios().front().make();
     const std::string longName = "The quiet room behind the stairs";
-    world.adapters[0].profiles.push_back(MakeProfile(longName));
-    world.accessPoints.push_back(MakeAccessPoint(longName, {2, 7, 7, 7, 8, 0}, 5180000, -85));
+    scenario.adapters[0].profiles.push_back(MakeProfile(longName));
+    scenario.accessPoints.push_back(MakeAccessPoint(longName, {2, 7, 7, 7, 8, 0}, 5180000, -85));
     for (std::uint8_t number = 0; number < kNetworks; ++number)
     {
         const std::string name = number < kNetworks - 2 ? "Net" : "Conference room LC#";
-        world.accessPoints.push_back(
+        scenario.accessPoints.push_back(
             MakeAccessPoint(name + std::to_string(number), {2, 7, 7, 7, 7, number}, 5180000, -90));
     }
-    return world;
+    return scenario;
 }
 
 /// More adapters than an output list has entries before.
 simulation::Scenario ManyAdapters()
 {
-    simulation::Scenario world = sweep::Worlds().front().make();
+    simulation::Scenario scenario = sweep::Scenarios().front().make();
     for (int number = 100; number < 180; ++number)
     {
-        world.adapters.push_back(world.adapters[0]);
-        world.adapters.back().guid.replace(1, 3, std::to_string(number));
-        world.adapters.back().profiles.resize(1); // each run would read all of them eighty times
+        scenario.adapters.push_back(scenario.adapters[0]);
+        scenario.adapters.back().guid.replace(1, 3, std::to_string(number));
+        scenario.adapters.back().profiles.resize(1); // each run would read all of them eighty times
     }
-    return world;
+    return scenario;
 }
 
 /// Where the methods are called.
 struct Setting
 {
     std::string name;
-    simulation::Scenario world;
+    simulation::Scenario scenario;
     bool refusesConnections = false;
     bool whereMore = false; ///< only for the methods that allocate more often here than in the first setting
 };
@@ -111,9 +111,9 @@ struct Setting
 std::vector<Setting> Settings()
 {
     std::vector<Setting> settings;
-    for (const sweep::World& world : sweep::Worlds())
-        settings.push_back({world.name, world.make()});
-    settings.push_back({.name = "many adapters", .world = ManyAdapters(), .whereMore = true});
+    for (const sweep::NamedScenario& scenario : sweep::Scenarios())
+        settings.push_back({scenario.name, scenario.make()});
+    settings.push_back({.name = "many adapters", .scenario = ManyAdapters(), .whereMore = true});
     settings.push_back({"crowded", Crowded()});
     settings.push_back({"crowded and refusing", Crowded(), true});
     return settings;
@@ -123,7 +123,7 @@ std::vector<Setting> Settings()
 class CountingBench
 {
 public:
-    CountingBench(const Setting& setting, const Method& method) : m_bench(setting.world, m_chain)
+    CountingBench(const Setting& setting, const Method& method) : m_bench(setting.scenario, m_chain)
     {
         m_answers.conversion.takesAllFlagsForUtf8 = true;
         m_answers.conversion.takesAllFlagsForNarrow = true;
@@ -314,7 +314,7 @@ TEST(MemorySweep, EveryAllocationOfEveryMethodFails)
 TEST(MemorySweep, GetGivesNullWithoutMemoryForTheManager)
 {
     PlatformCallsUncounted uncounted;
-    sweep::Bench bench(sweep::Worlds().front().make(), uncounted);
+    sweep::Bench bench(sweep::Scenarios().front().make(), uncounted);
     ASSERT_EQ(nullptr, ManagerInternals::Instance());
     {
         const AllocationFailure failure(1);

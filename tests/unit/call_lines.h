@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <string>
 

@@ -40,7 +40,7 @@ private:
 class FailureContract : public LibraryTest, public ::testing::WithParamInterface<Contract>
 {
 public:
-    FailureContract() : LibraryTest(Furnished(RichWorld())) {}
+    FailureContract() : LibraryTest(Furnished(RichScenario())) {}
 
     const Method& method() const { return methods::FindMethod(GetParam().method); }
 

@@ -24,10 +24,10 @@ constexpr const char* kNotConnectedAtAll = "not connected";
 constexpr const char* kNetworkLost = "network lost";
 constexpr const char* kAccessPointLost = "access point lost";
 
-template <simulation::Scenario (*world)()>
+template <simulation::Scenario (*scenario)()>
 void Use(LibraryTest& test)
 {
-    test.UseWorld(world());
+    test.UseScenario(scenario());
 }
 
 /// The first ones of the network are not on the air any more.
@@ -289,7 +289,7 @@ const Contract kAdapters[] = {
     {.method = "WiFiIsDisconnected",
      .traces = shared,
      .failures = kNoLink,
-     .prepare = Use<DisconnectedWorld>,
+     .prepare = Use<DisconnectedScenario>,
      .findsAdapter = true},
     {"GetWlanInterfaceGuid", shared, kListInterfaces},
     {.method = "GetWlanInterfaceDesc",
@@ -385,9 +385,9 @@ const std::vector<Failing> kBest =
 /// Another access point of the network is better than the connected one.
 void WeakenConnection(LibraryTest& test)
 {
-    simulation::Scenario world = RichWorld();
-    world.accessPoints[0].rssi = -88;
-    test.UseWorld(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.accessPoints[0].rssi = -88;
+    test.UseScenario(scenario);
 }
 
 const Contract kAutomatic[] = {
@@ -486,9 +486,9 @@ std::vector<Contract> EveryContract()
 void (*Bringing(const std::string& operation))(LibraryTest&)
 {
     static const std::map<std::string, void (*)(LibraryTest&)> states = {
-        {kNoAdapterAtAll, Use<NoAdapterWorld>}, {kNoProfileAtAll, Use<NoProfileWorld>},
-        {kNothingHeard, Use<SilentWorld>},      {kNotConnectedAtAll, Use<DisconnectedWorld>},
-        {kNetworkLost, LoseAccessPoints<3>},    {kAccessPointLost, LoseAccessPoints<1>}};
+        {kNoAdapterAtAll, Use<NoAdapterScenario>}, {kNoProfileAtAll, Use<NoProfileScenario>},
+        {kNothingHeard, Use<SilentScenario>},      {kNotConnectedAtAll, Use<DisconnectedScenario>},
+        {kNetworkLost, LoseAccessPoints<3>},       {kAccessPointLost, LoseAccessPoints<1>}};
     const auto state = states.find(operation);
     return state != states.end() ? state->second : nullptr;
 }

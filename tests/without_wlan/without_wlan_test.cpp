@@ -4,7 +4,7 @@
 
 #include "explain/result_codes.h"
 #include "methods/method.h"
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

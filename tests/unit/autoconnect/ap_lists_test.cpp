@@ -1,6 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <algorithm>
@@ -147,7 +147,7 @@ TEST_F(ApListsTest, AProfileMayMatchSeveralNetworks)
 
 TEST_F(ApListsTest, NothingMatchedIsASuccess)
 {
-    UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
     EXPECT_THAT(MatchingEntries(), IsEmpty());
     EXPECT_THAT(MatchingNames(1), IsEmpty());
     EXPECT_EQ(0u, callCount("WlanGetProfile"));

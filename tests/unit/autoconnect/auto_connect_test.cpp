@@ -1,7 +1,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 namespace calvix::test::auto_connect_test
@@ -26,8 +26,8 @@ long long AutoEx(CWirelessManage& manager)
 /// Two profiles in view, the preferred one listed last and heard worst.
 simulation::Scenario TwoNetworks()
 {
-    return WorldOf({Profile("First", "manual"), Profile("GoneNet"), Profile("Second")},
-                   {Heard("Second", 2412000, -55), Heard("Nobody's", 2412000, -60), Heard("First", 2412000, -80)});
+    return ScenarioOf({Profile("First", "manual"), Profile("GoneNet"), Profile("Second")},
+                      {Heard("Second", 2412000, -55), Heard("Nobody's", 2412000, -60), Heard("First", 2412000, -80)});
 }
 
 class AutoConnectTest : public LibraryTest

@@ -1,7 +1,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <string>
@@ -16,12 +16,13 @@ namespace
 {
 
 /// Connected by "Old"; "Other" is heard better, and preferred less.
-simulation::Scenario SwitchWorld(std::vector<simulation::StoredProfile> profiles = {Profile("Old"), Profile("Other")})
+simulation::Scenario SwitchScenario(std::vector<simulation::StoredProfile> profiles = {Profile("Old"),
+                                                                                       Profile("Other")})
 {
-    simulation::Scenario world =
-        WorldOf(std::move(profiles), {Heard("Old", 2412000, -65), Heard("Other", 2412000, -60)});
-    world.adapters[0].connection = simulation::Connection{"Old", std::nullopt};
-    return world;
+    simulation::Scenario scenario =
+        ScenarioOf(std::move(profiles), {Heard("Old", 2412000, -65), Heard("Other", 2412000, -60)});
+    scenario.adapters[0].connection = simulation::Connection{"Old", std::nullopt};
+    return scenario;
 }
 
 long long Switch(CWirelessManage& manager)
@@ -32,7 +33,7 @@ long long Switch(CWirelessManage& manager)
 class AutoSwitchTest : public LibraryTest
 {
 public:
-    AutoSwitchTest() : LibraryTest(SwitchWorld()) {}
+    AutoSwitchTest() : LibraryTest(SwitchScenario()) {}
 };
 
 /// On a platform that converts SSIDs with the flags that SmartSwitch passes.

@@ -2,7 +2,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <algorithm>
@@ -38,8 +38,8 @@ std::vector<Overload> Overloads()
 /// Two networks to choose from; the last one heard is on 5 GHz.
 simulation::Scenario TwoNetworks(std::int32_t plain, std::int32_t boosted)
 {
-    return WorldOf({Profile("Plain"), Profile("Boosted")},
-                   {Heard("Plain", 2412000, plain), Heard("Boosted", 5180000, boosted)});
+    return ScenarioOf({Profile("Plain"), Profile("Boosted")},
+                      {Heard("Plain", 2412000, plain), Heard("Boosted", 5180000, boosted)});
 }
 
 class BestApTest : public LibraryTest
@@ -72,7 +72,7 @@ TEST_F(BestApTest, AsksForAConnectionByProfile)
 
 TEST_F(BestApTest, TheNetworksOwnBssTypeIsAskedFor)
 {
-    UseWorld(RichWorld());
+    UseScenario(RichScenario());
     EditedAnswers edited;
     edited.service.SetProfileText(L"AdHocNet", L"<connectionMode>auto</connectionMode>");
     EXPECT_EQ(0, manager().ConnectBestAP(&kAdapterA, L"HomeNet"));
@@ -88,10 +88,10 @@ TEST_F(BestApTest, FailuresBesideTheLists)
     {
         const char* const unread = "WlanGetProfile failed with error: %u";
         CheckFailure(*this, {name, call, "WlanGetProfile", -9, {unread, unread}, TraceBuffer::local});
-        UseWorld(WorldOf({Profile("Net", "manual"), Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+        UseScenario(ScenarioOf({Profile("Net", "manual"), Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
         EXPECT_EQ(-9, call(manager()));
         ExpectSilence();
-        UseWorld(TwoNetworks(-60, -70));
+        UseScenario(TwoNetworks(-60, -70));
     }
 }
 
@@ -109,7 +109,7 @@ TEST_F(BestApTest, AProfileWithoutAModeIsNotACandidate)
 // Deliberate: compared over the network's length only.
 TEST_F(BestApTest, ALongerExcludedSsidRulesOutWhatItBeginsWith)
 {
-    UseWorld(WorldOf({Profile("HomeNet")}, {Heard("HomeNet", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("HomeNet")}, {Heard("HomeNet", 2412000, -50)}));
     const auto codeWithout = [this](const std::string& ssid)
     {
         Excluded excluded = {EntryOf(ssid)};
@@ -129,23 +129,24 @@ TEST_F(BestApTest, ALongerExcludedSsidRulesOutWhatItBeginsWith)
 TEST_F(BestApTest, TheLowestScoreIsTriedFirst)
 {
     EXPECT_THAT(Ranking(), ElementsAre("Boosted", "Plain")) << "60 + 10 before 80";
-    UseWorld(TwoNetworks(-68, -70));
+    UseScenario(TwoNetworks(-68, -70));
     EXPECT_THAT(Ranking(), ElementsAre("Plain", "Boosted")) << "64 before 60 + 10";
-    UseWorld(TwoNetworks(-80, -70));
+    UseScenario(TwoNetworks(-80, -70));
     EXPECT_THAT(Ranking(), ElementsAre("Plain", "Boosted")) << "40 before 70";
 }
 
 // Deliberate: one BSS query, for the network listed last, candidate or not.
 TEST_F(BestApTest, OnlyTheNetworkListedLastCanEarnTheBonus)
 {
-    UseWorld(WorldOf({Profile("Boosted"), Profile("Plain")},
-                     {Heard("Boosted", 5180000, -70), Heard("Plain", 2412000, -68)}));
+    UseScenario(ScenarioOf({Profile("Boosted"), Profile("Plain")},
+                           {Heard("Boosted", 5180000, -70), Heard("Plain", 2412000, -68)}));
     EXPECT_THAT(Ranking(), ElementsAre("Boosted", "Plain")) << "60 before 64";
     EXPECT_EQ(1u, callCount("WlanGetNetworkBssList"));
     EXPECT_EQ("\"Plain\"/5", call("WlanGetNetworkBssList")["ssid"]);
 
-    UseWorld(WorldOf({Profile("Boosted"), Profile("Plain")},
-                     {Heard("Boosted", 5180000, -70), Heard("Plain", 2412000, -68), Heard("Nobody's", 5180000, -70)}));
+    UseScenario(
+        ScenarioOf({Profile("Boosted"), Profile("Plain")},
+                   {Heard("Boosted", 5180000, -70), Heard("Plain", 2412000, -68), Heard("Nobody's", 5180000, -70)}));
     EXPECT_THAT(Ranking(), ElementsAre("Boosted", "Plain"));
     EXPECT_EQ("\"Nobody's\"/8", call("WlanGetNetworkBssList")["ssid"]);
 }
@@ -153,8 +154,8 @@ TEST_F(BestApTest, OnlyTheNetworkListedLastCanEarnTheBonus)
 // A candidate is its entry of the network list: what one candidate earns, the other has.
 TEST_F(BestApTest, TwoProfilesOfOneNameShareTheScoreOfTheirNetwork)
 {
-    UseWorld(WorldOf({Profile("Twice"), Profile("Again"), Profile("Once")},
-                     {Heard("Once", 2412000, -62), Heard("Twice", 5180000, -70)}));
+    UseScenario(ScenarioOf({Profile("Twice"), Profile("Again"), Profile("Once")},
+                           {Heard("Once", 2412000, -62), Heard("Twice", 5180000, -70)}));
     EditedAnswers edited;
     edited.service.profiles = [](WLAN_PROFILE_INFO_LIST& list)
     {
@@ -188,7 +189,7 @@ TEST_F(BestApTest, MoreThanThirtyTwoCandidatesAreAllTriedInOrder)
         heard.push_back(Heard(name, 2412000, -100 + i * 17 % 40));
         expected.push_back("Net" + std::to_string(i * 33 % 40)); // 17 x 33 leaves 1
     }
-    UseWorld(WorldOf(profiles, heard));
+    UseScenario(ScenarioOf(profiles, heard));
     EXPECT_EQ(expected, Ranking());
 }
 

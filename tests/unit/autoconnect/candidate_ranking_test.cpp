@@ -1,5 +1,5 @@
 #include "autoconnect/candidate_ranking.h"
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <string>
@@ -28,8 +28,8 @@ class ConnectAutoModeTest : public LibraryTest
 public:
     ConnectAutoModeTest()
         : LibraryTest(
-              WorldOf({Profile("Manual", "manual"), Profile("First"), Profile("Second")},
-                      {Heard("Second", 2412000, -55), Heard("First", 2412000, -80), Heard("Manual", 2412000, -50)}))
+              ScenarioOf({Profile("Manual", "manual"), Profile("First"), Profile("Second")},
+                         {Heard("Second", 2412000, -55), Heard("First", 2412000, -80), Heard("Manual", 2412000, -50)}))
     {
     }
 };
@@ -79,7 +79,7 @@ TEST_F(ConnectAutoModeTest, ANetworkMatchesByItsSsidToo)
     simulation::AccessPoint open = Heard("First", 2412000, -50);
     open.authentication = "open";
     open.encryption = "none";
-    UseWorld(WorldOf({Profile("First")}, {open})); // the profile is for the same SSID with WPA2
+    UseScenario(ScenarioOf({Profile("First")}, {open})); // the profile is for the same SSID with WPA2
     EXPECT_EQ(0, AutoMode(manager()));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre(""));
     EXPECT_THAT(traced(), ElementsAre("WlanConnect failed with error: 87"));
@@ -87,7 +87,7 @@ TEST_F(ConnectAutoModeTest, ANetworkMatchesByItsSsidToo)
 
 TEST_F(ConnectAutoModeTest, AnSsidThatReadsLikeAnotherProfileIsRequestedByItsOwnName)
 {
-    UseWorld(WorldOf({Profile("Net"), ProfileFor("Alias", "Net", "manual")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("Net"), ProfileFor("Alias", "Net", "manual")}, {Heard("Net", 2412000, -50)}));
     FailOn("WlanConnect");
     EXPECT_EQ(0, AutoMode(manager()));
     EXPECT_THAT(RequestedProfiles(*this), ElementsAre("Net", "Alias")) << "the manual one, for its SSID";
@@ -115,13 +115,13 @@ TEST_F(ConnectAutoModeTest, AnSsidThatStatesMoreThan64BytesReadsAsEmpty)
 
 TEST_F(ConnectAutoModeTest, ProfilesThatAreNotAutomaticAreNotUsed)
 {
-    UseWorld(WorldOf({Profile("Net", "manual")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("Net", "manual")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(-9, AutoMode(manager()));
     EXPECT_EQ(0u, callCount("MultiByteToWideChar"));
-    UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(-9, AutoMode(manager())) << "nor are those of networks out of view";
     EXPECT_TRUE(traced().empty());
-    UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("Net")}, {Heard("Net", 2412000, -50)}));
     for (const wchar_t* text : {L"", L"</connectionMode>", L"<connectionMode>Auto</connectionMode>"})
     {
         EditedAnswers edited;
@@ -143,7 +143,7 @@ TEST_F(ConnectAutoModeTest, AModeTooFarBackIsNotFound)
         // White space before the mode pushes it back until it ends exactly, or one too late, for what is looked at.
         xml.insert(xml.find("<connectionMode>"), 1023 - seen + (1023 - room), ' ');
         ASSERT_EQ(1023 + (1023 - room), xml.find(end) + end.size());
-        UseWorld(WorldOf({{xml}}, {Heard("Net", 2412000, -50)}));
+        UseScenario(ScenarioOf({{xml}}, {Heard("Net", 2412000, -50)}));
         EXPECT_EQ(expected, AutoMode(manager())) << room;
     }
 }

@@ -1,6 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <iterator>
@@ -26,9 +26,9 @@ simulation::Scenario NetFrom(std::size_t accessPoints)
 {
     std::vector<simulation::AccessPoint> heard(accessPoints, Heard("Net", 2412000, -70));
     heard.push_back(Heard("Other", 2412000, -50));
-    simulation::Scenario world = WorldOf({ProfileFor("Profile", "Net"), Profile("Other")}, heard);
-    world.adapters[0].connection = simulation::Connection{"Profile", world.accessPoints.front().bssid};
-    return world;
+    simulation::Scenario scenario = ScenarioOf({ProfileFor("Profile", "Net"), Profile("Other")}, heard);
+    scenario.adapters[0].connection = simulation::Connection{"Profile", scenario.accessPoints.front().bssid};
+    return scenario;
 }
 
 struct Method
@@ -59,9 +59,9 @@ public:
 
     static simulation::Scenario BetterSecond()
     {
-        simulation::Scenario world = NetFrom(2);
-        world.accessPoints[1].rssi = -55;
-        return world;
+        simulation::Scenario scenario = NetFrom(2);
+        scenario.accessPoints[1].rssi = -55;
+        return scenario;
     }
 };
 
@@ -117,7 +117,7 @@ TEST_F(RoamingTest, ThePickIsTheLastAccessPointThatBeatsTheFirst)
     for (const auto& [qualities, picked] : choices)
     {
         SCOPED_TRACE(::testing::PrintToString(qualities));
-        UseWorld(NetFrom(qualities.size()));
+        UseScenario(NetFrom(qualities.size()));
         EditedAnswers edited;
         edited.service.bss = WithQualities(qualities);
         EXPECT_EQ(0, manager().PreRoaming(&kAdapterA));
@@ -130,7 +130,7 @@ TEST_F(RoamingTest, AccessPointsAreTheSameWhenAllSixBytesAre)
 {
     for (std::size_t byte = 0; byte < 6; ++byte)
     {
-        UseWorld(NetFrom(1));
+        UseScenario(NetFrom(1));
         EditedAnswers edited;
         edited.service.bss = [byte](WLAN_BSS_LIST& list) { list.wlanBssEntries[0].dot11Bssid[byte] ^= 0x80; };
         EXPECT_EQ(0, manager().PreRoaming(&kAdapterA)) << "byte " << byte;

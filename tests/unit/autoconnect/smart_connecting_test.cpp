@@ -1,7 +1,7 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
 #include "unit/autoconnect/requests.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <algorithm>
@@ -20,8 +20,8 @@ class SmartConnectingTest : public LibraryTest
 {
 public:
     SmartConnectingTest()
-        : LibraryTest(WorldOf({Profile("GoneNet"), Profile("First", "manual"), Profile("Second")},
-                              {Heard("Second", 2412000, -55), Heard("First", 2412000, -80)}))
+        : LibraryTest(ScenarioOf({Profile("GoneNet"), Profile("First", "manual"), Profile("Second")},
+                                 {Heard("Second", 2412000, -55), Heard("First", 2412000, -80)}))
     {
     }
 };
@@ -40,7 +40,7 @@ TEST_F(SmartConnectingTest, RequestsTheFirstProfileInViewAndReturnsItsName)
 
 TEST_F(SmartConnectingTest, WorksOnTheFirstInterfaceWhicheverIsNamed)
 {
-    UseWorld(DisconnectedWorld());
+    UseScenario(DisconnectedScenario());
     for (const GUID* interfaceGuid : {&kAdapterB, &kNoAdapter, static_cast<const GUID*>(nullptr)})
     {
         ClearCalls();
@@ -62,7 +62,7 @@ TEST_F(SmartConnectingTest, TheNameIsCutToWhatTheTextHolds)
     for (const std::size_t length : {126u, 127u, 128u, 255u})
     {
         const std::string profile(length, 'n');
-        UseWorld(WorldOf({ProfileFor(profile, "Net")}, {Heard("Net", 2412000, -50)}));
+        UseScenario(ScenarioOf({ProfileFor(profile, "Net")}, {Heard("Net", 2412000, -50)}));
         char text[130];
         std::memset(text, '#', sizeof text);
         EXPECT_EQ(0, manager().SmartConnecting(&kAdapterA, text));

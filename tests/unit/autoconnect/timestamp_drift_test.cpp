@@ -1,7 +1,7 @@
 #include "support/contract_table.h"
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <algorithm>
@@ -33,7 +33,7 @@ class TimestampDriftTest : public LibraryTest
 public:
     TimestampDriftTest() : LibraryTest(OneNetwork()) {}
 
-    static simulation::Scenario OneNetwork() { return WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50)}); }
+    static simulation::Scenario OneNetwork() { return ScenarioOf({Profile("Net")}, {Heard("Net", 2412000, -50)}); }
 
     int Run() { return manager().GetMatchBSSID(&kAdapterA); }
 
@@ -97,7 +97,7 @@ TEST_F(TimestampDriftTest, ShowsThatAScanHeardTheAccessPointAgain)
 
 TEST_F(TimestampDriftTest, EveryProfileIsNamedAndEveryMatchFollowed)
 {
-    UseWorld(RichWorld());
+    UseScenario(RichScenario());
     EXPECT_EQ(-1, Run());
     std::vector<std::string> lines = traced();
     std::erase(lines, "ullHostTimestamp offset(0 sec)");
@@ -114,7 +114,7 @@ TEST_F(TimestampDriftTest, EveryProfileIsNamedAndEveryMatchFollowed)
 TEST_F(TimestampDriftTest, LongNamesAreCutToATraceOf128Characters)
 {
     const std::string name(200, 'n');
-    UseWorld(WorldOf({ProfileFor(name, "Net")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({ProfileFor(name, "Net")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(-1, Run());
     const std::vector<std::string> lines = traced();
     ASSERT_LE(2u, lines.size());
@@ -154,7 +154,7 @@ TEST_F(TimestampDriftTest, AFailedConversionLeavesOnlyItsOwnPairOut)
 
 TEST_F(TimestampDriftTest, AccessPointsAreDistinguishedByTheirWholeAddress)
 {
-    UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50), Heard("Net", 2437000, -60)}));
+    UseScenario(ScenarioOf({Profile("Net")}, {Heard("Net", 2412000, -50), Heard("Net", 2437000, -60)}));
     EditedAnswers edited;
     edited.service.bss = [number = 0u](WLAN_BSS_LIST& list) mutable
     {
@@ -225,8 +225,8 @@ TEST_F(TimestampDriftTest, AnEmptyLaterListIsReleasedAndTraced)
 
 TEST_F(TimestampDriftTest, TheLastProblemIsTheResult)
 {
-    UseWorld(WorldOf({Profile("One"), Profile("Two"), Profile("Three")},
-                     {Heard("One", 2412000, -50), Heard("Two", 2412000, -50), Heard("Three", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("One"), Profile("Two"), Profile("Three")},
+                           {Heard("One", 2412000, -50), Heard("Two", 2412000, -50), Heard("Three", 2412000, -50)}));
     FailOn("WlanGetNetworkBssList", 5, 2, 1); // One: its first later list
     // Two: its first list, the fourth that the service hands out.
     EXPECT_EQ(-10, RunWithEmptyLists([](unsigned number) { return number == 4; }));
@@ -242,7 +242,7 @@ TEST_F(TimestampDriftTest, TheLastProblemIsTheResult)
 
 TEST_F(TimestampDriftTest, AnEmptyListIsAccepted)
 {
-    UseWorld(WorldOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("GoneNet")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(-1, Run());
     EXPECT_THAT(traced(), ElementsAre("ProfileName(GoneNet)"));
     EXPECT_EQ(0u, callCount("Sleep"));

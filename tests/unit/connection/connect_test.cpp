@@ -1,6 +1,6 @@
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 
 #include <algorithm>
@@ -93,8 +93,8 @@ const ReconnectForm kReconnectForms[] = {
 /// HomeNet, heard from as many access points as there are link qualities; the n-th has the address 02:00:00:00:00:0n.
 simulation::Scenario HomeNetFrom(std::size_t accessPoints)
 {
-    return WorldOf({MakeProfile("HomeNet")},
-                   std::vector<simulation::AccessPoint>(accessPoints, Heard("HomeNet", 2412000, -60)));
+    return ScenarioOf({MakeProfile("HomeNet")},
+                      std::vector<simulation::AccessPoint>(accessPoints, Heard("HomeNet", 2412000, -60)));
 }
 
 } // namespace
@@ -119,7 +119,7 @@ TEST_F(ConnectTest, LinkProfileOutOfRangeConnectsNothing)
     EXPECT_EQ(-2, Link("GoneNet")) << "stored, not in view";
     EXPECT_EQ(-2, Link("NoSuchNet"));
     EXPECT_EQ(-2, Link("HomeNet5G")) << "in view, without a profile";
-    UseWorld(SilentWorld());
+    UseScenario(SilentScenario());
     EXPECT_EQ(-2, Link("HomeNet")) << "nothing in view at all";
     EXPECT_EQ(0u, callCount("WlanConnect"));
     ExpectSilence();
@@ -134,7 +134,7 @@ TEST_F(ConnectTest, LinkProfileComparesWholeNamesExactly)
 
 TEST_F(ConnectTest, LinkProfileGoesByTheProfileNotTheSsid)
 {
-    UseWorld(WorldOf({ProfileFor("Profile", "Net")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({ProfileFor("Profile", "Net")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(-2, Link("Net"));
     EXPECT_EQ(0, Link("Profile"));
     EXPECT_EQ("{mode=profile, profile=\"Profile\", ssid=null, bssids=null, bssType=infrastructure, flags=0}",
@@ -174,7 +174,7 @@ TEST_F(ConnectTest, LinkProfileTakesNamesOfUpTo255Characters)
     EXPECT_EQ(0u, callCount("WlanConnect"));
 
     const std::string longest(255, 'n');
-    UseWorld(WorldOf({ProfileFor(longest, "Net")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({ProfileFor(longest, "Net")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(0, Link(longest));
     EXPECT_EQ(-2, Link(longest.substr(1)));
 }
@@ -249,7 +249,7 @@ TEST_F(ConnectTest, ReconnectChoosesTheLastAccessPointThatBeatsTheFirst)
     {
         for (const auto& [name, reconnect] : kReconnectForms)
         {
-            UseWorld(HomeNetFrom(qualities.size()));
+            UseScenario(HomeNetFrom(qualities.size()));
             EditedAnswers edited;
             edited.service.bss = [&answers = qualities](WLAN_BSS_LIST& list)
             {
@@ -322,9 +322,9 @@ TEST_F(ConnectTest, ResetConnectionAsksAgainForTheConnectionThatIsUp)
 
 TEST_F(ConnectTest, ResetConnectionKeepsProfileAndBssType)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[0].connection = simulation::Connection{"AdHocNet", kAdHocNet};
-    UseWorld(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[0].connection = simulation::Connection{"AdHocNet", kAdHocNet};
+    UseScenario(scenario);
     EXPECT_EQ(0, manager().ResetConnection(&kAdapterA));
     EXPECT_EQ(ConnectLine("AdHocNet", "null", "independent"), call("WlanConnect").line);
 }

@@ -120,16 +120,16 @@ TEST_F(CurrentConnectionTest, ANullRecordIsFatal)
 
 TEST_F(CurrentConnectionTest, ANullRecordDoesNotMatterWithoutAConnection)
 {
-    UseWorld(DisconnectedWorld());
+    UseScenario(DisconnectedScenario());
     EXPECT_EQ(-4, manager().GetCurrentConnection(&kAdapterA, nullptr));
     EXPECT_EQ(-4, manager().GetCurrentConnection(nullptr));
 }
 
 TEST_F(CurrentConnectionTest, LaterInterfacesAreNeverAsked)
 {
-    simulation::Scenario world = DisconnectedWorld();
-    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
-    UseWorld(world);
+    simulation::Scenario scenario = DisconnectedScenario();
+    scenario.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseScenario(scenario);
     WLAN_CONNECTION_ATTRIBUTES record = Marked();
     char ssid[33] = {};
     EXPECT_EQ(-4, manager().GetCurrentConnection(&record));

@@ -38,9 +38,9 @@ WLAN_CONNECTION_NOTIFICATION_DATA HomeNetNotification()
 
 simulation::Scenario ConnectedBy(const std::string& profile, const simulation::MacAddress& accessPoint)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[0].connection = simulation::Connection{profile, accessPoint};
-    return world;
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[0].connection = simulation::Connection{profile, accessPoint};
+    return scenario;
 }
 
 class SavedConnectionTest : public LibraryTest
@@ -123,9 +123,9 @@ TEST_F(SavedConnectionTest, AnythingButAutoIsNotAutomatic)
 
 TEST_F(SavedConnectionTest, EachSaveOverwritesTheOneBefore)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
-    UseWorld(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseScenario(scenario);
     EXPECT_EQ(0, Save(manager()));
     EXPECT_EQ(0, manager().SaveCurrentConnectionAttributes(&kAdapterB));
     EXPECT_EQ(std::wstring(L"CafeNet"), Saved().strProfileName);
@@ -174,7 +174,7 @@ TEST_F(SavedConnectionTest, RecoversTheSavedConnection)
 
 TEST_F(SavedConnectionTest, RecoversWithTheSavedBssTypeAndSecurity)
 {
-    UseWorld(ConnectedBy("AdHocNet", kAdHocNet));
+    UseScenario(ConnectedBy("AdHocNet", kAdHocNet));
     EXPECT_EQ(0, Save(manager()));
     SavedMode() = 1;
     ClearCalls();
@@ -195,7 +195,7 @@ TEST_F(SavedConnectionTest, RecoveringOnlyReadsTheMemory)
 
 TEST_F(SavedConnectionTest, AManualConnectionIsNeverRecovered)
 {
-    UseWorld(ConnectedBy("OfficeNet", kOfficeNet));
+    UseScenario(ConnectedBy("OfficeNet", kOfficeNet));
     EXPECT_EQ(0, Save(manager()));
     ForgetClient();
     EXPECT_EQ(-99, Recover(manager()));

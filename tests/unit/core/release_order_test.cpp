@@ -3,7 +3,7 @@
 #include "core/memory.h"
 
 #include "support/changed_platform.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 
 #include "support/library_test.h"
 
@@ -61,9 +61,9 @@ public:
     /// One network of a profile, to which adapter A is connected.
     void UseOneNetwork()
     {
-        simulation::Scenario world = WorldOf({Profile("Net")}, {Heard("Net", 2412000, -70)});
-        world.adapters[0].connection = simulation::Connection{"Net", std::nullopt};
-        UseWorld(world);
+        simulation::Scenario scenario = ScenarioOf({Profile("Net")}, {Heard("Net", 2412000, -70)});
+        scenario.adapters[0].connection = simulation::Connection{"Net", std::nullopt};
+        UseScenario(scenario);
     }
 };
 

@@ -1,6 +1,6 @@
 #include "core/wlan_records.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <gtest/gtest.h>
 

@@ -175,7 +175,7 @@ TEST_F(HostileRecordsTest, NoRecordBringsAMethodDown)
     for (Spoiling& spoiling : EverySpoiling())
     {
         SCOPED_TRACE(spoiling.name);
-        UseWorld(Furnished(RichWorld()));
+        UseScenario(Furnished(RichScenario()));
         const EditedAnswers altered(std::move(spoiling.changes));
         CallEverything();
     }
@@ -226,11 +226,11 @@ long long ResultOfRefusal(const Method& method, const std::string& operation)
 }
 
 /// Where roaming is worth considering.
-simulation::Scenario WeakWorld()
+simulation::Scenario WeakScenario()
 {
-    simulation::Scenario world = Furnished(RichWorld());
-    world.accessPoints[0].rssi = -88;
-    return world;
+    simulation::Scenario scenario = Furnished(RichScenario());
+    scenario.accessPoints[0].rssi = -88;
+    return scenario;
 }
 
 TEST_F(HostileRecordsTest, SuccessWithoutAResultIsAFailedCall)
@@ -238,7 +238,7 @@ TEST_F(HostileRecordsTest, SuccessWithoutAResultIsAFailedCall)
     for (const auto& [operation, names, others] : kEmptyHanded)
     {
         SCOPED_TRACE(operation);
-        UseWorld(WeakWorld());
+        UseScenario(WeakScenario());
         const EmptyHandedAnswers emptyHanded(operation);
         std::vector<std::pair<const char*, long long>> results = others;
         for (const char* name : names)
@@ -311,7 +311,7 @@ TEST_F(HostileRecordsTest, AConnectionThatEndsBeforeWhatIsReadIsAFailedQuery)
     {
         SCOPED_TRACE(each.method);
         const std::string refusal = "WlanQueryInterface failed with error: 24";
-        UseWorld(WeakWorld());
+        UseScenario(WeakScenario());
         {
             const EditedAnswers altered(ConnectionOf(each.needed - 1));
             EXPECT_EQ(each.refused, Result(each.method));
@@ -386,7 +386,7 @@ TEST_F(HostileRecordsTest, NullRecordsAreRefusedBeforeAnythingElse)
 
 TEST_F(HostileRecordsTest, NoNullPointerBringsAMethodDown)
 {
-    UseWorld(Furnished(RichWorld()));
+    UseScenario(Furnished(RichScenario()));
     for (const Method& method : methods::EveryMethod())
         for (const methods::Parameter& parameter : method.parameters)
         {

@@ -16,12 +16,12 @@ void DuplicateGuid(WLAN_INTERFACE_INFO_LIST& list)
     list.InterfaceInfo[1].InterfaceGuid = list.InterfaceInfo[0].InterfaceGuid;
 }
 
-simulation::Scenario DescriptionWorld(const std::string& description, std::uint32_t codePage = 1252)
+simulation::Scenario DescriptionScenario(const std::string& description, std::uint32_t codePage = 1252)
 {
-    simulation::Scenario world = RichWorld();
-    world.codePage = codePage;
-    world.adapters[0].description = description;
-    return world;
+    simulation::Scenario scenario = RichScenario();
+    scenario.codePage = codePage;
+    scenario.adapters[0].description = description;
+    return scenario;
 }
 
 /// GetWlanInterfaceGuid, which leaves the GUID alone unless it succeeds.
@@ -101,9 +101,9 @@ TEST_F(AdaptersTest, NoGuidIsNoAdapters)
 // Deliberate: the first description stays, and be it of one character.
 TEST_F(AdaptersTest, AShortDescriptionIsKeptToo)
 {
-    simulation::Scenario scenario = RichWorld();
+    simulation::Scenario scenario = RichScenario();
     scenario.adapters[0].description = "W";
-    UseWorld(scenario);
+    UseScenario(scenario);
     EXPECT_STREQ("W", manager().GetWlanInterfaceDesc(&kAdapterA));
     ClearCalls();
     EXPECT_STREQ("W", manager().GetWlanInterfaceDesc(&kAdapterB));
@@ -131,9 +131,9 @@ TEST_F(AdaptersTest, TheDescriptionIsComparedExactly)
 
 TEST_F(AdaptersTest, TheFirstEqualDescriptionWins)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[1].description = world.adapters[0].description;
-    UseWorld(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[1].description = scenario.adapters[0].description;
+    UseScenario(scenario);
     GUID guid{};
     EXPECT_EQ(0, manager().GetWlanInterfaceGuid(kAdapterADescription, guid));
     EXPECT_EQ(kAdapterA, guid);
@@ -185,16 +185,16 @@ TEST_F(AdaptersTest, WithDuplicatesTheLastDescriptionWins)
 TEST_F(AdaptersTest, TheLongestDescriptionFitsTextAndTrace)
 {
     const std::string longest(255, 'D');
-    UseWorld(DescriptionWorld(longest));
+    UseScenario(DescriptionScenario(longest));
     EXPECT_EQ(longest, manager().GetWlanInterfaceDesc(&kAdapterA));
     EXPECT_THAT(traced(), ElementsAre("Wlan Interface Describe: " + longest));
 }
 
 TEST_F(AdaptersTest, TheDescriptionIsInTheActiveCodePage)
 {
-    UseWorld(DescriptionWorld("Caf\xC3\xA9 \xE6\x9D\xB1 adapter"));
+    UseScenario(DescriptionScenario("Caf\xC3\xA9 \xE6\x9D\xB1 adapter"));
     EXPECT_STREQ("Caf\xE9 ", manager().GetWlanInterfaceDesc(&kAdapterA)) << "a character that it lacks ends the text";
-    UseWorld(DescriptionWorld("\xE6\x9D\xB1 adapter", 932));
+    UseScenario(DescriptionScenario("\xE6\x9D\xB1 adapter", 932));
     EXPECT_STREQ("\x93\x8C adapter", manager().GetWlanInterfaceDesc(&kAdapterA));
 }
 
@@ -203,7 +203,7 @@ TEST_F(AdaptersTest, ADescriptionLongerThanItsTextStaysInsideIt)
     std::string description;
     for (int i = 0; i < 200; ++i)
         description += "\xE6\x9D\xB1"; // two bytes each in the Japanese code page
-    UseWorld(DescriptionWorld(description, 932));
+    UseScenario(DescriptionScenario(description, 932));
     const std::string text = manager().GetWlanInterfaceDesc(&kAdapterA);
     EXPECT_EQ(255u, text.size());
     EXPECT_EQ("\x93\x8C\x93\x8C", text.substr(0, 4));

@@ -38,9 +38,9 @@ TEST_F(ConnectedNetworkTest, OneAccessPointOfTheNetworkIsEnough)
 
 TEST_F(ConnectedNetworkTest, AnOpenNetworkIsAskedForAsOne)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
-    UseWorld(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseScenario(scenario);
     EXPECT_EQ(0, manager().IsWiFiDisappear(&kAdapterB));
     EXPECT_EQ("false", call("WlanGetNetworkBssList")["securityEnabled"]);
     EXPECT_EQ("\"CafeNet\"/7", call("WlanGetNetworkBssList")["ssid"]);
@@ -72,9 +72,9 @@ TEST_F(ConnectedNetworkTest, EachReleaseIsTracedJustBeforeIt)
 
 TEST_F(ConnectedNetworkTest, TheSecondAdapterIsNeverAsked)
 {
-    simulation::Scenario world = DisconnectedWorld();
-    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
-    UseWorld(world);
+    simulation::Scenario scenario = DisconnectedScenario();
+    scenario.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseScenario(scenario);
     EXPECT_EQ(-4, manager().GetCurrentBSS());
     EXPECT_EQ(1u, callCount("WlanQueryInterface"));
     EXPECT_EQ(kAdapterAText, call("WlanQueryInterface")["interface"]);

@@ -14,18 +14,18 @@ using Lines = std::vector<std::string>;
 inline constexpr simulation::MacAddress kBssid = {0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E};
 
 /// One adapter, not connected, that hears one access point.
-inline simulation::Scenario SmallWorld()
+inline simulation::Scenario SmallScenario()
 {
-    simulation::Scenario world = SilentWorld();
-    world.adapters.resize(1);
-    world.accessPoints = {MakeAccessPoint("HomeNet", kBssid, 2437000, -60)};
-    return world;
+    simulation::Scenario scenario = SilentScenario();
+    scenario.adapters.resize(1);
+    scenario.accessPoints = {MakeAccessPoint("HomeNet", kBssid, 2437000, -60)};
+    return scenario;
 }
 
 class ListingsTest : public LibraryTest
 {
 public:
-    ListingsTest() : LibraryTest(SmallWorld()) {}
+    ListingsTest() : LibraryTest(SmallScenario()) {}
 
     Lines Networks(AnswerChanges changes = {})
     {

@@ -19,7 +19,7 @@ Lines operator+(Lines left, const Lines& right)
     return left;
 }
 
-// --- What the listings say of SmallWorld ---
+// --- What the listings say of SmallScenario ---
 
 const Lines kNetworkHead = {"Num Entries: 1",
                             "Current Index: 0",
@@ -128,7 +128,7 @@ TEST_F(ListingsTest, WithoutTracingEverythingIsAskedAllTheSame)
 // Each list goes back to the service before the next interface is asked.
 TEST_F(ListingsTest, EveryInterfaceIsListedInOrder)
 {
-    UseWorld(RichWorld());
+    UseScenario(RichScenario());
     const Lines networks = Networks();
     EXPECT_EQ("Num Entries: 2", networks[0]);
     EXPECT_THAT(networks, Contains("  Interface Index[1]:\t 1"));
@@ -148,10 +148,10 @@ TEST_F(ListingsTest, EveryInterfaceIsListedInOrder)
 
 TEST_F(ListingsTest, EveryEntryHasItsNumber)
 {
-    simulation::Scenario world = SmallWorld();
-    world.accessPoints.push_back(MakeAccessPoint("OfficeNet", kOfficeNet, 5745000, -65));
-    world.accessPoints.push_back(MakeAccessPoint("CafeNet", kCafeNet, 2412000, -75));
-    UseWorld(world);
+    simulation::Scenario scenario = SmallScenario();
+    scenario.accessPoints.push_back(MakeAccessPoint("OfficeNet", kOfficeNet, 5745000, -65));
+    scenario.accessPoints.push_back(MakeAccessPoint("CafeNet", kCafeNet, 2412000, -75));
+    UseScenario(scenario);
     const Lines networks = Networks();
     const Lines bss = Bss();
     EXPECT_THAT(networks, Contains("  Num Entries: 3\n"));
@@ -169,9 +169,9 @@ TEST_F(ListingsTest, EveryEntryHasItsNumber)
 
 TEST_F(ListingsTest, NothingHeardIsAListingWithoutEntries)
 {
-    simulation::Scenario world = SmallWorld();
-    world.accessPoints.clear();
-    UseWorld(world);
+    simulation::Scenario scenario = SmallScenario();
+    scenario.accessPoints.clear();
+    UseScenario(scenario);
     const Lines noNetwork = {"WLAN_AVAILABLE_NETWORK_LIST for this interface", "  Num Entries: 0\n", "", ""};
     const Lines noBss = {"WLAN_BSS_LIST for this interface", "Num Entries: 0\n", "", ""};
     EXPECT_EQ(kNetworkHead + noNetwork + kReleases, Networks());
@@ -180,7 +180,7 @@ TEST_F(ListingsTest, NothingHeardIsAListingWithoutEntries)
 
 TEST_F(ListingsTest, NoInterfaceIsAListingOfNone)
 {
-    UseWorld(NoAdapterWorld());
+    UseScenario(NoAdapterScenario());
     EXPECT_THAT(Networks(), ElementsAre("Num Entries: 0", "Current Index: 0", "WlanFreeMemory(pIfList)"));
     EXPECT_THAT(Bss(), ElementsAre("  Num Entries: 0", "  Current Index: 0", "WlanFreeMemory(pIfList)"));
 }
@@ -295,7 +295,7 @@ TEST_F(ListingsTest, OneRefusalDoesNotEndTheWalk)
     for (const auto& row : rows)
         for (const unsigned refused : {1U, 2U})
         {
-            UseWorld(RichWorld());
+            UseScenario(RichScenario());
             FailOn(row.operation, 31, refused, 1);
             EXPECT_EQ(1, row.list(manager()));
             const Lines lines = traced();

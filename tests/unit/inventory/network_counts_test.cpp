@@ -60,19 +60,19 @@ TEST_F(NetworkCountsTest, CountsTheAvailableNetworksUnfiltered)
 
 TEST_F(NetworkCountsTest, CountsANetworkOnceForEachMatchingProfile)
 {
-    simulation::Scenario world = RichWorld();
+    simulation::Scenario scenario = RichScenario();
     simulation::ProfileSettings again;
     again.name = "HomeNet again";
     again.ssid = {'H', 'o', 'm', 'e', 'N', 'e', 't'};
     again.key = "HomeNet key";
-    world.adapters[0].profiles.push_back({simulation::MakeProfileXml(again)});
-    UseWorld(world);
+    scenario.adapters[0].profiles.push_back({simulation::MakeProfileXml(again)});
+    UseScenario(scenario);
     EXPECT_EQ(7, manager().GetAvailableNetworkCount(&kAdapterA));
 }
 
 TEST_F(NetworkCountsTest, AnEmptyAirspaceIsNotAFailure)
 {
-    UseWorld(SilentWorld());
+    UseScenario(SilentScenario());
     EXPECT_EQ(0, manager().GetAvailableNetworkCount(&kAdapterA));
     EXPECT_EQ(0, manager().GetNetworkBssCount());
     EXPECT_TRUE(traced().empty());

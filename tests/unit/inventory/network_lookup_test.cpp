@@ -84,9 +84,9 @@ TEST_F(NetworkLookupTest, AnEmptySsidIsNeverFound)
 TEST_F(NetworkLookupTest, AnSsidOf32BytesIsFoundAndALongerOneIsNot)
 {
     const std::string longest(32, 'x');
-    simulation::Scenario world = RichWorld();
-    world.accessPoints.push_back(MakeAccessPoint(longest, {2, 0x77, 0, 0, 0, 1}, 2412000, -60));
-    UseWorld(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.accessPoints.push_back(MakeAccessPoint(longest, {2, 0x77, 0, 0, 0, 1}, 2412000, -60));
+    UseScenario(scenario);
     EXPECT_EQ(0, Find(longest));
 
     DOT11_SSID tooLong = MakeSsid(longest);

@@ -128,9 +128,9 @@ TEST_F(SignalTest, CurrentRssiIsThatOfTheConnectedAccessPoint)
 
 TEST_F(SignalTest, CurrentRssiFindsTheAccessPointByItsAddressNotItsPlace)
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[0].connection = simulation::Connection{"HomeNet", kHomeNet6};
-    UseWorld(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[0].connection = simulation::Connection{"HomeNet", kHomeNet6};
+    UseScenario(scenario);
     int rssi = 77;
     EXPECT_EQ(0, manager().GetCurrentRSSI(&kAdapterA, rssi));
     EXPECT_EQ(-70, rssi) << "the third of HomeNet's access points";
@@ -203,17 +203,17 @@ TEST_F(SignalTest, WiFiRssiHalvesTheQualityInWholeNumbers)
 // Deliberate: only the bytes that were asked for are compared.
 TEST_F(SignalTest, WiFiRssiTakesTheFirstNetworkThatBeginsWithTheSsid)
 {
-    simulation::Scenario world = SilentWorld();
-    world.accessPoints = {MakeAccessPoint("HomeNet", kHomeNet24, 2437000, -60)};
-    UseWorld(world);
+    simulation::Scenario scenario = SilentScenario();
+    scenario.accessPoints = {MakeAccessPoint("HomeNet", kHomeNet24, 2437000, -60)};
+    UseScenario(scenario);
     EXPECT_EQ(-60, WiFiRssi("Home"));
     EXPECT_EQ(-100, WiFiRssi("HomeNet5G")) << "longer than the network's own";
     EXPECT_EQ(-100, WiFiRssi("ome"));
     EXPECT_EQ(-100, WiFiRssi("home"));
 
-    world.accessPoints = {MakeAccessPoint("HomeNet5G", kHomeNet5G, 5220000, -80),
-                          MakeAccessPoint("HomeNet", kHomeNet24, 2437000, -60)};
-    UseWorld(world);
+    scenario.accessPoints = {MakeAccessPoint("HomeNet5G", kHomeNet5G, 5220000, -80),
+                             MakeAccessPoint("HomeNet", kHomeNet24, 2437000, -60)};
+    UseScenario(scenario);
     EXPECT_EQ(-80, WiFiRssi("HomeNet")) << "the first in the list, though another one fits better";
 }
 

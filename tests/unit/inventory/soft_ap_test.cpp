@@ -21,16 +21,16 @@ const Names kBefore = {"from", "before"};
 constexpr ConversionEdits kLenient = {.takesAllFlagsForUtf8 = true, .takesAllFlagsForNarrow = true};
 
 /// An airspace of these SSIDs, the strongest first, without any profile.
-simulation::Scenario WorldOf(const std::vector<std::string>& ssids)
+simulation::Scenario ScenarioOf(const std::vector<std::string>& ssids)
 {
-    simulation::Scenario world = NoProfileWorld();
-    world.accessPoints.clear();
+    simulation::Scenario scenario = NoProfileScenario();
+    scenario.accessPoints.clear();
     for (const std::string& ssid : ssids)
     {
-        const auto number = static_cast<std::uint8_t>(world.accessPoints.size());
-        world.accessPoints.push_back(MakeAccessPoint(ssid, {2, 0, 0, 0, 0, number}, 2412000, -50 - number));
+        const auto number = static_cast<std::uint8_t>(scenario.accessPoints.size());
+        scenario.accessPoints.push_back(MakeAccessPoint(ssid, {2, 0, 0, 0, 0, number}, 2412000, -50 - number));
     }
-    return world;
+    return scenario;
 }
 
 class SoftApTest : public LibraryTest
@@ -45,7 +45,7 @@ public:
 
     Names LenientList(const std::vector<std::string>& ssids)
     {
-        UseWorld(WorldOf(ssids));
+        UseScenario(ScenarioOf(ssids));
         EditedAnswers edited;
         edited.conversion = kLenient;
         return List();
@@ -73,7 +73,7 @@ AnswerChanges WithProfileName(const std::wstring& name)
 // Deliberate: Windows refuses these flags beside UTF-8, so that every conversion fails there and nothing is listed.
 TEST_F(SoftApTest, NothingIsListedWhereTheFlagsAreRefused)
 {
-    UseWorld(WorldOf({"MyLC#Net", "LC#"}));
+    UseScenario(ScenarioOf({"MyLC#Net", "LC#"}));
     EXPECT_THAT(List(), IsEmpty()) << "what was in the vector is gone all the same";
     EXPECT_THAT(calls(), ElementsAre("WlanGetAvailableNetworkList", "MultiByteToWideChar", "MultiByteToWideChar",
                                      "WlanFreeMemory"));
@@ -106,7 +106,7 @@ TEST_F(SoftApTest, TheMarkerIsThreeCharactersAndCaseSensitive)
 
 TEST_F(SoftApTest, EmptyingTheVectorKeepsItsRoom)
 {
-    UseWorld(WorldOf({"LC#"}));
+    UseScenario(ScenarioOf({"LC#"}));
     Names names = kBefore;
     names.reserve(100);
     const std::size_t room = names.capacity();
@@ -139,7 +139,7 @@ TEST_F(SoftApTest, TheSsidEndsAtItsFirstZeroByte)
 
 TEST_F(SoftApTest, OneNameForEachEntry)
 {
-    UseWorld(WorldOf({"MyLC#Net", "LC#Two"}));
+    UseScenario(ScenarioOf({"MyLC#Net", "LC#Two"}));
     EditedAnswers edited;
     edited.conversion = kLenient;
     edited.service.networks = [](WLAN_AVAILABLE_NETWORK_LIST& list)
@@ -158,7 +158,7 @@ TEST_F(SoftApTest, NamesAreInTheActiveCodePage)
 
 TEST_F(SoftApTest, ANameThatCannotBeConvertedIsPassedOver)
 {
-    UseWorld(WorldOf({"LC#One", "LC#Two", "LC#Three"}));
+    UseScenario(ScenarioOf({"LC#One", "LC#Two", "LC#Three"}));
     EditedAnswers edited;
     edited.conversion = kLenient;
     FailOn("MultiByteToWideChar", 1113, 1, 1);

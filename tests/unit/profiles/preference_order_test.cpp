@@ -1,5 +1,5 @@
 #include "support/library_test.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 #include "unit/profiles/profile_names.h"
 
@@ -20,11 +20,11 @@ public:
     std::vector<std::wstring> Order() { return ProfileNames(*this); }
 };
 
-simulation::Scenario ConnectedWorld(std::vector<simulation::StoredProfile> profiles, const std::string& connected)
+simulation::Scenario ConnectedScenario(std::vector<simulation::StoredProfile> profiles, const std::string& connected)
 {
-    simulation::Scenario world = WorldOf(std::move(profiles), {Heard("Net", 2412000, -50)});
-    world.adapters[0].connection = simulation::Connection{connected, std::nullopt};
-    return world;
+    simulation::Scenario scenario = ScenarioOf(std::move(profiles), {Heard("Net", 2412000, -50)});
+    scenario.adapters[0].connection = simulation::Connection{connected, std::nullopt};
+    return scenario;
 }
 
 } // namespace
@@ -49,7 +49,7 @@ TEST_F(PreferenceOrderTest, WhatIsLastStaysLast)
 
 TEST_F(PreferenceOrderTest, TheProfileIsMovedNotTheSsid)
 {
-    UseWorld(ConnectedWorld({ProfileFor("First", "Net"), Profile("Net")}, "First"));
+    UseScenario(ConnectedScenario({ProfileFor("First", "Net"), Profile("Net")}, "First"));
     EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
     EXPECT_EQ("\"First\"", call("WlanSetProfilePosition")["name"]);
     EXPECT_EQ("1", call("WlanSetProfilePosition")["position"]);
@@ -58,7 +58,7 @@ TEST_F(PreferenceOrderTest, TheProfileIsMovedNotTheSsid)
 
 TEST_F(PreferenceOrderTest, ASingleProfileIsNotMoved)
 {
-    UseWorld(ConnectedWorld({Profile("Net")}, "Net"));
+    UseScenario(ConnectedScenario({Profile("Net")}, "Net"));
     EXPECT_EQ(0, manager().SetCurrentWiFiToLast());
     EXPECT_THAT(calls(), ElementsAre("WlanEnumInterfaces", "WlanGetProfileList", "WlanQueryInterface", "WlanFreeMemory",
                                      "WlanFreeMemory", "WlanFreeMemory"));
@@ -68,17 +68,17 @@ TEST_F(PreferenceOrderTest, ASingleProfileIsNotMoved)
 // The connection is asked for before the profiles are counted.
 TEST_F(PreferenceOrderTest, WithoutAConnectionTheCountOfProfilesDoesNotMatter)
 {
-    UseWorld(WorldOf({Profile("Net")}, {Heard("Net", 2412000, -50)}));
+    UseScenario(ScenarioOf({Profile("Net")}, {Heard("Net", 2412000, -50)}));
     EXPECT_EQ(5023, manager().SetCurrentWiFiToLast());
-    UseWorld(NoProfileWorld());
+    UseScenario(NoProfileScenario());
     EXPECT_EQ(5023, manager().SetCurrentWiFiToLast());
 }
 
 TEST_F(PreferenceOrderTest, OnlyTheFirstInterfaceIsLookedAt)
 {
-    simulation::Scenario world = DisconnectedWorld();
-    world.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
-    UseWorld(world);
+    simulation::Scenario scenario = DisconnectedScenario();
+    scenario.adapters[1].connection = simulation::Connection{"CafeNet", kCafeNet};
+    UseScenario(scenario);
     EXPECT_EQ(5023, manager().SetCurrentWiFiToLast());
     EXPECT_EQ(1u, callCount("WlanQueryInterface"));
     EXPECT_EQ(kAdapterAText, call("WlanQueryInterface")["interface"]);

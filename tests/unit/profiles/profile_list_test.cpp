@@ -1,6 +1,6 @@
 #include "support/library_test.h"
 #include "support/strict_copy_guard.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 #include "unit/call_lines.h"
 #include "unit/profiles/profile_names.h"
 
@@ -30,7 +30,7 @@ public:
         std::vector<simulation::StoredProfile> profiles;
         for (const std::string& name : names)
             profiles.push_back(ProfileFor(name, "HomeNet"));
-        UseWorld(WorldOf(std::move(profiles), {}));
+        UseScenario(ScenarioOf(std::move(profiles), {}));
     }
 };
 
@@ -66,7 +66,7 @@ TEST_F(ProfileListTest, GetWlanProfileComparesWholeNamesExactly)
 
 TEST_F(ProfileListTest, GetWlanProfileOfAnEmptyListIsMinusOne)
 {
-    UseWorld(NoProfileWorld());
+    UseScenario(NoProfileScenario());
     EXPECT_EQ(-1, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
     EXPECT_THAT(calls(), ElementsAre("MultiByteToWideChar", "WlanGetProfileList", "WlanFreeMemory"));
     EXPECT_TRUE(traced().empty());
@@ -88,7 +88,7 @@ TEST_F(ProfileListTest, AnErrorFromEarlierIsNotTheNames)
 
 TEST_F(ProfileListTest, GetWlanProfileReportsTheRefusalOfAUtf8CodePage)
 {
-    UseWorld(WorldInCodePage(65001));
+    UseScenario(ScenarioInCodePage(65001));
     EXPECT_EQ(1004, manager().GetWlanProfile(&kAdapterA, "HomeNet"));
     EXPECT_THAT(traced(), ElementsAre("Profile Name error: 1004"));
 }
@@ -117,7 +117,7 @@ TEST_F(ProfileListTest, GetProfileCountIsTheCountItself)
     EXPECT_EQ("null", call("WlanGetProfileList")["reserved"]);
     EXPECT_TRUE(traced().empty());
 
-    UseWorld(NoProfileWorld());
+    UseScenario(NoProfileScenario());
     EXPECT_EQ(0, manager().GetProfileCount(&kAdapterA));
     ExpectNothingHeld();
 }

@@ -19,7 +19,7 @@ class ProfileTextTest : public LibraryTest
 {
 public:
     /// The XML of HomeNet's profile, with its key in plain text.
-    std::string Xml() const { return world().adapters[0].profiles[0].xml; }
+    std::string Xml() const { return scenario().adapters[0].profiles[0].xml; }
     std::wstring WideXml() const
     {
         const std::string xml = Xml();

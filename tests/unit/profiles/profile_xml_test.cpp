@@ -197,12 +197,12 @@ TEST_F(ProfileXmlTest, ModesOfTheProfilesThatTheServiceKeeps)
 
 TEST_F(ProfileXmlTest, AStoredProfileWithoutAModeIsReported)
 {
-    simulation::Scenario scenario = DisconnectedWorld();
+    simulation::Scenario scenario = DisconnectedScenario();
     std::string& xml = scenario.adapters[0].profiles[0].xml;
     const std::string mode = "<connectionMode>auto</connectionMode>";
     ASSERT_NE(std::string::npos, xml.find(mode));
     xml.erase(xml.find(mode), mode.size());
-    UseWorld(scenario);
+    UseScenario(scenario);
     EXPECT_EQ(-5, manager().IsAutoConnMode2(&kAdapterA, L"HomeNet"));
     ExpectNothingHeld();
 }

@@ -25,17 +25,17 @@ const std::string kAccess = "O:SYG:SYD:"
 const std::string kSecurityCall = "WlanSetSecuritySettings(client=1, object=7, sddl=\"" + kAccess + "\")";
 
 /// A driver that answers one request and has an answer for an empty one.
-simulation::Scenario TalkativeWorld()
+simulation::Scenario TalkativeScenario()
 {
-    simulation::Scenario world = RichWorld();
-    world.adapters[0].ihv = {{Bytes{1, 2, 3, 4}, {Bytes{9, 8}, 0}}, {Bytes{}, {Bytes{}, 0}}};
-    return world;
+    simulation::Scenario scenario = RichScenario();
+    scenario.adapters[0].ihv = {{Bytes{1, 2, 3, 4}, {Bytes{9, 8}, 0}}, {Bytes{}, {Bytes{}, 0}}};
+    return scenario;
 }
 
 class IhvControlTest : public LibraryTest
 {
 public:
-    IhvControlTest() : LibraryTest(TalkativeWorld()) {}
+    IhvControlTest() : LibraryTest(TalkativeScenario()) {}
 };
 
 } // namespace
@@ -81,9 +81,9 @@ TEST_F(IhvControlTest, AnotherVersionOfTheServiceIsRefused)
 
 TEST_F(IhvControlTest, OnlyAnAdministratorGivesAccess)
 {
-    simulation::Scenario world = TalkativeWorld();
-    world.administrator = false;
-    UseWorld(world);
+    simulation::Scenario scenario = TalkativeScenario();
+    scenario.administrator = false;
+    UseScenario(scenario);
     EXPECT_EQ(5u, manager().SetIhvSecuritySettings());
     ExpectSilence();
 }

@@ -100,9 +100,9 @@ TEST_F(InterfaceSettingsTest, ThePowerSettingIsTheServices)
 {
     for (unsigned setting = 0; setting <= 4; ++setting)
     {
-        simulation::Scenario world = RichWorld();
-        world.powerSetting = setting;
-        UseWorld(world);
+        simulation::Scenario scenario = RichScenario();
+        scenario.powerSetting = setting;
+        UseScenario(scenario);
         unsigned long level = kUnseen;
         EXPECT_EQ(0, manager().GetPowerSetting(level));
         EXPECT_EQ(setting, level);

@@ -21,13 +21,13 @@ const std::string kWait = "WaitForSingleObject(handle=1, milliseconds=4294967295
 
 simulation::Scenario ToolBox()
 {
-    simulation::Scenario world = RichWorld();
-    world.programPath = "C:\\Tools\\host.exe";
-    world.programs = {{.path = "C:\\Tools\\worker.exe", .milliseconds = 10'000, .exitCode = 3},
-                      {.path = "C:\\Windows\\elsewhere.exe", .milliseconds = 2'500}};
-    world.processes = {{.id = kRunning, .path = "C:\\Tools\\running.exe"},
-                       {.id = kOther, .path = "C:\\Tools\\other.exe"}};
-    return world;
+    simulation::Scenario scenario = RichScenario();
+    scenario.programPath = "C:\\Tools\\host.exe";
+    scenario.programs = {{.path = "C:\\Tools\\worker.exe", .milliseconds = 10'000, .exitCode = 3},
+                         {.path = "C:\\Windows\\elsewhere.exe", .milliseconds = 2'500}};
+    scenario.processes = {{.id = kRunning, .path = "C:\\Tools\\running.exe"},
+                          {.id = kOther, .path = "C:\\Tools\\other.exe"}};
+    return scenario;
 }
 
 std::string Start(const std::string& application, const std::string& commandLine)

@@ -15,9 +15,9 @@ class HostProgramTest : public LibraryTest
 public:
     void UseProgram(const std::string& path)
     {
-        simulation::Scenario fresh = RichWorld();
+        simulation::Scenario fresh = RichScenario();
         fresh.programPath = path;
-        UseWorld(fresh);
+        UseScenario(fresh);
     }
 
     char (&Member())[512] { return ManagerInternals::AppPath(manager()); }

@@ -28,12 +28,12 @@ std::string Activate(UINT scheme)
 
 simulation::Scenario TwoSchemes()
 {
-    simulation::Scenario world = RichWorld();
-    world.power.legacySchemes = {
+    simulation::Scenario scenario = RichScenario();
+    scenario.power.legacySchemes = {
         {.id = kActive, .name = "Desk", .idleTimeoutAc = 1800, .idleTimeoutDc = 600, .videoTimeoutAc = 450},
         {.id = kOther, .name = "Travel", .idleTimeoutAc = 300, .idleTimeoutDc = 120, .videoTimeoutAc = 60}};
-    world.power.activeLegacyScheme = kActive;
-    return world;
+    scenario.power.activeLegacyScheme = kActive;
+    return scenario;
 }
 
 bool Same(const POWER_POLICY& one, const POWER_POLICY& other)

@@ -25,9 +25,9 @@ class PowerFactsTest : public LibraryTest
 public:
     void UsePower(const simulation::PowerDescription& power)
     {
-        simulation::Scenario fresh = RichWorld();
+        simulation::Scenario fresh = RichScenario();
         fresh.power = power;
-        UseWorld(fresh);
+        UseScenario(fresh);
     }
 
     void ExpectTraced(const std::vector<std::string>& lines)

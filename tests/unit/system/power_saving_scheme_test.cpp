@@ -25,15 +25,15 @@ const std::string kReadName = std::string("PowerReadFriendlyName(root=null, sche
 /// Two schemes, the second of them active, in a store whose listing fails.
 simulation::Scenario UnlistedSchemes()
 {
-    simulation::Scenario world = RichWorld();
-    world.power.schemes = {{.guid = kBalanced, .name = simulation::FriendlyName("Balanced")},
-                           {.guid = kSaver,
-                            .name = simulation::FriendlyName("Power saver"),
-                            .values = {{.subgroup = kSleep, .setting = kStandby, .ac = 1800, .dc = 900},
-                                       {.subgroup = kSleep, .setting = kUnattended, .ac = 120, .dc = 60}}}};
-    world.power.activeScheme = kSaver;
-    world.power.enumerationError = 259;
-    return world;
+    simulation::Scenario scenario = RichScenario();
+    scenario.power.schemes = {{.guid = kBalanced, .name = simulation::FriendlyName("Balanced")},
+                              {.guid = kSaver,
+                               .name = simulation::FriendlyName("Power saver"),
+                               .values = {{.subgroup = kSleep, .setting = kStandby, .ac = 1800, .dc = 900},
+                                          {.subgroup = kSleep, .setting = kUnattended, .ac = 120, .dc = 60}}}};
+    scenario.power.activeScheme = kSaver;
+    scenario.power.enumerationError = 259;
+    return scenario;
 }
 
 class PowerSavingSchemeTest : public LibraryTest
@@ -46,9 +46,9 @@ public:
     /// The store can list its schemes again, which the method takes for more and more of them.
     void ListSchemes()
     {
-        simulation::Scenario world = UnlistedSchemes();
-        world.power.enumerationError = 0;
-        UseWorld(world);
+        simulation::Scenario scenario = UnlistedSchemes();
+        scenario.power.enumerationError = 0;
+        UseScenario(scenario);
     }
 };
 

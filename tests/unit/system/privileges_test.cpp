@@ -22,17 +22,17 @@ std::string Lookup(const std::string& name)
     return "LookupPrivilegeValueA(system=null, name=\"" + name + "\", luid=non-null)";
 }
 
-simulation::Scenario WorldWith(const std::vector<simulation::Privilege>& privileges)
+simulation::Scenario ScenarioWith(const std::vector<simulation::Privilege>& privileges)
 {
-    simulation::Scenario world = RichWorld();
-    world.privileges = privileges;
-    return world;
+    simulation::Scenario scenario = RichScenario();
+    scenario.privileges = privileges;
+    return scenario;
 }
 
 class PrivilegesTest : public LibraryTest
 {
 public:
-    PrivilegesTest() : LibraryTest(WorldWith({{kShutdown, false}, {kTimeZone, false}})) {}
+    PrivilegesTest() : LibraryTest(ScenarioWith({{kShutdown, false}, {kTimeZone, false}})) {}
 };
 
 // --- GetPrivileges ---
@@ -55,7 +55,7 @@ TEST_F(PrivilegesTest, TheShutdownPrivilegeIsEnabled)
 // Deliberate: the last error is not asked for, so a privilege that the account does not hold counts as enabled.
 TEST_F(PrivilegesTest, APrivilegeThatIsNotHeldCountsAsEnabled)
 {
-    UseWorld(WorldWith({{kTimeZone, false}}));
+    UseScenario(ScenarioWith({{kTimeZone, false}}));
     EXPECT_EQ(1, manager().GetPrivileges());
     EXPECT_FALSE(computer().IsPrivilegeEnabled(kShutdown));
     EXPECT_THAT(timeline(), Not(Contains("GetLastError()")));

@@ -13,9 +13,9 @@ class Wow64Test : public LibraryTest
 public:
     void UseAnswer(std::optional<bool> wow64)
     {
-        simulation::Scenario fresh = RichWorld();
+        simulation::Scenario fresh = RichScenario();
         fresh.wow64 = wow64;
-        UseWorld(fresh);
+        UseScenario(fresh);
     }
 };
 

@@ -2,7 +2,7 @@
 
 #include "support/edited_answers.h"
 #include "support/library_test.h"
-#include "unit/autoconnect/small_worlds.h"
+#include "unit/autoconnect/small_scenarios.h"
 
 #include <clocale>
 
@@ -50,7 +50,7 @@ constexpr Narrowed kLocales[] = {{"C", "Caf? ? ?"}, {"C.UTF-8", kName}};
 class NarrowTextTest : public LibraryTest
 {
 public:
-    NarrowTextTest() : LibraryTest(WorldOf({ProfileFor(kName, "Net")}, {Heard("Net", 2412000, -50)})) {}
+    NarrowTextTest() : LibraryTest(ScenarioOf({ProfileFor(kName, "Net")}, {Heard("Net", 2412000, -50)})) {}
 };
 
 } // namespace

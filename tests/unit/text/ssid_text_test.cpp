@@ -97,7 +97,7 @@ TEST_F(SsidTextTest, TheBytesAreTakenAsUtf8)
     };
     for (const auto& each : cases)
     {
-        UseWorld(WorldInCodePage(each.codePage));
+        UseScenario(ScenarioInCodePage(each.codePage));
         EXPECT_EQ(each.narrow, Narrow(MakeSsid(each.ssid))) << each.codePage;
         EXPECT_EQ(each.wide, Wide(MakeSsid(each.ssid))) << each.codePage;
     }
@@ -174,7 +174,7 @@ TEST_F(SsidTextTest, TheCapacityCutsSilently)
 // Thirty-two replacement characters are 96 bytes of UTF-8, more than the 64 that the conversion has room for.
 TEST_F(SsidTextTest, TextBeyond64NarrowBytesGivesZero)
 {
-    UseWorld(WorldInCodePage(65001));
+    UseScenario(ScenarioInCodePage(65001));
     const DOT11_SSID ssid = MakeSsid(std::string(32, '\xFF'));
     EXPECT_EQ(0, manager().GetSSID(&ssid, m_narrow, 128));
     EXPECT_EQ('#', m_narrow[0]);

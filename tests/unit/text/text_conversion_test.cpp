@@ -60,7 +60,7 @@ TEST_F(TextConversionTest, UnicodeToAnsiWritesTheActiveCodePage)
 {
     for (const Conversion& each : FaithfulConversions())
     {
-        UseWorld(WorldInCodePage(each.codePage));
+        UseScenario(ScenarioInCodePage(each.codePage));
         EXPECT_TRUE(manager().UnicodeToAnsi(each.wide.c_str(), m_room.bytes)) << each.codePage;
         EXPECT_EQ(each.narrow, m_room.bytes) << each.codePage;
     }
@@ -73,7 +73,7 @@ TEST_F(TextConversionTest, UnicodeToAnsiEndsAtACharacterThatTheCodePageLacks)
     EXPECT_EQ(std::string("A\0B\0#", 5), std::string(m_room.bytes, 5));
     EXPECT_TRUE(manager().UnicodeToAnsi(kTokyo, m_room.bytes));
     EXPECT_STREQ("", m_room.bytes);
-    UseWorld(WorldInCodePage(932));
+    UseScenario(ScenarioInCodePage(932));
     EXPECT_TRUE(manager().UnicodeToAnsi(L"\u6771\u0E01", m_room.bytes));
     EXPECT_STREQ("\x93\x8C", m_room.bytes);
 }
@@ -81,7 +81,7 @@ TEST_F(TextConversionTest, UnicodeToAnsiEndsAtACharacterThatTheCodePageLacks)
 // With UTF-8 as the active code page the platform takes no default character and refuses the conversion.
 TEST_F(TextConversionTest, UnicodeToAnsiIsRefusedUnderUtf8)
 {
-    UseWorld(WorldInCodePage(65001));
+    UseScenario(ScenarioInCodePage(65001));
     EXPECT_FALSE(manager().UnicodeToAnsi(L"HomeNet", m_room.bytes));
     EXPECT_EQ('#', m_room.bytes[0]);
     EXPECT_THAT(traced(), IsEmpty());
@@ -125,7 +125,7 @@ TEST_F(TextConversionTest, WideCharToCharWritesTheActiveCodePage)
     conversions.push_back({1252, L"A\u6771B", "A?B"}); // what the code page lacks is replaced
     for (const Conversion& each : conversions)
     {
-        UseWorld(WorldInCodePage(each.codePage));
+        UseScenario(ScenarioInCodePage(each.codePage));
         EXPECT_EQ(static_cast<int>(each.narrow.size()) + 1,
                   manager().WideCharToChar(each.wide.c_str(), m_room.bytes, 1024))
             << each.codePage;
@@ -154,7 +154,7 @@ TEST_F(TextConversionTest, WideCharToCharNeedsRoomForTheTerminator)
 
 TEST_F(TextConversionTest, WideCharToCharCountsBytesNotCharacters)
 {
-    UseWorld(WorldInCodePage(932));
+    UseScenario(ScenarioInCodePage(932));
     EXPECT_EQ(5, manager().WideCharToChar(kTokyo, m_room.bytes, 5));
     ExpectFatal([&] { manager().WideCharToChar(kTokyo, m_room.bytes, 4); }, "too small");
 }

@@ -1,4 +1,4 @@
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 #include "unit/wrappers/fake_platform.h"
 #include "wrappers/call_log.h"
 #include "wrappers/intercepted_platform.h"

@@ -11,9 +11,9 @@
 namespace calvix::test
 {
 
-/// The worlds that the tests of the library play in.
+/// The scenarios that the tests of the library play in.
 ///
-/// RichWorld: two adapters in one airspace.
+/// RichScenario: two adapters in one airspace.
 ///
 ///   adapter  PHYs                profiles in preference order                              connection
 ///   A        0 HT, 1 VHT, 2 HE   HomeNet, OfficeNet, HiddenNet, AdHocNet, GoneNet          HomeNet, its 2.4 GHz AP
@@ -47,28 +47,28 @@ inline constexpr simulation::MacAddress kAdHocNet = {0x02, 0x44, 0x00, 0x00, 0x2
 inline constexpr simulation::MacAddress kHomeNet5G = {0x02, 0x55, 0x00, 0x00, 0x50, 0x2C};
 inline constexpr simulation::MacAddress kCafeNet = {0x02, 0x66, 0x00, 0x00, 0x24, 0x01};
 
-simulation::Scenario RichWorld();
+simulation::Scenario RichScenario();
 
-/// RichWorld with a disconnected adapter A.
-simulation::Scenario DisconnectedWorld();
+/// RichScenario with a disconnected adapter A.
+simulation::Scenario DisconnectedScenario();
 
-/// The adapters of RichWorld, connected to nothing and hearing nothing.
-simulation::Scenario SilentWorld();
+/// The adapters of RichScenario, connected to nothing and hearing nothing.
+simulation::Scenario SilentScenario();
 
-/// RichWorld's airspace and no adapter.
-simulation::Scenario NoAdapterWorld();
+/// RichScenario's airspace and no adapter.
+simulation::Scenario NoAdapterScenario();
 
-/// RichWorld without any stored profile, hence without a connection.
-simulation::Scenario NoProfileWorld();
+/// RichScenario without any stored profile, hence without a connection.
+simulation::Scenario NoProfileScenario();
 
-/// RichWorld on a computer with this narrow code page.
-simulation::Scenario WorldInCodePage(std::uint32_t codePage);
+/// RichScenario on a computer with this narrow code page.
+simulation::Scenario ScenarioInCodePage(std::uint32_t codePage);
 
-/// The world with what the methods ask beside the radio: power, programs, processes, an answer of the first adapter's
+/// The scenario with what the methods ask beside the radio: power, programs, processes, an answer of the first adapter's
 /// driver. Listing the power schemes fails, or GetPowerScheme would never end.
-simulation::Scenario Furnished(simulation::Scenario world);
+simulation::Scenario Furnished(simulation::Scenario scenario);
 
-/// Building blocks for further worlds.
+/// Building blocks for further scenarios.
 simulation::AccessPoint MakeAccessPoint(const std::string& ssid,
                                         const simulation::MacAddress& bssid,
                                         std::uint32_t frequencyKhz,

@@ -9,8 +9,8 @@
 namespace calvix::fuzz::session
 {
 
-/// A small computer, its adapters being those of the tests' worlds.
-simulation::Scenario MakeWorld(Input& input);
+/// A small computer, its adapters being those of the tests' scenarios.
+simulation::Scenario MakeScenario(Input& input);
 
 /// A name that networks and profiles share.
 std::string NetworkName(Input& input);

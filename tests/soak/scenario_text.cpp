@@ -1,4 +1,4 @@
-#include "soak/world_text.h"
+#include "soak/scenario_text.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -73,9 +73,9 @@ constexpr const char* kSystem =
 
 } // namespace
 
-std::string WorldText(unsigned days)
+std::string ScenarioText(unsigned days)
 {
-    return "{\"description\":\"A world to live in for a long time.\"," + std::string(kSystem) + "\"adapters\":[" +
+    return "{\"description\":\"A scenario to live in for a long time.\"," + std::string(kSystem) + "\"adapters\":[" +
            Adapter("A", Profiles()) + "," + Adapter("B", "") + "],\"accessPoints\":[" + AccessPoints(days) + "]}";
 }
 

@@ -1,4 +1,4 @@
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include "methods/method.h"
 
@@ -116,74 +116,74 @@ AdapterDescription MakeAdapterB()
     return adapter;
 }
 
-Scenario MakeRichWorld()
+Scenario MakeRichScenario()
 {
-    Scenario world;
-    world.description = "two adapters, every kind of network";
-    world.adapters = {MakeAdapterA(), MakeAdapterB()};
-    world.accessPoints = RichAirspace();
-    return world;
+    Scenario scenario;
+    scenario.description = "two adapters, every kind of network";
+    scenario.adapters = {MakeAdapterA(), MakeAdapterB()};
+    scenario.accessPoints = RichAirspace();
+    return scenario;
 }
 
 } // namespace
 
-Scenario RichWorld()
+Scenario RichScenario()
 {
-    static const Scenario world = MakeRichWorld(); // the sweeps want it thousands of times
-    return world;
+    static const Scenario scenario = MakeRichScenario(); // the sweeps want it thousands of times
+    return scenario;
 }
 
-Scenario DisconnectedWorld()
+Scenario DisconnectedScenario()
 {
-    Scenario world = RichWorld();
-    world.adapters[0].connection.reset();
-    return world;
+    Scenario scenario = RichScenario();
+    scenario.adapters[0].connection.reset();
+    return scenario;
 }
 
-Scenario SilentWorld()
+Scenario SilentScenario()
 {
-    Scenario world = DisconnectedWorld();
-    world.accessPoints.clear();
-    return world;
+    Scenario scenario = DisconnectedScenario();
+    scenario.accessPoints.clear();
+    return scenario;
 }
 
-Scenario NoAdapterWorld()
+Scenario NoAdapterScenario()
 {
-    Scenario world = RichWorld();
-    world.adapters.clear();
-    return world;
+    Scenario scenario = RichScenario();
+    scenario.adapters.clear();
+    return scenario;
 }
 
-Scenario NoProfileWorld()
+Scenario NoProfileScenario()
 {
-    Scenario world = DisconnectedWorld();
-    for (AdapterDescription& adapter : world.adapters)
+    Scenario scenario = DisconnectedScenario();
+    for (AdapterDescription& adapter : scenario.adapters)
         adapter.profiles.clear();
-    return world;
+    return scenario;
 }
 
-Scenario WorldInCodePage(std::uint32_t codePage)
+Scenario ScenarioInCodePage(std::uint32_t codePage)
 {
-    Scenario world = RichWorld();
-    world.codePage = codePage;
-    return world;
+    Scenario scenario = RichScenario();
+    scenario.codePage = codePage;
+    return scenario;
 }
 
-Scenario Furnished(Scenario world)
+Scenario Furnished(Scenario scenario)
 {
     constexpr std::uint32_t kNoMoreItems = 259;
-    world.power.enumerationError = kNoMoreItems;
-    world.power.lastSleepTime = 1'000;
-    world.power.lastWakeTime = 2'000;
-    world.power.modernStandby = true;
-    world.power.resumesAutomatically = true;
-    world.wow64 = true;
+    scenario.power.enumerationError = kNoMoreItems;
+    scenario.power.lastSleepTime = 1'000;
+    scenario.power.lastWakeTime = 2'000;
+    scenario.power.modernStandby = true;
+    scenario.power.resumesAutomatically = true;
+    scenario.wow64 = true;
     const std::string folder = methods::kFolder;
-    world.programPath = folder + "host.exe";
-    world.programs = {{.path = folder + methods::kProgram}};
-    world.processes = {{.id = methods::kProcess, .path = folder + "running.exe"}};
-    world.adapters[0].ihv[Bytes(16)] = {{1, 2, 3, 4}};
-    return world;
+    scenario.programPath = folder + "host.exe";
+    scenario.programs = {{.path = folder + methods::kProgram}};
+    scenario.processes = {{.id = methods::kProcess, .path = folder + "running.exe"}};
+    scenario.adapters[0].ihv[Bytes(16)] = {{1, 2, 3, 4}};
+    return scenario;
 }
 
 AccessPoint

@@ -1,6 +1,6 @@
-#include "sweep/worlds.h"
+#include "sweep/scenarios.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 namespace calvix::test::sweep
 {
@@ -10,39 +10,39 @@ namespace
 
 simulation::Scenario Connected()
 {
-    return Furnished(RichWorld());
+    return Furnished(RichScenario());
 }
 
 simulation::Scenario Disconnected()
 {
-    return Furnished(DisconnectedWorld());
+    return Furnished(DisconnectedScenario());
 }
 
 /// Where another access point of the network is better than the connected one.
 simulation::Scenario Wandering()
 {
     constexpr std::int32_t kAlmostGone = -88;
-    simulation::Scenario world = RichWorld();
-    world.accessPoints[0].rssi = kAlmostGone;
-    return Furnished(world);
+    simulation::Scenario scenario = RichScenario();
+    scenario.accessPoints[0].rssi = kAlmostGone;
+    return Furnished(scenario);
 }
 
 /// Where the WLAN service can be started.
 simulation::Scenario Stopped()
 {
-    simulation::Scenario world = Connected();
-    world.serviceRunning = false;
-    return world;
+    simulation::Scenario scenario = Connected();
+    scenario.serviceRunning = false;
+    return scenario;
 }
 
-constexpr World kWorlds[] = {
+constexpr NamedScenario kScenarios[] = {
     {"connected", Connected}, {"disconnected", Disconnected}, {"wandering", Wandering}, {"stopped", Stopped}};
 
 } // namespace
 
-std::span<const World> Worlds()
+std::span<const NamedScenario> Scenarios()
 {
-    return kWorlds;
+    return kScenarios;
 }
 
 } // namespace calvix::test::sweep

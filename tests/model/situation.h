@@ -15,7 +15,7 @@ namespace calvix::test
 {
 
 /// A made-up computer, how its service behaves while a method runs, and what the caller asks for.
-struct World
+struct Situation
 {
     std::uint64_t seed = 0;
     simulation::Scenario scenario; ///< adapter number 0 is first in the service's list
@@ -52,14 +52,14 @@ struct World
     }
 };
 
-World MakeWorld(std::uint64_t seed);
+Situation MakeSituation(std::uint64_t seed);
 
-/// The world as a scenario file, and the rest of it as text.
-std::string Describe(const World& world);
+/// The situation as a scenario file, and the rest of it as text.
+std::string Describe(const Situation& situation);
 
 /// GUID of the adapter with a number.
 const GUID& AdapterGuid(int number);
-/// Number of the adapter with a GUID, -1: none of the world's.
+/// Number of the adapter with a GUID, -1: none of the situation's.
 int AdapterNumber(const GUID& guid);
 
 /// Wide text for people: other than ASCII characters as numbers.

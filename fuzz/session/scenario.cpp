@@ -1,6 +1,6 @@
-#include "session/world.h"
+#include "session/scenario.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <set>
 
@@ -74,21 +74,21 @@ void AddProfiles(Input& input, AdapterDescription& adapter)
         adapter.connection = simulation::Connection{*taken.begin(), {}};
 }
 
-void SwitchThings(Input& input, Scenario& world)
+void SwitchThings(Input& input, Scenario& scenario)
 {
     constexpr std::uint32_t kCodePages[] = {1252, 932, 936, 65001};
-    world.codePage = input.OneOf(kCodePages);
+    scenario.codePage = input.OneOf(kCodePages);
     const std::uint8_t off = input.OneIn(3) ? input.Byte() : 0;
-    world.serviceRunning = (off & 1) == 0;
-    world.locationConsent = (off & 2) == 0;
-    world.administrator = (off & 4) == 0;
-    world.tokens = (off & 8) == 0;
-    world.wow64 = (off & 16) == 0;
+    scenario.serviceRunning = (off & 1) == 0;
+    scenario.locationConsent = (off & 2) == 0;
+    scenario.administrator = (off & 4) == 0;
+    scenario.tokens = (off & 8) == 0;
+    scenario.wow64 = (off & 16) == 0;
     if ((off & 32) != 0)
-        world.power.activeScheme.reset();
+        scenario.power.activeScheme.reset();
     if ((off & 64) != 0)
-        world.power.activeLegacyScheme.reset();
-    world.power.suspendAllowed = (off & 128) == 0;
+        scenario.power.activeLegacyScheme.reset();
+    scenario.power.suspendAllowed = (off & 128) == 0;
 }
 
 } // namespace
@@ -104,12 +104,12 @@ std::string ProfileDocument(Input& input)
     return test::MakeProfile(name, input.OneIn(4) ? "manual" : "auto").xml;
 }
 
-Scenario MakeWorld(Input& input)
+Scenario MakeScenario(Input& input)
 {
-    Scenario world = test::Furnished(test::SilentWorld());
-    SwitchThings(input, world);
-    world.adapters.resize(input.OneIn(16) ? 0 : 1 + input.Below(2));
-    for (AdapterDescription& adapter : world.adapters)
+    Scenario scenario = test::Furnished(test::SilentScenario());
+    SwitchThings(input, scenario);
+    scenario.adapters.resize(input.OneIn(16) ? 0 : 1 + input.Below(2));
+    for (AdapterDescription& adapter : scenario.adapters)
     {
         adapter.profiles.clear();
         AddProfiles(input, adapter);
@@ -118,8 +118,8 @@ Scenario MakeWorld(Input& input)
     }
     const std::size_t heard = input.Below(8);
     for (std::size_t number = 0; number < heard; ++number)
-        world.accessPoints.push_back(MakeHeard(input, static_cast<std::uint8_t>(number)));
-    return world;
+        scenario.accessPoints.push_back(MakeHeard(input, static_cast<std::uint8_t>(number)));
+    return scenario;
 }
 
 } // namespace calvix::fuzz::session

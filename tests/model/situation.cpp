@@ -1,6 +1,6 @@
-#include "model/world.h"
+#include "model/situation.h"
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <cstring>
 #include <sstream>
@@ -56,7 +56,7 @@ const Ssids kSsids = {"Net",
                       "Other",
                       std::string("Net\0X", 5),
                       "a network name of 32 bytes, full"};
-/// For worlds in which every network has many access points.
+/// For situations in which every network has many access points.
 const Ssids kFewSsids = {"Net", "NetA", "N"};
 const std::vector<std::string> kNames = {"Net", "NetA", "NetAB", "net", "N",  "Other", "P1", "P2",
                                          "P3",  "P4",   "P5",    "P6",  "P7", "P8",    "P9", "Caf\xC3\xA9"};
@@ -88,7 +88,7 @@ std::wstring WideName(const std::string& name)
 
 simulation::AccessPoint MakeHeard(Dice& dice, const Ssids& ssids, std::uint8_t number)
 {
-    // One after the other: compilers evaluate arguments in different orders, and each is to make the same worlds.
+    // One after the other: compilers evaluate arguments in different orders, and each is to make the same situations.
     const std::int32_t strength = dice.OneOf(kStrengths);
     const std::uint32_t frequency = dice.OneOf(kFrequencies);
     const std::string& ssid = dice.OneOf(ssids);
@@ -104,7 +104,7 @@ simulation::AccessPoint MakeHeard(Dice& dice, const Ssids& ssids, std::uint8_t n
     return point;
 }
 
-/// The text of a profile, which takes longer to write than to keep: the worlds have few hundred different ones.
+/// The text of a profile, which takes longer to write than to keep: the situations have few hundred different ones.
 const std::string& ProfileXml(const simulation::ProfileSettings& profile)
 {
     static std::map<std::tuple<std::string, simulation::Bytes, std::string, std::string, std::uint32_t>, std::string>
@@ -152,16 +152,16 @@ PartnerOf(Dice& dice, const simulation::ProfileSettings& profile, const std::vec
     return partners.empty() ? nullptr : dice.OneOf(partners);
 }
 
-void AddProfiles(Dice& dice, const Ssids& ssids, unsigned most, World& world)
+void AddProfiles(Dice& dice, const Ssids& ssids, unsigned most, Situation& situation)
 {
-    for (simulation::AdapterDescription& adapter : world.scenario.adapters)
+    for (simulation::AdapterDescription& adapter : situation.scenario.adapters)
     {
         const std::vector<simulation::ProfileSettings> profiles = MakeProfiles(dice, ssids, most);
         for (const simulation::ProfileSettings& profile : profiles)
             adapter.profiles.push_back({ProfileXml(profile)});
         for (const simulation::ProfileSettings& profile : profiles)
         {
-            const simulation::AccessPoint* const partner = PartnerOf(dice, profile, world.scenario.accessPoints);
+            const simulation::AccessPoint* const partner = PartnerOf(dice, profile, situation.scenario.accessPoints);
             if (partner == nullptr || adapter.connection || dice.OneIn(4))
                 continue;
             adapter.connection = simulation::Connection{profile.name, partner->bssid};
@@ -173,66 +173,66 @@ const simulation::Scenario& TwoAdapters()
 {
     static const simulation::Scenario scenario = []
     {
-        simulation::Scenario world = NoProfileWorld();
-        world.accessPoints.clear();
-        return world;
+        simulation::Scenario situation = NoProfileScenario();
+        situation.accessPoints.clear();
+        return situation;
     }();
     return scenario;
 }
 
-void AddTroubles(Dice& dice, const Ssids& ssids, World& world)
+void AddTroubles(Dice& dice, const Ssids& ssids, Situation& situation)
 {
-    world.clientIsOpen = !dice.OneIn(5);
-    world.convertsUtf8 = !dice.OneIn(4);
+    situation.clientIsOpen = !dice.OneIn(5);
+    situation.convertsUtf8 = !dice.OneIn(4);
     for (const std::string_view operation : {"WlanOpenHandle", "WlanEnumInterfaces", "WlanGetProfileList",
                                              "WlanGetAvailableNetworkList", "WlanQueryInterface"})
         if (dice.OneIn(60))
-            world.failures[operation] = 50 + dice.Below(1000);
+            situation.failures[operation] = 50 + dice.Below(1000);
     if (dice.OneIn(8))
-        world.failures["WlanSetProfilePosition"] = 50 + dice.Below(1000);
+        situation.failures["WlanSetProfilePosition"] = 50 + dice.Below(1000);
     if (dice.OneIn(4))
-        world.failingSsids.insert(dice.OneOf(ssids));
+        situation.failingSsids.insert(dice.OneOf(ssids));
     if (dice.OneIn(4))
-        world.silentSsids.insert(dice.OneOf(ssids));
+        situation.silentSsids.insert(dice.OneOf(ssids));
     if (dice.OneIn(8))
-        world.unreadableProfiles.insert(WideName(dice.OneOf(kNames)));
+        situation.unreadableProfiles.insert(WideName(dice.OneOf(kNames)));
     if (dice.OneIn(10))
-        world.untaggedProfiles.insert(WideName(dice.OneOf(kNames)));
-    world.refusals = dice.OneIn(3) ? dice.Below(10) : 0;
+        situation.untaggedProfiles.insert(WideName(dice.OneOf(kNames)));
+    situation.refusals = dice.OneIn(3) ? dice.Below(10) : 0;
 }
 
-void AddQuestions(Dice& dice, const Ssids& ssids, World& world)
+void AddQuestions(Dice& dice, const Ssids& ssids, Situation& situation)
 {
     for (unsigned i = dice.Below(3); i > 0; --i)
-        world.excludedSsids.push_back(dice.OneOf(ssids));
-    world.name = WideName(dice.OneOf(kNames));
-    world.mode = static_cast<int>(dice.Below(4)) - 1;
-    world.rememberedProfile = WideName(dice.OneOf(kNames));
-    world.rememberedSsid = dice.OneOf(ssids);
-    world.rememberedBssType = dice.OneIn(20) ? 2 : 1;
-    world.rememberedSecured = !dice.OneIn(10);
-    if (!world.scenario.adapters.empty() && dice.OneIn(8))
-        world.asked = static_cast<int>(dice.Below(world.scenario.adapters.size()));
+        situation.excludedSsids.push_back(dice.OneOf(ssids));
+    situation.name = WideName(dice.OneOf(kNames));
+    situation.mode = static_cast<int>(dice.Below(4)) - 1;
+    situation.rememberedProfile = WideName(dice.OneOf(kNames));
+    situation.rememberedSsid = dice.OneOf(ssids);
+    situation.rememberedBssType = dice.OneIn(20) ? 2 : 1;
+    situation.rememberedSecured = !dice.OneIn(10);
+    if (!situation.scenario.adapters.empty() && dice.OneIn(8))
+        situation.asked = static_cast<int>(dice.Below(situation.scenario.adapters.size()));
 }
 
 } // namespace
 
-World MakeWorld(std::uint64_t seed)
+Situation MakeSituation(std::uint64_t seed)
 {
     Dice dice(seed);
-    World world;
-    world.seed = seed;
-    world.scenario = TwoAdapters();
-    world.scenario.adapters.resize(dice.OneIn(40) ? 0 : (dice.OneIn(8) ? 2 : 1));
+    Situation situation;
+    situation.seed = seed;
+    situation.scenario = TwoAdapters();
+    situation.scenario.adapters.resize(dice.OneIn(40) ? 0 : (dice.OneIn(8) ? 2 : 1));
     const bool isLarge = dice.OneIn(5);
     const Ssids& ssids = dice.OneIn(3) ? kFewSsids : kSsids;
     const unsigned count = dice.OneIn(30) ? 0 : 1 + dice.Below(isLarge ? 16 : 8);
     for (unsigned i = 0; i < count; ++i)
-        world.scenario.accessPoints.push_back(MakeHeard(dice, ssids, static_cast<std::uint8_t>(i + 1)));
-    AddProfiles(dice, ssids, isLarge ? 16 : 5, world);
-    AddTroubles(dice, ssids, world);
-    AddQuestions(dice, ssids, world);
-    return world;
+        situation.scenario.accessPoints.push_back(MakeHeard(dice, ssids, static_cast<std::uint8_t>(i + 1)));
+    AddProfiles(dice, ssids, isLarge ? 16 : 5, situation);
+    AddTroubles(dice, ssids, situation);
+    AddQuestions(dice, ssids, situation);
+    return situation;
 }
 
 const GUID& AdapterGuid(int number)
@@ -265,28 +265,28 @@ std::string Readable(std::string_view bytes)
     return Readable(text);
 }
 
-std::string Describe(const World& world)
+std::string Describe(const Situation& situation)
 {
     std::ostringstream text;
-    text << "seed " << world.seed << "\nadapter asked " << world.asked << ", client "
-         << (world.clientIsOpen ? "open" : "closed") << ", flags with UTF-8 "
-         << (world.convertsUtf8 ? "taken" : "refused") << ", requests refused " << world.refusals << '\n';
-    for (const auto& [operation, error] : world.failures)
+    text << "seed " << situation.seed << "\nadapter asked " << situation.asked << ", client "
+         << (situation.clientIsOpen ? "open" : "closed") << ", flags with UTF-8 "
+         << (situation.convertsUtf8 ? "taken" : "refused") << ", requests refused " << situation.refusals << '\n';
+    for (const auto& [operation, error] : situation.failures)
         text << "fails: " << operation << " with " << error << '\n';
-    for (const std::string& ssid : world.failingSsids)
+    for (const std::string& ssid : situation.failingSsids)
         text << "BSS list fails: " << Readable(ssid) << '\n';
-    for (const std::string& ssid : world.silentSsids)
+    for (const std::string& ssid : situation.silentSsids)
         text << "BSS list empty: " << Readable(ssid) << '\n';
-    for (const std::wstring& name : world.unreadableProfiles)
+    for (const std::wstring& name : situation.unreadableProfiles)
         text << "profile not readable: " << Readable(name) << '\n';
-    for (const std::wstring& name : world.untaggedProfiles)
+    for (const std::wstring& name : situation.untaggedProfiles)
         text << "named by no network: " << Readable(name) << '\n';
-    for (const std::string& ssid : world.excludedSsids)
+    for (const std::string& ssid : situation.excludedSsids)
         text << "excluded: " << Readable(ssid) << '\n';
-    text << "name " << Readable(world.name) << ", mode " << world.mode << "\nremembered: profile "
-         << Readable(world.rememberedProfile) << ", SSID " << Readable(world.rememberedSsid) << ", BSS type "
-         << world.rememberedBssType << (world.rememberedSecured ? ", secured" : ", open") << '\n';
-    return text.str() + simulation::WriteScenario(world.scenario) + '\n';
+    text << "name " << Readable(situation.name) << ", mode " << situation.mode << "\nremembered: profile "
+         << Readable(situation.rememberedProfile) << ", SSID " << Readable(situation.rememberedSsid) << ", BSS type "
+         << situation.rememberedBssType << (situation.rememberedSecured ? ", secured" : ", open") << '\n';
+    return text.str() + simulation::WriteScenario(situation.scenario) + '\n';
 }
 
 } // namespace calvix::test

@@ -8,13 +8,13 @@ namespace calvix::test::sweep
 {
 
 /// A computer on which every method finds something to do.
-struct World
+struct NamedScenario
 {
     const char* name;
     simulation::Scenario (*make)();
 };
 
 /// Between them they take every method through all the platform calls that no failure brings about.
-std::span<const World> Worlds();
+std::span<const NamedScenario> Scenarios();
 
 } // namespace calvix::test::sweep

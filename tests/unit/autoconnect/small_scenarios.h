@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/test_worlds.h"
+#include "support/test_scenarios.h"
 
 #include <string>
 #include <vector>
@@ -8,7 +8,7 @@
 namespace calvix::test
 {
 
-/// An access point of a network; WorldOf gives it its address.
+/// An access point of a network; ScenarioOf gives it its address.
 inline simulation::AccessPoint Heard(const std::string& ssid, std::uint32_t frequencyKhz, std::int32_t rssi)
 {
     return MakeAccessPoint(ssid, {}, frequencyKhz, rssi);
@@ -32,17 +32,17 @@ inline simulation::StoredProfile Profile(const std::string& name, const std::str
 }
 
 /// A computer with adapter A alone, not connected. Its lists keep the order given here.
-inline simulation::Scenario WorldOf(std::vector<simulation::StoredProfile> profiles,
-                                    std::vector<simulation::AccessPoint> heard)
+inline simulation::Scenario ScenarioOf(std::vector<simulation::StoredProfile> profiles,
+                                       std::vector<simulation::AccessPoint> heard)
 {
-    simulation::Scenario world = DisconnectedWorld();
-    world.adapters.resize(1);
-    world.adapters[0].profiles = std::move(profiles);
-    world.accessPoints = std::move(heard);
+    simulation::Scenario scenario = DisconnectedScenario();
+    scenario.adapters.resize(1);
+    scenario.adapters[0].profiles = std::move(profiles);
+    scenario.accessPoints = std::move(heard);
     std::uint8_t number = 0;
-    for (simulation::AccessPoint& point : world.accessPoints)
+    for (simulation::AccessPoint& point : scenario.accessPoints)
         point.bssid = {0x02, 0, 0, 0, 0, ++number};
-    return world;
+    return scenario;
 }
 
 /// An entry as a caller hands it in to rule its network out.
