@@ -163,12 +163,17 @@ TEST_F(SmartSwitchTest, AFailedConversionIsTracedWithAnyLastError)
     EXPECT_EQ(0u, callCount("WlanGetProfileList"));
 }
 
+// An SSID that states more than 256 bytes is read as an empty one.
 TEST_F(SmartSwitchTest, NoMoreThanTheSsidIsRead)
 {
-    DOT11_SSID tooLong = MakeSsid(std::string(32, 's'));
-    tooLong.uSSIDLength = 200;
-    EXPECT_EQ(0, SwitchFrom(tooLong, 75));
-    EXPECT_EQ('"' + std::string(32, 's') + '"', call("MultiByteToWideChar")["source"]);
+    for (const auto& [stated, read] : {std::pair(200u, 32u), std::pair(256u, 32u), std::pair(257u, 0u)})
+    {
+        ClearCalls();
+        DOT11_SSID tooLong = MakeSsid(std::string(32, 's'));
+        tooLong.uSSIDLength = stated;
+        EXPECT_EQ(0, SwitchFrom(tooLong, 75));
+        EXPECT_EQ('"' + std::string(read, 's') + '"', call("MultiByteToWideChar")["source"]) << stated;
+    }
 }
 
 } // namespace calvix::test::auto_switch_test
