@@ -77,6 +77,13 @@ TEST_F(ProfileTextTest, ANegativeSizeGivesTheEmptyText)
 
 // --- GetProfile into narrow characters --------------------------------------------------------------------------
 
+TEST_F(ProfileTextTest, NoTextIsTakenWithNoRoomOnly)
+{
+    wchar_t* const none = nullptr;
+    EXPECT_EQ(0, manager().GetProfile(&kAdapterA, L"HomeNet", none, 0));
+    EXPECT_EQ(-13, manager().GetProfile(&kAdapterA, L"HomeNet", none, 1));
+}
+
 TEST_F(ProfileTextTest, NarrowTextIsTheWholeText)
 {
     const std::string xml = Xml();
