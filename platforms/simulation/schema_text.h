@@ -10,7 +10,7 @@ namespace calvix::simulation
 /// The text of a schema, in which a field takes one line.
 inline std::string SchemaText(const nlohmann::ordered_json& value, const std::string& indent = "")
 {
-    const std::string line = value.dump();
+    std::string line = value.dump();
     if (!value.is_structured() || line.find('{', 1) == std::string::npos)
         return line;
     std::string text;

@@ -246,7 +246,7 @@ std::optional<ReplayTrouble> Replay::Trouble() const
 
 std::optional<ReplayTrouble> Replay::Finish()
 {
-    if (const auto trouble = Trouble())
+    if (auto trouble = Trouble())
         return trouble;
     if (const RecordedLine* const next = m_parts->Next())
         m_parts->EndWithDifference("it ends", next);
