@@ -73,8 +73,9 @@ void Measure(benchmark::State& state, std::size_t size, Call call)
 }
 
 template <typename Call>
-void RegisterSide(const std::string& name, std::size_t size, int repetitions, Call call)
+void RegisterSide(const char* method, std::size_t size, const char* side, int repetitions, Call call)
 {
+    const std::string name = std::string("growth/") + method + "/" + std::to_string(size) + "/" + side;
     benchmark::RegisterBenchmark(name.c_str(), [call, size](benchmark::State& state) { Measure(state, size, call); })
         ->MinTime(0.02)
         ->Repetitions(repetitions);
@@ -85,10 +86,9 @@ void Register(const char* method, Call call)
 {
     for (const std::size_t size : {std::size_t{10}, std::size_t{100}, std::size_t{1000}, std::size_t{10000}})
     {
-        const std::string name = std::string("growth/") + method + "/" + std::to_string(size);
         const bool isQuick = size < 10000;
-        RegisterSide(name + "/library", size, isQuick ? 9 : 5, [call](Scene& scene) { return call(scene.library); });
-        RegisterSide(name + "/loops", size, isQuick ? 9 : 3, [call](Scene& scene) { return call(scene.loops); });
+        RegisterSide(method, size, "library", isQuick ? 9 : 5, [call](Scene& scene) { return call(scene.library); });
+        RegisterSide(method, size, "loops", isQuick ? 9 : 3, [call](Scene& scene) { return call(scene.loops); });
     }
 }
 
