@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace calvix::host
 {
@@ -239,7 +240,7 @@ std::uint32_t RateKbps(const CaptureField* field)
         std::replace(text.begin(), text.end(), ',', '.');
         std::from_chars(text.data(), text.data() + text.size(), rate);
     }
-    return rate > 0 && rate < 1e6 ? static_cast<std::uint32_t>(rate * 1000 + 0.5) : 0;
+    return rate > 0 && rate < 1e6 ? static_cast<std::uint32_t>(std::lround(rate * 1000)) : 0;
 }
 
 std::optional<std::uint32_t> CapturedFrequency(std::string_view band, int channel)
